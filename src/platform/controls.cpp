@@ -1,0 +1,47 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace sonarelle {
+
+OptionButton::OptionButton(Window& parent, OptionGroup& group, std::string name, std::string text)
+    : Control{parent, ControlKind::option_button, std::move(name)}, caption{*this, std::move(text)}, group_{group} {
+    group_.options_.push_back(this);
+}
+
+OptionButton::~OptionButton() {
+    std::erase(group_.options_, this);
+}
+
+void OptionButton::show_value(bool chosen) {
+    if (chosen)
+        for (OptionButton* other : group_.options_)
+            if (other != this)
+                other->value_ = false;
+    value_ = chosen;
+}
+
+void OptionButton::set_value(bool chosen) {
+    const bool before = value_;
+    show_value(chosen);
+    if (chosen && !before)
+        raise(on_click);
+}
+
+int ProgressBar::percent() const {
+    const std::int64_t span = std::int64_t{maximum} - minimum;
+    if (value >= maximum)
+        return 100;
+    return static_cast<int>(std::max<std::int64_t>(0, (std::int64_t{value} - minimum) * 100 / span));
+}
+
+void ComboBox::choose(int index) {
+    if (index < 0 || index >= static_cast<int>(items.get().size()))
+        return;
+    selected = index;
+    text_ = items.get()[static_cast<std::size_t>(index)];
+    raise_by_hand(on_click);
+}
+
+} // namespace sonarelle

@@ -1,0 +1,245 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/window.h"
+
+namespace sonarelle {
+
+/// The parts of a window. Events are calls: `click()` is what the operator does, and does nothing on a control that he
+/// can't reach. Giving another value to a slider, check box, option or text raises its event at once, also from code;
+/// an equal value raises nothing, and the `show_…` writes change what is seen and raise nothing.
+
+class Label : public Control {
+public:
+    Label(Window& parent, std::string name, std::string text = {})
+        : Control{parent, ControlKind::label, std::move(name)}, caption{*this, std::move(text)} {}
+
+    void click() { raise_by_hand(on_click); }
+
+    Property<std::string> caption;
+    std::function<void()> on_click;
+};
+
+class Button : public Control {
+public:
+    Button(Window& parent, std::string name, std::string text = {})
+        : Control{parent, ControlKind::button, std::move(name)}, caption{*this, std::move(text)} {}
+
+    void click() { raise_by_hand(on_click); }
+
+    Property<std::string> caption;
+    Property<std::string> picture{*this, {}};
+    std::function<void()> on_click;
+};
+
+/// A picture, by its file's name. It can be pressed.
+class Image : public Control {
+public:
+    Image(Window& parent, std::string name, std::string file = {})
+        : Control{parent, ControlKind::image, std::move(name)}, picture{*this, std::move(file)} {}
+
+    void click() { raise_by_hand(on_click); }
+
+    Property<std::string> picture;
+    std::function<void()> on_click;
+};
+
+class Frame : public Control {
+public:
+    Frame(Window& parent, std::string name, std::string text = {})
+        : Control{parent, ControlKind::frame, std::move(name)}, caption{*this, std::move(text)} {}
+
+    Property<std::string> caption;
+};
+
+class TextBox : public Control {
+public:
+    TextBox(Window& parent, std::string name, std::string initial = {})
+        : Control{parent, ControlKind::text_box, std::move(name)}, text_{*this, std::move(initial)} {}
+
+    [[nodiscard]] const std::string& text() const { return text_; }
+    void set_text(std::string text) {
+        if (text == text_.get())
+            return;
+        text_ = std::move(text);
+        raise(on_change);
+    }
+
+    std::function<void()> on_change;
+
+private:
+    Property<std::string> text_;
+};
+
+/// 0 is clear, 1 is ticked.
+class CheckBox : public Control {
+public:
+    CheckBox(Window& parent, std::string name, std::string text = {})
+        : Control{parent, ControlKind::check_box, std::move(name)}, caption{*this, std::move(text)} {}
+
+    [[nodiscard]] int value() const { return value_; }
+    void set_value(int value) {
+        if (value == value_)
+            return;
+        value_ = value;
+        raise(on_click);
+    }
+    void click() {
+        if (is_reachable())
+            set_value(value_ == 0 ? 1 : 0);
+    }
+
+    Property<std::string> caption;
+    std::function<void()> on_click;
+
+private:
+    Property<int> value_{*this, 0};
+};
+
+class OptionButton;
+
+/// Options of which one at most is chosen.
+class OptionGroup {
+private:
+    friend class OptionButton;
+    std::vector<OptionButton*> options_;
+};
+
+class OptionButton : public Control {
+public:
+    OptionButton(Window& parent, OptionGroup& group, std::string name, std::string text = {});
+    ~OptionButton() override;
+    OptionButton(const OptionButton&) = delete;
+    OptionButton& operator=(const OptionButton&) = delete;
+
+    [[nodiscard]] bool value() const { return value_; }
+    /// Choosing it clears the others of its group, and raises its click; clearing raises nothing.
+    void set_value(bool chosen);
+    /// Chooses it for the eye alone.
+    void show_value(bool chosen);
+    void click() {
+        if (is_reachable())
+            set_value(true);
+    }
+
+    Property<std::string> caption;
+    std::function<void()> on_click;
+
+private:
+    OptionGroup& group_;
+    Property<bool> value_{*this, false};
+};
+
+class Slider : public Control {
+public:
+    Slider(Window& parent, std::string name, int least, int greatest)
+        : Control{parent, ControlKind::slider, std::move(name)}, minimum{*this, least}, maximum{*this, greatest} {}
+
+    [[nodiscard]] int value() const { return value_; }
+    /// A value outside the range is refused.
+    void set_value(int value) {
+        if (show_value(value))
+            raise(on_change);
+    }
+    /// Moves it for the eye alone; true when it moved.
+    bool show_value(int value) {
+        if (value == value_ || value < minimum || value > maximum)
+            return false;
+        value_ = value;
+        return true;
+    }
+
+    Property<int> minimum;
+    Property<int> maximum;
+    std::function<void()> on_change;
+
+private:
+    Property<int> value_{*this, 0};
+};
+
+class ProgressBar : public Control {
+public:
+    ProgressBar(Window& parent, std::string name) : Control{parent, ControlKind::progress_bar, std::move(name)} {}
+
+    /// 0 to 100; exactly 100 once the value has reached the maximum.
+    [[nodiscard]] int percent() const;
+
+    Property<int> minimum{*this, 0};
+    Property<int> maximum{*this, 100};
+    Property<int> value{*this, 0};
+    Property<std::string> caption{*this, {}};
+};
+
+/// A text that can be typed, and entries that can be chosen. Typing raises the change, choosing raises the click.
+class ComboBox : public Control {
+public:
+    ComboBox(Window& parent, std::string name, std::string initial = {})
+        : Control{parent, ControlKind::combo_box, std::move(name)}, text_{*this, std::move(initial)} {}
+
+    [[nodiscard]] const std::string& text() const { return text_; }
+    void set_text(std::string text) {
+        if (text == text_.get())
+            return;
+        text_ = std::move(text);
+        raise(on_change);
+    }
+    /// Chooses an entry, counted from 0.
+    void choose(int index);
+
+    Property<std::vector<std::string>> items{*this, {}};
+    Property<int> selected{*this, -1};
+    std::function<void()> on_change;
+    std::function<void()> on_click;
+
+private:
+    Property<std::string> text_;
+};
+
+class ListBox : public Control {
+public:
+    ListBox(Window& parent, std::string name) : Control{parent, ControlKind::list_box, std::move(name)} {}
+
+    void choose(int index) {
+        selected = index;
+        raise_by_hand(on_click);
+    }
+
+    Property<std::vector<std::string>> items{*this, {}};
+    Property<int> selected{*this, -1};
+    std::function<void()> on_click;
+};
+
+/// An entry of a menu, or a menu of entries.
+class MenuItem : public Control {
+public:
+    MenuItem(Window& parent, std::string name, std::string text = {}, std::string keys = {})
+        : Control{parent, ControlKind::menu_item, std::move(name)}, caption{*this, std::move(text)},
+          shortcut{*this, std::move(keys)} {}
+
+    void click() { raise_by_hand(on_click); }
+    /// The menu is about to show its entries.
+    void open() { raise(on_open); }
+
+    Property<std::string> caption;
+    Property<std::string> shortcut; ///< As "F5" or "Ctrl+Y".
+    Property<bool> checked{*this, false};
+    std::function<void()> on_click;
+    std::function<void()> on_open;
+};
+
+/// Text of several fonts and colours.
+class RichText : public Control {
+public:
+    RichText(Window& parent, std::string name) : Control{parent, ControlKind::rich_text, std::move(name)} {}
+
+    Property<std::string> text{*this, {}};
+    Property<int> selection_start{*this, 0};
+    Property<int> selection_length{*this, 0};
+    std::function<void()> on_change;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,80 @@
+#include "platform/row_table.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/failure.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+std::size_t RowTable::index_of(int number) const {
+    if (number < 1 || number > count())
+        throw Failure{failure_number::not_in_selection, name() + " " + std::to_string(number)};
+    return static_cast<std::size_t>(number) - 1;
+}
+
+void RowTable::clear() {
+    rows_.clear();
+    selected_ = 0;
+    if (row_observer_ != nullptr)
+        row_observer_->rows_reset();
+}
+
+void RowTable::insert(int number, Row row) {
+    if (number != count() + 1)
+        (void)index_of(number);
+    rows_.insert(rows_.begin() + (number - 1), std::move(row));
+    if (selected_ >= number)
+        ++selected_;
+    if (row_observer_ != nullptr)
+        row_observer_->row_inserted(number);
+}
+
+// The selection stays on the row that it was on; when that one goes, on the one that takes its place.
+void RowTable::remove(int number) {
+    rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(index_of(number)));
+    if (selected_ > number || selected_ > count())
+        --selected_;
+    if (row_observer_ != nullptr)
+        row_observer_->row_removed(number);
+}
+
+void RowTable::set_sub_item(int number, std::size_t column, std::string text) {
+    std::string& cell = rows_[index_of(number)][column];
+    if (cell == text)
+        return;
+    cell = std::move(text);
+    if (row_observer_ != nullptr)
+        row_observer_->row_changed(number);
+}
+
+void RowTable::sort_by(std::size_t column) {
+    std::vector<std::pair<std::string, std::size_t>> keys;
+    keys.reserve(rows_.size());
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        keys.emplace_back(lower_case(rows_[i][column]), i);
+    std::ranges::sort(keys);
+    std::vector<Row> sorted;
+    sorted.reserve(rows_.size());
+    for (const auto& [key, index] : keys)
+        sorted.push_back(std::move(rows_[index]));
+    rows_ = std::move(sorted);
+    if (row_observer_ != nullptr)
+        row_observer_->rows_reset();
+}
+
+void RowTable::select(int number) {
+    (void)index_of(number);
+    selected_ = number;
+    if (row_observer_ != nullptr)
+        row_observer_->row_selected(number);
+}
+
+void RowTable::ensure_visible(int number) {
+    (void)index_of(number);
+    if (row_observer_ != nullptr)
+        row_observer_->row_shown(number);
+}
+
+} // namespace sonarelle

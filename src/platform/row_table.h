@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/units.h"
+
+namespace sonarelle {
+
+struct Column {
+    std::string caption;
+    Twips width;
+};
+
+/// Who shows a table's rows. Row numbers count from 1.
+class RowTableObserver {
+public:
+    virtual ~RowTableObserver() = default;
+    virtual void rows_reset() = 0;
+    virtual void row_inserted(int row) = 0;
+    virtual void row_removed(int row) = 0;
+    virtual void row_changed(int row) = 0;
+    virtual void row_selected(int row) = 0;
+    virtual void row_shown(int row) = 0;
+};
+
+/// Rows of a text (column 0) and sub-items, numbered from 1: the one model of the list that they hold. Any number of
+/// rows; showing them costs nothing until an observer is there.
+/// @throws Failure 9 for a row that doesn't exist.
+class RowTable : public Control {
+public:
+    static constexpr std::size_t column_count = 6;
+    using Row = std::array<std::string, column_count>;
+
+    RowTable(Window& parent, std::string name, std::vector<Column> columns)
+        : Control{parent, ControlKind::row_table, std::move(name)}, columns_{std::move(columns)} {}
+
+    [[nodiscard]] const std::vector<Column>& columns() const { return columns_; }
+    void observe_rows(RowTableObserver* observer) { row_observer_ = observer; }
+
+    [[nodiscard]] int count() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] const Row& row(int number) const { return rows_[index_of(number)]; }
+    [[nodiscard]] const std::string& text(int number) const { return row(number)[0]; }
+    [[nodiscard]] const std::string& sub_item(int number, std::size_t column) const { return row(number)[column]; }
+
+    void clear();
+    /// Rows behind `number` move down; `count() + 1` adds at the end.
+    void insert(int number, Row row);
+    void append(Row row) { insert(count() + 1, std::move(row)); }
+    void remove(int number);
+    void set_text(int number, std::string text) { set_sub_item(number, 0, std::move(text)); }
+    void set_sub_item(int number, std::size_t column, std::string text);
+    /// Sorts by the texts of a column, ignoring case; equal ones keep their order.
+    void sort_by(std::size_t column);
+
+    /// The selected row, 0 for none.
+    [[nodiscard]] int selected() const { return selected_; }
+    void select(int number);
+    /// Scrolls a row into view.
+    void ensure_visible(int number);
+
+private:
+    [[nodiscard]] std::size_t index_of(int number) const;
+
+    std::vector<Column> columns_;
+    std::vector<Row> rows_;
+    int selected_ = 0;
+    RowTableObserver* row_observer_ = nullptr;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/units.h"
+
+namespace sonarelle {
+
+class MenuItem;
+
+enum class WindowState { normal, minimised, maximised };
+
+/// A window of the station: a struct of controls derives from it. Places and sizes are in twips.
+class Window : public Control {
+public:
+    explicit Window(std::string name) : Control{ControlKind::window, std::move(name)} { visible = false; }
+
+    /// All parts, in the order in which they were made.
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+
+    void show() { visible = true; }
+    void hide() { visible = false; }
+
+    /// The operator typed a character, or asked to close the window.
+    void key_press(char32_t character) {
+        if (key_preview && on_key_press)
+            on_key_press(character);
+    }
+    void ask_to_close() { raise(on_unload_request); }
+    /// Shows a menu at the pointer.
+    void popup(MenuItem& menu) {
+        if (on_popup)
+            on_popup(menu);
+    }
+
+    Property<std::string> caption{*this, {}};
+    Property<std::string> picture{*this, {}};
+    Property<Twips> left{*this, Twips{}};
+    Property<Twips> top{*this, Twips{}};
+    Property<Twips> width{*this, Twips{}};
+    Property<Twips> height{*this, Twips{}};
+    Property<bool> topmost{*this, false};
+    Property<WindowState> state{*this, WindowState::normal};
+    Property<int> mouse_pointer{*this, 0}; ///< 0 is the plain pointer, 11 and 13 show busy.
+    Property<bool> key_preview{*this, true};
+
+    std::function<void(char32_t)> on_key_press;
+    std::function<void()> on_unload_request;
+    std::function<void(MenuItem&)> on_popup;
+
+private:
+    friend class Control;
+
+    std::vector<Control*> controls_;
+};
+
+} // namespace sonarelle

@@ -6,6 +6,8 @@
 
 namespace sonarelle {
 
+class Window;
+
 enum class Buttons { ok, ok_cancel, yes_no, yes_no_cancel };
 enum class Icon { none, stop, question, warning, information };
 enum class Answer { ok, cancel, yes, no };
@@ -53,7 +55,7 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    [[nodiscard]] virtual Answer MsgBox(const MessageBox& box) = 0;
+    virtual Answer MsgBox(const MessageBox& box) = 0;
     /// The text that was entered; empty after a cancel.
     [[nodiscard]] virtual std::string InputBox(const InputBox& box) = 0;
     /// A name that Windows-1252 can't hold, or that no drive reaches, is refused to the operator inside the dialog.
@@ -62,6 +64,9 @@ public:
     /// Colours are red + 256 green + 65536 blue. Nothing after a cancel.
     [[nodiscard]] virtual std::optional<std::int32_t> choose_colour(std::int32_t preset) = 0;
     [[nodiscard]] virtual std::optional<Font> choose_font(const Font& preset) = 0;
+
+    /// Shows a window above all others and returns when it is hidden again.
+    virtual void show_modal(Window& window) = 0;
 };
 
 } // namespace sonarelle

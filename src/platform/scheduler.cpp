@@ -66,6 +66,10 @@ void Scheduler::run_event(Frames stamp, const std::function<void()>& event) {
     event();
 }
 
+bool Scheduler::in_tick() const {
+    return std::ranges::any_of(timers_, [](const Timer* timer) { return timer->ticking_; });
+}
+
 void Scheduler::advance_to(Frames frame) {
     now_ = std::max(now_, frame);
 }

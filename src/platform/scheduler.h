@@ -33,6 +33,9 @@ public:
     /// Runs what the operator did at `stamp` (never below the last tick run), after the ticks due by then.
     void run_event(Frames stamp, const std::function<void()>& event);
 
+    /// Whether a tick is under way, which must not wait for the operator.
+    [[nodiscard]] bool in_tick() const;
+
     /// Moves now forward within a tick or event. An earlier frame does nothing.
     void advance_to(Frames frame);
 

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace sonarelle {
+
+/// What was tried when the machine refused; a missing right is another failure for a reader than for a writer.
+enum class Access { reading, writing };
+
+/// The station's failure number of an errno.
+[[nodiscard]] int failure_of_errno(int error, Access access);
+
+/// Throws the Failure of the present errno.
+[[noreturn]] void throw_errno(Access access, const std::string& source);
+
+} // namespace sonarelle

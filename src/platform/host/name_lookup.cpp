@@ -1,0 +1,164 @@
+#include "platform/host/name_lookup.h"
+
+#include <dirent.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <ctime>
+#include <memory>
+
+#include "platform/failure.h"
+#include "platform/host/host_errors.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::size_t most_names_kept = 200'000;
+// File times go in steps of a few ms: a folder that changed only just now may change again within the same step.
+constexpr std::int64_t settled_after = 50'000'000; // ns
+
+struct DirectoryClose {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+
+std::int64_t nanoseconds(const struct timespec& time) {
+    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+bool is_settled(const struct stat& folder) {
+    struct timespec now {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    const std::int64_t last_change = std::max(nanoseconds(folder.st_mtim), nanoseconds(folder.st_ctim));
+    return nanoseconds(now) - last_change > settled_after;
+}
+
+bool is_unchanged(const struct stat& a, const struct stat& b) {
+    return a.st_ino == b.st_ino && a.st_dev == b.st_dev && nanoseconds(a.st_mtim) == nanoseconds(b.st_mtim) &&
+           nanoseconds(a.st_ctim) == nanoseconds(b.st_ctim);
+}
+
+bool is_folder(const std::string& path) {
+    struct stat facts {};
+    return ::stat(path.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+}
+
+enum class Exact { yes, no };
+
+/// Whether a path is there under exactly this name.
+Exact look_for(const std::string& path, const StationPath& wanted) {
+    struct stat facts {};
+    if (::lstat(path.c_str(), &facts) == 0)
+        return Exact::yes;
+    if (errno != ENOENT && errno != ENOTDIR)
+        throw_errno(Access::reading, wanted.text());
+    return Exact::no;
+}
+
+std::string joined(const std::string& base, const StationPath& path) {
+    std::string result = base;
+    for (const std::string& name : path.names)
+        result.append("/").append(name);
+    return result.empty() ? "/" : result;
+}
+
+/// The first in byte order of the names that differ from `name` by case alone.
+std::optional<std::string> spelling_by_walk(const std::string& folder, const std::string& name) {
+    std::optional<std::string> best;
+    for_each_name(folder, [&](std::string_view found, unsigned char) {
+        if (equal_ignoring_case(found, name) && can_be_named(found) && (!best || found < *best))
+            best = found;
+        return true;
+    });
+    return best;
+}
+
+} // namespace
+
+bool for_each_name(const std::string& folder, const std::function<bool(std::string_view, unsigned char)>& use) {
+    const std::unique_ptr<DIR, DirectoryClose> directory{::opendir(folder.c_str())};
+    if (!directory)
+        return false;
+    errno = 0;
+    while (const dirent* entry = ::readdir(directory.get()))
+        if (!use(entry->d_name, entry->d_type))
+            return true;
+    return errno == 0;
+}
+
+NameLookup::Place NameLookup::find(const std::string& base, const StationPath& path) const {
+    Place place{joined(base, path), Outcome::present};
+    if (look_for(place.path, path) == Exact::yes)
+        return place;
+    if (!is_folder(base.empty() ? "/" : base))
+        throw Failure{failure_number::device_unavailable, path.text()};
+
+    place.path = base;
+    for (std::size_t i = 0; i < path.names.size(); ++i) {
+        const std::string& name = path.names[i];
+        std::string next = place.path + "/" + name;
+        if (place.outcome == Outcome::present && look_for(next, path) == Exact::no) {
+            if (const auto found = spelling(place.path.empty() ? "/" : place.path, name))
+                next = place.path + "/" + *found;
+            else
+                place.outcome = i + 1 < path.names.size() ? Outcome::folder_missing : Outcome::missing;
+        }
+        place.path = std::move(next);
+        if (place.outcome == Outcome::present && i + 1 < path.names.size() && !is_folder(place.path))
+            place.outcome = Outcome::folder_missing;
+    }
+    return place;
+}
+
+std::optional<std::string> NameLookup::spelling(const std::string& folder, const std::string& name) const {
+    struct stat facts {};
+    if (::stat(folder.c_str(), &facts) != 0)
+        return std::nullopt;
+    if (!is_settled(facts))
+        return spelling_by_walk(folder, name);
+
+    bool known = false;
+    if (auto kept = kept_spelling(folder, facts, name, known); known)
+        return kept;
+    Folder learnt{facts, {}};
+    const bool read_whole = for_each_name(folder, [&learnt](std::string_view found, unsigned char) {
+        if (!can_be_named(found))
+            return true;
+        std::string& spelling_there = learnt.spellings[lower_case(found)];
+        if (spelling_there.empty() || found < spelling_there)
+            spelling_there = found;
+        return true;
+    });
+    const auto found = learnt.spellings.find(lower_case(name));
+    std::optional<std::string> result;
+    if (found != learnt.spellings.end())
+        result = found->second;
+    if (read_whole)
+        keep(folder, std::move(learnt));
+    return result;
+}
+
+std::optional<std::string> NameLookup::kept_spelling(const std::string& folder, const struct stat& facts,
+                                                     const std::string& name, bool& known) const {
+    const std::lock_guard lock{mutex_};
+    const auto kept = folders_.find(folder);
+    known = kept != folders_.end() && is_unchanged(kept->second.facts, facts);
+    if (!known)
+        return std::nullopt;
+    const auto found = kept->second.spellings.find(lower_case(name));
+    return found == kept->second.spellings.end() ? std::nullopt : std::optional{found->second};
+}
+
+void NameLookup::keep(const std::string& folder, Folder learnt) const {
+    const std::lock_guard lock{mutex_};
+    names_kept_ += learnt.spellings.size();
+    if (names_kept_ > most_names_kept) {
+        folders_.clear();
+        names_kept_ = learnt.spellings.size();
+    }
+    folders_.insert_or_assign(folder, std::move(learnt));
+}
+
+} // namespace sonarelle

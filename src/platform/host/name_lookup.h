@@ -1,0 +1,54 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/host/station_path.h"
+
+namespace sonarelle {
+
+/// Calls `use` with each name in a folder of this machine, and its kind (DT_…), until it returns false.
+/// Returns false when the folder can't be read.
+bool for_each_name(const std::string& folder, const std::function<bool(std::string_view, unsigned char)>& use);
+
+/// Finds files of this machine by names that ignore case. What it learns of a folder is kept until the folder changes,
+/// so that a list written on a disk that ignores case doesn't cost a walk through the folder for each row.
+/// From any thread; nobody waits for another one's slow disk.
+class NameLookup {
+public:
+    enum class Outcome { present, missing, folder_missing };
+
+    struct Place {
+        std::string path; ///< As the disk spells it; the names that are missing are as they were given.
+        Outcome outcome = Outcome::present;
+    };
+
+    /// Looks for the names of `path` one after the other below `base`, the exact name first.
+    /// @throws Failure 68 when `base` itself is not to be reached, 70 without rights, 57 and 71 for a disk's fault.
+    [[nodiscard]] Place find(const std::string& base, const StationPath& path) const;
+
+private:
+    struct Folder {
+        struct stat facts {};
+        std::unordered_map<std::string, std::string> spellings; // lower case -> the first spelling in byte order
+    };
+
+    [[nodiscard]] std::optional<std::string> spelling(const std::string& folder, const std::string& name) const;
+    [[nodiscard]] std::optional<std::string> kept_spelling(const std::string& folder, const struct stat& facts,
+                                                           const std::string& name, bool& known) const;
+    void keep(const std::string& folder, Folder learnt) const;
+
+    mutable std::mutex mutex_;
+    mutable std::map<std::string, Folder> folders_; // guarded by mutex_
+    mutable std::size_t names_kept_ = 0;            // guarded by mutex_
+};
+
+} // namespace sonarelle

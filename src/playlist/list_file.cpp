@@ -1,0 +1,40 @@
+#include "playlist/list_file.h"
+
+#include <algorithm>
+#include <span>
+#include <vector>
+
+namespace sonarelle {
+
+namespace {
+
+/// Copies bytes `from` to `to` of a file into its replacement.
+void copy_bytes(RecordFile& source, FileReplacement& target, std::int64_t from, std::int64_t to) {
+    constexpr std::int64_t block = 1 << 16;
+    std::vector<std::byte> buffer(static_cast<std::size_t>(std::clamp<std::int64_t>(to - from, 0, block)));
+    while (from < to) {
+        const auto wanted = static_cast<std::size_t>(std::min(block, to - from));
+        const std::size_t count = source.read(from, std::span{buffer}.first(wanted));
+        if (count == 0)
+            throw Failure{failure_number::past_end_of_file};
+        target.write(std::span{buffer}.first(count));
+        from += static_cast<std::int64_t>(count);
+    }
+}
+
+} // namespace
+
+void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
+    const auto old = disk.open(path);
+    constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
+    const std::int64_t begin = (number - 1) * size;
+    if (number < 1 || number > old->length() / size + 1)
+        throw Failure{failure_number::wrong_record_number, std::to_string(number)};
+    const auto changed = disk.replace(path);
+    copy_bytes(*old, *changed, 0, begin);
+    changed->write(record.bytes());
+    copy_bytes(*old, *changed, begin + size, old->length());
+    changed->commit();
+}
+
+} // namespace sonarelle

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "playlist/list_document.h"
+#include "playlist/list_save_dialog.h"
+
+namespace sonarelle {
+
+/// Reads the lists made before version 5.8.0 (`.rfm`), which are then saved as `.dfm` lists. They are never written.
+class LegacyList {
+public:
+    LegacyList(const Platform& platform, const StationSettings& settings, ListState& list, Liste_son& window,
+               ListDocument& document, ListSaveDialog& save_dialog);
+
+    /// Appends the rows of an old list and offers it for saving in the new form. The file is asked for, unless a save
+    /// name is waiting.
+    void A_Copen_rfm();
+
+private:
+    [[nodiscard]] std::string name_of_old_list();
+
+    const Platform& platform_;
+    const StationSettings& settings_;
+    ListState& list_;
+    Liste_son& window_;
+    ListDocument& document_;
+    ListSaveDialog& save_dialog_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,216 @@
+#include "playlist/list_document.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/dialogs.h"
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// Shows the busy pointer for as long as it lives.
+class BusyPointer {
+public:
+    explicit BusyPointer(Window& window) : window_{window} { window_.mouse_pointer = 13; }
+    ~BusyPointer() { window_.mouse_pointer = 0; }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    Window& window_;
+};
+
+bool is_refusal_of_the_disk(int number) {
+    constexpr std::array refusals{failure_number::permission_refused, failure_number::disk_not_ready,
+                                  failure_number::other_drive, failure_number::path_access,
+                                  failure_number::path_not_found};
+    return std::ranges::find(refusals, number) != refusals.end();
+}
+
+} // namespace
+
+ListDocument::ListDocument(const Platform& platform, StationSettings& settings, ListState& list, Liste_son& window)
+    : platform_{platform}, settings_{settings}, list_{list}, window_{window} {}
+
+void ListDocument::charge_liste() {
+    load([this] {
+        enter_program_folder(platform_);
+        list_.nom_fichier = list_.fichier_liste;
+        if (list_.fichier_liste.empty())
+            return;
+        list_.fichier_liste_precedent = list_.fichier_liste;
+        window_.ListView1.clear();
+        window_.Text2.set_text(list_.fichier_liste);
+        append_records<enreg_liste>(list_.fichier_liste);
+        offer_deletion();
+        select_current_row();
+    });
+}
+
+void ListDocument::A_liste_Click() {
+    load([this] {
+        const ChosenFile chosen = platform_.dialogs.open_file(
+            {"Ouvrir un fichier liste", settings_.chemin_programme, "*.dfm", "fichier (*.dfm)|*.dfm"});
+        append_chosen_list(chosen.file_name);
+    });
+}
+
+void ListDocument::A_liste_anciene() {
+    load([this] {
+        enter_program_folder(platform_);
+        const BusyPointer busy{window_};
+        append_chosen_list(join_path(settings_.chemin_programme, default_list));
+        if (window_.ListView1.count() > 0)
+            list_.index_insertion = window_.ListView1.selected() + 1;
+    });
+}
+
+void ListDocument::append_chosen_list(const std::string& name) {
+    const bool merge = window_.ListView1.count() > 0;
+    const std::string name_before = list_.nom_fichier;
+    take_list_name(name);
+    if (name.empty()) {
+        list_.fichier_liste = name_before;
+        return;
+    }
+    recup_nom();
+    append_records<enreg_liste>(list_.fichier_liste);
+    announce_list();
+    if (merge)
+        sauve_tout();
+    a_mettre_Enabled();
+    window_.mouse_pointer = 0;
+    list_.extension_fichier.clear();
+}
+
+void ListDocument::take_list_name(const std::string& name) {
+    list_.nom_fichier = name;
+    list_.fichier_liste_precedent = name;
+    list_.fichier_liste = name;
+    list_.nom_sauvegarde = name;
+    window_.Text2.set_text(name);
+}
+
+void ListDocument::recup_nom() {
+    const std::string& name = window_.Text2.text();
+    if (!name.empty() && !is_network_path(name))
+        platform_.disk.ChDrive(name);
+    list_.nom_fichier = name_of_path(name);
+}
+
+template <typename Record>
+void ListDocument::append_records(const std::string& path) {
+    RecordReader<Record> reader{platform_.disk, path};
+    Record record;
+    const std::int64_t count = reader.count();
+    for (std::int64_t number = 1; number <= count; ++number) {
+        reader.read(number, record);
+        window_.ListView1.append(row_of(record, platform_.decimal_mark));
+    }
+}
+
+template void ListDocument::append_records<enreg_liste>(const std::string& path);
+template void ListDocument::append_records<enreg_rfm>(const std::string& path);
+
+void ListDocument::announce_list() {
+    offer_deletion();
+    window_.Label1.caption = "Lecture en attente .. Nb : " + std::to_string(window_.ListView1.count());
+    window_.caption = "Fichier liste : " + list_.fichier_liste;
+}
+
+void ListDocument::offer_deletion() {
+    window_.Supprimer_fichier.caption = "Supprimer le fichier " + list_.fichier_liste;
+}
+
+void ListDocument::select_current_row() {
+    const int row = list_.index_en_cours.value();
+    window_.ListView1.select(row);
+    window_.ListView1.ensure_visible(row);
+}
+
+void ListDocument::sauve_tout() {
+    ErrorIndicator errors;
+    errors.skip([this] { enter_program_folder(platform_); });
+    list_.nom_fichier = default_list;
+    list_.fichier_liste = default_list;
+    window_.Text2.set_text(std::string{default_list});
+    const bool empty = window_.ListView1.count() == 0;
+    if (!empty)
+        window_.ListView1.select(1);
+    try {
+        write_rows();
+    } catch (const Failure& failure) {
+        report(failure);
+    }
+    if (list_.ligne_en_lecture == 0)
+        list_.ligne_en_lecture = 1;
+    errors.skip([this] { select_current_row(); });
+    a_mettre_Enabled();
+    window_.caption = "Fichier liste ( Modification : " + list_.fichier_liste + " )";
+}
+
+// The record is reused from row to row and not cleared: a cell that can't be converted repeats the value of the row
+// before. The file is replaced whole, so a full disk leaves the old list.
+void ListDocument::write_rows() {
+    ListWriter writer{platform_.disk, list_path(platform_, list_.fichier_liste)};
+    enreg_liste record;
+    ErrorIndicator errors;
+    for (int row = 1; row <= window_.ListView1.count(); ++row) {
+        window_.ListView1.select(row);
+        fill_empty_cells(row);
+        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark,
+                    [&errors](auto&& statement) { errors.skip(statement); });
+        writer.write(record);
+    }
+    writer.commit();
+}
+
+void ListDocument::fill_empty_cells(int row) {
+    const auto fill = [&](std::size_t column, std::string_view value) {
+        if (window_.ListView1.sub_item(row, column).empty())
+            window_.ListView1.set_sub_item(row, column, std::string{value});
+    };
+    fill(list_column::start, "0.10");
+    fill(list_column::end, "0.00");
+    fill(list_column::genre, "divers");
+    fill(list_column::volume, "0");
+    fill(list_column::duration, std::to_string(row));
+}
+
+void ListDocument::A_sauve() {
+    window_.A_sauve.checked = true;
+    window_.a_Ne_pas_Sauve.checked = false;
+}
+
+void ListDocument::a_Ne_pas_Sauve() {
+    window_.a_Ne_pas_Sauve.checked = true;
+    window_.A_sauve.checked = false;
+}
+
+void ListDocument::a_mettre_Enabled() {
+    for (MenuItem* entry : window_.entries_that_need_a_list())
+        entry->enabled = true;
+}
+
+void ListDocument::load(const std::function<void()>& statements) {
+    try {
+        statements();
+    } catch (const Failure& failure) {
+        if (!is_refusal_of_the_disk(failure.number))
+            return;
+        settings_.chemin_musique = settings_.chemin_programme;
+        report(failure);
+    }
+}
+
+void ListDocument::report(const Failure& failure) {
+    platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+}
+
+} // namespace sonarelle

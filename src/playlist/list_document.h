@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "configuration/station_settings.h"
+#include "platform/platform.h"
+#include "playlist/list_state.h"
+#include "playlist/liste_son.h"
+
+namespace sonarelle {
+
+struct Failure;
+
+/// The current list: the rows of the list window, filled from list files and written back to `liste.dfm`.
+/// Window thread.
+class ListDocument {
+public:
+    ListDocument(const Platform& platform, StationSettings& settings, ListState& list, Liste_son& window);
+
+    /// Replaces all rows by the content of `fichier_liste` and selects row `index_en_cours`.
+    void charge_liste();
+    /// Asks for a list and appends its rows. Rows that were there before make it a merge, which is saved at once.
+    void A_liste_Click();
+    /// Appends the rows of `liste.dfm` in the program's folder.
+    void A_liste_anciene();
+    /// Writes all rows to `liste.dfm` in the program's folder, whatever list was loaded. Empty cells get their
+    /// defaults. A cell that can't be converted gives its record the value of the record before.
+    void sauve_tout();
+
+    void A_sauve();
+    void a_Ne_pas_Sauve();
+    void a_mettre_Enabled();
+
+    /// Takes the drive and the file's name from the name in `Text2`.
+    void recup_nom();
+
+    /// Names a chosen list everywhere that it stands.
+    void take_list_name(const std::string& name);
+    /// Appends every record of a file.
+    template <typename Record>
+    void append_records(const std::string& path);
+    /// Says which list is loaded, and how many rows there are.
+    void announce_list();
+    void offer_deletion();
+    /// Runs a load under its trap: a refusal of the disk is told to the operator, any other failure ends it silently.
+    void load(const std::function<void()>& statements);
+
+private:
+    void append_chosen_list(const std::string& name);
+    void fill_empty_cells(int row);
+    void write_rows();
+    void select_current_row();
+    void report(const Failure& failure);
+
+    const Platform& platform_;
+    StationSettings& settings_;
+    ListState& list_;
+    Liste_son& window_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,92 @@
+#include "playlist/list_save_dialog.h"
+
+#include "platform/dialogs.h"
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+ListSaveDialog::ListSaveDialog(const Platform& platform, const StationSettings& settings, ListState& list,
+                               Liste_son& window, ListDocument& document)
+    : platform_{platform}, settings_{settings}, list_{list}, window_{window}, document_{document} {}
+
+void ListSaveDialog::A_enreg_sous() {
+    if (window_.ListView1.count() == 0) {
+        platform_.dialogs.MsgBox({"Rien a sauvegarder !", std::string{application_title}, Buttons::ok, Icon::warning});
+        return;
+    }
+    try {
+        ask_and_save();
+    } catch (const Failure& failure) {
+        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+void ListSaveDialog::A_Convertir_dfm() {
+    const auto offer = [this] { list_.nom_sauvegarde = with_dfm_ending(list_.nom_sauvegarde); };
+    if (ErrorIndicator{}.skip(offer))
+        A_enreg_sous();
+}
+
+void ListSaveDialog::ask_and_save() {
+    enter_program_folder(platform_);
+    const ChosenFile chosen = platform_.dialogs.save_file(
+        {"Enregistrer sous", settings_.chemin_programme, list_.nom_sauvegarde, "fichier liste (*.dfm)|*.dfm"});
+    if (chosen.cancelled)
+        return;
+    list_.extension_fichier = extension_of(chosen.file_name);
+    if (chosen.file_name.empty())
+        list_.nom_fichier = default_list;
+    if (list_.extension_fichier != "dfm")
+        return;
+    list_.fichier_liste = lower_case(chosen.file_name);
+    window_.Text2.set_text(list_.fichier_liste);
+    document_.recup_nom();
+    if (!may_overwrite())
+        return;
+    write_rows();
+    announce_saved();
+}
+
+bool ListSaveDialog::may_overwrite() const {
+    if (platform_.disk.Dir(list_.fichier_liste, FileAttributes::hidden | FileAttributes::system).empty())
+        return true;
+    const MessageBox question{"Attention le fichier : " + list_.fichier_liste +
+                                  " existe \nil va ètre écrasé !\nContinuer ?",
+                              std::string{application_title}, Buttons::yes_no, Icon::stop, 2};
+    return platform_.dialogs.MsgBox(question) == Answer::yes;
+}
+
+void ListSaveDialog::write_rows() {
+    ListWriter writer{platform_.disk, list_.fichier_liste};
+    enreg_liste record;
+    for (int row = 1; row <= window_.ListView1.count(); ++row) {
+        window_.ListView1.select(row);
+        if (window_.ListView1.sub_item(row, list_column::duration).empty())
+            window_.ListView1.set_sub_item(row, list_column::duration, "X");
+        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
+        writer.write(record);
+    }
+    writer.commit();
+}
+
+void ListSaveDialog::announce_saved() {
+    list_.nom_sauvegarde = list_.fichier_liste;
+    list_.extension_fichier.clear();
+    document_.A_sauve();
+    window_.A_ecoute.enabled = true;
+    window_.caption = "Fichier liste : " + list_.fichier_liste;
+}
+
+std::string with_dfm_ending(std::string_view name) {
+    const std::size_t count = character_count(name);
+    if (count < 4)
+        throw Failure{failure_number::wrong_call, std::string{name}};
+    return std::string{left(name, count - 4)} + ".dfm";
+}
+
+} // namespace sonarelle

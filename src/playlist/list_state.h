@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "platform/numbers.h"
+
+namespace sonarelle {
+
+/// What the routines of the playlist share with each other and with the decks.
+struct ListState {
+    std::string fichier_liste;           ///< The list file in use; every record read goes to it. Empty: none.
+    std::string fichier_liste_precedent; ///< Its copy, taken at each load.
+    std::string nom_fichier;             ///< The name with which the last load or save worked.
+    std::string nom_sauvegarde;          ///< The name that the save dialog offers.
+    std::string extension_fichier;       ///< Last three characters of the name just chosen, lower case, or empty.
+    std::string chemin_fichier;          ///< Path of the row last sent to a deck.
+    std::string chemin_lecture;          ///< The same, trimmed: the file that deck 1 opens.
+
+    Integer index_en_cours;     ///< Row that is selected after a load or save, and the row that the chain is on.
+    Integer ligne_en_lecture;   ///< Row now being played.
+    Integer index_insertion;    ///< Row behind which new rows come.
+    Integer index_supprime;     ///< Row last cut or removed.
+    Integer mode_insertion;     ///< 1 before the selected row, 2 after it, 3 at the end.
+    Integer index_destinataire; ///< Record that the destination record is read from.
+    Integer index_glisse;       ///< Record that the dragged record is read from.
+
+    Flag bouton_jingle_actif; ///< What the switches of the two insertions show.
+    Flag bouton_liste_actif;
+    Flag volume_nul_signale; ///< The null volume warning was given since start-up.
+};
+
+} // namespace sonarelle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/row_table.h"
+
+namespace sonarelle {
+
+/// The list window: the rows of the current list and what is done with them.
+struct Liste_son : Window {
+    Liste_son();
+
+    RowTable ListView1;
+    TextBox Text2{*this, "Text2"}; ///< Full name of the list or of the chosen file. Never shown.
+    Label Label1{*this, "Label1"}; ///< What the list is doing, and how many rows it has.
+    Label Label14{*this, "Label14", "Jingle Off"};
+    Label Label15{*this, "Label15", "Liste Off"};
+    Image Image13{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
+    Image Image14{*this, "Image14", "bouton_off.jpg"}; ///< Switch of the list items.
+
+    MenuItem A_liste{*this, "A_liste", "Charger liste (C)"};
+    MenuItem A_Charge{*this, "A_Charge", "Charger une liste"};
+    MenuItem A_liste_anciene{*this, "A_liste_anciene", "Ouvrir le fichier par défaut (liste.dfm)"};
+    MenuItem A_enreg_sous{*this, "A_enreg_sous", "Enregistrer la liste sous"};
+    MenuItem A_sauve{*this, "A_sauve", "Sauver les modifications dans le fichier par défaut"};
+    MenuItem a_Ne_pas_Sauve{*this, "a_Ne_pas_Sauve", "Ne pas sauver les modifications dans le fichier par défaut"};
+    MenuItem Supprimer_fichier{*this, "Supprimer_fichier", "&Supprimer le fichier"};
+    Label Label8{*this, "Label8", "&Enreg.."};
+
+    MenuItem Convertion{*this, "Convertion", "Convertir liste V < V 6.0.0"};
+    MenuItem A_Copen_rfm{*this, "A_Copen_rfm", "Ouvrir liste .rfm Sonarine < V 5.8.0"};
+    MenuItem A_Convertir_dfm{*this, "A_Convertir_dfm", "Sauvegarder en liste .dfm => V 5.8.0"};
+
+    MenuItem char1{*this, "char1", "Charger sur Play 1"};
+    MenuItem char2{*this, "char2", "Charger sur Play 2"};
+    MenuItem char3{*this, "char3", "Charger sur Play 3"};
+    MenuItem coller{*this, "coller", "Coller"};
+    MenuItem Load_Pl{*this, "Load_Pl"}; ///< The context menu of the rows.
+    MenuItem A_ecoute{*this, "A_ecoute", "* Lire ce morceau  * ( jingles sélectionné)"};
+
+    MenuItem a_mettre_a_jour{*this, "a_mettre_a_jour", "Mettre a jour les infos de ce fichier"};
+    MenuItem a_mettre_a_jour_liste{*this, "a_mettre_a_jour_liste", "Mettre a jour les infos de la liste"};
+    MenuItem prechar_fich{*this, "prechar_fich", "Tester l'existance du fichier"};
+    MenuItem prechar{*this, "prechar", "Tester l'existance des fichiers de cette liste"};
+    MenuItem Modifier_lettre_lecteur{*this, "Modifier_lettre_lecteur",
+                                     "Modifier uniquement la lettre du lecteur sur toute la liste"};
+    MenuItem a_debutpiste{*this, "a_debutpiste", "Modifier le debut piste sur toute la liste"};
+    MenuItem A_Debut_piste{*this, "A_Debut_piste"};
+    MenuItem a_modif{*this, "a_modif", "Propriété du fichier sélectionné"};
+    MenuItem Modifier_volume{*this, "Modifier_volume", "Modifier le volume sur toute la liste"};
+
+    /// The entries of the deck loads, by deck.
+    [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
+    /// The entries that need a list, and stand disabled until there is one.
+    [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();
+};
+
+} // namespace sonarelle

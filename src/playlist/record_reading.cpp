@@ -1,0 +1,70 @@
+#include "playlist/record_reading.h"
+
+#include <utility>
+
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+RecordReading::RecordReading(const Platform& platform, ListState& list, DestinationRecord& destination,
+                             DraggedRecord& dragged, std::function<void()> warn_of_null_volume)
+    : platform_{platform}, list_{list}, destination_{destination}, dragged_{dragged}, warn_of_null_volume_{std::move(
+                                                                                          warn_of_null_volume)} {}
+
+void RecordReading::lire_enreg_destinataire() {
+    if (list_.fichier_liste.empty())
+        return;
+    if (list_.index_destinataire == 0)
+        list_.index_destinataire = 1;
+    ErrorIndicator{}.skip([this] { read_destination(); });
+}
+
+void RecordReading::read_destination() {
+    enreg_liste record;
+    ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(list_.index_destinataire.value(),
+                                                                               record);
+    destination_.dest_chemin = record.trimmed_chemin();
+    destination_.dest_debut = record.debut_lecture();
+    destination_.dest_fin = lower_case(record.trimmed_fin_lecture());
+    destination_.dest_genre = record.trimmed_genre();
+    destination_.dest_volume = record.volume();
+    destination_.dest_duree = record.duree_piste();
+    if (record.volume() == 0)
+        check_null_volume();
+    destination_.dest_volume_pourcent = destination_.dest_volume;
+    if (destination_.dest_volume < 101)
+        destination_.convertir_valeur_son();
+    destination_.dest_nom_fichier = name_of_path(destination_.dest_chemin);
+}
+
+void RecordReading::check_null_volume() {
+    if (list_.volume_nul_signale.is_true())
+        return;
+    list_.volume_nul_signale = true;
+    warn_of_null_volume_();
+}
+
+void RecordReading::lire_enreg_dragdrop() {
+    if (list_.fichier_liste.empty())
+        return;
+    if (list_.index_destinataire == 0)
+        list_.index_destinataire = 1;
+    ErrorIndicator{}.skip([this] { read_dragged(); });
+}
+
+void RecordReading::read_dragged() {
+    enreg_liste record;
+    ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(list_.index_glisse.value(), record);
+    dragged_.drop_chemin = record.trimmed_chemin();
+    const std::string start = Format(record.debut_lecture(), start_pattern, platform_.decimal_mark);
+    dragged_.drop_debut = to_double(start, platform_.decimal_mark);
+    dragged_.drop_fin = lower_case(record.trimmed_fin_lecture());
+    dragged_.drop_genre = record.trimmed_genre();
+    dragged_.drop_volume = record.volume();
+    dragged_.drop_duree = record.duree_piste();
+}
+
+} // namespace sonarelle

@@ -1,0 +1,92 @@
+#include "platform/host/shared_file.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <thread>
+
+#include "platform/failure.h"
+#include "platform/host/host_errors.h"
+#include "platform/host/safe_file.h"
+
+namespace sonarelle {
+
+namespace {
+
+// A write takes some ms; a program that holds the lock for longer is stopped, and the station doesn't stop with it.
+constexpr std::chrono::milliseconds patience{3000};
+
+std::string lock_name(const std::filesystem::path& path) {
+    return path.parent_path() / ("." + path.stem().string() + ".verrou");
+}
+
+void make_folder_of(const std::string& path) {
+    std::error_code error;
+    const auto folder = std::filesystem::path{path}.parent_path();
+    if (!folder.empty())
+        std::filesystem::create_directories(folder, error);
+    if (error)
+        throw Failure{failure_of_errno(error.value(), Access::writing), path};
+}
+
+} // namespace
+
+std::optional<std::string> read_shared_file(const std::string& path) {
+    const FileHandle file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
+    if (!file.is_open() && (errno == ENOENT || errno == ENOTDIR))
+        return std::nullopt;
+    if (!file.is_open())
+        throw_errno(Access::writing, path);
+    std::string text;
+    std::array<char, 16384> block{};
+    for (;;) {
+        const ssize_t count = ::read(file.get(), block.data(), block.size());
+        if (count == 0)
+            return text;
+        if (count > 0)
+            text.append(block.data(), static_cast<std::size_t>(count));
+        else if (errno != EINTR)
+            throw_errno(Access::writing, path);
+    }
+}
+
+SharedFileLock::SharedFileLock(const std::string& path) {
+    make_folder_of(path);
+    file_ = FileHandle{::open(lock_name(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
+    if (!file_.is_open())
+        throw_errno(Access::writing, path);
+    const auto give_up = std::chrono::steady_clock::now() + patience;
+    while (::flock(file_.get(), LOCK_EX | LOCK_NB) != 0) {
+        // A disk without locks is written without one: its file is whole all the same.
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return;
+        if (std::chrono::steady_clock::now() > give_up)
+            throw Failure{failure_number::path_access, path, "Un autre programme garde ce fichier pour lui"};
+        std::this_thread::sleep_for(std::chrono::milliseconds{1});
+    }
+}
+
+void write_shared_file(const std::string& path, std::string_view text) {
+    SafeFile file{path, path};
+    file.write(text);
+    file.commit();
+}
+
+void set_aside(const std::string& path) {
+    for (int number = 1;; ++number) {
+        const std::string aside = path + ".abime" + (number == 1 ? "" : "-" + std::to_string(number));
+        if (std::filesystem::exists(std::filesystem::symlink_status(aside)))
+            continue;
+        if (::rename(path.c_str(), aside.c_str()) != 0)
+            throw_errno(Access::writing, path);
+        return;
+    }
+}
+
+} // namespace sonarelle

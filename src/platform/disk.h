@@ -59,8 +59,8 @@ public:
 /// From the window thread; calls may block for as long as the disk does.
 ///
 /// Every operation throws Failure, with the path as its source: 52 for a name with * ? < > | or a double quote (where
-/// no pattern is meant), 53 no such file, 58 the target exists, 61 disk full, 68 no such drive, 70 refused, 75 path and
-/// file don't go together, 76 no such folder.
+/// no pattern is meant), 53 no such file, 58 the target exists, 61 disk full, 68 no such drive, 70 refused, 74 a new
+/// name on another drive, 75 path and file don't go together, or no right to write, 76 no such folder.
 class Disk {
 public:
     virtual ~Disk() = default;
@@ -79,6 +79,7 @@ public:
 
     /// The name (without folder) of the first entry that fits the pattern (* and ? in the last part), in the spelling
     /// that the disk has; empty when there is none, or no such folder. Folders are found only when they are asked for.
+    /// A pattern that ends in a backslash means all that the folder holds; an empty one finds nothing.
     [[nodiscard]] virtual std::string Dir(std::string_view pattern, FileAttributes attributes) = 0;
     [[nodiscard]] std::string Dir(std::string_view pattern) { return Dir(pattern, FileAttributes::normal); }
     /// The next entry of the last pattern; empty behind the last one.
@@ -86,10 +87,15 @@ public:
 
     [[nodiscard]] virtual FileFacts facts(std::string_view path) = 0;
 
+    /// Deletes a file, or with * and ? in the last part all files that fit; Failure 53 when none does.
     virtual void Kill(std::string_view path) = 0;
+    /// Renames a file or folder, into another folder of its drive too.
     virtual void Name(std::string_view old_path, std::string_view new_path) = 0;
+    /// A file that is there already is written over.
     virtual void FileCopy(std::string_view from, std::string_view to) = 0;
+    /// A name that is taken already is Failure 75.
     virtual void MkDir(std::string_view folder) = 0;
+    /// A folder that holds something is Failure 75.
     virtual void RmDir(std::string_view folder) = 0;
 
     /// Opens for reading; a file that isn't there is Failure 53.

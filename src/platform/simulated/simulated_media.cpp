@@ -1,0 +1,49 @@
+#include "platform/simulated/simulated_media.h"
+
+#include <utility>
+
+#include "platform/clock.h"
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/simulated/simulated_graph.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+std::shared_ptr<MediaGraph> SimulatedMedia::create_graph() {
+    return std::make_shared<SimulatedGraph>(*this, ++created_);
+}
+
+std::vector<std::string> SimulatedMedia::on_air() const {
+    std::vector<std::string> paths;
+    for (const SimulatedGraph* graph : graphs_)
+        if (graph->is_heard())
+            paths.push_back(graph->path());
+    return paths;
+}
+
+SimulatedMedia::File& SimulatedMedia::facts_of(std::string_view path) {
+    return files_[lower_case(disk_.absolute(path))];
+}
+
+const SimulatedMedia::File& SimulatedMedia::open(std::string_view path) {
+    try {
+        (void)disk_.open(path);
+    } catch (const Failure& failure) {
+        const bool missing = failure.number == failure_number::file_not_found ||
+                             failure.number == failure_number::path_not_found ||
+                             failure.number == failure_number::device_unavailable;
+        throw Failure{missing ? failure_number::file_not_found : failure_number::unplayable_file, std::string{path}};
+    }
+    const auto known = files_.find(lower_case(disk_.absolute(path)));
+    if (known == files_.end() || known->second.seconds < 0)
+        throw Failure{failure_number::unplayable_file, std::string{path}};
+    return known->second;
+}
+
+void SimulatedMedia::write(MediaCommand command) {
+    command.at = clock_.now();
+    log_.push_back(std::move(command));
+}
+
+} // namespace sonarelle

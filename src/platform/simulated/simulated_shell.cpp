@@ -1,0 +1,19 @@
+#include "platform/simulated/simulated_shell.h"
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+void SimulatedShell::set_cd_door(bool open) {
+    if (!has_cd_drive)
+        throw Failure{failure_number::device_unavailable};
+    cd_door_open = open;
+}
+
+void SimulatedShell::start(std::string_view program, std::string_view file) {
+    if (!has_programs)
+        throw Failure{failure_number::file_not_found, std::string{program.empty() ? file : program}};
+    started.push_back({std::string{program}, std::string{file}});
+}
+
+} // namespace sonarelle

@@ -67,7 +67,7 @@ void ListSaveDialog::write_rows() {
     for (int row = 1; row <= window_.ListView1.count(); ++row) {
         window_.ListView1.select(row);
         if (window_.ListView1.sub_item(row, list_column::duration).empty())
-            window_.ListView1.set_sub_item(row, list_column::duration, "X");
+            window_.ListView1.set_sub_item(row, list_column::duration, std::string{unknown_duration});
         fill_record(record, window_.ListView1.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
         writer.write(record);
     }

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string_view>
+
+#include "app/outil/arguments.h"
+
+namespace sonarelle {
+
+/// What a command works with. It writes its results to `out` and reports through Failure.
+struct Call {
+    const Arguments& arguments;
+    std::istream& in;
+    std::ostream& out;
+};
+
+/// A word of the command line, what stands behind it, and the options that it knows.
+struct Command {
+    std::string_view words; ///< As typed: "liste voir".
+    std::string_view usage;
+    std::span<const Option> options;
+    void (*run)(const Call& call);
+};
+
+/// Options that every command knows.
+inline constexpr Option drive_option{"--lecteur", true};
+inline constexpr Option folder_option{"--dossier", true};
+inline constexpr Option json_option{"--json", false};
+
+[[nodiscard]] std::span<const Command> list_commands();
+[[nodiscard]] std::span<const Command> computing_commands();
+[[nodiscard]] std::span<const Command> settings_commands();
+[[nodiscard]] std::span<const Command> drive_commands();
+
+} // namespace sonarelle

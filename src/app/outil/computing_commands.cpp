@@ -1,0 +1,47 @@
+#include <array>
+#include <ostream>
+
+#include "app/outil/commands.h"
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "playout/duration_text.h"
+
+namespace sonarelle {
+
+namespace {
+
+template <std::string convert(double)>
+void for_each_duration(const Call& call) {
+    (void)call.arguments.word(0, "SECONDES");
+    std::string lines;
+    for (const std::string& word : call.arguments.words())
+        try {
+            lines += convert(to_double(word, DecimalMark::point)) + "\n";
+        } catch (const Failure& failure) {
+            throw Failure{failure.number, word};
+        }
+    call.out << lines;
+}
+
+std::string on_the_title_line(double seconds) {
+    return format_heure(seconds, DecimalMark::point);
+}
+
+/// The file manager rounds to whole seconds and shows one at least.
+std::string in_the_file_manager(double seconds) {
+    const Integer whole = to_integer(seconds);
+    return formate_duree(whole == 0 ? 1 : whole.value(), DecimalMark::point);
+}
+
+constexpr std::array commands{
+    Command{"calcul heure", "SECONDES...", {}, for_each_duration<on_the_title_line>},
+    Command{"calcul duree", "SECONDES...", {}, for_each_duration<in_the_file_manager>},
+};
+
+} // namespace
+
+std::span<const Command> computing_commands() {
+    return commands;
+}
+
+} // namespace sonarelle

@@ -90,7 +90,7 @@ std::string SimulatedDisk::Dir(std::string_view pattern, FileAttributes attribut
     if (!tree_.has_drive(wanted.folder))
         fail(failure_number::device_unavailable, wanted.folder);
     if (wanted.name.empty())
-        wanted.name = "*";
+        wanted.name += '*';
     for (const DiskEntry* entry : matches(wanted, attributes))
         found_.push_back(entry->name);
     std::ranges::reverse(found_);

@@ -55,7 +55,7 @@ bool matches_pattern(std::string_view name, std::string_view pattern) {
         }
     }
     if (name.empty())
-        return false;
+        return pattern == ".*"; // so that *.* means every file
     const bool any = pattern.front() == '?';
     const char32_t wanted = take_character(pattern);
     const char32_t found = take_character(name);

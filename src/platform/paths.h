@@ -21,7 +21,7 @@ namespace sonarelle {
 [[nodiscard]] bool is_network_path(std::string_view path);
 /// True for a name that no file can have, because of * ? < > | or a double quote in it.
 [[nodiscard]] bool has_forbidden_character(std::string_view name);
-/// Whether a file name fits a pattern of * and ?, ignoring case.
+/// Whether a file name fits a pattern of * and ?, ignoring case. `.*` at the end fits a name without a point too.
 [[nodiscard]] bool matches_pattern(std::string_view name, std::string_view pattern);
 
 } // namespace sonarelle

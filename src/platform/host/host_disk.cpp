@@ -1,8 +1,13 @@
 #include "platform/host/host_disk.h"
 
-#include <algorithm>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
 
 #include "platform/failure.h"
+#include "platform/host/host_errors.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 
@@ -10,130 +15,123 @@ namespace sonarelle {
 
 namespace {
 
-std::size_t index_of(char letter) {
-    return static_cast<std::size_t>(letter - 'A');
+/// Refuses what no file can be called, so that a wrong name never reads as a missing file.
+void check_name(const std::string& path) {
+    if (has_forbidden_character(path) || path.find('\0') != std::string::npos)
+        throw Failure{failure_number::wrong_file_name, path};
+    if (const auto foreign = first_foreign_character(path))
+        throw Failure{failure_number::wrong_file_name, path,
+                      "Le caractère « " + *foreign + " » n'existe pas en Windows-1252"};
 }
 
-/// Refuses what no file can be called, so that a wrong name never reads as a missing file.
-void check_names(const StationPath& path) {
-    for (const std::string& name : path.names) {
-        if (has_forbidden_character(name) || name.find('\0') != std::string::npos)
-            throw Failure{failure_number::wrong_file_name, path.text()};
-        if (const auto foreign = first_foreign_character(name))
-            throw Failure{failure_number::wrong_file_name, path.text(),
-                          "Le caractère « " + *foreign + " » n'existe pas en Windows-1252"};
-    }
+/// Renames without ever taking the place of another file, on the disks that can promise it.
+int rename_to_new(const std::string& from, const std::string& to) {
+    const int result = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+    return result != 0 && errno == EINVAL ? ::rename(from.c_str(), to.c_str()) : result;
+}
+
+std::string folder_part(const std::string& machine_path) {
+    return machine_path.substr(0, machine_path.rfind('/') + 1);
 }
 
 } // namespace
 
-HostDisk::HostDisk(const DriveTable& drives) : drives_{drives} {}
-
-StationPath HostDisk::current() const {
-    if (share_folder_)
-        return *share_folder_;
-    return {std::string{current_drive_}, folder_of_drive_[index_of(current_drive_)]};
+NameLookup::Place HostDisk::look_up(const std::string& absolute_path) const {
+    check_name(absolute_path);
+    const PathParts parts = parts_of(absolute_path);
+    const std::string root = drives_.machine_path(parts.drive + "\\");
+    return lookup_.find(root.substr(0, root.find_last_not_of('/') + 1), parts.names, absolute_path);
 }
 
-StationPath HostDisk::parsed(std::string_view path) const {
-    if (names_a_share(path))
-        return share_path(path);
-    StationPath result = current();
-    if (const char letter = drive_letter_of(path)) {
-        result = {std::string{letter}, folder_of_drive_[index_of(letter)]};
-        path.remove_prefix(2);
-    }
-    if (path.starts_with('\\') || path.starts_with('/'))
-        result.names.clear();
-    append_names(result, path);
-    return result;
+HostDisk::Place HostDisk::place_of(std::string_view path) const {
+    const std::string wanted = absolute(path);
+    NameLookup::Place found = look_up(wanted);
+    if (found.outcome == Outcome::folder_missing)
+        throw Failure{failure_number::path_not_found, wanted};
+    return {wanted, std::move(found.path), found.outcome == Outcome::present};
 }
 
-std::string HostDisk::base_of(const StationPath& path) const {
-    std::string folder = drives_.machine_path(StationPath{path.drive, {}}.text());
-    return folder.substr(0, folder.find_last_not_of('/') + 1);
-}
-
-HostDisk::Place HostDisk::place_of(const StationPath& path) const {
-    check_names(path);
-    return lookup_.find(base_of(path), path);
-}
-
-HostDisk::Place HostDisk::existing(const StationPath& path, int number_when_missing) const {
+HostDisk::Place HostDisk::existing(std::string_view path, int number_when_missing) const {
     Place place = place_of(path);
-    if (place.outcome == NameLookup::Outcome::folder_missing)
-        throw Failure{failure_number::path_not_found, path.text()};
-    if (place.outcome == NameLookup::Outcome::missing)
-        throw Failure{number_when_missing, path.text()};
+    if (!place.exists)
+        throw Failure{number_when_missing, place.source};
     return place;
-}
-
-HostDisk::Place HostDisk::creatable(const StationPath& path) const {
-    Place place = place_of(path);
-    if (place.outcome == NameLookup::Outcome::folder_missing)
-        throw Failure{failure_number::path_not_found, path.text()};
-    return place;
-}
-
-std::string HostDisk::current_folder() const {
-    return current().text();
-}
-
-std::string HostDisk::absolute(std::string_view path) const {
-    return parsed(path).text();
 }
 
 std::string HostDisk::machine_path(std::string_view path) const {
-    return existing(parsed(path), failure_number::file_not_found).path;
+    return existing(path, failure_number::file_not_found).path;
 }
 
 void HostDisk::ChDrive(std::string_view path) {
     if (path.empty())
         return;
-    const char letter = drive_letter_of(std::string{path.front()} + ":");
-    if (letter == 0)
+    const char letter = path.front();
+    const std::string root = std::string{letter} + ":\\";
+    const bool is_letter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
+    if (!is_letter)
         throw Failure{failure_number::device_unavailable, std::string{path}};
-    static_cast<void>(place_of({std::string{letter}, {}}));
-    current_drive_ = letter;
-    share_folder_.reset();
+    static_cast<void>(place_of(root));
+    working_.set_drive(letter);
 }
 
 void HostDisk::ChDir(std::string_view folder) {
-    const StationPath path = parsed(folder);
-    const Place place = existing(path, failure_number::path_not_found);
+    const Place place = existing(folder, failure_number::path_not_found);
     struct stat kind {};
     if (::stat(place.path.c_str(), &kind) != 0 || !S_ISDIR(kind.st_mode))
-        throw Failure{failure_number::path_not_found, path.text()};
-    if (path.is_share()) {
-        share_folder_ = path;
-        return;
-    }
-    folder_of_drive_[index_of(path.drive[0])] = path.names;
-    if (path.drive[0] == current_drive_)
-        share_folder_.reset();
+        throw Failure{failure_number::path_not_found, place.source};
+    working_.set_folder(place.source);
 }
 
-std::string HostDisk::Dir(std::string_view pattern, FileAttributes attributes) {
-    listing_.clear();
-    if (pattern.empty())
-        return {};
-    StationPath folder = parsed(pattern);
-    std::string last = "*";
-    const bool is_whole_folder = pattern.find_last_of("\\/:") == pattern.size() - 1;
-    if (!is_whole_folder && !folder.names.empty()) {
-        last = std::move(folder.names.back());
-        folder.names.pop_back();
-    }
-    listing_ = matches(folder, last, attributes);
-    return Dir();
+FileFacts HostDisk::facts(std::string_view path) {
+    const Place place = existing(path, failure_number::file_not_found);
+    struct stat facts {};
+    if (::stat(place.path.c_str(), &facts) != 0)
+        throw_errno(Access::reading, place.source);
+    const bool is_folder = S_ISDIR(facts.st_mode);
+    return {is_folder ? 0 : facts.st_size, std::int64_t{facts.st_mtim.tv_sec} * 1'000'000'000 + facts.st_mtim.tv_nsec,
+            is_folder};
 }
 
-std::string HostDisk::Dir() {
-    if (listing_.empty())
-        return {};
-    std::string name = std::move(listing_.back());
-    listing_.pop_back();
-    return name;
+/// A write-protected file stays, though its folder would let it go; a link goes by itself.
+void HostDisk::remove_file(const Place& place) {
+    struct stat facts {};
+    const bool is_link = ::lstat(place.path.c_str(), &facts) == 0 && S_ISLNK(facts.st_mode);
+    const bool may_write = is_link || ::faccessat(AT_FDCWD, place.path.c_str(), W_OK, AT_EACCESS) == 0;
+    if (!may_write || ::unlink(place.path.c_str()) != 0)
+        throw_errno(Access::writing, place.source);
+}
+
+void HostDisk::Name(std::string_view old_path, std::string_view new_path) {
+    const Place from = existing(old_path, failure_number::file_not_found);
+    const Place to = place_of(new_path);
+    if (!equal_ignoring_case(parts_of(from.source).drive, parts_of(to.source).drive))
+        throw Failure{failure_number::other_drive, to.source};
+    const bool only_case_changes = to.path == from.path;
+    if (to.exists && !only_case_changes)
+        throw Failure{failure_number::file_exists, to.source};
+    if (to.path.starts_with(from.path + "/"))
+        throw Failure{failure_number::path_access, to.source};
+    const std::string new_name = folder_part(to.path) + std::string{name_of_path(to.source)};
+    const int result =
+        only_case_changes ? ::rename(from.path.c_str(), new_name.c_str()) : rename_to_new(from.path, new_name);
+    if (result != 0)
+        throw_errno(Access::writing, errno == EEXIST ? to.source : from.source);
+}
+
+void HostDisk::MkDir(std::string_view folder) {
+    const Place place = place_of(folder);
+    if (place.exists)
+        throw Failure{failure_number::path_access, place.source};
+    if (::mkdir(place.path.c_str(), 0777) != 0)
+        throw_errno(Access::writing, place.source);
+}
+
+void HostDisk::RmDir(std::string_view folder) {
+    const Place place = existing(folder, failure_number::path_not_found);
+    if (parts_of(place.source).names.empty()) // the folder that a drive lies in
+        throw Failure{failure_number::path_access, place.source};
+    if (::rmdir(place.path.c_str()) != 0)
+        throw_errno(Access::writing, place.source);
 }
 
 } // namespace sonarelle

@@ -1,35 +1,30 @@
 #pragma once
 
-#include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/disk.h"
 #include "platform/drive_table.h"
 #include "platform/host/name_lookup.h"
-#include "platform/host/station_path.h"
+#include "platform/working_folders.h"
 
 namespace sonarelle {
 
 /// The disks of this machine, by a drive table. A name that a path of the station can't hold (not in Windows-1252, or
 /// with one of * ? < > | " \ in it) is neither found nor listed. A name that begins with a dot is hidden: a pattern
 /// with * or ? finds it only when hidden ones are asked for.
-///
-/// A relative name resolves on the current drive, in the folder that this drive remembers. After `ChDir` to a share,
-/// names resolve there until the next `ChDrive`, or `ChDir` on the current drive.
 class HostDisk : public Disk {
 public:
     /// The table is the caller's and outlives the disk; a change in it holds from the next call on.
-    explicit HostDisk(const DriveTable& drives);
+    explicit HostDisk(const DriveTable& drives) : drives_{drives} {}
 
     using Disk::Dir;
 
-    [[nodiscard]] char current_drive() const override { return current_drive_; }
-    [[nodiscard]] std::string current_folder() const override;
+    [[nodiscard]] char current_drive() const override { return working_.drive(); }
+    [[nodiscard]] std::string current_folder() const override { return working_.folder(); }
     void ChDrive(std::string_view path) override;
     void ChDir(std::string_view folder) override;
-    [[nodiscard]] std::string absolute(std::string_view path) const override;
+    [[nodiscard]] std::string absolute(std::string_view path) const override { return working_.absolute(path); }
 
     [[nodiscard]] std::string Dir(std::string_view pattern, FileAttributes attributes) override;
     [[nodiscard]] std::string Dir() override;
@@ -51,26 +46,29 @@ public:
     [[nodiscard]] std::string machine_path(std::string_view path) const;
 
 private:
-    using Place = NameLookup::Place;
+    using Outcome = NameLookup::Outcome;
 
-    [[nodiscard]] StationPath parsed(std::string_view path) const;
-    [[nodiscard]] StationPath current() const;
-    [[nodiscard]] std::string base_of(const StationPath& path) const;
-    /// Where a name that is no pattern lies.
-    [[nodiscard]] Place place_of(const StationPath& path) const;
-    [[nodiscard]] Place existing(const StationPath& path, int number_when_missing) const;
-    /// Like place_of, for a name that may be new in a folder that must be there.
-    [[nodiscard]] Place creatable(const StationPath& path) const;
+    /// Where an absolute path lies on this machine.
+    struct Place {
+        std::string source; ///< The path as the station knows it.
+        std::string path;   ///< As this machine knows it, in the disk's spelling.
+        bool exists = false;
+    };
+    struct Pattern;
 
-    [[nodiscard]] std::vector<std::string> matches(const StationPath& folder, std::string_view pattern,
-                                                   FileAttributes attributes) const;
+    /// For a name that may be new, in a folder that must be there.
+    [[nodiscard]] Place place_of(std::string_view path) const;
+    [[nodiscard]] Place existing(std::string_view path, int number_when_missing) const;
+    [[nodiscard]] NameLookup::Place look_up(const std::string& absolute_path) const;
+
+    [[nodiscard]] Pattern pattern_of(std::string_view path) const;
+    [[nodiscard]] std::vector<std::string> matches(const Pattern& pattern, FileAttributes attributes) const;
+    static void remove_file(const Place& place);
 
     const DriveTable& drives_;
     NameLookup lookup_;
-    char current_drive_ = 'C';
-    std::array<std::vector<std::string>, 26> folder_of_drive_; // the current folder of A to Z
-    std::optional<StationPath> share_folder_;                  // where names resolve after ChDir to a share
-    std::vector<std::string> listing_; // of the last pattern, what Dir() has yet to give, backwards
+    WorkingFolders working_;
+    std::vector<std::string> listing_; // what Dir() has yet to give, the next one last
 };
 
 } // namespace sonarelle

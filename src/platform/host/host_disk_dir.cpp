@@ -1,6 +1,7 @@
 #include <dirent.h>
 
 #include <algorithm>
+#include <cerrno>
 
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
@@ -36,61 +37,89 @@ bool is_wanted(Kind kind, FileAttributes attributes) {
     return kind == Kind::file || (kind == Kind::folder && has(attributes, FileAttributes::folder));
 }
 
-bool is_pattern(std::string_view name) {
-    return name.find_first_of("*?") != std::string_view::npos;
-}
-
-/// A name without a point fits *.* too.
-bool fits(std::string_view name, std::string_view pattern) {
-    return pattern == "*.*" || matches_pattern(name, pattern);
-}
-
-/// Sorts a folder's names as a list of files shows them.
-void sort_names(std::vector<std::string>& names) {
+/// Sorts a folder's names as a list of files shows them, the last one first.
+void sort_backwards(std::vector<std::string>& names) {
     std::vector<std::pair<std::string, std::string>> keyed;
     keyed.reserve(names.size());
     for (std::string& name : names)
         keyed.emplace_back(lower_case(name), std::move(name));
-    std::ranges::sort(keyed);
+    std::ranges::sort(keyed, std::ranges::greater{});
     std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
-}
-
-std::vector<std::string> names_that_fit(const std::string& folder, std::string_view pattern, FileAttributes attributes,
-                                        const std::string& source) {
-    std::vector<std::string> names;
-    const auto take = [&](std::string_view name, unsigned char told) {
-        const bool hidden = name.starts_with('.') && !has(attributes, FileAttributes::hidden);
-        if (name != "." && name != ".." && !hidden && fits(name, pattern) && can_be_named(name) &&
-            is_wanted(kind_of(folder, name, told), attributes))
-            names.emplace_back(name);
-        return true;
-    };
-    if (!for_each_name(folder, take) && errno != ENOTDIR && errno != ENOENT)
-        throw_errno(Access::reading, source);
-    sort_names(names);
-    return names;
 }
 
 } // namespace
 
-std::vector<std::string> HostDisk::matches(const StationPath& folder, std::string_view pattern,
-                                           FileAttributes attributes) const {
-    if (is_pattern(pattern)) {
-        if (pattern.find_first_of("<>|\"") != std::string_view::npos)
-            throw Failure{failure_number::wrong_file_name, folder.text() + "\\" + std::string{pattern}};
-        const Place place = place_of(folder);
-        if (place.outcome != NameLookup::Outcome::present)
-            return {};
-        std::vector<std::string> names = names_that_fit(place.path, pattern, attributes, folder.text());
-        std::ranges::reverse(names);
-        return names;
-    }
-    StationPath path = folder;
-    path.names.emplace_back(pattern);
-    const Place place = place_of(path);
-    if (place.outcome != NameLookup::Outcome::present || !is_wanted(kind_of(place.path), attributes))
+/// A folder, and what names in it are meant.
+struct HostDisk::Pattern {
+    std::string folder; // absolute
+    std::string name;
+
+    [[nodiscard]] bool is_one_name() const { return name.find_first_of("*?") == std::string::npos; }
+};
+
+HostDisk::Pattern HostDisk::pattern_of(std::string_view path) const {
+    const auto last = path.find_last_of("\\/");
+    const std::size_t begin = last != std::string_view::npos ? last + 1 : path.substr(0, 2).ends_with(':') ? 2 : 0;
+    Pattern pattern{absolute(path.substr(0, begin)), std::string{path.substr(begin)}};
+    if (pattern.name.find_first_of("<>|\"") != std::string::npos)
+        throw Failure{failure_number::wrong_file_name, std::string{path}};
+    return pattern;
+}
+
+std::string HostDisk::Dir(std::string_view pattern, FileAttributes attributes) {
+    listing_.clear();
+    if (pattern.empty())
         return {};
-    return {place.path.substr(place.path.rfind('/') + 1)};
+    Pattern wanted = pattern_of(pattern);
+    if (wanted.name.empty())
+        wanted.name = "*";
+    listing_ = matches(wanted, attributes);
+    return Dir();
+}
+
+std::string HostDisk::Dir() {
+    if (listing_.empty())
+        return {};
+    std::string name = std::move(listing_.back());
+    listing_.pop_back();
+    return name;
+}
+
+std::vector<std::string> HostDisk::matches(const Pattern& pattern, FileAttributes attributes) const {
+    if (pattern.is_one_name()) {
+        const NameLookup::Place place = look_up(join_path(pattern.folder, pattern.name));
+        if (place.outcome != Outcome::present || !is_wanted(kind_of(place.path), attributes))
+            return {};
+        return {place.path.substr(place.path.rfind('/') + 1)};
+    }
+    const NameLookup::Place folder = look_up(pattern.folder);
+    std::vector<std::string> names;
+    if (folder.outcome != Outcome::present)
+        return names;
+    const auto take = [&](std::string_view name, unsigned char told) {
+        const bool hidden = name.starts_with('.') && !has(attributes, FileAttributes::hidden);
+        if (name != "." && name != ".." && !hidden && matches_pattern(name, pattern.name) && can_be_named(name) &&
+            is_wanted(kind_of(folder.path, name, told), attributes))
+            names.emplace_back(name);
+        return true;
+    };
+    if (!for_each_name(folder.path, take) && errno != ENOTDIR && errno != ENOENT)
+        throw_errno(Access::reading, pattern.folder);
+    sort_backwards(names);
+    return names;
+}
+
+void HostDisk::Kill(std::string_view path) {
+    const Pattern pattern = pattern_of(path);
+    if (pattern.is_one_name()) {
+        remove_file(existing(path, failure_number::file_not_found));
+        return;
+    }
+    const std::vector<std::string> names = matches(pattern, FileAttributes::normal);
+    if (names.empty())
+        throw Failure{failure_number::file_not_found, absolute(path)};
+    for (const std::string& name : names)
+        remove_file(existing(join_path(pattern.folder, name), failure_number::file_not_found));
 }
 
 } // namespace sonarelle

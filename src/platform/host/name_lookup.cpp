@@ -10,6 +10,7 @@
 
 #include "platform/failure.h"
 #include "platform/host/host_errors.h"
+#include "platform/paths.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -48,18 +49,18 @@ bool is_folder(const std::string& path) {
 enum class Exact { yes, no };
 
 /// Whether a path is there under exactly this name.
-Exact look_for(const std::string& path, const StationPath& wanted) {
+Exact look_for(const std::string& path, const std::string& source) {
     struct stat facts {};
     if (::lstat(path.c_str(), &facts) == 0)
         return Exact::yes;
     if (errno != ENOENT && errno != ENOTDIR)
-        throw_errno(Access::reading, wanted.text());
+        throw_errno(Access::reading, source);
     return Exact::no;
 }
 
-std::string joined(const std::string& base, const StationPath& path) {
+std::string joined(const std::string& base, const std::vector<std::string>& names) {
     std::string result = base;
-    for (const std::string& name : path.names)
+    for (const std::string& name : names)
         result.append("/").append(name);
     return result.empty() ? "/" : result;
 }
@@ -77,6 +78,11 @@ std::optional<std::string> spelling_by_walk(const std::string& folder, const std
 
 } // namespace
 
+bool can_be_named(std::string_view name) {
+    return !first_foreign_character(name) && !has_forbidden_character(name) &&
+           name.find('\\') == std::string_view::npos;
+}
+
 bool for_each_name(const std::string& folder, const std::function<bool(std::string_view, unsigned char)>& use) {
     const std::unique_ptr<DIR, DirectoryClose> directory{::opendir(folder.c_str())};
     if (!directory)
@@ -88,25 +94,26 @@ bool for_each_name(const std::string& folder, const std::function<bool(std::stri
     return errno == 0;
 }
 
-NameLookup::Place NameLookup::find(const std::string& base, const StationPath& path) const {
-    Place place{joined(base, path), Outcome::present};
-    if (look_for(place.path, path) == Exact::yes)
+NameLookup::Place NameLookup::find(const std::string& base, const std::vector<std::string>& names,
+                                   const std::string& source) const {
+    Place place{joined(base, names), Outcome::present};
+    if (look_for(place.path, source) == Exact::yes)
         return place;
     if (!is_folder(base.empty() ? "/" : base))
-        throw Failure{failure_number::device_unavailable, path.text()};
+        throw Failure{failure_number::device_unavailable, source};
 
     place.path = base;
-    for (std::size_t i = 0; i < path.names.size(); ++i) {
-        const std::string& name = path.names[i];
-        std::string next = place.path + "/" + name;
-        if (place.outcome == Outcome::present && look_for(next, path) == Exact::no) {
-            if (const auto found = spelling(place.path.empty() ? "/" : place.path, name))
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const bool is_last = i + 1 == names.size();
+        std::string next = place.path + "/" + names[i];
+        if (place.outcome == Outcome::present && look_for(next, source) == Exact::no) {
+            if (const auto found = spelling(place.path.empty() ? "/" : place.path, names[i]))
                 next = place.path + "/" + *found;
             else
-                place.outcome = i + 1 < path.names.size() ? Outcome::folder_missing : Outcome::missing;
+                place.outcome = is_last ? Outcome::missing : Outcome::folder_missing;
         }
         place.path = std::move(next);
-        if (place.outcome == Outcome::present && i + 1 < path.names.size() && !is_folder(place.path))
+        if (place.outcome == Outcome::present && !is_last && !is_folder(place.path))
             place.outcome = Outcome::folder_missing;
     }
     return place;

@@ -10,10 +10,12 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-
-#include "platform/host/station_path.h"
+#include <vector>
 
 namespace sonarelle {
+
+/// True for a file's name on this machine that a path of the station can hold.
+[[nodiscard]] bool can_be_named(std::string_view name);
 
 /// Calls `use` with each name in a folder of this machine, and its kind (DT_…), until it returns false.
 /// Returns false when the folder can't be read.
@@ -31,9 +33,11 @@ public:
         Outcome outcome = Outcome::present;
     };
 
-    /// Looks for the names of `path` one after the other below `base`, the exact name first.
+    /// Looks for the names one after the other below `base` (a folder without a final slash), the exact one first.
+    /// Failures name `source`.
     /// @throws Failure 68 when `base` itself is not to be reached, 70 without rights, 57 and 71 for a disk's fault.
-    [[nodiscard]] Place find(const std::string& base, const StationPath& path) const;
+    [[nodiscard]] Place find(const std::string& base, const std::vector<std::string>& names,
+                             const std::string& source) const;
 
 private:
     struct Folder {

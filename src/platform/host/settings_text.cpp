@@ -159,6 +159,7 @@ std::vector<Setting> SettingsText::all(std::string_view application) const {
     for (const Section& section : found->sections)
         for (const auto& [key, value] : section.values)
             result.push_back({section.name, key, value});
+    std::ranges::stable_sort(result, {}, [](const Setting& setting) { return lower_case(setting.section); });
     return result;
 }
 

@@ -1,8 +1,24 @@
 #include "platform/paths.h"
 
+#include <optional>
+
 #include "platform/text.h"
 
 namespace sonarelle {
+
+namespace {
+
+/// Takes a character from both, if the one of the pattern stands for the one of the name.
+bool take_same(std::string_view& name, std::string_view& pattern) {
+    if (name.empty() || pattern.empty())
+        return false;
+    const bool any = pattern.front() == '?';
+    const char32_t wanted = take_character(pattern);
+    const char32_t found = take_character(name);
+    return any || wanted == found || equal_ignoring_case(character(wanted), character(found));
+}
+
+} // namespace
 
 std::string_view name_of_path(std::string_view path) {
     const auto last = path.rfind('\\');
@@ -44,22 +60,25 @@ bool has_forbidden_character(std::string_view name) {
 }
 
 bool matches_pattern(std::string_view name, std::string_view pattern) {
-    if (pattern.empty())
-        return name.empty();
-    if (pattern.front() == '*') {
-        for (std::string_view rest = name;; take_character(rest)) {
-            if (matches_pattern(rest, pattern.substr(1)))
-                return true;
-            if (rest.empty())
+    if (pattern == "*.*")
+        return true;
+    // Behind the last *, and where in the name it was tried last: on a mismatch that * takes one character more.
+    std::optional<std::string_view> behind_star;
+    std::string_view tried;
+    while (!name.empty() || !pattern.empty()) {
+        if (pattern.starts_with('*')) {
+            pattern.remove_prefix(1);
+            behind_star = pattern;
+            tried = name;
+        } else if (!take_same(name, pattern)) {
+            if (!behind_star || tried.empty())
                 return false;
+            take_character(tried);
+            name = tried;
+            pattern = *behind_star;
         }
     }
-    if (name.empty())
-        return pattern == ".*"; // so that *.* means every file
-    const bool any = pattern.front() == '?';
-    const char32_t wanted = take_character(pattern);
-    const char32_t found = take_character(name);
-    return (any || equal_ignoring_case(character(wanted), character(found))) && matches_pattern(name, pattern);
+    return true;
 }
 
 } // namespace sonarelle

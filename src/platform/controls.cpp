@@ -33,6 +33,8 @@ int ProgressBar::percent() const {
     const std::int64_t span = std::int64_t{maximum} - minimum;
     if (value >= maximum)
         return 100;
+    if (span <= 0)
+        return 0;
     return static_cast<int>(std::max<std::int64_t>(0, (std::int64_t{value} - minimum) * 100 / span));
 }
 

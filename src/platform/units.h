@@ -50,9 +50,13 @@ inline constexpr std::int64_t frames_per_millisecond = frame_rate / 1000;
 [[nodiscard]] constexpr double in_seconds(Frames frames) {
     return static_cast<double>(frames.count()) / static_cast<double>(frame_rate);
 }
-/// The frame nearest to a time in seconds.
+/// The frame nearest to a time in seconds. A time beyond all sound, which a damaged list may hold, gives a frame there,
+/// so far from the ends of the range that a sum of two doesn't overflow; what is no number gives frame 0.
 [[nodiscard]] constexpr Frames nearest_frame(double time_in_seconds) {
+    constexpr double farthest = 0x1p62;
     const double frames = time_in_seconds * static_cast<double>(frame_rate);
+    if (!(frames > -farthest && frames < farthest))
+        return Frames{frames > 0 ? INT64_MAX / 2 : frames < 0 ? INT64_MIN / 2 : 0};
     return Frames{static_cast<std::int64_t>(frames < 0 ? frames - 0.5 : frames + 0.5)};
 }
 

@@ -49,17 +49,24 @@ void RowTable::set_sub_item(int number, std::size_t column, std::string text) {
         row_observer_->row_changed(number);
 }
 
-void RowTable::sort_by(std::size_t column) {
+void RowTable::sort_by(std::size_t column, SortOrder order) {
     std::vector<std::pair<std::string, std::size_t>> keys;
     keys.reserve(rows_.size());
     for (std::size_t i = 0; i < rows_.size(); ++i)
         keys.emplace_back(lower_case(rows_[i][column]), i);
-    std::ranges::sort(keys);
+    std::ranges::stable_sort(keys, [order](const auto& a, const auto& b) {
+        return order == SortOrder::ascending ? a.first < b.first : b.first < a.first;
+    });
     std::vector<Row> sorted;
     sorted.reserve(rows_.size());
-    for (const auto& [key, index] : keys)
+    int selected = 0;
+    for (const auto& [key, index] : keys) {
         sorted.push_back(std::move(rows_[index]));
+        if (static_cast<int>(index) + 1 == selected_)
+            selected = static_cast<int>(sorted.size());
+    }
     rows_ = std::move(sorted);
+    selected_ = selected;
     if (row_observer_ != nullptr)
         row_observer_->rows_reset();
 }

@@ -16,6 +16,8 @@ struct Column {
     Twips width;
 };
 
+enum class SortOrder { ascending, descending };
+
 /// Who shows a table's rows. Row numbers count from 1.
 class RowTableObserver {
 public:
@@ -54,8 +56,8 @@ public:
     void remove(int number);
     void set_text(int number, std::string text) { set_sub_item(number, 0, std::move(text)); }
     void set_sub_item(int number, std::size_t column, std::string text);
-    /// Sorts by the texts of a column, ignoring case; equal ones keep their order.
-    void sort_by(std::size_t column);
+    /// Sorts by the texts of a column, ignoring case; equal ones keep their order. The selection goes with its row.
+    void sort_by(std::size_t column, SortOrder order = SortOrder::ascending);
 
     /// The selected row, 0 for none.
     [[nodiscard]] int selected() const { return selected_; }

@@ -1,0 +1,239 @@
+#include "playlist/record_reading.h"
+
+#include "support/station_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+class RecordReadingTest : public StationBench {
+protected:
+    void put_list(const std::vector<enreg_liste>& records) {
+        machine.disk.put_file("C:\\Sonarelle\\matin.dfm", bytes_of(records));
+        station.list.fichier_liste = "matin.dfm";
+        station.chain.fichier_courant = "matin.dfm";
+    }
+
+    void read_destination(int number) {
+        station.list.index_destinataire = number;
+        station.record_reading.lire_enreg_destinataire();
+    }
+
+    void read_dragged(int number) {
+        station.list.index_glisse = number;
+        station.record_reading.lire_enreg_dragdrop();
+    }
+
+    void read_for_deck(int number) {
+        station.list.index_destinataire = number;
+        station.deck_record.lire();
+    }
+};
+
+} // namespace
+
+TEST_F(RecordReadingTest, DoesNothingWithoutAList) {
+    station.destination.dest_chemin = "avant";
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_chemin, "avant");
+}
+
+TEST_F(RecordReadingTest, LeavesTheIndexZeroWithoutAList) {
+    read_destination(0);
+    EXPECT_EQ(station.list.index_destinataire, 0);
+}
+
+TEST_F(RecordReadingTest, OfIndexZeroReadsRecordOne) {
+    put_list({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
+    read_destination(0);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+}
+
+TEST_F(RecordReadingTest, OfIndexZeroLeavesOneThere) {
+    put_list({record_of("C:\\a.mp3")});
+    read_destination(0);
+    EXPECT_EQ(station.list.index_destinataire, 1);
+}
+
+TEST_F(RecordReadingTest, OfADraggedRowTurnsTheDestinationIndexZeroIntoOne) {
+    put_list({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
+    read_dragged(2);
+    EXPECT_EQ(station.list.index_destinataire, 1);
+    EXPECT_EQ(station.dragged.drop_chemin, "C:\\b.mp3");
+}
+
+TEST_F(RecordReadingTest, TrimsThePathOnBothSides) {
+    put_list({record_of("  C:\\a.mp3")});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+}
+
+TEST_F(RecordReadingTest, LowersTheCaseOfTheEnd) {
+    put_list({record_of("a", "1E2")});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_fin, "1e2");
+}
+
+TEST_F(RecordReadingTest, KeepsTheEightCharactersOfTheDuration) {
+    put_list({record_of("a", "1", 100, 0, "", "X")});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_duree, "X       ");
+}
+
+TEST_F(RecordReadingTest, KeepsTheStartAsItIs) {
+    put_list({record_of("a", "1", 100, 1.23456)});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_debut, 1.23456);
+}
+
+TEST_F(RecordReadingTest, GivesTheVolumeAsAttenuationAndInPercent) {
+    put_list({record_of("a", "1", 80)});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_volume, -800);
+    EXPECT_EQ(station.destination.dest_volume_pourcent, 80);
+}
+
+TEST_F(RecordReadingTest, PassesVolumeFiveToThePlayer) {
+    put_list({record_of("a", "1", 5)});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_volume, 5);
+}
+
+TEST_F(RecordReadingTest, LeavesAVolumeAbove100Alone) {
+    put_list({record_of("a", "1", 150)});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_volume, 150);
+}
+
+TEST_F(RecordReadingTest, NamesTheFileBehindTheLastBackslash) {
+    put_list({record_of("C:\\Musique\\titre.mp3")});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_nom_fichier, "titre.mp3");
+}
+
+TEST_F(RecordReadingTest, BehindTheEndLeavesTheRecordOfTheReadBefore) {
+    put_list({record_of("C:\\a.mp3")});
+    read_destination(1);
+    read_destination(2);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+}
+
+TEST_F(RecordReadingTest, OfAnUnreadableDiskSaysNothing) {
+    put_list({record_of("C:\\a.mp3")});
+    machine.disk.fail_read_at("C:\\Sonarelle\\matin.dfm", 10);
+    read_destination(1);
+    EXPECT_TRUE(machine.dialogs.asked().empty());
+}
+
+TEST_F(RecordReadingTest, ResolvesARelativeNameInTheProgramFolder) {
+    put_list({record_of("C:\\a.mp3")});
+    machine.disk.put_folder("C:\\Ailleurs");
+    machine.disk.ChDir("C:\\Ailleurs");
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+}
+
+TEST_F(RecordReadingTest, PlaysVolumeZeroAtMinus4000) {
+    put_list({record_of("a", "1", 0)});
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_volume, -4000);
+}
+
+TEST_F(RecordReadingTest, WarnsOnceOfVolumeZero) {
+    put_list({record_of("a", "1", 0), record_of("b", "1", 0)});
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    read_destination(2);
+    EXPECT_EQ(machine.dialogs.asked().size(), 1U);
+}
+
+TEST_F(RecordReadingTest, SaysInTheWarningWhatToDo) {
+    put_list({record_of("a", "1", 0)});
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+              "le niveau son est nul\rvous devez si vous utilisez des listes\r\n\r\n"
+              "créés avec une version anterieure de Sonarelle\r"
+              "Mettez a jour vos listes (voir menu clic droit)\r"
+              "- Mettre a jour les infos de la liste -");
+}
+
+TEST_F(RecordReadingTest, SetsTheSlidersToFullWithTheWarningWhileADeckIsMain) {
+    put_list({record_of("a", "1", 0)});
+    station.chain.lecteur_en_cours = 2;
+    for (DeckControls& deck : station.main_window.decks)
+        deck.slider.set_value(7);
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    for (DeckControls& deck : station.main_window.decks)
+        EXPECT_EQ(deck.slider.value(), 0);
+}
+
+TEST_F(RecordReadingTest, LeavesTheSlidersAloneWithTheWarningWithoutAMainDeck) {
+    put_list({record_of("a", "1", 0)});
+    station.main_window.deck(1).slider.set_value(7);
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    EXPECT_EQ(station.main_window.deck(1).slider.value(), 7);
+}
+
+TEST_F(RecordReadingTest, DoesNotWaitForTheOperatorInsideATick) {
+    put_list({record_of("a", "1", 0)});
+    Timer tick{"Timer1", 1, machine.scheduler};
+    tick.on_tick = [this] { read_destination(1); };
+    tick.set_interval(1000);
+    tick.enable();
+    machine.run_for(seconds(1));
+    EXPECT_TRUE(station.warning_window.visible);
+    EXPECT_TRUE(machine.dialogs.asked().empty());
+}
+
+TEST_F(RecordReadingTest, OfADraggedRowRoundsTheStartToTwoDecimals) {
+    put_list({record_of("a", "1", 100, 1.236)});
+    read_dragged(1);
+    EXPECT_EQ(station.dragged.drop_debut, 1.24);
+}
+
+TEST_F(RecordReadingTest, OfADraggedRowKeepsThePercent) {
+    put_list({record_of("a", "1", 80)});
+    read_dragged(1);
+    EXPECT_EQ(station.dragged.drop_volume, 80);
+}
+
+TEST_F(RecordReadingTest, OfADraggedRowGivesNoWarning) {
+    put_list({record_of("a", "1", 0)});
+    read_dragged(1);
+    EXPECT_TRUE(machine.dialogs.asked().empty());
+}
+
+TEST_F(RecordReadingTest, ForADeckGivesTheEndInWholeSecondsHalvesToEven) {
+    put_list({record_of("a", "200.50"), record_of("b", "201,5")});
+    read_for_deck(1);
+    EXPECT_EQ(station.destination.dest_fin, "200");
+    read_for_deck(2);
+    EXPECT_EQ(station.destination.dest_fin, "202");
+}
+
+TEST_F(RecordReadingTest, ForADeckFailsOnAnEndBeyond16Bits) {
+    put_list({record_of("C:\\a.mp3", "40000")});
+    station.destination.dest_fin = "avant";
+    read_for_deck(1);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(station.destination.dest_fin, "avant");
+}
+
+TEST_F(RecordReadingTest, ForADeckKeepsThePercent) {
+    put_list({record_of("a", "1", 80)});
+    read_for_deck(1);
+    EXPECT_EQ(station.destination.dest_volume, 80);
+}
+
+TEST_F(RecordReadingTest, ForADeckReadsRecordOneForIndexZero) {
+    put_list({record_of("C:\\a.mp3")});
+    read_for_deck(0);
+    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(station.list.index_destinataire, 1);
+}
+
+} // namespace sonarelle

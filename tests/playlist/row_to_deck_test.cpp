@@ -1,0 +1,65 @@
+#include "playlist/row_to_deck.h"
+
+#include "support/station_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+class RowToDeckTest : public StationBench {
+protected:
+    RowToDeck row_to_deck{machine.platform,
+                          station.list,
+                          station.destination,
+                          station.chain,
+                          station.list_window,
+                          station.record_reading,
+                          [this](int deck) { loaded.push_back(deck); }};
+    std::vector<int> loaded;
+};
+
+} // namespace
+
+TEST_F(RowToDeckTest, LoadsTheDeckThatWasNamed) {
+    open_list("C:\\matin.dfm", {record_of("C:\\a.mp3")});
+    rows().select(1);
+    row_to_deck.Charg1_son();
+    row_to_deck.charg2_son();
+    row_to_deck.Charg3_son();
+    EXPECT_EQ(loaded, (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(RowToDeckTest, ReadsTheRecordFromTheFileNotFromTheRow) {
+    open_list("C:\\matin.dfm", {record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
+    rows().select(2);
+    rows().set_text(2, "C:\\autre.mp3");
+    row_to_deck.Charg1_son();
+    EXPECT_EQ(station.list.chemin_fichier, "C:\\b.mp3");
+    EXPECT_EQ(station.list.chemin_lecture, "C:\\b.mp3");
+}
+
+TEST_F(RowToDeckTest, DoesNothingWithoutAList) {
+    rows().append({"a", "0.10", "1.00", "", "100", ""});
+    rows().select(1);
+    row_to_deck.Charg1_son();
+    EXPECT_TRUE(loaded.empty());
+    EXPECT_EQ(station.list.index_destinataire, 1);
+}
+
+TEST_F(RowToDeckTest, OffersTheTwoDecksThatAreNotOnTheAir) {
+    station.chain.lecteur_en_cours = 2;
+    station.list_window.Load_Pl.open();
+    EXPECT_TRUE(station.list_window.char1.enabled);
+    EXPECT_FALSE(station.list_window.char2.enabled);
+    EXPECT_TRUE(station.list_window.char3.enabled);
+}
+
+TEST_F(RowToDeckTest, OffersPastingWhileTheClipboardHoldsText) {
+    station.list_window.Load_Pl.open();
+    EXPECT_FALSE(station.list_window.coller.enabled);
+    machine.shell.set_clipboard_text("C:\\a.mp3");
+    station.list_window.Load_Pl.open();
+    EXPECT_TRUE(station.list_window.coller.enabled);
+}
+
+} // namespace sonarelle

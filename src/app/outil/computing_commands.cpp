@@ -10,15 +10,22 @@ namespace sonarelle {
 
 namespace {
 
+double duration_of(const std::string& word) {
+    const double seconds = to_double(word, DecimalMark::point);
+    if (seconds < 0)
+        throw Failure{failure_number::wrong_call, word, "une durée n'est pas négative"};
+    return seconds;
+}
+
 template <std::string convert(double)>
 void for_each_duration(const Call& call) {
     (void)call.arguments.word(0, "SECONDES");
     std::string lines;
     for (const std::string& word : call.arguments.words())
         try {
-            lines += convert(to_double(word, DecimalMark::point)) + "\n";
+            lines += convert(duration_of(word)) + "\n";
         } catch (const Failure& failure) {
-            throw Failure{failure.number, word};
+            throw Failure{failure.number, word, failure.description};
         }
     call.out << lines;
 }

@@ -60,12 +60,10 @@ bool has_forbidden_character(std::string_view name) {
 }
 
 bool matches_pattern(std::string_view name, std::string_view pattern) {
-    if (pattern == "*.*")
-        return true;
     // Behind the last *, and where in the name it was tried last: on a mismatch that * takes one character more.
     std::optional<std::string_view> behind_star;
     std::string_view tried;
-    while (!name.empty() || !pattern.empty()) {
+    while (!name.empty() || !(pattern.empty() || pattern == ".*")) {
         if (pattern.starts_with('*')) {
             pattern.remove_prefix(1);
             behind_star = pattern;

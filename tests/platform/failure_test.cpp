@@ -1,0 +1,46 @@
+#include "platform/failure.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace sonarelle {
+
+namespace {
+
+TEST(Failure, SaysItsSourceAndItsSentence) {
+    const Failure failure{failure_number::file_not_found, "D:\\a.mp3"};
+    EXPECT_STREQ(failure.what(), "D:\\a.mp3 : Fichier introuvable");
+}
+
+TEST(Failure, WithoutASourceSaysItsSentenceAlone) {
+    EXPECT_STREQ(Failure{failure_number::overflow}.what(), "Dépassement de capacité");
+}
+
+TEST(Failure, AnUnknownNumberHasASentenceToo) {
+    EXPECT_EQ(failure_description(4711), "Erreur inconnue");
+}
+
+TEST(ErrorIndicator, SkipsAFailingStatementAndKeepsItsNumber) {
+    ErrorIndicator errors;
+    EXPECT_FALSE(errors.skip([] { throw Failure{failure_number::disk_full}; }));
+    EXPECT_EQ(errors.number(), failure_number::disk_full);
+}
+
+TEST(ErrorIndicator, AGoodStatementLeavesTheLastNumber) {
+    ErrorIndicator errors;
+    errors.skip([] { throw Failure{failure_number::disk_full}; });
+    EXPECT_TRUE(errors.skip([] {}));
+    EXPECT_TRUE(errors.is_set());
+    errors.clear();
+    EXPECT_FALSE(errors.is_set());
+}
+
+TEST(ErrorIndicator, LetsOtherExceptionsThrough) {
+    ErrorIndicator errors;
+    EXPECT_THROW(errors.skip([] { throw std::logic_error{"ours"}; }), std::logic_error);
+}
+
+} // namespace
+
+} // namespace sonarelle

@@ -1,0 +1,135 @@
+#!/usr/bin/env python3
+"""The words `calcul …`, `reglages …` and `lecteurs …` of sonarelle-outil, and what all words have in common."""
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+TOOL = os.environ["SONARELLE_OUTIL"]
+
+
+class Tool(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.station = Path(folder.name) / "station"
+
+    def start(self, *words):
+        return subprocess.Popen([TOOL, *words, "--dossier", str(self.station)], stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE)
+
+    def call(self, *words, status=0):
+        run = self.start(*words)
+        out, error = run.communicate()
+        self.assertEqual(run.returncode, status, error.decode())
+        self.error = error.decode()
+        return out.decode()
+
+
+class Words(Tool):
+    def test_answer_status_2_with_the_usage_when_they_are_unknown(self):
+        self.call("danser", status=2)
+        self.assertIn("liste voir", self.error)
+
+    def test_answer_status_2_without_a_command(self):
+        self.assertEqual(subprocess.run([TOOL], capture_output=True, check=False).returncode, 2)
+
+    def test_with_a_character_outside_windows_1252_are_refused_by_name(self):
+        self.call("reglages", "ecrire", "Config", "Nom_antenne_fm", "日", status=1)
+        self.assertIn("日", self.error)
+        self.call("reglages", "lire", "Config", "Nom_antenne_fm", status=1)
+
+
+class Durations(Tool):
+    def test_of_the_title_line(self):
+        self.assertEqual(self.call("calcul", "heure", "200.03", "59", "61", "3600", "32767").split(),
+                         ["00:03:20", "00:00:59", "00:01:01", "01:00:00", "09:06:07"])
+
+    def test_of_the_file_manager(self):
+        self.assertEqual(self.call("calcul", "duree", "61", "100", "0").split(), ["00:01:01", "00:01:40", "00:00:01"])
+
+    def test_beyond_16_bits_are_refused(self):
+        self.call("calcul", "heure", "32768", status=1)
+        self.assertIn("32768", self.error)
+
+    def test_that_are_no_numbers_are_refused_and_nothing_is_printed(self):
+        self.assertEqual(self.call("calcul", "heure", "12", "abc", status=1), "")
+
+    def test_want_a_number(self):
+        self.call("calcul", "heure", status=2)
+
+
+class SettingsWords(Tool):
+    def test_write_and_read_a_value(self):
+        self.call("reglages", "ecrire", "Config", "Nom_antenne_fm", "Radio Été")
+        self.assertEqual(self.call("reglages", "lire", "config", "NOM_ANTENNE_FM"), "Radio Été\n")
+
+    def test_refuse_a_key_without_a_value(self):
+        self.call("reglages", "lire", "Config", "Mix", status=1)
+
+    def test_list_section_key_and_value(self):
+        self.call("reglages", "premier")
+        self.assertIn("Config\tMix_audio\t10", self.call("reglages").splitlines())
+
+    def test_list_one_json_value_a_line(self):
+        self.call("reglages", "premier")
+        rows = [json.loads(line) for line in self.call("reglages", "--json").splitlines()]
+        self.assertIn({"section": "Config", "cle": "Mix_audio_vitesse", "valeur": "35"}, rows)
+
+    def test_name_a_damaged_file(self):
+        self.call("reglages", "premier")
+        (self.station / "reglages.json").write_text("{ abîmé")
+        self.call("reglages", status=1)
+        self.assertIn("reglages.json", self.error)
+
+    def test_set_a_damaged_file_aside_before_they_write(self):
+        self.station.mkdir()
+        (self.station / "reglages.json").write_text("{ abîmé")
+        self.call("reglages", "ecrire", "Config", "Mix", "6")
+        self.assertEqual((self.station / "reglages.json.abime").read_text(), "{ abîmé")
+        self.assertEqual(self.call("reglages", "lire", "Config", "Mix"), "6\n")
+
+    def test_of_many_programs_at_once_lose_nothing(self):
+        runs = [self.start("reglages", "ecrire", "Config", f"Cle{number}", str(number)) for number in range(40)]
+        for run in runs:
+            run.communicate()
+            self.assertEqual(run.returncode, 0)
+        for number in range(40):
+            self.assertEqual(self.call("reglages", "lire", "Config", f"Cle{number}"), f"{number}\n")
+
+
+class Drives(Tool):
+    def test_begin_with_the_machines_root_as_c(self):
+        self.assertEqual(self.call("lecteurs"), "C\t/\n")
+
+    def test_are_set_and_removed(self):
+        self.call("lecteurs", "d", "/srv/musique")
+        self.assertEqual(self.call("lecteurs"), "C\t/\nD\t/srv/musique\n")
+        self.call("lecteurs", "D", "--oter")
+        self.assertEqual(self.call("lecteurs"), "C\t/\n")
+
+    def test_hold_a_share(self):
+        self.call("lecteurs", "\\\\serveur\\partage", "/mnt/partage")
+        self.assertIn("\\\\serveur\\partage\t/mnt/partage\n", self.call("lecteurs"))
+
+    def test_of_one_call_are_not_kept(self):
+        self.assertIn("M\t/media\n", self.call("lecteurs", "--lecteur", "M=/media"))
+        self.assertEqual(self.call("lecteurs"), "C\t/\n")
+
+    def test_refuse_what_is_no_drive(self):
+        self.call("lecteurs", "DD", "/srv", status=1)
+
+    def test_of_one_call_want_a_letter_and_a_folder(self):
+        self.call("lecteurs", "--lecteur", "M", status=2)
+
+    def test_that_reach_nothing_refuse_a_file_by_name(self):
+        self.call("lecteurs", "C", "--oter")
+        self.call("liste", "voir", "/tmp/absente.dfm", status=1)
+        self.assertIn("absente.dfm", self.error)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,53 @@
+#include "platform/audio/bus_taps.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace sonarelle {
+
+namespace {
+
+constexpr float power_share = 1.0F / (0.4F * static_cast<float>(frame_rate));
+
+} // namespace
+
+void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
+    std::array<float, 2> peak{};
+    auto place = static_cast<std::size_t>(at.count());
+    for (std::size_t frame = 0; frame + 1 < frames.size(); frame += 2, ++place) {
+        for (std::size_t channel = 0; channel < 2; ++channel) {
+            const float sample = frames[frame + channel];
+            peak[channel] = std::max(peak[channel], std::abs(sample));
+            running_power_[channel] += (sample * sample - running_power_[channel]) * power_share;
+        }
+        frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_relaxed);
+    }
+    for (std::size_t channel = 0; channel < 2; ++channel) {
+        // A reader's reset between the two is lost: the meter then shows an old peak once more.
+        if (peak[channel] > peak_[channel].load(std::memory_order_relaxed))
+            peak_[channel].store(peak[channel], std::memory_order_relaxed);
+        power_[channel].store(running_power_[channel], std::memory_order_relaxed);
+    }
+    end_.store(static_cast<std::int64_t>(place), std::memory_order_release);
+}
+
+Level BusTaps::level() {
+    Level level;
+    for (std::size_t channel = 0; channel < 2; ++channel) {
+        level.peak[channel] = peak_[channel].exchange(0, std::memory_order_relaxed);
+        level.power[channel] = power_[channel].load(std::memory_order_relaxed);
+    }
+    return level;
+}
+
+void BusTaps::newest(std::span<float> frames) const {
+    const std::size_t count = std::min(frames.size() / 2, kept_frames / 2);
+    const auto begin = static_cast<std::size_t>(end_.load(std::memory_order_acquire)) + kept_frames - count;
+    for (std::size_t frame = 0; frame < count; ++frame) {
+        const std::uint64_t both = frames_[(begin + frame) % kept_frames].load(std::memory_order_relaxed);
+        frames[2 * frame] = std::bit_cast<float>(static_cast<std::uint32_t>(both >> 32));
+        frames[2 * frame + 1] = std::bit_cast<float>(static_cast<std::uint32_t>(both));
+    }
+}
+
+} // namespace sonarelle

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <bit>
+#include <cstdint>
+#include <span>
+
+#include "platform/units.h"
+
+namespace sonarelle {
+
+/// What the meters show, each channel from 0 (silence) to 1 (full).
+struct Level {
+    std::array<float, 2> peak{};  ///< The greatest since it was last asked for.
+    std::array<float, 2> power{}; ///< Mean of the squares over the last 400 ms or so.
+};
+
+/// What leaves the bus, for meters, scope and spectrum. The callback writes, one other thread reads; neither waits.
+class BusTaps {
+public:
+    static constexpr std::size_t kept_frames = 16384;
+
+    /// From the callback. `at` is the bus frame of the first of these frames.
+    void take(std::span<const float> frames, Frames at) noexcept;
+
+    [[nodiscard]] Level level();
+    /// The newest frames, two floats each, oldest first; at most half of the kept ones.
+    void newest(std::span<float> frames) const;
+
+private:
+    static std::uint64_t packed(float left, float right) {
+        return std::uint64_t{std::bit_cast<std::uint32_t>(left)} << 32 | std::bit_cast<std::uint32_t>(right);
+    }
+
+    std::array<std::atomic<std::uint64_t>, kept_frames> frames_{};
+    std::atomic<std::int64_t> end_{0};
+    std::array<std::atomic<float>, 2> peak_{};
+    std::array<std::atomic<float>, 2> power_{};
+    std::array<float, 2> running_power_{};
+};
+
+} // namespace sonarelle

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "platform/audio/length_cache.h"
+#include "platform/audio/patience.h"
+#include "platform/audio/prepared_files.h"
+#include "platform/audio/sound_files.h"
+
+namespace sonarelle {
+
+/// Opens files for playing and measures them, each as seldom as it can. From the window thread.
+class FileOpener {
+public:
+    FileOpener(std::shared_ptr<SoundFiles> files, Patience patience) : files_{std::move(files)}, patience_{patience} {}
+
+    /// @throws Failure 53, 57 (also when the disk doesn't answer in time), 70 or 1001.
+    [[nodiscard]] PreparedFile open(const std::string& path);
+
+    /// In seconds; may read the whole file.
+    /// @throws Failure 57 when the disk fails or doesn't answer in time; the file can't be used any more then.
+    [[nodiscard]] double measure(PreparedFile& file);
+
+    /// Takes back a file of which nothing has been played.
+    void keep(PreparedFile file) { prepared_.keep(std::move(file)); }
+    void forget_old() { prepared_.forget_old(); }
+
+private:
+    std::shared_ptr<SoundFiles> files_;
+    Patience patience_;
+    PreparedFiles prepared_;
+    LengthCache lengths_;
+};
+
+} // namespace sonarelle

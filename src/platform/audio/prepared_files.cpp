@@ -1,0 +1,37 @@
+#include "platform/audio/prepared_files.h"
+
+#include <algorithm>
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::size_t most_kept = 4;
+constexpr std::chrono::seconds kept_for{10};
+
+} // namespace
+
+void PreparedFiles::keep(PreparedFile file) {
+    files_.push_front({std::move(file), std::chrono::steady_clock::now()});
+    if (files_.size() > most_kept)
+        files_.pop_back();
+}
+
+std::optional<PreparedFile> PreparedFiles::take(const std::string& path, const FileFacts& facts) {
+    const auto found = std::ranges::find_if(
+        files_, [&](const Kept& kept) { return kept.file.path == path && kept.file.facts == facts; });
+    if (found == files_.end())
+        return std::nullopt;
+    PreparedFile file = std::move(found->file);
+    files_.erase(found);
+    return file;
+}
+
+void PreparedFiles::forget_old() {
+    if (files_.empty())
+        return;
+    const auto limit = std::chrono::steady_clock::now() - kept_for;
+    files_.remove_if([limit](const Kept& kept) { return kept.since < limit; });
+}
+
+} // namespace sonarelle

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/audio/decoder.h"
+#include "platform/disk.h"
+
+namespace sonarelle {
+
+/// A file opened for playing of which nothing has been played yet: a decoder, and what it gave first.
+struct PreparedFile {
+    std::string path; ///< On this machine.
+    FileFacts facts;
+    std::unique_ptr<Decoder> decoder;
+    std::vector<float> opening; ///< From frame 0 on, two floats a frame.
+};
+
+/// Keeps the few files that were opened last and given up unplayed: a chain opens the same file several times around
+/// one start. They are kept for seconds, so that no disk stays busy.
+class PreparedFiles {
+public:
+    void keep(PreparedFile file);
+    /// The prepared file, if it is the same still: path, size and time.
+    [[nodiscard]] std::optional<PreparedFile> take(const std::string& path, const FileFacts& facts);
+    void forget_old();
+
+private:
+    using Instant = std::chrono::steady_clock::time_point;
+    struct Kept {
+        PreparedFile file;
+        Instant since;
+    };
+    std::list<Kept> files_; // newest first
+};
+
+} // namespace sonarelle

@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+
+#include "platform/audio/limiter.h"
+#include "sound_bench.h"
+
+namespace sonarelle {
+namespace {
+
+// Three graphs with commands on odd frames, rendered in blocks of one size.
+std::vector<float> programme_in_blocks(const SoundFolder& folder, std::size_t block) {
+    Scheduler scheduler;
+    VirtualTime time{scheduler};
+    ProgrammeBus bus;
+    SoundMedia media{time, bus, std::make_shared<MachineFiles>(),
+                     [](std::string_view path) { return std::string{path}; }, Decoding::inline_with_rendering};
+    std::vector<std::shared_ptr<MediaGraph>> graphs;
+    for (const char* name : {"a.wav", "b.wav", "a.wav"}) {
+        graphs.push_back(media.create_graph());
+        graphs.back()->RenderFile(folder.path(name));
+    }
+    time.at(Frames{7}, [&] { graphs[0]->Run(); });
+    time.at(Frames{1501}, [&] { graphs[1]->Run(); });
+    time.at(Frames{3333}, [&] { graphs[0]->put_Volume(Millibel{-600}); });
+    time.at(Frames{3500}, [&] { graphs[0]->put_Volume(Millibel{-1200}); });
+    time.at(Frames{5002}, [&] { graphs[2]->put_CurrentPosition(0.7); });
+    time.at(Frames{5002}, [&] { graphs[2]->Run(); });
+    time.at(Frames{6001}, [&] { graphs[1]->Pause(); });
+    time.at(Frames{6200}, [&] { graphs[1]->Run(); });
+    time.at(Frames{8009}, [&] { graphs[2]->put_CurrentPosition(0.1); });
+    time.at(Frames{9999}, [&] { graphs[0].reset(); });
+    time.run_until(Frames{12000}); // all commands are in the queue now, each with its frame
+
+    std::vector<float> heard;
+    std::vector<float> piece(2 * block);
+    while (bus.rendered() < Frames{12000}) {
+        media.feed();
+        const auto left = static_cast<std::size_t>((Frames{12000} - bus.rendered()).count());
+        bus.render(piece.data(), std::min(block, left));
+        heard.insert(heard.end(), piece.begin(), piece.begin() + std::ptrdiff_t(2 * std::min(block, left)));
+    }
+    return heard;
+}
+
+TEST(ProgrammeBus, SoundsTheSameInWhateverBlocksItIsRendered) {
+    const SoundFolder folder;
+    folder.encoded("a.wav", 1, "-ar 48000 -af volume=2.2");
+    folder.encoded("b.wav", 1, "");
+    const auto whole = programme_in_blocks(folder, 4096);
+    EXPECT_GT(*std::max_element(whole.begin(), whole.end()), 0.8F) << "the limiter has work to do";
+    for (const std::size_t block : {1U, 64U, 441U, 1024U})
+        EXPECT_EQ(programme_in_blocks(folder, block), whole) << block;
+}
+
+TEST(ProgrammeBus, CountsTheFramesThatItHasMade) {
+    ProgrammeBus bus;
+    std::vector<float> out(2 * 1000, 1.0F);
+    bus.render(out.data(), 300);
+    bus.render(out.data(), 1000);
+    EXPECT_EQ(bus.rendered(), Frames{1300});
+    EXPECT_EQ(bus.greatest_block(), Frames{1000});
+    EXPECT_EQ(*std::max_element(out.begin(), out.end()), 0.0F);
+}
+
+TEST(Limiter, PassesWhatStaysBelowOneDecibelBitForBit) {
+    Limiter limiter;
+    std::vector<float> frames;
+    for (int sample = 0; sample < 10000; ++sample)
+        frames.push_back(Limiter::ceiling * static_cast<float>(std::sin(sample * 0.37)));
+    auto limited = frames;
+    limiter.apply(limited);
+    EXPECT_EQ(limited, frames);
+}
+
+TEST(Limiter, NeverLetsMoreThanItsCeilingPass) {
+    Limiter limiter;
+    std::vector<float> frames;
+    for (int sample = 0; sample < 100000; ++sample)
+        frames.push_back(3.0F * static_cast<float>(std::sin(sample * 0.37) * std::sin(sample * 0.0011)));
+    limiter.apply(frames);
+    for (const float sample : frames)
+        ASSERT_LE(std::abs(sample), Limiter::ceiling);
+}
+
+TEST(Limiter, IsTransparentAgainAfterALoudPlace) {
+    Limiter limiter;
+    std::vector<float> frames(2 * 48000, 0.5F);
+    frames[10] = 2.0F;
+    limiter.apply(frames);
+    EXPECT_LT(frames[12], 0.5F);
+    EXPECT_EQ(frames.back(), 0.5F);
+}
+
+TEST(BusTaps, ShowPeakPowerAndTheNewestFrames) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+    graph->Run();
+    bench.run_for(Frames{20000});
+    const Level level = bench.bus.taps().level();
+    EXPECT_NEAR(level.peak[1], 0.3, 0.001);
+    EXPECT_NEAR(level.power[1], 0.045 * (1 - std::exp(-20000.0 / 19200)), 0.002);
+    EXPECT_EQ(bench.bus.taps().level().peak[1], 0.0F) << "asked for, a peak begins anew";
+    std::vector<float> newest(2 * 100);
+    bench.bus.taps().newest(newest);
+    EXPECT_TRUE(std::equal(newest.begin(), newest.end(), bench.heard.end() - 200));
+}
+
+} // namespace
+} // namespace sonarelle

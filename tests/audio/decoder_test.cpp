@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "sound_bench.h"
+
+namespace sonarelle {
+namespace {
+
+struct Format {
+    const char* name;
+    const char* options;
+    double seconds;  ///< What decoding gives for 12 s of music.
+    double accuracy; ///< One frame of the codec.
+};
+
+constexpr double mpeg_frame_seconds = 1152.0 / 44100;
+
+class EveryFormat : public testing::TestWithParam<Format> {
+protected:
+    SoundFolder folder;
+    std::string path = folder.encoded(GetParam().name, 12, GetParam().options);
+};
+
+TEST_P(EveryFormat, HasTheLengthThatDecodingGives) {
+    const double announced = decoder_of(path)->duration();
+    const double given = static_cast<double>(decoded(path).size()) / 2 / static_cast<double>(frame_rate);
+    EXPECT_NEAR(announced, GetParam().seconds, GetParam().accuracy);
+    EXPECT_NEAR(given, announced, GetParam().accuracy);
+}
+
+TEST_P(EveryFormat, GivesAfterASeekWhatDecodingFromTheStartHasThere) {
+    const auto whole = decoded(path);
+    const auto decoder = decoder_of(path);
+    std::vector<float> piece(2 * 3000);
+    for (const std::int64_t frame : {400'003, 17, 500'000, 123'457, 1, 300'000, 303'000, 0}) {
+        decoder->seek(Frames{frame});
+        ASSERT_EQ(decoder->read(piece), 3000U) << frame;
+        EXPECT_TRUE(std::equal(piece.begin(), piece.end(), whole.begin() + 2 * frame)) << "at frame " << frame;
+    }
+}
+
+TEST_P(EveryFormat, PlaysTheMusicAtFullLength) {
+    const auto whole = decoded(path);
+    const auto peak_around = [&](std::size_t second) {
+        return *std::max_element(whole.begin() + std::ptrdiff_t(second * 96000),
+                                 whole.begin() + std::ptrdiff_t(second * 96000 + 9600));
+    };
+    for (const std::size_t second : {1U, 6U, 11U})
+        EXPECT_GT(peak_around(second), 0.32) << second;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Formats, EveryFormat,
+    testing::Values(
+        Format{"cbr.mp3", "-b:a 128k", 12, mpeg_frame_seconds}, Format{"vbr.mp3", "-q:a 2", 12, mpeg_frame_seconds},
+        Format{"cbr_without_header.mp3", "-b:a 128k -write_xing 0", 12.03, mpeg_frame_seconds},
+        Format{"vbr_without_header.mp3", "-q:a 2 -write_xing 0", 12.03, mpeg_frame_seconds},
+        Format{"mono_22k.mp3", "-ac 1 -ar 22050", 12, mpeg_frame_seconds},
+        Format{"tagged.mp3", "-metadata title=T -write_id3v1 1", 12, mpeg_frame_seconds},
+        Format{"layer2.mp2", "", 12.02, mpeg_frame_seconds}, Format{"cd.wav", "", 12, 0.00001},
+        Format{"mono_8bit.wav", "-ac 1 -c:a pcm_u8", 12, 0.00001},
+        Format{"float.wav", "-c:a pcm_f32le -ar 48000", 12, 0.00001},
+        Format{"deep.wav", "-c:a pcm_s24le -ar 96000", 12, 0.00001}, Format{"law.wav", "-c:a pcm_alaw", 12, 0.001},
+        Format{"two.wma", "", 12, 2048.0 / 44100}, Format{"one.wma", "-c:a wmav1", 12, 2048.0 / 44100},
+        Format{"sound.avi", "-c:a libmp3lame", 12.03, mpeg_frame_seconds},
+        Format{"sound.mpg", "-c:a mp2", 12.02, mpeg_frame_seconds}, Format{"open.ogg", "-c:a libvorbis", 12, 0.03},
+        Format{"lossless.flac", "", 12, 0.001}, Format{"tele.m4a", "-c:a aac", 12, 0.03}),
+    [](const auto& tested) {
+        std::string name = tested.param.name;
+        std::ranges::replace(name, '.', '_');
+        return name;
+    });
+
+TEST(Decoder, PlaysMonoOnBothSides) {
+    const SoundFolder folder;
+    const auto whole = decoded(folder.encoded("mono.mp3", 1, "-ac 1"));
+    for (std::size_t frame = 0; frame < whole.size() / 2; ++frame)
+        ASSERT_EQ(whole[2 * frame], whole[2 * frame + 1]);
+}
+
+TEST(Decoder, GivesThePlainSamplesOfA48KhzWav) {
+    const SoundFolder folder;
+    const auto whole = decoded(folder.counting_wav("count.wav", 1));
+    for (std::int64_t frame = 0; frame < 48000; ++frame)
+        ASSERT_EQ(whole[static_cast<std::size_t>(2 * frame)], counted(frame));
+}
+
+TEST(Decoder, TellsAFilmFromASong) {
+    const SoundFolder folder;
+    const auto film = folder.encoded("film.avi", 2, "-f lavfi -i testsrc=d=2:s=64x48 -c:a libmp3lame");
+    EXPECT_TRUE(decoder_of(film)->has_pictures());
+    EXPECT_FALSE(decoder_of(folder.encoded("song.mp3", 2, ""))->has_pictures());
+}
+
+TEST(Decoder, KnowsThatASilentFilmHasNoSound) {
+    const SoundFolder folder;
+    const auto film = folder.encoded("film.mpg", 2, "-f lavfi -i testsrc=d=2:s=64x48 -map 1:v");
+    const auto decoder = decoder_of(film);
+    EXPECT_FALSE(decoder->has_sound());
+    EXPECT_NEAR(decoder->duration(), 2, 0.1);
+}
+
+} // namespace
+} // namespace sonarelle

@@ -1,0 +1,231 @@
+#include <gtest/gtest.h>
+
+#include "platform/audio/gain.h"
+#include "platform/failure.h"
+#include "sound_bench.h"
+
+namespace sonarelle {
+namespace {
+
+int failure_of(const std::function<void()>& statement) {
+    try {
+        statement();
+        return 0;
+    } catch (const Failure& failure) {
+        return failure.number;
+    }
+}
+
+TEST(SoundGraph, IsHeardFromTheFrameOfRunOn) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    bench.run_for(Frames{1001});
+    graph->Run();
+    bench.run_for(Frames{30000});
+    EXPECT_EQ(bench.peak(0, 1001), 0.0F);
+    for (std::int64_t frame = 0; frame < 30000; ++frame)
+        ASSERT_EQ(bench.left(1001 + frame), counted(frame)) << frame;
+}
+
+TEST(SoundGraph, PositionGoesWithTheClockAndStandsAtTheEnd) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1.5));
+    graph->Run();
+    bench.run_for(seconds(1));
+    EXPECT_DOUBLE_EQ(graph->get_CurrentPosition(), 1.0);
+    bench.run_for(seconds(10));
+    EXPECT_DOUBLE_EQ(graph->get_CurrentPosition(), 1.5);
+    EXPECT_EQ(graph->GetState(), MediaState::running);
+}
+
+TEST(SoundGraph, IsSilentBehindItsEnd) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 0.5));
+    graph->Run();
+    bench.run_for(seconds(1));
+    EXPECT_EQ(bench.left(23999), counted(23999));
+    EXPECT_EQ(bench.peak(24000, 48000), 0.0F);
+}
+
+TEST(SoundGraph, GoesOnAfterAPauseWithTheNextFrame) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+    graph->Run();
+    bench.run_for(Frames{20000});
+    graph->Pause();
+    bench.run_for(Frames{5000});
+    graph->Run();
+    bench.run_for(Frames{5000});
+    EXPECT_EQ(bench.left(19999), counted(19999));
+    EXPECT_EQ(bench.left(25000), counted(20000));
+    EXPECT_EQ(bench.left(29999), counted(24999));
+}
+
+TEST(SoundGraph, StopDoesNotRewind) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+    graph->Run();
+    bench.run_for(seconds(1));
+    graph->Stop();
+    bench.run_for(seconds(1));
+    EXPECT_DOUBLE_EQ(graph->get_CurrentPosition(), 1.0);
+}
+
+TEST(SoundGraph, SeeksToTheSampleWhileItRuns) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
+    graph->Run();
+    bench.run_for(Frames{10000});
+    graph->put_CurrentPosition(2.0);
+    bench.run_for(Frames{10000});
+    EXPECT_EQ(bench.left(9999), counted(9999));
+    for (std::int64_t frame = 0; frame < 10000; ++frame)
+        ASSERT_EQ(bench.left(10000 + frame), counted(96000 + frame)) << frame;
+}
+
+TEST(SoundGraph, PlaysAnMp3FromAnyPlaceAsDecodingFromTheStartHasIt) {
+    SoundBench bench;
+    const auto path = bench.folder.encoded("a.mp3", 6, "-q:a 3");
+    const auto whole = decoded(path);
+    const auto graph = bench.graph(path);
+    graph->put_CurrentPosition(2.5);
+    graph->Run();
+    bench.run_for(seconds(3));
+    ASSERT_TRUE(std::equal(bench.heard.begin(), bench.heard.end(), whole.begin() + 2 * 120000));
+}
+
+TEST(SoundGraph, SeekBehindTheEndStandsAtTheEnd) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->Run();
+    graph->put_CurrentPosition(5);
+    bench.run_for(milliseconds(100));
+    EXPECT_DOUBLE_EQ(graph->get_CurrentPosition(), 1.0);
+    EXPECT_EQ(bench.peak(0, 4800), 0.0F);
+}
+
+TEST(SoundGraph, TwoSeeksOfOneInstantPlayTheSecond) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
+    graph->Run();
+    graph->put_CurrentPosition(2.0);
+    graph->put_CurrentPosition(1.0);
+    bench.run_for(Frames{100});
+    EXPECT_EQ(bench.left(0), counted(48000));
+}
+
+TEST(SoundGraph, AVolumeSetBeforeRunHoldsFromTheFirstFrame) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->put_Volume(Millibel{-2000});
+    graph->Run();
+    bench.run_for(Frames{100});
+    EXPECT_FLOAT_EQ(bench.left(50), counted(50) * 0.1F);
+}
+
+TEST(SoundGraph, AVolumeSetWhileRunningIsReachedInTenMilliseconds) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->Run();
+    bench.run_for(Frames{1000});
+    graph->put_Volume(Millibel{-10000});
+    bench.run_for(Frames{1000});
+    EXPECT_EQ(bench.left(1000), counted(1000));
+    EXPECT_FLOAT_EQ(bench.left(1240), counted(1240) * 0.5F);
+    EXPECT_EQ(bench.peak(1480, 2000), 0.0F);
+}
+
+TEST(SoundGraph, VolumeOutsideItsRangeIsRefused) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{1}); }), 5);
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{-10001}); }), 5);
+    EXPECT_EQ(graph->get_Volume(), Millibel{0});
+}
+
+TEST(SoundGraph, VolumeOfASilentFilmIsRefused) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.encoded("film.mpg", 1, "-f lavfi -i testsrc=d=1:s=64x48 -map 1:v"));
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{0}); }), 5);
+}
+
+TEST(SoundGraph, DroppedIsSilentWithinTenMillisecondsWithoutAClick) {
+    SoundBench bench;
+    auto graph = bench.graph(bench.folder.encoded("tone.wav", 2, "-ar 48000"));
+    graph->Run();
+    bench.run_for(Frames{12345});
+    graph.reset();
+    bench.run_for(Frames{5000});
+    float step = 0;
+    for (std::int64_t frame = 12000; frame < 13000; ++frame)
+        step = std::max(step, std::abs(bench.left(frame + 1) - bench.left(frame)));
+    EXPECT_LT(step, 0.03F) << "the tone alone makes steps of 0.02";
+    EXPECT_EQ(bench.peak(12345 + 480, 17000), 0.0F);
+}
+
+TEST(SoundGraph, EmptyHasNoLengthAndRunningItDoesNothing) {
+    SoundBench bench;
+    const auto graph = bench.media.create_graph();
+    graph->Run();
+    EXPECT_EQ(graph->get_Duration(), 0);
+    EXPECT_EQ(graph->get_CurrentPosition(), 0);
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+}
+
+TEST(SoundGraph, SeveralSoundAtOnceAsTheirSum) {
+    SoundBench bench;
+    const auto path = bench.folder.counting_wav("a.wav", 1);
+    const auto first = bench.graph(path);
+    const auto second = bench.graph(path);
+    first->Run();
+    bench.run_for(Frames{700});
+    second->Run();
+    bench.run_for(Frames{700});
+    EXPECT_EQ(bench.left(800), counted(800) + counted(100));
+}
+
+TEST(SoundGraph, TheNextGraphTakesOverAFileThatWasOpenedAndNotPlayed) {
+    struct CountingFiles final : SoundFiles {
+        MachineFiles machine;
+        int opened = 0;
+        FileFacts facts(const std::string& path) override { return machine.facts(path); }
+        std::unique_ptr<RecordFile> open(const std::string& path) override {
+            ++opened;
+            return machine.open(path);
+        }
+    };
+    auto files = std::make_shared<CountingFiles>();
+    SoundBench bench{files};
+    const auto path = bench.folder.counting_wav("a.wav", 1);
+    auto graph = bench.graph(path);
+    for (int again = 0; again < 3; ++again) {
+        graph = bench.media.create_graph();
+        graph->RenderFile(path);
+    }
+    graph->Run();
+    bench.run_for(Frames{20000});
+    EXPECT_EQ(files->opened, 1);
+    EXPECT_EQ(bench.left(19999), counted(19999));
+}
+
+TEST(SoundGraph, AChangedFileIsOpenedAnew) {
+    SoundBench bench;
+    const auto path = bench.folder.counting_wav("a.wav", 1);
+    auto graph = bench.graph(path);
+    EXPECT_DOUBLE_EQ(graph->get_Duration(), 1.0);
+    bench.folder.counting_wav("a.wav", 2);
+    graph = bench.graph(path);
+    EXPECT_DOUBLE_EQ(graph->get_Duration(), 2.0);
+}
+
+TEST(SoundGraph, MayBeDroppedByTheHundredInOneInstant) {
+    SoundBench bench;
+    const auto path = bench.folder.counting_wav("a.wav", 1);
+    for (int count = 0; count < 300; ++count)
+        bench.graph(path)->Run();
+    bench.run_for(Frames{2000});
+    EXPECT_EQ(bench.peak(481, 2000), 0.0F);
+}
+
+} // namespace
+} // namespace sonarelle

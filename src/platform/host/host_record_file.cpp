@@ -29,7 +29,7 @@ std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> int
     const auto rest_position = position + static_cast<std::int64_t>(done);
     if (rest.size() >= walking_read)
         return done + read_disk(rest_position, rest);
-    fill_buffer(rest_position);
+    fill_buffer(rest_position, rest.size());
     return done + copy_from_buffer(rest_position, rest);
 }
 
@@ -42,9 +42,9 @@ std::size_t HostRecordFile::copy_from_buffer(std::int64_t position, std::span<st
     return count;
 }
 
-void HostRecordFile::fill_buffer(std::int64_t position) {
+void HostRecordFile::fill_buffer(std::int64_t position, std::size_t wanted) {
     const bool walks_on = position == buffer_begin_ + static_cast<std::int64_t>(buffer_.size());
-    buffer_.resize(walks_on ? walking_read : single_read);
+    buffer_.resize(walks_on ? walking_read : std::max(wanted, single_read));
     buffer_begin_ = position;
     buffer_.resize(read_disk(position, buffer_));
 }

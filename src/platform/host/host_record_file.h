@@ -21,7 +21,7 @@ public:
 private:
     [[nodiscard]] std::size_t copy_from_buffer(std::int64_t position, std::span<std::byte> into) const;
     std::size_t read_disk(std::int64_t position, std::span<std::byte> into);
-    void fill_buffer(std::int64_t position);
+    void fill_buffer(std::int64_t position, std::size_t wanted);
 
     FileHandle file_;
     std::int64_t length_;

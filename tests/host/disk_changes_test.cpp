@@ -1,0 +1,202 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "host/disk_bench.h"
+#include "support/child_process.h"
+
+namespace sonarelle::test {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(HostDiskKill, RemovesAFileIgnoringCase) {
+    DiskBench bench;
+    bench.folder.put("Titre.mp3");
+    bench.disk.Kill("D:\\TITRE.MP3");
+
+    EXPECT_THAT(bench.folder.names(), IsEmpty());
+}
+
+TEST(HostDiskKill, RemovesAllFilesOfAPattern) {
+    DiskBench bench;
+    for (const char* name : {"a.tmp", "b.TMP", "c.mp3"})
+        bench.folder.put(name);
+    bench.disk.Kill("D:\\*.tmp");
+
+    EXPECT_THAT(bench.folder.names(), ElementsAre("c.mp3"));
+}
+
+TEST(HostDiskKill, MissingFileFails) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\absent"); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\*.tmp"); }), 53);
+}
+
+TEST(HostDiskKill, FolderIsNoFile) {
+    DiskBench bench;
+    bench.folder.put_folder("un");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\un"); }), 75);
+}
+
+TEST(HostDiskKill, RemovesALinkAndNotWhatItPointsTo) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+    std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
+    bench.disk.Kill("D:\\lien.mp3");
+
+    EXPECT_THAT(bench.folder.names(), ElementsAre("a.mp3"));
+}
+
+TEST(HostDiskName, RenamesIntoAnotherFolder) {
+    DiskBench bench;
+    bench.folder.put("a.mp3", "son");
+    bench.folder.put_folder("Autre");
+    bench.disk.Name("D:\\A.mp3", "D:\\autre\\B.mp3");
+
+    EXPECT_EQ(bench.folder.bytes("Autre/B.mp3"), "son");
+    EXPECT_THAT(bench.folder.names(), ElementsAre("Autre"));
+}
+
+TEST(HostDiskName, RenamesAFolder) {
+    DiskBench bench;
+    bench.folder.put("un/x");
+    bench.disk.Name("D:\\un", "D:\\deux");
+
+    EXPECT_TRUE(bench.folder.exists("deux/x"));
+}
+
+TEST(HostDiskName, NeverTakesThePlaceOfAnotherFile) {
+    DiskBench bench;
+    bench.folder.put("a.mp3", "a");
+    bench.folder.put("B.mp3", "b");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\b.MP3"); }), 58);
+    EXPECT_EQ(bench.folder.bytes("B.mp3"), "b");
+}
+
+TEST(HostDiskName, ChangesTheCaseOfAName) {
+    DiskBench bench;
+    bench.folder.put("titre.mp3");
+    bench.disk.Name("D:\\titre.mp3", "D:\\TITRE.mp3");
+
+    EXPECT_THAT(bench.folder.names(), ElementsAre("TITRE.mp3"));
+}
+
+TEST(HostDiskName, MissingFileOrFolderFails) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\absent", "D:\\b"); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\absent\\a.mp3"); }), 76);
+}
+
+TEST(HostDiskName, AnotherDriveIsRefused) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+    bench.drives.set("E", bench.folder.path());
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "E:\\b.mp3"); }), 74);
+}
+
+TEST(HostDiskName, FolderDoesNotGoIntoItself) {
+    DiskBench bench;
+    bench.folder.put_folder("un");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\un", "D:\\un\\deux"); }), 75);
+}
+
+TEST(HostDiskFileCopy, CopiesBytesAndRights) {
+    DiskBench bench;
+    const std::string bytes(3'000'001, 'x');
+    bench.folder.put("a.mp3", bytes);
+    bench.folder.set_rights("a.mp3", 0640);
+    bench.disk.FileCopy("D:\\a.mp3", "D:\\b.mp3");
+
+    EXPECT_EQ(bench.folder.bytes("b.mp3"), bytes);
+    EXPECT_EQ(bench.folder.rights("b.mp3"), 0640U);
+}
+
+TEST(HostDiskFileCopy, WritesOverAFileThatIsThere) {
+    DiskBench bench;
+    bench.folder.put("a.mp3", "new");
+    bench.folder.put("B.mp3", "older and longer");
+    bench.disk.FileCopy("D:\\a.mp3", "D:\\b.mp3");
+
+    EXPECT_EQ(bench.folder.bytes("B.mp3"), "new");
+}
+
+TEST(HostDiskFileCopy, RefusesToCopyAFileOntoItself) {
+    DiskBench bench;
+    bench.folder.put("a.mp3", "son");
+    std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
+
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\A.MP3"); }), 70);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\lien.mp3"); }), 70);
+    EXPECT_EQ(bench.folder.bytes("a.mp3"), "son");
+}
+
+TEST(HostDiskFileCopy, FolderIsNoFile) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+    bench.folder.put_folder("un");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\un", "D:\\b"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\un"); }), 75);
+}
+
+TEST(HostDiskFolders, AreMadeAndRemoved) {
+    DiskBench bench;
+    bench.disk.MkDir("D:\\un");
+    bench.disk.MkDir("D:\\UN\\deux");
+    EXPECT_TRUE(bench.folder.exists("un/deux"));
+
+    bench.disk.RmDir("D:\\un\\deux");
+    bench.disk.RmDir("D:\\un");
+    EXPECT_THAT(bench.folder.names(), IsEmpty());
+}
+
+TEST(HostDiskFolders, NameThatIsTakenIsRefused) {
+    DiskBench bench;
+    bench.folder.put("Un");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\un"); }), 75);
+}
+
+TEST(HostDiskFolders, FolderThatHoldsSomethingStays) {
+    DiskBench bench;
+    bench.folder.put("un/x");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\un"); }), 75);
+}
+
+TEST(HostDiskFolders, MissingFolderFails) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\absent"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\absent\\un"); }), 76);
+}
+
+TEST(HostDiskFolders, FolderOfADriveStays) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\"); }), 75);
+    EXPECT_TRUE(bench.folder.exists("."));
+}
+
+TEST(HostDiskFacts, TellSizeTimeAndKind) {
+    DiskBench bench;
+    bench.folder.put("a.mp3", "four");
+    const timespec times[2]{{1'600'000'000, 0}, {1'600'000'000, 123'000'000}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, bench.folder.path("a.mp3").c_str(), times, 0), 0);
+
+    EXPECT_EQ(bench.disk.facts("D:\\A.MP3"), (FileFacts{4, 1'600'000'000'123'000'000, false}));
+    EXPECT_TRUE(bench.disk.facts("D:\\").is_folder);
+}
+
+} // namespace sonarelle::test

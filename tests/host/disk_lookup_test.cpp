@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include "host/disk_bench.h"
+#include "platform/failure.h"
+#include "support/child_process.h"
+
+namespace sonarelle::test {
+
+namespace fs = std::filesystem;
+
+/// Sets the folder's time back, so that what was learnt of it may be kept.
+void settle(const DiskBench& bench, std::string_view folder) {
+    fs::last_write_time(bench.folder.path(folder), fs::file_time_type::clock::now() - std::chrono::hours{1});
+}
+
+TEST(HostDiskLookup, FindsAFileIgnoringTheCaseOfEachPart) {
+    DiskBench bench;
+    bench.folder.put("Musique/Été/Titre.mp3", "son");
+
+    EXPECT_EQ(bench.read("d:\\MUSIQUE\\ÉTÉ\\titre.MP3"), "son");
+}
+
+TEST(HostDiskLookup, TakesTheExactNameFirst) {
+    DiskBench bench;
+    bench.folder.put("TITRE.mp3", "grand");
+    bench.folder.put("titre.mp3", "petit");
+
+    EXPECT_EQ(bench.read("D:\\titre.mp3"), "petit");
+    EXPECT_EQ(bench.read("D:\\TITRE.mp3"), "grand");
+}
+
+TEST(HostDiskLookup, TakesTheFirstSpellingInByteOrderWithoutAnExactName) {
+    DiskBench bench;
+    bench.folder.put("titre.mp3", "petit");
+    bench.folder.put("TITRE.mp3", "grand");
+
+    EXPECT_EQ(bench.read("D:\\Titre.mp3"), "grand");
+}
+
+TEST(HostDiskLookup, TellsAMissingFileFromAMissingFolder) {
+    DiskBench bench;
+    bench.folder.put_folder("Musique");
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\x.mp3"); }), 53);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Jingles\\x.mp3"); }), 76);
+}
+
+TEST(HostDiskLookup, FileInThePlaceOfAFolderIsAMissingFolder) {
+    DiskBench bench;
+    bench.folder.put("Musique", "a file");
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\musique\\x.mp3"); }), 76);
+}
+
+TEST(HostDiskLookup, DriveThatIsNotInTheTableIsUnavailable) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("Q:\\x.mp3"); }), 68);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("Q:\\*.mp3"); }), 68);
+}
+
+TEST(HostDiskLookup, DriveWhoseFolderIsGoneIsUnavailable) {
+    DiskBench bench;
+    bench.drives.set("E", bench.folder.path("unplugged"));
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("E:\\x.mp3"); }), 68);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("E:\\x.mp3"); }), 68);
+}
+
+TEST(HostDiskLookup, ReachesAShareByItsNameIgnoringCase) {
+    DiskBench bench;
+    bench.folder.put("serveur/Titre.mp3", "son");
+    bench.drives.set("\\\\Serveur\\Musique", bench.folder.path("serveur"));
+
+    EXPECT_EQ(bench.read("\\\\SERVEUR\\musique\\titre.mp3"), "son");
+}
+
+TEST(HostDiskLookup, FailureNamesThePathInTheStationsForm) {
+    DiskBench bench;
+    try {
+        (void)bench.disk.open("d:absent.mp3");
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.source, "D:\\absent.mp3");
+    }
+}
+
+TEST(HostDiskLookup, NameThatIsNoUtf8OnTheDiskIsNotFound) {
+    DiskBench bench;
+    bench.folder.put("\xE9t\xE9.mp3");
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\ÉTÉ.mp3"); }), 53);
+}
+
+TEST(HostDiskLookup, SeesAFileThatComesIntoAFolderThatItKnows) {
+    DiskBench bench;
+    bench.folder.put("Musique/a.mp3");
+    settle(bench, "Musique");
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\B.MP3"); }), 53);
+
+    bench.folder.put("Musique/b.mp3", "new");
+
+    EXPECT_EQ(bench.read("D:\\Musique\\B.MP3"), "new");
+}
+
+TEST(HostDiskLookup, NoLongerFindsAFileThatWentFromAFolderThatItKnows) {
+    DiskBench bench;
+    bench.folder.put("Musique/a.mp3");
+    settle(bench, "Musique");
+    EXPECT_EQ(bench.disk.Dir("D:\\MUSIQUE\\A.MP3"), "a.mp3");
+
+    fs::remove(bench.folder.path("Musique/a.mp3"));
+
+    EXPECT_EQ(bench.disk.Dir("D:\\MUSIQUE\\A.MP3"), "");
+}
+
+TEST(HostDiskLookup, FollowsAChangeOfTheDriveTable) {
+    DiskBench bench;
+    bench.folder.put("autre/x.mp3", "there");
+    bench.drives.set("D", bench.folder.path("autre"));
+
+    EXPECT_EQ(bench.read("D:\\x.mp3"), "there");
+}
+
+TEST(HostDiskLookup, GivesTheMachinesPathInTheDisksSpelling) {
+    DiskBench bench;
+    bench.folder.put("Musique/Titre.mp3");
+
+    EXPECT_EQ(bench.disk.machine_path("D:\\musique\\TITRE.MP3"), bench.folder.path("Musique/Titre.mp3"));
+}
+
+} // namespace sonarelle::test

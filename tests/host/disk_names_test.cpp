@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "host/disk_bench.h"
+#include "platform/failure.h"
+#include "support/child_process.h"
+
+namespace sonarelle::test {
+
+using Use = std::function<void(HostDisk&, const std::string&)>;
+
+struct NamedUse {
+    const char* name;
+    Use use;
+};
+
+class ForbiddenCharacter : public testing::TestWithParam<NamedUse> {};
+
+TEST_P(ForbiddenCharacter, IsAWrongFileName) {
+    DiskBench bench;
+    for (const std::string character : {"*", "?", "<", ">", "|", "\""})
+        EXPECT_EQ(failure_of([&] { GetParam().use(bench.disk, "D:\\a" + character + "b.mp3"); }), 52) << character;
+}
+
+TEST_P(ForbiddenCharacter, CharacterOutsideWindows1252IsRefusedByName) {
+    DiskBench bench;
+    try {
+        GetParam().use(bench.disk, "D:\\песня.mp3");
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.number, 52);
+        EXPECT_EQ(failure.description, "Le caractère « п » n'existe pas en Windows-1252");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    HostDisk, ForbiddenCharacter,
+    testing::Values(NamedUse{"open", [](HostDisk& d, const std::string& p) { (void)d.open(p); }},
+                    NamedUse{"open_or_create", [](HostDisk& d, const std::string& p) { (void)d.open_or_create(p); }},
+                    NamedUse{"replace", [](HostDisk& d, const std::string& p) { (void)d.replace(p); }},
+                    NamedUse{"append", [](HostDisk& d, const std::string& p) { d.append(p, "x"); }},
+                    NamedUse{"facts", [](HostDisk& d, const std::string& p) { (void)d.facts(p); }},
+                    NamedUse{"MkDir", [](HostDisk& d, const std::string& p) { d.MkDir(p); }},
+                    NamedUse{"RmDir", [](HostDisk& d, const std::string& p) { d.RmDir(p); }},
+                    NamedUse{"ChDir", [](HostDisk& d, const std::string& p) { d.ChDir(p); }}),
+    [](const auto& test) { return std::string{test.param.name}; });
+
+TEST(HostDiskNames, ForbiddenCharacterInANewNameLeavesTheOldOne) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\a?.mp3"); }), 52);
+    EXPECT_EQ(bench.folder.names(), std::vector<std::string>{"a.mp3"});
+}
+
+TEST(HostDiskNames, NulByteIsAWrongFileNameAndNotAnEnd) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill(std::string_view{"D:\\a.mp3\0.dfm", 13}); }), 52);
+    EXPECT_TRUE(bench.folder.exists("a.mp3"));
+}
+
+TEST(HostDiskNames, NameThatIsTooLongForTheDiskIsWrong) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open_or_create("D:\\" + std::string(300, 'a')); }), 52);
+}
+
+TEST(HostDiskNames, EachDriveRemembersItsCurrentFolder) {
+    DiskBench bench;
+    bench.folder.put("un/x.txt", "on D");
+    bench.folder.put("deux/y.txt", "on E");
+    bench.drives.set("E", bench.folder.path());
+    bench.disk.ChDir("D:\\un");
+    bench.disk.ChDir("E:\\deux");
+
+    EXPECT_EQ(bench.read("D:x.txt"), "on D");
+    EXPECT_EQ(bench.read("E:y.txt"), "on E");
+}
+
+TEST(HostDiskNames, RelativeNameResolvesOnTheCurrentDrive) {
+    DiskBench bench;
+    bench.folder.put("un/x.txt", "here");
+    bench.disk.ChDir("D:\\un");
+    bench.disk.ChDrive("d");
+
+    EXPECT_EQ(bench.disk.current_drive(), 'D');
+    EXPECT_EQ(bench.disk.current_folder(), "D:\\un");
+    EXPECT_EQ(bench.read("x.txt"), "here");
+}
+
+TEST(HostDiskNames, ChDirOnAnotherDriveLeavesTheCurrentDrive) {
+    DiskBench bench;
+    bench.folder.put_folder("un");
+    bench.disk.ChDir("D:\\un");
+
+    EXPECT_EQ(bench.disk.current_drive(), 'C');
+    EXPECT_EQ(bench.disk.current_folder(), "C:\\");
+}
+
+TEST(HostDiskNames, PointsGoUpAndNoHigherThanTheRoot) {
+    DiskBench bench;
+    bench.folder.put("un/x.txt", "here");
+    bench.disk.ChDrive("D");
+    bench.disk.ChDir("un");
+
+    EXPECT_EQ(bench.read(".\\..\\..\\un\\.\\x.txt"), "here");
+    EXPECT_EQ(bench.disk.absolute("..\\y"), "D:\\y");
+}
+
+TEST(HostDiskNames, ChDirToAMissingFolderFailsAndChangesNothing) {
+    DiskBench bench;
+    bench.disk.ChDrive("D");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("absent"); }), 76);
+    EXPECT_EQ(bench.disk.current_folder(), "D:\\");
+}
+
+TEST(HostDiskNames, ChDirToAFileIsAMissingFolder) {
+    DiskBench bench;
+    bench.folder.put("x.txt");
+
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("D:\\x.txt"); }), 76);
+}
+
+TEST(HostDiskNames, ChDriveToAMissingDriveFails) {
+    DiskBench bench;
+
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDrive("Q:\\x"); }), 68);
+    EXPECT_EQ(bench.disk.current_drive(), 'C');
+}
+
+TEST(HostDiskNames, NamesResolveOnAShareAfterChDirUntilADriveIsMadeCurrent) {
+    DiskBench bench;
+    bench.folder.put("partage/x.txt", "on the share");
+    bench.folder.put("x.txt", "on the drive");
+    bench.drives.set("\\\\serveur\\partage", bench.folder.path("partage"));
+
+    bench.disk.ChDir("\\\\serveur\\partage");
+    EXPECT_EQ(bench.read("x.txt"), "on the share");
+    bench.disk.ChDrive("D");
+    EXPECT_EQ(bench.read("x.txt"), "on the drive");
+}
+
+} // namespace sonarelle::test

@@ -1,0 +1,140 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "host/disk_bench.h"
+#include "platform/failure.h"
+#include "platform/host/host_drive_table.h"
+#include "platform/host/host_settings.h"
+#include "support/child_process.h"
+
+namespace sonarelle::test {
+
+using testing::ElementsAre;
+
+/// A folder that may be read but not written, with a file in it that may be both.
+struct ReadOnlyFolder : DiskBench {
+    ReadOnlyFolder() {
+        folder.put("un/liste.dfm", "old");
+        folder.set_rights("un/liste.dfm", 0666);
+        folder.set_rights("un", 0555);
+    }
+    ~ReadOnlyFolder() { folder.set_rights("un", 0755); }
+};
+
+TEST(Rights, FileThatMayNotBeReadIsRefused) {
+    DiskBench bench;
+    bench.folder.put("a.mp3");
+    bench.folder.set_rights("a.mp3", 0);
+
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\a.mp3"); }), 70);
+}
+
+TEST(Rights, FolderThatMayNotBeEnteredIsRefused) {
+    DiskBench bench;
+    bench.folder.put("un/a.mp3");
+    bench.folder.set_rights("un", 0);
+
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }), 70);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.Dir("D:\\un\\*"); }), 70);
+    bench.folder.set_rights("un", 0755);
+}
+
+TEST(Rights, FolderThatMayBeEnteredButNotReadGivesItsFilesByTheirExactNames) {
+    DiskBench bench;
+    bench.folder.put("un/a.mp3");
+    bench.folder.set_rights("un", 0111);
+
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\A.mp3"); }), 53);
+    bench.folder.set_rights("un", 0755);
+}
+
+TEST(Rights, NothingIsSavedIntoAFolderThatMayNotBeWritten) {
+    ReadOnlyFolder bench;
+
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\autre.dfm", "new"); }), 75);
+    EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "old");
+}
+
+TEST(Rights, NothingIsMadeOrRemovedInAFolderThatMayNotBeWritten) {
+    ReadOnlyFolder bench;
+
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\b"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\b", "x"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.MkDir("D:\\un\\b"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Name("D:\\un\\liste.dfm", "D:\\un\\b"); }), 75);
+    EXPECT_THAT(bench.folder.names("un"), ElementsAre("liste.dfm"));
+}
+
+TEST(Rights, FileThatIsThereOpensInAFolderThatMayNotBeWritten) {
+    ReadOnlyFolder bench;
+
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\liste.dfm"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\liste.dfm", "x"); }), 0);
+}
+
+TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
+    DiskBench bench;
+    bench.folder.put("un/liste.dfm", "old");
+    bench.folder.set_rights("un/liste.dfm", 0444);
+    bench.folder.set_rights("un", 0777);
+
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), 75);
+    EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "old");
+}
+
+TEST(Rights, FileOfAnotherOwnerThatAllMayWriteIsReplaced) {
+    DiskBench bench;
+    bench.folder.put("un/liste.dfm", "old");
+    bench.folder.set_rights("un/liste.dfm", 0666);
+    bench.folder.set_rights("un", 0777);
+
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 0);
+    EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "new");
+    EXPECT_EQ(bench.folder.rights("un/liste.dfm"), 0666U);
+}
+
+TEST(Rights, AdministratorLeavesAFileToItsOwner) {
+    DiskBench bench;
+    bench.folder.put("liste.dfm", "old");
+    // Only an administrator can own a file as someone else; for another user the owner stays the same anyway.
+    const uid_t owner = ::getuid() == 0 ? 12345 : ::getuid();
+    ASSERT_EQ(::chown(bench.folder.path("liste.dfm").c_str(), owner, static_cast<gid_t>(-1)), 0);
+    bench.save("D:\\liste.dfm", "new");
+
+    struct stat facts {};
+    ASSERT_EQ(::stat(bench.folder.path("liste.dfm").c_str(), &facts), 0);
+    EXPECT_EQ(facts.st_uid, owner);
+}
+
+TEST(Rights, SettingsThatMayNotBeReadOrWrittenAreRefused) {
+    PrivateFolder folder;
+    HostSettings settings{folder.path("reglages.json")};
+    settings.SaveSetting("Sonarelle", "Config", "Mix", "6");
+    folder.set_rights("reglages.json", 0600);
+
+    EXPECT_EQ(failure_without_rights([&] { settings.SaveSetting("Sonarelle", "Config", "Mix", "7"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { (void)settings.GetSetting("Sonarelle", "Config", "Mix", ""); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { (void)load_drive_table(folder.path("reglages.json")); }), 75);
+}
+
+TEST(Rights, SettingsInAFolderThatMayNotBeMadeAreRefusedByName) {
+    PrivateFolder folder;
+    HostSettings settings{folder.path("absent/reglages.json")};
+    const auto named = [&] {
+        try {
+            settings.SaveSetting("Sonarelle", "Config", "Mix", "7");
+        } catch (const Failure& failure) {
+            throw Failure{failure.source == folder.path("absent/reglages.json") ? failure.number : 99};
+        }
+    };
+
+    EXPECT_EQ(failure_without_rights(named), 75);
+}
+
+} // namespace sonarelle::test

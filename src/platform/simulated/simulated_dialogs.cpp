@@ -50,6 +50,18 @@ std::string shown(const Question& question) {
     return std::string{kinds[static_cast<std::size_t>(question.kind)]} + " [" + question.title + "] " + question.text;
 }
 
+/// Also hidden when the question was unexpected.
+class ShownWindow {
+public:
+    explicit ShownWindow(Window& window) : window_{window} { window_.show(); }
+    ~ShownWindow() { window_.hide(); }
+    ShownWindow(const ShownWindow&) = delete;
+    ShownWindow& operator=(const ShownWindow&) = delete;
+
+private:
+    Window& window_;
+};
+
 void press(Question& question, Answer answer) {
     if (std::ranges::find(answers_of(question.buttons), answer) == answers_of(question.buttons).end())
         throw UnexpectedQuestion{"no button \"" + std::string{word_of(answer)} + "\" in " + shown(question)};
@@ -126,11 +138,10 @@ std::optional<Font> SimulatedDialogs::choose_font(const Font& preset) {
 
 void SimulatedDialogs::show_modal(Window& window) {
     const Question question = question_of(QuestionKind::window, window.name(), window.caption);
-    window.show();
+    const ShownWindow shown_window{window};
     const Question answered = ask(question);
     if (answered.hands)
         answered.hands();
-    window.hide();
 }
 
 void SimulatedDialogs::expect_box(std::string_view part, Answer answer, Frames delay) {

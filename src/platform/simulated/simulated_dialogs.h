@@ -50,7 +50,7 @@ class SimulatedDialogs : public Dialogs {
 public:
     explicit SimulatedDialogs(Clock& clock) : clock_{clock} {}
 
-    [[nodiscard]] Answer MsgBox(const MessageBox& box) override;
+    Answer MsgBox(const MessageBox& box) override;
     [[nodiscard]] std::string InputBox(const sonarelle::InputBox& box) override;
     [[nodiscard]] ChosenFile open_file(const FileDialog& dialog) override;
     [[nodiscard]] ChosenFile save_file(const FileDialog& dialog) override;

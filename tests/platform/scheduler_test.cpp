@@ -220,6 +220,18 @@ TEST_F(SchedulerLateness, APeriodBegunAfterALateStartCountsFromWhatIsHeard) {
     EXPECT_THAT(lines, ElementsAre("4@4200", "1@4200", "4@5200", "1@5200"));
 }
 
+TEST_F(SchedulerLateness, TheOtherTimersKeepTheirMissedTicks) {
+    bool first = true;
+    add(4, 1000).on_tick = [&] {
+        if (std::exchange(first, false))
+            scheduler.advance_to(milliseconds(3200));
+    };
+    add(3, 1000);
+    scheduler.run_until(milliseconds(3900));
+    EXPECT_THAT(lines, ElementsAre("3@3200", "3@3200", "3@3200"));
+    EXPECT_EQ(scheduler.next_due(), seconds(4));
+}
+
 TEST_F(SchedulerLateness, ItsOwnMissedTicksAreLeftOutWithoutARestart) {
     bool first = true;
     add(4, 1000).on_tick = [&] {

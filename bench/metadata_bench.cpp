@@ -20,7 +20,7 @@ namespace sonarelle {
 namespace {
 
 constexpr int file_count = 10'000;
-constexpr std::size_t audio_bytes = 8 * 1024;
+constexpr std::size_t audio_bytes = 8192;
 
 /// Frames of MPEG-1 Layer III, 128 kbit/s, 44100 Hz.
 std::string audio() {

@@ -131,12 +131,12 @@ TEST(MpegHeader, VersionsAndLayersHaveTheirTexts) {
 }
 
 TEST(MpegHeader, FramesCountWholeBytesAFrame) {
-    EXPECT_EQ(header_of(MpegBytes{.size = 417 * 5 - 1}).Frames(), 4);
-    EXPECT_EQ(header_of(MpegBytes{.size = 417 * 5}).Frames(), 5);
+    EXPECT_EQ(header_of(MpegBytes{.size = 2084}).Frames(), 4);
+    EXPECT_EQ(header_of(MpegBytes{.size = 2085}).Frames(), 5);
 }
 
 TEST(MpegHeader, PaddingCountsOnceAFile) {
-    EXPECT_EQ(header_of(MpegBytes{.padded = true, .size = 417 * 5}).Frames(), 6);
+    EXPECT_EQ(header_of(MpegBytes{.padded = true, .size = 2085}).Frames(), 6);
 }
 
 TEST(MpegHeader, FramesOfLayerICountSlotsNotBytes) {

@@ -166,6 +166,12 @@ TEST(VbriBlock, DelayIsTakenFromTheStream) {
     EXPECT_EQ(vbri({.delay = 1000, .stream = 16'000, .frames = 76}).BitRate(), 120);
 }
 
+TEST(VbriBlock, BytesInFrontAreLeftOut) {
+    // 116,000 bytes less 100,000 are 128 kilobits, in one second.
+    const MpegBytes file{.body = up_to(36) + VbriBytes{.stream = 116'000, .frames = 76}.bytes()};
+    EXPECT_EQ(header_of(std::string(100'000, 'x') + file.bytes()).BitRate(), 128);
+}
+
 TEST(VbriBlock, DelayFrom32768OnIsPassedOver) {
     EXPECT_TRUE(is_passed_over(VbriBytes{.delay = 0x8000}.bytes()));
 }

@@ -1,20 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <filesystem>
-
 #include "host/disk_bench.h"
 #include "platform/failure.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
-
-namespace fs = std::filesystem;
-
-/// Sets the folder's time back, so that what was learnt of it may be kept.
-void settle(const DiskBench& bench, std::string_view folder) {
-    fs::last_write_time(bench.folder.path(folder), fs::file_time_type::clock::now() - std::chrono::hours{1});
-}
 
 TEST(HostDiskLookup, FindsAFileIgnoringTheCaseOfEachPart) {
     DiskBench bench;
@@ -93,28 +83,6 @@ TEST(HostDiskLookup, NameThatIsNoUtf8OnTheDiskIsNotFound) {
     bench.folder.put("\xE9t\xE9.mp3");
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\ÉTÉ.mp3"); }), 53);
-}
-
-TEST(HostDiskLookup, SeesAFileThatComesIntoAFolderThatItKnows) {
-    DiskBench bench;
-    bench.folder.put("Musique/a.mp3");
-    settle(bench, "Musique");
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\B.MP3"); }), 53);
-
-    bench.folder.put("Musique/b.mp3", "new");
-
-    EXPECT_EQ(bench.read("D:\\Musique\\B.MP3"), "new");
-}
-
-TEST(HostDiskLookup, NoLongerFindsAFileThatWentFromAFolderThatItKnows) {
-    DiskBench bench;
-    bench.folder.put("Musique/a.mp3");
-    settle(bench, "Musique");
-    EXPECT_EQ(bench.disk.Dir("D:\\MUSIQUE\\A.MP3"), "a.mp3");
-
-    fs::remove(bench.folder.path("Musique/a.mp3"));
-
-    EXPECT_EQ(bench.disk.Dir("D:\\MUSIQUE\\A.MP3"), "");
 }
 
 TEST(HostDiskLookup, FollowsAChangeOfTheDriveTable) {

@@ -22,6 +22,17 @@ struct SettingsBench {
         return settings.GetSetting(application, "Config", key, "absent");
     }
     void save(std::string_view key, std::string_view value) { settings.SaveSetting(application, "Config", key, value); }
+    /// Dates the file's last writing back.
+    std::filesystem::file_time_type set_age(std::chrono::nanoseconds age) {
+        std::filesystem::last_write_time(folder.path("reglages.json"),
+                                         std::filesystem::file_time_type::clock::now() - age);
+        return std::filesystem::last_write_time(folder.path("reglages.json"));
+    }
+    /// Changes a text in the file, as an editor that writes in place.
+    void edit(std::string_view from, std::string_view to) {
+        std::string json = folder.bytes("reglages.json");
+        folder.put("reglages.json", json.replace(json.find(from), from.size(), to));
+    }
 
     PrivateFolder folder;
     HostSettings settings{folder.path("reglages.json")};
@@ -87,10 +98,20 @@ TEST(HostSettings, FileIsReadableAndInUtf8) {
 TEST(HostSettings, SeeWhatAnEditorChangedAtTheNextReading) {
     SettingsBench bench;
     bench.save("Mix", "6");
+    bench.set_age(std::chrono::hours{1});
     EXPECT_EQ(bench.config("Mix"), "6");
-    std::string json = bench.folder.bytes("reglages.json");
-    json.replace(json.find("\"6\""), 3, "\"9\"");
-    bench.folder.put("reglages.json", json);
+    bench.edit("\"6\"", "\"9\"");
+
+    EXPECT_EQ(bench.config("Mix"), "9");
+}
+
+TEST(HostSettings, SeeAChangeWithinTheSameStepOfTheDisksClock) {
+    SettingsBench bench;
+    bench.save("Mix", "6");
+    const auto time = bench.set_age(-std::chrono::hours{1});
+    EXPECT_EQ(bench.config("Mix"), "6");
+    bench.edit("\"6\"", "\"9\"");
+    std::filesystem::last_write_time(bench.folder.path("reglages.json"), time);
 
     EXPECT_EQ(bench.config("Mix"), "9");
 }

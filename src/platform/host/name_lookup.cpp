@@ -18,8 +18,6 @@ namespace sonarelle {
 namespace {
 
 constexpr std::size_t most_names_kept = 200'000;
-// File times go in steps of a few ms: a folder that changed only just now may change again within the same step.
-constexpr std::int64_t settled_after = 50'000'000; // ns
 
 struct DirectoryClose {
     void operator()(DIR* directory) const { ::closedir(directory); }
@@ -29,11 +27,11 @@ std::int64_t nanoseconds(const struct timespec& time) {
     return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
 }
 
-bool is_settled(const struct stat& folder) {
+std::chrono::nanoseconds age_of(const struct stat& folder) {
     struct timespec now {};
     ::clock_gettime(CLOCK_REALTIME, &now);
     const std::int64_t last_change = std::max(nanoseconds(folder.st_mtim), nanoseconds(folder.st_ctim));
-    return nanoseconds(now) - last_change > settled_after;
+    return std::chrono::nanoseconds{nanoseconds(now) - last_change};
 }
 
 bool is_unchanged(const struct stat& a, const struct stat& b) {
@@ -123,7 +121,7 @@ std::optional<std::string> NameLookup::spelling(const std::string& folder, const
     struct stat facts {};
     if (::stat(folder.c_str(), &facts) != 0)
         return std::nullopt;
-    if (!is_settled(facts))
+    if (age_of(facts) <= settled_after_)
         return spelling_by_walk(folder, name);
 
     bool known = false;

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <map>
@@ -26,6 +27,11 @@ bool for_each_name(const std::string& folder, const std::function<bool(std::stri
 /// From any thread; nobody waits for another one's slow disk.
 class NameLookup {
 public:
+    /// What is learnt of a folder is kept when its last change is older than this: file times go in steps of a few ms,
+    /// and a folder that changed only just now may change again within the same step.
+    explicit NameLookup(std::chrono::nanoseconds settled_after = std::chrono::milliseconds{50})
+        : settled_after_{settled_after} {}
+
     enum class Outcome { present, missing, folder_missing };
 
     struct Place {
@@ -50,6 +56,7 @@ private:
                                                            const std::string& name, bool& known) const;
     void keep(const std::string& folder, Folder learnt) const;
 
+    const std::chrono::nanoseconds settled_after_;
     mutable std::mutex mutex_;
     mutable std::map<std::string, Folder> folders_; // guarded by mutex_
     mutable std::size_t names_kept_ = 0;            // guarded by mutex_

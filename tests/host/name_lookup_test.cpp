@@ -1,0 +1,65 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include "platform/host/name_lookup.h"
+#include "support/private_folder.h"
+
+namespace sonarelle::test {
+
+using Outcome = NameLookup::Outcome;
+
+/// A lookup that keeps all that it learns, however young the folder.
+struct LookupBench {
+    [[nodiscard]] NameLookup::Place find(const std::string& name) const {
+        return lookup.find(folder.path(), {name}, name);
+    }
+
+    /// Gives the folder another time of change, as if some time had gone by.
+    void let_time_pass() {
+        age += std::chrono::hours{1};
+        std::filesystem::last_write_time(folder.path(), std::filesystem::file_time_type::clock::now() - age);
+    }
+
+    PrivateFolder folder;
+    NameLookup lookup{-std::chrono::hours{24 * 365}};
+    std::chrono::hours age{0};
+};
+
+TEST(NameLookup, SeesAFileThatComesIntoAFolderThatItKnows) {
+    LookupBench bench;
+    EXPECT_EQ(bench.find("B.MP3").outcome, Outcome::missing);
+    bench.folder.put("b.mp3");
+    bench.let_time_pass();
+
+    EXPECT_EQ(bench.find("B.MP3").path, bench.folder.path("b.mp3"));
+}
+
+TEST(NameLookup, NoLongerFindsAFileThatWentFromAFolderThatItKnows) {
+    LookupBench bench;
+    bench.folder.put("a.mp3");
+    EXPECT_EQ(bench.find("A.MP3").outcome, Outcome::present);
+    std::filesystem::remove(bench.folder.path("a.mp3"));
+    bench.let_time_pass();
+
+    EXPECT_EQ(bench.find("A.MP3").outcome, Outcome::missing);
+}
+
+TEST(NameLookup, TakesTheFirstSpellingInByteOrderOfAFolderThatItKnows) {
+    LookupBench bench;
+    for (const char* name : {"titre.mp3", "TITRE.mp3", "tiTRE.mp3"})
+        bench.folder.put(name);
+
+    EXPECT_EQ(bench.find("Titre.mp3").path, bench.folder.path("TITRE.mp3"));
+    EXPECT_EQ(bench.find("tITRE.mp3").path, bench.folder.path("TITRE.mp3"));
+}
+
+TEST(NameLookup, LeavesOutWhatNoPathOfTheStationCanNameInAFolderThatItKnows) {
+    LookupBench bench;
+    bench.folder.put("\xE9.mp3");
+
+    EXPECT_EQ(bench.find("\xC9.mp3").outcome, Outcome::missing);
+}
+
+} // namespace sonarelle::test

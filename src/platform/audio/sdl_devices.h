@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/audio/output_device.h"
+
+namespace sonarelle {
+
+/// The sound cards and servers that SDL knows: PulseAudio, PipeWire, ALSA. Used by one thread at a time, which opens,
+/// drops and lists alike.
+class SdlDevices final : public OutputDevices {
+public:
+    SdlDevices() = default;
+    ~SdlDevices() override;
+    SdlDevices(const SdlDevices&) = delete;
+    SdlDevices& operator=(const SdlDevices&) = delete;
+
+    [[nodiscard]] std::vector<std::string> names() override;
+    [[nodiscard]] std::unique_ptr<OutputDevice> open(const std::string& name, PullFrames pull) override;
+
+private:
+    [[nodiscard]] bool connect(bool anew);
+
+    bool connected_ = false;
+};
+
+} // namespace sonarelle

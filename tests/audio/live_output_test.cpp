@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include "live_bench.h"
+
+namespace sonarelle {
+namespace {
+
+TEST(LiveOutput, WithoutADeviceTheClockPaces) {
+    LiveBench live;
+    live.output = std::make_unique<LiveOutput>(live.bus, nullptr, "", nullptr);
+    live.live_for(milliseconds(200));
+    EXPECT_EQ(live.output->state(), OutputState::paced);
+}
+
+TEST(LiveOutput, TheFirstFramesGoToADeviceThatIsSlowToOpen) {
+    LiveBench live;
+    live.go_on_air();
+    live.live_until([&] { return live.output->state() != OutputState::opening; });
+    EXPECT_EQ(live.output->state(), OutputState::playing);
+}
+
+TEST(LiveOutput, TheCountGoesOnWhenTheDeviceDiesAndTheDeviceIsTakenBack) {
+    LiveBench live;
+    live.go_on_air();
+    live.live_until([&] { return live.output->state() == OutputState::playing; });
+    live.card->absent = true;
+    live.card->dead = true;
+    live.live_until([&] { return live.last_state == OutputState::paced; });
+    live.live_for(milliseconds(300));
+    live.card->absent = false;
+    live.card->dead = false;
+    live.live_until([&] { return live.last_state == OutputState::playing; });
+    live.live_for(milliseconds(300));
+    EXPECT_EQ(live.card->opened, 2);
+}
+
+TEST(LiveOutput, TheCountGoesOnWhileTheDeviceHangs) {
+    LiveBench live;
+    live.go_on_air();
+    live.live_until([&] { return live.output->state() == OutputState::playing; });
+    live.card->hanging = true;
+    live.live_until([&] { return live.last_state == OutputState::paced; });
+    live.live_for(milliseconds(300));
+    live.card->hanging = false;
+    live.live_until([&] { return live.last_state == OutputState::playing; });
+    EXPECT_EQ(live.card->opened, 1);
+}
+
+TEST(LiveOutput, ADeviceThatIsMissingAtFirstIsTakenWhenItComes) {
+    LiveBench live;
+    live.card->absent = true;
+    live.go_on_air();
+    live.live_until([&] { return live.output->state() == OutputState::paced; });
+    live.card->absent = false;
+    live.live_until([&] { return live.output->state() == OutputState::playing; });
+    EXPECT_EQ(live.card->opened, 1);
+}
+
+TEST(LiveOutput, ARunningGraphIsWhereTheClockSaysAfterALoss) {
+    LiveBench live;
+    const auto graph = live.graph(live.folder.counting_wav("a.wav", 20));
+    live.go_on_air();
+    live.live_for(milliseconds(100));
+    Frames begin;
+    live.driver.run_event([&] {
+        graph->Run();
+        begin = live.clock.now();
+    });
+    live.card->hanging = true;
+    live.live_until([&] { return live.last_state == OutputState::paced; });
+    live.card->hanging = false;
+    live.live_until([&] { return live.last_state == OutputState::playing; });
+    live.live_for(milliseconds(200));
+    live.output.reset();
+
+    const auto heard = live.card->heard();
+    const auto last = static_cast<std::int64_t>(heard.size() / 2) - 1;
+    EXPECT_EQ(heard[heard.size() - 2], counted(last - begin.count()));
+}
+
+TEST(LiveOutput, TheLossOfADeviceDoesNotMoveTheTicks) {
+    LiveBench live;
+    Timer timer{"Timer1", 1, live.scheduler};
+    std::vector<Frames> due;
+    timer.set_interval(Integer{100});
+    timer.on_tick = [&] { due.push_back(live.clock.now()); };
+    timer.enable();
+    live.go_on_air();
+    live.live_until([&] { return due.size() == 2; });
+    live.card->hanging = true;
+    live.live_until([&] { return due.size() == 12; });
+    for (std::size_t tick = 0; tick < due.size(); ++tick)
+        EXPECT_EQ(due[tick], milliseconds(100 * (static_cast<std::int64_t>(tick) + 1)));
+}
+
+} // namespace
+} // namespace sonarelle

@@ -61,7 +61,7 @@ private:
 struct MpegLongFile : testing::Test {
     TypeTagMpeg read(std::int64_t length, const std::string& head = MpegBytes{}.bytes()) {
         SparseDisk disk{on_disk.clock, head, length};
-        const TypeTagMpeg header = TypeTagMpeg{disk}.LireEntete(song);
+        TypeTagMpeg header = TypeTagMpeg{disk}.LireEntete(song);
         reads = disk.reads;
         return header;
     }

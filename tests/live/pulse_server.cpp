@@ -1,0 +1,106 @@
+#include "pulse_server.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace sonarelle {
+
+namespace {
+
+pid_t run(const std::vector<std::string>& words, const std::string& output) {
+    std::vector<char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    arguments.push_back(nullptr);
+    const pid_t child = ::fork();
+    if (child != 0)
+        return child;
+    if (std::freopen(output.c_str(), "wb", stdout) != nullptr && std::freopen("/dev/null", "wb", stderr) != nullptr)
+        ::execvp(arguments[0], arguments.data());
+    ::_exit(127);
+}
+
+void end(pid_t& child, int signal) {
+    if (child <= 0)
+        return;
+    ::kill(child, signal);
+    ::kill(child, SIGCONT);
+    ::waitpid(child, nullptr, 0);
+    child = -1;
+}
+
+} // namespace
+
+PulseServer::PulseServer(std::string folder) : folder_{std::move(folder)} {
+    std::filesystem::create_directories(folder_);
+    ::setenv("XDG_RUNTIME_DIR", folder_.c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", folder_.c_str(), 1);
+    ::setenv("HOME", folder_.c_str(), 1);
+    ::setenv("PULSE_SERVER", ("unix:" + folder_ + "/native").c_str(), 1);
+    ::setenv("SDL_AUDIODRIVER", "pulseaudio", 1);
+}
+
+PulseServer::~PulseServer() {
+    stop_recording();
+    end(server_, SIGKILL);
+}
+
+void PulseServer::start() {
+    std::filesystem::remove(folder_ + "/native");
+    server_ =
+        run({"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--high-priority=no",
+             "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + folder_ + "/native", "-L",
+             "module-null-sink sink_name=air format=float32le rate=48000 channels=2"},
+            "/dev/null");
+    wait_until_it_answers();
+}
+
+void PulseServer::wait_until_it_answers() const {
+    for (int attempt = 0; attempt < 400; ++attempt) {
+        const int status = std::system("pactl info >/dev/null 2>&1");
+        if (status == 0)
+            return;
+        std::this_thread::sleep_for(std::chrono::milliseconds{50});
+    }
+    throw std::runtime_error{"the sound server doesn't start"};
+}
+
+void PulseServer::kill() {
+    end(server_, SIGKILL);
+}
+
+void PulseServer::freeze() {
+    ::kill(server_, SIGSTOP);
+}
+
+void PulseServer::thaw() {
+    ::kill(server_, SIGCONT);
+}
+
+void PulseServer::record(const std::string& file) {
+    recorder_ = run({"parec", "-d", "air.monitor", "--format=float32le", "--rate=48000", "--channels=2", "--raw",
+                     "--latency-msec=50"},
+                    file);
+    while (std::filesystem::exists(file) ? std::filesystem::file_size(file) == 0 : true)
+        std::this_thread::sleep_for(std::chrono::milliseconds{20});
+}
+
+void PulseServer::stop_recording() {
+    end(recorder_, SIGTERM);
+}
+
+std::vector<float> recorded_floats(const std::string& file) {
+    std::ifstream stream{file, std::ios::binary};
+    std::vector<float> floats(std::filesystem::file_size(file) / sizeof(float));
+    stream.read(reinterpret_cast<char*>(floats.data()), static_cast<std::streamsize>(floats.size() * sizeof(float)));
+    return floats;
+}
+
+} // namespace sonarelle

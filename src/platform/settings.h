@@ -16,7 +16,7 @@ struct Setting {
 
 /// Named texts in sections under an application's name. Sections and keys are compared without regard to case. Two
 /// programs may write at once: no write of another key is lost. From the window thread.
-/// @throws Failure 57 or 75, with the store's file as its source, when the store can't be read or written.
+/// @throws Failure 57, 61 or 75, with the store's file as its source, when the store can't be read or written.
 class Settings {
 public:
     virtual ~Settings() = default;

@@ -86,7 +86,7 @@ void PulseServer::thaw() {
 
 void PulseServer::record(const std::string& file) {
     recorder_ = run({"parec", "-d", "air.monitor", "--format=float32le", "--rate=48000", "--channels=2", "--raw",
-                     "--latency-msec=50"},
+                     "--latency-msec=200"},
                     file);
     while (std::filesystem::exists(file) ? std::filesystem::file_size(file) == 0 : true)
         std::this_thread::sleep_for(std::chrono::milliseconds{20});

@@ -61,6 +61,8 @@ TEST_F(SoundCard, PlaysTheRehearsalSampleForSample) {
     server.stop_recording();
     live.output.reset();
 
+    ASSERT_TRUE(live.reports.empty()) << "starved frames: " << live.reports.front().starved.count();
+    ASSERT_EQ(live.bus.late_commands(), 0);
     expect_all_heard(recorded_floats(file), rehearsal.heard);
 }
 

@@ -9,7 +9,7 @@ namespace sonarelle {
 
 namespace {
 
-constexpr Uint16 block_frames = 1024;
+constexpr Uint16 block_frames = 2048;
 
 class SdlDevice final : public OutputDevice {
 public:

@@ -72,7 +72,7 @@ void SoundMedia::start(const std::shared_ptr<Feeder>& feeder) {
 
 std::shared_ptr<SoundTroubles> SoundMedia::watch(std::string_view path) {
     auto troubles = std::make_shared<SoundTroubles>();
-    watched_.push_back({std::string{path}, troubles, {.path = std::string{path}, .starved = {}, .breaks = 0}});
+    watched_.push_back({std::string{path}, troubles, {}, {}});
     return troubles;
 }
 
@@ -85,18 +85,28 @@ void SoundMedia::end_workers() {
     });
 }
 
+// One report for a trouble, not one for each of its blocks: when it has grown no more since the last look, or by a
+// second of silence.
 void SoundMedia::report_troubles() {
     for (Watched& watched : watched_) {
-        const Frames starved{watched.troubles->starved_frames.load(std::memory_order_relaxed)};
-        const int breaks = watched.troubles->breaks.load(std::memory_order_relaxed);
-        const SoundReport news{
-            .path = watched.path, .starved = starved - watched.told.starved, .breaks = breaks - watched.told.breaks};
-        watched.told.starved = starved;
-        watched.told.breaks = breaks;
-        if (on_trouble && (news.starved > Frames{0} || news.breaks > 0))
+        const SoundReport counted{.path = watched.path,
+                                  .starved = Frames{watched.troubles->starved_frames.load(std::memory_order_relaxed)},
+                                  .breaks = watched.troubles->breaks.load(std::memory_order_relaxed)};
+        const SoundReport news{.path = watched.path,
+                               .starved = counted.starved - watched.told.starved,
+                               .breaks = counted.breaks - watched.told.breaks};
+        const bool still_grows = counted.starved != watched.seen.starved || counted.breaks != watched.seen.breaks;
+        watched.seen = counted;
+        if ((news.starved == Frames{0} && news.breaks == 0) || (still_grows && news.starved < seconds(1)))
+            continue;
+        watched.told = counted;
+        if (on_trouble)
             on_trouble(news);
     }
-    std::erase_if(watched_, [](const Watched& watched) { return watched.troubles.use_count() == 1; });
+    std::erase_if(watched_, [](const Watched& watched) {
+        return watched.troubles.use_count() == 1 && watched.told.starved == watched.seen.starved &&
+               watched.told.breaks == watched.seen.breaks;
+    });
 }
 
 } // namespace sonarelle

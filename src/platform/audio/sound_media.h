@@ -58,7 +58,8 @@ private:
     struct Watched {
         std::string path;
         std::shared_ptr<SoundTroubles> troubles;
-        SoundReport told;
+        SoundReport seen; ///< At the last look.
+        SoundReport told; ///< With the last report.
     };
 
     // For the graphs.

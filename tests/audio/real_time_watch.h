@@ -1,0 +1,16 @@
+#pragma once
+
+namespace sonarelle {
+
+/// Counts what this thread does that a callback may not: memory asked for or given back, mutexes locked.
+class RealTimeWatch {
+public:
+    struct Seen {
+        int allocations = 0;
+        int locks = 0;
+    };
+    static void begin();
+    [[nodiscard]] static Seen end();
+};
+
+} // namespace sonarelle

@@ -57,7 +57,7 @@ void SettingsLoad::Chargement_parametres() {
     read_chain_values();
     read_positions();
     read_texts();
-    show_longest_jingle();
+    make_options_dialog();
     for (const Insertion& insertion : insertions)
         read_insertion(insertion);
     repair_if_damaged();
@@ -65,7 +65,9 @@ void SettingsLoad::Chargement_parametres() {
     show_paths();
     show_effects();
     show_cursors();
+    show_name();
     place_windows();
+    show_list_picture();
     read_colours();
     place_small_player();
 }
@@ -129,7 +131,7 @@ void SettingsLoad::read_texts() {
 
 // The options dialog is made here, on its first use. Making a window forgets the failures before it, so a damaged
 // number up to this point counts as missing and not as a damaged store.
-void SettingsLoad::show_longest_jingle() {
+void SettingsLoad::make_options_dialog() {
     errors_.clear();
     options_.Text5.set_text(text_of(settings_.valeur_max_jingles));
 }
@@ -183,8 +185,8 @@ void SettingsLoad::repair_if_damaged() {
 
 void SettingsLoad::convert_kept_texts() {
     const auto convert = [this](const std::string& text, Integer& into, TextBox* box = nullptr) {
-        const bool converted = errors_.skip([&] { into = to_integer(text, platform_.decimal_mark); });
-        if (converted && box != nullptr)
+        errors_.skip([&] { into = to_integer(text, platform_.decimal_mark); });
+        if (box != nullptr)
             box->set_text(text_of(into));
     };
     convert(kept_.mix_audio_vitesse, settings_.mix_audio_vitesse, &options_.Text6);
@@ -222,8 +224,16 @@ void SettingsLoad::show_cursors() {
         stand_in->visible = !shown;
 }
 
-void SettingsLoad::place_windows() {
+void SettingsLoad::show_name() {
     main_.Quitter_.caption = "Quitter " + settings_.nom_radio + " (Q)";
+}
+
+void SettingsLoad::show_list_picture() {
+    if (settings_.logo_liste != "Vrai" && settings_.logo_liste != "non")
+        list_.picture = settings_.logo_liste;
+}
+
+void SettingsLoad::place_windows() {
     main_.top = Twips{settings_.position_haut.value()};
     main_.left = Twips{settings_.position_gauche.value()};
     list_.top = Twips{settings_.position_haut_liste.value()};

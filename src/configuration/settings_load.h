@@ -37,14 +37,16 @@ private:
     void read_chain_values();
     void read_positions();
     void read_texts();
-    void show_longest_jingle();
+    void make_options_dialog();
     void read_insertion(const Insertion& insertion);
     void repair_if_damaged();
     void convert_kept_texts();
     void show_paths();
     void show_effects();
     void show_cursors();
+    void show_name();
     void place_windows();
+    void show_list_picture();
     void read_colours();
     void place_small_player();
 

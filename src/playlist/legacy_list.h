@@ -9,8 +9,8 @@ namespace sonarelle {
 /// Reads the lists made before version 5.8.0 (`.rfm`), which are then saved as `.dfm` lists. They are never written.
 class LegacyList {
 public:
-    LegacyList(const Platform& platform, const StationSettings& settings, ListState& list, Liste_son& window,
-               ListDocument& document, ListSaveDialog& save_dialog);
+    LegacyList(const Platform& platform, const StationSettings& settings, ListState& list, ListDocument& document,
+               ListSaveDialog& save_dialog);
 
     /// Appends the rows of an old list and offers it for saving in the new form. The file is asked for, unless a save
     /// name is waiting.
@@ -18,11 +18,11 @@ public:
 
 private:
     [[nodiscard]] std::string name_of_old_list();
+    void append_old_list(const std::string& name);
 
     const Platform& platform_;
     const StationSettings& settings_;
     ListState& list_;
-    Liste_son& window_;
     ListDocument& document_;
     ListSaveDialog& save_dialog_;
 };

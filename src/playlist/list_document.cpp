@@ -39,7 +39,7 @@ ListDocument::ListDocument(const Platform& platform, StationSettings& settings, 
     : platform_{platform}, settings_{settings}, list_{list}, window_{window} {}
 
 void ListDocument::charge_liste() {
-    load([this] {
+    run_load([this] {
         enter_program_folder(platform_);
         list_.nom_fichier = list_.fichier_liste;
         if (list_.fichier_liste.empty())
@@ -54,7 +54,7 @@ void ListDocument::charge_liste() {
 }
 
 void ListDocument::A_liste_Click() {
-    load([this] {
+    run_load([this] {
         const ChosenFile chosen = platform_.dialogs.open_file(
             {"Ouvrir un fichier liste", settings_.chemin_programme, "*.dfm", "fichier (*.dfm)|*.dfm"});
         append_chosen_list(chosen.file_name);
@@ -62,7 +62,7 @@ void ListDocument::A_liste_Click() {
 }
 
 void ListDocument::A_liste_anciene() {
-    load([this] {
+    run_load([this] {
         enter_program_folder(platform_);
         const BusyPointer busy{window_};
         append_chosen_list(join_path(settings_.chemin_programme, default_list));
@@ -176,7 +176,7 @@ void ListDocument::fill_empty_cells(int row) {
         if (window_.ListView1.sub_item(row, column).empty())
             window_.ListView1.set_sub_item(row, column, std::string{value});
     };
-    fill(list_column::start, "0.10");
+    fill(list_column::start, default_start);
     fill(list_column::end, "0.00");
     fill(list_column::genre, "divers");
     fill(list_column::volume, "0");
@@ -198,7 +198,7 @@ void ListDocument::a_mettre_Enabled() {
         entry->enabled = true;
 }
 
-void ListDocument::load(const std::function<void()>& statements) {
+void ListDocument::run_load(const std::function<void()>& statements) {
     try {
         statements();
     } catch (const Failure& failure) {

@@ -35,18 +35,17 @@ public:
     /// Takes the drive and the file's name from the name in `Text2`.
     void recup_nom();
 
-    /// Names a chosen list everywhere that it stands.
-    void take_list_name(const std::string& name);
     /// Appends every record of a file.
     template <typename Record>
     void append_records(const std::string& path);
     /// Says which list is loaded, and how many rows there are.
     void announce_list();
-    void offer_deletion();
     /// Runs a load under its trap: a refusal of the disk is told to the operator, any other failure ends it silently.
-    void load(const std::function<void()>& statements);
+    void run_load(const std::function<void()>& statements);
 
 private:
+    void take_list_name(const std::string& name);
+    void offer_deletion();
     void append_chosen_list(const std::string& name);
     void fill_empty_cells(int row);
     void write_rows();

@@ -1,25 +1,31 @@
 #include "playlist/list_rows.h"
 
 #include "platform/disk.h"
+#include "platform/text.h"
 
 namespace sonarelle {
+
+namespace {
+
+/// A field of spaces alone is an empty cell, which the next save fills.
+std::string end_cell(const std::string& field, DecimalMark mark) {
+    return trim(field).empty() ? "" : Format(field, start_pattern, mark);
+}
+
+} // namespace
 
 RowTable::Row row_of(const enreg_liste& record, DecimalMark mark) {
     return {record.trimmed_chemin(),
             Format(record.debut_lecture(), start_pattern, mark),
-            Format(record.fin_lecture(), start_pattern, mark),
+            end_cell(record.fin_lecture(), mark),
             record.trimmed_genre(),
             std::to_string(record.volume()),
             record.trimmed_duree_piste()};
 }
 
 RowTable::Row row_of(const enreg_rfm& record, DecimalMark mark) {
-    return {record.trimmed_chemin(),
-            "0.10",
-            Format(record.fin_lecture(), start_pattern, mark),
-            record.trimmed_genre(),
-            std::to_string(record.volume()),
-            record.trimmed_duree_piste()};
+    return {record.trimmed_chemin(), std::string{default_start},      end_cell(record.fin_lecture(), mark),
+            record.trimmed_genre(),  std::to_string(record.volume()), record.trimmed_duree_piste()};
 }
 
 void enter_program_folder(const Platform& platform) {

@@ -21,6 +21,8 @@ inline constexpr std::size_t duration = 5;
 } // namespace list_column
 
 inline constexpr std::string_view start_pattern = "####0.00";
+/// Every new row begins a tenth of a second into its file.
+inline constexpr std::string_view default_start = "0.10";
 /// What a list of a name of its own has where no duration was measured.
 inline constexpr std::string_view unknown_duration = "X";
 inline constexpr std::string_view default_list = "liste.dfm";

@@ -10,6 +10,17 @@
 
 namespace sonarelle {
 
+namespace {
+
+std::string with_dfm_ending(std::string_view name) {
+    const std::size_t count = character_count(name);
+    if (count < 4)
+        throw Failure{failure_number::wrong_call, std::string{name}};
+    return std::string{left(name, count - 4)} + ".dfm";
+}
+
+} // namespace
+
 ListSaveDialog::ListSaveDialog(const Platform& platform, const StationSettings& settings, ListState& list,
                                Liste_son& window, ListDocument& document)
     : platform_{platform}, settings_{settings}, list_{list}, window_{window}, document_{document} {}
@@ -38,9 +49,7 @@ void ListSaveDialog::ask_and_save() {
         {"Enregistrer sous", settings_.chemin_programme, list_.nom_sauvegarde, "fichier liste (*.dfm)|*.dfm"});
     if (chosen.cancelled)
         return;
-    list_.extension_fichier = extension_of(chosen.file_name);
-    if (chosen.file_name.empty())
-        list_.nom_fichier = default_list;
+    detecte_extention(chosen.file_name);
     if (list_.extension_fichier != "dfm")
         return;
     list_.fichier_liste = lower_case(chosen.file_name);
@@ -50,6 +59,12 @@ void ListSaveDialog::ask_and_save() {
         return;
     write_rows();
     announce_saved();
+}
+
+void ListSaveDialog::detecte_extention(const std::string& name) {
+    list_.extension_fichier = extension_of(name);
+    if (name.empty())
+        list_.nom_fichier = default_list;
 }
 
 bool ListSaveDialog::may_overwrite() const {
@@ -65,13 +80,21 @@ void ListSaveDialog::write_rows() {
     ListWriter writer{platform_.disk, list_.fichier_liste};
     enreg_liste record;
     for (int row = 1; row <= window_.ListView1.count(); ++row) {
-        window_.ListView1.select(row);
-        if (window_.ListView1.sub_item(row, list_column::duration).empty())
-            window_.ListView1.set_sub_item(row, list_column::duration, std::string{unknown_duration});
-        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
+        write_row(row, record);
         writer.write(record);
     }
     writer.commit();
+}
+
+void ListSaveDialog::write_row(int row, enreg_liste& record) {
+    window_.ListView1.select(row);
+    if (window_.ListView1.sub_item(row, list_column::duration).empty())
+        window_.ListView1.set_sub_item(row, list_column::duration, std::string{unknown_duration});
+    try {
+        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
+    } catch (const Failure& failure) {
+        throw Failure{failure.number, "ligne " + std::to_string(row) + " : " + failure.source, failure.description};
+    }
 }
 
 void ListSaveDialog::announce_saved() {
@@ -80,13 +103,6 @@ void ListSaveDialog::announce_saved() {
     document_.A_sauve();
     window_.A_ecoute.enabled = true;
     window_.caption = "Fichier liste : " + list_.fichier_liste;
-}
-
-std::string with_dfm_ending(std::string_view name) {
-    const std::size_t count = character_count(name);
-    if (count < 4)
-        throw Failure{failure_number::wrong_call, std::string{name}};
-    return std::string{left(name, count - 4)} + ".dfm";
 }
 
 } // namespace sonarelle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "playlist/enreg_liste.h"
 #include "playlist/list_document.h"
 
 namespace sonarelle {
@@ -19,7 +20,9 @@ public:
 private:
     void ask_and_save();
     [[nodiscard]] bool may_overwrite() const;
+    void detecte_extention(const std::string& name);
     void write_rows();
+    void write_row(int row, enreg_liste& record);
     void announce_saved();
 
     const Platform& platform_;
@@ -28,9 +31,5 @@ private:
     Liste_son& window_;
     ListDocument& document_;
 };
-
-/// The name with its last four characters replaced by ".dfm".
-/// @throws Failure 5 for a name of fewer than four characters.
-[[nodiscard]] std::string with_dfm_ending(std::string_view name);
 
 } // namespace sonarelle

@@ -13,8 +13,7 @@ struct ListState {
     std::string nom_fichier;             ///< The name with which the last load or save worked.
     std::string nom_sauvegarde;          ///< The name that the save dialog offers.
     std::string extension_fichier;       ///< Last three characters of the name just chosen, lower case, or empty.
-    std::string chemin_fichier;          ///< Path of the row last sent to a deck.
-    std::string chemin_lecture;          ///< The same, trimmed: the file that deck 1 opens.
+    std::string chemin_fichier;          ///< Path of the row being considered, or last sent to a deck.
 
     Integer index_en_cours;     ///< Row that is selected after a load or save, and the row that the chain is on.
     Integer ligne_en_lecture;   ///< Row now being played.

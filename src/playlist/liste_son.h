@@ -14,12 +14,35 @@ struct Liste_son : Window {
 
     RowTable ListView1;
     TextBox Text2{*this, "Text2"}; ///< Full name of the list or of the chosen file. Never shown.
-    Label Label1{*this, "Label1"}; ///< What the list is doing, and how many rows it has.
+    Label Label1{*this, "Label1", "Ouverture en attente (0)"}; ///< What the list is doing, and how many rows it has.
+    Label Label2{*this, "Label2"};                             ///< Name of the track on the air.
+    Label Label3{*this, "Label3"};                             ///< Elapsed second and mix point of the main deck.
+    Label Label4{*this, "Label4", "00:00:00"};                 ///< Remaining time of the main deck.
+    Label Label12{*this, "Label12", "Zapping autorisé"};
+    Label Label13{*this, "Label13"}; ///< Time of day.
+    Label Label16{*this, "Label16"}; ///< Which deck plays in the chain over decks.
+    Label Label25{*this, "Label25"}; ///< The list that is read.
+    Image Image1{*this, "Image1"};   ///< Starts the list.
+    Image Image2{*this, "Image2"};   ///< Zaps.
+    Image Image3{*this, "Image3"};   ///< Stops all decks.
+    Image Image4{*this, "Image4"};   ///< Shows the row that plays.
     Label Label14{*this, "Label14", "Jingle Off"};
     Label Label15{*this, "Label15", "Liste Off"};
     Image Image13{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
     Image Image14{*this, "Image14", "bouton_off.jpg"}; ///< Switch of the list items.
 
+    Image Image17{*this, "Image17"}; ///< The four reading modes, each picture beside its option.
+    Image Image9{*this, "Image9"};
+    Image Image11{*this, "Image11"};
+    Image Image12{*this, "Image12"};
+    OptionGroup reading_mode;
+    OptionButton Option1{*this, reading_mode, "Option1", "Lecteur"};
+    OptionButton Option2{*this, reading_mode, "Option2", "Lecture aléatoire"};
+    OptionButton Option3{*this, reading_mode, "Option3", "Lecture durée définie"};
+    OptionButton Option4{*this, reading_mode, "Option4", "Lecture durée piste"};
+
+    MenuItem A_a_zapping{*this, "A_a_zapping", "Mode enchainement auto liste"};
+    MenuItem A_precoute{*this, "A_precoute", "Pré - écoute fichier"};
     MenuItem A_liste{*this, "A_liste", "Charger liste (C)"};
     MenuItem A_Charge{*this, "A_Charge", "Charger une liste"};
     MenuItem A_liste_anciene{*this, "A_liste_anciene", "Ouvrir le fichier par défaut (liste.dfm)"};

@@ -2,26 +2,29 @@
 
 #include <utility>
 
+#include "platform/failure.h"
 #include "platform/shell.h"
 #include "platform/text.h"
 
 namespace sonarelle {
 
-RowToDeck::RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination,
-                     const ChainState& chain, Liste_son& window, RecordReading& reading,
-                     std::function<void(int deck)> load_deck)
+RowToDeck::RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
+                     Liste_son& window, RecordReading& reading, std::function<void(int deck)> load_deck)
     : platform_{platform}, list_{list}, destination_{destination}, chain_{chain}, window_{window}, reading_{reading},
       load_deck_{std::move(load_deck)} {}
 
-// The record comes from the file, not from the row: the file is what the decks play from.
+// The record comes from the file, not from the row: the file is what the decks play from. A row beyond the station's
+// 16-bit numbers can't be sent.
 void RowToDeck::send(int deck) {
-    list_.index_destinataire = window_.ListView1.selected();
-    if (list_.fichier_liste.empty())
-        return;
-    reading_.lire_enreg_destinataire();
-    list_.chemin_fichier = destination_.dest_chemin;
-    list_.chemin_lecture = trim(destination_.dest_chemin);
-    load_deck_(deck);
+    ErrorIndicator{}.skip([&] {
+        list_.index_destinataire = window_.ListView1.selected();
+        if (list_.fichier_liste.empty())
+            return;
+        reading_.lire_enreg_destinataire();
+        list_.chemin_fichier = destination_.dest_chemin;
+        chain_.chemin_lecture = trim(destination_.dest_chemin);
+        load_deck_(deck);
+    });
 }
 
 void RowToDeck::Load_Pl() {

@@ -14,7 +14,7 @@ namespace sonarelle {
 class RowToDeck {
 public:
     /// `load_deck` is the deck's door: it loads `chemin_fichier` on deck 1, 2 or 3 and adjusts its buttons.
-    RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, const ChainState& chain,
+    RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
               Liste_son& window, RecordReading& reading, std::function<void(int deck)> load_deck);
 
     void Charg1_son() { send(1); }
@@ -30,7 +30,7 @@ private:
     const Platform& platform_;
     ListState& list_;
     const DestinationRecord& destination_;
-    const ChainState& chain_;
+    ChainState& chain_;
     Liste_son& window_;
     RecordReading& reading_;
     std::function<void(int deck)> load_deck_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "platform/numbers.h"
@@ -10,6 +11,48 @@ namespace sonarelle {
 struct ChainState {
     Integer lecteur_en_cours;    ///< The main deck: 1 to 3, 0 for none.
     std::string fichier_courant; ///< The list file that `lire` reads.
+
+    std::string chemin_lecture;  ///< The file on deck 1; empty for none.
+    std::string chemin_lecture2; ///< The file on deck 2.
+    std::string chemin_lecture3; ///< The file on deck 3.
+
+    std::string chemin_precedent;   ///< The list's `chemin_fichier` at the last start of a track.
+    Integer element_en_cours;       ///< Row of the current item.
+    Integer index_debut_aleatoire;  ///< Row at which a run started, for the insertion of jingles.
+    Integer index_debut_aleatoire1; ///< The same for the insertion of list items.
+
+    std::string nom_fichier_source; ///< The path that `nom_du_fich` works on.
+    std::string extension_fichier;  ///< Its last three characters, lower case.
+    double duree_mesuree = 0;       ///< Seconds.
+    std::string duree_piste_texte;  ///< The same as hh:mm:ss.
+
+    Flag mode_enchainement;  ///< True: chain from the list; false: chain over decks.
+    Flag ordre_aleatoire;    ///< The next row comes by draw.
+    Flag jingles_aleatoires; ///< Random order with jingles from a file.
+    Flag chaine_suspendue;   ///< The chain's timers do nothing.
+    Flag preecoute_active;   ///< Every track is cut at `duree_preecoute`.
+    Flag ecoute_demandee;    ///< One-off listening: the next list load takes `chemin_ecoute`.
+    Flag ecoute_en_cours;
+    Integer duree_preecoute; ///< Seconds.
+    std::string chemin_ecoute;
+
+    Integer duree_lecteur;       ///< End point of the main deck, seconds.
+    Integer point_chargement;    ///< Elapsed second of the load.
+    Integer dernier_point_mix;   ///< The last mix point of the list chain, seconds.
+    Flag erreur_chargement;      ///< The last list load failed.
+    Flag choix_prepare;          ///< The load step has drawn the next row already.
+    Flag chargement_fait;        ///< The load step has loaded the next deck.
+    Integer nb_fichiers_ecoutes; ///< Tracks started.
+    Integer position_zap;        ///< Position of the incoming deck at the last operator zap, whole seconds.
+    Integer lecteur_mix_special; ///< The deck of the special mix.
+    Flag demande_ajout;          ///< A track has started since the last insertion.
+    Integer compteur_aleatoire;  ///< Tracks started since the last jingle.
+    Integer compteur_aleatoire1;
+
+    Flag journal_actif;
+    std::string ligne_journal;
+    Flag ajout_externe; ///< The file of the next hand load was dragged.
+    Flag maj_depuis_ajout;
 };
 
 } // namespace sonarelle

@@ -6,19 +6,61 @@
 namespace sonarelle {
 
 Station::Station(const Platform& platform)
-    : platform_{platform}, main_window{platform_.scheduler}, settings_load{platform_,   settings, main_window,
-                                                                           list_window, list,     options_window,
-                                                                           small_player},
+    : platform_{platform},
+      main_window{platform_.scheduler}, desk{platform_,
+                                             settings,
+                                             list,
+                                             chain,
+                                             destination,
+                                             main_window,
+                                             list_window,
+                                             warning_window,
+                                             small_player,
+                                             {Deck{1, platform_.media, main_window.deck(1), chain.chemin_lecture},
+                                              Deck{2, platform_.media, main_window.deck(2), chain.chemin_lecture2},
+                                              Deck{3, platform_.media, main_window.deck(3), chain.chemin_lecture3}}},
+      settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
       settings_rewrite{platform_, settings, [this] { ended_ = true; }},
       record_reading{platform_, list, destination, dragged, [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
-      legacy_list{platform_, settings, list, list_window, list_document, list_save_dialog},
-      row_to_deck{platform_, list, destination, chain, list_window, record_reading, [](int) {}} {
-    connect_events();
+      legacy_list{platform_, settings, list, list_document, list_save_dialog}, journal{desk},
+      deck_volume{desk, [this] { list_document.charge_liste(); }}, mix_engine{desk, deck_volume},
+      deck_loading{desk, deck_volume, mix_engine}, deck_start{desk, deck_loading, deck_volume, mix_engine, journal},
+      deck_transport{desk, deck_loading, deck_start, deck_volume}, run_control{desk,         deck_loading, deck_start,
+                                                                               deck_volume,  mix_engine,   journal,
+                                                                               list_document},
+      auto_chain{desk, deck_loading, deck_start, mix_engine, journal, run_control, record_reading},
+      zapping{desk,    auto_chain,  deck_loading,   deck_start,   mix_engine,
+              journal, run_control, record_reading, list_document},
+      chain_modes{desk, mix_engine, journal}, list_run{desk,           auto_chain,       deck_loading,
+                                                       deck_transport, journal,          run_control,
+                                                       record_reading, list_save_dialog, list_document},
+      row_to_deck{platform_,
+                  list,
+                  destination,
+                  chain,
+                  list_window,
+                  record_reading,
+                  [this](int deck) { load_row_on_deck(deck); }} {
+    connect_list_window();
+    connect_reading_modes();
+    connect_timers();
+    connect_chain_choices();
+    connect_menus();
+    for (Deck& deck : desk.decks)
+        connect_deck(deck);
 }
 
-void Station::connect_events() {
+void Station::create_main_window() {
+    settings_load.Chargement_parametres();
+    list.mode_insertion = 2;
+    chain.chaine_suspendue = false;
+    main_window.Label7.caption = "Lecture en attente";
+    main_window.Timer4.set_interval(settings.valeur_vitesse_timer);
+}
+
+void Station::connect_list_window() {
     list_window.A_liste.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_Charge.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_liste_anciene.on_click = [this] { list_document.A_liste_anciene(); };
@@ -32,11 +74,82 @@ void Station::connect_events() {
     list_window.char1.on_click = [this] { row_to_deck.Charg1_son(); };
     list_window.char2.on_click = [this] { row_to_deck.charg2_son(); };
     list_window.char3.on_click = [this] { row_to_deck.Charg3_son(); };
+    list_window.Image1.on_click = [this] { list_run.Image1_Click(); };
+    list_window.Image2.on_click = [this] { zapping.zapping(); };
+    list_window.Image3.on_click = [this] { list_run.Image3_Click(); };
+    list_window.Image4.on_click = [this] { list_run.Image4_Click(); };
+}
+
+// Picture and option of a reading mode are one choice.
+void Station::connect_reading_modes() {
+    list_window.Option1.on_click = [this] { chain_modes.Option1_Click(); };
+    list_window.Option2.on_click = [this] { chain_modes.Option2_Click(); };
+    list_window.Option3.on_click = [this] { chain_modes.Option3_Click(); };
+    list_window.Option4.on_click = [this] { chain_modes.Option4_Click(); };
+    list_window.Image17.on_click = [this] { list_window.Option1.set_value(true); };
+    list_window.Image9.on_click = [this] { list_window.Option2.set_value(true); };
+    list_window.Image11.on_click = [this] { list_window.Option3.set_value(true); };
+    list_window.Image12.on_click = [this] { list_window.Option4.set_value(true); };
+    list_window.A_a_zapping.on_click = [this] { chain_modes.A_a_zapping_Click(); };
+}
+
+void Station::connect_timers() {
+    main_window.Timer1.on_tick = [this] { auto_chain.Timer1_tick(); };
+    main_window.Timer2.on_tick = [this] { auto_chain.Timer2_tick(); };
+    main_window.Timer3.on_tick = [this] { auto_chain.Timer3_tick(); };
+    main_window.Timer4.on_tick = [this] { auto_chain.Timer4_tick(); };
+}
+
+void Station::connect_chain_choices() {
+    main_window.coche2.on_click = [this] { chain_modes.coche2_Click(); };
+    main_window.coche3.on_click = [this] { chain_modes.coche3_Click(); };
+    main_window.coche4.on_click = [this] { mix_engine.coche4_Click(); };
+    main_window.a_mode_manuel.on_click = [this] { chain_modes.a_mode_manuel_Click(); };
+    main_window.a_mode_auto.on_click = [this] { chain_modes.a_mode_auto_Click(); };
+    main_window.a_mode_predefini.on_click = [this] { chain_modes.a_mode_predefini_Click(); };
+    main_window.Image12.on_click = [this] { chain_modes.Image12_Click(); };
+    main_window.Image13.on_click = [this] { chain_modes.Image13_Click(); };
+    main_window.Image14.on_click = [this] { mix_engine.Image14_Click(); };
+    main_window.Image15.on_click = [this] { mix_engine.Image15_Click(); };
+    main_window.Active_audio_jingles.on_click = [this] { mix_engine.Active_audio_jingles_Click(); };
+    main_window.Active_audio.on_click = [this] { mix_engine.Active_audio_Click(); };
+    main_window.Active_audio_zapping.on_click = [this] { mix_engine.Active_audio_zapping_Click(); };
+    main_window.Désactive_audio.on_click = [this] { mix_engine.Désactive_audio_Click(); };
+}
+
+void Station::connect_menus() {
+    main_window.Active_journal1.on_click = [this] { journal.Active_journal1_Click(); };
+    main_window.Active_journal.on_click = [this] { journal.Active_journal_Click(); };
+    main_window.A_desacive_J.on_click = [this] { journal.A_desacive_J_Click(); };
+    main_window.A_purger_journal.on_click = [this] { journal.A_purger_journal_Click(); };
+    main_window.A_ouvre_journal.on_click = [this] { journal.A_ouvre_journal_Click(); };
+}
+
+void Station::connect_deck(Deck& deck) {
+    DeckControls& controls = deck.controls;
+    controls.open.on_click = [this, &deck] { deck_loading.open_by_hand(deck); };
+    controls.zap.on_click = [this, &deck] { zapping.press_zap(deck); };
+    controls.play.on_click = [this, &deck] { ErrorIndicator{}.skip([&] { deck_start.press_play(deck); }); };
+    controls.stop.on_click = [this, &deck] { deck_transport.stop(deck); };
+    controls.pause.on_click = [this, &deck] { deck_transport.toggle_pause(deck); };
+    controls.forward.on_click = [this, &deck] { deck_transport.forward(deck); };
+    controls.back.on_click = [this, &deck] { deck_transport.back(deck); };
+    controls.special_mix.on_click = [this, &deck] { mix_engine.special_mix(deck); };
+    controls.keep_volume.on_click = [this, &deck] { deck_volume.keep_in_record(deck); };
+    controls.slider.on_change = [this, &deck] { deck_volume.adjust(deck); };
+    controls.louder.on_click = [this, &deck] { deck_volume.step(deck, -1); };
+    controls.quieter.on_click = [this, &deck] { deck_volume.step(deck, 1); };
+    controls.scroll_timer.on_tick = [&deck] { DeckVolume::scroll_title(deck); };
+}
+
+void Station::load_row_on_deck(int deck) {
+    deck_loading.load_from_list(desk.deck(deck));
+    mix_engine.select_bouton();
 }
 
 // The volume 0 of an old list is no silence but a value that it never had.
 void Station::warn_of_null_volume() {
-    if (chain.lecteur_en_cours >= 1 && chain.lecteur_en_cours <= 3)
+    if (desk.has_main_deck())
         for (DeckControls& deck : main_window.decks)
             deck.slider.set_value(0);
     warning_window.Label1.caption =

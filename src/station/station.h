@@ -16,8 +16,20 @@
 #include "playlist/row_to_deck.h"
 #include "playlist/working_records.h"
 #include "playout/antenne_fm.h"
+#include "playout/auto_chain.h"
+#include "playout/chain_modes.h"
 #include "playout/chain_state.h"
+#include "playout/deck_loading.h"
 #include "playout/deck_record.h"
+#include "playout/deck_start.h"
+#include "playout/deck_transport.h"
+#include "playout/deck_volume.h"
+#include "playout/desk.h"
+#include "playout/journal.h"
+#include "playout/list_run.h"
+#include "playout/mix_engine.h"
+#include "playout/run_control.h"
+#include "playout/zapping.h"
 
 namespace sonarelle {
 
@@ -28,6 +40,9 @@ public:
     explicit Station(const Platform& platform);
     Station(const Station&) = delete;
     Station& operator=(const Station&) = delete;
+
+    /// Reads the settings and makes the main window ready.
+    void create_main_window();
 
     /// True once the operator or a routine has ended the program.
     [[nodiscard]] bool ended() const { return ended_; }
@@ -48,6 +63,7 @@ public:
     Form_options options_window;
     mini_lecteur small_player;
     err_form warning_window;
+    Desk desk;
 
     SettingsLoad settings_load;
     SettingsRewrite settings_rewrite;
@@ -56,11 +72,29 @@ public:
     ListDocument list_document;
     ListSaveDialog list_save_dialog;
     LegacyList legacy_list;
+
+    Journal journal;
+    DeckVolume deck_volume;
+    MixEngine mix_engine;
+    DeckLoading deck_loading;
+    DeckStart deck_start;
+    DeckTransport deck_transport;
+    RunControl run_control;
+    AutoChain auto_chain;
+    Zapping zapping;
+    ChainModes chain_modes;
+    ListRun list_run;
     RowToDeck row_to_deck;
 
 private:
-    void connect_events();
+    void connect_list_window();
+    void connect_reading_modes();
+    void connect_timers();
+    void connect_chain_choices();
+    void connect_menus();
+    void connect_deck(Deck& deck);
     void warn_of_null_volume();
+    void load_row_on_deck(int deck);
 };
 
 } // namespace sonarelle

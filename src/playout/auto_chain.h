@@ -1,0 +1,94 @@
+#pragma once
+
+#include "playlist/record_reading.h"
+#include "playout/deck_loading.h"
+#include "playout/deck_start.h"
+#include "playout/desk.h"
+#include "playout/journal.h"
+#include "playout/mix_engine.h"
+#include "playout/random_order.h"
+#include "playout/row_walk.h"
+#include "playout/run_control.h"
+
+namespace sonarelle {
+
+/// Keeps sound on the air without a hand on the desk: loads the next row some seconds before it is needed, starts it
+/// some seconds before the main deck's end, and releases the old deck. One class for the ticks of `Timer1` to `Timer4`.
+class AutoChain {
+public:
+    AutoChain(Desk& desk, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal, RunControl& run,
+              RecordReading& reading);
+
+    void Timer1_tick();
+    void Timer2_tick();
+    void Timer3_tick();
+    void Timer4_tick();
+
+    void zap11() { automatic_zap(desk_.deck(1)); }
+    void zap12() { automatic_zap(desk_.deck(2)); }
+    void zap13() { automatic_zap(desk_.deck(3)); }
+    /// Goes over from a deck to the next one, while the old one fades.
+    void automatic_zap(Deck& old);
+
+    /// Loads the row that the walk stands on onto the deck behind `old`, starts it and shows the row.
+    void start_row(Deck& old);
+
+    /// Counts the remaining time of the list window down by a second.
+    void compteur();
+
+    /// Steps to the next row, round the end, and takes its path.
+    void take_next_row();
+    /// Takes the path of the current row, round the end.
+    void take_current_row();
+    /// A new track overlaps the old one from now on.
+    void begin_overlap() { faded_deck_ = 0; }
+
+    /// Ends the walks that look for a row.
+    void cancel_walks();
+
+private:
+    using Trap = std::function<void(const std::function<void()>&)>;
+
+    void load_step();
+    bool try_to_load_next();
+    [[nodiscard]] bool is_playable_file();
+    void loaded();
+    void drop_invalid_row();
+    void stop_after_load_error();
+    void leave_load_step();
+
+    void list_tick();
+    void show_list_progress(Deck& deck, Integer mix_point);
+    void mix_point(Deck& deck, Integer point);
+    void follow_at_once(Deck& deck);
+    bool try_to_follow(Deck& deck);
+    bool try_to_zap(Deck& old, bool by_draw);
+    void start_zapped(Deck& old);
+    void load_and_play(Deck& old);
+    [[nodiscard]] bool take_drawn_row();
+    [[nodiscard]] bool is_candidate();
+
+    void deck_tick();
+    void manual_display();
+    [[nodiscard]] bool is_due(Deck& deck, Integer point);
+    void play_ring(int deck);
+
+    void release(Deck& main, Deck& old);
+    void fade(Deck& old);
+    [[nodiscard]] Trap trap_of(Timer& timer, const std::string& name);
+    void stop_after_failure(Timer& timer, const std::string& name, const Failure& failure);
+
+    Desk& desk_;
+    DeckLoading& loading_;
+    DeckStart& start_;
+    MixEngine& mix_;
+    Journal& journal_;
+    RunControl& run_;
+    RecordReading& reading_;
+    RowWalk load_walk_;
+    RowWalk mix_walk_;
+    RandomOrder random_order_;
+    int faded_deck_ = 0; // the deck whose fade has begun and was told
+};
+
+} // namespace sonarelle

@@ -1,0 +1,178 @@
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playout/auto_chain.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// Drive or folder of the next file isn't there: the list is stopped.
+struct ListStopped {};
+
+/// One of the three fields of hh:mm:ss.
+int field_of(const std::string& text, std::size_t place) {
+    return to_integer(mid(text, place, 2), DecimalMark::point).value();
+}
+
+std::string two_digits(int number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+} // namespace
+
+void AutoChain::compteur() {
+    Label& label = desk_.list_window.Label4;
+    int hours = field_of(label.caption, 1);
+    int minutes = field_of(label.caption, 4);
+    int seconds = field_of(label.caption, 7);
+    if (hours == 0 && minutes == 0 && seconds == 0)
+        return;
+    const auto count_down = [](int& field, int full) {
+        const bool borrows = field == 0;
+        field = (borrows ? full : field) - 1;
+        return borrows;
+    };
+    if (count_down(seconds, 60) && count_down(minutes, 60))
+        count_down(hours, 24);
+    label.caption = two_digits(hours) + ":" + two_digits(minutes) + ":" + two_digits(seconds);
+}
+
+void AutoChain::Timer1_tick() {
+    if (desk_.is_manual() || desk_.chain.chaine_suspendue.is_true() || desk_.window.coche2.value())
+        return;
+    ErrorIndicator{}.skip([this] { load_step(); });
+}
+
+void AutoChain::load_step() {
+    ChainState& chain = desk_.chain;
+    const bool defined = chain.mode_enchainement.is_true() || chain.mode_enchainement.is_false();
+    if (defined && desk_.has_main_deck()) {
+        chain.duree_lecteur = desk_.main_deck().end_point();
+        compteur();
+    }
+    if (chain.jingles_aleatoires.is_true() || desk_.settings.valide_fichier_aleatoire1.is_true())
+        return;
+    chain.point_chargement = chain.duree_lecteur - (desk_.settings.mix_courant + desk_.settings.prechargement);
+    if (!desk_.has_main_deck() || load_walk_.under_way() || chain.point_chargement != desk_.elapsed())
+        return leave_load_step();
+    desk_.warning.hide();
+    const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
+    load_walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, trap);
+    leave_load_step();
+}
+
+void AutoChain::leave_load_step() {
+    desk_.window.mouse_pointer = 0;
+    desk_.chain.erreur_chargement = false;
+}
+
+/// Looks at the next row; true when it was loaded, or the list was stopped.
+bool AutoChain::try_to_load_next() {
+    ChainState& chain = desk_.chain;
+    chain.erreur_chargement = false;
+    if (chain.ordre_aleatoire.is_false()) {
+        chain.choix_prepare = false;
+        take_next_row();
+    } else if (chain.ordre_aleatoire.is_true()) {
+        if (!take_drawn_row())
+            return false;
+        chain.choix_prepare = true;
+    } else {
+        return true;
+    }
+    if (desk_.list.chemin_fichier == chain.chemin_precedent)
+        return false;
+    desk_.window.Timer1.disable();
+    desk_.list.index_destinataire = desk_.list.index_en_cours;
+    reading_.lire_enreg_destinataire();
+    chain.chargement_fait = true;
+    try {
+        if (is_playable_file()) {
+            loaded();
+            return true;
+        }
+        drop_invalid_row();
+        return false;
+    } catch (const ListStopped&) {
+        stop_after_load_error();
+        return true;
+    }
+}
+
+void AutoChain::take_next_row() {
+    desk_.list.index_en_cours += 1;
+    take_current_row();
+}
+
+void AutoChain::take_current_row() {
+    if (desk_.list.index_en_cours == desk_.row_count() + 1)
+        desk_.list.index_en_cours = 1;
+    desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
+}
+
+bool AutoChain::take_drawn_row() {
+    const int row = random_order_.draw(desk_.list.index_en_cours.value(), desk_.row_count());
+    if (row == 0)
+        return false;
+    desk_.list.index_en_cours = row;
+    take_current_row();
+    return true;
+}
+
+bool AutoChain::is_playable_file() {
+    const std::string& path = desk_.list.chemin_fichier;
+    if (is_network_path(path)) {
+        journal_.note(date_and_time(desk_.platform) +
+                      " Pas de vérification d'existence de fichier (fichier sur le réseau)");
+    } else {
+        const std::string folder{folder_of_path(path)};
+        ErrorIndicator errors;
+        errors.skip([&] { desk_.platform.disk.ChDrive(path); });
+        errors.skip([&] { desk_.platform.disk.ChDir(folder); });
+        if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
+            throw ListStopped{};
+        const std::string name{name_of_path(path)};
+        if (!equal_ignoring_case(trim(desk_.platform.disk.Dir(path)), trim(name)))
+            return false;
+    }
+    desk_.window.Timer1.disable();
+    loading_.load_from_list(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
+    return !desk_.chain.erreur_chargement.is_true();
+}
+
+// In list order the chain adds 1 again when it starts the track.
+void AutoChain::loaded() {
+    Deck& deck = desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value()));
+    desk_.report({OnAirEvent::Kind::loaded,
+                  deck.number(),
+                  desk_.list.index_en_cours.value(),
+                  deck.path,
+                  deck.controls.counter.caption,
+                  0,
+                  0,
+                  {}});
+    if (!desk_.chain.ordre_aleatoire.is_true())
+        desk_.list.index_en_cours -= 1;
+    desk_.chain.duree_lecteur = 0;
+}
+
+void AutoChain::drop_invalid_row() {
+    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
+                  " Non trouvé ou non valide");
+    if (desk_.row_count() == 0)
+        throw ListStopped{};
+    run_.remove_row("Recherche de fichier valide ");
+    desk_.chain.chargement_fait = false;
+    if (desk_.row_count() == 0)
+        throw ListStopped{};
+}
+
+void AutoChain::stop_after_load_error() {
+    journal_.note(date_and_time(desk_.platform) + " Erreur au chargement de fichier...liste stoppée");
+    run_.stoppe_liste("Erreur au chargement de fichier...liste stoppée");
+    desk_.window.mouse_pointer = 0;
+}
+
+} // namespace sonarelle

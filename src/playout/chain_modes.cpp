@@ -1,0 +1,215 @@
+#include "playout/chain_modes.h"
+
+#include <algorithm>
+
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::string_view switch_on = "bouton_on.jpg";
+constexpr std::string_view switch_off = "bouton_off.jpg";
+constexpr std::string_view empty_counter = "( - - )";
+
+} // namespace
+
+void ChainModes::a_mode_manuel_Click() {
+    const bool all_loaded = std::ranges::none_of(desk_.decks, [](const Deck& deck) { return deck.path.empty(); });
+    if (!all_loaded) {
+        desk_.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
+        return;
+    }
+    check_only(desk_.window.chain_modes(), desk_.window.a_mode_manuel);
+    desk_.chain.mode_enchainement = false;
+    desk_.chain.ordre_aleatoire = false;
+    desk_.window.Timer2.disable();
+    desk_.window.Timer4.disable();
+    desk_.window.coche2.set_value(true);
+    // Choosing the decks' chain may have put it back to automatic: by hand is what was asked for.
+    check_only(desk_.window.chain_modes(), desk_.window.a_mode_manuel);
+    desk_.window.Timer2.disable();
+    desk_.window.coche2.caption = "Mix Manuel";
+    for (Deck& deck : desk_.decks) {
+        deck.controls.play.enabled = true;
+        deck.controls.open.enabled = true;
+    }
+    set_special_mixes(false);
+    desk_.chain.lecteur_en_cours = 0;
+}
+
+void ChainModes::a_mode_auto_Click() {
+    check_only(desk_.window.chain_modes(), desk_.window.a_mode_auto);
+    desk_.chain.ordre_aleatoire = false;
+    switch_chain(false);
+    desk_.window.coche2.caption = "Mixer les titres";
+    desk_.list_window.A_a_zapping.checked = false;
+    desk_.list_window.A_precoute.enabled = false;
+    desk_.list_window.Option1.set_value(true);
+    set_special_mixes(true);
+}
+
+void ChainModes::a_mode_predefini_Click() {
+    check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
+    desk_.chain.ordre_aleatoire = false;
+    switch_chain(true);
+    mix_.Active_audio_Click();
+    desk_.window.Active_audio.enabled = true;
+    desk_.list_window.A_a_zapping.checked = true;
+    desk_.list_window.A_precoute.enabled = true;
+    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
+    desk_.list_window.Label3.caption = std::string{empty_counter};
+}
+
+void ChainModes::switch_chain(bool from_list) {
+    desk_.chain.mode_enchainement = from_list;
+    desk_.window.Timer2.set_enabled(!from_list);
+    if (!from_list)
+        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    desk_.window.Timer4.set_enabled(from_list);
+    desk_.window.Timer1.enable();
+}
+
+void ChainModes::set_special_mixes(bool enabled) {
+    for (Deck& deck : desk_.decks)
+        deck.controls.special_mix.enabled = enabled;
+}
+
+void ChainModes::A_a_zapping_Click() {
+    if (desk_.chain.mode_enchainement.is_false()) {
+        desk_.settings.mix_courant = 1;
+        desk_.window.Text1.set_text("1");
+        mix_.Active_audio_Click();
+        switch_chain(true);
+        desk_.list_window.Option3.set_value(true);
+        desk_.window.Active_audio.enabled = true;
+        check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
+    } else if (desk_.chain.mode_enchainement.is_true()) {
+        switch_chain(false);
+        desk_.list_window.Option1.set_value(true);
+        check_only(desk_.window.chain_modes(), desk_.window.a_mode_auto);
+    }
+    desk_.list_window.A_a_zapping.checked = desk_.chain.mode_enchainement.is_true();
+}
+
+void ChainModes::coche2_Click() {
+    a_mode_auto_Click();
+    desk_.list.index_en_cours = 1;
+    desk_.chain.mode_enchainement = false;
+    desk_.window.Active_audio.enabled = false;
+    desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix lecteur )";
+}
+
+void ChainModes::coche3_Click() {
+    try {
+        desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix liste )";
+        read_overlap();
+        desk_.window.Timer1.enable();
+        desk_.window.Timer2.disable();
+        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+        check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
+        desk_.window.Active_audio.enabled = true;
+        desk_.window.Active_audio_zapping.enabled = true;
+        desk_.chain.chaine_suspendue = false;
+        desk_.window.coche4.set_value(1);
+    } catch (const Failure& failure) {
+        desk_.platform.dialogs.MsgBox(
+            {"Une erreur est apparue !\n - " + failure.source + " - " + failure.description + " - " +
+                 std::to_string(failure.number) +
+                 "\nC'est peut etre la premiere exécution du programme\n"
+                 "Vérifier et entrez toutes les valeurs dans le menu options du programme.\n"
+                 "Vérifier également vos paramètres régionaux si erreur type incompatible\n"
+                 "La séparation des décimales pour les nombres doit ètre un point\nEssayer a nouveau !",
+             std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+void ChainModes::read_overlap() {
+    if (desk_.window.Text1.text().empty())
+        desk_.window.Text1.set_text("2");
+    desk_.settings.mix_courant = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
+    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
+}
+
+void ChainModes::Option1_Click() {
+    clear_insertions();
+    desk_.settings.valide_fichier_aleatoire = false;
+    desk_.list_window.Label14.caption = "Jingle Off";
+    desk_.list_window.Image13.picture = std::string{switch_off};
+    desk_.chain.jingles_aleatoires = false;
+    desk_.chain.ordre_aleatoire = false;
+    desk_.chain.mode_enchainement = false;
+    desk_.chain.preecoute_active = false;
+    desk_.window.Timer2.enable();
+    desk_.window.Timer4.disable();
+    mix_.Active_audio_zapping_Click();
+    journal_.note(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
+    if (desk_.has_main_deck())
+        show_end_point(desk_.main_deck().duree_piste);
+}
+
+void ChainModes::clear_insertions() {
+    desk_.settings.valide_fichier_aleatoire1 = false;
+    desk_.list_window.Label15.caption = "liste Off";
+    desk_.list_window.Image14.picture = std::string{switch_off};
+    desk_.chain.compteur_aleatoire = desk_.chain.compteur_aleatoire1 = 0;
+    desk_.window.Timer9.disable();
+}
+
+void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
+    desk_.chain.ordre_aleatoire = random;
+    if (!random)
+        clear_insertions();
+    desk_.chain.mode_enchainement = true;
+    desk_.window.Timer4.enable();
+    desk_.window.Timer2.disable();
+    mix_.Active_audio_Click();
+    journal_.note(date_and_time(desk_.platform) + " " + journal_text);
+    desk_.list_window.Label3.caption = std::string{empty_counter};
+    if (!desk_.has_main_deck())
+        return;
+    Deck& deck = desk_.main_deck();
+    // The full length, where it is chosen, holds from the next load on.
+    const bool capped = desk_.chain.preecoute_active.is_true() && deck.has_graph();
+    show_end_point(capped ? text_of(std::min(desk_.chain.duree_preecoute, deck.whole_duration())) : deck.fin_piste);
+}
+
+void ChainModes::show_end_point(const std::string& text) {
+    if (!text.empty())
+        desk_.main_deck().controls.counter.caption = text;
+}
+
+void ChainModes::Image12_Click() {
+    a_mode_auto_Click();
+    desk_.list_window.A_precoute.enabled = false;
+    for (Timer* timer : {&desk_.window.Timer4, &desk_.window.Timer8, &desk_.window.Timer9})
+        timer->disable();
+    desk_.window.Timer3.enable();
+    desk_.list_window.Image17.picture = std::string{switch_on};
+    for (Image* lamp : {&desk_.list_window.Image12, &desk_.list_window.Image11, &desk_.list_window.Image9})
+        lamp->picture = std::string{switch_off};
+    desk_.chain.ordre_aleatoire = false;
+}
+
+void ChainModes::Image13_Click() {
+    Liste_son& list = desk_.list_window;
+    list.Image12.picture = std::string{switch_on};
+    for (Image* lamp : {&list.Image17, &list.Image11, &list.Image9})
+        lamp->picture = std::string{switch_off};
+    desk_.window.coche3.set_value(true);
+    list.show();
+    list.A_precoute.checked = false;
+    list.A_precoute.enabled = true;
+    list.A_a_zapping.checked = true;
+    list.Label3.caption = std::string{empty_counter};
+    desk_.window.Image13.picture = std::string{lamp_on_picture};
+    list.Option4.set_value(true);
+    desk_.window.Timer4.enable();
+    desk_.window.Timer1.enable();
+    desk_.window.Timer2.disable();
+    desk_.chain.mode_enchainement = true;
+}
+
+} // namespace sonarelle

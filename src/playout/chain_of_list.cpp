@@ -1,0 +1,175 @@
+#include "platform/failure.h"
+#include "playout/auto_chain.h"
+
+namespace sonarelle {
+
+void AutoChain::Timer4_tick() {
+    if (desk_.window.Active_audio_jingles.checked) {
+        ErrorIndicator{}.skip([this] { mix_.serve_special_mix(); });
+        return;
+    }
+    if (desk_.chain.chaine_suspendue.is_true() || mix_walk_.under_way())
+        return;
+    trap_of(desk_.window.Timer4, "T4")([this] { list_tick(); });
+}
+
+void AutoChain::list_tick() {
+    desk_.list_window.Label13.caption = time_text(desk_.platform);
+    const std::string deck_name = text_of(desk_.chain.lecteur_en_cours);
+    desk_.window.Label10.caption = " Mix liste : Play " + deck_name;
+    desk_.window.Label7.caption = "Play " + deck_name + " : liste mix a " + text_of(desk_.chain.dernier_point_mix);
+    if (!desk_.has_main_deck())
+        return;
+    Deck& deck = desk_.main_deck();
+    const Integer point = deck.end_point() - desk_.settings.mix_courant;
+    show_list_progress(deck, point);
+    // On the first deck alone the insertion of list items keeps the net at the file's end out of play.
+    const bool has_net = deck.number() != 1 || !desk_.settings.valide_fichier_aleatoire1.is_true();
+    if (has_net && deck.controls.progress.percent() == 100) {
+        if (desk_.chain.ordre_aleatoire.is_false())
+            return follow_at_once(deck);
+        if (desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true() && take_drawn_row())
+            return follow_at_once(deck);
+    }
+    mix_point(deck, point);
+}
+
+void AutoChain::show_list_progress(Deck& deck, Integer point) {
+    const Integer position = deck.whole_position();
+    desk_.list_window.Label3.caption = "( " + text_of(position) + " / " + text_of(point) + " )";
+    desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
+    desk_.window.Label5.caption = text_of(position);
+    deck.controls.progress.value = position.value();
+}
+
+void AutoChain::mix_point(Deck& deck, Integer point) {
+    desk_.chain.dernier_point_mix = point;
+    if (desk_.elapsed() != point || point < 1)
+        return;
+    if (point <= desk_.settings.valeur_max_jingles) {
+        desk_.window.Timer3.disable();
+        follow_at_once(deck);
+        return;
+    }
+    desk_.settings.mix_courant = desk_.settings.mix_defaut;
+    desk_.window.Timer1.enable();
+    desk_.window.Timer3.enable();
+    automatic_zap(deck);
+}
+
+// A short item is followed without a fade.
+void AutoChain::follow_at_once(Deck& deck) {
+    mix_walk_.start([this, &deck] { return try_to_follow(deck); }, [this] { return desk_.row_count(); },
+                    trap_of(desk_.window.Timer4, "T4"));
+}
+
+bool AutoChain::try_to_follow(Deck& deck) {
+    take_next_row();
+    run_.detecte_fichier_liste();
+    if (!is_candidate())
+        return false;
+    start_row(deck);
+    return true;
+}
+
+bool AutoChain::is_candidate() {
+    return !desk_.list.chemin_fichier.empty() && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
+}
+
+void AutoChain::load_and_play(Deck& old) {
+    desk_.chain.element_en_cours = desk_.list.index_en_cours;
+    desk_.list.index_destinataire = desk_.list.index_en_cours;
+    reading_.lire_enreg_destinataire();
+    Deck& next = desk_.deck(next_deck(old.number()));
+    loading_.load_from_list(next);
+    if (!desk_.chain.chargement_fait.is_true())
+        desk_.report({OnAirEvent::Kind::loaded,
+                      next.number(),
+                      desk_.list.index_en_cours.value(),
+                      next.path,
+                      next.controls.counter.caption,
+                      0,
+                      0,
+                      {}});
+    begin_overlap();
+    old.controls.title.caption = std::string{waiting_title};
+    start_.play(next);
+}
+
+void AutoChain::start_row(Deck& old) {
+    load_and_play(old);
+    const int row = desk_.list.index_en_cours.value();
+    desk_.list_window.ListView1.ensure_visible(row);
+    desk_.list_window.ListView1.select(row);
+    desk_.window.Timer1.enable();
+    desk_.list_window.Image2.enabled = true;
+    desk_.list_window.Label12.caption = "Zapping autorisé";
+    desk_.small_player.zap.enabled = true;
+}
+
+void AutoChain::automatic_zap(Deck& old) {
+    desk_.deck(next_deck(old.number())).create_graph();
+    if (desk_.window.coche3.value()) {
+        desk_.window.coche4.set_value(0);
+        desk_.window.Timer2.set_interval(0);
+        desk_.window.Timer3.enable();
+    }
+    bool by_draw = desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true() &&
+                   !desk_.settings.valide_fichier_aleatoire1.is_true();
+    const auto step = [this, &old, by_draw]() mutable {
+        const bool started = try_to_zap(old, by_draw);
+        by_draw = true;
+        return started;
+    };
+    mix_walk_.start(
+        step, [this] { return desk_.row_count(); }, trap_of(desk_.window.Timer4, "T4"));
+}
+
+/// A row that can't be taken gives way to a drawn one, in list order too: the air goes on with what there is.
+bool AutoChain::try_to_zap(Deck& old, bool by_draw) {
+    if (!by_draw)
+        take_next_row();
+    else if (desk_.chain.choix_prepare.is_true())
+        take_current_row();
+    else if (!take_drawn_row())
+        return false;
+    run_.detecte_fichier_liste();
+    if (!is_candidate())
+        return false;
+    start_zapped(old);
+    return true;
+}
+
+void AutoChain::start_zapped(Deck& old) {
+    load_and_play(old);
+    desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
+    desk_.deck(next_deck(old.number())).controls.slider.show_value(0);
+    const int row = desk_.list.index_en_cours.value();
+    desk_.list_window.ListView1.ensure_visible(row);
+    desk_.list_window.ListView1.select(row);
+}
+
+void AutoChain::cancel_walks() {
+    load_walk_.cancel();
+    mix_walk_.cancel();
+}
+
+AutoChain::Trap AutoChain::trap_of(Timer& timer, const std::string& name) {
+    return [this, &timer, name](const std::function<void()>& statement) {
+        try {
+            statement();
+        } catch (const Failure& failure) {
+            stop_after_failure(timer, name, failure);
+        }
+    };
+}
+
+void AutoChain::stop_after_failure(Timer& timer, const std::string& name, const Failure& failure) {
+    cancel_walks();
+    timer.disable();
+    run_.stoppe_liste(failure.what());
+    desk_.warn("ATTENTION ERREUR ! " + name + "\nFICHIER NON TROUVEE , NON AUDIO ou " + failure.what() +
+               "\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\nRevoir la sélection");
+}
+
+} // namespace sonarelle

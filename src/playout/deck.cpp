@@ -1,0 +1,48 @@
+#include "playout/deck.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> video_endings{"mpeg", "avi", "mpg", "wmv", ".wm"};
+constexpr std::size_t classic_ending_count = 3;
+
+bool is_one_of(std::span<const std::string_view> endings, std::string_view extension) {
+    return std::ranges::find(endings, extension) != endings.end();
+}
+
+} // namespace
+
+bool has_video_ending(std::string_view extension) {
+    return is_one_of(video_endings, extension);
+}
+
+bool has_classic_video_ending(std::string_view extension) {
+    return is_one_of(std::span{video_endings}.first<classic_ending_count>(), extension);
+}
+
+MediaGraph& Deck::graph() const {
+    if (graph_ == nullptr)
+        throw Failure{failure_number::no_object, "lecteur " + name()};
+    return *graph_;
+}
+
+// The video window holds on to the graph, which is silent all the same once it is dropped.
+void Deck::drop_graph() {
+    if (graph_ != nullptr && video_ != nullptr)
+        graph_->Stop();
+    graph_.reset();
+}
+
+void Deck::open_video(std::string_view caption) {
+    video_ = graph_;
+    graph().put_Caption(caption);
+}
+
+} // namespace sonarelle

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/media.h"
+#include "platform/numbers.h"
+#include "playout/deck_controls.h"
+
+namespace sonarelle {
+
+/// The deck ring: 1, 2, 3, 1.
+[[nodiscard]] constexpr int next_deck(int deck) {
+    return deck % 3 + 1;
+}
+[[nodiscard]] constexpr int previous_deck(int deck) {
+    return (deck + 1) % 3 + 1;
+}
+
+/// Whether a file's ending is one of pictures. A stop closes, and the start of a list opens, the video window of the
+/// classic ones alone; any other start opens it for all.
+[[nodiscard]] bool has_video_ending(std::string_view extension);
+[[nodiscard]] bool has_classic_video_ending(std::string_view extension);
+
+/// One of the three decks: a graph, the file on it and its parts on the main window.
+/// Window thread.
+class Deck {
+public:
+    /// `path` is the shared variable that names the file on the deck.
+    Deck(int number, Media& media, DeckControls& deck_controls, std::string& path_variable)
+        : controls{deck_controls}, path{path_variable}, media_{media}, number_{number} {}
+
+    [[nodiscard]] int number() const { return number_; }
+    [[nodiscard]] std::string name() const { return std::to_string(number_); }
+
+    /// Takes a new, empty graph; what played on the old one goes silent.
+    void create_graph() { graph_ = media_.create_graph(); }
+    [[nodiscard]] bool has_graph() const { return graph_ != nullptr; }
+    /// @throws Failure 91 without one.
+    [[nodiscard]] MediaGraph& graph() const;
+    /// Drops the graph; a video window stays until `close_video`.
+    void drop_graph();
+
+    /// Takes the video window of the graph and names it.
+    void open_video(std::string_view caption);
+    void close_video() { video_.reset(); }
+
+    /// Seconds without their decimals. @throws Failure 6 beyond 16 bits, 91 without a graph.
+    [[nodiscard]] Integer whole_position() const { return to_integer(Fix(graph().get_CurrentPosition())); }
+    [[nodiscard]] Integer whole_duration() const { return to_integer(Fix(graph().get_Duration())); }
+
+    /// The end point that the counter shows. @throws Failure 13 for a text that is none.
+    [[nodiscard]] Integer end_point() const { return end_point_to_integer(controls.counter.caption.get()); }
+
+    DeckControls& controls;
+    std::string& path;
+    std::string fin_piste;   ///< End of play of the record on the deck, seconds as text.
+    std::string duree_piste; ///< Whole seconds of the file, as text.
+    Flag pause_lecteur;      ///< The deck is paused.
+    Integer mix_en_cours;    ///< Not 0 while the deck runs a special mix.
+    Integer volume_sauve;    ///< Slider value that comes back after a special mix.
+
+private:
+    Media& media_;
+    std::shared_ptr<MediaGraph> graph_;
+    std::shared_ptr<MediaGraph> video_;
+    int number_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,274 @@
+#include "playout/deck_loading.h"
+
+#include "configuration/settings_store.h"
+#include "platform/dialogs.h"
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playout/duration_text.h"
+#include "playout/mix_engine.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr double shortest_good_file = 1.0;
+constexpr std::string_view network_genre = "réseau";
+constexpr std::string_view media_filter =
+    "fichier multimédia |*.mp3;*.wav;*.wma;*.mid;*.avi;*.mpg|fichier (*.mp3)|*.mp3|fichier (*.wav)|*.wav|"
+    "fichier (*.mid)|*.mid|";
+
+std::string cut(const std::string& text, std::size_t count, std::string_view tail) {
+    return std::string{left(text, count)}.append(tail);
+}
+
+} // namespace
+
+DeckLoading::DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix) : desk_{desk}, volume_{volume}, mix_{mix} {}
+
+void DeckLoading::load_record(Deck& deck) {
+    deck.create_graph();
+    deck.path = trim(desk_.destination.dest_chemin);
+    recup_path(deck);
+    if (deck.path.empty()) {
+        deck.controls.title.caption = "Non trouvé";
+        return;
+    }
+    desk_.chain.nom_fichier_source = deck.path;
+    nom_du_fich();
+    ErrorIndicator errors;
+    errors.skip([&] { deck.graph().RenderFile(deck.path); });
+    desk_.chain.duree_mesuree = deck.graph().get_Duration();
+    errors.skip([&] { format_duration(); });
+    formate_nom();
+    show_loaded(deck);
+    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    if (desk_.chain.duree_mesuree < shortest_good_file)
+        return;
+    set_bar(deck);
+    deck.controls.zap.enabled = true;
+    desk_.small_player.caption = desk_.destination.dest_nom_fichier;
+}
+
+void DeckLoading::load_from_list(Deck& deck) {
+    deck.create_graph();
+    try {
+        render_from_list(deck);
+    } catch (const Failure&) {
+        desk_.chain.erreur_chargement = true;
+    }
+}
+
+void DeckLoading::render_from_list(Deck& deck) {
+    ChainState& chain = desk_.chain;
+    deck.path = chain.ecoute_demandee.is_true() ? chain.chemin_ecoute : desk_.list.chemin_fichier;
+    desk_.window.Text2.set_text(deck.path);
+    chain.nom_fichier_source = deck.path;
+    nom_du_fich();
+    deck.graph().RenderFile(deck.path);
+    chain.duree_mesuree = deck.graph().get_Duration();
+    deck.fin_piste = desk_.destination.dest_fin;
+    deck.duree_piste = text_of(deck.whole_duration());
+    if (!desk_.list_window.Option4.value() && chain.mode_enchainement.is_true())
+        desk_.window.Timer4.enable();
+    deck.controls.counter.caption = end_point_text(deck, deck.fin_piste);
+    format_duration();
+    formate_nom();
+    show_loaded(deck);
+    std::string& name = desk_.destination.dest_nom_fichier;
+    desk_.small_player.caption = name;
+    if (character_count(name) > 16)
+        name = cut(name, 16, " ...");
+    if (chain.ecoute_en_cours.is_false()) {
+        desk_.list_window.caption = name;
+        desk_.list_window.Label2.caption = name;
+        desk_.list_window.Label4.caption = chain.duree_piste_texte;
+    }
+    if (chain.duree_mesuree >= shortest_good_file)
+        set_bar(deck);
+}
+
+std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_record) const {
+    const ChainState& chain = desk_.chain;
+    const Integer whole = deck.whole_duration();
+    if (desk_.list_window.Option4.value() || !chain.mode_enchainement.is_true())
+        return text_of(whole);
+    if (!chain.preecoute_active.is_true())
+        return end_of_record;
+    return text_of(whole <= chain.duree_preecoute ? whole : chain.duree_preecoute);
+}
+
+void DeckLoading::charge_() {
+    Deck& deck = desk_.deck(1);
+    deck.create_graph();
+    if (deck.path.empty()) {
+        deck.controls.title.caption = "Non trouvé";
+        return;
+    }
+    ErrorIndicator errors;
+    errors.skip([&] { deck.graph().RenderFile(deck.path); });
+    volume_.apply_record(deck);
+    desk_.chain.nom_fichier_source = deck.path;
+    nom_du_fich();
+    deck.controls.title.caption = desk_.destination.dest_nom_fichier + " - ";
+    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    if (deck.graph().get_Duration() >= shortest_good_file)
+        set_bar(deck);
+}
+
+void DeckLoading::charge_lire(const std::string& path) {
+    Deck& deck = desk_.deck(1);
+    deck.create_graph();
+    desk_.chain.lecteur_en_cours = 1;
+    deck.path = desk_.destination.dest_chemin = desk_.chain.nom_fichier_source = path;
+    nom_du_fich();
+    deck.controls.title.caption = desk_.destination.dest_nom_fichier;
+    Failure failure{failure_number::unplayable_file};
+    try {
+        deck.graph().RenderFile(path);
+    } catch (const Failure& refused) {
+        failure = refused;
+    }
+    ErrorIndicator errors;
+    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    if (deck.graph().get_Duration() < shortest_good_file) {
+        desk_.platform.dialogs.MsgBox(
+            {path + " Ne peut ouvrir " + failure.description, std::string{application_title}, Buttons::ok, Icon::stop});
+        return;
+    }
+    set_bar(deck);
+    deck.controls.zap.enabled = true;
+    mix_.Choix_mix();
+    deck.controls.play.enabled = true;
+    deck.controls.slider.set_value(0);
+    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    desk_.window.coche2.set_value(true);
+}
+
+void DeckLoading::open_by_hand(Deck& deck) {
+    deck.create_graph();
+    if (!choose_file(deck))
+        return;
+    desk_.chain.nom_fichier_source = deck.path;
+    nom_du_fich();
+    formate_nom();
+    mix_.manuel_mix();
+    try {
+        render_by_hand(deck);
+    } catch (const Failure& failure) {
+        report_failed_open(deck, failure);
+    }
+}
+
+bool DeckLoading::choose_file(Deck& deck) {
+    if (desk_.chain.ajout_externe.is_true() || desk_.chain.maj_depuis_ajout.is_true())
+        return true;
+    const ChosenFile chosen = desk_.platform.dialogs.open_file(
+        {"Ouvrir un fichier multimédia", desk_.settings.chemin_musique, "", std::string{media_filter}});
+    if (chosen.cancelled || chosen.file_name.empty())
+        return false;
+    deck.path = chosen.file_name;
+    return true;
+}
+
+void DeckLoading::render_by_hand(Deck& deck) {
+    deck.graph().RenderFile(deck.path);
+    desk_.chain.duree_mesuree = deck.graph().get_Duration();
+    if (desk_.chain.duree_mesuree < shortest_good_file)
+        throw Failure{failure_number::unplayable_file, deck.path};
+    format_duration();
+    show_loaded(deck);
+    desk_.chain.duree_piste_texte.clear();
+    volume_.adjust(deck);
+    deck.controls.counter.caption = text_of(deck.whole_duration());
+    set_bar(deck);
+    ecrire_path_fichier(deck.path);
+    if (!desk_.is_manual())
+        mix_.select_bouton();
+    deck.controls.zap.enabled = true;
+    deck.controls.play.enabled = true;
+    desk_.chain.ajout_externe = false;
+    desk_.chain.maj_depuis_ajout = false;
+}
+
+void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
+    const auto tell = [&](const std::string& text) {
+        desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::stop});
+    };
+    switch (failure.number) {
+    case failure_number::wrong_call:
+    case failure_number::dialog_cancelled:
+        return;
+    case failure_number::permission_refused:
+    case failure_number::disk_not_ready:
+    case failure_number::other_drive:
+    case failure_number::path_access:
+    case failure_number::path_not_found:
+        desk_.settings.chemin_musique = desk_.settings.chemin_programme;
+        tell(failure.what());
+        return;
+    default:
+        tell("Erreur lecture fichier " + std::string{failure.what()});
+        deck.controls.title.caption = std::string{waiting_title};
+    }
+}
+
+void DeckLoading::recup_path(Deck& deck) {
+    if (desk_.destination.dest_genre == network_genre) {
+        deck.path = desk_.window.Text2.text();
+        return;
+    }
+    const std::string& path = desk_.destination.dest_chemin;
+    desk_.window.Text2.set_text(path);
+    const std::string name{name_of_path(path)};
+    std::string found;
+    std::string folder;
+    ErrorIndicator{}.skip([&] {
+        folder = with_backslash(folder_of_path(path));
+        desk_.platform.disk.ChDrive(path);
+        desk_.platform.disk.ChDir(folder);
+        found = desk_.platform.disk.Dir(join_path(folder, name));
+    });
+    if (!name.empty() && equal_ignoring_case(found, name)) {
+        deck.path = join_path(folder, name);
+        return;
+    }
+    desk_.platform.dialogs.MsgBox(
+        {name + " n'existe pas ou plus", std::string{application_title}, Buttons::ok, Icon::stop});
+    deck.path.clear();
+}
+
+void DeckLoading::nom_du_fich() {
+    const std::string name{name_of_path(desk_.chain.nom_fichier_source)};
+    const std::size_t count = character_count(name);
+    desk_.destination.dest_nom_fichier = left(name, count > 4 ? count - 4 : 0);
+    desk_.chain.extension_fichier = extension_of(desk_.chain.nom_fichier_source);
+}
+
+void DeckLoading::formate_nom() {
+    std::string& name = desk_.destination.dest_nom_fichier;
+    if (character_count(name) >= 23)
+        name = lower_case(cut(name, 23, " ..."));
+}
+
+void DeckLoading::format_duration() {
+    desk_.chain.duree_piste_texte = format_heure(desk_.chain.duree_mesuree, desk_.platform.decimal_mark);
+}
+
+void DeckLoading::show_loaded(Deck& deck) {
+    deck.controls.title.caption = desk_.chain.duree_piste_texte + " ( " + desk_.destination.dest_nom_fichier + " )";
+}
+
+void DeckLoading::set_bar(Deck& deck) {
+    deck.controls.progress.maximum = deck.whole_duration().value();
+}
+
+void DeckLoading::ecrire_path_fichier(const std::string& path) {
+    const std::string folder = with_backslash(folder_of_path(path));
+    desk_.settings.chemin_musique = trim(folder);
+    const SettingsStore store{desk_.platform.settings, desk_.platform.program_folder, desk_.platform.decimal_mark};
+    ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Chemin_dernier_fichier", trim(folder)); });
+}
+
+} // namespace sonarelle

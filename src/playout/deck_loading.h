@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+
+#include "playout/deck_volume.h"
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+class MixEngine;
+
+/// Loads files on the decks. Every load takes a new graph first, so a deck that still plays goes silent at that moment,
+/// whatever becomes of the load.
+class DeckLoading {
+public:
+    DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix);
+
+    void charge_1() { load_record(desk_.deck(1)); }
+    void charge_2() { load_record(desk_.deck(2)); }
+    void charge_3() { load_record(desk_.deck(3)); }
+    void charge_1_F() { charge_1(); }
+    void charge_2_F() { charge_2(); }
+    void charge_3_F() { charge_3(); }
+    /// The destination record's file, by hand.
+    void load_record(Deck& deck);
+
+    void charge_1_list() { load_from_list(desk_.deck(1)); }
+    void charge_2_list() { load_from_list(desk_.deck(2)); }
+    void charge_3_list() { load_from_list(desk_.deck(3)); }
+    /// `chemin_fichier`, or the listening path, without starting it. Any failure sets `erreur_chargement` and no more.
+    void load_from_list(Deck& deck);
+
+    /// The file already named on deck 1, without resolving its path.
+    void charge_();
+    /// A file of the program's command line on deck 1.
+    void charge_lire(const std::string& path);
+
+    /// The open button of a deck: asks for a file, unless one was dragged.
+    void open_by_hand(Deck& deck);
+
+    /// Looks for the destination record's file in its folder; the deck's path is empty when it isn't there.
+    void recup_path(Deck& deck);
+
+    /// The end point that a deck's counter shows by the reading options in force.
+    [[nodiscard]] std::string end_point_text(Deck& deck, const std::string& end_of_record) const;
+
+    /// Splits `nom_fichier_source` into a name without its ending and the ending.
+    void nom_du_fich();
+    /// Shortens `dest_nom_fichier` for display.
+    void formate_nom();
+    /// `duree_mesuree` to `duree_piste_texte`.
+    void format_duration();
+    /// Writes the folder of the chosen file into the settings.
+    void ecrire_path_fichier(const std::string& path);
+
+private:
+    void render_from_list(Deck& deck);
+    void show_loaded(Deck& deck);
+    /// The bar's range, for files of a second and more.
+    void set_bar(Deck& deck);
+    [[nodiscard]] bool choose_file(Deck& deck);
+    void report_failed_open(Deck& deck, const Failure& failure);
+    void render_by_hand(Deck& deck);
+
+    Desk& desk_;
+    DeckVolume& volume_;
+    MixEngine& mix_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,155 @@
+#include "playout/deck_start.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr double shortest_good_file = 1.0;
+
+} // namespace
+
+DeckStart::DeckStart(Desk& desk, DeckLoading& loading, DeckVolume& volume, MixEngine& mix, Journal& journal)
+    : desk_{desk}, loading_{loading}, volume_{volume}, mix_{mix}, journal_{journal} {}
+
+void DeckStart::press_play(Deck& deck) {
+    if (desk_.row_count() == 0)
+        desk_.window.coche2.set_value(true);
+    for (Integer* marker : {&desk_.chain.index_debut_aleatoire, &desk_.chain.index_debut_aleatoire1})
+        if (*marker == 0)
+            *marker = desk_.list.index_en_cours;
+    play(deck);
+}
+
+void DeckStart::play(Deck& deck) {
+    if (deck.controls.progress.value > 0)
+        return;
+    deck.create_graph();
+    if (deck.path.empty())
+        return;
+    arrange_buttons(deck);
+    desk_.chain.lecteur_en_cours = deck.number();
+    deck.graph().RenderFile(deck.path);
+    volume_.apply_record(deck);
+    set_end_point(deck);
+    run(deck);
+    show_names(deck);
+    show_main_deck(deck);
+    if (!desk_.is_manual())
+        release_ring(deck);
+}
+
+void DeckStart::arrange_buttons(Deck& deck) {
+    if (desk_.window.coche2.value())
+        deck.controls.zap.enabled = true;
+    if (!desk_.is_manual()) {
+        clear_display(desk_.deck(previous_deck(deck.number())));
+        for (Deck& other : desk_.decks) {
+            const bool own = other.number() == deck.number();
+            if (!own)
+                other.controls.play.enabled = false;
+            other.controls.zap.enabled = own;
+        }
+    }
+    deck.controls.play.enabled = true;
+    deck.controls.open.enabled = false;
+}
+
+void DeckStart::set_end_point(Deck& deck) {
+    ChainState& chain = desk_.chain;
+    deck.controls.counter.caption = loading_.end_point_text(deck, deck.fin_piste);
+    if (chain.mode_enchainement.is_true()) {
+        if (desk_.settings.valide_fichier_aleatoire.is_true())
+            chain.compteur_aleatoire += 1;
+        if (desk_.settings.valide_fichier_aleatoire1.is_true())
+            chain.compteur_aleatoire1 += 1;
+        desk_.window.Timer2.disable();
+    } else {
+        desk_.window.Timer2.enable();
+    }
+}
+
+void DeckStart::run(Deck& deck) {
+    desk_.window.Timer1.enable();
+    deck.controls.scroll_timer.enable();
+    desk_.chain.duree_mesuree = deck.graph().get_Duration();
+    loading_.format_duration();
+    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
+    if (desk_.chain.duree_mesuree >= shortest_good_file) {
+        deck.controls.progress.maximum = deck.whole_duration().value();
+        deck.graph().put_CurrentPosition(desk_.destination.dest_debut);
+    }
+    mix_.Choix_mix();
+    desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);
+    // The first deck's interval is set when its chain over decks begins, the others' at each start.
+    if (deck.number() != 1 || !desk_.chain.mode_enchainement.is_true())
+        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    deck.graph().Run();
+    align_timers();
+    deck.pause_lecteur = false;
+    deck.volume_sauve = deck.controls.slider.value();
+}
+
+void DeckStart::align_timers() {
+    for (Timer* timer : {&desk_.window.Timer1, &desk_.window.Timer2, &desk_.window.Timer4})
+        timer->restart();
+}
+
+void DeckStart::show_names(Deck& deck) {
+    desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
+    if (desk_.chain.ecoute_en_cours.is_false())
+        desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
+    desk_.chain.nom_fichier_source = desk_.window.coche2.value() ? deck.path : desk_.list.chemin_fichier;
+    loading_.nom_du_fich();
+    std::string& name = desk_.destination.dest_nom_fichier;
+    desk_.window.caption = desk_.settings.nom_radio + " : " + name;
+    desk_.list_window.caption = name;
+    loading_.formate_nom();
+    deck.controls.title.caption = name + " - ";
+    desk_.small_player.caption = name;
+    desk_.list_window.Label2.caption = name;
+    if (has_video_ending(desk_.chain.extension_fichier))
+        deck.open_video(name);
+}
+
+void DeckStart::show_main_deck(Deck& deck) {
+    desk_.chain.nb_fichiers_ecoutes += 1;
+    desk_.chain.demande_ajout = true;
+    for (Deck& other : desk_.decks)
+        other.controls.playing_mark.visible = other.number() == deck.number();
+    desk_.window.Label7.caption = desk_.station_banner();
+    deck.mix_en_cours = 0;
+    desk_.report({OnAirEvent::Kind::started,
+                  deck.number(),
+                  desk_.list.index_en_cours.value(),
+                  deck.path,
+                  {},
+                  desk_.settings.mix_courant.value(),
+                  desk_.settings.prechargement.value(),
+                  {}});
+}
+
+// The next deck in the ring is the one that the ring left two steps ago: its sound ends here.
+void DeckStart::release_ring(Deck& deck) {
+    if (desk_.window.Désactive_audio.checked)
+        mix_.Pas_demix_audio();
+    journal_.note("Nb_de_fichier_écouté " + text_of(desk_.chain.nb_fichiers_ecoutes));
+    journal_.note(time_text(desk_.platform) + " Lecture de " + deck.path + " (" + text_of(desk_.list.index_en_cours) +
+                  ")");
+    desk_.deck(next_deck(deck.number())).drop_graph();
+    desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
+    desk_.chain.choix_prepare = false;
+    desk_.chain.chargement_fait = false;
+}
+
+void DeckStart::clear_display(Deck& deck) {
+    deck.controls.counter.caption = "0";
+    deck.controls.scroll_timer.disable();
+    deck.controls.progress.caption = "";
+    deck.controls.progress.minimum = 1;
+    deck.controls.progress.value = 0;
+    deck.controls.open.enabled = true;
+    if (has_classic_video_ending(desk_.chain.extension_fichier))
+        deck.close_video();
+}
+
+} // namespace sonarelle

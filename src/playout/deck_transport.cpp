@@ -1,0 +1,101 @@
+#include "playout/deck_transport.h"
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr double default_forward = 10.0;
+constexpr double default_back = 0.2;
+constexpr std::string_view resume_caption = "=>";
+constexpr std::string_view pause_caption = "II";
+
+} // namespace
+
+void DeckTransport::stop(Deck& deck) {
+    deck.controls.special_mix.enabled = true;
+    if (deck.path.empty())
+        return;
+    deck.controls.title.caption = std::string{waiting_title};
+    start_.clear_display(deck);
+    desk_.window.Timer3.disable();
+    rewind(deck);
+    if (desk_.window.coche2.value())
+        desk_.window.Label7.caption = "Play " + deck.name();
+    volume_.vol_pour_stop();
+    deck.controls.pause.caption = std::string{pause_caption};
+    deck.controls.playing_mark.visible = false;
+    desk_.chain.index_debut_aleatoire = desk_.chain.index_debut_aleatoire1 = 0;
+    desk_.window.caption = desk_.settings.nom_radio + desk_.list.chemin_fichier;
+    if (desk_.chain.mode_enchainement.is_true()) {
+        desk_.window.Active_audio_jingles.checked = false;
+        desk_.window.Timer4.enable();
+    }
+    desk_.list_window.Label13.enabled = true;
+}
+
+void DeckTransport::rewind(Deck& deck) {
+    if (deck.has_graph())
+        deck.graph().Stop();
+    deck.controls.slider.set_value(0);
+    if (deck.has_graph() && deck.graph().get_CurrentPosition() > 0)
+        deck.graph().put_CurrentPosition(0);
+    desk_.list_window.Label4.caption = "00:00:00";
+}
+
+void DeckTransport::toggle_pause(Deck& deck) {
+    if (!deck.has_graph())
+        return;
+    const bool runs = deck.graph().GetState() == MediaState::running;
+    deck.pause_lecteur = runs;
+    if (runs) {
+        deck.graph().Pause();
+        volume_.vol_pour_stop();
+    } else {
+        deck.graph().Run();
+        if (deck.mix_en_cours != 0)
+            volume_.vol_pour_mix_spc();
+    }
+    deck.controls.pause.caption = std::string{runs ? resume_caption : pause_caption};
+    deck.controls.play.enabled = runs;
+    desk_.window.Timer1.set_enabled(!runs);
+}
+
+void DeckTransport::forward(Deck& deck) {
+    if (!deck.has_graph())
+        return;
+    if (saut_avance == 0)
+        saut_avance = default_forward;
+    const double target = deck.graph().get_CurrentPosition() + saut_avance;
+    if (target <= deck.graph().get_Duration())
+        seek(deck, target);
+}
+
+void DeckTransport::back(Deck& deck) {
+    if (!deck.has_graph())
+        return;
+    if (saut_retour == 0)
+        saut_retour = default_back;
+    const double target = deck.graph().get_CurrentPosition() - saut_retour;
+    if (target >= 0)
+        seek(deck, target);
+}
+
+void DeckTransport::seek(Deck& deck, double target) {
+    deck.graph().put_CurrentPosition(target);
+    desk_.chain.duree_mesuree = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
+    ErrorIndicator{}.skip([this] { loading_.format_duration(); });
+    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
+}
+
+void DeckTransport::unload(Deck& deck) {
+    if (desk_.chain.lecteur_en_cours == deck.number())
+        return;
+    deck.drop_graph();
+    deck.close_video();
+    deck.controls.title.caption = std::string{waiting_title};
+    deck.path.clear();
+}
+
+} // namespace sonarelle

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "playout/deck_loading.h"
+#include "playout/deck_start.h"
+#include "playout/deck_volume.h"
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// Stop, pause, seek and unload of a deck by hand.
+class DeckTransport {
+public:
+    DeckTransport(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume)
+        : desk_{desk}, loading_{loading}, start_{start}, volume_{volume} {}
+
+    void stop(Deck& deck);
+    /// Pauses a deck that runs, resumes any other. A paused deck stops the clock tick of the window.
+    void toggle_pause(Deck& deck);
+    void A_pause() { toggle_pause(desk_.deck(1)); }
+    void A_pause_1() { toggle_pause(desk_.deck(2)); }
+    void A_pause_2() { toggle_pause(desk_.deck(3)); }
+
+    /// Seek steps of this session, in seconds; 0 stands for the default.
+    double saut_avance = 0;
+    double saut_retour = 0;
+    /// A target behind the end, or before the beginning, does nothing.
+    void forward(Deck& deck);
+    void back(Deck& deck);
+
+    /// Takes the file off a deck that isn't the main one.
+    void unload(Deck& deck);
+
+private:
+    void rewind(Deck& deck);
+    void seek(Deck& deck, double target);
+
+    Desk& desk_;
+    DeckLoading& loading_;
+    DeckStart& start_;
+    DeckVolume& volume_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,123 @@
+#include "playout/deck_volume.h"
+
+#include <utility>
+
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr double lowest_attenuation = -4000.0;
+
+int attenuation_of_slider(int value) {
+    return (20 - value) * 5 * 40 - 4000;
+}
+
+/// The slider's place for an attenuation that isn't 0.
+int slider_of_attenuation(int greatest, int attenuation) {
+    return to_integer(greatest / (lowest_attenuation / attenuation)).value();
+}
+
+} // namespace
+
+DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
+    : desk_{desk}, reload_list_{std::move(reload_list)} {}
+
+void DeckVolume::adjust(Deck& deck) {
+    if (!deck.has_graph())
+        return;
+    ErrorIndicator errors;
+    errors.skip([&] {
+        deck.graph().put_Volume(Millibel{attenuation_of_slider(deck.controls.slider.value())});
+        desk_.destination.dest_volume = deck.graph().get_Volume().count();
+    });
+    show(deck);
+}
+
+void DeckVolume::show(Deck& deck) {
+    const std::string percent = std::to_string(100 - 5 * deck.controls.slider.value());
+    deck.controls.slider.hint = "Volume %" + percent;
+    deck.controls.percent.caption = percent + "%";
+}
+
+void DeckVolume::apply_record(Deck& deck) {
+    if (desk_.window.coche2.value() || !deck.has_graph())
+        return;
+    const int attenuation = desk_.destination.dest_volume.value();
+    ErrorIndicator errors;
+    errors.skip([&] {
+        if (attenuation != 0)
+            deck.controls.slider.set_value(slider_of_attenuation(20, attenuation));
+        deck.graph().put_Volume(Millibel{attenuation});
+    });
+    show(deck);
+}
+
+void DeckVolume::vol_pour_stop() {
+    if (desk_.has_main_deck())
+        desk_.main_deck().controls.slider.set_value(desk_.main_deck().volume_sauve.value());
+}
+
+void DeckVolume::vol_pour_mix_spc() {
+    if (!desk_.has_main_deck())
+        return;
+    Deck& main = desk_.main_deck();
+    main.volume_sauve = main.controls.slider.value();
+    step(main, desk_.settings.mix_audio_attenuation.value());
+}
+
+void DeckVolume::step(Deck& deck, int steps) {
+    deck.controls.slider.set_value(deck.controls.slider.value() + steps);
+}
+
+void DeckVolume::keep_in_record(Deck& deck) {
+    if (desk_.window.coche2.value())
+        return;
+    if (!deck.controls.play.enabled)
+        desk_.inform("le lecteur n'est pas encore validé ");
+    else if (desk_.chain.lecteur_en_cours == deck.number())
+        A_sauve(deck);
+}
+
+void DeckVolume::A_sauve(Deck& deck) {
+    try {
+        if (desk_.list.fichier_liste.empty()) {
+            const ChosenFile chosen = desk_.platform.dialogs.open_file(
+                {"Ouvrir un fichier liste", desk_.settings.chemin_programme, "*.dfm", "fichier (*.dfm)|*.dfm"});
+            if (chosen.cancelled || extension_of(chosen.file_name) != "dfm")
+                return;
+            desk_.list.fichier_liste = chosen.file_name;
+        }
+        const std::string path = list_path(desk_.platform, desk_.list.fichier_liste);
+        ListReader reader{desk_.platform.disk, path};
+        if (reader.count() > 0) {
+            enreg_liste record;
+            reader.read(desk_.list.index_en_cours.value(), record);
+            const std::string percent = deck.controls.percent.caption;
+            record.set_volume(static_cast<std::int16_t>(
+                to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
+            replace_record(desk_.platform.disk, path, desk_.list.index_en_cours.value(), record);
+        }
+        reload_list_();
+        desk_.inform("Sauvegarde des paramètres en cours éffectués .");
+    } catch (const Failure& failure) {
+        desk_.platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+void DeckVolume::scroll_title(Deck& deck) {
+    const std::string& title = deck.controls.title.caption;
+    const auto count = static_cast<double>(character_count(title));
+    if (count == 0)
+        return;
+    const auto kept = static_cast<std::size_t>(to_integer(count - 0.5).value());
+    deck.controls.title.caption = std::string{right(title, kept)} + std::string{left(title, 1)};
+}
+
+} // namespace sonarelle

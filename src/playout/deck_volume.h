@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// One scale joins slider, percent and attenuation of a deck: slider value v is 100 - 5 v percent and -200 v hundredths
+/// of a decibel.
+class DeckVolume {
+public:
+    /// `reload_list` shows the list anew after a record was changed.
+    DeckVolume(Desk& desk, std::function<void()> reload_list);
+
+    void AdjustVolume() { adjust(desk_.deck(1)); }
+    void AdjustVolume1() { adjust(desk_.deck(2)); }
+    void AdjustVolume2() { adjust(desk_.deck(3)); }
+    /// Slider to graph and texts. A file without sound is passed over.
+    void adjust(Deck& deck);
+
+    void SetSliderText() { show(desk_.deck(1)); }
+    void SetSliderText1() { show(desk_.deck(2)); }
+    void SetSliderText2() { show(desk_.deck(3)); }
+    /// Slider to its hint and percent.
+    void show(Deck& deck);
+
+    void A_lire_volume() { apply_record(desk_.deck(1)); }
+    void A_lire_volume1() { apply_record(desk_.deck(2)); }
+    void A_lire_volume2() { apply_record(desk_.deck(3)); }
+    /// Volume of the destination record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves
+    /// the slider where it is.
+    void apply_record(Deck& deck);
+
+    /// Gives the main deck's slider back the value that it had before a special mix.
+    void vol_pour_stop();
+    /// Lowers the main deck for a special mix.
+    void vol_pour_mix_spc();
+
+    /// Keeps the volume of a deck in the current row's record.
+    void keep_in_record(Deck& deck);
+
+    /// Moves a deck's slider by a step; beyond its ends it stays.
+    void step(Deck& deck, int steps);
+
+    /// Turns the title by a character. An even one grows by one first, and then turns.
+    static void scroll_title(Deck& deck);
+
+private:
+    void A_sauve(Deck& deck);
+
+    Desk& desk_;
+    std::function<void()> reload_list_;
+};
+
+} // namespace sonarelle

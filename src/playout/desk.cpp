@@ -1,0 +1,48 @@
+#include "playout/desk.h"
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+namespace {
+
+std::string digits(int number, std::size_t width) {
+    std::string text = std::to_string(number);
+    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
+}
+
+} // namespace
+
+Deck& Desk::main_deck() {
+    if (!has_main_deck())
+        throw Failure{failure_number::no_object, "lecteur en cours"};
+    return deck(chain.lecteur_en_cours.value());
+}
+
+void Desk::warn(const std::string& lines) {
+    warning.caption = "ATTENTION ERREUR";
+    warning.Label1.caption = lines;
+    warning.show();
+}
+
+void Desk::inform(const std::string& text) {
+    platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::information});
+}
+
+std::string date_text(const Platform& platform) {
+    const CalendarTime time = platform.clock.calendar();
+    return digits(time.day, 2) + "/" + digits(time.month, 2) + "/" + digits(time.year, 4);
+}
+
+std::string time_text(const Platform& platform) {
+    const CalendarTime time = platform.clock.calendar();
+    return digits(time.hour, 2) + ":" + digits(time.minute, 2) + ":" + digits(time.second, 2);
+}
+
+std::string date_and_time(const Platform& platform) {
+    return date_text(platform) + " - " + time_text(platform);
+}
+
+} // namespace sonarelle

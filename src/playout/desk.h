@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "accessories/err_form.h"
+#include "accessories/mini_lecteur.h"
+#include "configuration/station_settings.h"
+#include "platform/platform.h"
+#include "playlist/list_state.h"
+#include "playlist/liste_son.h"
+#include "playlist/working_records.h"
+#include "playout/antenne_fm.h"
+#include "playout/chain_state.h"
+#include "playout/deck.h"
+#include "playout/on_air_event.h"
+
+namespace sonarelle {
+
+/// What the routines of the decks and of the chain work on: the shared variables, the windows and the decks.
+struct Desk {
+    const Platform& platform;
+    StationSettings& settings;
+    ListState& list;
+    ChainState& chain;
+    DestinationRecord& destination;
+    Antenne_FM& window;
+    Liste_son& list_window;
+    err_form& warning;
+    mini_lecteur& small_player;
+    std::array<Deck, 3> decks;
+    std::function<void(const OnAirEvent&)> on_event = {};
+
+    [[nodiscard]] Deck& deck(int number) { return decks[static_cast<std::size_t>(number - 1)]; }
+    [[nodiscard]] bool has_main_deck() const { return chain.lecteur_en_cours >= 1 && chain.lecteur_en_cours <= 3; }
+    /// @throws Failure 91 without one.
+    [[nodiscard]] Deck& main_deck();
+
+    [[nodiscard]] bool is_manual() const { return window.a_mode_manuel.checked; }
+    /// The elapsed second of the main deck, as the label has it. @throws Failure 13 for a text that is no number.
+    [[nodiscard]] Integer elapsed() const { return to_integer(window.Label5.caption.get(), platform.decimal_mark); }
+    [[nodiscard]] int row_count() const { return list_window.ListView1.count(); }
+    [[nodiscard]] std::string station_banner() const { return "- - " + settings.nom_radio + " - -"; }
+
+    /// Shows lines in the warning window without waiting for the operator.
+    void warn(const std::string& lines);
+    void report(const OnAirEvent& event) const {
+        if (on_event)
+            on_event(event);
+    }
+    /// An information box under the station's title.
+    void inform(const std::string& text);
+};
+
+inline constexpr std::string_view waiting_title = " - En attente";
+inline constexpr std::string_view empty_title = "(Aucun fichier en cours)";
+
+/// The date as dd/mm/yyyy and the time as hh:mm:ss.
+[[nodiscard]] std::string date_text(const Platform& platform);
+[[nodiscard]] std::string time_text(const Platform& platform);
+/// Date, " - ", time: how a line of the journal begins.
+[[nodiscard]] std::string date_and_time(const Platform& platform);
+
+} // namespace sonarelle

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// The play log of the station, `journal.doc` in the program's folder: one entry a line, appended and flushed at once.
+class Journal {
+public:
+    explicit Journal(Desk& desk) : desk_{desk} {}
+
+    /// Writes `ligne_journal`, whether the journal is on or not. A disk that refuses it is passed over: the air goes
+    /// on.
+    void journal();
+
+    /// Writes a line while the journal is on.
+    void note(const std::string& line);
+
+    void Active_journal1_Click();
+    void Active_journal_Click();
+    void A_desacive_J_Click();
+    void A_purger_journal_Click();
+    void A_ouvre_journal_Click();
+
+private:
+    void choose(const MenuItem& entry, bool active);
+
+    Desk& desk_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,64 @@
+#include "playout/list_run.h"
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
+                 RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document)
+    : desk_{desk}, chain_{chain}, loading_{loading}, transport_{transport}, journal_{journal}, run_{run},
+      reading_{reading}, save_dialog_{save_dialog}, document_{document} {}
+
+void ListRun::Image1_Click() {
+    desk_.list_window.Image1.picture = std::string{lamp_on_picture};
+    ErrorIndicator{}.skip([this] { start_selected_row(); });
+}
+
+void ListRun::start_selected_row() {
+    const Integer row = desk_.list_window.ListView1.selected();
+    desk_.list.index_en_cours = desk_.list.index_destinataire = row;
+    desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
+    if (desk_.list.fichier_liste.empty())
+        return save_dialog_.A_enreg_sous();
+    for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2, &desk_.list_window.Image1})
+        button->enabled = true;
+    reading_.lire_enreg_destinataire();
+    desk_.list.chemin_fichier = desk_.destination.dest_chemin;
+    desk_.window.Text2.set_text(desk_.list.chemin_fichier);
+    desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
+    desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(row) + ")";
+    chain_.cancel_walks();
+    desk_.list.ligne_en_lecture = row;
+    loading_.load_from_list(desk_.deck(1));
+    desk_.deck(1).controls.progress.value = 0;
+    desk_.report({OnAirEvent::Kind::loaded,
+                  1,
+                  row.value(),
+                  desk_.deck(1).path,
+                  desk_.deck(1).controls.counter.caption,
+                  0,
+                  0,
+                  {}});
+    run_.lect_liste();
+}
+
+void ListRun::Image3_Click() {
+    journal_.note(" Arrét lecture liste a " + date_and_time(desk_.platform));
+    chain_.cancel_walks();
+    for (Deck& deck : desk_.decks)
+        transport_.stop(deck);
+    desk_.chain.lecteur_en_cours = 0;
+    desk_.list_window.Label3.caption = "Liste";
+    desk_.list_window.Label12.caption = "Zapping autorisé";
+    document_.a_mettre_Enabled();
+    desk_.report({OnAirEvent::Kind::stopped, 0, 0, {}, {}, 0, 0, "Arrét lecture liste"});
+}
+
+void ListRun::Image4_Click() {
+    ErrorIndicator{}.skip([this] {
+        desk_.list_window.ListView1.select(desk_.list.ligne_en_lecture.value());
+        desk_.list_window.ListView1.ensure_visible(desk_.list.ligne_en_lecture.value());
+    });
+}
+
+} // namespace sonarelle

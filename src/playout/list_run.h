@@ -1,0 +1,40 @@
+#pragma once
+
+#include "playlist/list_save_dialog.h"
+#include "playlist/record_reading.h"
+#include "playout/auto_chain.h"
+#include "playout/deck_transport.h"
+#include "playout/desk.h"
+#include "playout/journal.h"
+#include "playout/run_control.h"
+
+namespace sonarelle {
+
+/// The transport of the list window: what starts a run and what stops it all.
+class ListRun {
+public:
+    ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
+            RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document);
+
+    /// Plays the list from the selected row.
+    void Image1_Click();
+    /// Presses the stop buttons of all decks.
+    void Image3_Click();
+    /// Shows the row that plays.
+    void Image4_Click();
+
+private:
+    void start_selected_row();
+
+    Desk& desk_;
+    AutoChain& chain_;
+    DeckLoading& loading_;
+    DeckTransport& transport_;
+    Journal& journal_;
+    RunControl& run_;
+    RecordReading& reading_;
+    ListSaveDialog& save_dialog_;
+    ListDocument& document_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,147 @@
+#include "playout/mix_engine.h"
+
+#include <algorithm>
+
+#include "configuration/settings_store.h"
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+bool MixEngine::is_mode_defined() const {
+    return desk_.chain.mode_enchainement.is_true() || desk_.chain.mode_enchainement.is_false();
+}
+
+void MixEngine::Choix_mix() {
+    struct Row {
+        Integer longest; ///< End point up to which the row holds, seconds.
+        Integer overlap;
+        Integer lead;
+    };
+    StationSettings& s = desk_.settings;
+    const std::array rows{Row{1, 0, 0}, Row{3, s.forcer_mix_jingles, 0},
+                          Row{6, s.forcer_mix_jingles, s.forcer_mix_jingles + 1},
+                          Row{s.valeur_max_jingles, s.forcer_mix_jingles, s.forcer_mix_jingles + 3}};
+    const Integer end = desk_.main_deck().end_point();
+    if (end >= 0 && is_mode_defined()) {
+        const auto* row = std::ranges::find_if(rows, [end](const Row& r) { return end <= r.longest; });
+        const bool normal = row == rows.end();
+        if (normal && desk_.chain.mode_enchainement.is_false())
+            desk_.window.coche4.set_value(1);
+        s.mix_courant = normal ? s.mix_defaut : row->overlap;
+        s.prechargement = normal ? s.prechargement_defaut : row->lead;
+        show_overlap();
+    }
+    if (s.prechargement <= s.mix_courant)
+        s.prechargement = s.mix_courant + 3;
+}
+
+void MixEngine::show_overlap() {
+    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
+    desk_.window.Text1.hint = "Superposition de : " + text_of(desk_.settings.mix_courant) + " seconde(s)";
+}
+
+void MixEngine::change_overlap(int step) {
+    const Integer shown = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
+    set_overlap(std::max(Integer{1}, shown + step));
+}
+
+void MixEngine::set_overlap(Integer seconds) {
+    StationSettings& s = desk_.settings;
+    s.mix_courant = s.mix_defaut = seconds;
+    s.prechargement = s.prechargement_defaut;
+    if (seconds == s.prechargement)
+        s.prechargement += 2;
+    else if (seconds == s.prechargement - 1)
+        s.prechargement += 3;
+    show_overlap();
+    const SettingsStore store{desk_.platform.settings, desk_.platform.program_folder, desk_.platform.decimal_mark};
+    ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Mix", text_of(seconds)); });
+}
+
+void MixEngine::coche4_Click() {
+    const bool on = desk_.window.coche4.value() == 1;
+    desk_.window.Timer1.set_enabled(on);
+    if (!on)
+        desk_.chain.point_chargement = 0;
+    desk_.settings.prechargement = on ? desk_.settings.prechargement_defaut : Integer{0};
+    desk_.window.coche4.hint = "Préchargement (" + text_of(desk_.settings.prechargement) + " s avant le mix) ";
+}
+
+void MixEngine::Désactive_audio_Click() {
+    check_only(desk_.window.fade_rules(), desk_.window.Désactive_audio);
+    desk_.chain.mode_enchainement = false;
+    desk_.window.Timer2.disable();
+}
+
+void MixEngine::Pas_demix_audio() {
+    if (desk_.has_main_deck())
+        desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())).drop_graph();
+}
+
+void MixEngine::special_mix(Deck& deck) {
+    if (desk_.chain.lecteur_en_cours == deck.number())
+        return;
+    deck.create_graph();
+    // Only the third deck's mix resumes a chain that was suspended.
+    if (deck.number() == 3)
+        desk_.chain.chaine_suspendue = false;
+    const bool started = !deck.path.empty() && ErrorIndicator{}.skip([&] { start_special_mix(deck); });
+    if (!started)
+        deck.controls.title.caption = std::string{empty_title};
+}
+
+void MixEngine::start_special_mix(Deck& deck) {
+    deck.controls.pause.enabled = true;
+    deck.graph().RenderFile(deck.path);
+    const std::string whole = text_of(deck.whole_duration());
+    deck.controls.counter.caption = whole;
+    deck.controls.progress.maximum = deck.whole_duration().value();
+    volume_.vol_pour_mix_spc();
+    desk_.chain.lecteur_mix_special = deck.number();
+    deck.graph().Run();
+    deck.controls.progress.caption = "Mixage spécial en cours (" + whole + " S)";
+    Active_audio_jingles_Click();
+    desk_.chain.ecoute_demandee = false;
+    desk_.window.caption = desk_.settings.nom_radio + " : " + deck.path;
+    desk_.window.Label7.caption = desk_.station_banner();
+    deck.mix_en_cours = 1;
+    deck.controls.special_mix.enabled = false;
+}
+
+bool MixEngine::serve_special_mix() {
+    if (desk_.chain.lecteur_mix_special < 1 || desk_.chain.lecteur_mix_special > 3) {
+        desk_.window.Label10.caption = "Chargement rapide";
+        desk_.window.Active_audio_jingles.checked = false;
+        return true;
+    }
+    Deck& deck = desk_.deck(desk_.chain.lecteur_mix_special.value());
+    deck.controls.progress.value = deck.whole_position().value();
+    if (deck.whole_duration() != deck.whole_position())
+        return false;
+    deck.controls.progress.value = 0;
+    deck.controls.progress.caption = "";
+    deck.controls.special_mix.enabled = true;
+    volume_.vol_pour_stop();
+    desk_.window.Active_audio_jingles.checked = false;
+    return true;
+}
+
+void MixEngine::manuel_mix() {
+    desk_.window.Image13.picture = "";
+    desk_.window.Image12.picture = std::string{lamp_on_picture};
+    desk_.window.Timer1.disable();
+    desk_.window.coche4.set_value(0);
+}
+
+void MixEngine::select_bouton() {
+    if (!desk_.has_main_deck())
+        return;
+    for (Deck& deck : desk_.decks) {
+        const bool main = desk_.chain.lecteur_en_cours == deck.number();
+        deck.controls.play.enabled = main;
+        deck.controls.zap.enabled = main;
+        deck.controls.open.enabled = !main;
+    }
+}
+
+} // namespace sonarelle

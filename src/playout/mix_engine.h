@@ -1,0 +1,59 @@
+#pragma once
+
+#include "playout/deck_volume.h"
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// How many seconds two tracks overlap, how far ahead the next file is loaded, which fade rule applies, and the special
+/// mix: a second file over the main deck, which is lowered meanwhile.
+class MixEngine {
+public:
+    MixEngine(Desk& desk, DeckVolume& volume) : desk_{desk}, volume_{volume} {}
+
+    /// Sets overlap and load lead from the main deck's end point.
+    /// @throws Failure 13 for an end point that is no number.
+    void Choix_mix();
+    /// An entry point of the chain at which nothing has to be done.
+    void choix_mix_volume() {}
+
+    /// The overlap field's buttons and its up-down companion.
+    void Image14_Click() { change_overlap(-1); }
+    void Image15_Click() { change_overlap(1); }
+    void set_overlap(Integer seconds);
+
+    /// The load step on and off.
+    void coche4_Click();
+
+    void Active_audio_jingles_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_jingles); }
+    void Active_audio_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio); }
+    void Active_audio_zapping_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_zapping); }
+    void Désactive_audio_Click();
+
+    /// Drops the graph of the deck before the main one at once: no overlap.
+    void Pas_demix_audio();
+
+    /// The special mix of a deck over the main one; a deck isn't mixed over itself.
+    void special_mix(Deck& deck);
+    /// What a tick of the chain does while a special mix runs. Returns true when it ended with this tick, or there was
+    /// none to serve.
+    bool serve_special_mix();
+
+    /// Back to hand operation: no lamp of the list chain, no load step.
+    void manuel_mix();
+    /// Arranges the decks' buttons round the main deck.
+    void select_bouton();
+
+private:
+    void change_overlap(int step);
+    void start_special_mix(Deck& deck);
+    void show_overlap();
+    [[nodiscard]] bool is_mode_defined() const;
+
+    Desk& desk_;
+    DeckVolume& volume_;
+};
+
+inline constexpr std::string_view lamp_on_picture = "bouton_noir_petitdoux.jpg";
+
+} // namespace sonarelle

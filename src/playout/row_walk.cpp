@@ -1,0 +1,36 @@
+#include "playout/row_walk.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace sonarelle {
+
+RowWalk::RowWalk(std::string name, Scheduler& scheduler) : pause_{std::move(name), 0, scheduler} {
+    pause_.set_interval(100);
+    pause_.on_tick = [this] { trap_([this] { take_a_turn(); }); };
+}
+
+void RowWalk::start(Step step, std::function<int()> turn, std::function<void(const std::function<void()>&)> trap) {
+    step_ = std::move(step);
+    turn_ = std::move(turn);
+    trap_ = std::move(trap);
+    take_a_turn();
+}
+
+void RowWalk::cancel() {
+    pause_.disable();
+    step_ = {};
+}
+
+// The step is kept alive by the copy: what it starts may cancel the walk.
+void RowWalk::take_a_turn() {
+    const Step step = step_;
+    const int rows = std::max(1, turn_());
+    for (int row = 0; row < rows && step_; ++row)
+        if (step())
+            return cancel();
+    if (step_)
+        pause_.enable();
+}
+
+} // namespace sonarelle

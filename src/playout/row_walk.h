@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/timer.h"
+
+namespace sonarelle {
+
+/// A walk over the rows in search of the next track. When a full turn finds none, it lets the station go on and takes
+/// another turn 100 ms later: a row that is added meanwhile is found, and nothing is held up.
+class RowWalk {
+public:
+    RowWalk(std::string name, Scheduler& scheduler);
+
+    /// Looks at the next row; true ends the walk, whatever it came to.
+    using Step = std::function<bool()>;
+
+    /// Walks on with `step`. `turn` says how many rows a full turn has.
+    void start(Step step, std::function<int()> turn, std::function<void(const std::function<void()>&)> trap);
+    [[nodiscard]] bool under_way() const { return static_cast<bool>(step_); }
+    void cancel();
+
+private:
+    void take_a_turn();
+
+    Timer pause_;
+    Step step_;
+    std::function<int()> turn_;
+    std::function<void(const std::function<void()>&)> trap_;
+};
+
+} // namespace sonarelle

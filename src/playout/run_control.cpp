@@ -1,0 +1,164 @@
+#include "playout/run_control.h"
+
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+RunControl::RunControl(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix,
+                       Journal& journal, ListDocument& document)
+    : desk_{desk}, loading_{loading}, start_{start}, volume_{volume}, mix_{mix}, journal_{journal}, document_{
+                                                                                                        document} {}
+
+void RunControl::lect_liste() {
+    if (desk_.chain.chemin_lecture.empty())
+        return;
+    desk_.deck(1).controls.zap.enabled = true;
+    desk_.window.coche3.set_value(true);
+    desk_.chain.lecteur_en_cours = 1;
+    Start_liste();
+}
+
+void RunControl::Start_liste() {
+    desk_.deck(1).create_graph();
+    if (desk_.chain.chemin_lecture.empty())
+        return;
+    try {
+        start_first_deck();
+    } catch (const Failure&) {
+        desk_.list_window.Image1.enabled = true;
+        desk_.list_window.Label1.caption = "Non trouvé";
+        desk_.warn("Recherche de fichier\nDemarrage liste\n" + desk_.chain.chemin_lecture +
+                   "\n / format / lecture impossible  \nabandon lecture liste");
+    }
+}
+
+void RunControl::start_first_deck() {
+    Deck& deck = desk_.deck(1);
+    deck.controls.play.enabled = true;
+    deck.controls.zap.enabled = true;
+    desk_.chain.lecteur_en_cours = 1;
+    deck.graph().RenderFile(deck.path);
+    deck.graph().put_CurrentPosition(desk_.destination.dest_debut);
+    volume_.apply_record(deck);
+    mix_.Choix_mix();
+    deck.graph().Run();
+    start_.align_timers();
+    desk_.chain.duree_mesuree = deck.graph().get_Duration();
+    loading_.format_duration();
+    deck.pause_lecteur = false;
+    show_first_deck(deck);
+    if (desk_.settings.valide_fichier_aleatoire.is_true()) {
+        desk_.chain.compteur_aleatoire = 1;
+        desk_.chain.index_debut_aleatoire = desk_.list.index_en_cours;
+    }
+    if (desk_.settings.valide_fichier_aleatoire1.is_true()) {
+        desk_.chain.compteur_aleatoire1 = 1;
+        desk_.window.Timer9.enable();
+        desk_.chain.index_debut_aleatoire1 = desk_.list.index_en_cours;
+    }
+    write_start(deck.path);
+}
+
+void RunControl::show_first_deck(Deck& deck) {
+    desk_.chain.nom_fichier_source = desk_.window.coche2.value() ? deck.path : desk_.list.chemin_fichier;
+    loading_.nom_du_fich();
+    std::string& name = desk_.destination.dest_nom_fichier;
+    desk_.list_window.caption = name;
+    loading_.formate_nom();
+    deck.controls.title.caption = name + " - ";
+    desk_.list_window.Label2.caption = name;
+    deck.controls.scroll_timer.enable();
+    if (has_classic_video_ending(desk_.chain.extension_fichier))
+        deck.open_video(name);
+    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
+    desk_.window.caption = desk_.settings.nom_radio + " : " + deck.path;
+    desk_.window.Label7.caption = desk_.station_banner();
+    for (Deck& other : desk_.decks)
+        other.controls.playing_mark.visible = other.number() == 1;
+    desk_.report({OnAirEvent::Kind::started,
+                  1,
+                  desk_.list.index_en_cours.value(),
+                  deck.path,
+                  {},
+                  desk_.settings.mix_courant.value(),
+                  desk_.settings.prechargement.value(),
+                  {}});
+}
+
+void RunControl::write_start(const std::string& path) {
+    const std::string time = time_text(desk_.platform);
+    journal_.note(date_and_time(desk_.platform) + " *** " + std::string{application_title} + " ***  Lecture de " +
+                  path);
+    journal_.note(" Démmarage lecture liste a " + time);
+    journal_.note("Nb_de_fichier_écouté " + text_of(desk_.chain.nb_fichiers_ecoutes));
+    journal_.note(time + " Lecture de " + path);
+}
+
+void RunControl::stoppe_liste(const std::string& reason) {
+    desk_.window.Timer2.disable();
+    journal_.note(desk_.chain.ligne_journal);
+    desk_.chain.ligne_journal.clear();
+    for (Deck& deck : desk_.decks)
+        deck.controls.open.enabled = true;
+    desk_.window.coche4.set_value(0);
+    desk_.window.coche2.show_value(true);
+    desk_.window.Label5.caption = "0";
+    desk_.window.Label7.caption = "Play en attente";
+    desk_.window.Label10.caption = "Chargement rapide";
+    desk_.report({OnAirEvent::Kind::stopped, 0, 0, {}, {}, 0, 0, reason});
+}
+
+void RunControl::stoppe_list() {
+    desk_.window.Image12.picture = std::string{lamp_on_picture};
+    desk_.window.Image13.picture = "";
+    desk_.window.coche2.set_value(true);
+    journal_.note("Liste soppée a " + time_text(desk_.platform));
+    desk_.window.Label10.caption = "Chargement rapide";
+}
+
+void RunControl::detecte_fichier_liste() {
+    std::string& path = desk_.list.chemin_fichier;
+    desk_.window.Text2.set_text(path);
+    if (is_network_path(path))
+        return;
+    desk_.platform.disk.ChDrive(path);
+    if (desk_.platform.disk.Dir(path).empty()) {
+        remove_row("Recherche de fichier valide ");
+        path.clear();
+        return;
+    }
+    const std::string folder{folder_of_path(path)};
+    const std::string name{name_of_path(path)};
+    desk_.platform.disk.ChDir(folder);
+    if (equal_ignoring_case(desk_.platform.disk.Dir(join_path(folder, name)), name)) {
+        path = join_path(folder, name);
+        return;
+    }
+    report_missing("Recherche de fichier", "Ce fichier est NON TROUVE !");
+    path.clear();
+}
+
+void RunControl::remove_row(const std::string& heading) {
+    desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
+    document_.sauve_tout();
+    desk_.report(
+        {OnAirEvent::Kind::removed, 0, desk_.list.index_en_cours.value(), desk_.list.chemin_fichier, {}, 0, 0, {}});
+    desk_.list.index_en_cours -= 1;
+    report_missing(heading, "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+}
+
+void RunControl::report_missing(const std::string& heading, const std::string& last_line) {
+    desk_.warn(heading + "\n" + desk_.list.chemin_fichier + "\n" + last_line);
+}
+
+void RunControl::Mettre_en_pause(const std::function<void(Deck&)>& press_pause) {
+    if (desk_.has_main_deck())
+        press_pause(desk_.main_deck());
+    else if (desk_.chain.lecteur_en_cours == 0)
+        desk_.inform("Aucun lecteur en cours");
+}
+
+} // namespace sonarelle

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+
+#include "playlist/list_document.h"
+#include "playout/deck_start.h"
+#include "playout/desk.h"
+#include "playout/journal.h"
+
+namespace sonarelle {
+
+/// Starts and stops a run of the current list, and checks that a row still names a file.
+class RunControl {
+public:
+    RunControl(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix, Journal& journal,
+               ListDocument& document);
+
+    /// From the list window: chooses the list chain, makes deck 1 the main one and starts it.
+    void lect_liste();
+    /// Starts deck 1 with the file that is loaded on it.
+    void Start_liste();
+
+    /// The hard stop of the chain. The deck that plays goes on.
+    void stoppe_liste(const std::string& reason);
+    /// The soft stop, before a deck is loaded by hand from a quick load list.
+    void stoppe_list();
+
+    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row without a file is removed.
+    /// @throws Failure 68 for a drive that isn't there.
+    void detecte_fichier_liste();
+
+    /// Removes the current row, whose file can't be played, saves the list and says so.
+    void remove_row(const std::string& heading);
+
+    void Mettre_en_pause(const std::function<void(Deck&)>& press_pause);
+
+private:
+    void start_first_deck();
+    void show_first_deck(Deck& deck);
+    void write_start(const std::string& path);
+    void report_missing(const std::string& heading, const std::string& last_line);
+
+    Desk& desk_;
+    DeckLoading& loading_;
+    DeckStart& start_;
+    DeckVolume& volume_;
+    MixEngine& mix_;
+    Journal& journal_;
+    ListDocument& document_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "platform/dialogs.h"
+#include "playout/auto_chain.h"
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// The operator's move to the next deck before the mix point: the present track is cut short, the next deck takes over
+/// while the old one fades.
+class Zapping {
+public:
+    Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
+            RunControl& run, RecordReading& reading, ListDocument& document);
+
+    /// From the main deck, by key.
+    void zapping();
+    void zap1() { zap(desk_.deck(1)); }
+    void zap2() { zap(desk_.deck(2)); }
+    void zap3() { zap(desk_.deck(3)); }
+    void zap(Deck& old);
+    /// A zap button: the automatic zap in the list's reading modes, else the operator's.
+    void press_zap(Deck& old);
+
+private:
+    void zap_by_the_rules(Deck& old);
+    [[nodiscard]] bool is_list_mode() const;
+    void refuse_too_early();
+    void store_end_point();
+    void zap_in_list(Deck& old);
+    void zap_over_decks(Deck& old);
+    void hand_over(Deck& old);
+    void tell(const std::string& text, Icon icon);
+
+    Desk& desk_;
+    AutoChain& chain_;
+    DeckLoading& loading_;
+    DeckStart& start_;
+    MixEngine& mix_;
+    Journal& journal_;
+    RunControl& run_;
+    RecordReading& reading_;
+    ListDocument& document_;
+};
+
+} // namespace sonarelle

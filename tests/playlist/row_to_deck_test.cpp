@@ -35,7 +35,7 @@ TEST_F(RowToDeckTest, ReadsTheRecordFromTheFileNotFromTheRow) {
     rows().set_text(2, "C:\\autre.mp3");
     row_to_deck.Charg1_son();
     EXPECT_EQ(station.list.chemin_fichier, "C:\\b.mp3");
-    EXPECT_EQ(station.list.chemin_lecture, "C:\\b.mp3");
+    EXPECT_EQ(station.chain.chemin_lecture, "C:\\b.mp3");
 }
 
 TEST_F(RowToDeckTest, DoesNothingWithoutAList) {

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/station_bench.h"
+
+namespace sonarelle {
+
+/// A station with first-start settings and a list of tracks on the disk, whose run is followed event by event.
+class ChainBench : public StationBench {
+protected:
+    ChainBench() {
+        SettingsStore{machine.settings, "C:\\Sonarelle", DecimalMark::point}.write_column(&SettingRow::first);
+        station.create_main_window();
+        station.desk.on_event = [this](const OnAirEvent& event) { events.emplace_back(machine.time.now(), event); };
+    }
+
+    static std::string track(int number) { return "C:\\Musique\\titre " + std::to_string(number) + ".mp3"; }
+
+    /// Makes tracks of these lengths and opens a list that plays each to its end.
+    void open_tracks(const std::vector<int>& lengths, double start = 0.0) {
+        std::vector<enreg_liste> records;
+        for (const int length : lengths) {
+            const std::string path = track(static_cast<int>(records.size()) + 1);
+            machine.add_track(path, length);
+            records.push_back(record_of(path, std::to_string(length) + ".00", 100, start));
+        }
+        open_list("C:\\Sonarelle\\essai.dfm", records);
+        rows().select(1);
+    }
+
+    /// Chooses the reading mode that plays each row to its end, and starts the list.
+    void start_list() {
+        station.list_window.Option3.click();
+        station.list_window.Image1.click();
+    }
+
+    /// The seconds at which a kind of event happened, with its deck.
+    [[nodiscard]] std::vector<std::pair<double, int>> times_of(OnAirEvent::Kind kind) const {
+        std::vector<std::pair<double, int>> times;
+        for (const auto& [at, event] : events)
+            if (event.kind == kind)
+                times.emplace_back(in_seconds(at), event.deck);
+        return times;
+    }
+
+    [[nodiscard]] std::vector<int> rows_started() const {
+        std::vector<int> rows;
+        for (const auto& [at, event] : events)
+            if (event.kind == OnAirEvent::Kind::started)
+                rows.push_back(event.row);
+        return rows;
+    }
+
+    std::vector<std::pair<Frames, OnAirEvent>> events;
+};
+
+using Times = std::vector<std::pair<double, int>>;
+
+} // namespace sonarelle

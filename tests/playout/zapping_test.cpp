@@ -1,0 +1,72 @@
+#include "playout/zapping.h"
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Kind = OnAirEvent::Kind;
+
+class ZappingTest : public ChainBench {
+protected:
+    void start_and_run(int seconds_played) {
+        open_tracks({200, 200, 200});
+        start_list();
+        machine.run_for(seconds(seconds_played));
+    }
+};
+
+} // namespace
+
+TEST_F(ZappingTest, IsRefusedAtThirtySeconds) {
+    start_and_run(30);
+    machine.dialogs.expect_box("secondes minimun", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.dialogs.last().icon, Icon::warning);
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ZappingTest, IsAcceptedAtThirtyOneSeconds) {
+    start_and_run(31);
+    station.list_window.Image2.click();
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {31, 2}}));
+}
+
+TEST_F(ZappingTest, NamesTheLongestJingleInItsRefusalWhateverTheLimitIs) {
+    start_and_run(31);
+    station.settings.valeur_max_jingles = 45;
+    station.main_window.Label5.caption = "30";
+    machine.dialogs.expect_box("45 secondes minimun sont demandées", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ZappingTest, StoresTheEndPointInTheRecord) {
+    start_and_run(50);
+    station.list_window.Image2.click();
+    EXPECT_EQ(record_in(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), 1).trimmed_fin_lecture(), "50");
+    EXPECT_EQ(rows().sub_item(1, 2), "50.00");
+}
+
+TEST_F(ZappingTest, FadesTheOldDeckAndReleasesIt) {
+    start_and_run(50);
+    station.list_window.Image2.click();
+    machine.run_for(seconds(15));
+    EXPECT_EQ(times_of(Kind::fade_began).size(), 1U);
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(2)});
+}
+
+TEST_F(ZappingTest, ByTheButtonIsNotBoundToTheSecondsInAReadingModeOfTheList) {
+    start_and_run(5);
+    station.main_window.deck(1).zap.click();
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {5, 2}}));
+}
+
+TEST_F(ZappingTest, WithoutAMainDeckSaysSo) {
+    machine.dialogs.expect_box("Aucune lecture en cours", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(station.list_window.Label12.caption.get(), "Zapping autorisé");
+}
+
+} // namespace sonarelle

@@ -186,6 +186,9 @@ TEST(HostDiskFolders, FolderOfADriveStays) {
     DiskBench bench;
 
     EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\un"); }), 75);
     EXPECT_TRUE(bench.folder.exists("."));
 }
 

@@ -30,6 +30,11 @@ int rename_to_new(const std::string& from, const std::string& to) {
     return result != 0 && errno == EINVAL ? ::rename(from.c_str(), to.c_str()) : result;
 }
 
+/// The folder that a drive lies in is no business of the station.
+bool is_root(const std::string& absolute_path) {
+    return parts_of(absolute_path).names.empty();
+}
+
 std::string folder_part(const std::string& machine_path) {
     return machine_path.substr(0, machine_path.rfind('/') + 1);
 }
@@ -39,7 +44,8 @@ std::string folder_part(const std::string& machine_path) {
 NameLookup::Place HostDisk::look_up(const std::string& absolute_path) const {
     check_name(absolute_path);
     const PathParts parts = parts_of(absolute_path);
-    const std::string root = drives_.machine_path(parts.drive + "\\");
+    std::string root = drives_.machine_path(absolute_path);
+    root.resize(root.size() - (absolute_path.size() - parts.drive.size()));
     return lookup_.find(root.substr(0, root.find_last_not_of('/') + 1), parts.names, absolute_path);
 }
 
@@ -70,7 +76,11 @@ void HostDisk::ChDrive(std::string_view path) {
     const bool is_letter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
     if (!is_letter)
         throw Failure{failure_number::device_unavailable, std::string{path}};
-    static_cast<void>(place_of(root));
+    try {
+        static_cast<void>(place_of(root));
+    } catch (const Failure& failure) {
+        throw Failure{failure.number, std::string{path}};
+    }
     working_.set_drive(letter);
 }
 
@@ -102,14 +112,14 @@ void HostDisk::remove_file(const Place& place) {
 }
 
 void HostDisk::Name(std::string_view old_path, std::string_view new_path) {
-    const Place from = existing(old_path, failure_number::file_not_found);
     const Place to = place_of(new_path);
+    const Place from = existing(old_path, failure_number::file_not_found);
     if (!equal_ignoring_case(parts_of(from.source).drive, parts_of(to.source).drive))
         throw Failure{failure_number::other_drive, to.source};
     const bool only_case_changes = to.path == from.path;
     if (to.exists && !only_case_changes)
         throw Failure{failure_number::file_exists, to.source};
-    if (to.path.starts_with(from.path + "/"))
+    if (is_root(from.source) || to.path.starts_with(from.path + "/"))
         throw Failure{failure_number::path_access, to.source};
     const std::string new_name = folder_part(to.path) + std::string{name_of_path(to.source)};
     const int result =
@@ -128,7 +138,7 @@ void HostDisk::MkDir(std::string_view folder) {
 
 void HostDisk::RmDir(std::string_view folder) {
     const Place place = existing(folder, failure_number::path_not_found);
-    if (parts_of(place.source).names.empty()) // the folder that a drive lies in
+    if (is_root(place.source))
         throw Failure{failure_number::path_access, place.source};
     if (::rmdir(place.path.c_str()) != 0)
         throw_errno(Access::writing, place.source);

@@ -86,7 +86,8 @@ std::string HostDisk::Dir() {
 }
 
 std::vector<std::string> HostDisk::matches(const Pattern& pattern, FileAttributes attributes) const {
-    if (pattern.is_one_name()) {
+    const bool leads_elsewhere = pattern.name == "." || pattern.name == "..";
+    if (pattern.is_one_name() && !leads_elsewhere) {
         const NameLookup::Place place = look_up(join_path(pattern.folder, pattern.name));
         if (place.outcome != Outcome::present || !is_wanted(kind_of(place.path), attributes))
             return {};

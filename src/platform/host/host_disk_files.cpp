@@ -80,8 +80,8 @@ bool is_same_file(const struct stat& a, const struct stat& b) {
 
 void HostDisk::FileCopy(std::string_view from, std::string_view to) {
     const Place from_place = existing(from, failure_number::file_not_found);
-    const Place to_place = place_of(to);
     OpenFile source = open_plain(from_place.path, O_RDONLY, Access::reading, from_place.source);
+    const Place to_place = place_of(to);
     struct stat target {};
     if (::stat(to_place.path.c_str(), &target) == 0 && is_same_file(source.facts, target))
         throw Failure{failure_number::permission_refused, to_place.source};

@@ -121,6 +121,8 @@ void SimulatedDisk::Kill(std::string_view path) {
     const Pattern wanted = pattern_of(path);
     std::vector<std::string> names{wanted.name};
     if (!wanted.is_one_name()) {
+        if (!tree_.has_drive(wanted.folder))
+            fail(failure_number::device_unavailable, wanted.folder);
         names.clear();
         for (const DiskEntry* file : matches(wanted, FileAttributes::normal))
             names.push_back(file->name);

@@ -60,8 +60,8 @@ void DriveTable::set(std::string_view drive, std::string_view machine_folder) {
     folders_[key_of(drive)] = without_final_slash(machine_folder);
 }
 
-void DriveTable::remove(std::string_view drive) {
-    folders_.erase(key_of(drive));
+bool DriveTable::remove(std::string_view drive) {
+    return folders_.erase(key_of(drive)) > 0;
 }
 
 std::string DriveTable::machine_path(std::string_view path) const {

@@ -15,7 +15,8 @@ public:
 
     /// @throws Failure 68 for a name that is neither a letter nor a share.
     void set(std::string_view drive, std::string_view machine_folder);
-    void remove(std::string_view drive);
+    /// Whether the drive was there.
+    bool remove(std::string_view drive);
     [[nodiscard]] const std::map<std::string, std::string>& entries() const { return folders_; }
 
     /// The machine's path of an absolute path of the station, as it is spelt there.

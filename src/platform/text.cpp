@@ -181,6 +181,12 @@ std::optional<std::string> first_foreign_character(std::string_view text) {
     return std::nullopt;
 }
 
+std::string sentence_of_foreign(std::string_view foreign_character) {
+    const bool is_broken = foreign_character.size() == 1;
+    return is_broken ? "Ce texte n'est pas écrit en UTF-8"
+                     : "Le caractère « " + std::string{foreign_character} + " » n'existe pas en Windows-1252";
+}
+
 std::string_view trim_left(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     return text;

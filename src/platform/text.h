@@ -20,6 +20,9 @@ namespace sonarelle {
 /// The first character of `text` that Windows-1252 lacks, as text; nothing when all have a byte.
 [[nodiscard]] std::optional<std::string> first_foreign_character(std::string_view text);
 
+/// The French sentence that refuses such a character, or a byte that is no valid UTF-8.
+[[nodiscard]] std::string sentence_of_foreign(std::string_view foreign_character);
+
 /// Without the spaces (0x20 alone) at both ends, or at one.
 [[nodiscard]] std::string_view trim(std::string_view text);
 [[nodiscard]] std::string_view trim_left(std::string_view text);

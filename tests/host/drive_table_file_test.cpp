@@ -6,6 +6,7 @@
 
 #include "platform/failure.h"
 #include "platform/host/host_drive_table.h"
+#include "platform/host/machine_paths.h"
 #include "support/child_process.h"
 #include "support/private_folder.h"
 
@@ -29,10 +30,8 @@ private:
 
 TEST(DriveTableFile, GivesBackTheTableThatWasSaved) {
     PrivateFolder folder;
-    DriveTable table;
-    table.set("D", "/srv/musique/");
-    table.set("\\\\Serveur\\Partage", "/mnt/x");
-    save_drive_table(folder.path("lecteurs.json"), table);
+    set_saved_drive(folder.path("lecteurs.json"), "D", "/srv/musique/");
+    set_saved_drive(folder.path("lecteurs.json"), "\\\\Serveur\\Partage", "/mnt/x");
 
     EXPECT_EQ(load_drive_table(folder.path("lecteurs.json")).entries(),
               (Entries{{"C", ""}, {"D", "/srv/musique"}, {"\\\\serveur\\partage", "/mnt/x"}}));
@@ -53,7 +52,7 @@ TEST(DriveTableFile, DriveCMayBeAbsent) {
 
 TEST(DriveTableFile, KeepsRootAsASlash) {
     PrivateFolder folder;
-    save_drive_table(folder.path("lecteurs.json"), DriveTable{});
+    set_saved_drive(folder.path("lecteurs.json"), "C", "/");
 
     EXPECT_EQ(folder.bytes("lecteurs.json"), "{\n    \"C\": \"/\"\n}\n");
 }
@@ -103,13 +102,28 @@ TEST(DriveTableFile, DamagedFileIsNamed) {
     }
 }
 
-TEST(DriveTableFile, DamagedFileIsSetAsideByAWholeSave) {
+TEST(DriveTableFile, DamagedFileIsSetAsideBeforeADriveIsSet) {
     PrivateFolder folder;
     folder.put("lecteurs.json", "C=/");
-    save_drive_table(folder.path("lecteurs.json"), DriveTable{});
+    set_saved_drive(folder.path("lecteurs.json"), "D", "/d");
 
     EXPECT_EQ(folder.bytes("lecteurs.json.abime"), "C=/");
-    EXPECT_EQ(load_drive_table(folder.path("lecteurs.json")).entries(), DriveTable{}.entries());
+    EXPECT_EQ(load_drive_table(folder.path("lecteurs.json")).entries(), (Entries{{"C", ""}, {"D", "/d"}}));
+}
+
+TEST(DriveTableFile, DamagedFileStaysWhenNothingIsChanged) {
+    PrivateFolder folder;
+    folder.put("lecteurs.json", "C=/");
+
+    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }), 68);
+    EXPECT_EQ(folder.bytes("lecteurs.json"), "C=/");
+}
+
+TEST(DriveTableFile, DriveThatIsNotThereIsNotRemoved) {
+    PrivateFolder folder;
+
+    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }), 68);
+    EXPECT_FALSE(folder.exists("lecteurs.json"));
 }
 
 TEST(StationPathOf, TakesTheDriveThatLiesNearest) {
@@ -178,7 +192,7 @@ TEST_P(RefusedMachinePath, IsNamedWithItsReason) {
 INSTANTIATE_TEST_SUITE_P(
     StationPathOf, RefusedMachinePath,
     testing::Values(Refusal{"Foreign", "/srv/песня.mp3", 52, "Le caractère « п » n'existe pas en Windows-1252"},
-                    Refusal{"NoUtf8", "/srv/\xE9.mp3", 52, "Ce nom n'est pas écrit en UTF-8"},
+                    Refusal{"NoUtf8", "/srv/\xE9.mp3", 52, "Ce texte n'est pas écrit en UTF-8"},
                     Refusal{"Forbidden", "/srv/quoi ?.mp3", 52, "Le caractère « ? » ne va pas dans un nom de fichier"},
                     Refusal{"Backslash", "/srv/a\\b.mp3", 52, "Le caractère « \\ » ne va pas dans un nom de fichier"},
                     Refusal{"NoDrive", "/home/x.mp3", 68, "Aucun lecteur n'atteint ce fichier"}),

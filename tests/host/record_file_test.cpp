@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <random>
 
 #include "host/disk_bench.h"
@@ -97,6 +98,14 @@ TEST(HostRecordFile, OpenOrCreateOpensTheFileThatIsThereIgnoringCase) {
 
     EXPECT_EQ(bench.disk.open_or_create("D:\\liste.dfm")->length(), 3);
     EXPECT_FALSE(bench.folder.exists("liste.dfm"));
+}
+
+TEST(HostRecordFile, DeadLinkGetsTheFileThatItPointsTo) {
+    DiskBench bench;
+    std::filesystem::create_symlink("vraie.dfm", bench.folder.path("liste.dfm"));
+
+    EXPECT_EQ(bench.disk.open_or_create("D:\\liste.dfm")->length(), 0);
+    EXPECT_EQ(bench.folder.bytes("vraie.dfm"), "");
 }
 
 TEST(HostRecordFile, FolderOrPipeIsNoFile) {

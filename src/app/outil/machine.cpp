@@ -5,6 +5,7 @@
 #include "app/outil/commands.h"
 #include "platform/failure.h"
 #include "platform/host/host_drive_table.h"
+#include "platform/host/machine_paths.h"
 
 namespace sonarelle {
 

@@ -20,8 +20,7 @@ void check_name(const std::string& path) {
     if (has_forbidden_character(path) || path.find('\0') != std::string::npos)
         throw Failure{failure_number::wrong_file_name, path};
     if (const auto foreign = first_foreign_character(path))
-        throw Failure{failure_number::wrong_file_name, path,
-                      "Le caractère « " + *foreign + " » n'existe pas en Windows-1252"};
+        throw Failure{failure_number::wrong_file_name, path, sentence_of_foreign(*foreign)};
 }
 
 /// Renames without ever taking the place of another file, on the disks that can promise it.

@@ -7,42 +7,12 @@
 #include "platform/host/host_disk.h"
 #include "platform/host/host_errors.h"
 #include "platform/host/host_record_file.h"
+#include "platform/host/machine_files.h"
 #include "platform/host/safe_file.h"
 
 namespace sonarelle {
 
 namespace {
-
-class HostReplacement : public FileReplacement {
-public:
-    HostReplacement(std::string machine_path, std::string source) : file_{std::move(machine_path), std::move(source)} {}
-
-    void write(std::span<const std::byte> bytes) override { file_.write(bytes); }
-    void commit() override { file_.commit(); }
-
-private:
-    SafeFile file_;
-};
-
-struct OpenFile {
-    FileHandle handle;
-    struct stat facts {};
-};
-
-/// Opens a plain file; a pipe or a device would hold the station up.
-OpenFile open_plain(const std::string& machine_path, int flags, Access access, const std::string& source) {
-    OpenFile file{FileHandle{::open(machine_path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666)}, {}};
-    if (!file.handle.is_open() || ::fstat(file.handle.get(), &file.facts) != 0)
-        throw_errno(access, source);
-    if (!S_ISREG(file.facts.st_mode))
-        throw Failure{failure_number::path_access, source};
-    return file;
-}
-
-std::unique_ptr<RecordFile> opened(const std::string& machine_path, const std::string& source) {
-    OpenFile file = open_plain(machine_path, O_RDONLY, Access::reading, source);
-    return std::make_unique<HostRecordFile>(std::move(file.handle), file.facts.st_size, source);
-}
 
 void flush_folder_of(const std::string& machine_path) {
     const std::string folder = machine_path.substr(0, machine_path.rfind('/') + 1);
@@ -102,19 +72,20 @@ void HostDisk::FileCopy(std::string_view from, std::string_view to) {
 
 std::unique_ptr<RecordFile> HostDisk::open(std::string_view path) {
     const Place place = existing(path, failure_number::file_not_found);
-    return opened(place.path, place.source);
+    return open_machine_file(place.path, place.source);
 }
 
 std::unique_ptr<RecordFile> HostDisk::open_or_create(std::string_view path) {
     const Place place = place_of(path);
-    if (!place.exists)
+    struct stat facts {};
+    if (::stat(place.path.c_str(), &facts) != 0 && errno == ENOENT) // a link may be there and lead to nothing
         static_cast<void>(open_plain(place.path, O_WRONLY | O_CREAT, Access::writing, place.source));
-    return opened(place.path, place.source);
+    return open_machine_file(place.path, place.source);
 }
 
 std::unique_ptr<FileReplacement> HostDisk::replace(std::string_view path) {
     const Place place = place_of(path);
-    return std::make_unique<HostReplacement>(place.path, place.source);
+    return replace_machine_file(place.path, place.source);
 }
 
 void HostDisk::append(std::string_view path, std::string_view bytes) {

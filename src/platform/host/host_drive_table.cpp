@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/failure.h"
+#include "platform/host/machine_paths.h"
 #include "platform/host/shared_file.h"
 
 namespace sonarelle {
@@ -13,20 +14,26 @@ namespace {
 
 constexpr const char* damaged = "Table des lecteurs abîmée : ";
 
-bool holds_table(const std::string& json) {
-    try {
-        static_cast<void>(parsed_drive_table(json, "/"));
-        return true;
-    } catch (const Failure&) {
-        return false;
-    }
+DriveTable parsed(const std::string& json, const std::string& file) {
+    return parsed_drive_table(json, std::filesystem::path{file}.parent_path());
 }
 
 void change_saved_table(const std::string& file, const std::function<void(DriveTable&)>& change) {
     const SharedFileLock lock{file};
-    DriveTable table = load_drive_table(file);
+    const auto old = read_shared_file(file);
+    DriveTable table;
+    bool is_damaged = false;
+    try {
+        if (old)
+            table = parsed(*old, file);
+    } catch (const Failure&) {
+        is_damaged = true;
+    }
     change(table);
-    write_shared_file(file, drive_table_text(table));
+    const std::string text = drive_table_text(table);
+    if (is_damaged)
+        set_aside(file);
+    write_shared_file(file, text);
 }
 
 } // namespace
@@ -70,19 +77,10 @@ DriveTable load_drive_table(const std::string& file) {
     if (!json)
         return {};
     try {
-        return parsed_drive_table(*json, std::filesystem::path{file}.parent_path());
+        return parsed(*json, file);
     } catch (const Failure& failure) {
         throw Failure{failure.number, file, failure.description};
     }
-}
-
-void save_drive_table(const std::string& file, const DriveTable& table) {
-    const SharedFileLock lock{file};
-    const std::string text = drive_table_text(table);
-    const auto old = read_shared_file(file);
-    if (old && !holds_table(*old))
-        set_aside(file);
-    write_shared_file(file, text);
 }
 
 void set_saved_drive(const std::string& file, std::string_view drive, std::string_view machine_folder) {
@@ -91,7 +89,10 @@ void set_saved_drive(const std::string& file, std::string_view drive, std::strin
 }
 
 void remove_saved_drive(const std::string& file, std::string_view drive) {
-    change_saved_table(file, [&](DriveTable& table) { table.remove(drive); });
+    change_saved_table(file, [drive](DriveTable& table) {
+        if (!table.remove(drive))
+            throw Failure{failure_number::device_unavailable, std::string{drive}, "Ce lecteur n'est pas dans la table"};
+    });
 }
 
 } // namespace sonarelle

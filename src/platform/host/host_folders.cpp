@@ -4,11 +4,8 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <filesystem>
 
-#include "platform/failure.h"
-#include "platform/host/host_drive_table.h"
-#include "platform/host/host_errors.h"
+#include "platform/host/machine_paths.h"
 
 namespace sonarelle {
 
@@ -32,20 +29,11 @@ std::string user_folder(const char* xdg_variable, const char* below_home) {
     return (set.starts_with('/') ? set : home() + "/" + below_home) + "/sonarelle";
 }
 
-void make_folder(const std::string& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (error || !std::filesystem::is_directory(folder))
-        throw Failure{error ? failure_of_errno(error.value(), Access::writing) : failure_number::path_access, folder};
-}
-
 } // namespace
 
 HostFolders host_folders(const std::optional<std::string>& folder) {
     const std::string program = folder ? absolute_machine_path(*folder) : user_folder("XDG_DATA_HOME", ".local/share");
     const std::string configuration = folder ? program : user_folder("XDG_CONFIG_HOME", ".config");
-    make_folder(program);
-    make_folder(configuration);
     return {program, configuration + "/reglages.json", configuration + "/lecteurs.json"};
 }
 

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace sonarelle {
 
@@ -13,8 +12,8 @@ struct HostFolders {
     std::string drive_table; ///< The file of the drive table, beside it.
 };
 
-/// The folders of the user, by the XDG variables, or with `folder` all in that one. Makes those that are missing.
-/// @throws Failure 75 for a folder that can't be made.
+/// The folders of the user, by the XDG variables, or with `folder` all in that one. Names alone: a folder is made by
+/// the first write into it, so that looking leaves nothing behind.
 [[nodiscard]] HostFolders host_folders(const std::optional<std::string>& folder);
 
 } // namespace sonarelle

@@ -1,3 +1,5 @@
+#include "platform/host/machine_paths.h"
+
 #include <unistd.h>
 
 #include <algorithm>
@@ -6,7 +8,6 @@
 #include <memory>
 
 #include "platform/failure.h"
-#include "platform/host/host_drive_table.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -23,19 +24,13 @@ std::filesystem::path shell_folder() {
     return folder ? std::filesystem::path{folder.get()} : std::filesystem::path{"/"};
 }
 
-bool has_foreign_byte(std::string_view character) {
-    return character.size() == 1 && static_cast<unsigned char>(character.front()) >= 0x80;
-}
-
 [[noreturn]] void refuse(std::string_view path, int number, std::string sentence) {
     throw Failure{number, std::string{path}, std::move(sentence)};
 }
 
 void check_characters(std::string_view path) {
     if (const auto foreign = first_foreign_character(path))
-        refuse(path, failure_number::wrong_file_name,
-               has_foreign_byte(*foreign) ? "Ce nom n'est pas écrit en UTF-8"
-                                          : "Le caractère « " + *foreign + " » n'existe pas en Windows-1252");
+        refuse(path, failure_number::wrong_file_name, sentence_of_foreign(*foreign));
     const auto forbidden = path.find_first_of("*?<>|\"");
     if (forbidden != std::string_view::npos)
         refuse(path, failure_number::wrong_file_name,

@@ -3,6 +3,7 @@
 import json
 import math
 import os
+import resource
 import struct
 import subprocess
 import sys
@@ -32,6 +33,15 @@ class Tool(unittest.TestCase):
     def call(self, *words, stdin="", status=0):
         run = subprocess.run([TOOL, *map(str, words), "--dossier", str(self.folder / "station")],
                              input=stdin.encode() if isinstance(stdin, str) else stdin, capture_output=True, check=False)
+        return self.result(run, status)
+
+    def call_by_shell(self, command, *words, status=0, **more):
+        """Runs `command` of a shell, in which "$@" is the tool with its words."""
+        run = subprocess.run(["sh", "-c", command, "sh", TOOL, *map(str, words), "--dossier",
+                              str(self.folder / "station")], capture_output=True, check=False, **more)
+        return self.result(run, status)
+
+    def result(self, run, status):
         self.assertEqual(run.returncode, status, run.stderr.decode())
         if status == 1:
             self.assertEqual(run.stderr.decode().count("\n"), 1, run.stderr.decode())
@@ -93,6 +103,31 @@ class Viewing(Tool):
     def test_shows_a_list_to_people(self):
         self.assertIn("C:\\a.mp3", self.call("liste", "voir", self.file("a.dfm", record())))
 
+    def test_shows_control_characters_as_points(self):
+        shown = self.call("liste", "voir", self.file("a.dfm", record(b"C:\\a\x1b[2J\n\x90.mp3")))
+        self.assertIn("C:\\a·[2J··.mp3", shown)
+
+    def test_tells_one_byte_from_several(self):
+        self.assertIn("et 1 octet de reste", self.call("liste", "voir", self.file("a.dfm", record() + b"x")))
+        self.assertIn("et 2 octets de reste", self.call("liste", "voir", self.file("b.dfm", record() + b"xx")))
+
+    def test_reads_exactly_the_name_that_was_typed(self):
+        self.file("b.dfm", record())
+        self.call("liste", "voir", self.folder / "B.dfm", status=1)
+        self.assertIn(f"{self.folder}/B.dfm : Fichier introuvable", self.error)
+
+    def test_leaves_nothing_behind(self):
+        self.call("liste", "voir", self.file("a.dfm", record()))
+        self.assertEqual([path.name for path in self.folder.iterdir()], ["a.dfm"])
+
+    def test_says_that_its_output_is_closed(self):
+        self.call_by_shell('exec "$@" >&-', "liste", "voir", self.file("a.dfm", record()), status=1)
+        self.assertIn("sortie standard : écriture impossible", self.error)
+
+    def test_says_that_its_outputs_disk_is_full(self):
+        self.call_by_shell('exec "$@" >/dev/full', "liste", "voir", self.file("a.dfm", record()), status=1)
+        self.assertIn("sortie standard : Disque plein", self.error)
+
     def test_refuses_a_list_that_is_not_there(self):
         self.call("liste", "voir", self.folder / "absente.dfm", status=1)
         self.assertIn("absente.dfm", self.error)
@@ -100,7 +135,7 @@ class Viewing(Tool):
 
     def test_refuses_another_kind_of_file(self):
         self.call("liste", "voir", self.file("a.txt", b""), status=1)
-        self.assertIn("a.txt", self.error)
+        self.assertIn("a.txt : un fichier .dfm ou .rfm est attendu", self.error)
 
     def test_refuses_a_folder(self):
         (self.folder / "x.dfm").mkdir()
@@ -145,6 +180,18 @@ class Writing(Tool):
         self.call("liste", "ecrire", self.file("b.dfm"), stdin=text)
         self.assertEqual(self.file("b.dfm").read_bytes(), data)
 
+    def test_writes_exactly_the_name_that_was_typed(self):
+        self.file("b.dfm", b"ancien")
+        self.call("liste", "ecrire", self.folder / "B.dfm", stdin="[]")
+        self.assertEqual((self.file("b.dfm").read_bytes(), self.file("B.dfm").read_bytes()), (b"ancien", b""))
+
+    def test_takes_a_name_that_begins_with_two_dashes_behind_two_dashes(self):
+        station = str(self.folder / "station")
+        run = subprocess.run([TOOL, "liste", "ecrire", "--dossier", station, "--", "--b.dfm"], input=b"[]",
+                             cwd=self.folder, capture_output=True, check=False)
+        self.assertEqual(run.returncode, 0, run.stderr.decode())
+        self.assertEqual(self.file("--b.dfm").read_bytes(), b"")
+
     def test_takes_the_array_alone_and_ignores_the_numbers(self):
         rows = self.view(self.file("a.dfm", record(b"x") + record(b"y")))["enregistrements"]
         rows[0]["numero"] = 99
@@ -175,7 +222,27 @@ class Writing(Tool):
         self.refused(self.row(chemin="C:\\日本.mp3"), "日")
 
     def test_refuses_a_volume_that_does_not_fit(self):
-        self.refused(self.row(volume=32768), "volume")
+        for volume in (32768, -32769, 2**63, 2**64 - 1, 2**64, -2**63, 1.5):
+            self.refused(self.row(volume=volume), "volume")
+
+    def test_carries_the_ends_of_a_volume(self):
+        self.call("liste", "ecrire", self.file("b.dfm"), stdin=json.dumps([self.row(volume=v) for v in (32767, -32768, -1)]))
+        self.assertEqual([row["volume"] for row in self.view(self.file("b.dfm"))["enregistrements"]], [32767, -32768, -1])
+
+    def test_refuses_a_standard_input_that_cannot_be_read(self):
+        self.call_by_shell('exec "$@" <&-', "liste", "ecrire", self.file("b.dfm"), status=1)
+        self.assertIn("entrée standard : lecture impossible", self.error)
+        self.call_by_shell('exec "$@" </', "liste", "ecrire", self.file("b.dfm"), status=1)
+        self.assertIn("entrée standard : lecture impossible", self.error)
+        self.assertFalse(self.file("b.dfm").exists())
+
+    def test_refuses_a_list_that_may_not_grow_so_long(self):
+        self.file("b.dfm", b"ancien")
+        rows = json.dumps([self.row()] * 20)
+        self.call_by_shell('exec "$@"', "liste", "ecrire", self.file("b.dfm"), input=rows.encode(), status=1,
+                           preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (4096, 4096)))
+        self.assertIn("b.dfm : Disque plein", self.error)
+        self.assertEqual(self.file("b.dfm").read_bytes(), b"ancien")
 
     def test_refuses_a_start_that_is_no_number(self):
         self.refused(self.row(debut_lecture="tôt"), "debut_lecture")
@@ -198,7 +265,7 @@ class Writing(Tool):
 
     def test_refuses_a_name_that_no_station_can_write(self):
         self.call("liste", "ecrire", self.folder / "a?.dfm", stdin="[]", status=1)
-        self.assertEqual(sorted(p.name for p in self.folder.iterdir()), ["station"])
+        self.assertEqual(list(self.folder.iterdir()), [])
 
     def test_refuses_a_path_that_is_too_long(self):
         self.call("liste", "ecrire", self.folder / ("x" * 300 + ".dfm"), stdin="[]", status=1)

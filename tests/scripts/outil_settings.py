@@ -18,11 +18,18 @@ class Tool(unittest.TestCase):
         self.station = Path(folder.name) / "station"
 
     def start(self, *words):
-        return subprocess.Popen([TOOL, *words, "--dossier", str(self.station)], stdout=subprocess.PIPE,
-                                stderr=subprocess.PIPE)
+        return self.start_words(*words, "--dossier", str(self.station))
+
+    def start_words(self, *words):
+        return subprocess.Popen([TOOL, *words], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def call(self, *words, status=0):
-        run = self.start(*words)
+        return self.result(self.start(*words), status)
+
+    def run_words(self, *words, status=0):
+        return self.result(self.start_words(*words), status)
+
+    def result(self, run, status):
         out, error = run.communicate()
         self.assertEqual(run.returncode, status, error.decode())
         self.error = error.decode()
@@ -42,6 +49,33 @@ class Words(Tool):
         self.assertIn("日", self.error)
         self.call("reglages", "lire", "Config", "Nom_antenne_fm", status=1)
 
+    def test_that_are_no_utf_8_are_refused_without_their_bytes(self):
+        self.call("reglages", "lire", b"Config\xe9", "Mix", status=1)
+        self.assertIn("Config\ufffd : Ce texte n'est pas écrit en UTF-8", self.error)
+
+    def test_behind_two_dashes_are_no_options(self):
+        self.run_words("reglages", "ecrire", "--dossier", self.station, "--", "Config", "Nom_antenne_fm", "--radio--")
+        self.assertEqual(self.call("reglages", "lire", "Config", "Nom_antenne_fm"), "--radio--\n")
+
+    def test_name_a_folder_that_is_not_empty(self):
+        self.run_words("reglages", "--dossier", "", status=2)
+        self.assertIn("--dossier", self.error)
+
+    def test_know_the_form_of_a_drive_everywhere(self):
+        for drive in ("M", "M=", "MM=/srv", "=/srv"):
+            self.call("calcul", "heure", "1", "--lecteur", drive, status=2)
+        self.assertEqual(self.call("calcul", "heure", "1", "--lecteur", "M=/srv"), "00:00:01\n")
+
+    def test_that_look_make_no_folder(self):
+        self.call("reglages")
+        self.call("lecteurs")
+        self.assertFalse(self.station.exists())
+
+    def test_write_into_no_folder_that_is_a_file(self):
+        self.station.write_text("ici")
+        self.call("reglages", "ecrire", "Config", "Mix", "6", status=1)
+        self.assertIn(str(self.station), self.error)
+
 
 class Durations(Tool):
     def test_of_the_title_line(self):
@@ -57,6 +91,10 @@ class Durations(Tool):
 
     def test_that_are_no_numbers_are_refused_and_nothing_is_printed(self):
         self.assertEqual(self.call("calcul", "heure", "12", "abc", status=1), "")
+
+    def test_that_are_empty_are_named_all_the_same(self):
+        self.call("calcul", "heure", "", status=1)
+        self.assertIn("« » : Type incompatible", self.error)
 
     def test_want_a_number(self):
         self.call("calcul", "heure", status=2)
@@ -122,12 +160,41 @@ class Drives(Tool):
     def test_refuse_what_is_no_drive(self):
         self.call("lecteurs", "DD", "/srv", status=1)
 
+    def test_want_a_letter_and_a_folder_that_are_not_empty(self):
+        self.call("lecteurs", "M", "", status=2)
+        self.call("lecteurs", "", "/srv", status=2)
+        self.assertEqual(self.call("lecteurs"), "C\t/\n")
+
+    def test_that_are_not_there_are_not_removed(self):
+        self.call("lecteurs", "Q", "--oter", status=1)
+        self.assertIn("Q : Ce lecteur n'est pas dans la table", self.error)
+
+    def damage_the_table(self):
+        self.station.mkdir()
+        (self.station / "lecteurs.json").write_text("{ abîmé")
+
+    def test_of_a_damaged_table_are_named_by_its_file(self):
+        self.damage_the_table()
+        self.call("lecteurs", status=1)
+        self.assertIn("lecteurs.json : Table des lecteurs abîmée", self.error)
+
+    def test_of_a_damaged_table_stop_no_word_that_needs_none(self):
+        self.damage_the_table()
+        self.call("reglages", "ecrire", "Config", "Mix", "6")
+        self.assertEqual(self.call("reglages", "lire", "Config", "Mix"), "6\n")
+
+    def test_of_a_damaged_table_can_be_set_anew(self):
+        self.damage_the_table()
+        self.call("lecteurs", "D", "/srv")
+        self.assertEqual(self.call("lecteurs"), "C\t/\nD\t/srv\n")
+        self.assertEqual((self.station / "lecteurs.json.abime").read_text(), "{ abîmé")
+
     def test_of_one_call_want_a_letter_and_a_folder(self):
         self.call("lecteurs", "--lecteur", "M", status=2)
 
     def test_that_reach_nothing_refuse_a_file_by_name(self):
         self.call("lecteurs", "C", "--oter")
-        self.call("liste", "voir", "/tmp/absente.dfm", status=1)
+        self.call("liste", "voir", str(self.station / "absente.dfm"), status=1)
         self.assertIn("absente.dfm", self.error)
 
 

@@ -18,24 +18,25 @@ const Option& option_named(std::string_view name, std::span<const Option> allowe
 
 void check_characters(std::string_view word) {
     if (const auto foreign = first_foreign_character(word))
-        throw Failure{failure_number::wrong_call, std::string{word},
-                      "le caractère « " + *foreign + " » n'existe pas en Windows-1252"};
+        throw Failure{failure_number::wrong_call, std::string{word}, sentence_of_foreign(*foreign)};
 }
 
-bool is_option(std::string_view word) {
-    return word.size() > 2 && word.starts_with("--");
-}
+constexpr std::string_view end_of_options = "--";
 
 } // namespace
 
 Arguments::Arguments(std::span<char* const> words, std::span<const Option> allowed) {
+    bool options_ended = false;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string word = words[i];
         check_characters(word);
-        if (!is_option(word)) {
+        if (options_ended || !word.starts_with(end_of_options)) {
             words_.push_back(word);
             continue;
         }
+        options_ended = word == end_of_options;
+        if (options_ended)
+            continue;
         auto& values = options_[word];
         if (!option_named(word, allowed).has_value)
             continue;
@@ -50,6 +51,13 @@ const std::string& Arguments::word(std::size_t place, std::string_view what) con
     if (place >= words_.size())
         throw WrongWords{"il manque : " + std::string{what}};
     return words_[place];
+}
+
+const std::string& Arguments::filled_word(std::size_t place, std::string_view what) const {
+    const std::string& found = word(place, what);
+    if (found.empty())
+        throw WrongWords{"mot vide à la place de : " + std::string{what}};
+    return found;
 }
 
 void Arguments::expect_at_most(std::size_t count) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -29,8 +28,11 @@ public:
     Arguments(std::span<char* const> words, std::span<const Option> allowed);
 
     [[nodiscard]] const std::vector<std::string>& words() const { return words_; }
-    /// The word at a place, counted from 0. @throws WrongWords when there are fewer, naming what is missing.
+    /// The word at a place, counted from 0. A lone `--` ends the options, so that a word may begin with `--`. @throws
+    /// WrongWords when there are fewer, naming what is missing.
     [[nodiscard]] const std::string& word(std::size_t place, std::string_view what) const;
+    /// The same for a word that says nothing when it is empty. @throws WrongWords when it is.
+    [[nodiscard]] const std::string& filled_word(std::size_t place, std::string_view what) const;
     /// @throws WrongWords when there are more words than `count`.
     void expect_at_most(std::size_t count) const;
 

@@ -5,12 +5,14 @@
 #include <string_view>
 
 #include "app/outil/arguments.h"
+#include "app/outil/common_options.h"
 
 namespace sonarelle {
 
 /// What a command works with. It writes its results to `out` and reports through Failure.
 struct Call {
     const Arguments& arguments;
+    const CommonOptions& options;
     std::istream& in;
     std::ostream& out;
 };
@@ -23,9 +25,7 @@ struct Command {
     void (*run)(const Call& call);
 };
 
-/// Options that every command knows.
-inline constexpr Option drive_option{"--lecteur", true};
-inline constexpr Option folder_option{"--dossier", true};
+/// For results that a program reads, one JSON value a line.
 inline constexpr Option json_option{"--json", false};
 
 [[nodiscard]] std::span<const Command> list_commands();

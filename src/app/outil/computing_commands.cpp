@@ -2,6 +2,7 @@
 #include <ostream>
 
 #include "app/outil/commands.h"
+#include "app/outil/printable.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "playout/duration_text.h"
@@ -25,7 +26,7 @@ void for_each_duration(const Call& call) {
         try {
             lines += convert(duration_of(word)) + "\n";
         } catch (const Failure& failure) {
-            throw Failure{failure.number, word, failure.description};
+            throw Failure{failure.number, printable_word(word), failure.description};
         }
     call.out << lines;
 }

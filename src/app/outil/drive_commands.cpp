@@ -23,17 +23,17 @@ void print_drives(const Call& call, const DriveTable& drives) {
 
 void drives(const Call& call) {
     call.arguments.expect_at_most(2);
-    Machine machine{call.arguments};
+    Machine machine{call.options};
     const auto& words = call.arguments.words();
     const bool removes = call.arguments.has(remove_option.name);
     if (words.empty() && !removes)
         return print_drives(call, machine.drives());
-    const std::string& drive = call.arguments.word(0, "LETTRE");
+    const std::string& drive = call.arguments.filled_word(0, "LETTRE");
     if (removes) {
         call.arguments.expect_at_most(1);
         machine.remove_drive(drive);
     } else {
-        machine.set_drive(drive, call.arguments.word(1, "DOSSIER"));
+        machine.set_drive(drive, call.arguments.filled_word(1, "DOSSIER"));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "app/outil/commands.h"
 #include "app/outil/list_json.h"
 #include "app/outil/machine.h"
+#include "app/outil/printable.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -15,9 +16,23 @@ namespace sonarelle {
 
 namespace {
 
+constexpr const char* input_name = "entrée standard";
+
 void check_extension(const std::string& file, std::string_view extension) {
     if (extension_of(file) != extension)
         throw Failure{failure_number::wrong_file_name, file, "un fichier ." + std::string{extension} + " est attendu"};
+}
+
+/// All of it; the JSON reader takes a disk's fault for its own.
+std::string standard_input(std::istream& in) {
+    std::string text;
+    for (std::array<char, 16384> block{}; in;) {
+        in.read(block.data(), block.size());
+        text.append(block.data(), static_cast<std::size_t>(in.gcount()));
+    }
+    if (in.bad())
+        throw Failure{failure_number::device_fault, input_name, "lecture impossible"};
+    return text;
 }
 
 template <typename Record, typename Use>
@@ -45,21 +60,22 @@ void print_json(RecordReader<Record>& reader, const std::string& file, std::ostr
 
 template <typename Record>
 void print_text(RecordReader<Record>& reader, const std::string& file, std::ostream& out) {
-    out << file << " : " << reader.count() << (reader.count() > 1 ? " enregistrements" : " enregistrement");
+    out << printable(file) << " : " << reader.count() << (reader.count() > 1 ? " enregistrements" : " enregistrement");
     if (reader.rest() > 0)
-        out << ", et " << reader.rest() << " octets de reste";
+        out << ", et " << reader.rest() << (reader.rest() > 1 ? " octets de reste" : " octet de reste");
     out << '\n';
     for_each_record(reader, [&out](const Record& record, std::int64_t number) {
         const RowTable::Row row = row_of(record, DecimalMark::point);
-        out << number << "  " << row[list_column::path] << "  " << row[list_column::start] << " - "
-            << row[list_column::end] << " s  " << row[list_column::genre] << "  " << row[list_column::volume] << " %  "
-            << row[list_column::duration] << '\n';
+        const auto shown = [&row](std::size_t column) { return printable(row[column]); };
+        out << number << "  " << shown(list_column::path) << "  " << shown(list_column::start) << " - "
+            << shown(list_column::end) << " s  " << shown(list_column::genre) << "  " << shown(list_column::volume)
+            << " %  " << shown(list_column::duration) << '\n';
     });
 }
 
 template <typename Record>
 void print_list(const Call& call, Machine& machine, const std::string& file) {
-    RecordReader<Record> reader{machine.disk().open(machine.station_path(file))};
+    RecordReader<Record> reader{machine.open(file)};
     if (call.arguments.has(json_option.name))
         print_json(reader, file, call.out);
     else
@@ -67,49 +83,52 @@ void print_list(const Call& call, Machine& machine, const std::string& file) {
 }
 
 void view(const Call& call) {
-    const std::string& file = call.arguments.word(0, "FICHIER");
+    const std::string& file = call.arguments.filled_word(0, "FICHIER");
     call.arguments.expect_at_most(1);
-    Machine machine{call.arguments};
-    if (extension_of(file) == "rfm")
-        return print_list<enreg_rfm>(call, machine, file);
-    check_extension(file, "dfm");
-    print_list<enreg_liste>(call, machine, file);
+    Machine machine{call.options};
+    const std::string extension = extension_of(file);
+    if (extension == "rfm")
+        print_list<enreg_rfm>(call, machine, file);
+    else if (extension == "dfm")
+        print_list<enreg_liste>(call, machine, file);
+    else
+        throw Failure{failure_number::wrong_file_name, file, "un fichier .dfm ou .rfm est attendu"};
 }
 
 void write(const Call& call) {
-    const std::string& file = call.arguments.word(0, "FICHIER.dfm");
+    const std::string& file = call.arguments.filled_word(0, "FICHIER.dfm");
     call.arguments.expect_at_most(1);
     check_extension(file, "dfm");
-    Machine machine{call.arguments};
-    const Json list = Json::parse(call.in, nullptr, false);
+    Machine machine{call.options};
+    const Json list = Json::parse(standard_input(call.in), nullptr, false);
     if (list.is_discarded())
-        throw Failure{failure_number::wrong_call, "entrée standard", "ce n'est pas du JSON"};
+        throw Failure{failure_number::wrong_call, input_name, "ce n'est pas du JSON"};
     const auto records = records_of(list);
-    ListWriter writer{machine.disk(), machine.station_path(file)};
+    const auto written = machine.replace(file);
     for (const enreg_liste& record : records)
-        writer.write(record);
-    writer.commit();
+        written->write(record.bytes());
+    written->commit();
 }
 
 /// As the list window reads an old list and its save dialog writes the rows.
 void convert(const Call& call) {
-    const std::string& old_file = call.arguments.word(0, "VIEUX.rfm");
-    const std::string& new_file = call.arguments.word(1, "NEUF.dfm");
+    const std::string& old_file = call.arguments.filled_word(0, "VIEUX.rfm");
+    const std::string& new_file = call.arguments.filled_word(1, "NEUF.dfm");
     call.arguments.expect_at_most(2);
     check_extension(old_file, "rfm");
     check_extension(new_file, "dfm");
-    Machine machine{call.arguments};
-    LegacyListReader reader{machine.disk().open(machine.station_path(old_file))};
-    ListWriter writer{machine.disk(), machine.station_path(new_file)};
-    for_each_record(reader, [&writer](const enreg_rfm& old_record, std::int64_t) {
+    Machine machine{call.options};
+    LegacyListReader reader{machine.open(old_file)};
+    const auto written = machine.replace(new_file);
+    for_each_record(reader, [&written](const enreg_rfm& old_record, std::int64_t) {
         RowTable::Row row = row_of(old_record, DecimalMark::point);
         if (row[list_column::duration].empty())
             row[list_column::duration] = unknown_duration;
         enreg_liste record;
         fill_record(record, row, DecimalMark::point, [](auto&& statement) { statement(); });
-        writer.write(record);
+        written->write(record.bytes());
     });
-    writer.commit();
+    written->commit();
 }
 
 constexpr std::array json_options{json_option};

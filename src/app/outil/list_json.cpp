@@ -81,7 +81,7 @@ private:
             refuse_field(key, "n'est pas un texte");
         const auto& result = value.get_ref<const std::string&>();
         if (const auto foreign = first_foreign_character(result))
-            refuse_field(key, "contient « " + *foreign + " », qui n'existe pas en Windows-1252");
+            refuse_field(key, "est refusé : " + sentence_of_foreign(*foreign));
         return result;
     }
 
@@ -102,8 +102,11 @@ private:
 
     [[nodiscard]] std::int16_t volume() const {
         const Json& value = field(volume_key);
-        const bool whole = value.is_number_integer() && value >= INT16_MIN && value <= INT16_MAX;
-        if (!whole)
+        // The parser keeps what is not negative as an unsigned number, which a comparison with a signed one would wrap.
+        if (value.is_number_unsigned() && value.get<std::uint64_t>() <= INT16_MAX)
+            return value.get<std::int16_t>();
+        const bool is_negative = value.is_number_integer() && !value.is_number_unsigned();
+        if (!is_negative || value.get<std::int64_t>() < INT16_MIN)
             refuse_field(volume_key, "n'est pas un nombre entier de -32768 à 32767");
         return value.get<std::int16_t>();
     }

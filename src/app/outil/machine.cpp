@@ -1,39 +1,37 @@
 #include "app/outil/machine.h"
 
-#include <optional>
+#include <utility>
 
-#include "app/outil/commands.h"
-#include "platform/failure.h"
 #include "platform/host/host_drive_table.h"
+#include "platform/host/machine_files.h"
 #include "platform/host/machine_paths.h"
 
 namespace sonarelle {
 
-namespace {
+Machine::Machine(CommonOptions options)
+    : options_{std::move(options)}, folders_{host_folders(options_.folder)}, settings_{folders_.settings} {}
 
-HostFolders folders_of(const Arguments& arguments) {
-    const std::string folder = arguments.value(folder_option.name, "");
-    return host_folders(folder.empty() ? std::nullopt : std::optional{folder});
-}
-
-void add_drives(DriveTable& drives, const Arguments& arguments) {
-    for (const std::string& drive : arguments.values(drive_option.name)) {
-        const auto equals = drive.find('=');
-        if (equals == std::string::npos || equals + 1 == drive.size())
-            throw WrongWords{"--lecteur attend LETTRE=DOSSIER : " + drive};
-        drives.set(drive.substr(0, equals), absolute_machine_path(drive.substr(equals + 1)));
+const DriveTable& Machine::drives() {
+    if (!drives_) {
+        drives_ = load_drive_table(folders_.drive_table);
+        for (const CommonOptions::Drive& drive : options_.drives)
+            drives_->set(drive.name, absolute_machine_path(drive.folder));
     }
+    return *drives_;
 }
 
-} // namespace
-
-Machine::Machine(const Arguments& arguments)
-    : folders_{folders_of(arguments)}, drives_{load_drive_table(folders_.drive_table)}, settings_{folders_.settings} {
-    add_drives(drives_, arguments);
+std::unique_ptr<RecordFile> Machine::open(const std::string& file) {
+    static_cast<void>(station_path_of(drives(), file));
+    return open_machine_file(file, file);
 }
 
-std::string Machine::station_path(const std::string& file) const {
-    return station_path_of(drives_, file);
+std::unique_ptr<FileReplacement> Machine::replace(const std::string& file) {
+    static_cast<void>(station_path_of(drives(), file));
+    return replace_machine_file(file, file);
+}
+
+std::string Machine::program_folder() {
+    return station_path_of(drives(), folders_.program);
 }
 
 void Machine::set_drive(const std::string& drive, const std::string& folder) {

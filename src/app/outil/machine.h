@@ -1,39 +1,42 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <string>
 
-#include "app/outil/arguments.h"
+#include "app/outil/common_options.h"
+#include "platform/disk.h"
 #include "platform/drive_table.h"
-#include "platform/host/host_disk.h"
 #include "platform/host/host_folders.h"
 #include "platform/host/host_settings.h"
 
 namespace sonarelle {
 
-/// This machine as a call of the command line sees it: the user's drive table with the drives of the call added, the
-/// disk and the settings.
+/// This machine as a call of the command line sees it: its files, the settings, and the user's drive table with the
+/// drives of the call added. The table is read when a path first needs it, so that a damaged one can be mended.
 class Machine {
 public:
-    /// @throws WrongWords for a drive that isn't given as LETTRE=DOSSIER.
-    explicit Machine(const Arguments& arguments);
+    explicit Machine(CommonOptions options);
 
-    [[nodiscard]] HostDisk& disk() { return disk_; }
     [[nodiscard]] HostSettings& settings() { return settings_; }
-    [[nodiscard]] const DriveTable& drives() const { return drives_; }
+    [[nodiscard]] const DriveTable& drives();
 
-    /// The station's form of a path as typed. @throws Failure for one that no drive reaches.
-    [[nodiscard]] std::string station_path(const std::string& file) const;
-    /// The program's folder, in the station's form.
-    [[nodiscard]] std::string program_folder() const { return station_path(folders_.program); }
+    /// A file named on the command line: exactly this name, as the shell and its completion spell it, in the reach of a
+    /// drive. Failures name it as typed.
+    [[nodiscard]] std::unique_ptr<RecordFile> open(const std::string& file);
+    [[nodiscard]] std::unique_ptr<FileReplacement> replace(const std::string& file);
+
+    /// The program's folder, in the station's form. @throws Failure when no drive reaches it.
+    [[nodiscard]] std::string program_folder();
 
     /// Changes the user's drive table for good.
     void set_drive(const std::string& drive, const std::string& folder);
     void remove_drive(const std::string& drive);
 
 private:
-    HostFolders folders_;
-    DriveTable drives_;
-    HostDisk disk_{drives_};
+    const CommonOptions options_;
+    const HostFolders folders_;
+    std::optional<DriveTable> drives_;
     HostSettings settings_;
 };
 

@@ -1,11 +1,18 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <csignal>
 #include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "app/outil/commands.h"
+#include "app/outil/printable.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -15,6 +22,8 @@ namespace {
 constexpr int done = 0;
 constexpr int refused = 1;
 constexpr int wrong_words = 2;
+
+constexpr const char* output_name = "sortie standard";
 
 std::vector<Command> all_commands() {
     std::vector<Command> commands;
@@ -62,10 +71,25 @@ int run(std::span<char* const> line) {
     std::vector<Option> options{drive_option, folder_option};
     options.insert(options.end(), command->options.begin(), command->options.end());
     const Arguments arguments{line.subspan(length), options};
-    command->run({arguments, std::cin, std::cout});
+    const CommonOptions common = common_options(arguments);
+    command->run({arguments, common, std::cin, std::cout});
     if (!std::cout.flush())
-        throw Failure{failure_number::disk_full, "sortie standard"};
+        throw errno == ENOSPC ? Failure{failure_number::disk_full, output_name}
+                              : Failure{failure_number::device_fault, output_name, "écriture impossible"};
     return done;
+}
+
+/// Where a caller closed one of the three, the next file opened would get its number, and be read or written for it.
+/// What is held in its place fails at every use.
+void hold_standard_files() {
+    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(number, F_GETFD) == -1)
+            static_cast<void>(::open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+}
+
+int refuse(std::string_view sentence) {
+    std::cerr << "sonarelle-outil : " << printable(sentence) << '\n';
+    return refused;
 }
 
 } // namespace
@@ -74,14 +98,19 @@ int run(std::span<char* const> line) {
 
 int main(int count, char** words) {
     std::ios::sync_with_stdio(false);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is then a failure like a full disk
+    sonarelle::hold_standard_files();
     try {
         return sonarelle::run({words + 1, static_cast<std::size_t>(count - 1)});
     } catch (const sonarelle::WrongWords& wrong) {
-        std::cerr << "sonarelle-outil : " << wrong.what() << '\n';
+        sonarelle::refuse(wrong.what());
         sonarelle::print_usage(std::cerr);
         return sonarelle::wrong_words;
-    } catch (const std::exception& failure) {
-        std::cerr << "sonarelle-outil : " << failure.what() << '\n';
-        return sonarelle::refused;
+    } catch (const sonarelle::Failure& failure) {
+        return sonarelle::refuse(failure.what());
+    } catch (const std::bad_alloc&) {
+        return sonarelle::refuse("mémoire insuffisante");
+    } catch (const std::exception& fault) {
+        return sonarelle::refuse("panne du programme (" + std::string{fault.what()} + ")");
     }
 }

@@ -24,7 +24,7 @@ void print_setting(const Call& call, const Setting& setting) {
 
 void list(const Call& call) {
     call.arguments.expect_at_most(0);
-    Machine machine{call.arguments};
+    Machine machine{call.options};
     for (const Setting& setting : machine.settings().all(settings_application))
         print_setting(call, setting);
 }
@@ -33,7 +33,7 @@ void read(const Call& call) {
     const std::string& section = call.arguments.word(0, "SECTION");
     const std::string& key = call.arguments.word(1, "CLE");
     call.arguments.expect_at_most(2);
-    Machine machine{call.arguments};
+    Machine machine{call.options};
     for (const Setting& setting : machine.settings().all(settings_application))
         if (equal_ignoring_case(setting.section, section) && equal_ignoring_case(setting.key, key)) {
             call.out << setting.value << '\n';
@@ -47,13 +47,13 @@ void write(const Call& call) {
     const std::string& key = call.arguments.word(1, "CLE");
     const std::string& value = call.arguments.word(2, "VALEUR");
     call.arguments.expect_at_most(3);
-    Machine machine{call.arguments};
+    Machine machine{call.options};
     machine.settings().SaveSetting(settings_application, section, key, value);
 }
 
 void write_first_values(const Call& call) {
     call.arguments.expect_at_most(0);
-    Machine machine{call.arguments};
+    Machine machine{call.options};
     SettingsStore{machine.settings(), machine.program_folder(), DecimalMark::point}.write_column(&SettingRow::first);
 }
 

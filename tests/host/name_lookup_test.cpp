@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
 
 #include "platform/host/name_lookup.h"
 #include "support/private_folder.h"
@@ -60,6 +64,27 @@ TEST(NameLookup, LeavesOutWhatNoPathOfTheStationCanNameInAFolderThatItKnows) {
     bench.folder.put("\xE9.mp3");
 
     EXPECT_EQ(bench.find("\xC9.mp3").outcome, Outcome::missing);
+}
+
+TEST(NameLookup, ServesSeveralThreadsAtOnce) {
+    LookupBench bench;
+    for (int i = 0; i < 50; ++i)
+        bench.folder.put(std::to_string(i) + "/titre.mp3");
+    std::atomic<int> found = 0;
+    const auto look = [&] {
+        for (int i = 0; i < 200; ++i) {
+            const std::string folder = bench.folder.path(std::to_string(i % 50));
+            if (bench.lookup.find(folder, {"TITRE.MP3"}, "").path == folder + "/titre.mp3")
+                ++found;
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back(look);
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(found, 800);
 }
 
 } // namespace sonarelle::test

@@ -39,11 +39,11 @@ int ProgressBar::percent() const {
 }
 
 void ComboBox::choose(int index) {
-    if (index < 0 || index >= static_cast<int>(items.get().size()))
+    if (!is_reachable() || index < 0 || index >= static_cast<int>(items.get().size()))
         return;
     selected = index;
     text_ = items.get()[static_cast<std::size_t>(index)];
-    raise_by_hand(on_click);
+    raise(on_click);
 }
 
 } // namespace sonarelle

@@ -204,8 +204,10 @@ public:
     ListBox(Window& parent, std::string name) : Control{parent, ControlKind::list_box, std::move(name)} {}
 
     void choose(int index) {
+        if (!is_reachable())
+            return;
         selected = index;
-        raise_by_hand(on_click);
+        raise(on_click);
     }
 
     Property<std::vector<std::string>> items{*this, {}};

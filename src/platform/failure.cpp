@@ -20,7 +20,6 @@ constexpr std::array sentences{
     Sentence{failure_number::type_mismatch, "Type incompatible"},
     Sentence{failure_number::wrong_file_name, "Nom de fichier incorrect"},
     Sentence{failure_number::file_not_found, "Fichier introuvable"},
-    Sentence{failure_number::file_in_use, "Fichier déjà ouvert"},
     Sentence{failure_number::device_fault, "Erreur d'entrée/sortie du périphérique"},
     Sentence{failure_number::file_exists, "Le fichier existe déjà"},
     Sentence{failure_number::disk_full, "Disque plein"},

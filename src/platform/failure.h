@@ -16,7 +16,6 @@ inline constexpr int division_by_zero = 11;
 inline constexpr int type_mismatch = 13;
 inline constexpr int wrong_file_name = 52;
 inline constexpr int file_not_found = 53;
-inline constexpr int file_in_use = 55;
 inline constexpr int device_fault = 57;
 inline constexpr int file_exists = 58;
 inline constexpr int disk_full = 61;

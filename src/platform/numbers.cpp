@@ -27,12 +27,28 @@ bool is_digit(char c) {
     return c >= '0' && c <= '9';
 }
 
+/// The power of ten that `digits` (with a point, or none) begin with: 2 for 123.4, -2 for 0.01.
+std::int64_t first_power(std::string_view digits) {
+    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+    const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
+    return first < point ? point - first - 1 : point - first;
+}
+
+/// An exponent of any length, with its sign; one that is longer than any text is cut short.
+std::int64_t exponent_of(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    text.remove_prefix(negative || text.starts_with('+') ? 1 : 0);
+    std::int64_t exponent = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec != std::errc{})
+        exponent = std::numeric_limits<std::int64_t>::max() / 2;
+    return negative ? -exponent : exponent;
+}
+
 /// What stands for a value too small or too great for a double: 0 for the first, Failure 6 for the second.
 double out_of_range(std::string_view number) {
-    const auto exponent = number.find_first_of("eE");
-    const bool small = exponent != std::string_view::npos ? number.substr(exponent + 1, 1) == "-"
-                                                          : number.find_first_of("123456789") > number.find('.');
-    if (!small)
+    const auto mark = std::min(number.find_first_of("eE"), number.size());
+    const std::int64_t exponent = mark < number.size() ? exponent_of(number.substr(mark + 1)) : 0;
+    if (first_power(number.substr(0, mark)) + exponent >= 0)
         throw Failure{failure_number::overflow, std::string{number}};
     return 0.0;
 }

@@ -300,6 +300,23 @@ TEST_F(Choices, AnEntryThatIsNotThereIsNotChosen) {
     EXPECT_EQ(box.selected.get(), -1);
 }
 
+TEST_F(Choices, OutOfReachTheyKeepTheirEntry) {
+    ComboBox box{window, "Combo1"};
+    ListBox list{window, "List1"};
+    for (auto* items : {&box.items, &list.items})
+        *items = std::vector<std::string>{"Rock", "Jazz"};
+    box.on_click = count;
+    list.on_click = count;
+    box.enabled = false;
+    list.visible = false;
+    box.choose(1);
+    list.choose(1);
+    EXPECT_EQ(events, 0);
+    EXPECT_EQ(box.text(), "");
+    EXPECT_EQ(box.selected.get(), -1);
+    EXPECT_EQ(list.selected.get(), -1);
+}
+
 TEST_F(Windows, KnowTheirPartsInTheOrderOfMaking) {
     const Label label{window, "Label5"};
     const Button button{window, "Command3"};

@@ -118,6 +118,17 @@ TEST(Numbers, ANumberTooSmallForADoubleIsNothing) {
     EXPECT_EQ(to_double("0." + std::string(400, '0') + "1", point), 0);
 }
 
+TEST(Numbers, AnExponentCountsWithTheDigitsBeforeIt) {
+    const std::string nines(800, '9');
+    const std::string zeros(800, '0');
+    EXPECT_EQ(number_of_failure([&] { (void)to_double(nines + "e-400", point); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("1e99999999999999999999", point); }), failure_number::overflow);
+    EXPECT_EQ(to_double("0." + zeros + "1e+400", point), 0);
+    EXPECT_EQ(to_double("." + zeros + "1e400", point), 0);
+    EXPECT_EQ(to_double("1e-99999999999999999999", point), 0);
+    EXPECT_DOUBLE_EQ(to_double("1" + zeros + "e-800", point), 1);
+}
+
 TEST(Numbers, WholeNumbersRoundHalvesToEven) {
     const struct {
         double value;

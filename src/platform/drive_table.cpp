@@ -4,42 +4,16 @@
 
 #include "platform/failure.h"
 #include "platform/text.h"
+#include "platform/working_folders.h"
 
 namespace sonarelle {
 
 namespace {
 
-bool is_letter(std::string_view drive) {
-    return drive.size() == 1 && ((drive[0] >= 'A' && drive[0] <= 'Z') || (drive[0] >= 'a' && drive[0] <= 'z'));
-}
-
-/// A share is `\\server\share`, two names and no more.
-bool is_share(std::string_view drive) {
-    if (!drive.starts_with("\\\\"))
-        return false;
-    const auto middle = drive.find('\\', 2);
-    return middle != std::string_view::npos && middle > 2 && middle + 1 < drive.size() &&
-           drive.find('\\', middle + 1) == std::string_view::npos;
-}
-
+/// A capital letter, or a share in lower case.
 std::string key_of(std::string_view drive) {
-    if (drive.size() == 2 && drive[1] == ':')
-        drive.remove_suffix(1);
-    if (is_letter(drive))
-        return upper_case(drive);
-    if (is_share(drive))
-        return lower_case(drive);
-    throw Failure{failure_number::device_unavailable, std::string{drive}};
-}
-
-/// The part of an absolute path that names its drive.
-std::string_view drive_part(std::string_view path) {
-    if (path.size() >= 2 && path[1] == ':')
-        return path.substr(0, 2);
-    const auto share = path.starts_with("\\\\") ? path.find('\\', 2) : std::string_view::npos;
-    if (share == std::string_view::npos)
-        throw Failure{failure_number::device_unavailable, std::string{path}};
-    return path.substr(0, path.find('\\', share + 1));
+    const std::string name = drive_named(drive);
+    return name.ends_with(':') ? name.substr(0, 1) : lower_case(name);
 }
 
 std::string without_final_slash(std::string_view folder) {
@@ -65,13 +39,12 @@ bool DriveTable::remove(std::string_view drive) {
 }
 
 std::string DriveTable::machine_path(std::string_view path) const {
-    const std::string_view drive = drive_part(path);
+    const std::string drive = parts_of(path).drive;
     const auto found = folders_.find(key_of(drive));
     if (found == folders_.end())
         throw Failure{failure_number::device_unavailable, std::string{path}};
     const std::string rest = exchanged(path.substr(drive.size()), '\\', '/');
-    const std::string joined = found->second + (rest.starts_with('/') ? rest : "/" + rest);
-    return joined;
+    return found->second + (rest.starts_with('/') ? rest : "/" + rest);
 }
 
 std::optional<std::string> DriveTable::station_path(std::string_view machine_path) const {

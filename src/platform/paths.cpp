@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "platform/failure.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -56,7 +57,14 @@ bool is_network_path(std::string_view path) {
 }
 
 bool has_forbidden_character(std::string_view name) {
-    return name.find_first_of("*?<>|\"") != std::string_view::npos;
+    return name.find_first_of(forbidden_in_names) != std::string_view::npos;
+}
+
+void check_path(std::string_view path) {
+    if (has_forbidden_character(path) || path.find('\0') != std::string_view::npos)
+        throw Failure{failure_number::wrong_file_name, std::string{path}};
+    if (const auto foreign = first_foreign_character(path))
+        throw Failure{failure_number::wrong_file_name, std::string{path}, sentence_of_foreign(*foreign)};
 }
 
 bool matches_pattern(std::string_view name, std::string_view pattern) {

@@ -19,8 +19,14 @@ namespace sonarelle {
 [[nodiscard]] std::string extension_of(std::string_view path);
 /// True for `\\…` and any path that begins with a backslash.
 [[nodiscard]] bool is_network_path(std::string_view path);
-/// True for a name that no file can have, because of * ? < > | or a double quote in it.
+/// What stands in no name, and of that what stands in no pattern either.
+inline constexpr std::string_view forbidden_in_names{"*?<>|\""};
+inline constexpr std::string_view forbidden_in_patterns = forbidden_in_names.substr(2);
+/// True for a name that no file can have, because of a forbidden character in it.
 [[nodiscard]] bool has_forbidden_character(std::string_view name);
+/// Refuses what no file can be called, so that a wrong name never reads as a missing file.
+/// @throws Failure 52 for a forbidden character, a null byte, or a character that Windows-1252 lacks.
+void check_path(std::string_view path);
 /// Whether a file name fits a pattern of * and ?, ignoring case. `.*` at the end fits a name without a point too.
 [[nodiscard]] bool matches_pattern(std::string_view name, std::string_view pattern);
 

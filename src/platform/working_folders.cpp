@@ -4,6 +4,7 @@
 
 #include "platform/failure.h"
 #include "platform/paths.h"
+#include "platform/text.h"
 
 namespace sonarelle {
 
@@ -56,6 +57,21 @@ PathParts parts_of(std::string_view path) {
     return {std::string{path.substr(0, share)}, names_in(path.substr(share))};
 }
 
+std::string drive_named(std::string_view name) {
+    if (name.size() == 1)
+        return {drive_letter_of(name), ':'};
+    std::string drive = parts_of(name).drive;
+    if (drive.size() != name.size())
+        no_drive(name);
+    return drive;
+}
+
+char drive_letter_of(std::string_view path) {
+    if (path.empty() || !is_letter(path.front()))
+        no_drive(path);
+    return capital(path.front());
+}
+
 void WorkingFolders::set_drive(char letter) {
     drive_ = capital(letter);
     share_folder_.clear();
@@ -80,6 +96,16 @@ std::string WorkingFolders::absolute(std::string_view path) const {
     for (const std::string& name : parts.names)
         result.append(1, '\\').append(name);
     return parts.names.empty() && parts.drive.size() == 2 ? result + '\\' : result;
+}
+
+PathPattern WorkingFolders::pattern_of(std::string_view path) const {
+    const auto last = path.find_last_of("\\/");
+    const std::size_t begin = last != std::string_view::npos ? last + 1 : has_letter(path) ? 2 : 0;
+    PathPattern pattern{absolute(path.substr(0, begin)), std::string{path.substr(begin)}};
+    const bool is_wrong = pattern.name.find_first_of(forbidden_in_patterns) != std::string::npos;
+    if (is_wrong || first_foreign_character(pattern.name))
+        throw Failure{failure_number::wrong_file_name, std::string{path}};
+    return pattern;
 }
 
 std::string WorkingFolders::folder_of_drive(char letter) const {

@@ -16,6 +16,21 @@ struct PathParts {
 /// @throws Failure 68 for a path that begins with neither a drive nor a share.
 [[nodiscard]] PathParts parts_of(std::string_view absolute_path);
 
+/// The drive that a name means, as `parts_of` spells it: of `d` or `d:`, or of a share alone.
+/// @throws Failure 68 for any other name.
+[[nodiscard]] std::string drive_named(std::string_view name);
+
+/// The letter that a path begins with, as a capital. @throws Failure 68 without one.
+[[nodiscard]] char drive_letter_of(std::string_view path);
+
+/// A folder, and what names in it are meant: * and ? stand in the last part of a path alone.
+struct PathPattern {
+    std::string folder; ///< Absolute.
+    std::string name;
+
+    [[nodiscard]] bool is_one_name() const { return name.find_first_of("*?") == std::string::npos; }
+};
+
 /// Where relative names resolve: a current drive, and on each drive a current folder, its root at first. With a share's
 /// folder as the current one names resolve there, until a drive or its folder is made current again. A matter of names
 /// alone, no disk is asked. Both slashes part names.
@@ -33,6 +48,9 @@ public:
     /// backslash.
     /// @throws Failure 68 for a share without its second name.
     [[nodiscard]] std::string absolute(std::string_view path) const;
+
+    /// @throws Failure 52 for a name that stands in no pattern, 68 as `absolute`.
+    [[nodiscard]] PathPattern pattern_of(std::string_view path) const;
 
 private:
     [[nodiscard]] std::string folder_of_drive(char letter) const;

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "platform/failure.h"
+#include "platform/host/file_times.h"
 #include "platform/host/host_errors.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -14,14 +15,6 @@
 namespace sonarelle {
 
 namespace {
-
-/// Refuses what no file can be called, so that a wrong name never reads as a missing file.
-void check_name(const std::string& path) {
-    if (has_forbidden_character(path) || path.find('\0') != std::string::npos)
-        throw Failure{failure_number::wrong_file_name, path};
-    if (const auto foreign = first_foreign_character(path))
-        throw Failure{failure_number::wrong_file_name, path, sentence_of_foreign(*foreign)};
-}
 
 /// Renames without ever taking the place of another file, on the disks that can promise it.
 int rename_to_new(const std::string& from, const std::string& to) {
@@ -41,7 +34,7 @@ std::string folder_part(const std::string& machine_path) {
 } // namespace
 
 NameLookup::Place HostDisk::look_up(const std::string& absolute_path) const {
-    check_name(absolute_path);
+    check_path(absolute_path);
     const PathParts parts = parts_of(absolute_path);
     std::string root = drives_.machine_path(absolute_path);
     root.resize(root.size() - (absolute_path.size() - parts.drive.size()));
@@ -70,13 +63,9 @@ std::string HostDisk::machine_path(std::string_view path) const {
 void HostDisk::ChDrive(std::string_view path) {
     if (path.empty())
         return;
-    const char letter = path.front();
-    const std::string root = std::string{letter} + ":\\";
-    const bool is_letter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
-    if (!is_letter)
-        throw Failure{failure_number::device_unavailable, std::string{path}};
+    const char letter = drive_letter_of(path);
     try {
-        static_cast<void>(place_of(root));
+        static_cast<void>(place_of(std::string{letter} + ":\\"));
     } catch (const Failure& failure) {
         throw Failure{failure.number, std::string{path}};
     }
@@ -97,8 +86,7 @@ FileFacts HostDisk::facts(std::string_view path) {
     if (::stat(place.path.c_str(), &facts) != 0)
         throw_errno(Access::reading, place.source);
     const bool is_folder = S_ISDIR(facts.st_mode);
-    return {is_folder ? 0 : facts.st_size, std::int64_t{facts.st_mtim.tv_sec} * 1'000'000'000 + facts.st_mtim.tv_nsec,
-            is_folder};
+    return {is_folder ? 0 : facts.st_size, nanoseconds(facts.st_mtim), is_folder};
 }
 
 /// A write-protected file stays, though its folder would let it go; a link goes by itself.

@@ -54,15 +54,13 @@ private:
         std::string path;   ///< As this machine knows it, in the disk's spelling.
         bool exists = false;
     };
-    struct Pattern;
 
     /// For a name that may be new, in a folder that must be there.
     [[nodiscard]] Place place_of(std::string_view path) const;
     [[nodiscard]] Place existing(std::string_view path, int number_when_missing) const;
     [[nodiscard]] NameLookup::Place look_up(const std::string& absolute_path) const;
 
-    [[nodiscard]] Pattern pattern_of(std::string_view path) const;
-    [[nodiscard]] std::vector<std::string> matches(const Pattern& pattern, FileAttributes attributes) const;
+    [[nodiscard]] std::vector<std::string> matches(const PathPattern& pattern, FileAttributes attributes) const;
     static void remove_file(const Place& place);
 
     const DriveTable& drives_;

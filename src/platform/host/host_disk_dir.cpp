@@ -49,28 +49,11 @@ void sort_backwards(std::vector<std::string>& names) {
 
 } // namespace
 
-/// A folder, and what names in it are meant.
-struct HostDisk::Pattern {
-    std::string folder; // absolute
-    std::string name;
-
-    [[nodiscard]] bool is_one_name() const { return name.find_first_of("*?") == std::string::npos; }
-};
-
-HostDisk::Pattern HostDisk::pattern_of(std::string_view path) const {
-    const auto last = path.find_last_of("\\/");
-    const std::size_t begin = last != std::string_view::npos ? last + 1 : path.substr(0, 2).ends_with(':') ? 2 : 0;
-    Pattern pattern{absolute(path.substr(0, begin)), std::string{path.substr(begin)}};
-    if (pattern.name.find_first_of("<>|\"") != std::string::npos)
-        throw Failure{failure_number::wrong_file_name, std::string{path}};
-    return pattern;
-}
-
 std::string HostDisk::Dir(std::string_view pattern, FileAttributes attributes) {
     listing_.clear();
     if (pattern.empty())
         return {};
-    Pattern wanted = pattern_of(pattern);
+    PathPattern wanted = working_.pattern_of(pattern);
     if (wanted.name.empty())
         wanted.name = "*";
     listing_ = matches(wanted, attributes);
@@ -85,7 +68,7 @@ std::string HostDisk::Dir() {
     return name;
 }
 
-std::vector<std::string> HostDisk::matches(const Pattern& pattern, FileAttributes attributes) const {
+std::vector<std::string> HostDisk::matches(const PathPattern& pattern, FileAttributes attributes) const {
     const bool leads_elsewhere = pattern.name == "." || pattern.name == "..";
     if (pattern.is_one_name() && !leads_elsewhere) {
         const NameLookup::Place place = look_up(join_path(pattern.folder, pattern.name));
@@ -111,7 +94,7 @@ std::vector<std::string> HostDisk::matches(const Pattern& pattern, FileAttribute
 }
 
 void HostDisk::Kill(std::string_view path) {
-    const Pattern pattern = pattern_of(path);
+    const PathPattern pattern = working_.pattern_of(path);
     if (pattern.is_one_name()) {
         remove_file(existing(path, failure_number::file_not_found));
         return;

@@ -2,29 +2,11 @@
 
 #include <sys/stat.h>
 
-#include <ctime>
-
 #include "platform/failure.h"
+#include "platform/host/file_times.h"
 #include "platform/host/shared_file.h"
 
 namespace sonarelle {
-
-namespace {
-
-// File times go in steps of a few ms, so a file that was read this soon after its writing may change without a trace.
-constexpr std::int64_t settled_after = 50'000'000; // ns
-
-std::int64_t nanoseconds(const struct timespec& time) {
-    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
-}
-
-std::int64_t now() {
-    struct timespec time {};
-    ::clock_gettime(CLOCK_REALTIME, &time);
-    return nanoseconds(time);
-}
-
-} // namespace
 
 HostSettings::HostSettings(std::string file) : file_{std::move(file)} {}
 
@@ -89,10 +71,10 @@ const SettingsText& HostSettings::current() {
     if (is_known_ && found == known_stamp_)
         return known_;
     is_known_ = false;
-    const std::int64_t read_at = now();
+    const std::int64_t read_at = nanoseconds_now();
     known_ = read();
     known_stamp_ = found;
-    is_known_ = read_at - found.modified > settled_after;
+    is_known_ = std::chrono::nanoseconds{read_at - found.modified} > file_time_settles;
     return known_;
 }
 

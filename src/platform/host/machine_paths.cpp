@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "platform/failure.h"
+#include "platform/paths.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -31,7 +32,7 @@ std::filesystem::path shell_folder() {
 void check_characters(std::string_view path) {
     if (const auto foreign = first_foreign_character(path))
         refuse(path, failure_number::wrong_file_name, sentence_of_foreign(*foreign));
-    const auto forbidden = path.find_first_of("*?<>|\"");
+    const auto forbidden = path.find_first_of(forbidden_in_names);
     if (forbidden != std::string_view::npos)
         refuse(path, failure_number::wrong_file_name,
                "Le caractère « " + std::string{path[forbidden]} + " » ne va pas dans un nom de fichier");

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
-#include <ctime>
 #include <memory>
 
 #include "platform/failure.h"
@@ -23,15 +22,9 @@ struct DirectoryClose {
     void operator()(DIR* directory) const { ::closedir(directory); }
 };
 
-std::int64_t nanoseconds(const struct timespec& time) {
-    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
-}
-
 std::chrono::nanoseconds age_of(const struct stat& folder) {
-    struct timespec now {};
-    ::clock_gettime(CLOCK_REALTIME, &now);
     const std::int64_t last_change = std::max(nanoseconds(folder.st_mtim), nanoseconds(folder.st_ctim));
-    return std::chrono::nanoseconds{nanoseconds(now) - last_change};
+    return std::chrono::nanoseconds{nanoseconds_now() - last_change};
 }
 
 bool is_unchanged(const struct stat& a, const struct stat& b) {

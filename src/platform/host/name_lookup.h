@@ -13,6 +13,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/host/file_times.h"
+
 namespace sonarelle {
 
 /// True for a file's name on this machine that a path of the station can hold.
@@ -27,10 +29,8 @@ bool for_each_name(const std::string& folder, const std::function<bool(std::stri
 /// From any thread; nobody waits for another one's slow disk.
 class NameLookup {
 public:
-    /// What is learnt of a folder is kept when its last change is older than this: file times go in steps of a few ms,
-    /// and a folder that changed only just now may change again within the same step.
-    explicit NameLookup(std::chrono::nanoseconds settled_after = std::chrono::milliseconds{50})
-        : settled_after_{settled_after} {}
+    /// What is learnt of a folder is kept when its last change is older than this.
+    explicit NameLookup(std::chrono::nanoseconds settled_after = file_time_settles) : settled_after_{settled_after} {}
 
     enum class Outcome { present, missing, folder_missing };
 

@@ -18,11 +18,6 @@ namespace {
     throw Failure{number, std::string{path}};
 }
 
-void check_name(std::string_view absolute_path) {
-    if (has_forbidden_character(absolute_path) || first_foreign_character(absolute_path))
-        fail(failure_number::wrong_file_name, absolute_path);
-}
-
 /// For what changes the list of names in the entry's folder.
 void check_folder(const DiskPlace& place) {
     if (place.folder == nullptr || place.folder->read_only)
@@ -48,14 +43,6 @@ bool is_asked_for(const DiskEntry& entry, FileAttributes attributes) {
 
 } // namespace
 
-/// A folder, and what names in it are meant.
-struct SimulatedDisk::Pattern {
-    std::string folder;
-    std::string name;
-
-    [[nodiscard]] bool is_one_name() const { return name.find_first_of("*?") == std::string::npos; }
-};
-
 SimulatedDisk::SimulatedDisk(Clock& clock) : clock_{clock} {
     tree_.add_drive("C");
 }
@@ -63,9 +50,8 @@ SimulatedDisk::SimulatedDisk(Clock& clock) : clock_{clock} {
 void SimulatedDisk::ChDrive(std::string_view path) {
     if (path.empty())
         return;
-    const char letter = path.front();
-    const bool is_letter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
-    if (!is_letter || !tree_.has_drive({&letter, 1}))
+    const char letter = drive_letter_of(path);
+    if (!tree_.has_drive({&letter, 1}))
         fail(failure_number::device_unavailable, path);
     faults_.meet(std::string{letter} + ":\\", clock_);
     working_.set_drive(letter);
@@ -73,7 +59,7 @@ void SimulatedDisk::ChDrive(std::string_view path) {
 
 void SimulatedDisk::ChDir(std::string_view folder) {
     const std::string target = absolute(folder);
-    check_name(target);
+    check_path(target);
     faults_.meet(target, clock_);
     const DiskEntry* entry = tree_.locate(target).entry;
     if (entry == nullptr || !entry->is_folder())
@@ -86,7 +72,7 @@ std::string SimulatedDisk::Dir(std::string_view pattern, FileAttributes attribut
     if (pattern.empty())
         return {};
     faults_.meet(absolute(pattern), clock_);
-    Pattern wanted = pattern_of(pattern);
+    PathPattern wanted = pattern_of(pattern);
     if (!tree_.has_drive(wanted.folder))
         fail(failure_number::device_unavailable, wanted.folder);
     if (wanted.name.empty())
@@ -107,7 +93,7 @@ std::string SimulatedDisk::Dir() {
 
 FileFacts SimulatedDisk::facts(std::string_view path) {
     const std::string target = absolute(path);
-    check_name(target);
+    check_path(target);
     faults_.meet(target, clock_);
     const DiskEntry* entry = tree_.locate(target).entry;
     if (entry == nullptr)
@@ -118,7 +104,7 @@ FileFacts SimulatedDisk::facts(std::string_view path) {
 }
 
 void SimulatedDisk::Kill(std::string_view path) {
-    const Pattern wanted = pattern_of(path);
+    const PathPattern wanted = pattern_of(path);
     std::vector<std::string> names{wanted.name};
     if (!wanted.is_one_name()) {
         if (!tree_.has_drive(wanted.folder))
@@ -260,7 +246,7 @@ DiskEntry& SimulatedDisk::entry_at(std::string_view path) const {
 /// Where a name that is no pattern lies, once its faults are met.
 DiskPlace SimulatedDisk::place_of(std::string_view path) {
     const std::string target = absolute(path);
-    check_name(target);
+    check_path(target);
     faults_.meet(target, clock_);
     DiskPlace place = tree_.locate(target);
     if (place.entry != nullptr && place.folder != nullptr && faults_.take_vanishing(target)) {
@@ -291,18 +277,13 @@ DiskEntry& SimulatedDisk::file_to_write(const DiskPlace& place) {
     return file;
 }
 
-/// A pattern stands in the last part alone.
-SimulatedDisk::Pattern SimulatedDisk::pattern_of(std::string_view path) const {
-    const auto last = path.find_last_of("\\/");
-    const std::size_t begin = last != std::string_view::npos ? last + 1 : path.substr(0, 2).ends_with(':') ? 2 : 0;
-    Pattern pattern{absolute(path.substr(0, begin)), std::string{path.substr(begin)}};
-    check_name(pattern.folder);
-    if (pattern.name.find_first_of("<>|\"") != std::string::npos || first_foreign_character(pattern.name))
-        fail(failure_number::wrong_file_name, path);
+PathPattern SimulatedDisk::pattern_of(std::string_view path) const {
+    PathPattern pattern = working_.pattern_of(path);
+    check_path(pattern.folder);
     return pattern;
 }
 
-std::vector<DiskEntry*> SimulatedDisk::matches(const Pattern& pattern, FileAttributes attributes) const {
+std::vector<DiskEntry*> SimulatedDisk::matches(const PathPattern& pattern, FileAttributes attributes) const {
     const DiskEntry* folder = tree_.find(pattern.folder);
     std::vector<DiskEntry*> found;
     if (folder == nullptr)

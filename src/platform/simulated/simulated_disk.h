@@ -78,13 +78,11 @@ public:
 private:
     friend class SimulatedReplacement;
 
-    struct Pattern;
-
     [[nodiscard]] DiskEntry& entry_at(std::string_view path) const;
     [[nodiscard]] DiskPlace place_of(std::string_view path);
     [[nodiscard]] DiskPlace file_at(std::string_view path);
-    [[nodiscard]] Pattern pattern_of(std::string_view path) const;
-    [[nodiscard]] std::vector<DiskEntry*> matches(const Pattern& pattern, FileAttributes attributes) const;
+    [[nodiscard]] PathPattern pattern_of(std::string_view path) const;
+    [[nodiscard]] std::vector<DiskEntry*> matches(const PathPattern& pattern, FileAttributes attributes) const;
     DiskEntry& file_to_write(const DiskPlace& place);
     void commit(std::string_view absolute_path, std::shared_ptr<FileContent> content);
     [[nodiscard]] std::int64_t time_of_change();

@@ -37,6 +37,7 @@ void print_usage(std::ostream& out) {
     for (const Command& command : all_commands())
         out << "  sonarelle-outil " << command.words << (command.usage.empty() ? "" : " ") << command.usage << '\n';
     out << "Partout : [--lecteur LETTRE=DOSSIER]... [--dossier DOSSIER], après le mot de la commande\n";
+    out << "Derrière un -- seul, un mot peut commencer par --\n";
 }
 
 std::vector<std::string_view> parts_of(std::string_view words) {

@@ -73,7 +73,7 @@ TEST(Kill, ListIsAlwaysAWholeGeneration) {
     const auto span = span_of([&] { save_generation(bench.disk, 1); });
     std::uint32_t generation = 1;
     for (int i = 0; i < kills; ++i) {
-        bench.kill_within(2 * span, [&] {
+        bench.kill_within(span + span / 2, [&] {
             for (std::uint32_t next = generation + 1;; ++next)
                 save_generation(bench.disk, next);
         });

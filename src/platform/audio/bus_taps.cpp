@@ -13,15 +13,21 @@ constexpr float power_share = 1.0F / (0.4F * static_cast<float>(frame_rate));
 
 void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
     std::array<float, 2> peak{};
+    std::array<float, 2> squares{};
     auto place = static_cast<std::size_t>(at.count());
     for (std::size_t frame = 0; frame + 1 < frames.size(); frame += 2, ++place) {
         for (std::size_t channel = 0; channel < 2; ++channel) {
             const float sample = frames[frame + channel];
             peak[channel] = std::max(peak[channel], std::abs(sample));
-            running_power_[channel] += (sample * sample - running_power_[channel]) * power_share;
+            squares[channel] += sample * sample;
         }
         frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_relaxed);
     }
+    const auto count = static_cast<float>(frames.size() / 2);
+    for (std::size_t channel = 0; channel < 2; ++channel)
+        if (count > 0)
+            running_power_[channel] +=
+                (squares[channel] / count - running_power_[channel]) * std::min(1.0F, count * power_share);
     for (std::size_t channel = 0; channel < 2; ++channel) {
         // A reader's reset between the two is lost: the meter then shows an old peak once more.
         if (peak[channel] > peak_[channel].load(std::memory_order_relaxed))

@@ -26,10 +26,10 @@ const BitRates& rates_of(int version, int layer) {
 }
 
 std::size_t bytes_of(int layer, int version, int bit_rate, int rate, int padding) {
-    if (layer == 1)
-        return static_cast<std::size_t>((12 * bit_rate * 1000 / rate + padding) * 4);
-    const int slots = layer == 3 && version != 1 ? 72 : 144;
-    return static_cast<std::size_t>(slots * bit_rate * 1000 / rate + padding);
+    const int bytes_a_slot = layer == 1 ? 4 : 1;
+    const int slots_a_kilobit = layer == 1 ? 12 : layer == 3 && version != 1 ? 72 : 144;
+    const int bytes = (slots_a_kilobit * bit_rate * 1000 / rate + padding) * bytes_a_slot;
+    return static_cast<std::size_t>(bytes);
 }
 
 std::size_t side_info_of(int version, int channels) {

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/audio/file_opener.h"
+#include "platform/clock.h"
+#include "platform/media.h"
+
+namespace sonarelle {
+
+/// Graphs that take the length of their files and make no sound: for rehearsals of which only the seconds are wanted.
+/// Outlives its graphs. From the window thread.
+class SilentMedia final : public Media {
+public:
+    /// From the station's form of a path to this machine's; throws Failure when there is none.
+    using Resolve = std::function<std::string(std::string_view)>;
+
+    SilentMedia(Clock& clock, std::shared_ptr<SoundFiles> files, Resolve resolve)
+        : clock_{clock}, opener_{std::move(files), std::nullopt}, resolve_{std::move(resolve)} {}
+
+    [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
+
+private:
+    friend class SilentGraph;
+
+    Clock& clock_;
+    FileOpener opener_;
+    Resolve resolve_;
+};
+
+} // namespace sonarelle

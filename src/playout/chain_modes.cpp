@@ -181,6 +181,16 @@ void ChainModes::show_end_point(const std::string& text) {
         desk_.main_deck().controls.counter.caption = text;
 }
 
+void ChainModes::press_list_key() {
+    if (!desk_.is_manual()) {
+        desk_.window.coche3.set_value(true);
+        return;
+    }
+    desk_.inform("Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
+    desk_.window.coche2.set_value(true);
+    desk_.window.Image12.picture = std::string{lamp_on_picture};
+}
+
 void ChainModes::Image12_Click() {
     a_mode_auto_Click();
     desk_.list_window.A_precoute.enabled = false;

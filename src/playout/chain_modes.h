@@ -23,6 +23,9 @@ public:
     void Option3_Click() { choose_list_mode(false, "Liste - Lecture fin de piste définie"); }
     void Option4_Click() { choose_list_mode(false, "Liste - Lecture durée piste"); }
 
+    /// The key "l": the list chain, unless the decks are run by hand.
+    void press_list_key();
+
     void Image12_Click();
     void Image13_Click();
 

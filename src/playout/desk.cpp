@@ -25,6 +25,8 @@ void Desk::warn(const std::string& lines) {
     warning.caption = "ATTENTION ERREUR";
     warning.Label1.caption = lines;
     warning.show();
+    if (on_warning)
+        on_warning(lines);
 }
 
 void Desk::inform(const std::string& text) {

@@ -26,6 +26,8 @@ void Journal::note(const std::string& line) {
         return;
     desk_.chain.ligne_journal = line;
     journal();
+    if (on_line)
+        on_line(line);
     desk_.chain.ligne_journal.clear();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "playout/desk.h"
@@ -17,6 +18,9 @@ public:
 
     /// Writes a line while the journal is on.
     void note(const std::string& line);
+
+    /// Called with each line that `note` writes.
+    std::function<void(const std::string&)> on_line;
 
     void Active_journal1_Click();
     void Active_journal_Click();

@@ -48,6 +48,7 @@ Station::Station(const Platform& platform)
     connect_timers();
     connect_chain_choices();
     connect_menus();
+    connect_keys();
     for (Deck& deck : desk.decks)
         connect_deck(deck);
 }
@@ -123,6 +124,41 @@ void Station::connect_menus() {
     main_window.A_desacive_J.on_click = [this] { journal.A_desacive_J_Click(); };
     main_window.A_purger_journal.on_click = [this] { journal.A_purger_journal_Click(); };
     main_window.A_ouvre_journal.on_click = [this] { journal.A_ouvre_journal_Click(); };
+}
+
+// The letters of the main window, each with its action. Letters have their two cases where the table has them.
+void Station::connect_keys() {
+    struct Key {
+        std::u32string_view characters;
+        std::function<void()> act;
+    };
+    const auto step_back = [this](int deck) { return [this, deck] { deck_transport.back(desk.deck(deck)); }; };
+    const auto step_volume = [this](int steps) {
+        return [this, steps] {
+            if (desk.has_main_deck())
+                deck_volume.step(desk.main_deck(), steps);
+        };
+    };
+    const auto pause = [this] {
+        run_control.Mettre_en_pause([this](Deck& deck) { deck_transport.toggle_pause(deck); });
+    };
+    std::vector<Key> keys{
+        {U"&1", step_back(1)},
+        {U"é2", step_back(2)},
+        {U"\"3", step_back(3)},
+        {U"aA", [this] { main_window.popup(main_window.affiche); }},
+        {U"bB", step_volume(1)},
+        {U"hH", step_volume(-1)},
+        {U"lL", [this] { chain_modes.press_list_key(); }},
+        {U"oO", [this] { main_window.popup(main_window.Option_); }},
+        {U"pP", pause},
+        {U"zZ", [this] { zapping.zapping(); }},
+    };
+    main_window.on_key_press = [keys = std::move(keys)](char32_t character) {
+        for (const Key& key : keys)
+            if (key.characters.find(character) != std::u32string_view::npos)
+                return key.act();
+    };
 }
 
 void Station::connect_deck(Deck& deck) {

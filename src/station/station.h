@@ -92,6 +92,7 @@ private:
     void connect_timers();
     void connect_chain_choices();
     void connect_menus();
+    void connect_keys();
     void connect_deck(Deck& deck);
     void warn_of_null_volume();
     void load_row_on_deck(int deck);

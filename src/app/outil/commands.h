@@ -17,6 +17,9 @@ struct Call {
     std::ostream& out;
 };
 
+/// Thrown when the refusals have been told file by file, and the rest is done: the status is 1.
+struct AlreadyTold {};
+
 /// A word of the command line, what stands behind it, and the options that it knows.
 struct Command {
     std::string_view words; ///< As typed: "liste voir".
@@ -32,5 +35,7 @@ inline constexpr Option json_option{"--json", false};
 [[nodiscard]] std::span<const Command> computing_commands();
 [[nodiscard]] std::span<const Command> settings_commands();
 [[nodiscard]] std::span<const Command> drive_commands();
+[[nodiscard]] std::span<const Command> sound_commands();
+[[nodiscard]] std::span<const Command> air_commands();
 
 } // namespace sonarelle

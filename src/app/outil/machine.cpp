@@ -1,7 +1,10 @@
 #include "app/outil/machine.h"
 
+#include <filesystem>
+
 #include <utility>
 
+#include "platform/failure.h"
 #include "platform/host/host_drive_table.h"
 #include "platform/host/machine_files.h"
 #include "platform/host/machine_paths.h"
@@ -32,6 +35,14 @@ std::unique_ptr<FileReplacement> Machine::replace(const std::string& file) {
 
 std::string Machine::program_folder() {
     return station_path_of(drives(), folders_.program);
+}
+
+std::string Machine::make_program_folder() {
+    std::error_code error;
+    std::filesystem::create_directories(folders_.program, error);
+    if (error)
+        throw Failure{failure_number::path_access, folders_.program};
+    return program_folder();
 }
 
 void Machine::set_drive(const std::string& drive, const std::string& folder) {

@@ -29,6 +29,9 @@ public:
     /// The program's folder, in the station's form. @throws Failure when no drive reaches it.
     [[nodiscard]] std::string program_folder();
 
+    /// The same, made where it is missing.
+    [[nodiscard]] std::string make_program_folder();
+
     /// Changes the user's drive table for good.
     void set_drive(const std::string& drive, const std::string& folder);
     void remove_drive(const std::string& drive);

@@ -27,7 +27,8 @@ constexpr const char* output_name = "sortie standard";
 
 std::vector<Command> all_commands() {
     std::vector<Command> commands;
-    for (const auto& group : {list_commands(), computing_commands(), settings_commands(), drive_commands()})
+    for (const auto& group : {list_commands(), sound_commands(), computing_commands(), air_commands(),
+                              settings_commands(), drive_commands()})
         commands.insert(commands.end(), group.begin(), group.end());
     return commands;
 }
@@ -107,6 +108,9 @@ int main(int count, char** words) {
         sonarelle::refuse(wrong.what());
         sonarelle::print_usage(std::cerr);
         return sonarelle::wrong_words;
+    } catch (const sonarelle::AlreadyTold&) {
+        std::cout.flush();
+        return sonarelle::refused;
     } catch (const sonarelle::Failure& failure) {
         return sonarelle::refuse(failure.what());
     } catch (const std::bad_alloc&) {

@@ -1,0 +1,83 @@
+#include <array>
+#include <fstream>
+#include <ostream>
+
+#include "app/outil/commands.h"
+#include "app/outil/machine.h"
+#include "app/outil/on_air.h"
+#include "app/outil/rehearsal.h"
+#include "configuration/station_settings.h"
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr Option rendering_option{"--rendu", true};
+constexpr Option silent_option{"--sans-son", false};
+constexpr Option gestures_option{"--gestes", true};
+constexpr Option output_option{"--sortie", true};
+constexpr Option journal_option{"--journal", false};
+
+std::vector<Gesture> gestures_of(const Arguments& arguments) {
+    if (!arguments.has(gestures_option.name))
+        return {};
+    const std::string file = arguments.value(gestures_option.name, "");
+    std::ifstream in{file};
+    if (!in)
+        throw Failure{failure_number::file_not_found, file};
+    return read_gestures(in, file);
+}
+
+void rehearse(const Call& call) {
+    Rehearsal rehearsal;
+    rehearsal.programme = programme_of(call.arguments);
+    Machine machine{call.options};
+    if (call.arguments.has(rendering_option.name))
+        rehearsal.rendering = call.arguments.value(rendering_option.name, "");
+    rehearsal.without_sound = call.arguments.has(silent_option.name);
+    if (rehearsal.without_sound && rehearsal.rendering)
+        throw WrongWords{"--rendu et --sans-son s'excluent"};
+    rehearsal.gestures = gestures_of(call.arguments);
+    rehearsal.drives = machine.drives();
+    rehearsal.stored_settings = machine.settings().all(settings_application);
+    static_cast<void>(machine.open(rehearsal.programme.list));
+    run_rehearsal(rehearsal, call.out);
+}
+
+void go_on_air(const Call& call) {
+    LiveProgramme live;
+    live.programme = programme_of(call.arguments);
+    Machine machine{call.options};
+    if (call.arguments.has(output_option.name))
+        live.output = call.arguments.value(output_option.name, "");
+    live.shows_journal = call.arguments.has(journal_option.name);
+    live.drives = machine.drives();
+    live.program_folder = machine.make_program_folder();
+    static_cast<void>(machine.open(live.programme.list));
+    run_on_air(live, machine.settings(), call.out);
+}
+
+constexpr std::array rehearsal_options{length_option,    mode_option,   seed_option,    setting_option,
+                                       rendering_option, silent_option, gestures_option};
+constexpr std::array air_options{length_option,  mode_option,   seed_option,
+                                 setting_option, output_option, journal_option};
+
+constexpr std::array commands{
+    Command{"repetition",
+            "LISTE.dfm [--duree HH:MM:SS] [--rendu AIR.wav] [--sans-son] [--graine N] [--reglage CLE=VALEUR]... "
+            "[--mode liste|pleine|lecteur] [--gestes GESTES.txt]",
+            rehearsal_options, rehearse},
+    Command{"antenne",
+            "LISTE.dfm [--duree HH:MM:SS] [--mode liste|pleine|lecteur] [--reglage CLE=VALEUR]... [--graine N] "
+            "[--sortie NOM|aucune] [--journal]",
+            air_options, go_on_air},
+};
+
+} // namespace
+
+std::span<const Command> air_commands() {
+    return commands;
+}
+
+} // namespace sonarelle

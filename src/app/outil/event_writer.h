@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+#include "platform/simulated/simulated_dialogs.h"
+#include "platform/units.h"
+#include "playout/on_air_event.h"
+
+namespace sonarelle {
+
+/// Writes what happens on the air, one JSON line an event, in order, and keeps the account of the last line.
+class EventWriter {
+public:
+    using Json = nlohmann::ordered_json;
+
+    explicit EventWriter(std::ostream& out) : out_{out} {}
+
+    void write(Frames at, const OnAirEvent& event);
+    void write(Frames at, const Question& question);
+    void write_warning(Frames at, const std::string& text);
+    void write_end_of_file(Frames at, int deck);
+    /// The air has been silent for 2 s.
+    void write_silence(Frames at);
+    /// Adds to the account.
+    void add_silence(Frames span) { silence_ += span; }
+    void add_load(double milliseconds) { longest_load_ms_ = std::max(longest_load_ms_, milliseconds); }
+    /// The last line.
+    void write_account(Frames at);
+
+private:
+    void line(Frames at, std::string_view event, const Json& fields);
+
+    std::ostream& out_;
+    int starts_ = 0;
+    Frames silence_;
+    double longest_load_ms_ = 0;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,131 @@
+#include "app/outil/gestures.h"
+
+#include <array>
+#include <istream>
+#include <sstream>
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "platform/simulated/simulated_dialogs.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Act = std::function<void(Station&, SimulatedDialogs&)>;
+
+/// A gesture on a deck's own button.
+struct DeckGesture {
+    std::string_view word;
+    Button DeckControls::*button;
+};
+
+constexpr std::array deck_gestures{
+    DeckGesture{"stop", &DeckControls::stop},  DeckGesture{"pause", &DeckControls::pause},
+    DeckGesture{"play", &DeckControls::play},  DeckGesture{"avance", &DeckControls::forward},
+    DeckGesture{"recul", &DeckControls::back}, DeckGesture{"mix", &DeckControls::special_mix},
+    DeckGesture{"zap", &DeckControls::zap},
+};
+
+/// The words of a line, read one after the other.
+class Line {
+public:
+    explicit Line(const std::string& text) : in_{text} {}
+
+    [[nodiscard]] std::string word() {
+        std::string word;
+        if (!(in_ >> word))
+            throw Failure{failure_number::wrong_call, "", "il manque un mot"};
+        return word;
+    }
+    [[nodiscard]] std::string rest() {
+        std::string text;
+        std::getline(in_ >> std::ws, text);
+        if (text.empty())
+            throw Failure{failure_number::wrong_call, "", "il manque un mot"};
+        return text;
+    }
+    [[nodiscard]] bool is_over() { return (in_ >> std::ws).eof(); }
+    [[nodiscard]] int deck() {
+        const std::string number = word();
+        if (number != "1" && number != "2" && number != "3")
+            throw Failure{failure_number::wrong_call, number, "un lecteur est 1, 2 ou 3"};
+        return number.front() - '0';
+    }
+    [[nodiscard]] int number() { return to_integer(word(), DecimalMark::point).value(); }
+
+private:
+    std::istringstream in_;
+};
+
+Act act_on_deck(std::string_view gesture, Line& line) {
+    for (const DeckGesture& known : deck_gestures)
+        if (known.word == gesture) {
+            const int deck = line.deck();
+            return [deck, button = known.button](Station& station, SimulatedDialogs&) {
+                (station.main_window.deck(deck).*button).click();
+            };
+        }
+    throw Failure{failure_number::wrong_call, std::string{gesture}, "geste inconnu"};
+}
+
+Act act_of(Line& line) {
+    const std::string gesture = line.word();
+    if (gesture == "zap" && line.is_over())
+        return [](Station& station, SimulatedDialogs&) { station.main_window.key_press(U'z'); };
+    if (gesture == "volume") {
+        const int deck = line.deck();
+        const int value = line.number();
+        return [deck, value](Station& station, SimulatedDialogs&) {
+            station.main_window.deck(deck).slider.set_value(value);
+        };
+    }
+    if (gesture == "charge") {
+        const int deck = line.deck();
+        const std::string file = line.rest();
+        return [deck, file](Station& station, SimulatedDialogs& dialogs) {
+            dialogs.expect_open(file);
+            station.main_window.deck(deck).open.click();
+        };
+    }
+    if (gesture == "touche") {
+        const std::string key = line.rest();
+        return [key](Station& station, SimulatedDialogs&) {
+            std::string_view text = key;
+            station.main_window.key_press(take_character(text));
+        };
+    }
+    if (gesture == "repond") {
+        const std::string words = line.rest();
+        return [words](Station&, SimulatedDialogs& dialogs) { dialogs.expect_words(words); };
+    }
+    return act_on_deck(gesture, line);
+}
+
+Gesture gesture_of(const std::string& text) {
+    Line line{text};
+    const double at = to_double(line.word(), DecimalMark::point);
+    if (at < 0)
+        throw Failure{failure_number::wrong_call, text, "le temps d'un geste n'est pas négatif"};
+    return {nearest_frame(at), act_of(line)};
+}
+
+} // namespace
+
+std::vector<Gesture> read_gestures(std::istream& in, const std::string& source) {
+    std::vector<Gesture> gestures;
+    std::string text;
+    for (int number = 1; std::getline(in, text); ++number) {
+        if (trim(text).empty() || trim(text).starts_with('#'))
+            continue;
+        try {
+            gestures.push_back(gesture_of(text));
+        } catch (const Failure& failure) {
+            throw Failure{failure.number, source + ", ligne " + std::to_string(number), failure.what()};
+        }
+    }
+    return gestures;
+}
+
+} // namespace sonarelle

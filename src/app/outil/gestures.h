@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "platform/units.h"
+#include "station/station.h"
+
+namespace sonarelle {
+
+class SimulatedDialogs;
+
+/// What the operator's hands do at a time of the rehearsal.
+struct Gesture {
+    Frames at;
+    std::function<void(Station&, SimulatedDialogs&)> act;
+};
+
+/// Reads lines of `SECONDES GESTE`; empty lines and those that begin with # are left out.
+/// @throws Failure naming `source`, the line and what is wrong with it.
+[[nodiscard]] std::vector<Gesture> read_gestures(std::istream& in, const std::string& source);
+
+} // namespace sonarelle

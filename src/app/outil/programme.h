@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/outil/arguments.h"
+#include "platform/settings.h"
+#include "platform/units.h"
+#include "station/station.h"
+
+namespace sonarelle {
+
+class SimulatedDialogs;
+
+enum class ReadingMode { list, full_length, decks };
+
+/// What the words of a call say of a programme, for a rehearsal and for the air alike.
+struct Programme {
+    std::string list;             ///< A path of this machine.
+    std::optional<Frames> length; ///< Nothing: as long as the list.
+    ReadingMode mode = ReadingMode::list;
+    std::uint64_t seed = 1;
+    std::vector<Setting> settings; ///< That this call changes.
+};
+
+inline constexpr Option length_option{"--duree", true};
+inline constexpr Option mode_option{"--mode", true};
+inline constexpr Option seed_option{"--graine", true};
+inline constexpr Option setting_option{"--reglage", true};
+
+/// @throws WrongWords for a word that isn't one of these.
+[[nodiscard]] Programme programme_of(const Arguments& arguments);
+
+/// HH:MM:SS. @throws WrongWords.
+[[nodiscard]] Frames length_of(const std::string& text);
+
+/// Opens a list in a station as the operator does, chooses the reading mode and presses play.
+/// @throws Failure for a list without rows.
+void start_programme(Station& station, SimulatedDialogs& dialogs, const std::string& list, ReadingMode mode);
+
+/// The sum of the end points of a loaded list.
+[[nodiscard]] Frames length_of_list(Station& station);
+
+} // namespace sonarelle

@@ -22,7 +22,7 @@ void RowToDeck::send(int deck) {
             return;
         reading_.lire_enreg_destinataire();
         list_.chemin_fichier = destination_.dest_chemin;
-        chain_.chemin_lecture = trim(destination_.dest_chemin);
+        chain_.path_of_deck(deck) = trim(destination_.dest_chemin);
         load_deck_(deck);
     });
 }

@@ -16,6 +16,10 @@ struct ChainState {
     std::string chemin_lecture2; ///< The file on deck 2.
     std::string chemin_lecture3; ///< The file on deck 3.
 
+    [[nodiscard]] std::string& path_of_deck(int deck) {
+        return deck == 1 ? chemin_lecture : deck == 2 ? chemin_lecture2 : chemin_lecture3;
+    }
+
     std::string chemin_precedent;   ///< The list's `chemin_fichier` at the last start of a track.
     Integer element_en_cours;       ///< Row of the current item.
     Integer index_debut_aleatoire;  ///< Row at which a run started, for the insertion of jingles.

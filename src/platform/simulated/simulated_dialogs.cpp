@@ -187,7 +187,7 @@ void SimulatedDialogs::expect_window(std::string_view name, std::function<void()
                        [wanted = std::string{name}](const Question& question) {
                            return question.kind == QuestionKind::window && question.title == wanted;
                        },
-                       [hands](Question& question) { question.hands = hands; }, delay});
+                       [hands = std::move(hands)](Question& question) { question.hands = hands; }, delay});
 }
 
 void SimulatedDialogs::expect_cancel(Frames delay) {

@@ -257,7 +257,7 @@ DiskPlace SimulatedDisk::place_of(std::string_view path) {
 }
 
 DiskPlace SimulatedDisk::file_at(std::string_view path) {
-    const DiskPlace place = place_of(path);
+    DiskPlace place = place_of(path);
     if (place.entry == nullptr)
         fail(failure_number::file_not_found, place.path);
     check_is_file(place);

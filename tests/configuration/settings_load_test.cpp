@@ -309,6 +309,37 @@ TEST_F(SettingsLoadTest, PlacesTheWindows) {
     EXPECT_EQ(station.small_player.top.get(), Twips{750});
 }
 
+TEST_F(SettingsLoadTest, OfADamagedColourLeavesTheOtherSettingsAlone) {
+    fill_store();
+    set(config, "Mix_audio", "11");
+    set(colours, "coul_label", "blanc");
+    load();
+    EXPECT_EQ(stored(config, "Mix_audio"), "11");
+    EXPECT_EQ(stored(colours, "coul_label"), "16777215");
+}
+
+TEST_F(SettingsLoadTest, OfAnEmptyStoreShowsTheRepairedLeadAndNoTimerInTheOptionsDialog) {
+    load();
+    EXPECT_EQ(station.options_window.Text3.text(), "7");
+    EXPECT_EQ(station.options_window.Text8.text(), "0");
+}
+
+TEST_F(SettingsLoadTest, TakesThePictureOfTheListFromTheStore) {
+    fill_store();
+    load();
+    EXPECT_EQ(station.list_window.picture.get(), "C:\\Sonarelle\\Liste_Sonarine1.jpg");
+}
+
+TEST_F(SettingsLoadTest, LeavesThePictureOfTheListForTheTwoWordsThatMeanNone) {
+    fill_store();
+    for (const std::string_view word : {"Vrai", "non"}) {
+        set(config, "logo_liste", word);
+        station.list_window.picture = "avant.jpg";
+        load();
+        EXPECT_EQ(station.list_window.picture.get(), "avant.jpg") << word;
+    }
+}
+
 TEST_F(SettingsLoadTest, GoesOnWhenTheStoreCannotBeWritten) {
     machine.settings.refuse_writes();
     load();

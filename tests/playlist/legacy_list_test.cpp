@@ -79,6 +79,35 @@ TEST_F(LegacyListTest, AsksForTheFileWithItsOwnPattern) {
     EXPECT_EQ(machine.dialogs.last().filter, "fichier (*.rfm)|*.rfm");
 }
 
+TEST_F(LegacyListTest, AsksAgainAfterACancelledDialog) {
+    machine.dialogs.expect_cancel();
+    station.list_window.A_Copen_rfm.click();
+    machine.dialogs.expect_cancel();
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(machine.dialogs.asked().size(), 2U);
+}
+
+TEST_F(LegacyListTest, KeepsTheRowsReadBeforeTheDiskBroke) {
+    machine.disk.put_file(old_list, old_record("a") + old_record("b"));
+    machine.disk.fail_read_at(old_list, 410);
+    machine.dialogs.expect_open(old_list);
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(rows().count(), 1);
+}
+
+TEST_F(LegacyListTest, IsNeverWritten) {
+    machine.disk.put_file(old_list, old_record("a"));
+    machine.dialogs.expect_open(old_list);
+    machine.dialogs.expect_save("C:\\Listes\\vieux.dfm");
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(machine.disk.bytes(old_list), old_record("a"));
+}
+
+TEST_F(LegacyListTest, EnablesWhatNeedsAList) {
+    open_old_list(old_record("a"));
+    EXPECT_TRUE(station.list_window.prechar.enabled);
+}
+
 TEST_F(LegacyListTest, TakesTheSaveNameThatIsWaiting) {
     machine.disk.put_file(old_list, old_record("a"));
     station.list.nom_sauvegarde = old_list;

@@ -33,6 +33,25 @@ TEST_F(ListDocumentTest, ShowsARecordInSixColumns) {
     EXPECT_EQ(rows().row(1), (RowTable::Row{"C:\\a.mp3", "2.40", "200.00", "Pop", "80", "00:03:20"}));
 }
 
+TEST_F(ListDocumentTest, HasItsColumnsInOrderWithTheirCaptionsAndWidths) {
+    std::vector<std::pair<std::string, int>> columns;
+    for (const Column& column : rows().columns())
+        columns.emplace_back(column.caption, column.width.count());
+    EXPECT_EQ(columns, (std::vector<std::pair<std::string, int>>{{"Chemin complet du fichier ", 6700},
+                                                                 {"Début lecture a : (Secondes)", 2500},
+                                                                 {"Fin lecture a : (Secondes)", 2500},
+                                                                 {"Genre", 1300},
+                                                                 {"Volume %", 1000},
+                                                                 {"Durée piste", 1100}}));
+}
+
+TEST_F(ListDocumentTest, GivesABlankEndItsDefaultOnSaving) {
+    open_list(matin, {record_of("a", "")});
+    EXPECT_EQ(rows().sub_item(1, 2), "");
+    station.list_document.sauve_tout();
+    EXPECT_EQ(rows().sub_item(1, 2), "0.00");
+}
+
 TEST_F(ListDocumentTest, ReadsAnEndWrittenWithAComma) {
     open_list(matin, {record_of("a", "200,5")});
     EXPECT_EQ(rows().sub_item(1, 2), "200.50");
@@ -162,6 +181,37 @@ TEST_F(ListDocumentTest, TellsWhenTheDiskRefusesAList) {
     station.list_window.A_liste.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
     EXPECT_NE(machine.dialogs.last().text.find(matin), std::string::npos);
+}
+
+TEST_F(ListDocumentTest, SaysNothingOfAnyOtherFailure) {
+    machine.disk.refuse(matin, failure_number::device_fault);
+    machine.dialogs.expect_open(matin);
+    station.list_window.A_liste.click();
+    EXPECT_EQ(machine.dialogs.asked().size(), 1U);
+}
+
+TEST_F(ListDocumentTest, TellsEachRefusalOfTheDisk) {
+    for (const int number : {70, 71, 74, 75, 76}) {
+        machine.disk.refuse(matin, number);
+        machine.dialogs.expect_open(matin);
+        machine.dialogs.expect_box(failure_description(number), Answer::ok);
+        station.list_window.A_liste.click();
+        machine.disk.heal(matin);
+    }
+}
+
+TEST_F(ListDocumentTest, OffersItsDeletionByNameWhenItIsLoadedAnew) {
+    load_current_list(matin, {record_of("a")});
+    EXPECT_EQ(station.list_window.Supprimer_fichier.caption.get(), "Supprimer le fichier C:\\Listes\\matin.dfm");
+}
+
+TEST_F(ListDocumentTest, ShowsTheBusyPointerWhileTheDefaultListIsRead) {
+    machine.disk.put_file("C:\\Sonarelle\\liste.dfm", bytes_of(record_of("a")));
+    machine.disk.take("C:\\Sonarelle\\liste.dfm", seconds(1));
+    int pointer = 0;
+    machine.time.at(milliseconds(500), [&] { pointer = station.list_window.mouse_pointer; });
+    station.list_window.A_liste_anciene.click();
+    EXPECT_EQ(pointer, 13);
 }
 
 TEST_F(ListDocumentTest, BeginsTheNextDialogInTheProgramFolderAfterARefusal) {

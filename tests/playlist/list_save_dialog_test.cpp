@@ -88,6 +88,24 @@ TEST_F(ListSaveDialogTest, KeepsTheFileThatExistsOnNo) {
     EXPECT_EQ(machine.disk.bytes(soir), "ancien");
 }
 
+TEST_F(ListSaveDialogTest, IsCalledByTheNewNameEvenOnNo) {
+    machine.disk.put_file(soir, "ancien");
+    open_list(matin, {record_of("a")});
+    machine.dialogs.expect_save(soir);
+    machine.dialogs.expect_box(Answer::no);
+    station.list_window.A_enreg_sous.click();
+    EXPECT_EQ(station.list.fichier_liste, "c:\\listes\\soir.dfm");
+}
+
+TEST_F(ListSaveDialogTest, NamesTheRowThatCannotBeConverted) {
+    open_list(matin, {record_of("a"), record_of("b")});
+    rows().set_sub_item(2, 4, "");
+    machine.dialogs.expect_save(soir);
+    machine.dialogs.expect_box("ligne 2", Answer::ok);
+    station.list_window.A_enreg_sous.click();
+    EXPECT_FALSE(machine.disk.exists(soir));
+}
+
 TEST_F(ListSaveDialogTest, ReplacesTheFileThatExistsOnYes) {
     machine.disk.put_file(soir, "ancien");
     open_list(matin, {record_of("a")});

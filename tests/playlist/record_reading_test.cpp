@@ -111,6 +111,28 @@ TEST_F(RecordReadingTest, NamesTheFileBehindTheLastBackslash) {
     EXPECT_EQ(station.destination.dest_nom_fichier, "titre.mp3");
 }
 
+TEST_F(RecordReadingTest, TrimsTheGenre) {
+    put_list({record_of("a", "1", 100, 0, " Jazz ")});
+    read_destination(1);
+    EXPECT_EQ(station.destination.dest_genre, "Jazz");
+}
+
+TEST_F(RecordReadingTest, OfADraggedRowTakesGenreEndAndDuration) {
+    put_list({record_of("a", " 1E2 ", 100, 0, " Jazz ", "X")});
+    read_dragged(1);
+    EXPECT_EQ(station.dragged.drop_genre, "Jazz");
+    EXPECT_EQ(station.dragged.drop_fin, "1e2");
+    EXPECT_EQ(station.dragged.drop_duree, "X       ");
+}
+
+TEST_F(RecordReadingTest, ForADeckTakesGenreStartAndDuration) {
+    put_list({record_of("a", "1", 100, 1.23456, " Jazz ", "X")});
+    read_for_deck(1);
+    EXPECT_EQ(station.destination.dest_genre, "Jazz");
+    EXPECT_EQ(station.destination.dest_debut, 1.23456);
+    EXPECT_EQ(station.destination.dest_duree, "X       ");
+}
+
 TEST_F(RecordReadingTest, BehindTheEndLeavesTheRecordOfTheReadBefore) {
     put_list({record_of("C:\\a.mp3")});
     read_destination(1);

@@ -38,6 +38,22 @@ TEST_F(RowToDeckTest, ReadsTheRecordFromTheFileNotFromTheRow) {
     EXPECT_EQ(station.chain.chemin_lecture, "C:\\b.mp3");
 }
 
+TEST_F(RowToDeckTest, SendsNothingFromARowBeyond16Bits) {
+    open_list("C:\\matin.dfm", std::vector<enreg_liste>(40000, record_of("C:\\a.mp3")));
+    rows().select(40000);
+    row_to_deck.Charg1_son();
+    EXPECT_TRUE(loaded.empty());
+}
+
+TEST_F(RowToDeckTest, LoadsTheDeckFromTheMenu) {
+    machine.add_track("C:\\a.mp3", 100);
+    open_list("C:\\matin.dfm", {record_of("C:\\a.mp3")});
+    rows().select(1);
+    station.list_window.char2.click();
+    EXPECT_EQ(station.main_window.deck(2).title.caption.get(), "00:01:40 ( a )");
+    EXPECT_EQ(station.chain.chemin_lecture2, "C:\\a.mp3");
+}
+
 TEST_F(RowToDeckTest, DoesNothingWithoutAList) {
     rows().append({"a", "0.10", "1.00", "", "100", ""});
     rows().select(1);

@@ -20,10 +20,8 @@ TEST(VolumeTable, HasEveryFifthPercentButFive) {
 }
 
 TEST(VolumeTable, FallsByTwoDecibelsAStepButForTheGapBelowFifteen) {
-    EXPECT_EQ(attenuation_of_percent(100), 0);
-    EXPECT_EQ(attenuation_of_percent(95), -200);
-    EXPECT_EQ(attenuation_of_percent(50), -2000);
-    EXPECT_EQ(attenuation_of_percent(15), -3400);
+    for (int percent = 15; percent <= 100; percent += 5)
+        EXPECT_EQ(attenuation_of_percent(percent), (percent - 100) * 40) << percent;
     EXPECT_EQ(attenuation_of_percent(10), -3800);
     EXPECT_EQ(attenuation_of_percent(0), -4000);
 }

@@ -5,6 +5,15 @@
 #include <new>
 #include <pthread.h>
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define SONARELLE_SANITIZED
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define SONARELLE_SANITIZED
+#endif
+
 namespace {
 
 thread_local bool watching = false;
@@ -29,19 +38,20 @@ RealTimeWatch::Seen RealTimeWatch::end() {
     return seen;
 }
 
+#if defined(SONARELLE_SANITIZED)
+bool RealTimeWatch::sees_locks() {
+    return false;
+}
+#else
+bool RealTimeWatch::sees_locks() {
+    return true;
+}
+#endif
+
 } // namespace sonarelle
 
-// The whole program's memory and mutexes pass through here. The sanitizers have their own in these places: then C++'s
-// operators are watched alone.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define SONARELLE_SANITIZED
-#endif
-#endif
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define SONARELLE_SANITIZED
-#endif
-
+// The whole program's memory and mutexes pass through here. The sanitizers have their own in these places, and hooks
+// for memory.
 #if !defined(SONARELLE_SANITIZED)
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -66,29 +76,19 @@ void* realloc(void* memory, std::size_t size) {
     return __libc_realloc(memory, size);
 }
 }
-#else
-void* operator new(std::size_t size) {
-    count_allocation();
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc{};
-}
-void operator delete(void* memory) noexcept {
-    count_allocation();
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    count_allocation();
-    std::free(memory);
-}
-#endif
 
-#if !defined(SONARELLE_SANITIZED)
 extern "C" int pthread_mutex_lock(pthread_mutex_t* mutex) {
     using Lock = int (*)(pthread_mutex_t*);
     static const Lock real = reinterpret_cast<Lock>(::dlsym(RTLD_NEXT, "pthread_mutex_lock"));
     if (watching)
         ++seen.locks;
     return real(mutex);
+}
+#else
+extern "C" void __sanitizer_malloc_hook(const volatile void*, std::size_t) {
+    count_allocation();
+}
+extern "C" void __sanitizer_free_hook(const volatile void*) {
+    count_allocation();
 }
 #endif

@@ -11,6 +11,8 @@ public:
     };
     static void begin();
     [[nodiscard]] static Seen end();
+    /// The sanitizers hold the mutexes' place themselves.
+    [[nodiscard]] static bool sees_locks();
 };
 
 } // namespace sonarelle

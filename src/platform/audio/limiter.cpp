@@ -1,6 +1,7 @@
 #include "platform/audio/limiter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace sonarelle {
@@ -10,11 +11,16 @@ namespace {
 constexpr float recovery = 1.0F / 2400.0F; // of what is missing, each frame: a time constant of 50 ms
 constexpr float recovered = 0.9999F;
 
+// In lanes that don't wait for each other.
 float peak_of(std::span<const float> samples) {
-    float peak = 0;
-    for (const float sample : samples)
-        peak = std::max(peak, std::abs(sample));
-    return peak;
+    std::array<float, 8> lanes{};
+    std::size_t at = 0;
+    for (; at + lanes.size() <= samples.size(); at += lanes.size())
+        for (std::size_t lane = 0; lane < lanes.size(); ++lane)
+            lanes[lane] = std::max(lanes[lane], std::abs(samples[at + lane]));
+    for (; at < samples.size(); ++at)
+        lanes[0] = std::max(lanes[0], std::abs(samples[at]));
+    return *std::ranges::max_element(lanes);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/audio/sdl_devices.h"
 
 #include <SDL2/SDL.h>
+#include <dlfcn.h>
 
 #include "platform/failure.h"
 #include "platform/units.h"
@@ -10,6 +11,18 @@ namespace sonarelle {
 namespace {
 
 constexpr Uint16 block_frames = 2048;
+
+void say_nothing(const char*, int, const char*, int, const char*, ...) {}
+
+// On a machine without a card ALSA tells its own search on standard error, where the station says it in one sentence.
+// SDL brings the library or doesn't; nothing here is linked to it.
+void silence_alsa() {
+    using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
+    void* library = ::dlopen("libasound.so.2", RTLD_LAZY); // kept for good: SDL holds it too
+    void* symbol = library == nullptr ? nullptr : ::dlsym(library, "snd_lib_error_set_handler");
+    if (symbol != nullptr)
+        reinterpret_cast<int (*)(Handler)>(symbol)(say_nothing);
+}
 
 class SdlDevice final : public OutputDevice {
 public:
@@ -54,6 +67,7 @@ bool SdlDevices::connect(bool anew) {
     if (connected_ && anew)
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
     if (!connected_ || anew) {
+        silence_alsa();
         SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Sonarelle");
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         connected_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;

@@ -73,15 +73,21 @@ Frames length_of(const std::string& text) {
 
 Programme programme_of(const Arguments& arguments) {
     Programme programme;
-    programme.list = arguments.word(0, "LISTE.dfm");
+    programme.list = arguments.filled_word(0, "LISTE.dfm");
     arguments.expect_at_most(1);
     if (arguments.has(length_option.name))
         programme.length = length_of(arguments.value(length_option.name, ""));
     programme.mode = mode_of(arguments.value(mode_option.name, "liste"));
     programme.seed = whole_number<std::uint64_t>(arguments.value(seed_option.name, "1"), "--graine");
-    for (const std::string& words : arguments.values(setting_option.name))
-        programme.settings.push_back(setting_of(words));
+    programme.settings = changed_settings(arguments);
     return programme;
+}
+
+std::vector<Setting> changed_settings(const Arguments& arguments) {
+    std::vector<Setting> settings;
+    for (const std::string& words : arguments.values(setting_option.name))
+        settings.push_back(setting_of(words));
+    return settings;
 }
 
 void start_programme(Station& station, SimulatedDialogs& dialogs, const std::string& list, ReadingMode mode) {

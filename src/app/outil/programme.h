@@ -34,6 +34,9 @@ inline constexpr Option setting_option{"--reglage", true};
 /// @throws WrongWords for a word that isn't one of these.
 [[nodiscard]] Programme programme_of(const Arguments& arguments);
 
+/// What `--reglage CLE=VALEUR` changes. @throws WrongWords for a key that there isn't.
+[[nodiscard]] std::vector<Setting> changed_settings(const Arguments& arguments);
+
 /// HH:MM:SS. @throws WrongWords.
 [[nodiscard]] Frames length_of(const std::string& text);
 

@@ -8,7 +8,7 @@ namespace sonarelle {
 struct mini_lecteur : Window {
     mini_lecteur() : Window{"mini_lecteur"} {}
 
-    Label remaining{*this, "Label2"};  ///< Remaining whole seconds of the main deck.
+    Label remaining{*this, "Label2"}; ///< Remaining whole seconds of the main deck.
     Button zap{*this, "bouton_zap"};
 };
 

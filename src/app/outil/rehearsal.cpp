@@ -6,6 +6,7 @@
 
 #include "app/outil/deck_watch.h"
 #include "app/outil/event_writer.h"
+#include "app/outil/progress.h"
 #include "app/outil/silence_watch.h"
 #include "app/outil/working_folder.h"
 #include "configuration/settings_store.h"
@@ -46,7 +47,10 @@ public:
     void run() {
         for (const Gesture& gesture : rehearsal_.gestures)
             time_.at(gesture.at, [this, &gesture] { gesture.act(*station_, dialogs_); });
-        time_.run_until(rehearsal_.programme.length.value_or(length_of_list(*station_)));
+        const Frames length = rehearsal_.programme.length.value_or(length_of_list(*station_));
+        progress_.emplace("répétition", length.count());
+        time_.run_until(length);
+        progress_.reset();
         silence_.end();
         if (rendering_)
             rendering_->close();
@@ -94,6 +98,8 @@ private:
     }
 
     void follow_until(Frames frame) {
+        if (progress_)
+            progress_->reach(frame.count());
         watch_->advance(time_.now(), frame);
         if (renderer_)
             renderer_->render_until(frame);
@@ -122,6 +128,7 @@ private:
     Random random_{rehearsal_.programme.seed};
     EventWriter events_;
     SilenceWatch silence_;
+    std::optional<Progress> progress_;
     std::unique_ptr<WavFileOutput> rendering_;
     ProgrammeBus bus_;
     std::unique_ptr<Media> media_;

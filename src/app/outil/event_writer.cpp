@@ -30,7 +30,7 @@ std::string answer_text(const Question& question) {
 } // namespace
 
 void EventWriter::line(Frames at, std::string_view event, const Json& fields) {
-    out_ << "{\"t\":" << seconds_text(at) << ",\"evenement\":\"" << event << '"';
+    out_ << "{\"t\":" << seconds_text(at - origin_) << ",\"evenement\":\"" << event << '"';
     if (!fields.empty())
         out_ << ',' << std::string_view{fields.dump()}.substr(1);
     else
@@ -83,7 +83,7 @@ void EventWriter::write_silence(Frames at) {
 }
 
 void EventWriter::write_account(Frames at) {
-    out_ << "{\"t\":" << seconds_text(at) << ",\"evenement\":\"bilan\",\"departs\":" << starts_
+    out_ << "{\"t\":" << seconds_text(at - origin_) << ",\"evenement\":\"bilan\",\"departs\":" << starts_
          << ",\"silence_total\":" << seconds_text(silence_)
          << ",\"charge_max_ms\":" << Format(longest_load_ms_, "0.0", DecimalMark::point) << "}\n"
          << std::flush;

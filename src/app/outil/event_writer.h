@@ -19,6 +19,9 @@ public:
 
     explicit EventWriter(std::ostream& out) : out_{out} {}
 
+    /// What comes is told in seconds from here; at first from the station's own beginning.
+    void count_from(Frames origin) { origin_ = origin; }
+
     void write(Frames at, const OnAirEvent& event);
     void write(Frames at, const Question& question);
     void write_warning(Frames at, const std::string& text);
@@ -28,6 +31,7 @@ public:
     /// Adds to the account.
     void add_silence(Frames span) { silence_ += span; }
     void add_load(double milliseconds) { longest_load_ms_ = std::max(longest_load_ms_, milliseconds); }
+    [[nodiscard]] int starts() const { return starts_; }
     /// The last line.
     void write_account(Frames at);
 
@@ -35,6 +39,7 @@ private:
     void line(Frames at, std::string_view event, const Json& fields);
 
     std::ostream& out_;
+    Frames origin_;
     int starts_ = 0;
     Frames silence_;
     double longest_load_ms_ = 0;

@@ -75,24 +75,16 @@ public:
         station_->create_main_window();
         for (const Setting& setting : live.programme.settings)
             apply(setting);
-        if (live.shows_journal)
-            station_->main_window.Active_journal.click();
+        station_->main_window.Active_journal.click();
     }
 
     void run() {
         const StopOnSignals stop{driver_};
         const std::string list = station_path_of(live_.drives, live_.programme.list);
-        driver_.run_event([&] {
-            start_programme(*station_, dialogs_, list, live_.programme.mode);
-            end_.set_interval(1000);
-            end_.enable();
-        });
-        last_ = clock_.now();
-        look_.enable();
+        driver_.run_event([&] { start(list); });
         driver_.run();
-        silence_.end();
-        station_->list_run.Image3_Click();
-        events_.write_account(clock_.now());
+        if (!ended_) // by a signal
+            driver_.run_event([this] { end(); });
     }
 
 private:
@@ -137,7 +129,7 @@ private:
                 if (question.kind == QuestionKind::box || question.kind == QuestionKind::input)
                     events_.write(clock_.now(), question);
             };
-            station_->desk.on_event = [this](const OnAirEvent& event) { events_.write(clock_.now(), event); };
+            station_->desk.on_event = [this](const OnAirEvent& event) { tell(event); };
             station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(clock_.now(), text); };
             watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
             silence_.on_two_seconds = [this](Frames at) { events_.write_silence(at); };
@@ -150,7 +142,34 @@ private:
         };
         look_.set_interval(100);
         look_.on_tick = [this] { look(); };
-        end_.on_tick = [this] { end_when_over(); };
+    }
+
+    void start(const std::string& list) {
+        begins_at(clock_.now());
+        start_programme(*station_, dialogs_, list, live_.programme.mode);
+        length_ = live_.programme.length.value_or(length_of_list(*station_));
+        look_.enable();
+    }
+
+    /// Loading the first file may take a while, so the list begins once more with the first deck that starts.
+    void begins_at(Frames frame) {
+        events_.count_from(frame);
+        began_ = last_ = frame;
+    }
+
+    void tell(const OnAirEvent& event) {
+        if (event.kind == OnAirEvent::Kind::started && events_.starts() == 0)
+            begins_at(clock_.now());
+        events_.write(clock_.now(), event);
+    }
+
+    void end() {
+        ended_ = true;
+        look_.disable();
+        silence_.end();
+        station_->list_run.Image3_Click();
+        events_.write_account(clock_.now());
+        driver_.stop();
     }
 
     void look() {
@@ -161,14 +180,8 @@ private:
             silence_.silent(last_, now);
         watch_->advance(now, now + milliseconds(100));
         last_ = now;
-    }
-
-    void end_when_over() {
-        const Frames length = live_.programme.length.value_or(length_of_list(*station_));
-        if (!over_at_)
-            over_at_ = clock_.now() - milliseconds(1000) + length;
-        if (clock_.now() >= *over_at_)
-            driver_.stop();
+        if (now - began_ >= length_)
+            end();
     }
 
     const LiveProgramme& live_;
@@ -190,9 +203,10 @@ private:
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
     Timer look_{"look", 0, scheduler_};
-    Timer end_{"end", 0, scheduler_};
+    Frames began_;
+    Frames length_;
     Frames last_;
-    std::optional<Frames> over_at_;
+    bool ended_ = false;
 };
 
 } // namespace

@@ -34,6 +34,7 @@ inline constexpr Option json_option{"--json", false};
 [[nodiscard]] std::span<const Command> list_commands();
 [[nodiscard]] std::span<const Command> computing_commands();
 [[nodiscard]] std::span<const Command> mix_commands();
+[[nodiscard]] std::span<const Command> tag_commands();
 [[nodiscard]] std::span<const Command> settings_commands();
 [[nodiscard]] std::span<const Command> drive_commands();
 [[nodiscard]] std::span<const Command> sound_commands();

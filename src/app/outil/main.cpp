@@ -27,8 +27,8 @@ constexpr const char* output_name = "sortie standard";
 
 std::vector<Command> all_commands() {
     std::vector<Command> commands;
-    for (const auto& group : {list_commands(), sound_commands(), computing_commands(), mix_commands(), air_commands(),
-                              settings_commands(), drive_commands()})
+    for (const auto& group : {list_commands(), sound_commands(), tag_commands(), computing_commands(), mix_commands(),
+                              air_commands(), settings_commands(), drive_commands()})
         commands.insert(commands.end(), group.begin(), group.end());
     return commands;
 }

@@ -9,6 +9,7 @@ namespace sonarelle {
 namespace {
 
 constexpr std::chrono::milliseconds patience_with_disks{2000};
+constexpr Frames quiet_after_trouble = milliseconds(100);
 constexpr std::size_t live_stream_frames = std::size_t{4 * frame_rate};
 constexpr std::size_t inline_stream_frames = 16384; // small enough for the processor's cache
 static_assert(inline_stream_frames >= SoundMedia::rendered_at_once + ramp_frames);
@@ -72,7 +73,7 @@ void SoundMedia::start(const std::shared_ptr<Feeder>& feeder) {
 
 std::shared_ptr<SoundTroubles> SoundMedia::watch(std::string_view path) {
     auto troubles = std::make_shared<SoundTroubles>();
-    watched_.push_back({std::string{path}, troubles, {}, {}});
+    watched_.push_back({std::string{path}, troubles, {}, {}, {}});
     return troubles;
 }
 
@@ -85,8 +86,8 @@ void SoundMedia::end_workers() {
     });
 }
 
-// One report for a trouble, not one for each of its blocks: when it has grown no more since the last look, or by a
-// second of silence.
+// One report for a trouble, not one for each of its blocks: when it has been over for a while, or by a second of
+// silence.
 void SoundMedia::report_troubles() {
     for (Watched& watched : watched_) {
         const SoundReport counted{.path = watched.path,
@@ -96,8 +97,11 @@ void SoundMedia::report_troubles() {
                                .starved = counted.starved - watched.told.starved,
                                .breaks = counted.breaks - watched.told.breaks};
         const bool still_grows = counted.starved != watched.seen.starved || counted.breaks != watched.seen.breaks;
+        if (still_grows)
+            watched.grew_at = bus_.rendered();
         watched.seen = counted;
-        if ((news.starved == Frames{0} && news.breaks == 0) || (still_grows && news.starved < seconds(1)))
+        const bool over = bus_.rendered() - watched.grew_at >= quiet_after_trouble;
+        if ((news.starved == Frames{0} && news.breaks == 0) || (!over && news.starved < seconds(1)))
             continue;
         watched.told = counted;
         if (on_trouble)

@@ -60,6 +60,7 @@ private:
         std::shared_ptr<SoundTroubles> troubles;
         SoundReport seen; ///< At the last look.
         SoundReport told; ///< With the last report.
+        Frames grew_at;   ///< On the bus.
     };
 
     // For the graphs.

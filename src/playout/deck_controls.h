@@ -11,7 +11,7 @@ namespace sonarelle {
 /// What the parts of a deck are called on the main window.
 struct DeckNames {
     std::string_view title, counter, progress, open, zap, play, stop, pause, forward, back, special_mix, keep_volume,
-        playing_mark, slider, percent, louder, quieter, scroll_timer, zap_hint, stop_hint;
+        playing_mark, slider, percent, louder, quieter, scroll_timer, zap_hint, stop_hint, mix_key;
     int scroll_timer_number;
 };
 
@@ -36,6 +36,7 @@ inline constexpr std::array deck_names{
               "Timer5",
               "Zapper sur Play2",
               "Stopper lecteur 1",
+              "F8",
               5},
     DeckNames{"Label3",
               "Label1",
@@ -57,6 +58,7 @@ inline constexpr std::array deck_names{
               "Timer6",
               "Zapper sur Play3",
               "Stopper lecteur 2",
+              "F9",
               6},
     DeckNames{"Label4",
               "Label9",
@@ -78,6 +80,7 @@ inline constexpr std::array deck_names{
               "Timer7",
               "Zapper sur Play1",
               "Stopper lecteur 3",
+              "F11",
               7},
 };
 

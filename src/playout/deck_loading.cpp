@@ -146,24 +146,52 @@ void DeckLoading::charge_lire(const std::string& path) {
     desk_.window.coche2.set_value(true);
 }
 
+// The last failure on the way says what to tell the operator when nothing came of it.
 void DeckLoading::open_by_hand(Deck& deck) {
     deck.create_graph();
-    if (!choose_file(deck))
-        return;
+    Failure pending{failure_number::unplayable_file};
+    const auto attempt = [&pending](const auto& statement) {
+        try {
+            statement();
+        } catch (const Failure& failure) {
+            pending = failure;
+        }
+    };
+    if (!is_file_chosen()) {
+        attempt([this] { go_to_music_folder(); });
+        if (!choose_file(deck))
+            return;
+    }
     desk_.chain.nom_fichier_source = deck.path;
     nom_du_fich();
     formate_nom();
     mix_.manuel_mix();
-    try {
-        render_by_hand(deck);
-    } catch (const Failure& failure) {
-        report_failed_open(deck, failure);
-    }
+    attempt([&] { deck.graph().RenderFile(deck.path); });
+    desk_.chain.duree_mesuree = deck.graph().get_Duration();
+    attempt([this] { format_duration(); });
+    show_loaded(deck);
+    desk_.chain.duree_piste_texte.clear();
+    volume_.adjust(deck);
+    attempt([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    if (desk_.chain.duree_mesuree < shortest_good_file)
+        report_failed_open(deck, pending);
+    else
+        accept_opened(deck);
+}
+
+bool DeckLoading::is_file_chosen() const {
+    return desk_.chain.ajout_externe.is_true() || desk_.chain.maj_depuis_ajout.is_true();
+}
+
+void DeckLoading::go_to_music_folder() {
+    const std::string& folder = desk_.settings.chemin_musique;
+    if (folder.empty())
+        return;
+    desk_.platform.disk.ChDrive(folder);
+    desk_.platform.disk.ChDir(folder);
 }
 
 bool DeckLoading::choose_file(Deck& deck) {
-    if (desk_.chain.ajout_externe.is_true() || desk_.chain.maj_depuis_ajout.is_true())
-        return true;
     const ChosenFile chosen = desk_.platform.dialogs.open_file(
         {"Ouvrir un fichier multimédia", desk_.settings.chemin_musique, "", std::string{media_filter}});
     if (chosen.cancelled || chosen.file_name.empty())
@@ -172,16 +200,7 @@ bool DeckLoading::choose_file(Deck& deck) {
     return true;
 }
 
-void DeckLoading::render_by_hand(Deck& deck) {
-    deck.graph().RenderFile(deck.path);
-    desk_.chain.duree_mesuree = deck.graph().get_Duration();
-    if (desk_.chain.duree_mesuree < shortest_good_file)
-        throw Failure{failure_number::unplayable_file, deck.path};
-    format_duration();
-    show_loaded(deck);
-    desk_.chain.duree_piste_texte.clear();
-    volume_.adjust(deck);
-    deck.controls.counter.caption = text_of(deck.whole_duration());
+void DeckLoading::accept_opened(Deck& deck) {
     set_bar(deck);
     ecrire_path_fichier(deck.path);
     if (!desk_.is_manual())
@@ -258,6 +277,9 @@ void DeckLoading::format_duration() {
 
 void DeckLoading::show_loaded(Deck& deck) {
     deck.controls.title.caption = desk_.chain.duree_piste_texte + " ( " + desk_.destination.dest_nom_fichier + " )";
+    deck.controls.special_mix.hint = "Mixage spécial sur lecteur en cours (" +
+                                     std::string{deck_names[static_cast<std::size_t>(deck.number() - 1)].mix_key} +
+                                     ") avec : " + deck.path;
 }
 
 void DeckLoading::set_bar(Deck& deck) {

@@ -58,9 +58,12 @@ private:
     void show_loaded(Deck& deck);
     /// The bar's range, for files of a second and more.
     void set_bar(Deck& deck);
+    /// The file of a deck was dragged on it.
+    [[nodiscard]] bool is_file_chosen() const;
+    void go_to_music_folder();
     [[nodiscard]] bool choose_file(Deck& deck);
+    void accept_opened(Deck& deck);
     void report_failed_open(Deck& deck, const Failure& failure);
-    void render_by_hand(Deck& deck);
 
     Desk& desk_;
     DeckVolume& volume_;

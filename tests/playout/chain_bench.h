@@ -54,6 +54,24 @@ protected:
         return rows;
     }
 
+    [[nodiscard]] DeckControls& controls(int deck) { return station.main_window.deck(deck); }
+
+    /// Loads a file on a deck with its open button.
+    void open_on(int deck, std::string_view path) {
+        machine.dialogs.expect_open(path);
+        controls(deck).open.click();
+    }
+
+    /// Loads a new file of this length on each deck, by hand.
+    void open_on_all(const std::vector<double>& lengths) {
+        for (int deck = 1; deck <= static_cast<int>(lengths.size()); ++deck) {
+            machine.add_track(track(deck), lengths[static_cast<std::size_t>(deck - 1)]);
+            open_on(deck, track(deck));
+        }
+    }
+
+    [[nodiscard]] std::string journal_text() const { return machine.disk.bytes("C:\\Sonarelle\\journal.doc"); }
+
     std::vector<std::pair<Frames, OnAirEvent>> events;
 };
 

@@ -86,6 +86,10 @@ struct Antenne_FM : Window {
     [[nodiscard]] std::array<MenuItem*, 4> fade_rules() {
         return {&Active_audio_jingles, &Active_audio, &Active_audio_zapping, &Désactive_audio};
     }
+    /// Play, special mix and unload of the decks, by deck.
+    [[nodiscard]] std::array<MenuItem*, 3> play_entries() { return {&lire_1, &lire_2, &lire_3}; }
+    [[nodiscard]] std::array<MenuItem*, 3> special_mix_entries() { return {&Mix1, &Mix2, &Mix3}; }
+    [[nodiscard]] std::array<MenuItem*, 3> unload_entries() { return {&A_décharge_1, &A_décharge_2, &A_décharge_3}; }
     [[nodiscard]] std::array<MenuItem*, 3> chain_modes() { return {&a_mode_manuel, &a_mode_auto, &a_mode_predefini}; }
     [[nodiscard]] std::array<MenuItem*, 3> journal_choices() {
         return {&Active_journal1, &Active_journal, &A_desacive_J};

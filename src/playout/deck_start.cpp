@@ -12,8 +12,8 @@ DeckStart::DeckStart(Desk& desk, DeckLoading& loading, DeckVolume& volume, MixEn
     : desk_{desk}, loading_{loading}, volume_{volume}, mix_{mix}, journal_{journal} {}
 
 void DeckStart::press_play(Deck& deck) {
-    if (desk_.row_count() == 0)
-        desk_.window.coche2.set_value(true);
+    if (desk_.row_count() == 0 && !desk_.is_manual() && choose_chain_over_decks)
+        choose_chain_over_decks();
     for (Integer* marker : {&desk_.chain.index_debut_aleatoire, &desk_.chain.index_debut_aleatoire1})
         if (*marker == 0)
             *marker = desk_.list.index_en_cours;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "playout/deck_loading.h"
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
@@ -22,6 +24,9 @@ public:
 
     /// The play button: a list without rows means the chain over decks.
     void press_play(Deck& deck);
+
+    /// Chooses the chain over decks, with all that goes with it, even where the choice is shown already.
+    std::function<void()> choose_chain_over_decks;
 
     void stop_play1() { clear_display(desk_.deck(1)); }
     void stop_play2() { clear_display(desk_.deck(2)); }

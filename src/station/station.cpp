@@ -48,6 +48,7 @@ Station::Station(const Platform& platform)
     connect_timers();
     connect_chain_choices();
     connect_menus();
+    connect_play_menu();
     connect_keys();
     for (Deck& deck : desk.decks)
         connect_deck(deck);
@@ -102,6 +103,10 @@ void Station::connect_timers() {
 }
 
 void Station::connect_chain_choices() {
+    deck_start.choose_chain_over_decks = [this] {
+        main_window.coche2.show_value(true);
+        chain_modes.coche2_Click();
+    };
     main_window.coche2.on_click = [this] { chain_modes.coche2_Click(); };
     main_window.coche3.on_click = [this] { chain_modes.coche3_Click(); };
     main_window.coche4.on_click = [this] { mix_engine.coche4_Click(); };
@@ -124,6 +129,30 @@ void Station::connect_menus() {
     main_window.A_desacive_J.on_click = [this] { journal.A_desacive_J_Click(); };
     main_window.A_purger_journal.on_click = [this] { journal.A_purger_journal_Click(); };
     main_window.A_ouvre_journal.on_click = [this] { journal.A_ouvre_journal_Click(); };
+}
+
+// Two entries of the main deck are greyed whenever the menu opens; without a main deck they stay as they are.
+void Station::connect_play_menu() {
+    for (Deck& deck : desk.decks) {
+        const auto place = static_cast<std::size_t>(deck.number() - 1);
+        main_window.play_entries()[place]->on_click = [this, &deck] { press_play(deck); };
+        main_window.special_mix_entries()[place]->on_click = [this, &deck] { mix_engine.special_mix(deck); };
+        main_window.unload_entries()[place]->on_click = [this, &deck] { deck_transport.unload(deck); };
+    }
+    main_window.lire_play.on_open = [this] {
+        if (!desk.has_main_deck())
+            return;
+        for (const Deck& deck : desk.decks) {
+            const auto place = static_cast<std::size_t>(deck.number() - 1);
+            const bool main = chain.lecteur_en_cours == deck.number();
+            main_window.play_entries()[place]->enabled = !main;
+            main_window.special_mix_entries()[place]->enabled = !main;
+        }
+    };
+}
+
+void Station::press_play(Deck& deck) {
+    ErrorIndicator{}.skip([&] { deck_start.press_play(deck); });
 }
 
 // The letters of the main window, each with its action. Letters have their two cases where the table has them.
@@ -165,8 +194,8 @@ void Station::connect_deck(Deck& deck) {
     DeckControls& controls = deck.controls;
     controls.open.on_click = [this, &deck] { deck_loading.open_by_hand(deck); };
     controls.zap.on_click = [this, &deck] { zapping.press_zap(deck); };
-    controls.play.on_click = [this, &deck] { ErrorIndicator{}.skip([&] { deck_start.press_play(deck); }); };
-    controls.stop.on_click = [this, &deck] { deck_transport.stop(deck); };
+    controls.play.on_click = [this, &deck] { press_play(deck); };
+    controls.stop.on_click = [this, &deck] { stop_deck(deck); };
     controls.pause.on_click = [this, &deck] { deck_transport.toggle_pause(deck); };
     controls.forward.on_click = [this, &deck] { deck_transport.forward(deck); };
     controls.back.on_click = [this, &deck] { deck_transport.back(deck); };
@@ -176,6 +205,13 @@ void Station::connect_deck(Deck& deck) {
     controls.louder.on_click = [this, &deck] { deck_volume.step(deck, -1); };
     controls.quieter.on_click = [this, &deck] { deck_volume.step(deck, 1); };
     controls.scroll_timer.on_tick = [&deck] { DeckVolume::scroll_title(deck); };
+}
+
+// A list that looks for its next track gives up when the operator stops the one that plays.
+void Station::stop_deck(Deck& deck) {
+    if (chain.lecteur_en_cours == deck.number())
+        auto_chain.cancel_walks();
+    deck_transport.stop(deck);
 }
 
 void Station::load_row_on_deck(int deck) {

@@ -93,7 +93,10 @@ private:
     void connect_chain_choices();
     void connect_menus();
     void connect_keys();
+    void connect_play_menu();
     void connect_deck(Deck& deck);
+    void stop_deck(Deck& deck);
+    void press_play(Deck& deck);
     void warn_of_null_volume();
     void load_row_on_deck(int deck);
 };

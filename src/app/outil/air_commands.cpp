@@ -19,14 +19,14 @@ constexpr Option gestures_option{"--gestes", true};
 constexpr Option output_option{"--sortie", true};
 constexpr Option journal_option{"--journal", false};
 
-std::vector<Gesture> gestures_of(const Arguments& arguments) {
+std::vector<Gesture> gestures_of(const Arguments& arguments, const DriveTable& drives) {
     if (!arguments.has(gestures_option.name))
         return {};
     const std::string file = arguments.value(gestures_option.name, "");
     std::ifstream in{file};
     if (!in)
         throw Failure{failure_number::file_not_found, file};
-    return read_gestures(in, file);
+    return read_gestures(in, file, drives);
 }
 
 void rehearse(const Call& call) {
@@ -38,8 +38,8 @@ void rehearse(const Call& call) {
     rehearsal.without_sound = call.arguments.has(silent_option.name);
     if (rehearsal.without_sound && rehearsal.rendering)
         throw WrongWords{"--rendu et --sans-son s'excluent"};
-    rehearsal.gestures = gestures_of(call.arguments);
     rehearsal.drives = machine.drives();
+    rehearsal.gestures = gestures_of(call.arguments, rehearsal.drives);
     rehearsal.stored_settings = machine.settings().all(settings_application);
     static_cast<void>(machine.open(rehearsal.programme.list));
     run_rehearsal(rehearsal, call.out);

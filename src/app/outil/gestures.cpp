@@ -4,7 +4,9 @@
 #include <istream>
 #include <sstream>
 
+#include "platform/drive_table.h"
 #include "platform/failure.h"
+#include "platform/host/machine_paths.h"
 #include "platform/numbers.h"
 #include "platform/simulated/simulated_dialogs.h"
 #include "platform/text.h"
@@ -47,6 +49,10 @@ public:
         return text;
     }
     [[nodiscard]] bool is_over() { return (in_ >> std::ws).eof(); }
+    void expect_end() {
+        if (!is_over())
+            throw Failure{failure_number::wrong_call, "", "il y a un mot en trop"};
+    }
     [[nodiscard]] int deck() {
         const std::string number = word();
         if (number != "1" && number != "2" && number != "3")
@@ -70,7 +76,12 @@ Act act_on_deck(std::string_view gesture, Line& line) {
     throw Failure{failure_number::wrong_call, std::string{gesture}, "geste inconnu"};
 }
 
-Act act_of(Line& line) {
+/// A script names files as the command line does, or as lists do.
+std::string station_file(const std::string& file, const DriveTable& drives) {
+    return file.starts_with('/') ? station_path_of(drives, file) : file;
+}
+
+Act act_of(Line& line, const DriveTable& drives) {
     const std::string gesture = line.word();
     if (gesture == "zap" && line.is_over())
         return [](Station& station, SimulatedDialogs&) { station.main_window.key_press(U'z'); };
@@ -83,7 +94,7 @@ Act act_of(Line& line) {
     }
     if (gesture == "charge") {
         const int deck = line.deck();
-        const std::string file = line.rest();
+        const std::string file = station_file(line.rest(), drives);
         return [deck, file](Station& station, SimulatedDialogs& dialogs) {
             dialogs.expect_open(file);
             station.main_window.deck(deck).open.click();
@@ -103,24 +114,34 @@ Act act_of(Line& line) {
     return act_on_deck(gesture, line);
 }
 
-Gesture gesture_of(const std::string& text) {
+double time_of(const std::string& word) {
+    try {
+        return to_double(word, DecimalMark::point);
+    } catch (const Failure&) {
+        throw Failure{failure_number::type_mismatch, word, "un temps en secondes est attendu"};
+    }
+}
+
+Gesture gesture_of(const std::string& text, const DriveTable& drives) {
     Line line{text};
-    const double at = to_double(line.word(), DecimalMark::point);
+    const double at = time_of(line.word());
     if (at < 0)
         throw Failure{failure_number::wrong_call, text, "le temps d'un geste n'est pas négatif"};
-    return {nearest_frame(at), act_of(line)};
+    Act act = act_of(line, drives);
+    line.expect_end();
+    return {nearest_frame(at), std::move(act)};
 }
 
 } // namespace
 
-std::vector<Gesture> read_gestures(std::istream& in, const std::string& source) {
+std::vector<Gesture> read_gestures(std::istream& in, const std::string& source, const DriveTable& drives) {
     std::vector<Gesture> gestures;
     std::string text;
     for (int number = 1; std::getline(in, text); ++number) {
         if (trim(text).empty() || trim(text).starts_with('#'))
             continue;
         try {
-            gestures.push_back(gesture_of(text));
+            gestures.push_back(gesture_of(text, drives));
         } catch (const Failure& failure) {
             throw Failure{failure.number, source + ", ligne " + std::to_string(number), failure.what()};
         }

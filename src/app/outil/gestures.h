@@ -10,6 +10,7 @@
 
 namespace sonarelle {
 
+class DriveTable;
 class SimulatedDialogs;
 
 /// What the operator's hands do at a time of the rehearsal.
@@ -19,7 +20,8 @@ struct Gesture {
 };
 
 /// Reads lines of `SECONDES GESTE`; empty lines and those that begin with # are left out.
+/// Files may be paths of this machine.
 /// @throws Failure naming `source`, the line and what is wrong with it.
-[[nodiscard]] std::vector<Gesture> read_gestures(std::istream& in, const std::string& source);
+[[nodiscard]] std::vector<Gesture> read_gestures(std::istream& in, const std::string& source, const DriveTable& drives);
 
 } // namespace sonarelle

@@ -146,7 +146,7 @@ private:
 
     void start(const std::string& list) {
         begins_at(clock_.now());
-        start_programme(*station_, dialogs_, list, live_.programme.mode);
+        start_programme(*station_, dialogs_, live_.programme, list);
         length_ = live_.programme.length.value_or(length_of_list(*station_));
         look_.enable();
     }

@@ -90,16 +90,16 @@ std::vector<Setting> changed_settings(const Arguments& arguments) {
     return settings;
 }
 
-void start_programme(Station& station, SimulatedDialogs& dialogs, const std::string& list, ReadingMode mode) {
+void start_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list) {
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
     RowTable& rows = station.list_window.ListView1;
     if (rows.count() == 0)
-        throw Failure{failure_number::file_not_found, list, "aucun enregistrement à passer"};
+        throw Failure{failure_number::file_not_found, programme.list, "aucun enregistrement à passer"};
     rows.select(1);
-    if (mode == ReadingMode::decks)
+    if (programme.mode == ReadingMode::decks)
         return load_decks(station);
-    (mode == ReadingMode::list ? station.list_window.Option3 : station.list_window.Option4).click();
+    (programme.mode == ReadingMode::list ? station.list_window.Option3 : station.list_window.Option4).click();
     station.list_window.Image1.click();
 }
 

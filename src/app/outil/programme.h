@@ -40,9 +40,10 @@ inline constexpr Option setting_option{"--reglage", true};
 /// HH:MM:SS. @throws WrongWords.
 [[nodiscard]] Frames length_of(const std::string& text);
 
-/// Opens a list in a station as the operator does, chooses the reading mode and presses play.
+/// Opens the programme's list, which the station finds at this path of its own, as the operator does, chooses the
+/// reading mode and presses play.
 /// @throws Failure for a list without rows.
-void start_programme(Station& station, SimulatedDialogs& dialogs, const std::string& list, ReadingMode mode);
+void start_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list);
 
 /// The sum of the end points of a loaded list.
 [[nodiscard]] Frames length_of_list(Station& station);

@@ -41,7 +41,7 @@ public:
         station_->create_main_window();
         if (station_->settings.premier_lancement.is_true())
             throw Failure{failure_number::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
-        time_.event([&] { start_programme(*station_, dialogs_, list, rehearsal_.programme.mode); });
+        time_.event([&] { start_programme(*station_, dialogs_, rehearsal_.programme, list); });
     }
 
     void run() {

@@ -1,0 +1,411 @@
+#!/usr/bin/env python3
+"""The words `repetition` and `antenne` of sonarelle-outil: a programme in virtual time, and one paced by the clock."""
+import array
+import json
+import math
+import os
+import signal
+import struct
+import subprocess
+import tempfile
+import unittest
+import wave
+from pathlib import Path
+
+TOOL = os.environ["SONARELLE_OUTIL"]
+RECORD = struct.Struct("<200s100s100shd8s")
+RATE = 48000
+LOUD = 8000  # of a square wave; two of them stay below the limiter
+
+
+def write_wav(path, seconds, rate=8000, channels=1, width=1, period=bytes([96]) * 20 + bytes([160]) * 20):
+    frames = round(seconds * rate)
+    with wave.open(str(path), "wb") as sound:
+        sound.setnchannels(channels)
+        sound.setsampwidth(width)
+        sound.setframerate(rate)
+        size = frames * channels * width
+        sound.writeframes((period * (size // len(period) + 1))[:size])
+    return path
+
+
+def one_sided_period(side):
+    """A square wave of 1 kHz on one side, which is loud from its very first frame."""
+    frames = [LOUD] * 24 + [-LOUD] * 24
+    return b"".join(struct.pack("<hh", *((level, 0) if side == 0 else (0, level))) for level in frames)
+
+
+def record(path, end, start=0.0, volume=100):
+    return RECORD.pack(path.encode("cp1252").ljust(200), str(end).encode().ljust(100), b"Rock".ljust(100), volume, start,
+                       b"00:01:40")
+
+
+class Air(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name).resolve()
+        self.list = self.folder / "liste.dfm"
+
+    def station_path(self, file):
+        return "C:" + str(file).replace("/", "\\")
+
+    def make_list(self, *ends, length=None, start=0.0):
+        """Rows of these ends, each with a file of its own."""
+        files = [write_wav(self.folder / f"{number}.wav", length or end) for number, end in enumerate(ends, 1)]
+        self.list.write_bytes(b"".join(record(self.station_path(file), end, start)
+                                       for file, end in zip(files, ends, strict=True)))
+        return files
+
+    def words(self, *words):
+        return [TOOL, *map(str, words), "--dossier", str(self.folder / "station")]
+
+    def call(self, *words, status=0):
+        run = subprocess.run(self.words(*words), capture_output=True, check=False)
+        self.error = run.stderr.decode()
+        self.assertEqual(run.returncode, status, self.error)
+        return run.stdout.decode()
+
+    def rehearse(self, *words, status=0):
+        return [json.loads(line) for line in self.call("repetition", self.list, *words, status=status).splitlines()]
+
+    def rehearse_gestures(self, script, *words):
+        gestures = self.folder / "gestes.txt"
+        gestures.write_text(script, encoding="utf-8")
+        return self.rehearse("--sans-son", "--gestes", gestures, *words)
+
+    def times(self, events, kind, *fields):
+        return [tuple([event["t"], *(event[field] for field in fields)]) if fields else event["t"]
+                for event in events if event["evenement"] == kind]
+
+
+class Chaining(Air):
+    def test_loads_thirteen_and_starts_six_seconds_before_the_end(self):
+        self.make_list(100, 100, 100)
+        events = self.rehearse("--duree", "00:04:30")
+        self.assertEqual(self.times(events, "chargement", "lecteur"), [(0, 1), (87, 2), (181, 3)])
+        self.assertEqual(self.times(events, "depart", "lecteur", "index"), [(0, 1, 1), (94, 2, 2), (188, 3, 3)])
+
+    def test_tells_a_start_with_all_its_fields(self):
+        file, *_ = self.make_list(100, 100)
+        loaded, started = self.rehearse("--duree", "00:00:01")[:2]
+        self.assertEqual(loaded, {"t": 0.0, "evenement": "chargement", "lecteur": 1, "index": 1,
+                                  "chemin": self.station_path(file), "fin": "100"})
+        self.assertEqual(started, {"t": 0.0, "evenement": "depart", "lecteur": 1, "index": 1,
+                                   "chemin": self.station_path(file), "mix_courant": 6, "prechargement": 7})
+
+    def test_writes_times_with_three_decimals(self):
+        self.make_list(100, 100)
+        self.assertTrue(self.call("repetition", self.list, "--duree", "00:00:01").startswith('{"t":0.000,"evenement":'))
+
+    def test_fades_ends_and_cuts_the_outgoing_deck(self):
+        self.make_list(100, 100, 100)
+        events = self.rehearse("--duree", "00:02:00")
+        self.assertEqual(self.times(events, "fondu", "lecteur"), [(94.04, 1)])
+        self.assertEqual(self.times(events, "fin_fichier", "lecteur"), [(100, 1)])
+        self.assertEqual(self.times(events, "coupe", "lecteur"), [(107, 1)])
+
+    def test_starts_alike_with_a_start_position_of_a_tenth(self):
+        self.make_list(100, 100, 100, start=0.1)
+        events = self.rehearse("--duree", "00:04:30")
+        self.assertEqual(self.times(events, "depart"), [0, 94, 188])
+        self.assertEqual(self.times(events, "fin_fichier"), [99.9, 193.9])
+
+    def test_goes_round_the_list_until_its_length_is_over(self):
+        self.make_list(100, 100)
+        events = self.rehearse()
+        self.assertEqual(self.times(events, "depart", "index"), [(0, 1), (94, 2), (188, 1)])
+        self.assertEqual(events[-1], {"t": 200.0, "evenement": "bilan", "departs": 3, "silence_total": 0.0,
+                                      "charge_max_ms": events[-1]["charge_max_ms"]})
+
+    def test_follows_a_short_item_without_a_fade(self):
+        self.make_list(100, 20, 100)
+        events = self.rehearse("--duree", "00:02:10")
+        self.assertEqual(self.times(events, "depart"), [0, 94, 113])
+        self.assertEqual([event["mix_courant"] for event in events if event["evenement"] == "depart"], [6, 1, 6])
+
+    def test_plays_to_the_stored_end_in_list_mode_and_the_whole_file_in_full_mode(self):
+        self.make_list(60, 60, 60, length=100)
+        self.assertEqual(self.times(self.rehearse("--duree", "00:03:00"), "depart"), [0, 54, 108, 162])
+        self.assertEqual(self.times(self.rehearse("--duree", "00:03:00", "--mode", "pleine"), "depart"), [0, 94])
+
+    def test_chains_the_decks_in_deck_mode(self):
+        self.make_list(60, 60, 60, length=100)
+        events = self.rehearse("--duree", "00:03:00", "--mode", "lecteur")
+        self.assertEqual(self.times(events, "depart", "lecteur"), [(0, 1), (94, 2)])
+
+    def test_takes_settings_for_the_call(self):
+        self.make_list(100, 100)
+        events = self.rehearse("--duree", "00:02:00", "--reglage", "Mix=10", "--reglage", "Préchargement=12",
+                               "--reglage", "Mix_audio_vitesse=35")
+        self.assertEqual(self.times(events, "chargement"), [0, 78])
+        self.assertEqual(self.times(events, "depart"), [0, 90])
+        self.assertEqual(self.times(events, "fondu"), [90.035])
+        self.assertEqual(self.call("reglages", "--json"), "")
+
+    def test_takes_the_settings_of_the_store(self):
+        self.make_list(100, 100)
+        self.call("reglages", "premier")
+        self.call("reglages", "ecrire", "Config", "Mix", "20")
+        self.assertEqual(self.times(self.rehearse("--duree", "00:01:30"), "depart"), [0, 80])
+
+    def test_removes_the_row_of_a_missing_file(self):
+        first, missing, last = self.make_list(100, 100, 100)
+        missing.unlink()
+        events = self.rehearse("--duree", "00:02:00")
+        self.assertEqual(self.times(events, "retire", "index", "chemin"), [(87, 2, self.station_path(missing))])
+        started = [event["chemin"] for event in events if event["evenement"] == "depart"]
+        self.assertEqual(started, [self.station_path(first), self.station_path(last)])
+
+    def test_tells_silence_after_two_seconds_of_it(self):
+        write_wav(self.make_list(100, 100)[0], 100, period=bytes([128]))
+        events = self.rehearse("--duree", "00:02:00")
+        self.assertEqual(self.times(events, "silence"), [2])
+        self.assertEqual(events[-1]["silence_total"], 94.0)
+
+    def test_never_changes_the_list(self):
+        self.make_list(100, 100, 100)[1].unlink()
+        before = self.list.read_bytes()
+        self.rehearse_gestures("40 zap\n")
+        self.assertEqual(self.list.read_bytes(), before)
+        self.assertEqual(sorted(path.name for path in self.folder.glob("*.dfm")), ["liste.dfm"])
+
+
+class Repeating(Air):
+    def test_gives_the_same_bytes_for_the_same_words(self):
+        self.make_list(30, 40, 30)
+        runs = []
+        for name in ("a.wav", "b.wav"):
+            said = self.call("repetition", self.list, "--graine", "7", "--duree", "00:01:00", "--rendu",
+                             self.folder / name)
+            runs.append((said, (self.folder / name).read_bytes()))
+        self.assertEqual(runs[0][0], runs[1][0])
+        self.assertTrue(runs[0][1] == runs[1][1])
+
+    def test_gives_the_same_events_without_sound(self):
+        self.make_list(100, 40, 20, 100, start=0.1)
+        self.assertEqual(self.rehearse(), self.rehearse("--sans-son"))
+
+
+class Hands(Air):
+    def setUp(self):
+        super().setUp()
+        self.files = self.make_list(100, 100, 100)
+
+    def test_are_refused_a_zap_by_key_up_to_thirty_seconds(self):
+        events = self.rehearse_gestures("30.999 zap\n", "--duree", "00:00:40")
+        question, = [event for event in events if event["evenement"] == "question"]
+        self.assertEqual(question["t"], 30.999)
+        self.assertIn("30 secondes minimun sont demandées", question["texte"])
+        self.assertEqual(question["reponse"], "ok")
+        self.assertEqual(self.times(events, "depart"), [0])
+
+    def test_zap_by_key_at_thirty_one_seconds(self):
+        events = self.rehearse_gestures("31 zap\n", "--duree", "00:01:00")
+        self.assertEqual(self.times(events, "depart", "lecteur"), [(0, 1), (31, 2)])
+        self.assertEqual(self.times(events, "question"), [])
+        self.assertEqual(self.times(events, "coupe"), [44])
+
+    def test_zap_by_key_stores_the_new_end_in_the_list_of_the_run_alone(self):
+        before = self.list.read_bytes()
+        events = self.rehearse_gestures("50 zap\n", "--duree", "00:06:00")
+        self.assertEqual(self.times(events, "depart", "index"), [(0, 1), (50, 2), (144, 3), (238, 1), (282, 2)])
+        self.assertEqual(self.list.read_bytes(), before)
+
+    def test_zap_by_a_decks_button_at_any_time(self):
+        events = self.rehearse_gestures("5 zap 1\n", "--duree", "00:00:20")
+        self.assertEqual(self.times(events, "depart", "lecteur"), [(0, 1), (5, 2)])
+
+    def test_press_keys(self):
+        events = self.rehearse_gestures("31 touche z\n", "--duree", "00:00:40")
+        self.assertEqual(self.times(events, "depart"), [0, 31])
+
+    def test_pause_and_resume_a_deck(self):
+        events = self.rehearse_gestures("10 pause 1\n20 pause 1\n", "--duree", "00:02:00")
+        self.assertEqual(self.times(events, "silence"), [12])
+        self.assertEqual(self.times(events, "depart"), [0, 104])
+        self.assertEqual(events[-1]["silence_total"], 10.0)
+
+    def test_stop_a_deck(self):
+        events = self.rehearse_gestures("10 stop 1\n", "--duree", "00:00:30")
+        self.assertEqual(self.times(events, "silence"), [12])
+        self.assertEqual(events[-1]["silence_total"], 20.0)
+
+    def test_load_a_deck_and_play_it(self):
+        for path in (self.files[2], self.station_path(self.files[2])):
+            events = self.rehearse_gestures(f"10 charge 2 {path}\n12 play 2\n", "--duree", "00:00:20", "--mode", "lecteur")
+            self.assertEqual(self.times(events, "depart", "lecteur", "chemin")[1:],
+                             [(12, 2, self.station_path(self.files[2]))])
+
+    def test_may_be_written_out_of_order(self):
+        events = self.rehearse_gestures("# la soirée\n\n40 pause 1\n31 zap\n", "--duree", "00:00:35")
+        self.assertEqual(self.times(events, "depart"), [0, 31])
+
+    def test_are_refused_with_the_line_named(self):
+        for script, sentence in (("5 vol 1", "geste inconnu"), ("xx zap", "xx"), ("-5 zap", "négatif"),
+                                 ("5 stop 4", "un lecteur est 1, 2 ou 3"), ("5 stop", "il manque un mot"),
+                                 ("5", "il manque un mot"), ("5 stop 1 2", "un mot en trop"), ("5 volume 1", "manque")):
+            gestures = self.folder / "gestes.txt"
+            gestures.write_text("1 zap 1\n" + script + "\n", encoding="utf-8")
+            self.call("repetition", self.list, "--sans-son", "--gestes", gestures, status=1)
+            self.assertIn(f"{gestures}, ligne 2 : ", self.error)
+            self.assertIn(sentence, self.error)
+
+    def test_are_refused_when_their_script_is_missing(self):
+        self.call("repetition", self.list, "--gestes", self.folder / "absent.txt", status=1)
+        self.assertIn("absent.txt", self.error)
+
+
+class Words(Air):
+    def test_that_are_wrong(self):
+        self.make_list(100)
+        for words in ([], [""], [self.list, "x"], [self.list, "--duree", "10"], [self.list, "--duree", "0a:00:00"],
+                      [self.list, "--mode", "vite"], [self.list, "--graine", "x"], [self.list, "--reglage", "Mix"],
+                      [self.list, "--reglage", "Inconnu=1"], [self.list, "--xyz"], [self.list, "--duree"],
+                      [self.list, "--rendu", "a.wav", "--sans-son"]):
+            self.assertEqual(self.call("repetition", *words, status=2), "")
+            self.assertIn("Usage", self.error)
+
+    def test_of_a_list_that_is_not_there(self):
+        self.call("repetition", self.list, status=1)
+        self.assertIn(f"{self.list} : Fichier introuvable", self.error)
+
+    def test_of_a_list_without_rows(self):
+        self.list.write_bytes(b"")
+        self.assertEqual(self.call("repetition", self.list, status=1), "")
+        self.assertIn(str(self.list), self.error)
+        self.assertEqual(self.error.count("\n"), 1)
+
+    def test_of_a_rendering_that_cannot_be_written(self):
+        self.make_list(100, 100)
+        self.call("repetition", self.list, "--rendu", self.folder / "absent/a.wav", status=1)
+        self.assertIn("absent/a.wav", self.error)
+
+
+class Rendering(Air):
+    """Tracks that sound on one side each, in turns, so that each can be heard alone."""
+
+    def render(self, *words, seconds):
+        paths = [self.station_path(write_wav(self.folder / f"{side}.wav", 60, RATE, 2, 2, one_sided_period(side)))
+                 for side in (0, 1)]
+        self.list.write_bytes(b"".join(record(path, 40) for path in paths))
+        rendering = self.folder / "air.wav"
+        self.events = self.rehearse("--rendu", rendering, "--duree", f"00:00:{seconds}", *words)
+        with wave.open(str(rendering), "rb") as sound:
+            self.assertEqual((sound.getframerate(), sound.getnchannels(), sound.getsampwidth()), (RATE, 2, 2))
+            frames = array.array("h", sound.readframes(sound.getnframes()))
+        self.assertEqual(len(frames), seconds * RATE * 2)
+        return frames[0::2], frames[1::2]
+
+    def level(self, side, seconds):
+        """In dB of full loudness, over the 10 ms before this time."""
+        end = round(seconds * RATE)
+        return 20 * math.log10(max(1, *map(abs, side[end - 480:end])) / LOUD)
+
+    def check_fall(self, step, seconds):
+        left, _ = self.render("--reglage", f"Mix_audio_vitesse={step}", seconds=seconds)
+        self.assertEqual(self.times(self.events, "fondu"), [round(34 + step / 1000, 3)])
+        for count in (0, 1, 10, 100, 300):
+            self.assertAlmostEqual(self.level(left, 34 + (count + 1) * step / 1000), -0.1 * count, delta=0.03,
+                                   msg=f"after {count} steps")
+
+    def test_starts_on_the_very_frame(self):
+        left, right = self.render(seconds=36)
+        self.assertEqual(self.times(self.events, "depart"), [0, 34])
+        self.assertEqual(next(i for i, sample in enumerate(left) if sample != 0), 0)
+        self.assertEqual(next(i for i, sample in enumerate(right) if sample != 0), 34 * RATE)
+        self.assertEqual(right[34 * RATE:34 * RATE + 48], array.array("h", [LOUD] * 24 + [-LOUD] * 24))
+
+    def test_falls_by_a_tenth_of_a_decibel_every_40_ms(self):
+        self.check_fall(40, 47)
+
+    def test_falls_by_a_tenth_of_a_decibel_every_35_ms(self):
+        self.check_fall(35, 47)
+
+    def test_cuts_the_outgoing_deck_at_the_limit(self):
+        left, _ = self.render(seconds=50)
+        self.assertEqual(self.times(self.events, "coupe", "lecteur"), [(47, 1)])
+        self.assertNotEqual(max(left[47 * RATE - 48:47 * RATE]), 0)
+        self.assertEqual(set(left[47 * RATE + RATE // 100:]), {0})
+
+    def test_is_heard_by_its_volume(self):
+        path = self.station_path(write_wav(self.folder / "a.wav", 60, RATE, 2, 2, one_sided_period(0)))
+        self.list.write_bytes(record(path, 60, volume=80) + record(path, 60))
+        rendering = self.folder / "air.wav"
+        self.rehearse("--rendu", rendering, "--duree", "00:00:02")
+        with wave.open(str(rendering), "rb") as sound:
+            left = array.array("h", sound.readframes(sound.getnframes()))[0::2]
+        self.assertAlmostEqual(self.level(left, 1.0), -8.0, delta=0.03)
+
+
+class PacedByTheClock(Air):
+    def events_of(self, text):
+        return [json.loads(line) for line in text.splitlines()]
+
+    def test_runs_for_its_length_and_ends_with_the_account(self):
+        self.make_list(100, 100)
+        events = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:05"))
+        self.assertEqual(self.times(events, "depart", "lecteur", "index"), [(0, 1, 1)])
+        self.assertEqual(events[-1], {"t": 5.0, "evenement": "bilan", "departs": 1, "silence_total": 0.0,
+                                      "charge_max_ms": events[-1]["charge_max_ms"]})
+        self.assertEqual(self.error, "")
+
+    def test_starts_as_the_rehearsal_does(self):
+        self.make_list(8, 8, 8)
+        words = ["--duree", "00:00:16", "--reglage", "Mix=3", "--reglage", "Préchargement=2",
+                 "--reglage", "Valeur_max_jingles=5"]
+        aired = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", *words))
+        rehearsed = self.rehearse(*words)
+        for kind in ("chargement", "depart", "fondu", "coupe"):
+            self.assertEqual(self.times(aired, kind, "lecteur"), self.times(rehearsed, kind, "lecteur"))
+        self.assertGreater(len(self.times(aired, "depart")), 2)
+
+    def test_ends_at_once_by_the_interrupt_key(self):
+        self.make_list(100, 100)
+        before = self.list.read_bytes()
+        air = subprocess.Popen(self.words("antenne", self.list, "--sortie", "aucune"), stdout=subprocess.PIPE,
+                               stderr=subprocess.PIPE, text=True)
+        self.addCleanup(air.stderr.close)
+        self.addCleanup(air.stdout.close)
+        self.addCleanup(air.kill)
+        while '"depart"' not in air.stdout.readline():
+            pass
+        air.send_signal(signal.SIGINT)
+        said = air.stdout.read()
+        self.assertEqual(air.wait(), 0, air.stderr.read())
+        events = self.events_of(said)
+        self.assertEqual([event["evenement"] for event in events[-2:]], ["arret", "bilan"])
+        self.assertEqual(events[-1]["departs"], 1)
+        journal = (self.folder / "station/journal.doc").read_bytes().decode("cp1252")
+        self.assertIn("Lecture de " + self.station_path(self.folder / "1.wav"), journal)
+        self.assertIn(" Arrét lecture liste a ", journal.splitlines()[-1])
+        self.assertTrue(journal.endswith("\r\n"))
+        self.assertEqual(self.list.read_bytes(), before)
+
+    def test_shows_the_journal_in_place_of_the_events(self):
+        self.make_list(100, 100)
+        said = self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:01", "--journal")
+        self.assertIn("Lecture de " + self.station_path(self.folder / "1.wav"), said)
+        self.assertNotIn('"depart"', said)
+
+    def test_keeps_the_settings_of_the_store(self):
+        self.make_list(100, 100)
+        self.call("reglages", "premier")
+        before = self.call("reglages", "--json")
+        self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:01", "--reglage", "Mix=9")
+        self.assertEqual(self.call("reglages", "--json"), before)
+
+    def test_refuses_wrong_words(self):
+        self.make_list(100, 100)
+        self.call("antenne", status=2)
+        self.call("antenne", "", status=2)
+        self.call("antenne", self.list, "--duree", "5", status=2)
+
+    def test_refuses_a_list_without_rows(self):
+        self.list.write_bytes(b"")
+        self.call("antenne", self.list, "--sortie", "aucune", status=1)
+        self.assertIn(str(self.list), self.error)
+
+
+if __name__ == "__main__":
+    unittest.main()

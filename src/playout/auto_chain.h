@@ -73,6 +73,7 @@ private:
     [[nodiscard]] bool is_due(Deck& deck, Integer point);
     void play_ring(int deck);
 
+    void overlap_tick();
     void release(Deck& main, Deck& old);
     void fade(Deck& old);
     [[nodiscard]] Trap trap_of(Timer& timer, const std::string& name);

@@ -82,16 +82,24 @@ void AutoChain::Timer3_tick() {
         return mix_.Pas_demix_audio();
     if (!desk_.has_main_deck())
         return;
-    trap_of(desk_.window.Timer3, "T3")([this] {
-        Deck& main = desk_.main_deck();
-        Deck& old = desk_.deck(previous_deck(main.number()));
-        desk_.window.Label5.caption = text_of(main.whole_position());
-        const Integer limit = desk_.chain.position_zap + desk_.settings.mix_audio;
-        if (desk_.window.Active_audio_zapping.checked || desk_.window.Active_audio.checked)
-            fade(old);
-        if (desk_.elapsed() == limit)
-            release(main, old);
-    });
+    try {
+        overlap_tick();
+    } catch (const Failure& failure) {
+        // Without its fade the list still plays on.
+        desk_.window.Timer3.disable();
+        desk_.warn(std::string{failure.what()} + "\n" + std::to_string(failure.number));
+    }
+}
+
+void AutoChain::overlap_tick() {
+    Deck& main = desk_.main_deck();
+    Deck& old = desk_.deck(previous_deck(main.number()));
+    desk_.window.Label5.caption = text_of(main.whole_position());
+    const Integer limit = desk_.chain.position_zap + desk_.settings.mix_audio;
+    if (desk_.window.Active_audio_zapping.checked || desk_.window.Active_audio.checked)
+        fade(old);
+    if (desk_.elapsed() == limit)
+        release(main, old);
 }
 
 void AutoChain::fade(Deck& old) {

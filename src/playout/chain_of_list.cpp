@@ -5,7 +5,7 @@ namespace sonarelle {
 
 void AutoChain::Timer4_tick() {
     if (desk_.window.Active_audio_jingles.checked) {
-        ErrorIndicator{}.skip([this] { mix_.serve_special_mix(); });
+        trap_of(desk_.window.Timer4, "T4")([this] { mix_.serve_special_mix(); });
         return;
     }
     if (desk_.chain.chaine_suspendue.is_true() || mix_walk_.under_way())
@@ -77,6 +77,7 @@ bool AutoChain::is_candidate() {
 }
 
 void AutoChain::load_and_play(Deck& old) {
+    load_walk_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
     reading_.lire_enreg_destinataire();

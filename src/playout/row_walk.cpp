@@ -22,8 +22,18 @@ void RowWalk::cancel() {
     step_ = {};
 }
 
-// The step is kept alive by the copy: what it starts may cancel the walk.
+// A step that fails ends the walk: the next one must not find it still under way.
 void RowWalk::take_a_turn() {
+    try {
+        walk_round();
+    } catch (...) {
+        cancel();
+        throw;
+    }
+}
+
+// The step is kept alive by the copy: what it starts may cancel the walk.
+void RowWalk::walk_round() {
     const Step step = step_;
     const int rows = std::max(1, turn_());
     for (int row = 0; row < rows && step_; ++row)

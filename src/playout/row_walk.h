@@ -23,6 +23,7 @@ public:
 
 private:
     void take_a_turn();
+    void walk_round();
 
     Timer pause_;
     Step step_;

@@ -146,6 +146,8 @@ void RunControl::remove_row(const std::string& heading) {
     document_.sauve_tout();
     desk_.report(
         {OnAirEvent::Kind::removed, 0, desk_.list.index_en_cours.value(), desk_.list.chemin_fichier, {}, 0, 0, {}});
+    if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
+        desk_.list.ligne_en_lecture -= 1;
     desk_.list.index_en_cours -= 1;
     report_missing(heading, "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }

@@ -31,10 +31,13 @@ void Zapping::zapping() {
 void Zapping::press_zap(Deck& old) {
     if (desk_.is_manual())
         return;
-    if (is_list_mode())
+    if (!is_list_mode())
+        return zap(old);
+    try {
         chain_.automatic_zap(old);
-    else
-        zap(old);
+    } catch (const Failure& failure) {
+        tell(failure.what(), Icon::none);
+    }
 }
 
 bool Zapping::is_list_mode() const {

@@ -46,8 +46,7 @@ TEST_F(DeckLoadingTest, OpenButtonAsksInTheMusicFolder) {
     open_on(3, song);
     EXPECT_EQ(machine.dialogs.last().title, "Ouvrir un fichier multimédia");
     EXPECT_EQ(machine.dialogs.last().folder, "C:\\Sonarelle\\");
-    EXPECT_EQ(machine.dialogs.last().filter.substr(0, 61),
-              "fichier multimédia |*.mp3;*.wav;*.wma;*.mid;*.avi;*.mpg|fichi");
+    EXPECT_EQ(machine.dialogs.last().filter.find("fichier multimédia |*.mp3;*.wav;*.wma;*.mid;*.avi;*.mpg|"), 0U);
 }
 
 TEST_F(DeckLoadingTest, OpenButtonRemembersTheFolder) {

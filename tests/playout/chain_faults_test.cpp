@@ -1,0 +1,215 @@
+// What goes wrong on the air, and what the chain makes of it.
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Kind = OnAirEvent::Kind;
+using Paths = std::vector<std::string>;
+
+class ChainFaultsTest : public ChainBench {
+protected:
+    [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
+    void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
+};
+
+} // namespace
+
+TEST_F(ChainFaultsTest, ListWhoseNextDriveIsGoneIsStoppedAtTheLoad) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100});
+    machine.disk.put_file("E:\\a.mp3");
+    rows().append({"E:\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(2);
+    start_list();
+    machine.disk.remove_drive("E");
+    play_for(88);
+    EXPECT_EQ(station.main_window.Label7.caption.get().substr(0, 6), "Play 1");
+    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_EQ(station.main_window.Label5.caption.get(), "88");
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_NE(journal_text().find(" Erreur au chargement de fichier...liste stopp\xE9"
+                                  "e\r\n"),
+              std::string::npos);
+}
+
+TEST_F(ChainFaultsTest, DriveThatIsStillGoneAtTheMixPointEndsTheChain) {
+    open_tracks({100});
+    rows().append({"E:\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    play_for(95);
+    EXPECT_FALSE(station.main_window.Timer4.enabled());
+    EXPECT_EQ(warning().substr(0, 21), "ATTENTION ERREUR ! T4");
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+}
+
+TEST_F(ChainFaultsTest, ListWhoseNextFolderIsGoneIsStoppedAtTheLoad) {
+    open_tracks({100});
+    rows().append({"C:\\Parti\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    play_for(88);
+    EXPECT_EQ(times_of(Kind::stopped), (Times{{87, 0}}));
+}
+
+TEST_F(ChainFaultsTest, WarningNamesTheKeyThatHelps) {
+    open_tracks({3, 100});
+    machine.media.set_unplayable(track(2));
+    start_list();
+    play_for(3);
+    EXPECT_NE(warning().find("\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\n"
+                             "Revoir la sélection"),
+              std::string::npos);
+    EXPECT_EQ(station.warning_window.caption.get(), "ATTENTION ERREUR");
+}
+
+TEST_F(ChainFaultsTest, ItemTooShortForALoadStepBeforeAnUnplayableFileStopsTheList) {
+    open_tracks({3, 100, 100});
+    machine.media.set_unplayable(track(2));
+    start_list();
+    play_for(3);
+    EXPECT_EQ(warning().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
+    EXPECT_FALSE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.coche2.value());
+}
+
+TEST_F(ChainFaultsTest, ItemTooShortForALoadStepBeforeAMissingFileGoesOn) {
+    open_tracks({3, 100, 100});
+    machine.disk.Kill(track(2));
+    start_list();
+    play_for(3);
+    EXPECT_EQ(machine.media.on_air().back(), track(3));
+    EXPECT_EQ(rows().count(), 2);
+}
+
+TEST_F(ChainFaultsTest, LostGraphOfASpecialMixStopsTheListAloud) {
+    open_tracks({100, 100});
+    start_list();
+    machine.add_track("C:\\jingle.mp3", 5);
+    station.chain.chemin_lecture3 = "C:\\jingle.mp3";
+    controls(3).special_mix.click();
+    station.main_window.A_décharge_3.click();
+    play_for(2);
+    EXPECT_EQ(warning().substr(0, 21), "ATTENTION ERREUR ! T4");
+}
+
+TEST_F(ChainFaultsTest, FaultOfTheFadeLeavesTheListRunning) {
+    open_tracks({100, 100, 100});
+    start_list();
+    play_for(95);
+    station.chain.position_zap = 32767;
+    play_for(1);
+    EXPECT_FALSE(station.main_window.Timer3.enabled());
+    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_EQ(warning().substr(warning().find('\n')), "\n6");
+    play_for(100);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3}));
+}
+
+TEST_F(ChainFaultsTest, ZapButtonBeforeALostDriveSaysSo) {
+    open_tracks({100});
+    rows().append({"E:\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    play_for(5);
+    machine.dialogs.expect_box("E:\\a.mp3", Answer::ok);
+    controls(1).zap.click();
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+}
+
+TEST_F(ChainFaultsTest, LoadStepThatFailedIsTriedAgainInTheNextTrack) {
+    open_tracks({100, 100, 100, 100});
+    start_list();
+    play_for(80);
+    machine.disk.refuse("C:\\Musique", 70);
+    play_for(10);
+    machine.disk.heal("C:\\Musique");
+    play_for(10);
+    ASSERT_EQ(times_of(Kind::started).back(), (std::pair<double, int>{94, 2}));
+    play_for(82);
+    EXPECT_EQ(times_of(Kind::loaded).back(), (std::pair<double, int>{181, 3}));
+}
+
+TEST_F(ChainFaultsTest, RemovedRowKeepsTheMarkOnTheRowThatPlays) {
+    open_tracks({100, 100, 100});
+    machine.disk.Kill(track(1));
+    rows().select(3);
+    start_list();
+    play_for(90);
+    EXPECT_EQ(rows().count(), 2);
+    EXPECT_EQ(station.list.ligne_en_lecture, 2);
+}
+
+TEST_F(ChainFaultsTest, NetworkPathIsNotLookedFor) {
+    station.main_window.Active_journal.click();
+    open_tracks({100});
+    machine.disk.add_drive("\\\\serveur\\son");
+    machine.add_track("\\\\serveur\\son\\a.mp3", 100);
+    rows().append({"\\\\serveur\\son\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    play_for(95);
+    EXPECT_EQ(machine.media.on_air().back(), "\\\\serveur\\son\\a.mp3");
+    EXPECT_NE(journal_text().find(" Pas de v\xE9rification d'existence de fichier (fichier sur le r\xE9seau)\r\n"),
+              std::string::npos);
+}
+
+TEST_F(ChainFaultsTest, RowWhoseNetworkFileIsMissingIsRemoved) {
+    open_tracks({100, 100});
+    rows().append({"\\\\serveur\\son\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(2);
+    start_list();
+    play_for(95);
+    EXPECT_EQ(rows().count(), 2);
+    EXPECT_EQ(machine.media.on_air().back(), track(1));
+}
+
+TEST_F(ChainFaultsTest, LastRowThatCannotBePlayedStopsTheList) {
+    open_tracks({100, 100});
+    start_list();
+    rows().remove(1);
+    station.list_document.sauve_tout();
+    machine.disk.Kill(track(2));
+    play_for(100);
+    EXPECT_EQ(rows().count(), 0);
+    EXPECT_FALSE(times_of(Kind::stopped).empty());
+}
+
+TEST_F(ChainFaultsTest, FileBelowOneSecondInAListStandsStill) {
+    machine.add_track("C:\\court.mp3", 0.9);
+    machine.add_track("C:\\b.mp3", 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\court.mp3", "0.40", 100, 0.0), record_of("C:\\b.mp3")});
+    rows().select(1);
+    start_list();
+    play_for(60);
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ChainFaultsTest, ListOfTheSameFileOnlyPlaysOut) {
+    machine.add_track("C:\\a.mp3", 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\a.mp3", "100"), record_of("C:\\a.mp3", "100")});
+    rows().select(1);
+    start_list();
+    play_for(200);
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+    EXPECT_TRUE(station.main_window.Timer4.enabled());
+}
+
+TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {
+    open_tracks({100, 100});
+    machine.disk.Kill(track(1));
+    start_list();
+    EXPECT_EQ(station.list_window.Label1.caption.get(), "Non trouvé");
+    EXPECT_EQ(warning(), "Recherche de fichier\nDemarrage liste\n" + track(1) +
+                             "\n / format / lecture impossible  \nabandon lecture liste");
+}
+
+} // namespace sonarelle

@@ -1,0 +1,143 @@
+#include "playout/journal.h"
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+class JournalTest : public ChainBench {
+protected:
+    [[nodiscard]] bool is_written() const { return machine.disk.exists("C:\\Sonarelle\\journal.doc"); }
+    [[nodiscard]] std::vector<bool> checks() {
+        std::vector<bool> checked;
+        for (const MenuItem* entry : station.main_window.journal_choices())
+            checked.push_back(entry->checked);
+        return checked;
+    }
+    [[nodiscard]] bool has(std::string_view line) const {
+        return journal_text().find(std::string{line} + "\r\n") != std::string::npos;
+    }
+};
+
+} // namespace
+
+TEST_F(JournalTest, IsOffAtFirst) {
+    EXPECT_EQ(checks(), (std::vector<bool>{false, false, true}));
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(100));
+    EXPECT_FALSE(is_written());
+}
+
+TEST_F(JournalTest, WritesALineForWhoeverAsksAlsoWhileItIsOff) {
+    station.chain.ligne_journal = "05/01/2026 - 06:00:00 Exécution de Sonarelle";
+    station.journal.journal();
+    EXPECT_EQ(journal_text(), "05/01/2026 - 06:00:00 Ex\xE9"
+                              "cution de Sonarelle\r\n");
+}
+
+TEST_F(JournalTest, EntriesOfTheMenuExcludeEachOther) {
+    station.main_window.Active_journal1.click();
+    EXPECT_EQ(checks(), (std::vector<bool>{true, false, false}));
+    station.main_window.Active_journal.click();
+    EXPECT_EQ(checks(), (std::vector<bool>{false, true, false}));
+    station.main_window.A_desacive_J.click();
+    EXPECT_EQ(checks(), (std::vector<bool>{false, false, true}));
+}
+
+TEST_F(JournalTest, IsSilentAgainOnceItIsSwitchedOff) {
+    station.main_window.Active_journal.click();
+    station.main_window.A_desacive_J.click();
+    open_tracks({100, 100});
+    start_list();
+    EXPECT_FALSE(is_written());
+}
+
+TEST_F(JournalTest, WritesIntoTheProgramFolderWhateverTheCurrentOne) {
+    station.main_window.Active_journal1.click();
+    open_tracks({100, 100});
+    machine.disk.ChDir("C:\\Musique");
+    start_list();
+    EXPECT_TRUE(is_written());
+}
+
+TEST_F(JournalTest, HasTheStartOfAListAndItsTracks) {
+    station.main_window.Active_journal1.click();
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(95));
+    EXPECT_TRUE(has("05/01/2026 - 06:00:00 Liste - Lecture fin de piste d\xE9"
+                    "finie"));
+    EXPECT_TRUE(has(" D\xE9mmarage lecture liste a 06:00:00"));
+    EXPECT_TRUE(has("06:00:00 Lecture de " + track(1)));
+    EXPECT_TRUE(has("Nb_de_fichier_\xE9"
+                    "cout\xE9 1"));
+    EXPECT_TRUE(has("06:01:34 Lecture de " + track(2) + " (2)"));
+}
+
+TEST_F(JournalTest, HasTheStopOfAList) {
+    station.main_window.Active_journal1.click();
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(7));
+    station.list_window.Image3.click();
+    EXPECT_TRUE(has(" Arr\xE9t lecture liste a 05/01/2026 - 06:00:07"));
+}
+
+TEST_F(JournalTest, HasTheZap) {
+    station.main_window.Active_journal1.click();
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(40));
+    station.list_window.Image2.click();
+    EXPECT_TRUE(has("05/01/2026 - 06:00:40 ZAPPING sur ----> : " + track(2)));
+}
+
+TEST_F(JournalTest, HasTheReadingModes) {
+    station.main_window.Active_journal1.click();
+    station.list_window.Option3.click();
+    station.list_window.Option4.click();
+    station.list_window.Option1.click();
+    EXPECT_TRUE(has("05/01/2026 - 06:00:00 Liste - Lecture dur\xE9"
+                    "e piste"));
+    EXPECT_TRUE(has("05/01/2026 - 06:00:00 Lecteur - Lecture continue auto"));
+}
+
+TEST_F(JournalTest, HasAFileThatWasRemoved) {
+    station.main_window.Active_journal1.click();
+    open_tracks({100, 100, 100});
+    machine.disk.Kill(track(2));
+    start_list();
+    machine.run_for(seconds(90));
+    EXPECT_TRUE(has("05/01/2026 - 06:01:27 fichier : " + track(2) + " Non trouv\xE9 ou non valide"));
+}
+
+TEST_F(JournalTest, PurgeDeletesItAndSaysSo) {
+    machine.disk.put_file("C:\\Sonarelle\\journal.doc", "x");
+    machine.dialogs.expect_box("Ok journal supprimé", Answer::ok);
+    station.main_window.A_purger_journal.click();
+    EXPECT_FALSE(is_written());
+}
+
+TEST_F(JournalTest, PurgeWithoutAFileSaysNothing) {
+    station.main_window.A_purger_journal.click();
+    EXPECT_TRUE(machine.dialogs.asked().empty());
+}
+
+TEST_F(JournalTest, OpensInTheTextEditor) {
+    station.main_window.A_ouvre_journal.click();
+    EXPECT_EQ(machine.shell.started, (std::vector<SimulatedShell::Start>{{"Write", "C:\\Sonarelle\\journal.doc"}}));
+}
+
+TEST_F(JournalTest, ThatCannotBeWrittenHoldsNothingUp) {
+    station.main_window.Active_journal1.click();
+    machine.disk.put_file("C:\\Sonarelle\\journal.doc", "x");
+    machine.disk.set_read_only("C:\\Sonarelle\\journal.doc");
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+} // namespace sonarelle

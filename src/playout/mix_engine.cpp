@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "configuration/settings_store.h"
+#include "platform/dialogs.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -41,8 +42,12 @@ void MixEngine::show_overlap() {
 }
 
 void MixEngine::change_overlap(int step) {
-    const Integer shown = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
-    set_overlap(std::max(Integer{1}, shown + step));
+    try {
+        const Integer shown = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
+        set_overlap(std::max(Integer{1}, shown + step));
+    } catch (const Failure& failure) {
+        desk_.platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
 }
 
 void MixEngine::set_overlap(Integer seconds) {

@@ -1,0 +1,165 @@
+#include "playout/chain_bench.h"
+#include "playout/mix_engine.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Kind = OnAirEvent::Kind;
+
+/// A list or deck 1 plays, and a jingle of five seconds is mixed over it.
+class SpecialMixTest : public ChainBench {
+protected:
+    Antenne_FM& window = station.main_window;
+
+    void play_list_with_jingle_on(int deck) {
+        open_tracks({100, 100, 100});
+        machine.add_track("C:\\jingle.mp3", 5);
+        start_list();
+        machine.run_for(seconds(5));
+        station.chain.path_of_deck(deck) = "C:\\jingle.mp3";
+    }
+    [[nodiscard]] bool hears_jingle() const {
+        const std::vector<std::string> heard = machine.media.on_air();
+        return std::ranges::find(heard, "C:\\jingle.mp3") != heard.end();
+    }
+};
+
+/// The second or third deck.
+class SpecialMixOfADeck : public SpecialMixTest, public testing::WithParamInterface<int> {};
+
+} // namespace
+
+TEST_P(SpecialMixOfADeck, PlaysOverTheMainDeckAndEnds) {
+    play_list_with_jingle_on(GetParam());
+    controls(GetParam()).special_mix.click();
+    EXPECT_TRUE(hears_jingle());
+    EXPECT_EQ(station.chain.lecteur_en_cours, 1);
+    EXPECT_EQ(controls(1).slider.value(), 2);
+    EXPECT_EQ(controls(GetParam()).progress.caption.get(), "Mixage spécial en cours (5 S)");
+    EXPECT_EQ(controls(GetParam()).counter.caption.get(), "5");
+    EXPECT_FALSE(controls(GetParam()).special_mix.enabled);
+    machine.run_for(seconds(6));
+    EXPECT_FALSE(hears_jingle());
+    EXPECT_EQ(controls(1).slider.value(), 0);
+    EXPECT_EQ(controls(GetParam()).progress.caption.get(), "");
+    EXPECT_TRUE(controls(GetParam()).special_mix.enabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(Decks, SpecialMixOfADeck, testing::Values(2, 3));
+
+TEST_F(SpecialMixTest, OfTheFirstDeckPlaysOverTheSecond) {
+    play_list_with_jingle_on(1);
+    machine.run_for(seconds(110));
+    ASSERT_EQ(station.chain.lecteur_en_cours, 2);
+    station.chain.chemin_lecture = "C:\\jingle.mp3";
+    window.Mix1.click();
+    EXPECT_TRUE(hears_jingle());
+    EXPECT_EQ(controls(2).slider.value(), 2);
+    machine.run_for(seconds(6));
+    EXPECT_EQ(controls(2).slider.value(), 0);
+}
+
+TEST_F(SpecialMixTest, HoldsTheChainUntilItsEnd) {
+    play_list_with_jingle_on(2);
+    machine.run_for(seconds(87));
+    controls(3).special_mix.enabled = true;
+    station.chain.chemin_lecture3 = "C:\\jingle.mp3";
+    controls(3).special_mix.click();
+    machine.run_for(seconds(9));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {100, 2}}));
+}
+
+TEST_F(SpecialMixTest, WithoutAFileShowsAnEmptyDeck) {
+    play_list_with_jingle_on(2);
+    station.chain.chemin_lecture3.clear();
+    controls(3).special_mix.click();
+    EXPECT_EQ(controls(3).title.caption.get(), "(Aucun fichier en cours)");
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+}
+
+TEST_F(SpecialMixTest, OfAnUnplayableFileShowsAnEmptyDeck) {
+    play_list_with_jingle_on(2);
+    machine.media.set_unplayable("C:\\jingle.mp3");
+    controls(2).special_mix.click();
+    EXPECT_EQ(controls(2).title.caption.get(), "(Aucun fichier en cours)");
+    EXPECT_EQ(controls(1).slider.value(), 0);
+}
+
+TEST_F(SpecialMixTest, OfTheThirdDeckAloneResumesASuspendedChain) {
+    play_list_with_jingle_on(2);
+    station.chain.chaine_suspendue = true;
+    controls(2).special_mix.click();
+    EXPECT_TRUE(station.chain.chaine_suspendue.is_true());
+    controls(3).special_mix.click();
+    EXPECT_TRUE(station.chain.chaine_suspendue.is_false());
+}
+
+TEST_F(SpecialMixTest, OverTheChainOfDecksLeavesTheFadeOnZap) {
+    open_on_all({100, 5, 100});
+    window.coche2.click();
+    window.Active_audio.enabled = true;
+    controls(1).play.click();
+    window.Active_audio.click();
+    controls(2).special_mix.click();
+    machine.run_for(seconds(7));
+    EXPECT_TRUE(window.Active_audio_zapping.checked);
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_FALSE(window.Active_audio.checked);
+}
+
+TEST_F(SpecialMixTest, OverAListLeavesNoFadeRule) {
+    play_list_with_jingle_on(2);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(7));
+    for (const MenuItem* rule : window.fade_rules())
+        EXPECT_FALSE(rule->checked);
+}
+
+TEST_F(SpecialMixTest, StopOfItsDeckLetsTheChainGoOn) {
+    play_list_with_jingle_on(2);
+    machine.media.set_length("C:\\jingle.mp3", 50);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(3));
+    controls(2).stop.click();
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_EQ(controls(1).slider.value(), 0);
+    machine.run_for(seconds(90));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
+}
+
+TEST_F(SpecialMixTest, StopOfTheMainDeckLeavesItsSliderAsItWasBefore) {
+    play_list_with_jingle_on(2);
+    controls(1).slider.set_value(3);
+    controls(2).special_mix.click();
+    EXPECT_EQ(controls(1).slider.value(), 5);
+    controls(1).stop.click();
+    EXPECT_EQ(controls(1).slider.value(), 3);
+}
+
+TEST_F(SpecialMixTest, OverlapFieldTakesAStepFromOneAtLeast) {
+    window.Text1.set_text("-4");
+    window.Image15.click();
+    EXPECT_EQ(window.Text1.text(), "1");
+    window.Text1.set_text("9");
+    window.Image14.click();
+    EXPECT_EQ(window.Text1.text(), "8");
+    EXPECT_EQ(window.Text1.hint.get(), "Superposition de : 8 seconde(s)");
+}
+
+TEST_F(SpecialMixTest, OverlapFieldThatIsNoNumberSaysSo) {
+    window.Text1.set_text("six");
+    machine.dialogs.expect_box("", Answer::ok);
+    window.Image14.click();
+    EXPECT_EQ(window.Text1.text(), "six");
+}
+
+TEST_F(SpecialMixTest, LoadLeadIsShownInTheHintOfItsSwitch) {
+    window.coche4.set_value(1);
+    EXPECT_EQ(window.coche4.hint.get(), "Préchargement (7 s avant le mix) ");
+    window.coche4.click();
+    EXPECT_EQ(station.settings.prechargement, 0);
+    EXPECT_FALSE(window.Timer1.enabled());
+}
+
+} // namespace sonarelle

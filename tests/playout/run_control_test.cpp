@@ -1,0 +1,161 @@
+#include "playout/run_control.h"
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Paths = std::vector<std::string>;
+
+class RunControlTest : public ChainBench {
+protected:
+    /// Looks for a file that stands on the second row of three.
+    std::string look_for(std::string_view path) {
+        station.list.index_en_cours = 2;
+        station.list.chemin_fichier = path;
+        station.run_control.detecte_fichier_liste();
+        return station.list.chemin_fichier;
+    }
+    [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
+};
+
+} // namespace
+
+TEST_F(RunControlTest, FileThatIsThereIsKept) {
+    open_tracks({100, 100, 100});
+    EXPECT_EQ(look_for(track(2)), track(2));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(RunControlTest, FileIsFoundIgnoringCase) {
+    open_tracks({100, 100, 100});
+    EXPECT_EQ(look_for("c:\\MUSIQUE\\TITRE 2.MP3"), "c:\\MUSIQUE\\TITRE 2.MP3");
+}
+
+TEST_F(RunControlTest, NetworkFileIsAcceptedUnseen) {
+    open_tracks({100, 100, 100});
+    EXPECT_EQ(look_for("\\\\serveur\\absent.mp3"), "\\\\serveur\\absent.mp3");
+}
+
+TEST_F(RunControlTest, MissingFileLosesItsRowAndTheListIsSaved) {
+    open_tracks({100, 100, 100});
+    machine.disk.Kill(track(2));
+    EXPECT_EQ(look_for(track(2)), "");
+    EXPECT_EQ(rows().count(), 2);
+    EXPECT_EQ(rows().text(2), track(3));
+    EXPECT_EQ(station.list.index_en_cours, 1);
+    EXPECT_EQ(record_in(default_list_bytes(), 2).trimmed_chemin(), track(3));
+    EXPECT_EQ(warning(), "Recherche de fichier valide \n" + track(2) +
+                             "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+    EXPECT_TRUE(station.warning_window.visible);
+}
+
+TEST_F(RunControlTest, PathOfPatternsThatNamesAnotherFileIsReported) {
+    open_tracks({100, 100, 100});
+    EXPECT_EQ(look_for("C:\\Musique\\titre ?.mp3"), "");
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_EQ(warning(), "Recherche de fichier\nC:\\Musique\\titre ?.mp3\nCe fichier est NON TROUVE !");
+}
+
+TEST_F(RunControlTest, FileInTheRootOfADriveIsFound) {
+    open_tracks({100, 100, 100});
+    machine.add_track("C:\\racine.mp3", 10);
+    EXPECT_EQ(look_for("C:\\racine.mp3"), "C:\\racine.mp3");
+}
+
+TEST_F(RunControlTest, ListStartMakesTheFirstDeckTheMainOne) {
+    open_tracks({100, 100, 100});
+    start_list();
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+    EXPECT_EQ(station.chain.lecteur_en_cours, 1);
+    EXPECT_TRUE(controls(1).playing_mark.visible);
+    EXPECT_TRUE(controls(1).zap.enabled);
+    EXPECT_EQ(controls(1).title.caption.get(), "titre 1 - ");
+    EXPECT_EQ(station.main_window.caption.get(), "Sonarelle : " + track(1));
+    EXPECT_EQ(station.main_window.Label7.caption.get(), "- - Sonarelle - -");
+    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+}
+
+TEST_F(RunControlTest, ListStartWithoutAFileDoesNothing) {
+    station.run_control.lect_liste();
+    EXPECT_EQ(station.chain.lecteur_en_cours, 0);
+    EXPECT_FALSE(station.main_window.coche3.value());
+}
+
+TEST_F(RunControlTest, ListStartBeginsAtTheRecordsStart) {
+    machine.add_track(track(1), 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100", 100, 12.5)});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(station.desk.deck(1).graph().get_CurrentPosition(), 13.5);
+}
+
+TEST_F(RunControlTest, ListStartsWithTheSelectedRow) {
+    open_tracks({100, 100, 100});
+    rows().select(3);
+    start_list();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(rows_started(), (std::vector<int>{3, 1}));
+}
+
+TEST_F(RunControlTest, ListStartOpensNoVideoWindowForAWmvAndALaterStartDoes) {
+    for (const std::string_view path : {"C:\\a.wmv", "C:\\b.wmv"}) {
+        machine.add_track(path, 40);
+        machine.media.set_video(path);
+    }
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\a.wmv", "40"), record_of("C:\\b.wmv", "40")});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(39));
+    Paths captions;
+    for (const MediaCommand& command : machine.media.log())
+        if (command.action == MediaAction::caption)
+            captions.push_back(command.text);
+    EXPECT_EQ(captions, Paths{"b"});
+}
+
+TEST_F(RunControlTest, HardStopLeavesTheDeckPlayingAndWaits) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(5));
+    station.run_control.stoppe_liste("essai");
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_TRUE(station.chain.mode_enchainement.is_true());
+    EXPECT_EQ(station.main_window.coche4.value(), 0);
+    EXPECT_EQ(station.main_window.Label5.caption.get(), "0");
+    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play en attente");
+    EXPECT_EQ(station.main_window.Label10.caption.get(), "Chargement rapide");
+    for (int deck = 1; deck <= 3; ++deck)
+        EXPECT_TRUE(controls(deck).open.enabled);
+}
+
+TEST_F(RunControlTest, HardStopLeavesTheChainOverDecksOff) {
+    station.main_window.a_mode_auto.click();
+    station.run_control.stoppe_liste("essai");
+    EXPECT_FALSE(station.main_window.Timer2.enabled());
+}
+
+TEST_F(RunControlTest, SoftStopGoesOverToTheDecks) {
+    station.main_window.Active_journal.click();
+    station.main_window.coche3.click();
+    station.run_control.stoppe_list();
+    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_EQ(station.main_window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_NE(journal_text().find("Liste sopp\xE9"
+                                  "e a 06:00:00\r\n"),
+              std::string::npos);
+}
+
+TEST_F(RunControlTest, PlayingRowIsShownOnDemand) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(95));
+    rows().select(1);
+    station.list_window.Image4.click();
+    EXPECT_EQ(rows().selected(), 2);
+}
+
+} // namespace sonarelle

@@ -23,7 +23,8 @@ void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
         }
         frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_relaxed);
     }
-    const auto count = static_cast<float>(frames.size() / 2);
+    const std::size_t frame_count = frames.size() / 2;
+    const auto count = static_cast<float>(frame_count);
     for (std::size_t channel = 0; channel < 2; ++channel)
         if (count > 0)
             running_power_[channel] +=

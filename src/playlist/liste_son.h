@@ -41,6 +41,8 @@ struct Liste_son : Window {
     OptionButton Option3{*this, reading_mode, "Option3", "Lecture durée définie"};
     OptionButton Option4{*this, reading_mode, "Option4", "Lecture durée piste"};
 
+    MenuItem A_revenir_couleur{*this, "A_revenir_couleur", "Revenir au couleur par défaut"};
+    MenuItem lect_liste{*this, "lect_liste", "Lecture liste"};
     MenuItem A_a_zapping{*this, "A_a_zapping", "Mode enchainement auto liste"};
     MenuItem A_precoute{*this, "A_precoute", "Pré - écoute fichier"};
     MenuItem A_liste{*this, "A_liste", "Charger liste (C)"};

@@ -73,6 +73,7 @@ struct Antenne_FM : Window {
     MenuItem A_visuel_desactive{*this, "A_visuel_desactive", "Désactiver les effets"};
     MenuItem aa_montrer_curseur{*this, "aa_montrer_curseur", "Montrer les curseurs"};
     MenuItem aa_cacher_curseur{*this, "aa_cacher_curseur", "Cacher les curseurs"};
+    MenuItem A_purger_registre{*this, "A_purger_registre", "Purger la base de registre de la version précédente"};
     MenuItem Quitter_{*this, "Quitter_"};
 
     Timer Timer1; ///< Countdown and load step.

@@ -24,7 +24,8 @@ Station::Station(const Platform& platform)
       record_reading{platform_, list, destination, dragged, [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
-      legacy_list{platform_, settings, list, list_document, list_save_dialog}, journal{desk},
+      legacy_list{platform_, settings, list, list_document, list_save_dialog},
+      file_measure{platform_, list, chain}, journal{desk},
       deck_volume{desk, [this] { list_document.charge_liste(); }}, mix_engine{desk, deck_volume},
       deck_loading{desk, deck_volume, mix_engine}, deck_start{desk, deck_loading, deck_volume, mix_engine, journal},
       deck_transport{desk, deck_loading, deck_start, deck_volume}, run_control{desk,         deck_loading, deck_start,
@@ -92,6 +93,8 @@ void Station::connect_reading_modes() {
     list_window.Image9.on_click = [this] { list_window.Option2.set_value(true); };
     list_window.Image11.on_click = [this] { list_window.Option3.set_value(true); };
     list_window.Image12.on_click = [this] { list_window.Option4.set_value(true); };
+    list_window.A_revenir_couleur.on_click = [this] { settings_rewrite.A_revenir_couleur_Click(); };
+    list_window.lect_liste.on_click = [this] { run_control.lect_liste(); };
     list_window.A_a_zapping.on_click = [this] { chain_modes.A_a_zapping_Click(); };
 }
 
@@ -124,6 +127,7 @@ void Station::connect_chain_choices() {
 }
 
 void Station::connect_menus() {
+    main_window.A_purger_registre.on_click = [this] { settings_rewrite.A_purger_registre_Click(); };
     main_window.Active_journal1.on_click = [this] { journal.Active_journal1_Click(); };
     main_window.Active_journal.on_click = [this] { journal.Active_journal_Click(); };
     main_window.A_desacive_J.on_click = [this] { journal.A_desacive_J_Click(); };

@@ -7,6 +7,7 @@
 #include "configuration/settings_rewrite.h"
 #include "configuration/station_settings.h"
 #include "platform/platform.h"
+#include "playlist/file_measure.h"
 #include "playlist/legacy_list.h"
 #include "playlist/list_document.h"
 #include "playlist/list_save_dialog.h"
@@ -72,6 +73,7 @@ public:
     ListDocument list_document;
     ListSaveDialog list_save_dialog;
     LegacyList legacy_list;
+    FileMeasure file_measure;
 
     Journal journal;
     DeckVolume deck_volume;

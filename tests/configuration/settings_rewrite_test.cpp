@@ -13,11 +13,11 @@ protected:
     }
     void purge() {
         machine.dialogs.expect_box(Answer::ok);
-        station.settings_rewrite.A_purger_registre_Click();
+        station.main_window.A_purger_registre.click();
     }
     void return_to_factory() {
         machine.dialogs.expect_box(Answer::ok);
-        station.settings_rewrite.A_revenir_couleur_Click();
+        station.list_window.A_revenir_couleur.click();
     }
 };
 
@@ -49,7 +49,7 @@ TEST_F(SettingsRewriteTest, PurgeEndsTheProgram) {
 
 TEST_F(SettingsRewriteTest, PurgeOfAFirstStartSaysNothing) {
     station.settings.premier_lancement = true;
-    station.settings_rewrite.A_purger_registre_Click();
+    station.main_window.A_purger_registre.click();
     EXPECT_TRUE(machine.dialogs.asked().empty());
     EXPECT_TRUE(station.ended());
 }
@@ -96,7 +96,7 @@ TEST_F(SettingsRewriteTest, TellsWhenTheStoreCannotBeWritten) {
     machine.settings.refuse_writes(failure_number::path_access);
     machine.dialogs.expect_box("Erreur d'accès", Answer::ok);
     machine.dialogs.expect_box("nécessaire", Answer::ok);
-    station.settings_rewrite.A_revenir_couleur_Click();
+    station.list_window.A_revenir_couleur.click();
     EXPECT_EQ(machine.dialogs.asked().front().icon, Icon::stop);
 }
 

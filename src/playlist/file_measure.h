@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "playlist/list_state.h"
+#include "playout/chain_state.h"
+
+namespace sonarelle {
+
+/// Measures one file apart from the decks.
+class FileMeasure {
+public:
+    FileMeasure(const Platform& platform, ListState& list, ChainState& chain)
+        : platform_{platform}, list_{list}, chain_{chain} {}
+
+    /// Length and genre of `nom_fichier_maj` into `duree_mesuree`, `duree_piste_texte` and `genre_lu`. A file that
+    /// can't be measured sets `mesure_echouee` and leaves them as far as they were taken.
+    void met_ajour();
+
+private:
+    const Platform& platform_;
+    ListState& list_;
+    ChainState& chain_;
+};
+
+} // namespace sonarelle

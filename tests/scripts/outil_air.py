@@ -353,7 +353,7 @@ class PacedByTheClock(Air):
     def test_starts_as_the_rehearsal_does(self):
         self.make_list(8, 8, 8)
         words = ["--duree", "00:00:16", "--reglage", "Mix=3", "--reglage", "Préchargement=2",
-                 "--reglage", "Valeur_max_jingles=5"]
+                 "--reglage", "valeur_max_jingles=4"]
         aired = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", *words))
         rehearsed = self.rehearse(*words)
         for kind in ("chargement", "depart", "fondu", "coupe"):

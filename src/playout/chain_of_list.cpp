@@ -82,8 +82,9 @@ void AutoChain::load_and_play(Deck& old) {
     desk_.list.index_destinataire = desk_.list.index_en_cours;
     reading_.lire_enreg_destinataire();
     Deck& next = desk_.deck(next_deck(old.number()));
+    desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
-    if (!desk_.chain.chargement_fait.is_true())
+    if (!desk_.chain.chargement_fait.is_true() && !desk_.chain.erreur_chargement.is_true())
         desk_.report({OnAirEvent::Kind::loaded,
                       next.number(),
                       desk_.list.index_en_cours.value(),

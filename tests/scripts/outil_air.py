@@ -10,6 +10,7 @@ import subprocess
 import tempfile
 import unittest
 import wave
+import xml.etree.ElementTree
 from pathlib import Path
 
 TOOL = os.environ["SONARELLE_OUTIL"]
@@ -226,6 +227,10 @@ class Hands(Air):
         self.assertEqual(self.times(events, "depart"), [0, 104])
         self.assertEqual(events[-1]["silence_total"], 10.0)
 
+    def test_answer_the_next_question(self):
+        events = self.rehearse_gestures("5 repond ok\n5 zap\n6 zap\n", "--duree", "00:00:08")
+        self.assertEqual(self.times(events, "question", "reponse"), [(5, "ok"), (6, "ok")])
+
     def test_stop_a_deck(self):
         events = self.rehearse_gestures("10 stop 1\n", "--duree", "00:00:30")
         self.assertEqual(self.times(events, "silence"), [12])
@@ -254,6 +259,39 @@ class Hands(Air):
     def test_are_refused_when_their_script_is_missing(self):
         self.call("repetition", self.list, "--gestes", self.folder / "absent.txt", status=1)
         self.assertIn("absent.txt", self.error)
+
+
+class Picture(Air):
+    SVG = "{http://www.w3.org/2000/svg}"
+
+    def draw(self, *words):
+        picture = self.folder / "air.svg"
+        self.rehearse("--sans-son", "--image", picture, *words)
+        return xml.etree.ElementTree.parse(picture).getroot()
+
+    def test_has_a_bar_with_row_and_name_for_each_played_track(self):
+        self.make_list(100, 100, 100)
+        drawing = self.draw("--duree", "00:04:30")
+        self.assertEqual(len(drawing.findall(self.SVG + "polygon")), 3)
+        labels = [text.text for text in drawing.findall(self.SVG + "text")]
+        self.assertEqual(labels, ["1 1.wav", "2 2.wav", "3 3.wav", "1", "2", "3"])
+
+    def test_escapes_names(self):
+        file = write_wav(self.folder / "a & b's.wav", 40)
+        self.list.write_bytes(record(self.station_path(file), 40) * 2)
+        self.assertIn("1 a & b's.wav", [text.text for text in self.draw("--duree", "00:00:10").iter()])
+
+    def test_is_red_where_the_air_is_silent(self):
+        self.make_list(100, 100)
+        gestures = self.folder / "gestes.txt"
+        gestures.write_text("25 pause 1\n50 pause 1\n", encoding="utf-8")
+        red, = self.draw("--gestes", gestures, "--duree", "00:01:40").findall(self.SVG + "rect")
+        self.assertEqual((red.get("x"), red.get("width")), ("340.00", "300.00"))
+
+    def test_that_cannot_be_written_is_named(self):
+        self.make_list(100, 100)
+        self.call("repetition", self.list, "--sans-son", "--image", self.folder / "absent/a.svg", status=1)
+        self.assertIn("absent/a.svg", self.error)
 
 
 class Words(Air):

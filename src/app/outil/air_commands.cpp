@@ -14,6 +14,7 @@ namespace sonarelle {
 namespace {
 
 constexpr Option rendering_option{"--rendu", true};
+constexpr Option picture_option{"--image", true};
 constexpr Option silent_option{"--sans-son", false};
 constexpr Option gestures_option{"--gestes", true};
 constexpr Option output_option{"--sortie", true};
@@ -35,6 +36,8 @@ void rehearse(const Call& call) {
     Machine machine{call.options};
     if (call.arguments.has(rendering_option.name))
         rehearsal.rendering = call.arguments.value(rendering_option.name, "");
+    if (call.arguments.has(picture_option.name))
+        rehearsal.picture = call.arguments.value(picture_option.name, "");
     rehearsal.without_sound = call.arguments.has(silent_option.name);
     if (rehearsal.without_sound && rehearsal.rendering)
         throw WrongWords{"--rendu et --sans-son s'excluent"};
@@ -58,15 +61,15 @@ void go_on_air(const Call& call) {
     run_on_air(live, machine.settings(), call.out);
 }
 
-constexpr std::array rehearsal_options{length_option,    mode_option,   seed_option,    setting_option,
-                                       rendering_option, silent_option, gestures_option};
+constexpr std::array rehearsal_options{length_option,    mode_option,   seed_option,     setting_option,
+                                       rendering_option, silent_option, gestures_option, picture_option};
 constexpr std::array air_options{length_option,  mode_option,   seed_option,
                                  setting_option, output_option, journal_option};
 
 constexpr std::array commands{
     Command{"repetition",
             "LISTE.dfm [--duree HH:MM:SS] [--rendu AIR.wav] [--sans-son] [--graine N] [--reglage CLE=VALEUR]... "
-            "[--mode liste|pleine|lecteur] [--gestes GESTES.txt]",
+            "[--mode liste|pleine|lecteur] [--gestes GESTES.txt] [--image AIR.svg]",
             rehearsal_options, rehearse},
     Command{"antenne",
             "LISTE.dfm [--duree HH:MM:SS] [--mode liste|pleine|lecteur] [--reglage CLE=VALEUR]... [--graine N] "

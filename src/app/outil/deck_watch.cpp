@@ -30,6 +30,11 @@ void DeckWatch::advance(Frames now, Frames next) {
             on_end_of_file(ends[i].first, ends[i].second);
 }
 
+std::optional<Frames> DeckWatch::runs_until(int deck, Frames now) {
+    const auto end = end_of(desk_.deck(deck), now);
+    return end && *end > now ? end : std::nullopt;
+}
+
 std::optional<Frames> DeckWatch::sounds_until(Frames now) {
     std::optional<Frames> latest;
     for (Deck& deck : desk_.decks)

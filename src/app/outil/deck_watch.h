@@ -21,6 +21,9 @@ public:
     /// The frame up to which a deck runs, or nothing when none does now.
     [[nodiscard]] std::optional<Frames> sounds_until(Frames now);
 
+    /// The same of one deck.
+    [[nodiscard]] std::optional<Frames> runs_until(int deck, Frames now);
+
 private:
     [[nodiscard]] std::optional<Frames> end_of(Deck& deck, Frames now) const;
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <ostream>
 
+#include "app/outil/air_picture.h"
 #include "app/outil/deck_watch.h"
 #include "app/outil/event_writer.h"
 #include "app/outil/progress.h"
@@ -37,6 +38,7 @@ public:
         station_ = std::make_unique<Station>(Platform{time_, scheduler_, disk_, settings_, dialogs_, *media_, random_,
                                                       shell_, folder_.station_path(), DecimalMark::point});
         watch_ = std::make_unique<DeckWatch>(station_->desk);
+        picture_ = std::make_unique<AirPicture>(*watch_);
         connect();
         station_->create_main_window();
         if (station_->settings.premier_lancement.is_true())
@@ -54,6 +56,8 @@ public:
         silence_.end();
         if (rendering_)
             rendering_->close();
+        if (rehearsal_.picture)
+            picture_->save(*rehearsal_.picture, length);
         events_.write_account(time_.now());
     }
 
@@ -89,11 +93,20 @@ private:
             if (question.kind == QuestionKind::box || question.kind == QuestionKind::input)
                 events_.write(time_.now(), question);
         };
-        station_->desk.on_event = [this](const OnAirEvent& event) { events_.write(time_.now(), event); };
+        station_->desk.on_event = [this](const OnAirEvent& event) {
+            events_.write(time_.now(), event);
+            picture_->take(time_.now(), event);
+        };
         station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(time_.now(), text); };
         watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
-        silence_.on_two_seconds = [this](Frames at) { events_.write_silence(at); };
-        silence_.on_silence_over = [this](Frames span) { events_.add_silence(span); };
+        silence_.on_two_seconds = [this](Frames at) {
+            events_.write_silence(at);
+            silent_from_ = at - seconds(2);
+        };
+        silence_.on_silence_over = [this](Frames span) {
+            events_.add_silence(span);
+            picture_->add_silence(silent_from_, span);
+        };
         time_.before_instant = [this](Frames frame) { follow_until(frame); };
     }
 
@@ -101,6 +114,7 @@ private:
         if (progress_)
             progress_->reach(frame.count());
         watch_->advance(time_.now(), frame);
+        picture_->advance(time_.now(), frame);
         if (renderer_)
             renderer_->render_until(frame);
         else
@@ -135,6 +149,8 @@ private:
     std::unique_ptr<VirtualRenderer> renderer_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
+    std::unique_ptr<AirPicture> picture_;
+    Frames silent_from_;
 };
 
 } // namespace

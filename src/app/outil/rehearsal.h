@@ -15,6 +15,7 @@ namespace sonarelle {
 struct Rehearsal {
     Programme programme;
     std::optional<std::string> rendering; ///< A WAV file of this machine for what would be heard.
+    std::optional<std::string> picture;   ///< An SVG file of this machine for a drawing of the run.
     bool without_sound = false;
     std::vector<Gesture> gestures;
     DriveTable drives;

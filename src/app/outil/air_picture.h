@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/outil/deck_watch.h"
+#include "platform/units.h"
+#include "playout/on_air_event.h"
+
+namespace sonarelle {
+
+/// A drawing of a run: a lane for each deck, with a bar for each span that was played, a slope where it faded, and red
+/// where the air was silent.
+class AirPicture {
+public:
+    explicit AirPicture(DeckWatch& watch) : watch_{watch} {}
+
+    void take(Frames at, const OnAirEvent& event);
+    /// Nothing was told to a deck between these instants.
+    void advance(Frames now, Frames next);
+    void add_silence(Frames from, Frames span) { silences_.push_back({from, from + span}); }
+
+    /// As SVG. @throws Failure 75 when the file can't be written.
+    void save(const std::string& file, Frames length) const;
+
+private:
+    struct Stretch {
+        Frames from;
+        Frames to;
+    };
+    struct Bar {
+        int deck = 0;
+        std::string label;
+        Stretch played;
+        std::optional<Frames> fades_from;
+        bool open = true;
+    };
+
+    [[nodiscard]] Bar* open_bar(int deck);
+
+    DeckWatch& watch_;
+    std::vector<Bar> bars_;
+    std::vector<Stretch> silences_;
+    std::array<std::string, 3> labels_;
+};
+
+} // namespace sonarelle

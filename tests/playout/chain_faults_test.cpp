@@ -203,6 +203,26 @@ TEST_F(ChainFaultsTest, ListOfTheSameFileOnlyPlaysOut) {
     EXPECT_TRUE(station.main_window.Timer4.enabled());
 }
 
+TEST_F(ChainFaultsTest, InsertionOfItemsTakesTheNetOffTheFirstDeck) {
+    open_tracks({100, 100, 100});
+    start_list();
+    station.settings.valide_fichier_aleatoire1 = true;
+    play_for(85);
+    controls(1).forward.click();
+    play_for(60);
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ChainFaultsTest, InsertionOfItemsLeavesTheNetToTheSecondDeck) {
+    open_tracks({100, 100, 100});
+    start_list();
+    station.settings.valide_fichier_aleatoire1 = true;
+    play_for(180);
+    controls(2).forward.click();
+    play_for(5);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}, {184, 3}}));
+}
+
 TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {
     open_tracks({100, 100});
     machine.disk.Kill(track(1));

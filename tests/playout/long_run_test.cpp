@@ -13,7 +13,6 @@ namespace {
 using Kind = OnAirEvent::Kind;
 
 constexpr int tracks_in_list = 400;
-constexpr int longest_track = 600;   // seconds
 constexpr int most_without_load = 3; // seconds of the longest item whose successor no load step looks at
 constexpr Frames a_day = seconds(24 * 3600);
 constexpr Frames longest_silence = seconds(2);

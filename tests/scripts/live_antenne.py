@@ -18,7 +18,7 @@ RATE = 48000
 LOUD = 8000  # of a square wave; two of them stay below the limiter
 FRAME_BYTES = 8  # recorded: two floats
 # Short tracks that fade and are cut all the same: starts at 0, 7 and 14, cuts at 11 and 18.
-SETTINGS = ["--reglage", "Mix=3", "--reglage", "Préchargement=2", "--reglage", "Mix_audio=4",
+SETTINGS = ["--reglage", "Mix=3", "--reglage", "Mix_audio_vitesse=40", "--reglage", "Préchargement=2", "--reglage", "Mix_audio=4",
             "--reglage", "valeur_max_jingles=6"]
 
 

@@ -51,8 +51,6 @@ public:
     StopOnSignals& operator=(const StopOnSignals&) = delete;
 };
 
-constexpr int steady_ticks_to_begin = 4; // of 100 ms
-
 std::uint64_t clock_entropy() {
     return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
 }
@@ -67,9 +65,7 @@ class LiveStation {
 public:
     LiveStation(const LiveProgramme& live, HostSettings& settings, std::ostream& out)
         : live_{live}, out_{out}, disk_{live.drives}, settings_{settings}, events_{out} {
-        // Opening the card takes a while; meanwhile the list is read.
-        open_output();
-        fill_empty_store();
+        write_first_settings();
         station_ = std::make_unique<Station>(Platform{clock_, scheduler_, disk_, settings_, dialogs_, media_, random_,
                                                       shell_, live.program_folder, DecimalMark::point});
         watch_ = std::make_unique<DeckWatch>(station_->desk);
@@ -82,7 +78,9 @@ public:
 
     void run() {
         const StopOnSignals stop{driver_};
-        settling_.enable();
+        // Frame 0 of the programme is that of the list: the card finds sound as soon as it is open.
+        scheduler_.run_event(Frames{}, [this] { start(station_path_of(live_.drives, live_.programme.list)); });
+        open_output();
         driver_.run();
         if (!ended_) // by a signal
             driver_.run_event([this] { end(); });
@@ -101,14 +99,14 @@ private:
         if (station_)
             station_->journal.note(date_and_time(station_->desk.platform) + " " + state_text(state));
         if (!live_.shows_journal)
-            events_.write_warning(look_.enabled() ? clock_.now() : Frames{}, state_text(state));
+            events_.write_warning(clock_.now(), state_text(state));
     }
 
-    /// An empty store gets the values that a rehearsal takes in its place, so that both run alike from the first day.
-    void fill_empty_store() {
+    /// An empty store gets its first values, so that the next start is none of those.
+    void write_first_settings() {
         const SettingsStore store{settings_, live_.program_folder, DecimalMark::point};
         if (settings_.all(settings_application).empty())
-            store.write_column(&SettingRow::repair);
+            store.write_column(&SettingRow::first);
     }
 
     /// For this run alone: the store keeps what it has.
@@ -143,20 +141,6 @@ private:
         };
         look_.set_interval(100);
         look_.on_tick = [this] { look(); };
-        settling_.set_interval(100);
-        settling_.on_tick = [this] { settle(); };
-    }
-
-    /// A card that is opened may take a few blocks at once and none for a while, and the clock steps in meanwhile. The
-    /// list begins when the output has been the same for a while, so that nothing of it is lost.
-    void settle() {
-        const OutputState state = output_->state();
-        steady_ticks_ = state == last_state_ ? steady_ticks_ + 1 : 0;
-        last_state_ = state;
-        if (steady_ticks_ < steady_ticks_to_begin)
-            return;
-        settling_.disable();
-        start(station_path_of(live_.drives, live_.programme.list));
     }
 
     void start(const std::string& list) {
@@ -217,10 +201,7 @@ private:
     std::unique_ptr<LiveOutput> output_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
-    Timer settling_{"settling", 0, scheduler_};
     Timer look_{"look", 0, scheduler_};
-    OutputState last_state_ = OutputState::opening;
-    int steady_ticks_ = 0;
     Frames began_;
     Frames length_;
     Frames last_;

@@ -14,8 +14,10 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds retry_every = 2000ms;
 constexpr std::chrono::milliseconds watch_every = 50ms;
 constexpr std::chrono::milliseconds longest_silence =
-    150ms; // of a device with short blocks, until the clock takes over
-constexpr std::chrono::milliseconds given_up_after = 4000ms; // a device that hangs is opened anew
+    150ms;                                               // of a device with short blocks, until the clock takes over
+constexpr std::chrono::milliseconds settles_in = 1000ms; // a server that has just been opened takes some blocks
+constexpr std::chrono::milliseconds settling_silence = 500ms; // at once, and then none for a while
+constexpr std::chrono::milliseconds given_up_after = 4000ms;  // a device that hangs is opened anew
 constexpr std::chrono::milliseconds first_try_takes = 2000ms;
 constexpr std::chrono::milliseconds leave_takes = 1000ms;
 constexpr std::size_t paced_frames = 1024;
@@ -132,9 +134,11 @@ void LiveOutput::watch_pulls(Shared& shared) {
     shared.gate.give_turn(PullGate::Turn::device);
     std::int64_t asked = shared.gate.asked();
     auto last_pull = Clock::now();
-    std::chrono::milliseconds patience = longest_silence;
+    const auto settled_at = last_pull + settles_in;
+    std::chrono::milliseconds patience = settling_silence;
     while (shared.sleep_for(watch_every) && shared.device_open && Clock::now() - last_pull < patience) {
-        patience = std::max(longest_silence, watch_every + 2 * shared.gate.block_time());
+        const auto least = Clock::now() < settled_at ? settling_silence : longest_silence;
+        patience = std::max(least, watch_every + 2 * shared.gate.block_time());
         const std::int64_t now_asked = shared.gate.asked();
         if (now_asked == asked)
             continue;

@@ -31,7 +31,8 @@ public:
     void automatic_zap(Deck& old);
 
     /// Loads the row that the walk stands on onto the deck behind `old`, starts it and shows the row.
-    void start_row(Deck& old);
+    /// False when its disk doesn't answer.
+    bool start_row(Deck& old);
 
     /// Counts the remaining time of the list window down by a second.
     void compteur();
@@ -54,6 +55,7 @@ private:
     [[nodiscard]] bool is_playable_file();
     void loaded();
     void drop_invalid_row();
+    void pass_over_row(RowWalk& walk);
     void stop_after_load_error();
     void leave_load_step();
 
@@ -63,9 +65,11 @@ private:
     void follow_at_once(Deck& deck);
     bool try_to_follow(Deck& deck);
     bool try_to_zap(Deck& old, bool by_draw);
-    void start_zapped(Deck& old);
-    void load_and_play(Deck& old);
+    bool start_zapped(Deck& old);
+    [[nodiscard]] bool load_and_play(Deck& old);
     [[nodiscard]] bool take_drawn_row();
+    /// Whether the row's file is there and isn't the one that plays. @throws Failure when its drive or folder is gone.
+    [[nodiscard]] bool is_found();
     [[nodiscard]] bool is_candidate();
 
     void deck_tick();

@@ -93,7 +93,10 @@ bool AutoChain::try_to_load_next() {
             loaded();
             return true;
         }
-        drop_invalid_row();
+        if (chain.disk_did_not_answer)
+            pass_over_row(load_walk_);
+        else
+            drop_invalid_row();
         return false;
     } catch (const ListStopped&) {
         stop_after_load_error();
@@ -133,8 +136,13 @@ bool AutoChain::is_playable_file() {
         errors.skip([&] { desk_.platform.disk.ChDir(folder); });
         if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
             throw ListStopped{};
-        const std::string name{name_of_path(path)};
-        if (!equal_ignoring_case(trim(desk_.platform.disk.Dir(path)), trim(name)))
+        std::string found;
+        errors.clear();
+        errors.skip([&] { found = desk_.platform.disk.Dir(path); });
+        desk_.chain.disk_did_not_answer = errors.number() == failure_number::device_fault;
+        if (errors.is_set() && !desk_.chain.disk_did_not_answer)
+            throw Failure{errors.number(), path};
+        if (!equal_ignoring_case(trim(found), trim(name_of_path(path))))
             return false;
     }
     desk_.window.Timer1.disable();
@@ -156,6 +164,14 @@ void AutoChain::loaded() {
     if (!desk_.chain.ordre_aleatoire.is_true())
         desk_.list.index_en_cours -= 1;
     desk_.chain.duree_lecteur = 0;
+}
+
+/// The row of a disk that doesn't answer may be sound again tomorrow, so it stays in the list.
+void AutoChain::pass_over_row(RowWalk& walk) {
+    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
+                  " Le disque ne répond pas");
+    desk_.chain.chargement_fait = false;
+    walk.rest();
 }
 
 void AutoChain::drop_invalid_row() {

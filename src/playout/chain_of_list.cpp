@@ -65,18 +65,28 @@ void AutoChain::follow_at_once(Deck& deck) {
 
 bool AutoChain::try_to_follow(Deck& deck) {
     take_next_row();
-    run_.detecte_fichier_liste();
-    if (!is_candidate())
+    if (!is_found())
         return false;
-    start_row(deck);
-    return true;
+    return start_row(deck);
+}
+
+bool AutoChain::is_found() {
+    try {
+        run_.detecte_fichier_liste();
+    } catch (const Failure& failure) {
+        if (failure.number != failure_number::device_fault)
+            throw;
+        pass_over_row(mix_walk_);
+        return false;
+    }
+    return is_candidate();
 }
 
 bool AutoChain::is_candidate() {
     return !desk_.list.chemin_fichier.empty() && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
 }
 
-void AutoChain::load_and_play(Deck& old) {
+bool AutoChain::load_and_play(Deck& old) {
     load_walk_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
@@ -84,6 +94,10 @@ void AutoChain::load_and_play(Deck& old) {
     Deck& next = desk_.deck(next_deck(old.number()));
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
+    if (desk_.chain.disk_did_not_answer) {
+        pass_over_row(mix_walk_);
+        return false;
+    }
     if (!desk_.chain.chargement_fait.is_true() && !desk_.chain.erreur_chargement.is_true())
         desk_.report({OnAirEvent::Kind::loaded,
                       next.number(),
@@ -96,10 +110,12 @@ void AutoChain::load_and_play(Deck& old) {
     begin_overlap();
     old.controls.title.caption = std::string{waiting_title};
     start_.play(next);
+    return true;
 }
 
-void AutoChain::start_row(Deck& old) {
-    load_and_play(old);
+bool AutoChain::start_row(Deck& old) {
+    if (!load_and_play(old))
+        return false;
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
@@ -107,6 +123,7 @@ void AutoChain::start_row(Deck& old) {
     desk_.list_window.Image2.enabled = true;
     desk_.list_window.Label12.caption = "Zapping autorisé";
     desk_.small_player.zap.enabled = true;
+    return true;
 }
 
 void AutoChain::automatic_zap(Deck& old) {
@@ -135,20 +152,18 @@ bool AutoChain::try_to_zap(Deck& old, bool by_draw) {
         take_current_row();
     else if (!take_drawn_row())
         return false;
-    run_.detecte_fichier_liste();
-    if (!is_candidate())
-        return false;
-    start_zapped(old);
-    return true;
+    return is_found() && start_zapped(old);
 }
 
-void AutoChain::start_zapped(Deck& old) {
-    load_and_play(old);
+bool AutoChain::start_zapped(Deck& old) {
+    if (!load_and_play(old))
+        return false;
     desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
     desk_.deck(next_deck(old.number())).controls.slider.show_value(0);
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
+    return true;
 }
 
 void AutoChain::cancel_walks() {

@@ -53,10 +53,12 @@ void DeckLoading::load_record(Deck& deck) {
 
 void DeckLoading::load_from_list(Deck& deck) {
     deck.create_graph();
+    desk_.chain.disk_did_not_answer = false;
     try {
         render_from_list(deck);
-    } catch (const Failure&) {
+    } catch (const Failure& failure) {
         desk_.chain.erreur_chargement = true;
+        desk_.chain.disk_did_not_answer = failure.number == failure_number::device_fault;
     }
 }
 

@@ -36,7 +36,8 @@ void RowWalk::take_a_turn() {
 void RowWalk::walk_round() {
     const Step step = step_;
     const int rows = std::max(1, turn_());
-    for (int row = 0; row < rows && step_; ++row)
+    rests_ = false;
+    for (int row = 0; row < rows && step_ && !rests_; ++row)
         if (step())
             return cancel();
     if (step_)

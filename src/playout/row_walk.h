@@ -20,12 +20,15 @@ public:
     void start(Step step, std::function<int()> turn, std::function<void(const std::function<void()>&)> trap);
     [[nodiscard]] bool under_way() const { return static_cast<bool>(step_); }
     void cancel();
+    /// Ends this turn; the next one begins 100 ms later with the next row.
+    void rest() { rests_ = true; }
 
 private:
     void take_a_turn();
     void walk_round();
 
     Timer pause_;
+    bool rests_ = false;
     Step step_;
     std::function<int()> turn_;
     std::function<void(const std::function<void()>&)> trap_;

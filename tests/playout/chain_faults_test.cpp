@@ -232,4 +232,30 @@ TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {
                              "\n / format / lecture impossible  \nabandon lecture liste");
 }
 
+TEST_F(ChainFaultsTest, ARowWhoseDiskDoesNotAnswerIsPassedOverAndStaysInTheList) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.run_for(seconds(100));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, ARowWhoseDiskDoesNotAnswerIsJournalled) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.run_for(seconds(100));
+    EXPECT_NE(machine.disk.bytes("C:\\Sonarelle\\journal.doc").find("Le disque ne r\xE9pond pas"), std::string::npos);
+}
+
+TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnswer) {
+    open_tracks({2, 100, 100});
+    start_list();
+    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.run_for(seconds(10));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+}
+
 } // namespace sonarelle

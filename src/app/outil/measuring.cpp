@@ -20,7 +20,7 @@ Measure Measuring::measure(const std::string& file) {
     measure.station_path = station_path_of(machine_.drives(), file);
     try {
         PreparedFile prepared = opener_.open(absolute_machine_path(file));
-        measure.seconds = opener_.measure(prepared);
+        measure.seconds = prepared.seconds;
         measure.has_pictures = prepared.decoder->has_pictures();
     } catch (const Failure& failure) {
         throw Failure{failure.number, file, failure.description};

@@ -1,5 +1,6 @@
 #include "platform/audio/file_opener.h"
 
+#include <optional>
 #include <utility>
 
 #include "platform/failure.h"
@@ -13,7 +14,7 @@ constexpr std::size_t opening_frames = 2400; // 50 ms
 PreparedFile prepare(SoundFiles& files, const std::string& path, const FileFacts& facts) {
     if (facts.is_folder)
         throw Failure{failure_number::unplayable_file, path};
-    PreparedFile file{.path = path, .facts = facts, .decoder = {}, .opening = {}};
+    PreparedFile file{.path = path, .facts = facts, .seconds = 0, .decoder = {}, .opening = {}};
     file.decoder = std::make_unique<Decoder>(open_sample_source(files.open(path), path));
     if (file.decoder->has_sound()) {
         file.opening.resize(2 * opening_frames);
@@ -22,26 +23,29 @@ PreparedFile prepare(SoundFiles& files, const std::string& path, const FileFacts
     return file;
 }
 
-} // namespace
-
-PreparedFile FileOpener::open(const std::string& path) {
-    const auto facts = with_patience(patience_, path, [files = files_, path] { return files->facts(path); });
-    if (auto prepared = prepared_.take(path, facts))
+/// What was prepared before, or is known of the length, holds while the file is the same.
+PreparedFile visit(SoundFiles& files, const std::string& path, std::optional<PreparedFile> prepared,
+                   const std::optional<KnownLength>& known) {
+    const FileFacts facts = files.facts(path);
+    if (prepared && prepared->facts == facts)
         return std::move(*prepared);
-    return with_patience(patience_, path, [files = files_, path, facts] { return prepare(*files, path, facts); });
+    PreparedFile file = prepare(files, path, facts);
+    file.seconds = known && known->facts == facts ? known->seconds : file.decoder->duration();
+    return file;
 }
 
-double FileOpener::measure(PreparedFile& file) {
-    if (const auto known = lengths_.find(file.path, file.facts))
-        return *known;
-    // The decoder goes along, so that one that is stuck takes nothing of ours with it.
-    auto [decoder, seconds] = with_patience(patience_, file.path, [decoder = std::move(file.decoder)]() mutable {
-        const double measured = decoder->duration();
-        return std::pair{std::move(decoder), measured};
-    });
-    file.decoder = std::move(decoder);
-    lengths_.keep(file.path, file.facts, seconds);
-    return seconds;
+} // namespace
+
+// The decoder goes along, so that one that is stuck takes nothing of ours with it. Everything is asked for at once:
+// each change of threads may cost a few milliseconds.
+PreparedFile FileOpener::open(const std::string& path) {
+    PreparedFile file =
+        with_patience(patience_, path,
+                      [files = files_, path, prepared = prepared_.take(path), known = lengths_.find(path)]() mutable {
+                          return visit(*files, path, std::move(prepared), known);
+                      });
+    lengths_.keep(path, {file.facts, file.seconds});
+    return file;
 }
 
 } // namespace sonarelle

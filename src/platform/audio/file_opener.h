@@ -16,12 +16,9 @@ class FileOpener {
 public:
     FileOpener(std::shared_ptr<SoundFiles> files, Patience patience) : files_{std::move(files)}, patience_{patience} {}
 
+    /// Opens and measures; may read the whole file.
     /// @throws Failure 53, 57 (also when the disk doesn't answer in time), 70 or 1001.
     [[nodiscard]] PreparedFile open(const std::string& path);
-
-    /// In seconds; may read the whole file.
-    /// @throws Failure 57 when the disk fails or doesn't answer in time; the file can't be used any more then.
-    [[nodiscard]] double measure(PreparedFile& file);
 
     /// Takes back a file of which nothing has been played.
     void keep(PreparedFile file) { prepared_.keep(std::move(file)); }

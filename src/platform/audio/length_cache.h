@@ -8,22 +8,23 @@
 
 namespace sonarelle {
 
-/// Lengths in seconds of the files that were measured since the program started, by path, size and time.
+/// The length of a file while it was so.
+struct KnownLength {
+    FileFacts facts;
+    double seconds = 0;
+};
+
+/// Lengths of the files that were measured since the program started, by path; size and time tell whether they hold.
 class LengthCache {
 public:
-    [[nodiscard]] std::optional<double> find(const std::string& path, const FileFacts& facts) const {
+    [[nodiscard]] std::optional<KnownLength> find(const std::string& path) const {
         const auto found = lengths_.find(path);
-        return found != lengths_.end() && found->second.facts == facts ? std::optional{found->second.seconds}
-                                                                       : std::nullopt;
+        return found == lengths_.end() ? std::nullopt : std::optional{found->second};
     }
-    void keep(const std::string& path, const FileFacts& facts, double seconds) { lengths_[path] = {facts, seconds}; }
+    void keep(const std::string& path, const KnownLength& length) { lengths_[path] = length; }
 
 private:
-    struct Length {
-        FileFacts facts;
-        double seconds = 0;
-    };
-    std::unordered_map<std::string, Length> lengths_;
+    std::unordered_map<std::string, KnownLength> lengths_;
 };
 
 } // namespace sonarelle

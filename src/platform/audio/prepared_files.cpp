@@ -17,9 +17,8 @@ void PreparedFiles::keep(PreparedFile file) {
         files_.pop_back();
 }
 
-std::optional<PreparedFile> PreparedFiles::take(const std::string& path, const FileFacts& facts) {
-    const auto found = std::ranges::find_if(
-        files_, [&](const Kept& kept) { return kept.file.path == path && kept.file.facts == facts; });
+std::optional<PreparedFile> PreparedFiles::take(const std::string& path) {
+    const auto found = std::ranges::find_if(files_, [&](const Kept& kept) { return kept.file.path == path; });
     if (found == files_.end())
         return std::nullopt;
     PreparedFile file = std::move(found->file);

@@ -16,6 +16,7 @@ namespace sonarelle {
 struct PreparedFile {
     std::string path; ///< On this machine.
     FileFacts facts;
+    double seconds = 0; ///< Its length.
     std::unique_ptr<Decoder> decoder;
     std::vector<float> opening; ///< From frame 0 on, two floats a frame.
 };
@@ -25,8 +26,8 @@ struct PreparedFile {
 class PreparedFiles {
 public:
     void keep(PreparedFile file);
-    /// The prepared file, if it is the same still: path, size and time.
-    [[nodiscard]] std::optional<PreparedFile> take(const std::string& path, const FileFacts& facts);
+    /// What was prepared of this path; the file may have changed since.
+    [[nodiscard]] std::optional<PreparedFile> take(const std::string& path);
     void forget_old();
 
 private:

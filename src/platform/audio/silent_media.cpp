@@ -16,7 +16,7 @@ public:
             has_sound_ = file.decoder->has_sound();
             has_video_ = file.decoder->has_pictures();
             transport_ = {};
-            transport_.open(media_.opener_.measure(file));
+            transport_.open(file.seconds);
             media_.opener_.keep(std::move(file));
         } catch (const Failure& failure) {
             throw Failure{failure.number, std::string{path}, failure.description};

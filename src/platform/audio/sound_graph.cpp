@@ -22,6 +22,7 @@ void SoundGraph::RenderFile(std::string_view path) {
         throw Failure{failure.number, std::string{path}, failure.description};
     }
     path_ = path;
+    transport_.open(prepared_->seconds);
     has_sound_ = prepared_->decoder->has_sound();
     has_video_ = prepared_->decoder->has_pictures();
 }
@@ -36,31 +37,13 @@ void SoundGraph::clear() {
         media_.opener_.keep(std::move(*prepared_));
     }
     prepared_.reset();
-    transport_.reset();
+    transport_ = {};
     troubles_.reset();
     feeder_.reset();
     voice_ = nullptr;
     sounding_ = {};
     path_.clear();
     has_sound_ = has_video_ = false;
-}
-
-GraphTransport& SoundGraph::transport() const {
-    if (!transport_)
-        measure();
-    return *transport_;
-}
-
-void SoundGraph::measure() const {
-    double duration = 0;
-    try {
-        if (prepared_ && prepared_->decoder != nullptr)
-            duration = media_.opener_.measure(*prepared_);
-    } catch (const Failure& failure) {
-        throw Failure{failure.number, path_, failure.description};
-    }
-    transport_.emplace();
-    transport_->open(duration);
 }
 
 Frames SoundGraph::now() const {
@@ -72,45 +55,45 @@ Frames SoundGraph::landing() const {
 }
 
 MediaState SoundGraph::GetState() const {
-    return transport_ ? transport_->state() : MediaState::stopped;
+    return transport_.state();
 }
 
 double SoundGraph::get_Duration() const {
-    return is_empty() ? 0 : transport().duration();
+    return transport_.duration();
 }
 
 double SoundGraph::get_CurrentPosition() const {
-    return transport_ ? transport_->position(now()) : 0;
+    return transport_.position(now());
 }
 
 void SoundGraph::Run() {
-    if (is_empty() || transport().state() == MediaState::running)
+    if (is_empty() || transport_.state() == MediaState::running)
         return;
     media_.clock_.advance_to(landing());
-    transport().run(now());
+    transport_.run(now());
     play(landing());
 }
 
 void SoundGraph::Pause() {
     if (is_empty())
         return;
-    transport().pause(now());
+    transport_.pause(now());
     halt(landing());
 }
 
 void SoundGraph::Stop() {
     if (is_empty())
         return;
-    transport().stop(now());
+    transport_.stop(now());
     halt(landing());
 }
 
 void SoundGraph::put_CurrentPosition(double position) {
     if (is_empty())
         return;
-    const double duration = transport().duration();
-    transport().put_position(position >= 0 ? std::min(position, duration) : 0, now());
-    if (transport().state() == MediaState::running)
+    const double duration = transport_.duration();
+    transport_.put_position(position >= 0 ? std::min(position, duration) : 0, now());
+    if (transport_.state() == MediaState::running)
         play(landing());
 }
 
@@ -129,8 +112,8 @@ void SoundGraph::put_Volume(Millibel attenuation) {
 void SoundGraph::play(Frames at) {
     if (!has_sound_)
         return;
-    const Frames position = transport().frame(at);
-    if (position >= transport().end()) {
+    const Frames position = transport_.frame(at);
+    if (position >= transport_.end()) {
         halt(at);
         return;
     }
@@ -165,7 +148,7 @@ void SoundGraph::make_voice(Frames at) {
 StreamTicket* SoundGraph::make_stream(Frames position, Frames at) {
     const bool first = sounding_.stream == nullptr;
     const std::int64_t needed = sounding_.needed(at);
-    sounding_.stream = std::make_shared<SampleStream>(position, transport().end(), media_.stream_capacity(), troubles_);
+    sounding_.stream = std::make_shared<SampleStream>(position, transport_.end(), media_.stream_capacity(), troubles_);
     feeder_->play(sounding_.stream, needed);
     if (first)
         media_.start(feeder_);

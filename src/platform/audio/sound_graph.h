@@ -52,8 +52,6 @@ private:
     };
 
     [[nodiscard]] bool is_empty() const { return path_.empty(); }
-    [[nodiscard]] GraphTransport& transport() const;
-    void measure() const;
     [[nodiscard]] Frames now() const;
     [[nodiscard]] Frames landing() const;
     void play(Frames at);
@@ -68,10 +66,9 @@ private:
     bool has_video_ = false;
     std::string caption_;
     Millibel volume_;
-    // Made known by the first call that needs the length.
-    mutable std::optional<GraphTransport> transport_;
+    GraphTransport transport_;
 
-    mutable std::optional<PreparedFile> prepared_; // until something is played
+    std::optional<PreparedFile> prepared_; // until something is played
     std::shared_ptr<SoundTroubles> troubles_;
     std::shared_ptr<Feeder> feeder_;
     Voice* voice_ = nullptr; // the bus's

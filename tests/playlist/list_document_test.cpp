@@ -373,7 +373,7 @@ TEST_F(ListDocumentTest, LoadsShowsAndSavesMoreRowsThanA16BitCounterHas) {
 TEST_F(ListDocumentTest, SurvivesAListOfRandomBytes) {
     std::string bytes;
     for (int i = 0; i < 20 * 418; ++i)
-        bytes += static_cast<char>(machine.random.Rnd() * 256);
+        bytes += static_cast<char>(static_cast<unsigned char>(machine.random.Rnd() * 256));
     machine.disk.put_file(matin, bytes);
     machine.dialogs.expect_open(matin);
     station.list_window.A_liste.click();

@@ -29,7 +29,7 @@ struct ListState {
 
     Flag bouton_jingle_actif; ///< What the switches of the two insertions show.
     Flag bouton_liste_actif;
-    Flag volume_nul_signale; ///< The null volume warning was given since start-up.
+    Flag volume_nul_signale; ///< The null volume warning has come since start-up.
 };
 
 } // namespace sonarelle

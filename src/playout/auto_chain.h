@@ -93,7 +93,7 @@ private:
     RowWalk load_walk_;
     RowWalk mix_walk_;
     RandomOrder random_order_;
-    int faded_deck_ = 0; // the deck whose fade has begun and was told
+    int faded_deck_ = 0; // the deck whose fade has begun and is reported
 };
 
 } // namespace sonarelle

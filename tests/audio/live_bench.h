@@ -40,7 +40,7 @@ public:
         return made;
     }
 
-    /// What the card was given for the left channel of a bus frame.
+    /// What the card got for the left channel of a bus frame.
     [[nodiscard]] float left(Frames frame) const {
         return card->heard().at(2 * static_cast<std::size_t>(frame.count()));
     }

@@ -18,7 +18,7 @@ public:
     explicit AirPicture(DeckWatch& watch) : watch_{watch} {}
 
     void take(Frames at, const OnAirEvent& event);
-    /// Nothing was told to a deck between these instants.
+    /// No deck gets a command between these instants.
     void advance(Frames now, Frames next);
     void add_silence(Frames from, Frames span) { silences_.push_back({from, from + span}); }
 

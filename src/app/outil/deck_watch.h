@@ -15,7 +15,7 @@ public:
 
     std::function<void(Frames at, int deck)> on_end_of_file;
 
-    /// Nothing was told to a deck since the last instant. Ends of files before `next`, or at it, are told in order.
+    /// No deck got a command since the last instant. Ends of files before `next`, or at it, are told in order.
     void advance(Frames now, Frames next);
 
     /// The frame up to which a deck runs, or nothing when none does now.

@@ -11,7 +11,7 @@
 
 namespace sonarelle {
 
-/// A graph that is heard. What its getters answer is what it was told; what the bus plays is made to agree: each
+/// A graph that is heard. What its getters answer is what was asked of it; what the bus plays is made to agree: each
 /// command carries the frame on which it is heard, and the frame of the file that is heard there.
 ///
 /// A command that comes when its frame has been rendered already lands as early as it can. A late Run moves the

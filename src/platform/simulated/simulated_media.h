@@ -17,7 +17,7 @@ class SimulatedGraph;
 
 enum class MediaAction { created, rendered, run, paused, stopped, position, volume, caption, dropped };
 
-/// What a graph was told, and when.
+/// A command to a graph, and when it came.
 struct MediaCommand {
     Frames at;
     int graph = 0; ///< Counted from 1 in the order of creation.
@@ -27,7 +27,7 @@ struct MediaCommand {
     std::string text; ///< The caption.
 };
 
-/// Graphs without sound, on the station's clock. A file plays when the disk has it and its length was told here.
+/// Graphs without sound, on the station's clock. A file plays when the disk has it and its length is set here.
 /// Graphs must not outlive it.
 class SimulatedMedia : public Media {
 public:

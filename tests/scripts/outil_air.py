@@ -273,8 +273,13 @@ class Picture(Air):
         self.make_list(100, 100, 100)
         drawing = self.draw("--duree", "00:04:30")
         self.assertEqual(len(drawing.findall(self.SVG + "polygon")), 3)
-        labels = [text.text for text in drawing.findall(self.SVG + "text")]
-        self.assertEqual(labels, ["1 1.wav", "2 2.wav", "3 3.wav", "1", "2", "3"])
+        labels = [text.text for text in drawing.findall(self.SVG + "text[@class='track']")]
+        self.assertEqual(labels, ["1 1.wav", "2 2.wav", "3 3.wav"])
+
+    def test_has_a_time_for_each_full_minute(self):
+        self.make_list(100, 100)
+        labels = [text.text for text in self.draw("--duree", "00:02:30").findall(self.SVG + "text")]
+        self.assertEqual([label for label in labels if label.endswith(" min")], ["0 min", "1 min", "2 min"])
 
     def test_escapes_names(self):
         file = write_wav(self.folder / "a & b's.wav", 40)
@@ -285,7 +290,7 @@ class Picture(Air):
         self.make_list(100, 100)
         gestures = self.folder / "gestes.txt"
         gestures.write_text("25 pause 1\n50 pause 1\n", encoding="utf-8")
-        red, = self.draw("--gestes", gestures, "--duree", "00:01:40").findall(self.SVG + "rect")
+        red, = self.draw("--gestes", gestures, "--duree", "00:01:40").findall(self.SVG + "rect[@class='silence']")
         self.assertEqual((red.get("x"), red.get("width")), ("340.00", "300.00"))
 
     def test_that_cannot_be_written_is_named(self):

@@ -17,6 +17,8 @@ constexpr double width = 1200;
 constexpr double lane_height = 60;
 constexpr double bar_height = 44;
 constexpr int decks = 3;
+constexpr double narrowest_labelled = 90;
+constexpr double closest_times = 60;
 
 std::string escaped(const std::string& text) {
     std::string result;
@@ -55,6 +57,21 @@ std::string number(double value) {
 
 } // namespace
 
+/// Where the instants of a run stand, from the left.
+class AirPicture::Scale {
+public:
+    explicit Scale(Frames length)
+        : pixels_per_frame_{width / static_cast<double>(std::max<std::int64_t>(1, length.count()))} {}
+
+    [[nodiscard]] double pixels(Frames span) const { return pixels_per_frame_ * static_cast<double>(span.count()); }
+    [[nodiscard]] double place(Frames at) const { return margin + pixels(at); }
+    [[nodiscard]] std::string x(Frames at) const { return number(place(at)); }
+    [[nodiscard]] std::string width_of(Frames span) const { return number(pixels(span)); }
+
+private:
+    double pixels_per_frame_;
+};
+
 AirPicture::Bar* AirPicture::open_bar(int deck) {
     const auto found = std::find_if(bars_.rbegin(), bars_.rend(), [deck](const Bar& bar) { return bar.deck == deck; });
     return found == bars_.rend() || !found->open ? nullptr : &*found;
@@ -89,30 +106,53 @@ void AirPicture::advance(Frames now, Frames next) {
 
 void AirPicture::save(const std::string& file, Frames length) const {
     std::ofstream out{file, std::ios::binary};
-    const double scale = width / static_cast<double>(std::max<std::int64_t>(1, length.count()));
-    const auto x = [scale](Frames at) { return number(margin + scale * static_cast<double>(at.count())); };
-    const auto wide = [scale](const Stretch& stretch) {
-        return number(scale * static_cast<double>((stretch.to - stretch.from).count()));
-    };
-    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << number(width + 2 * margin) << "\" height=\""
-        << number(decks * lane_height + 2 * margin) << "\" font-family=\"sans-serif\" font-size=\"12\">\n";
+    const Scale scale{length};
+    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << number(width + 2 * margin) << ' '
+        << number(decks * lane_height + 2 * margin) << "\" font-family=\"sans-serif\" font-size=\"12\">\n"
+        << "<rect width=\"100%\" height=\"100%\" fill=\"#15171b\"/>\n";
+    draw_times(out, scale, length);
     for (const Stretch& silence : silences_)
-        out << "<rect class=\"silence\" x=\"" << x(silence.from) << "\" y=\"" << number(margin) << "\" width=\""
-            << wide(silence) << "\" height=\"" << number(decks * lane_height) << "\" fill=\"#d22\"/>\n";
-    for (const Bar& bar : bars_) {
-        const double top = lane_top(bar.deck);
-        const Frames fades_from = std::min(bar.fades_from.value_or(bar.played.to), bar.played.to);
-        out << "<polygon points=\"" << x(bar.played.from) << ',' << number(top) << ' ' << x(fades_from) << ','
-            << number(top) << ' ' << x(bar.played.to) << ',' << number(bar.fades_from ? top + bar_height / 2 : top)
-            << ' ' << x(bar.played.to) << ',' << number(top + bar_height) << ' ' << x(bar.played.from) << ','
-            << number(top + bar_height) << "\" fill=\"#7ab\" stroke=\"#245\"/>\n<text x=\"" << x(bar.played.from)
-            << "\" y=\"" << number(top + bar_height - 6) << "\">" << escaped(printable(bar.label)) << "</text>\n";
-    }
+        out << "<rect class=\"silence\" x=\"" << scale.x(silence.from) << "\" y=\"" << number(margin) << "\" width=\""
+            << scale.width_of(silence.to - silence.from) << "\" height=\"" << number(decks * lane_height)
+            << "\" fill=\"#d22\"/>\n";
+    for (const Bar& bar : bars_)
+        draw_bar(out, scale, bar);
     for (int deck = 1; deck <= decks; ++deck)
-        out << "<text x=\"8\" y=\"" << number(lane_top(deck) + bar_height / 2) << "\">" << deck << "</text>\n";
+        out << "<text x=\"14\" y=\"" << number(lane_top(deck) + bar_height / 2 + 4) << "\" fill=\"#9aa0a8\">" << deck
+            << "</text>\n";
     out << "</svg>\n";
     if (!out.flush())
         throw Failure{failure_number::path_access, file};
+}
+
+/// A label stands on bars that have room for it.
+void AirPicture::draw_bar(std::ostream& out, const Scale& scale, const Bar& bar) {
+    const std::string top = number(lane_top(bar.deck));
+    const std::string bottom = number(lane_top(bar.deck) + bar_height);
+    const std::string end_top = number(lane_top(bar.deck) + (bar.fades_from ? bar_height / 2 : 0));
+    const Frames fades_from = std::min(bar.fades_from.value_or(bar.played.to), bar.played.to);
+    const std::string from = scale.x(bar.played.from);
+    const std::string to = scale.x(bar.played.to);
+    out << "<polygon points=\"" << from << ',' << top << ' ' << scale.x(fades_from) << ',' << top << ' ' << to << ','
+        << end_top << ' ' << to << ',' << bottom << ' ' << from << ',' << bottom
+        << "\" fill=\"#1f3a2b\" stroke=\"#3ddc84\"/>\n";
+    if (scale.pixels(bar.played.to - bar.played.from) >= narrowest_labelled)
+        out << "<text class=\"track\" x=\"" << number(scale.place(bar.played.from) + 6) << "\" y=\""
+            << number(lane_top(bar.deck) + bar_height / 2 + 4) << "\" fill=\"#ffffff\">"
+            << escaped(printable(bar.label)) << "</text>\n";
+}
+
+/// A line at each full minute, or as many minutes apart as leave room for their times.
+void AirPicture::draw_times(std::ostream& out, const Scale& scale, Frames length) {
+    std::int64_t minutes = 1;
+    while (scale.pixels(seconds(60 * minutes)) < closest_times)
+        minutes *= 2;
+    for (std::int64_t minute = 0; seconds(60 * minute) <= length; minute += minutes) {
+        const std::string x = scale.x(seconds(60 * minute));
+        out << "<path d=\"M" << x << ' ' << number(margin - 6) << 'V' << number(margin + decks * lane_height)
+            << "\" stroke=\"#33373d\"/>\n<text x=\"" << x << "\" y=\"" << number(margin - 12)
+            << "\" fill=\"#9aa0a8\" text-anchor=\"middle\">" << minute << " min</text>\n";
+    }
 }
 
 } // namespace sonarelle

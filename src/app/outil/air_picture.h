@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <iosfwd>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,7 +39,11 @@ private:
         bool open = true;
     };
 
+    class Scale;
+
     [[nodiscard]] Bar* open_bar(int deck);
+    static void draw_bar(std::ostream& out, const Scale& scale, const Bar& bar);
+    static void draw_times(std::ostream& out, const Scale& scale, Frames length);
 
     DeckWatch& watch_;
     std::vector<Bar> bars_;

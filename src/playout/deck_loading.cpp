@@ -96,8 +96,9 @@ std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_re
     const Integer whole = deck.whole_duration();
     if (desk_.list_window.Option4.value() || !chain.mode_enchainement.is_true())
         return text_of(whole);
+    // A file that was opened by hand belongs to no record: it plays to its end.
     if (!chain.preecoute_active.is_true())
-        return end_of_record;
+        return end_of_record.empty() ? text_of(whole) : end_of_record;
     return text_of(whole <= chain.duree_preecoute ? whole : chain.duree_preecoute);
 }
 
@@ -168,6 +169,7 @@ void DeckLoading::open_by_hand(Deck& deck) {
     nom_du_fich();
     formate_nom();
     mix_.manuel_mix();
+    deck.fin_piste.clear(); // that of the row that was on the deck before
     attempt([&] { deck.graph().RenderFile(deck.path); });
     desk_.chain.duree_mesuree = deck.graph().get_Duration();
     attempt([this] { format_duration(); });

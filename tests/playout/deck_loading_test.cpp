@@ -282,4 +282,16 @@ TEST_F(DeckLoadingTest, SpecialMixButtonNamesItsKeyAndFile) {
               "Mixage spécial sur lecteur en cours (F11) avec : " + std::string{song});
 }
 
+TEST_F(DeckLoadingTest, FileOpenedByHandPlaysToItsEndWhileTheListRuns) {
+    open_tracks({100, 100});
+    machine.add_track("C:\\main.mp3", 80);
+    start_list();
+    machine.run_for(seconds(5));
+    machine.dialogs.expect_open("C:\\main.mp3");
+    station.main_window.deck(2).open.click();
+    station.main_window.deck(2).play.click();
+    EXPECT_EQ(station.main_window.deck(2).counter.caption.get(), "80");
+    EXPECT_EQ(station.chain.lecteur_en_cours, 2);
+}
+
 } // namespace sonarelle

@@ -134,6 +134,9 @@ private:
             silence_.on_two_seconds = [this](Frames at) { events_.write_silence(at); };
         }
         silence_.on_silence_over = [this](Frames span) { events_.add_silence(span); };
+        media_.on_opened = [this](std::chrono::nanoseconds time) {
+            events_.add_load(std::chrono::duration<double, std::milli>{time}.count());
+        };
         media_.on_trouble = [this](const SoundReport& report) {
             station_->journal.note(date_and_time(station_->desk.platform) + " " + report.path + " : " +
                                    std::to_string(report.breaks) + " coupures, " +

@@ -1,6 +1,7 @@
 #include "platform/audio/sound_graph.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include "platform/failure.h"
 
@@ -16,11 +17,14 @@ SoundGraph::~SoundGraph() {
 
 void SoundGraph::RenderFile(std::string_view path) {
     clear();
+    const auto begin = std::chrono::steady_clock::now();
     try {
         prepared_ = media_.opener_.open(media_.resolve_(path));
     } catch (const Failure& failure) { // known to the station by its own name
         throw Failure{failure.number, std::string{path}, failure.description};
     }
+    if (media_.on_opened)
+        media_.on_opened(std::chrono::steady_clock::now() - begin);
     path_ = path;
     transport_.open(prepared_->seconds);
     has_sound_ = prepared_->decoder->has_sound();

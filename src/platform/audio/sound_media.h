@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -43,6 +44,8 @@ public:
     /// then.
     void housekeep();
     std::function<void(const SoundReport&)> on_trouble;
+    /// Called with the time that each opening of a file took.
+    std::function<void(std::chrono::nanoseconds)> on_opened;
 
     /// Fills the streams of all graphs, for a rendering loop: enough for `rendered_at_once` more frames.
     void feed();

@@ -170,7 +170,8 @@ private:
         look_.disable();
         silence_.end();
         station_->list_run.Image3_Click();
-        events_.write_account(clock_.now());
+        if (!live_.shows_journal)
+            events_.write_account(clock_.now());
         driver_.stop();
     }
 

@@ -18,8 +18,8 @@ struct err_form : Window {
     static constexpr char32_t escape = 27;
 
     Label Label1{*this, "Label1"}; ///< The warning's lines.
-    Button AnyButton1{*this, "AnyButton1", "Ok"};
-    Button AnyButton2{*this, "AnyButton2", "Info"};
+    GraphicButton AnyButton1{*this, "AnyButton1", "Ok"};
+    GraphicButton AnyButton2{*this, "AnyButton2", "Info"};
 };
 
 } // namespace sonarelle

@@ -1,17 +1,13 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "configuration/application.h"
 #include "platform/control.h"
 #include "platform/numbers.h"
 #include "platform/units.h"
 
 namespace sonarelle {
-
-inline constexpr std::string_view application_title = "Sonarelle";
-/// The name under which the settings lie in the store.
-inline constexpr std::string_view settings_application = "Sonarelle V6";
 
 /// The settings as the running program has them: read from the store when the main window is made, the truth from then
 /// on.

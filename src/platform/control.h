@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/units.h"
+
 namespace sonarelle {
 
 class Control;
@@ -44,6 +46,7 @@ enum class ControlKind {
     check_box,
     option_button,
     button,
+    graphic_button,
     image,
     slider,
     progress_bar,
@@ -52,7 +55,9 @@ enum class ControlKind {
     menu_item,
     row_table,
     rich_text,
-    frame
+    frame,
+    movie,
+    sound_display
 };
 
 /// A part of a window as a plain value: it has a state and events, and no screen. Window thread only.
@@ -80,7 +85,13 @@ public:
     Property<std::string> hint{*this, {}};
     Property<Colour> fore_colour{*this, 0};
     Property<Colour> back_colour{*this, 0};
+    /// A size that the station wishes, in twips; 0 leaves it to the view.
+    Property<Twips> width{*this, Twips{}};
+    Property<Twips> height{*this, Twips{}};
     std::function<void()> on_mouse_move;
+
+    /// The pointer is over it.
+    void mouse_move() const { raise(on_mouse_move); }
 
 protected:
     /// For a window, which is its own parent.

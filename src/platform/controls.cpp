@@ -29,6 +29,14 @@ void OptionButton::set_value(bool chosen) {
         raise(on_click);
 }
 
+void MenuItem::hang(std::initializer_list<std::initializer_list<MenuItem*>> groups) {
+    for (const auto& group : groups)
+        for (MenuItem* entry : group) {
+            entry->begins_group_ = !entries_.empty() && entry == *group.begin();
+            entries_.push_back(entry);
+        }
+}
+
 int ProgressBar::percent() const {
     const std::int64_t span = std::int64_t{maximum} - minimum;
     if (value >= maximum)

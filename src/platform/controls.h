@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,22 @@ public:
     Property<std::string> caption;
     Property<std::string> picture{*this, {}};
     std::function<void()> on_click;
+
+protected:
+    Button(Window& parent, ControlKind kind, std::string name, std::string text)
+        : Control{parent, kind, std::move(name)}, caption{*this, std::move(text)} {}
+};
+
+/// A button that is drawn, with colours of its own for the pointer over it and for being down.
+class GraphicButton : public Button {
+public:
+    GraphicButton(Window& parent, std::string name, std::string text = {})
+        : Button{parent, ControlKind::graphic_button, std::move(name), std::move(text)} {}
+
+    Property<Colour> back_colour_down{*this, 0};
+    Property<Colour> back_colour_over{*this, 0};
+    Property<Colour> fore_colour_down{*this, 0};
+    Property<Colour> fore_colour_over{*this, 0};
 };
 
 /// A picture, by its file's name. It can be pressed.
@@ -168,10 +185,23 @@ public:
     /// 0 to 100; exactly 100 once the value has reached the maximum.
     [[nodiscard]] int percent() const;
 
+    /// The pointer moves over the bar, or presses it: `x` counts from the left edge, `units_wide` is the right one.
+    void move_over(int x) { raise_at(on_mouse_move_at, x); }
+    void click_at(int x) { raise_at(on_click_at, x); }
+
     Property<int> minimum{*this, 0};
     Property<int> maximum{*this, 100};
     Property<int> value{*this, 0};
+    Property<int> units_wide{*this, 100};
     Property<std::string> caption{*this, {}};
+    std::function<void(int x)> on_mouse_move_at;
+    std::function<void(int x)> on_click_at;
+
+private:
+    void raise_at(const std::function<void(int)>& event, int x) const {
+        if (event && is_reachable())
+            event(x);
+    }
 };
 
 /// A text that can be typed, and entries that can be chosen. Typing raises the change, choosing raises the click.
@@ -189,11 +219,17 @@ public:
     }
     /// Chooses an entry, counted from 0.
     void choose(int index);
+    /// A character was typed while it had the focus.
+    void key_press(char32_t character) {
+        if (is_reachable() && on_key_press)
+            on_key_press(character);
+    }
 
     Property<std::vector<std::string>> items{*this, {}};
     Property<int> selected{*this, -1};
     std::function<void()> on_change;
     std::function<void()> on_click;
+    std::function<void(char32_t)> on_key_press;
 
 private:
     Property<std::string> text_;
@@ -215,7 +251,7 @@ public:
     std::function<void()> on_click;
 };
 
-/// An entry of a menu, or a menu of entries.
+/// An entry of a menu, or a menu of entries: what hangs under it makes it one.
 class MenuItem : public Control {
 public:
     MenuItem(Window& parent, std::string name, std::string text = {}, std::string keys = {})
@@ -226,11 +262,48 @@ public:
     /// The menu is about to show its entries.
     void open() { raise(on_open); }
 
+    /// Hangs entries under it, in groups that a line parts.
+    void hang(std::initializer_list<std::initializer_list<MenuItem*>> groups);
+    [[nodiscard]] const std::vector<MenuItem*>& entries() const { return entries_; }
+    /// A line stands above it in its menu.
+    [[nodiscard]] bool begins_group() const { return begins_group_; }
+
     Property<std::string> caption;
     Property<std::string> shortcut; ///< As "F5" or "Ctrl+Y".
     Property<bool> checked{*this, false};
     std::function<void()> on_click;
     std::function<void()> on_open;
+
+private:
+    std::vector<MenuItem*> entries_;
+    bool begins_group_ = false;
+};
+
+/// A place for a movie, by its file's name.
+class Movie : public Control {
+public:
+    Movie(Window& parent, std::string name) : Control{parent, ControlKind::movie, std::move(name)} {}
+
+    void Play() { playing = true; }
+
+    Property<std::string> movie{*this, {}};
+    Property<bool> loop{*this, false};
+    Property<bool> playing{*this, false};
+};
+
+enum class SoundPicture { oscilloscope, spectrum };
+
+/// A picture of what is heard.
+class SoundDisplay : public Control {
+public:
+    SoundDisplay(Window& parent, std::string name) : Control{parent, ControlKind::sound_display, std::move(name)} {}
+
+    /// Takes sound in, or stops doing so.
+    void InStart() { takes_sound = true; }
+    void InStop() { takes_sound = false; }
+
+    Property<SoundPicture> Affichage{*this, SoundPicture::oscilloscope};
+    Property<bool> takes_sound{*this, false};
 };
 
 /// Text of several fonts and colours.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/numbers.h"
+#include "platform/screen.h"
 
 namespace sonarelle {
 
@@ -27,6 +28,7 @@ struct Platform {
     Shell& shell;
     std::string program_folder; ///< Where the pictures and the default list lie, in the station's form of paths.
     DecimalMark decimal_mark = DecimalMark::point;
+    ScreenSize screen = {};
 };
 
 } // namespace sonarelle

@@ -30,6 +30,14 @@ public:
             on_key_press(character);
     }
     void ask_to_close() { raise(on_unload_request); }
+    /// He pressed its background once, twice, or with the right button.
+    void click() const { raise(on_click); }
+    void double_click() const { raise(on_double_click); }
+    void right_click() const { raise(on_right_click); }
+    /// It has come to the front, and can be seen.
+    void activate() const { raise(on_activate); }
+    /// He reduced it; a `state` that the station sets is none of his doing.
+    void reduce() const { raise(on_reduce); }
     /// Shows a menu at the pointer.
     void popup(MenuItem& menu) {
         if (on_popup)
@@ -40,14 +48,19 @@ public:
     Property<std::string> picture{*this, {}};
     Property<Twips> left{*this, Twips{}};
     Property<Twips> top{*this, Twips{}};
-    Property<Twips> width{*this, Twips{}};
-    Property<Twips> height{*this, Twips{}};
     Property<bool> topmost{*this, false};
     Property<WindowState> state{*this, WindowState::normal};
     Property<int> mouse_pointer{*this, 0}; ///< 0 is the plain pointer, 11 and 13 show busy.
     Property<bool> key_preview{*this, true};
 
+    std::vector<MenuItem*> menu_bar; ///< The top menus; their entries hang under them.
+
     std::function<void(char32_t)> on_key_press;
+    std::function<void()> on_click;
+    std::function<void()> on_double_click;
+    std::function<void()> on_right_click;
+    std::function<void()> on_activate;
+    std::function<void()> on_reduce;
     std::function<void()> on_unload_request;
     std::function<void(MenuItem&)> on_popup;
 

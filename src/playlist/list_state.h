@@ -19,13 +19,14 @@ struct ListState {
     std::string genre_lu;        ///< The genre of its tag.
     Flag mesure_echouee;         ///< It couldn't be measured.
 
-    Integer index_en_cours;     ///< Row that is selected after a load or save, and the row that the chain is on.
-    Integer ligne_en_lecture;   ///< Row now being played.
-    Integer index_insertion;    ///< Row behind which new rows come.
-    Integer index_supprime;     ///< Row last cut or removed.
-    Integer mode_insertion;     ///< 1 before the selected row, 2 after it, 3 at the end.
-    Integer index_destinataire; ///< Record that the destination record is read from.
-    Integer index_glisse;       ///< Record that the dragged record is read from.
+    Integer index_en_cours;       ///< Row that is selected after a load or save, and the row that the chain is on.
+    Integer ligne_en_lecture;     ///< Row now being played.
+    Integer index_insertion;      ///< Row behind which new rows come.
+    Integer index_supprime;       ///< Row last cut or removed.
+    Integer mode_insertion;       ///< 1 before the selected row, 2 after it, 3 at the end.
+    Integer index_destinataire;   ///< Record that the destination record is read from.
+    Flag glisser_autorise = true; ///< Rows and files may be dragged onto the list and the open buttons.
+    Integer index_glisse;         ///< Record that the dragged record is read from.
 
     Flag bouton_jingle_actif; ///< What the switches of the two insertions show.
     Flag bouton_liste_actif;

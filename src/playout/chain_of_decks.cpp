@@ -35,7 +35,7 @@ void AutoChain::deck_tick() {
     if (position == desk_.settings.prechargement)
         deck.controls.zap.enabled = true;
     if (position != 0)
-        desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
+        desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
     if (point <= 0)
         return;
@@ -134,7 +134,7 @@ void AutoChain::release(Deck& main, Deck& old) {
     old.controls.slider.set_value(0);
     desk_.list_window.Image2.enabled = true;
     desk_.list_window.Label12.caption = "Zapping autorisé";
-    desk_.small_player.zap.visible = true;
+    desk_.small_player.Command2.visible = true;
     if (!desk_.is_manual())
         old.drop_graph();
 }

@@ -37,7 +37,7 @@ void AutoChain::list_tick() {
 void AutoChain::show_list_progress(Deck& deck, Integer point) {
     const Integer position = deck.whole_position();
     desk_.list_window.Label3.caption = "( " + text_of(position) + " / " + text_of(point) + " )";
-    desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
+    desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
     desk_.window.Label5.caption = text_of(position);
     deck.controls.progress.value = position.value();
 }
@@ -122,7 +122,7 @@ bool AutoChain::start_row(Deck& old) {
     desk_.window.Timer1.enable();
     desk_.list_window.Image2.enabled = true;
     desk_.list_window.Label12.caption = "Zapping autorisé";
-    desk_.small_player.zap.enabled = true;
+    desk_.small_player.Command2.enabled = true;
     return true;
 }
 

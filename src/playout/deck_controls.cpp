@@ -21,6 +21,8 @@ DeckControls::DeckControls(Window& window, Scheduler& scheduler, const DeckNames
     forward.hint = "Avancer";
     back.hint = "Reculer";
     playing_mark.visible = false;
+    special_mix.hint = "Mixage spécial sur lecteur en cours (" + std::string{names.mix_key} + ") avec : ";
+    keep_volume.hint = "Garder le volume dans la liste";
     scroll_timer.set_interval(500);
 }
 

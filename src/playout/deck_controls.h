@@ -91,20 +91,20 @@ struct DeckControls {
     Label title;
     Label counter; ///< The end point in whole seconds, as text; the chain reads it back.
     ProgressBar progress;
-    Button open;
-    Button zap;
-    Button play;
-    Button stop;
-    Button pause;
-    Button forward;
-    Button back;
-    Button special_mix;
-    Button keep_volume;
+    GraphicButton open;
+    GraphicButton zap;
+    GraphicButton play;
+    GraphicButton stop;
+    GraphicButton pause;
+    GraphicButton forward;
+    GraphicButton back;
+    GraphicButton special_mix;
+    GraphicButton keep_volume;
     Image playing_mark;
     Slider slider; ///< 0 is full, 20 is the quietest.
     Label percent;
-    Button louder;
-    Button quieter;
+    GraphicButton louder;
+    GraphicButton quieter;
     Timer scroll_timer;
 };
 

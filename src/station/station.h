@@ -1,5 +1,7 @@
 #pragma once
 
+#include "accessories/about_windows.h"
+#include "accessories/chargement.h"
 #include "accessories/err_form.h"
 #include "accessories/mini_lecteur.h"
 #include "configuration/form_options.h"
@@ -64,6 +66,9 @@ public:
     Form_options options_window;
     mini_lecteur small_player;
     err_form warning_window;
+    Chargement splash;
+    frmAbout about_window;
+    vbplus update_window;
     Desk desk;
 
     SettingsLoad settings_load;

@@ -53,7 +53,7 @@ TEST_F(ChainOfDecksTest, ShowsWhatItWaitsFor) {
     EXPECT_EQ(station.main_window.Label10.caption.get(), " Mix lecteur : Play 1");
     EXPECT_EQ(station.list_window.Label16.caption.get(), "Play 1 Mix lecteur");
     EXPECT_EQ(station.main_window.Label5.caption.get(), "5");
-    EXPECT_EQ(station.small_player.remaining.caption.get(), "95");
+    EXPECT_EQ(station.small_player.label1.caption.get(), "95");
 }
 
 TEST_F(ChainOfDecksTest, FreesTheOpenButtonsOfTheOtherDecks) {

@@ -20,7 +20,7 @@ using Act = std::function<void(Station&, SimulatedDialogs&)>;
 /// A gesture on a deck's own button.
 struct DeckGesture {
     std::string_view word;
-    Button DeckControls::*button;
+    GraphicButton DeckControls::*button;
 };
 
 constexpr std::array deck_gestures{

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/controls.h"
+
+namespace sonarelle {
+
+/// The splash, on the screen until the main window is.
+struct Chargement : Window {
+    Chargement() : Window{"Chargement"} {
+        caption = "Chargement en cours ...";
+        width = Twips{7500};
+        height = Twips{5250};
+        Image1.width = width.get() - Twips{100};
+        Image1.height = height.get() - Twips{490};
+    }
+
+    Image Image1{*this, "Image1"};
+};
+
+} // namespace sonarelle

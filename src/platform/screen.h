@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/units.h"
+
+namespace sonarelle {
+
+/// The part of the screen that windows may take, at first that of 1024 by 768 pixels.
+struct ScreenSize {
+    Twips width{15360};
+    Twips height{11520};
+};
+
+} // namespace sonarelle

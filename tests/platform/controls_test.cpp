@@ -317,6 +317,18 @@ TEST_F(Choices, OutOfReachTheyKeepTheirEntry) {
     EXPECT_EQ(list.selected.get(), -1);
 }
 
+TEST_F(Windows, TellWhereTheirProgressBarIsPressed) {
+    ProgressBar bar{window, "ProgressBar1"};
+    std::vector<int> places;
+    bar.on_mouse_move_at = [&](int x) { places.push_back(x); };
+    bar.on_click_at = [&](int x) { places.push_back(-x); };
+    bar.move_over(12);
+    bar.click_at(30);
+    bar.enabled = false;
+    bar.click_at(31);
+    EXPECT_THAT(places, ElementsAre(12, -30));
+}
+
 TEST_F(Windows, KnowTheirPartsInTheOrderOfMaking) {
     const Label label{window, "Label5"};
     const Button button{window, "Command3"};

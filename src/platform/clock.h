@@ -32,6 +32,11 @@ public:
     /// Lets the other timers and the operator's events run until now has moved by `span`. The timer whose tick calls
     /// stands still meanwhile.
     virtual void wait(Frames span) = 0;
+
+    /// Lets run what is due by now, the other timers and the operator's events, and comes back at once: what long work
+    /// of a handler calls again and again, so that the station and its windows live on. The timer whose tick calls
+    /// stands still meanwhile.
+    virtual void yield() = 0;
 };
 
 } // namespace sonarelle

@@ -163,5 +163,33 @@ TEST(LiveDriver, OtherTimersRunOnWhileOneWaits) {
     EXPECT_GE(ticks_meanwhile, 5);
 }
 
+TEST(LiveDriver, LongWorkLetsOtherTimersAndTheOperatorInWhereItYields) {
+    LiveBench live;
+    Timer working{"Timer2", 2, live.scheduler};
+    Timer other{"Timer1", 1, live.scheduler};
+    bool works = false;
+    bool stopped = false;
+    int ticks_meanwhile = 0;
+    working.set_interval(Integer{60});
+    working.on_tick = [&] {
+        working.disable();
+        works = true;
+        while (!stopped)
+            live.clock.yield();
+        works = false;
+    };
+    other.set_interval(Integer{50});
+    other.on_tick = [&] {
+        ticks_meanwhile += works ? 1 : 0;
+        if (ticks_meanwhile == 3)
+            live.driver.post([&] { stopped = true; });
+    };
+    working.enable();
+    other.enable();
+    live.go_on_air();
+    live.live_until([&] { return stopped && !works; });
+    EXPECT_GE(ticks_meanwhile, 3);
+}
+
 } // namespace
 } // namespace sonarelle

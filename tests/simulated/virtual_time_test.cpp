@@ -169,6 +169,18 @@ TEST_F(VirtualCalendar, KnowsLeapDays) {
     EXPECT_EQ(shown(night.calendar()), "2028-02-29 00:00:00");
 }
 
+TEST_F(Virtual, YieldingRunsWhatIsDueAndTakesNoTime) {
+    time.at(seconds(1), [this] {
+        write("work");
+        time.at(seconds(1), [this] { write("gesture"); });
+        time.at(seconds(1) + Frames{1}, [this] { write("later"); });
+        time.yield();
+        write("work");
+    });
+    time.run_for(seconds(1));
+    EXPECT_THAT(lines, ElementsAre("tick@1000", "work@1000", "gesture@1000", "work@1000"));
+}
+
 } // namespace
 
 } // namespace sonarelle

@@ -18,4 +18,9 @@ void LiveClock::wait(Frames span) {
         run_until(now() + span);
 }
 
+void LiveClock::yield() {
+    if (run_pending)
+        run_pending();
+}
+
 } // namespace sonarelle

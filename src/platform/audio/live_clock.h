@@ -18,9 +18,12 @@ public:
     [[nodiscard]] CalendarTime calendar() const override;
     void advance_to(Frames heard) override { scheduler_.advance_to(heard); }
     void wait(Frames span) override;
+    void yield() override;
 
     /// Runs ticks and events until now has come to a frame; the driver's.
     std::function<void(Frames)> run_until;
+    /// Runs what is due and comes back at once; the driver's.
+    std::function<void()> run_pending;
 
 private:
     Scheduler& scheduler_;

@@ -27,10 +27,12 @@ LiveDriver::LiveDriver(Scheduler& scheduler, LiveClock& clock, ProgrammeBus& bus
         throw std::system_error{errno, std::generic_category()};
     sleep = [this](std::chrono::nanoseconds time) { sleep_on_descriptor(time); };
     clock_.run_until = [this](Frames frame) { wait_until(frame); };
+    clock_.run_pending = [this] { run_pending(); };
 }
 
 LiveDriver::~LiveDriver() {
     clock_.run_until = nullptr;
+    clock_.run_pending = nullptr;
     ::close(wake_);
 }
 
@@ -102,6 +104,12 @@ void LiveDriver::wait_until(Frames frame) {
             return;
         sleep(std::min(time, time_until(frame)));
     }
+}
+
+// A sleep of no length is what lets a toolkit's loop take what waits in its queue.
+void LiveDriver::run_pending() {
+    poll();
+    sleep(0ns);
 }
 
 void LiveDriver::sleep_on_descriptor(std::chrono::nanoseconds time) const {

@@ -49,7 +49,8 @@ public:
     /// Readable when something was posted.
     [[nodiscard]] int wake_descriptor() const { return wake_; }
 
-    /// Sleeps for at most this long, less if something was posted. At first: the thread sleeps.
+    /// Sleeps for at most this long, less if something was posted; no time at all runs what waits in a toolkit's loop.
+    /// At first: the thread sleeps.
     std::function<void(std::chrono::nanoseconds)> sleep;
 
 private:
@@ -57,6 +58,7 @@ private:
     [[nodiscard]] bool take_posted(std::function<void()>& event);
     [[nodiscard]] std::chrono::nanoseconds time_until(Frames frame);
     void wait_until(Frames frame);
+    void run_pending();
     void sleep_on_descriptor(std::chrono::nanoseconds time) const;
     void wake() const noexcept;
 

@@ -19,6 +19,7 @@ public:
     [[nodiscard]] CalendarTime calendar() const override;
     void advance_to(Frames heard) override;
     void wait(Frames span) override { run_until(now() + span); }
+    void yield() override { run_until(now()); }
 
     /// Runs everything that falls into the span, its end included.
     void run_for(Frames span) { run_until(now() + span); }

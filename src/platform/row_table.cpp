@@ -40,6 +40,26 @@ void RowTable::remove(int number) {
         row_observer_->row_removed(number);
 }
 
+void RowTable::replace(int number, Row row) {
+    rows_[index_of(number)] = std::move(row);
+    if (row_observer_ != nullptr)
+        row_observer_->row_changed(number);
+}
+
+void RowTable::click(int number) {
+    if (!is_reachable())
+        return;
+    select(number);
+    raise(on_click);
+}
+
+void RowTable::edit_label(int number, std::string text) {
+    if (!is_reachable() || label_editing != LabelEditing::automatic)
+        return;
+    set_text(number, std::move(text));
+    raise(on_label_edited);
+}
+
 void RowTable::set_sub_item(int number, std::size_t column, std::string text) {
     std::string& cell = rows_[index_of(number)][column];
     if (cell == text)

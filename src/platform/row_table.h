@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,9 @@ struct Column {
 };
 
 enum class SortOrder { ascending, descending };
+
+/// Whether a press on the selected row's text begins to edit it, or only a call of the program does.
+enum class LabelEditing { automatic, manual };
 
 /// Who shows a table's rows. Row numbers count from 1.
 class RowTableObserver {
@@ -54,6 +58,8 @@ public:
     void insert(int number, Row row);
     void append(Row row) { insert(count() + 1, std::move(row)); }
     void remove(int number);
+    /// Puts a row in the place of another, as removing it and adding the new one there does; the selection stays.
+    void replace(int number, Row row);
     void set_text(int number, std::string text) { set_sub_item(number, 0, std::move(text)); }
     void set_sub_item(int number, std::size_t column, std::string text);
     /// Sorts by the texts of a column, ignoring case; equal ones keep their order. The selection goes with its row.
@@ -64,6 +70,15 @@ public:
     void select(int number);
     /// Scrolls a row into view.
     void ensure_visible(int number);
+
+    /// The operator presses a row: it is selected, and the click raised.
+    void click(int number);
+    /// The operator has typed another text over that of a row. Nothing when labels are edited manually.
+    void edit_label(int number, std::string text);
+
+    Property<LabelEditing> label_editing{*this, LabelEditing::manual};
+    std::function<void()> on_click;
+    std::function<void()> on_label_edited;
 
 private:
     [[nodiscard]] std::size_t index_of(int number) const;

@@ -103,6 +103,38 @@ TEST_F(Rows, WhenTheLastRowGoesTheOneBeforeIsSelected) {
     EXPECT_EQ(table.selected(), 0);
 }
 
+TEST_F(Rows, AReplacedRowKeepsItsPlaceAndTheSelection) {
+    fill({"a", "b", "c"});
+    table.select(2);
+    table.replace(2, {"B"});
+    EXPECT_THAT(texts(), ElementsAre("a", "B", "c"));
+    EXPECT_EQ(table.selected(), 2);
+}
+
+TEST_F(Rows, APressSelectsTheRowAndRaisesTheClick) {
+    fill({"a", "b"});
+    int selected = 0;
+    table.on_click = [&] { selected = table.selected(); };
+    table.click(2);
+    EXPECT_EQ(selected, 2);
+}
+
+TEST_F(Rows, ALabelIsEditedWhereThatIsAutomatic) {
+    fill({"a"});
+    int edits = 0;
+    table.on_label_edited = [&] { ++edits; };
+    table.label_editing = LabelEditing::automatic;
+    table.edit_label(1, "A");
+    EXPECT_THAT(texts(), ElementsAre("A"));
+    EXPECT_EQ(edits, 1);
+}
+
+TEST_F(Rows, ALabelIsNotEditedByHandOtherwise) {
+    fill({"a"});
+    table.edit_label(1, "A");
+    EXPECT_THAT(texts(), ElementsAre("a"));
+}
+
 TEST_F(Rows, ClearingLeavesNoSelection) {
     fill({"a"});
     table.select(1);

@@ -42,7 +42,9 @@ Station::Station(const Platform& platform)
                   chain,
                   list_window,
                   record_reading,
-                  [this](int deck) { load_row_on_deck(deck); }} {
+                  [this](int deck) { load_row_on_deck(deck); }},
+      track_properties{platform_,   settings,          list,           destination,
+                       list_window, properties_window, record_reading, list_document} {
     connect_list_window();
     connect_reading_modes();
     connect_timers();

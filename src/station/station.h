@@ -4,6 +4,8 @@
 #include "accessories/chargement.h"
 #include "accessories/err_form.h"
 #include "accessories/mini_lecteur.h"
+#include "accessories/propriete.h"
+#include "accessories/track_properties.h"
 #include "configuration/form_options.h"
 #include "configuration/settings_load.h"
 #include "configuration/settings_rewrite.h"
@@ -66,6 +68,7 @@ public:
     Form_options options_window;
     mini_lecteur small_player;
     err_form warning_window;
+    Propriete properties_window{platform_.scheduler};
     Chargement splash;
     frmAbout about_window;
     vbplus update_window;
@@ -92,6 +95,7 @@ public:
     ChainModes chain_modes;
     ListRun list_run;
     RowToDeck row_to_deck;
+    TrackProperties track_properties;
 
 private:
     void connect_list_window();

@@ -1,0 +1,245 @@
+#include "accessories/track_properties.h"
+
+#include <utility>
+
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr char32_t escape_key = 27;
+constexpr double one_step = 0.1;
+constexpr Colour hover_colour = 0x80FF80;
+constexpr auto pressed_colour = static_cast<Colour>(0x80000012); // the desktop's colour of a button's text
+
+int percent_of(int x) {
+    return to_integer(x * 100.0 / Propriete::bar_units).value();
+}
+
+} // namespace
+
+TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
+                                 DestinationRecord& destination, Liste_son& list_window, Propriete& window,
+                                 RecordReading& reading, ListDocument& document)
+    : platform_{platform}, settings_{settings}, list_{list}, destination_{destination}, list_window_{list_window},
+      window_{window}, reading_{reading}, document_{document}, start_{window.Text1, window.Timer2}, end_{
+                                                                                                        window.Text2,
+                                                                                                        window.Timer3} {
+    connect_actions();
+    connect_looks();
+}
+
+void TrackProperties::connect_actions() {
+    list_window_.a_modif.on_click = [this] { a_modif(); };
+    on_press(window_.play, [this] { play(); });
+    on_press(window_.mark_start, [this] { press_start(); });
+    on_press(window_.mark_end, [this] { press_end(); });
+    on_press(window_.stop, [this] { stop(); });
+    on_press(window_.start_back, [this] { step_back(start_); });
+    on_press(window_.start_forward, [this] { step(start_, one_step); });
+    on_press(window_.end_back, [this] { step_back(end_); });
+    on_press(window_.end_forward, [this] { step(end_, one_step); });
+    window_.ProgressBar1.on_mouse_move_at = [this](int x) { tell_place(x); };
+    window_.ProgressBar1.on_click_at = [this](int x) { ErrorIndicator{}.skip([&] { go_to_place(x); }); };
+    window_.Timer1.on_tick = [this] { ErrorIndicator{}.skip([this] { show_progress(); }); };
+    for (const Mark* mark : {&start_, &end_})
+        mark->timer.on_tick = [this, mark] { ErrorIndicator{}.skip([&] { show_position(*mark); }); };
+    window_.AnyButton1.on_click = [this] { close(); };
+    window_.AnyButton2.on_click = [this] { save(); };
+    window_.on_unload_request = [this] { close(); };
+    window_.on_key_press = [this](char32_t key) {
+        if (key == escape_key)
+            close();
+    };
+}
+
+void TrackProperties::connect_looks() {
+    for (Label* label : window_.actions())
+        label->on_mouse_move = [label] { label->fore_colour = hover_colour; };
+    window_.on_mouse_move = [this] { restore_colours(); };
+}
+
+// What an action can't do, it leaves without a word.
+void TrackProperties::on_press(Label& label, std::function<void()> act) {
+    label.on_click = [&label, act = std::move(act)] {
+        label.fore_colour = pressed_colour;
+        ErrorIndicator{}.skip(act);
+    };
+}
+
+void TrackProperties::restore_colours() {
+    for (Label* label : window_.actions())
+        label->fore_colour = settings_.coul_label;
+}
+
+MediaGraph& TrackProperties::graph() const {
+    if (!graph_)
+        throw Failure{failure_number::no_object};
+    return *graph_;
+}
+
+void TrackProperties::a_modif() {
+    if (list_window_.ListView1.count() == 0)
+        return;
+    ErrorIndicator{}.skip([this] {
+        stop();
+        list_.index_destinataire = list_window_.ListView1.selected();
+        reading_.lire_enreg_destinataire();
+        destination_.convertir_valeur_son_ecriture();
+        row_ = list_.index_destinataire;
+        path_ = trim(destination_.dest_chemin);
+        list_.nom_fichier_maj = path_;
+        changed_ = false;
+        window_.Label2.caption = destination_.dest_nom_fichier;
+        window_.Text1.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
+        window_.Text2.set_text(destination_.dest_fin);
+        window_.Text3.set_text(destination_.dest_genre);
+        window_.Text4.set_text(text_of(destination_.dest_volume));
+        window_.Text5.set_text(destination_.dest_duree);
+        restore_colours();
+        window_.show();
+    });
+}
+
+void TrackProperties::play() {
+    stop();
+    graph_ = platform_.media.create_graph();
+    graph_->RenderFile(path_);
+    window_.ProgressBar1.maximum = to_long(graph_->get_Duration());
+    window_.stop.visible = true;
+    graph_->Run();
+    window_.Timer1.enable();
+    start_.timer.enable();
+}
+
+// The bar goes back to 0, the graph stays where it is: "Début" goes on from there.
+void TrackProperties::stop() {
+    for (Timer* timer : window_.timers())
+        timer->disable();
+    start_.paused = end_.paused = false;
+    window_.ProgressBar1.value = 0;
+    if (graph_)
+        graph_->Stop();
+}
+
+void TrackProperties::press_start() {
+    press_mark(start_);
+    if (start_.paused)
+        window_.mark_end.visible = true;
+}
+
+void TrackProperties::press_end() {
+    press_mark(end_);
+    if (!end_.paused)
+        show_position(end_);
+}
+
+// The first press marks the place, the next one goes on from it.
+void TrackProperties::press_mark(Mark& mark) {
+    mark.paused = graph().GetState() == MediaState::running;
+    if (mark.paused) {
+        graph().Pause();
+        start_.timer.disable();
+        end_.timer.disable();
+        show_position(mark);
+    } else {
+        graph().Run();
+        mark.timer.enable();
+    }
+}
+
+// Both ends ask whether the start leaves room for a step back.
+void TrackProperties::step_back(const Mark& mark) {
+    if (to_double(window_.Text1.text(), platform_.decimal_mark) > 0)
+        step(mark, -one_step);
+}
+
+void TrackProperties::step(const Mark& mark, double seconds) {
+    graph().put_CurrentPosition(graph().get_CurrentPosition() + seconds);
+    show_position(mark);
+}
+
+void TrackProperties::show_position(const Mark& mark) {
+    mark.field.set_text(Format(graph().get_CurrentPosition(), start_pattern, platform_.decimal_mark));
+}
+
+void TrackProperties::show_progress() {
+    window_.ProgressBar1.value = to_long(graph().get_CurrentPosition());
+}
+
+void TrackProperties::tell_place(int x) {
+    ProgressBar& bar = window_.ProgressBar1;
+    bar.hint = "lecteur chargé (F8) avec : " + path_;
+    if (bar.maximum > 0)
+        bar.caption = std::to_string(percent_of(x)) + "%";
+}
+
+void TrackProperties::go_to_place(int x) {
+    graph().put_CurrentPosition(percent_of(x) * graph().get_Duration() / 100);
+}
+
+void TrackProperties::save() {
+    try {
+        write_row();
+    } catch (const Failure& failure) {
+        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+void TrackProperties::write_row() {
+    if (list_.fichier_liste.empty()) {
+        platform_.dialogs.MsgBox({"Pas de nom de fichier", std::string{application_title}});
+        return;
+    }
+    if (list_window_.a_Ne_pas_Sauve.checked) {
+        platform_.dialogs.MsgBox(
+            {"Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
+             "Sauvegarder cette liste",
+             std::string{application_title}, Buttons::ok, Icon::information});
+        return;
+    }
+    const enreg_liste row = edited_row();
+    const std::string list = list_path(platform_, list_.fichier_liste);
+    enreg_liste before;
+    ListReader{platform_.disk, list}.read(row_.value(), before);
+    if (before.trimmed_chemin() != path_) // The list has changed since the window was filled.
+        throw Failure{failure_number::wrong_record_number, path_};
+    list_.index_destinataire = row_;
+    replace_record(platform_.disk, list, list_.index_destinataire.value(), row);
+    changed_ = true;
+    document_.charge_liste();
+    put_row_back(row);
+}
+
+enreg_liste TrackProperties::edited_row() const {
+    enreg_liste row;
+    row.set_chemin(path_);
+    row.set_debut_lecture(to_double(window_.Text1.text(), platform_.decimal_mark));
+    row.set_fin_lecture(window_.Text2.text());
+    row.set_genre(window_.Text3.text());
+    row.set_volume(static_cast<std::int16_t>(to_integer(window_.Text4.text(), platform_.decimal_mark).value()));
+    row.set_duree_piste(window_.Text5.text());
+    return row;
+}
+
+// As after every change of a row, the default list then holds the whole table.
+void TrackProperties::put_row_back(const enreg_liste& row) {
+    RowTable& rows = list_window_.ListView1;
+    rows.remove(row_.value());
+    rows.insert(row_.value(), row_of(row, platform_.decimal_mark));
+    document_.sauve_tout();
+}
+
+void TrackProperties::close() {
+    ErrorIndicator{}.skip([this] { stop(); });
+    if (window_.visible && !changed_)
+        list_window_.Label1.caption = " Pas de Modification ";
+    window_.hide();
+}
+
+} // namespace sonarelle

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "accessories/propriete.h"
+#include "configuration/station_settings.h"
+#include "platform/media.h"
+#include "platform/platform.h"
+#include "playlist/enreg_liste.h"
+#include "playlist/list_document.h"
+#include "playlist/list_state.h"
+#include "playlist/liste_son.h"
+#include "playlist/record_reading.h"
+#include "playlist/working_records.h"
+
+namespace sonarelle {
+
+/// The window of a row's properties at work: it plays the row's file on a graph of its own, lets the operator mark
+/// start and end, and writes the row back. Window thread.
+class TrackProperties {
+public:
+    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
+                    DestinationRecord& destination, Liste_son& list_window, Propriete& window, RecordReading& reading,
+                    ListDocument& document);
+
+    /// Fills the window from the selected row's record, and shows it. Nothing while the list is empty.
+    void a_modif();
+
+private:
+    /// The two places of a row that are set by ear: their field, the timer that copies the position into it, and
+    /// whether a pause holds the position there.
+    struct Mark {
+        TextBox& field;
+        Timer& timer;
+        bool paused = false;
+    };
+
+    void connect_actions();
+    void connect_looks();
+    void on_press(Label& label, std::function<void()> act);
+
+    void play();
+    void stop();
+    void press_mark(Mark& mark);
+    void press_start();
+    void press_end();
+    void step(const Mark& mark, double seconds);
+    void step_back(const Mark& mark);
+    void show_position(const Mark& mark);
+    void show_progress();
+
+    void tell_place(int x);
+    void go_to_place(int x);
+
+    void save();
+    void write_row();
+    [[nodiscard]] enreg_liste edited_row() const;
+    void put_row_back(const enreg_liste& row);
+    void close();
+
+    void restore_colours();
+    /// @throws Failure 91 before the first "Lecture".
+    [[nodiscard]] MediaGraph& graph() const;
+
+    const Platform& platform_;
+    const StationSettings& settings_;
+    ListState& list_;
+    DestinationRecord& destination_;
+    Liste_son& list_window_;
+    Propriete& window_;
+    RecordReading& reading_;
+    ListDocument& document_;
+
+    Mark start_;
+    Mark end_;
+    std::shared_ptr<MediaGraph> graph_;
+    std::string path_;     ///< The row's file. Others measure files meanwhile, so it is kept here.
+    Integer row_;          ///< Its number. The chain reads other records meanwhile.
+    bool changed_ = false; ///< It was saved.
+};
+
+} // namespace sonarelle

@@ -78,6 +78,16 @@ TEST(HostRecordFile, SeesTheFileAsItWasWhenItWasOpened) {
     EXPECT_EQ(part_of(*file, 0, 10), "old");
 }
 
+TEST(HostRecordFile, EndsWhereItEndedWhenItWasOpened) {
+    DiskBench bench;
+    bench.folder.put("liste.dfm", "abc");
+    const auto file = bench.disk.open("D:\\liste.dfm");
+    bench.disk.append("D:\\liste.dfm", "def");
+
+    EXPECT_EQ(part_of(*file, 1, 10), "bc");
+    EXPECT_EQ(part_of(*file, 3, 10), "");
+}
+
 TEST(HostRecordFile, OpeningAMissingFileToReadLeavesNone) {
     DiskBench bench;
 

@@ -22,6 +22,7 @@ HostRecordFile::HostRecordFile(FileHandle file, std::int64_t length, std::string
 std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> into) {
     if (position < 0)
         throw Failure{failure_number::wrong_record_number, source_};
+    into = into.first(bytes_left(position, into.size())); // The file is as long as it was when it was opened.
     std::size_t done = copy_from_buffer(position, into);
     if (done == into.size())
         return done;
@@ -31,6 +32,11 @@ std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> int
         return done + read_disk(rest_position, rest);
     fill_buffer(rest_position, rest.size());
     return done + copy_from_buffer(rest_position, rest);
+}
+
+std::size_t HostRecordFile::bytes_left(std::int64_t position, std::size_t at_most) const {
+    const std::int64_t left = std::max<std::int64_t>(0, length_ - position);
+    return static_cast<std::size_t>(std::min(left, static_cast<std::int64_t>(at_most)));
 }
 
 std::size_t HostRecordFile::copy_from_buffer(std::int64_t position, std::span<std::byte> into) const {
@@ -43,8 +49,8 @@ std::size_t HostRecordFile::copy_from_buffer(std::int64_t position, std::span<st
 }
 
 void HostRecordFile::fill_buffer(std::int64_t position, std::size_t wanted) {
-    const bool walks_on = position == buffer_begin_ + static_cast<std::int64_t>(buffer_.size());
-    buffer_.resize(walks_on ? walking_read : std::max(wanted, single_read));
+    const bool walks_on = !buffer_.empty() && position == buffer_begin_ + static_cast<std::int64_t>(buffer_.size());
+    buffer_.resize(bytes_left(position, walks_on ? walking_read : std::max(wanted, single_read)));
     buffer_begin_ = position;
     buffer_.resize(read_disk(position, buffer_));
 }

@@ -19,6 +19,7 @@ public:
     std::size_t read(std::int64_t position, std::span<std::byte> into) override;
 
 private:
+    [[nodiscard]] std::size_t bytes_left(std::int64_t position, std::size_t at_most) const;
     [[nodiscard]] std::size_t copy_from_buffer(std::int64_t position, std::span<std::byte> into) const;
     std::size_t read_disk(std::int64_t position, std::span<std::byte> into);
     void fill_buffer(std::int64_t position, std::size_t wanted);

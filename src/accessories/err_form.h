@@ -9,6 +9,7 @@ struct err_form : Window {
     err_form() : Window{"err_form"} {
         caption = "ATTENTION ERREUR";
         AnyButton1.on_click = [this] { hide(); };
+        on_unload_request = [this] { hide(); };
         on_key_press = [this](char32_t key) {
             if (key == escape)
                 hide();

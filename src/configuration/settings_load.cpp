@@ -69,6 +69,8 @@ void SettingsLoad::Chargement_parametres() {
     place_windows();
     show_list_picture();
     read_colours();
+    if (apply_colours)
+        apply_colours();
     place_small_player();
 }
 

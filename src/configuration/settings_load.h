@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "accessories/mini_lecteur.h"
@@ -22,6 +23,9 @@ public:
                  ListState& list_state, Form_options& options, mini_lecteur& small_player);
 
     void Chargement_parametres();
+
+    /// Gives all windows the colours that were read.
+    std::function<void()> apply_colours;
 
 private:
     /// The texts that are read in one place and converted in another.

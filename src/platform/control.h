@@ -39,6 +39,10 @@ private:
 /// Red + 256 green + 65536 blue; with the top bit set, a colour of the desktop.
 using Colour = std::int32_t;
 
+/// The desktop's own colours of a button's text and face.
+inline constexpr Colour desktop_text = static_cast<Colour>(0x80000012);
+inline constexpr Colour desktop_face = static_cast<Colour>(0x8000000F);
+
 enum class ControlKind {
     window,
     label,
@@ -83,8 +87,8 @@ public:
     Property<bool> enabled{*this, true};
     Property<bool> visible{*this, true};
     Property<std::string> hint{*this, {}};
-    Property<Colour> fore_colour{*this, 0};
-    Property<Colour> back_colour{*this, 0};
+    Property<Colour> fore_colour{*this, desktop_text};
+    Property<Colour> back_colour{*this, desktop_face};
     /// A size that the station wishes, in twips; 0 leaves it to the view.
     Property<Twips> width{*this, Twips{}};
     Property<Twips> height{*this, Twips{}};

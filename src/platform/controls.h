@@ -47,10 +47,10 @@ public:
     GraphicButton(Window& parent, std::string name, std::string text = {})
         : Button{parent, ControlKind::graphic_button, std::move(name), std::move(text)} {}
 
-    Property<Colour> back_colour_down{*this, 0};
-    Property<Colour> back_colour_over{*this, 0};
-    Property<Colour> fore_colour_down{*this, 0};
-    Property<Colour> fore_colour_over{*this, 0};
+    Property<Colour> back_colour_down{*this, desktop_face};
+    Property<Colour> back_colour_over{*this, desktop_face};
+    Property<Colour> fore_colour_down{*this, desktop_text};
+    Property<Colour> fore_colour_over{*this, desktop_text};
 };
 
 /// A picture, by its file's name. It can be pressed.

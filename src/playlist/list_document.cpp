@@ -61,6 +61,10 @@ void ListDocument::A_liste_Click() {
     });
 }
 
+void ListDocument::open_list(const std::string& name) {
+    run_load([&] { append_chosen_list(name); });
+}
+
 void ListDocument::A_liste_anciene() {
     run_load([this] {
         enter_program_folder(platform_);

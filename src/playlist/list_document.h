@@ -22,6 +22,8 @@ public:
     void charge_liste();
     /// Asks for a list and appends its rows. Rows that were there before make it a merge, which is saved at once.
     void A_liste_Click();
+    /// The same with a list that was named already.
+    void open_list(const std::string& name);
     /// Appends the rows of `liste.dfm` in the program's folder.
     void A_liste_anciene();
     /// Writes all rows to `liste.dfm` in the program's folder, whatever list was loaded. Empty cells get their

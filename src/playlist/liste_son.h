@@ -26,6 +26,7 @@ struct Liste_son : Window {
     Image Image2{*this, "Image2"};   ///< Zaps.
     Image Image3{*this, "Image3"};   ///< Stops all decks.
     Image Image4{*this, "Image4"};   ///< Shows the row that plays.
+    Image Image10{*this, "Image10"}; ///< Picture beside the window's buttons.
     Label Label14{*this, "Label14", "Jingle Off"};
     Label Label15{*this, "Label15", "Liste Off"};
     Image Image13{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.

@@ -1,5 +1,6 @@
 #include "playout/desk.h"
 
+#include "configuration/settings_store.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
@@ -31,6 +32,15 @@ void Desk::warn(const std::string& lines) {
 
 void Desk::inform(const std::string& text) {
     platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::information});
+}
+
+void Desk::remember(std::string_view key, std::string_view value) {
+    const SettingsStore store{platform.settings, platform.program_folder, platform.decimal_mark};
+    try {
+        store.write(setting_section::config, key, value);
+    } catch (const Failure& failure) {
+        platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
 }
 
 std::string date_text(const Platform& platform) {

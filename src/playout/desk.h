@@ -51,6 +51,9 @@ struct Desk {
     }
     /// An information box under the station's title.
     void inform(const std::string& text);
+    /// Writes a setting of section "Config". A store that refuses it says so: the running station has the new value
+    /// all the same, the next start won't.
+    void remember(std::string_view key, std::string_view value);
 };
 
 inline constexpr std::string_view waiting_title = " - En attente";

@@ -1,5 +1,7 @@
 #include "station/station.h"
 
+#include <utility>
+
 #include "platform/dialogs.h"
 #include "platform/scheduler.h"
 
@@ -20,8 +22,8 @@ Station::Station(const Platform& platform)
                                               Deck{2, platform_.media, main_window.deck(2), chain.path_of_deck(2)},
                                               Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
       settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
-      settings_rewrite{platform_, settings, [this] { ended_ = true; }},
-      record_reading{platform_, list, destination, dragged, [this] { warn_of_null_volume(); }},
+      settings_rewrite{platform_, settings, [this] { end(); }}, record_reading{platform_, list, destination, dragged,
+                                                                               [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_, settings, list, list_document, list_save_dialog}, file_measure{platform_, list, chain},
@@ -56,12 +58,19 @@ Station::Station(const Platform& platform)
         connect_deck(deck);
 }
 
-void Station::create_main_window() {
-    settings_load.Chargement_parametres();
-    list.mode_insertion = 2;
-    chain.chaine_suspendue = false;
-    main_window.Label7.caption = "Lecture en attente";
-    main_window.Timer4.set_interval(settings.valeur_vitesse_timer);
+void Station::start(const std::string& command_line) {
+    desk_wiring.startup.enter_program(command_line);
+    splash.activate();
+}
+
+void Station::end() {
+    if (!std::exchange(ended_, true) && on_end)
+        on_end();
+}
+
+std::vector<Window*> Station::windows() {
+    return {&splash,         &main_window,       &list_window,  &options_window, &small_player,
+            &warning_window, &properties_window, &about_window, &update_window};
 }
 
 void Station::connect_list_window() {
@@ -177,22 +186,32 @@ void Station::connect_keys() {
         run_control.Mettre_en_pause([this](Deck& deck) { deck_transport.toggle_pause(deck); });
     };
     std::vector<Key> keys{
+        {U"\x1bqQ", [this] { desk_wiring.shutdown.Quitter__Click(); }},
         {U"&1", step_back(1)},
         {U"é2", step_back(2)},
         {U"\"3", step_back(3)},
         {U"aA", [this] { main_window.popup(main_window.affiche); }},
         {U"bB", step_volume(1)},
         {U"hH", step_volume(-1)},
-        {U"lL", [this] { chain_modes.press_list_key(); }},
+        {U"fF", [this] { main_window.A_gere.click(); }},
+        {U"Im", [this] { desk_wiring.display_menu.a_mini_Click(); }},
+        {U"lL", [this] { press_list_key(); }},
         {U"oO", [this] { main_window.popup(main_window.Option_); }},
         {U"pP", pause},
         {U"zZ", [this] { zapping.zapping(); }},
+        {U"²", [this] { desk_wiring.display_menu.change_corner(); }},
     };
     main_window.on_key_press = [keys = std::move(keys)](char32_t character) {
         for (const Key& key : keys)
             if (key.characters.find(character) != std::u32string_view::npos)
                 return key.act();
     };
+}
+
+void Station::press_list_key() {
+    chain_modes.press_list_key();
+    if (!desk.is_manual())
+        desk_wiring.display_menu.affiche_tout_Click();
 }
 
 void Station::connect_deck(Deck& deck) {

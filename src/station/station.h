@@ -35,6 +35,7 @@
 #include "playout/mix_engine.h"
 #include "playout/run_control.h"
 #include "playout/zapping.h"
+#include "station/desk_wiring.h"
 
 namespace sonarelle {
 
@@ -46,11 +47,25 @@ public:
     Station(const Station&) = delete;
     Station& operator=(const Station&) = delete;
 
-    /// Reads the settings and makes the main window ready.
-    void create_main_window();
+    /// Begins as the program does: splash, settings, pictures, and what the command line names (one file name in
+    /// double quotes, or nothing). A first start ends at once.
+    void start(const std::string& command_line);
+
+    /// Reads the settings and makes the main window ready, and no more: for a run without a desk.
+    void create_main_window() { desk_wiring.startup.read_settings(); }
 
     /// True once the operator or a routine has ended the program.
     [[nodiscard]] bool ended() const { return ended_; }
+    void end();
+    /// Called once, when the program has ended: its loop stops.
+    std::function<void()> on_end;
+
+    /// Every window, in the order of creation.
+    [[nodiscard]] std::vector<Window*> windows();
+
+    /// The play and stop buttons of a deck.
+    void press_play(Deck& deck);
+    void stop_deck(Deck& deck);
 
 private:
     Platform platform_;
@@ -96,6 +111,7 @@ public:
     ListRun list_run;
     RowToDeck row_to_deck;
     TrackProperties track_properties;
+    DeskWiring desk_wiring{*this};
 
 private:
     void connect_list_window();
@@ -104,10 +120,9 @@ private:
     void connect_chain_choices();
     void connect_menus();
     void connect_keys();
+    void press_list_key();
     void connect_play_menu();
     void connect_deck(Deck& deck);
-    void stop_deck(Deck& deck);
-    void press_play(Deck& deck);
     void warn_of_null_volume();
     void load_row_on_deck(int deck);
 };

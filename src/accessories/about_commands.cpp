@@ -1,0 +1,47 @@
+#include "accessories/about_commands.h"
+
+#include "platform/failure.h"
+#include "platform/shell.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::string_view information_program = "MSINFO32.EXE";
+
+} // namespace
+
+void AboutCommands::connect() {
+    about_.cmdOK.on_click = [this] { about_.hide(); };
+    about_.cmdSysInfo.on_click = [this] { StartSysInfo(); };
+    about_.site.on_click = [this] { WebJump(maker::site); };
+    update_.close.on_click = [this] { update_.hide(); };
+    update_.site.on_click = [this] { WebJump(maker::site); };
+    update_.download.on_click = [this] { WebJump(maker::download_page); };
+    update_.mail.on_click = [this] { WebJump("mailto:" + std::string{maker::mail}); };
+    desk_.warning.AnyButton2.on_click = [this] { show_listening_count(); };
+}
+
+void AboutCommands::show_update_info() {
+    update_.folder.caption = "Rechercher le dossier d'installation : " + desk_.settings.chemin_programme;
+    update_.show();
+}
+
+void AboutCommands::StartSysInfo() {
+    const bool started = ErrorIndicator{}.skip([this] { desk_.platform.shell.start_program(information_program, {}); });
+    if (!started)
+        desk_.inform("Les informations système ne sont pas disponibles actuellement");
+}
+
+void AboutCommands::WebJump(std::string_view address) {
+    ErrorIndicator{}.skip([&] { desk_.platform.shell.open_document(address); });
+}
+
+void AboutCommands::show_listening_count() {
+    desk_.warning.caption = std::string{application_title};
+    desk_.warning.Label1.caption = "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : " +
+                                   text_of(desk_.chain.nb_fichiers_ecoutes);
+    desk_.warning.show();
+}
+
+} // namespace sonarelle

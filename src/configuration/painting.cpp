@@ -1,0 +1,75 @@
+#include "configuration/painting.h"
+
+#include <array>
+#include <vector>
+
+namespace sonarelle {
+
+namespace {
+
+using S = StationSettings;
+using Source = Colour StationSettings::*;
+
+struct Paint {
+    ControlKind kind;
+    Source fore; ///< None: the control keeps what it has.
+    Source back;
+};
+
+constexpr std::array paints{
+    Paint{ControlKind::window, nullptr, &S::coul_fenetre},
+    Paint{ControlKind::label, &S::coul_label, nullptr},
+    Paint{ControlKind::check_box, &S::coul_label, &S::coul_fenetre},
+    Paint{ControlKind::option_button, &S::coul_label, &S::coul_fenetre},
+    Paint{ControlKind::frame, nullptr, &S::coul_fenetre},
+    Paint{ControlKind::button, nullptr, &S::coul_fenetre},
+    Paint{ControlKind::graphic_button, &S::coul_text_bouton, &S::coul_fenetre},
+    Paint{ControlKind::text_box, &S::coul_label, &S::coul_fond_liste},
+    Paint{ControlKind::combo_box, &S::coul_label, &S::coul_fond_liste},
+    Paint{ControlKind::list_box, &S::coul_texte_liste, &S::coul_fond_liste},
+    Paint{ControlKind::row_table, &S::coul_texte_liste, &S::coul_fond_liste},
+    Paint{ControlKind::progress_bar, &S::coul_texte_liste, nullptr},
+};
+
+void paint_control(Control& control, const StationSettings& settings) {
+    for (const Paint& paint : paints) {
+        if (paint.kind != control.kind())
+            continue;
+        if (paint.fore != nullptr)
+            control.fore_colour = settings.*paint.fore;
+        if (paint.back != nullptr)
+            control.back_colour = settings.*paint.back;
+    }
+}
+
+void paint_graphic_button(GraphicButton& button, const StationSettings& settings) {
+    button.back_colour_down = settings.coul_fond_liste;
+    button.back_colour_over = settings.coul_fond_liste;
+    button.fore_colour_down = settings.coul_text_bouton;
+    button.fore_colour_over = settings.coul_text_bouton;
+}
+
+} // namespace
+
+void paint(Window& window, const StationSettings& settings, ButtonColour buttons) {
+    paint_control(window, settings);
+    for (Control* control : window.controls()) {
+        paint_control(*control, settings);
+        if (control->kind() == ControlKind::graphic_button)
+            paint_graphic_button(static_cast<GraphicButton&>(*control), settings);
+        else if (control->kind() == ControlKind::button && buttons == ButtonColour::of_buttons)
+            control->back_colour = settings.coul_bouton;
+    }
+}
+
+void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings) {
+    const std::vector<Label*> buttons{labels.begin(), labels.end()};
+    for (Label* label : buttons)
+        label->on_mouse_move = [label, &settings] { label->fore_colour = settings.coul_label + hover_step; };
+    window.on_mouse_move = [buttons, &settings] {
+        for (Label* label : buttons)
+            label->fore_colour = settings.coul_label;
+    };
+}
+
+} // namespace sonarelle

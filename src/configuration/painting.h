@@ -1,0 +1,24 @@
+#pragma once
+
+#include <span>
+
+#include "configuration/station_settings.h"
+#include "platform/controls.h"
+#include "platform/window.h"
+
+namespace sonarelle {
+
+/// Where the plain buttons of a window take their colour from.
+enum class ButtonColour { of_windows, of_buttons };
+
+/// Gives a window and its controls the colours of the settings, each kind its own.
+void paint(Window& window, const StationSettings& settings, ButtonColour buttons = ButtonColour::of_windows);
+
+/// What is added to the colour of the labels while the pointer is over one that acts as a button.
+inline constexpr Colour hover_step = 18000;
+
+/// Labels that act as buttons change their colour under the pointer, and get it back when it moves over the window.
+/// The settings outlive the window's events.
+void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings);
+
+} // namespace sonarelle

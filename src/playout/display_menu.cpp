@@ -1,0 +1,129 @@
+#include "playout/display_menu.h"
+
+#include <algorithm>
+
+namespace sonarelle {
+
+void DisplayMenu::choose_view(const MenuItem& view) {
+    desk_.window.topmost = &view == &desk_.window.affiche_toujour;
+    check_only(desk_.window.views(), view);
+}
+
+void DisplayMenu::Affiche_barre_Click() {
+    choose_view(desk_.window.Affiche_barre);
+    desk_.list_window.hide();
+    desk_.small_player.hide();
+    desk_.window.state = WindowState::minimised;
+}
+
+void DisplayMenu::Affiche_Fenetre_L_Click() {
+    choose_view(desk_.window.Affiche_Fenetre_L);
+    desk_.window.Aligner_liste.enabled = true;
+    desk_.list_window.state = WindowState::normal;
+    desk_.list_window.show();
+    desk_.window.state = WindowState::minimised;
+}
+
+void DisplayMenu::Affiche_Fenetre_P_Click() {
+    choose_view(desk_.window.Affiche_Fenetre_P);
+    desk_.window.Aligner_liste.enabled = false;
+    desk_.window.state = WindowState::normal;
+    desk_.list_window.hide();
+}
+
+void DisplayMenu::affiche_tout_Click() {
+    choose_view(desk_.window.affiche_tout);
+    desk_.window.Aligner_liste.enabled = true;
+    desk_.window.state = WindowState::normal;
+    desk_.window.show();
+    desk_.list_window.show();
+}
+
+void DisplayMenu::affiche_toujour_Click() {
+    choose_view(desk_.window.affiche_toujour);
+    desk_.window.show();
+}
+
+void DisplayMenu::place(Twips left, Twips top) {
+    desk_.window.left = left;
+    desk_.window.top = top;
+}
+
+Twips DisplayMenu::centred_left() const {
+    return Twips{(desk_.platform.screen.width - desk_.window.width.get()).count() / 2};
+}
+
+void DisplayMenu::A_centre_lecteur_Click() {
+    place(centred_left(), Twips{(desk_.platform.screen.height - desk_.window.height.get()).count() / 2});
+}
+
+void DisplayMenu::A_centre_lecteur_haut_Click() {
+    place(centred_left(), Twips{});
+}
+
+void DisplayMenu::a_droite_haut_Click() {
+    place(desk_.platform.screen.width - desk_.window.width.get(), Twips{});
+}
+
+void DisplayMenu::a_gauche_haut_Click() {
+    place(Twips{}, Twips{});
+}
+
+void DisplayMenu::change_corner() {
+    if (cote_haut_)
+        a_gauche_haut_Click();
+    else
+        a_droite_haut_Click();
+    cote_haut_ = !cote_haut_;
+}
+
+void DisplayMenu::Aligner_liste_Click() {
+    place_list_below(desk_.window.left, desk_.window.width);
+}
+
+void DisplayMenu::liste_pleine_largeur_Click() {
+    place_list_below(Twips{}, desk_.platform.screen.width);
+}
+
+// A list that would stand below the screen's lower edge covers the main window's foot instead.
+void DisplayMenu::place_list_below(Twips left, Twips width) {
+    Liste_son& list = desk_.list_window;
+    const Twips lowest = desk_.platform.screen.height - list.height.get();
+    list.left = left;
+    list.width = width;
+    list.top = std::max(Twips{}, std::min(desk_.window.top.get() + desk_.window.height.get(), lowest));
+}
+
+void DisplayMenu::a_mini_Click() {
+    desk_.list_window.hide();
+    desk_.window.hide();
+    desk_.small_player.state = WindowState::normal;
+    desk_.small_player.topmost = true;
+    desk_.small_player.show();
+}
+
+void DisplayMenu::ouvrir_liste_Click() {
+    desk_.list_window.state = WindowState::normal;
+    desk_.list_window.show();
+}
+
+void DisplayMenu::hide_menus() {
+    if (active_text_combo)
+        active_text_combo();
+    for (MenuItem* menu : desk_.window.menu_bar)
+        menu->visible = false;
+    for (Label* label : desk_.window.menu_labels())
+        label->visible = true;
+    desk_.warning.hide();
+    desk_.window.height = height_without_menus;
+}
+
+void DisplayMenu::show_menus() {
+    for (MenuItem* menu : desk_.window.menu_bar)
+        menu->visible = true;
+    for (Label* label : desk_.window.menu_labels())
+        label->visible = false;
+    desk_.window.height = height_with_menus;
+}
+
+} // namespace sonarelle

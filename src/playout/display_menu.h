@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+/// Which windows are on view, and where they stand.
+class DisplayMenu {
+public:
+    explicit DisplayMenu(Desk& desk) : desk_{desk} {}
+
+    void Affiche_barre_Click();
+    void Affiche_Fenetre_L_Click();
+    void Affiche_Fenetre_P_Click();
+    void affiche_tout_Click();
+    void affiche_toujour_Click();
+
+    void A_centre_lecteur_Click();
+    void A_centre_lecteur_haut_Click();
+    void a_droite_haut_Click();
+    void a_gauche_haut_Click();
+    /// The key "²": one upper corner, then the other.
+    void change_corner();
+
+    /// Below the main window: as wide as it, or as wide as the screen.
+    void Aligner_liste_Click();
+    void liste_pleine_largeur_Click();
+
+    /// The small player takes the main window's place.
+    void a_mini_Click();
+    void ouvrir_liste_Click();
+
+    /// The menu bar hidden and shown again, with the labels that stand for it.
+    void hide_menus();
+    void show_menus();
+
+    /// Writes what the quick load boxes are for, before the window shrinks.
+    std::function<void()> active_text_combo;
+
+private:
+    void choose_view(const MenuItem& view);
+    void place(Twips left, Twips top);
+    void place_list_below(Twips left, Twips width);
+    [[nodiscard]] Twips centred_left() const;
+
+    Desk& desk_;
+    bool cote_haut_ = false;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "playout/desk.h"
+#include "playout/display_menu.h"
+#include "playout/quick_load.h"
+
+namespace sonarelle {
+
+/// The paths of the settings that the operator chooses from the option menu.
+enum class StationPath { jingles, music, audio_editor };
+
+/// The settings that the option menu edits, each of which is stored at once, and the banner.
+class OptionMenu {
+public:
+    OptionMenu(Desk& desk, DisplayMenu& display, QuickLoad& quick_load)
+        : desk_{desk}, display_{display}, quick_load_{quick_load} {}
+
+    void nom_radio_Click();
+    void A_def_jingles_Click() { define(StationPath::jingles); }
+    void A_def_musique_Click() { define(StationPath::music); }
+    void a_editeur_audio_Click() { define(StationPath::audio_editor); }
+    /// Takes a path that was chosen, shows it on its entry and stores it. Nothing for an empty one.
+    void store_path(StationPath which, const std::string& path);
+
+    void Modifie_banniere_Click();
+    void A_Rafraichir_Click();
+
+    /// Opens a window in which the operator chooses a path, which then calls `store_path`. Without one an input box
+    /// asks for it.
+    std::function<void(StationPath)> open_chooser;
+
+    /// The station's name on the windows: the program's own, with its version, where the station has none.
+    void show_station_name();
+
+private:
+    void define(StationPath which);
+
+    Desk& desk_;
+    DisplayMenu& display_;
+    QuickLoad& quick_load_;
+};
+
+} // namespace sonarelle

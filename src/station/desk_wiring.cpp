@@ -1,0 +1,145 @@
+#include "station/desk_wiring.h"
+
+#include "configuration/painting.h"
+#include "station/station.h"
+
+namespace sonarelle {
+
+DeskWiring::DeskWiring(Station& station)
+    : display_menu{station.desk}, desk_commands{station.desk}, quick_load{station.desk, station.deck_record,
+                                                                          station.deck_loading, station.run_control},
+      option_menu{station.desk, display_menu, quick_load}, about{station.desk, station.about_window,
+                                                                 station.update_window},
+      startup{{station.desk, station.list, station.splash, station.settings_load, station.settings_rewrite,
+               station.journal, station.list_document, station.chain_modes, station.list_run, station.deck_loading,
+               quick_load, option_menu, desk_commands, [&station](Deck& deck) { station.press_play(deck); }}},
+      shutdown{station.desk, station.journal, [&station] { return station.windows(); }, [&station] { station.end(); }},
+      small_player{station.desk,
+                   {[&station](Deck& deck) { station.deck_loading.open_by_hand(deck); },
+                    [&station](Deck& deck) { station.press_play(deck); },
+                    [&station](Deck& deck) { station.zapping.press_zap(deck); },
+                    [&station](Deck& deck) { station.stop_deck(deck); },
+                    [&station](Deck& deck) { station.deck_transport.toggle_pause(deck); },
+                    [&station](Deck& deck) { station.deck_transport.back(deck); },
+                    [&station](Deck& deck) { station.deck_transport.forward(deck); }},
+                   [this] { shutdown.quit_confirmed(); }},
+      station_{station} {
+    connect_display_menu();
+    connect_desk_commands();
+    connect_option_menu();
+    connect_quick_load();
+    connect_windows();
+    connect_menu_labels();
+    small_player.connect();
+    about.connect();
+}
+
+void DeskWiring::connect_display_menu() {
+    Antenne_FM& window = station_.main_window;
+    display_menu.active_text_combo = [this] { quick_load.active_text_combo(); };
+    window.Affiche_barre.on_click = [this] { display_menu.Affiche_barre_Click(); };
+    window.Affiche_Fenetre_L.on_click = [this] { display_menu.Affiche_Fenetre_L_Click(); };
+    window.Affiche_Fenetre_P.on_click = [this] { display_menu.Affiche_Fenetre_P_Click(); };
+    window.affiche_tout.on_click = [this] { display_menu.affiche_tout_Click(); };
+    window.affiche_toujour.on_click = [this] { display_menu.affiche_toujour_Click(); };
+    window.A_centre_lecteur.on_click = [this] { display_menu.A_centre_lecteur_Click(); };
+    window.A_centre_lecteur_haut.on_click = [this] { display_menu.A_centre_lecteur_haut_Click(); };
+    window.a_droite_haut.on_click = [this] { display_menu.a_droite_haut_Click(); };
+    window.a_gauche_haut.on_click = [this] { display_menu.a_gauche_haut_Click(); };
+    window.Aligner_liste.on_click = [this] { display_menu.Aligner_liste_Click(); };
+    window.liste_pleine_largeur.on_click = [this] { display_menu.liste_pleine_largeur_Click(); };
+    window.a_mini.on_click = [this] { display_menu.a_mini_Click(); };
+    window.ouvrir_liste.on_click = [this] { display_menu.ouvrir_liste_Click(); };
+    window.ouvre_L.on_click = [this] {
+        display_menu.affiche_tout_Click();
+        station_.main_window.coche3.set_value(true);
+        station_.chain_modes.Image13_Click();
+        station_.main_window.Image13.picture = std::string{lamp_on_picture};
+        station_.list_document.A_liste_Click();
+    };
+}
+
+void DeskWiring::connect_desk_commands() {
+    Antenne_FM& window = station_.main_window;
+    window.A_lecteur_CD_Win.on_click = [this] { desk_commands.A_lecteur_CD_Win_Click(); };
+    window.a_vol.on_click = [this] { desk_commands.a_vol_Click(); };
+    window.A_Ouvrir_CD.on_click = [this] { desk_commands.A_Ouvrir_CD_Click(); };
+    window.A_fermer_CD.on_click = [this] { desk_commands.A_fermer_CD_Click(); };
+    window.A_glisser_déplacer.on_click = [this] { desk_commands.A_glisser_déplacer_Click(); };
+    window.Supprimer_recherche.on_click = [this] { desk_commands.Supprimer_recherche_Click(); };
+    window.A_visuel_active.on_click = [this] { desk_commands.A_visuel_active_Click(); };
+    window.A_visuel_desactive.on_click = [this] { desk_commands.A_visuel_desactive_Click(); };
+    window.A_affichage1.on_click = [this] { desk_commands.A_affichage1_Click(); };
+    window.A_affichage2.on_click = [this] { desk_commands.A_affichage2_Click(); };
+    window.aa_montrer_curseur.on_click = [this] { desk_commands.aa_montrer_curseur_Click(); };
+    window.aa_cacher_curseur.on_click = [this] { desk_commands.aa_cacher_curseur_Click(); };
+    window.aideprog.on_click = [this] { desk_commands.aideprog_Click(); };
+    window.show_about.on_click = [this] { about.show_about(); };
+    window.show_update_info.on_click = [this] { about.show_update_info(); };
+}
+
+void DeskWiring::connect_option_menu() {
+    Antenne_FM& window = station_.main_window;
+    window.pre_char.on_click = [this] { station_.options_window.show(); };
+    window.nom_radio.on_click = [this] { option_menu.nom_radio_Click(); };
+    window.A_def_jingles.on_click = [this] { option_menu.A_def_jingles_Click(); };
+    window.A_def_musique.on_click = [this] { option_menu.A_def_musique_Click(); };
+    window.a_editeur_audio.on_click = [this] { option_menu.a_editeur_audio_Click(); };
+    window.Modifie_banniere.on_click = [this] { option_menu.Modifie_banniere_Click(); };
+    window.A_Rafraichir.on_click = [this] { option_menu.A_Rafraichir_Click(); };
+}
+
+void DeskWiring::connect_quick_load() {
+    Antenne_FM& window = station_.main_window;
+    const auto choose_list = [this](int mode) {
+        return [this, mode] {
+            quick_load.mode_combo = mode;
+            quick_load.Charge_combo();
+        };
+    };
+    window.choose_favourites.on_click = choose_list(1);
+    window.choose_jingles.on_click = choose_list(2);
+    window.Combo1.on_click = [this] { quick_load.Combo1_Click(); };
+    window.Combo2.on_click = [this] { quick_load.Combo2_Click(); };
+    window.Combo1.on_key_press = [this](char32_t key) { quick_load.Combo1_KeyPress(key); };
+    window.Combo2.on_key_press = [this](char32_t key) { quick_load.Combo2_KeyPress(key); };
+    for (Deck& deck : station_.desk.decks) {
+        const auto place = static_cast<std::size_t>(deck.number() - 1);
+        window.favourite_loads()[place]->on_click = [this, &deck] { quick_load.load_favourite(deck); };
+        window.jingle_loads()[place]->on_click = [this, &deck] { quick_load.load_jingle(deck); };
+    }
+}
+
+void DeskWiring::connect_windows() {
+    Antenne_FM& window = station_.main_window;
+    window.Quitter_.on_click = [this] { shutdown.Quitter__Click(); };
+    window.on_unload_request = [this] { shutdown.Form_QueryUnload(); };
+    window.on_click = [this] { display_menu.hide_menus(); };
+    window.on_double_click = [this] { display_menu.show_menus(); };
+    window.on_right_click = [&window] { window.popup(window.affiche); };
+    window.on_reduce = [this] { display_menu.a_mini_Click(); };
+    station_.settings_load.apply_colours = [this] { paint_windows(); };
+}
+
+void DeskWiring::connect_menu_labels() {
+    Antenne_FM& window = station_.main_window;
+    const auto labels = window.menu_labels();
+    for (std::size_t place = 0; place < window.menu_bar.size(); ++place)
+        labels[place]->on_click = [&window, menu = window.menu_bar[place]] { window.popup(*menu); };
+    window.Label19.on_click = [this] { shutdown.Quitter__Click(); };
+    connect_hover(window, labels, station_.settings);
+    const std::array about_labels{&station_.about_window.site};
+    connect_hover(station_.about_window, about_labels, station_.settings);
+    const std::array update_labels{&station_.update_window.site, &station_.update_window.download,
+                                   &station_.update_window.mail};
+    connect_hover(station_.update_window, update_labels, station_.settings);
+}
+
+void DeskWiring::paint_windows() {
+    paint(station_.options_window, station_.settings, ButtonColour::of_buttons);
+    for (Window* window : {static_cast<Window*>(&station_.small_player), static_cast<Window*>(&station_.list_window),
+                           static_cast<Window*>(&station_.main_window), static_cast<Window*>(&station_.about_window)})
+        paint(*window, station_.settings);
+}
+
+} // namespace sonarelle

@@ -15,13 +15,14 @@ void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
     std::array<float, 2> peak{};
     std::array<float, 2> squares{};
     auto place = static_cast<std::size_t>(at.count());
+    writing_.store(static_cast<std::int64_t>(place + frames.size() / 2), std::memory_order_relaxed);
     for (std::size_t frame = 0; frame + 1 < frames.size(); frame += 2, ++place) {
         for (std::size_t channel = 0; channel < 2; ++channel) {
             const float sample = frames[frame + channel];
             peak[channel] = std::max(peak[channel], std::abs(sample));
             squares[channel] += sample * sample;
         }
-        frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_relaxed);
+        frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_release);
     }
     const std::size_t frame_count = frames.size() / 2;
     const auto count = static_cast<float>(frame_count);
@@ -49,9 +50,28 @@ Level BusTaps::level() {
 
 void BusTaps::newest(std::span<float> frames) const {
     const std::size_t count = std::min(frames.size() / 2, kept_frames / 2);
-    const auto begin = static_cast<std::size_t>(end_.load(std::memory_order_acquire)) + kept_frames - count;
-    for (std::size_t frame = 0; frame < count; ++frame) {
-        const std::uint64_t both = frames_[(begin + frame) % kept_frames].load(std::memory_order_relaxed);
+    copy(static_cast<std::size_t>(end().count()) + kept_frames - count, frames.first(2 * count));
+}
+
+BusTaps::Piece BusTaps::copy_from(Frames from, std::span<float> frames) const {
+    constexpr Frames kept{static_cast<std::int64_t>(kept_frames)};
+    const Frames newest_end = end();
+    const Frames begin = std::max({from, newest_end - kept, Frames{}});
+    if (begin >= newest_end)
+        return {begin, 0};
+    const std::size_t count = std::min(frames.size() / 2, static_cast<std::size_t>((newest_end - begin).count()));
+    copy(static_cast<std::size_t>(begin.count()), frames.first(2 * count));
+    const Frames oldest_whole = Frames{writing_.load(std::memory_order_relaxed)} - kept;
+    if (begin >= oldest_whole)
+        return {begin, count};
+    const std::size_t lost = std::min(count, static_cast<std::size_t>((oldest_whole - begin).count()));
+    std::ranges::copy(frames.subspan(2 * lost, 2 * (count - lost)), frames.begin());
+    return {begin + Frames{static_cast<std::int64_t>(lost)}, count - lost};
+}
+
+void BusTaps::copy(std::size_t begin, std::span<float> frames) const {
+    for (std::size_t frame = 0; frame < frames.size() / 2; ++frame) {
+        const std::uint64_t both = frames_[(begin + frame) % kept_frames].load(std::memory_order_acquire);
         frames[2 * frame] = std::bit_cast<float>(static_cast<std::uint32_t>(both >> 32));
         frames[2 * frame + 1] = std::bit_cast<float>(static_cast<std::uint32_t>(both));
     }

@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/audio/spectrum.h"
+#include "tone.h"
+
+namespace sonarelle {
+namespace {
+
+constexpr std::size_t bands = 24;
+
+std::vector<float> bands_of(const std::vector<float>& frames) {
+    Spectrum spectrum{bands};
+    const auto levels = spectrum.bands_of(frames);
+    return {levels.begin(), levels.end()};
+}
+
+TEST(Spectrum, ASineAtABandsCentreIsLoudestThere) {
+    for (std::size_t band = 2; band < bands; ++band) {
+        const auto levels = bands_of(tone(Spectrum{bands}.centre(band), {1, 1}, Spectrum::window_frames));
+        EXPECT_EQ(std::max_element(levels.begin(), levels.end()) - levels.begin(), static_cast<std::ptrdiff_t>(band));
+    }
+}
+
+TEST(Spectrum, ReadsTheLevelOfASine) {
+    for (const double level : {0.0, -20.0, -60.0})
+        for (const std::size_t band : {6U, 12U, 23U}) {
+            const double peak = decibels(level);
+            const auto levels = bands_of(tone(Spectrum{bands}.centre(band), {peak, peak}, Spectrum::window_frames));
+            EXPECT_LE(levels[band], level + 0.1) << band;
+            EXPECT_GE(levels[band], level - 1.5) << band;
+        }
+}
+
+TEST(Spectrum, ASineOnALineOfTheTransformReadsExactly) {
+    const auto levels = bands_of(tone(3000, {0.5, 0.5}, Spectrum::window_frames)); // line 128
+    EXPECT_NEAR(*std::max_element(levels.begin(), levels.end()), -6.02, 0.01);
+}
+
+TEST(Spectrum, FarFromASineThereIsNothing) {
+    const auto levels = bands_of(tone(Spectrum{bands}.centre(12), {1, 1}, Spectrum::window_frames));
+    for (const std::size_t band : {0U, 6U, 18U, 23U})
+        EXPECT_LT(levels[band], -60) << band;
+}
+
+TEST(Spectrum, ChannelsInOppositePhaseDoNotCancel) {
+    const auto levels = bands_of(tone(3000, {1, -1}, Spectrum::window_frames));
+    EXPECT_NEAR(*std::max_element(levels.begin(), levels.end()), 0, 0.01);
+}
+
+TEST(Spectrum, OneChannelAloneIsThreeDecibelsLess) {
+    for (const auto& peaks : {std::array{1.0, 0.0}, std::array{0.0, 1.0}}) {
+        const auto levels = bands_of(tone(3000, peaks, Spectrum::window_frames));
+        EXPECT_NEAR(*std::max_element(levels.begin(), levels.end()), -3.01, 0.01);
+    }
+}
+
+TEST(Spectrum, SilenceIsTheFloor) {
+    EXPECT_EQ(bands_of(std::vector<float>(2 * Spectrum::window_frames)), std::vector<float>(bands, Spectrum::floor));
+    EXPECT_EQ(bands_of({}), std::vector<float>(bands, Spectrum::floor));
+}
+
+TEST(Spectrum, ShowsTheNewestOfMoreFrames) {
+    auto frames = tone(3000, {1, 1}, Spectrum::window_frames);
+    frames.insert(frames.end(), 2 * Spectrum::window_frames, 0.0F);
+    EXPECT_EQ(bands_of(frames), std::vector<float>(bands, Spectrum::floor));
+}
+
+TEST(Spectrum, BandsGoFromTheLowestToTheHighest) {
+    const Spectrum spectrum{2, {.lowest = 100, .highest = 10000}};
+    EXPECT_NEAR(spectrum.centre(0), 316.2, 0.1);
+    EXPECT_NEAR(spectrum.centre(1), 3162.3, 0.1);
+}
+
+} // namespace
+} // namespace sonarelle

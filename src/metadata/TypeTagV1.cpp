@@ -80,20 +80,24 @@ TypeTagV1 TypeTagV1::filtered() const {
 
 bool TypeTagV1::EcrireTag(std::string_view fichier) const {
     try {
-        const std::string new_block = valide_ ? block() : std::string{};
-        const auto file = disk_->open(fichier);
-        const bool has_tag = tag_block::is_tag(tag_block::read(*file));
-        const std::int64_t audio_bytes = file->length() - (has_tag ? tag_block::size : 0);
-        tag_block::replace(*disk_, fichier, *file, audio_bytes, new_block);
+        write(fichier);
         return true;
     } catch (const Failure&) {
         return false;
     }
 }
 
+void TypeTagV1::write(std::string_view fichier) const {
+    const std::string new_block = valide_ ? block() : std::string{};
+    const auto file = disk_->open(fichier);
+    const bool has_tag = tag_block::is_tag(tag_block::read(*file));
+    const std::int64_t audio_bytes = file->length() - (has_tag ? tag_block::size : 0);
+    tag_block::replace(*disk_, fichier, *file, audio_bytes, new_block);
+}
+
 std::string TypeTagV1::block() const {
     if (piste_ < 0 || piste_ > 255)
-        throw Failure{failure_number::wrong_call};
+        throw Failure{failure_number::wrong_call, text_of(piste_), "un numéro de piste va de 0 à 255"};
     std::string text{mark};
     text += CompleterChamp(titre_, line_width);
     text += CompleterChamp(artiste_, line_width);

@@ -25,6 +25,8 @@ public:
     /// whole: a full disk, a kill or a power cut leaves the music as it was.
     /// False on any fault: a file of less than 128 bytes, a track outside 0 to 255, a disk that refuses.
     [[nodiscard]] bool EcrireTag(std::string_view fichier) const;
+    /// The same, for a caller who says why it failed. @throws Failure in place of false.
+    void write(std::string_view fichier) const;
 
     [[nodiscard]] bool Valide() const { return valide_; }
     [[nodiscard]] const std::string& Artiste() const { return artiste_; }

@@ -33,7 +33,8 @@ void copy_audio(RecordFile& file, std::int64_t bytes, FileReplacement& copy) {
 std::string read(RecordFile& file) {
     const std::int64_t start = file.length() - size;
     if (start < 0)
-        throw Failure{failure_number::wrong_record_number};
+        throw Failure{
+            failure_number::wrong_record_number, {}, "un fichier de moins de 128 octets ne peut pas avoir de tag"};
     std::string block(static_cast<std::size_t>(size), '\0');
     read_whole(file, start, std::as_writable_bytes(std::span{block}));
     return block;

@@ -5,7 +5,9 @@
 
 #include "app/outil/commands.h"
 #include "app/outil/machine.h"
-#include "metadata/TagType.h"
+#include "app/outil/printable.h"
+#include "metadata/TypeTagMpeg.h"
+#include "metadata/TypeTagV1.h"
 #include "metadata/genre_table.h"
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
@@ -63,14 +65,25 @@ Json json_of(const TypeTagMpeg& header) {
             {"Original", header.Original()}, {"Emphasis", header.Emphasis()}, {"Vbr", header.Vbr()}};
 }
 
+void print_fields(std::ostream& out, const Json& fields, const std::string& indent) {
+    for (const auto& [key, value] : fields.items()) {
+        if (value.is_object()) {
+            out << indent << key << " :\n";
+            print_fields(out, value, indent + "  ");
+        } else {
+            out << indent << key << " : " << (value.is_string() ? printable(value.get<std::string>()) : value.dump())
+                << '\n';
+        }
+    }
+}
+
 void print(const Call& call, const std::string& file, const Json& fields) {
     if (call.arguments.has(json_option.name)) {
         call.out << fields.dump() << '\n';
         return;
     }
     call.out << file << '\n';
-    for (const auto& [key, value] : fields.items())
-        call.out << "  " << key << " : " << (value.is_string() ? value.get<std::string>() : value.dump()) << '\n';
+    print_fields(call.out, fields, "  ");
 }
 
 /// Reads one file after the other; one that can't be read is named, and the others are read all the same.
@@ -106,9 +119,30 @@ void read_headers(const Call& call) {
         call, [strict](TaggedFile& file) { return json_of(TypeTagMpeg{file.disk()}.LireEntete(file.path(), strict)); });
 }
 
-void write_tag(TaggedFile& file, const TagType& tag) {
-    if (!ecrire_tag(file.path(), tag).is_true())
-        throw Failure{failure_number::path_access, file.name(), "le tag ne peut pas être écrit"};
+void write_tag(TaggedFile& file, const TypeTagV1& tag) {
+    try {
+        tag.write(file.path());
+    } catch (const Failure& failure) {
+        throw Failure{failure.number, file.name(), "le tag n'est pas écrit : " + failure.description};
+    }
+}
+
+/// Names the word of a failing conversion, which may not know it.
+template <typename Convert>
+auto converted(const std::string& word, Convert&& convert) {
+    try {
+        return convert(word);
+    } catch (const Failure& failure) {
+        throw Failure{failure.number, word, failure.description};
+    }
+}
+
+Integer number_of(const std::string& word) {
+    return converted(word, [](const std::string& text) { return to_integer(text, DecimalMark::point); });
+}
+
+int code_of(const std::string& name) {
+    return converted(name, [](const std::string& text) { return numero_du_genre(text); });
 }
 
 /// Fields that aren't named are empty.
@@ -117,16 +151,16 @@ void write(const Call& call) {
     call.arguments.expect_at_most(1);
     Machine machine{call.options};
     TaggedFile file{machine, name};
-    TagType tag{file.disk()};
+    TypeTagV1 tag{file.disk()};
     const Arguments& given = call.arguments;
-    tag.V1.set_Valide(true);
-    tag.V1.set_Titre(given.value(title_option.name, ""));
-    tag.V1.set_Artiste(given.value(artist_option.name, ""));
-    tag.V1.set_Album(given.value(album_option.name, ""));
-    tag.V1.set_Annee(given.value(year_option.name, ""));
-    tag.V1.set_Commentaire(given.value(comment_option.name, ""));
-    tag.V1.set_Genre(numero_du_genre(given.value(genre_option.name, "")));
-    tag.V1.set_Piste(to_integer(given.value(track_option.name, "0"), DecimalMark::point));
+    tag.set_Valide(true);
+    tag.set_Titre(given.value(title_option.name, ""));
+    tag.set_Artiste(given.value(artist_option.name, ""));
+    tag.set_Album(given.value(album_option.name, ""));
+    tag.set_Annee(given.value(year_option.name, ""));
+    tag.set_Commentaire(given.value(comment_option.name, ""));
+    tag.set_Genre(code_of(given.value(genre_option.name, "")));
+    tag.set_Piste(number_of(given.value(track_option.name, "0")));
     write_tag(file, tag);
 }
 
@@ -135,21 +169,20 @@ void remove(const Call& call) {
     call.arguments.expect_at_most(1);
     Machine machine{call.options};
     TaggedFile file{machine, name};
-    TagType tag{file.disk()};
-    tag.V1.set_Valide(false);
+    const TypeTagV1 tag{file.disk()};
     write_tag(file, tag);
 }
 
 void name_of_genre(const Call& call) {
     const std::string& code = call.arguments.word(0, "CODE");
     call.arguments.expect_at_most(1);
-    call.out << nom_du_genre(to_integer(code, DecimalMark::point)) << '\n';
+    call.out << nom_du_genre(number_of(code)) << '\n';
 }
 
 void code_of_genre(const Call& call) {
     const std::string& name = call.arguments.word(0, "NOM");
     call.arguments.expect_at_most(1);
-    call.out << numero_du_genre(name) << '\n';
+    call.out << code_of(name) << '\n';
 }
 
 constexpr std::array json_options{json_option};

@@ -48,7 +48,7 @@ void DeckLoading::load_record(Deck& deck) {
         return;
     set_bar(deck);
     deck.controls.zap.enabled = true;
-    desk_.small_player.caption = desk_.destination.dest_nom_fichier;
+    desk_.show_on_small_player(desk_.destination.dest_nom_fichier);
 }
 
 void DeckLoading::load_from_list(Deck& deck) {
@@ -79,7 +79,7 @@ void DeckLoading::render_from_list(Deck& deck) {
     formate_nom();
     show_loaded(deck);
     std::string& name = desk_.destination.dest_nom_fichier;
-    desk_.small_player.caption = name;
+    desk_.show_on_small_player(name);
     if (character_count(name) > 16)
         name = cut(name, 16, " ...");
     if (chain.ecoute_en_cours.is_false()) {

@@ -105,7 +105,7 @@ void DeckStart::show_names(Deck& deck) {
     desk_.list_window.caption = name;
     loading_.formate_nom();
     deck.controls.title.caption = name + " - ";
-    desk_.small_player.caption = name;
+    desk_.show_on_small_player(name);
     desk_.list_window.Label2.caption = name;
     if (has_video_ending(desk_.chain.extension_fichier))
         deck.open_video(name);

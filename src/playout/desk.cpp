@@ -22,6 +22,11 @@ Deck& Desk::main_deck() {
     return deck(chain.lecteur_en_cours.value());
 }
 
+void Desk::show_on_small_player(const std::string& name) {
+    small_player.caption = name;
+    small_player.Command2.enabled = true;
+}
+
 void Desk::warn(const std::string& lines) {
     warning.caption = "ATTENTION ERREUR";
     warning.Label1.caption = lines;

@@ -43,6 +43,8 @@ struct Desk {
     [[nodiscard]] int row_count() const { return list_window.ListView1.count(); }
     [[nodiscard]] std::string station_banner() const { return "- - " + settings.nom_radio + " - -"; }
 
+    /// Names the file that came on a deck, which another can follow again.
+    void show_on_small_player(const std::string& name);
     /// Shows lines in the warning window without waiting for the operator.
     void warn(const std::string& lines);
     void report(const OnAirEvent& event) const {

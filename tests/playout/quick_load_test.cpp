@@ -1,0 +1,196 @@
+// The boxes of favourites and jingles.
+#include <gmock/gmock.h>
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::string_view favourites = "C:\\Listes\\favoris.dfm";
+
+class QuickLoadTest : public ChainBench {
+protected:
+    QuickLoadTest() {
+        window.on_popup = [this](MenuItem& menu) { opened.push_back(menu.name()); };
+    }
+
+    void put_list(std::string_view path, int tracks) {
+        std::vector<enreg_liste> records;
+        for (int number = 1; number <= tracks; ++number) {
+            machine.add_track(track(number), 100 + number);
+            records.push_back(record_of(track(number), "90.00", 80, 0.0, "Rock", "00:01:40"));
+        }
+        machine.disk.put_file(path, bytes_of(records));
+    }
+    void choose_favourites(std::string_view path) {
+        machine.dialogs.expect_open(path);
+        window.choose_favourites.click();
+    }
+    void refill(int mode) {
+        station.desk_wiring.quick_load.mode_combo = mode;
+        station.desk_wiring.quick_load.Charge_combo();
+    }
+    [[nodiscard]] std::string stored(std::string_view key) {
+        return machine.settings.GetSetting(settings_application, "Config", key, "(absent)");
+    }
+
+    Antenne_FM& window = station.main_window;
+    std::vector<std::string> opened;
+};
+
+} // namespace
+
+TEST_F(QuickLoadTest, AtAFirstRunBothBoxesAreEmptyAndSayWhatTheyAreFor) {
+    refill(3);
+    refill(4);
+    station.desk_wiring.quick_load.active_text_combo();
+    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_THAT(window.Combo2.items.get(), IsEmpty());
+    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
+    EXPECT_EQ(window.Combo2.text(), "Jingles Sonarelle");
+}
+
+TEST_F(QuickLoadTest, FavouritesAreListedByTheirFilesNames) {
+    put_list(favourites, 2);
+    choose_favourites(favourites);
+    EXPECT_THAT(window.Combo1.items.get(), ElementsAre("titre 1.mp3", "titre 2.mp3"));
+    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
+}
+
+TEST_F(QuickLoadTest, JinglesAreListedWithTheirDurations) {
+    put_list(favourites, 1);
+    machine.dialogs.expect_open(favourites);
+    window.choose_jingles.click();
+    EXPECT_THAT(window.Combo2.items.get(), ElementsAre("00:01:40 - titre 1.mp3"));
+    EXPECT_EQ(stored("Load_combo2"), favourites);
+    EXPECT_EQ(station.settings.load_combo2, favourites);
+    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+}
+
+TEST_F(QuickLoadTest, TheDialogBeginsInTheProgramsFolder) {
+    machine.dialogs.expect_cancel();
+    window.choose_favourites.click();
+    const Question& question = machine.dialogs.last();
+    EXPECT_EQ(question.title, "Charger un fichier (.dfm)");
+    EXPECT_EQ(question.folder, "C:\\Sonarelle\\");
+    EXPECT_EQ(question.text, "*.dfm");
+    EXPECT_EQ(question.filter, "fichier (*.dfm)|*.dfm");
+}
+
+TEST_F(QuickLoadTest, ACancelledDialogLeavesTheBoxAsItIs) {
+    put_list(favourites, 2);
+    choose_favourites(favourites);
+    machine.dialogs.expect_cancel();
+    window.choose_favourites.click();
+    EXPECT_EQ(window.Combo1.items.get().size(), 2U);
+    EXPECT_EQ(stored("Load_combo1"), favourites);
+}
+
+TEST_F(QuickLoadTest, AnotherListReplacesTheItems) {
+    put_list(favourites, 2);
+    choose_favourites(favourites);
+    put_list("C:\\Listes\\autre.dfm", 3);
+    choose_favourites("C:\\Listes\\autre.dfm");
+    EXPECT_EQ(window.Combo1.items.get().size(), 3U);
+    EXPECT_EQ(stored("Load_combo1"), "C:\\Listes\\autre.dfm");
+}
+
+TEST_F(QuickLoadTest, AListThatCantBeReadLeavesTheOldKey) {
+    put_list(favourites, 2);
+    choose_favourites(favourites);
+    choose_favourites("X:\\perdu.dfm");
+    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_EQ(stored("Load_combo1"), favourites);
+    EXPECT_EQ(station.settings.load_combo1, favourites);
+}
+
+TEST_F(QuickLoadTest, ARememberedListFillsTheBoxAndWritesNothing) {
+    put_list(favourites, 2);
+    station.settings.load_combo1 = favourites;
+    refill(3);
+    EXPECT_EQ(window.Combo1.items.get().size(), 2U);
+    EXPECT_EQ(stored("Load_combo1"), "");
+}
+
+TEST_F(QuickLoadTest, ARememberedListIsAddedToWhatTheBoxHolds) {
+    put_list(favourites, 2);
+    station.settings.load_combo1 = favourites;
+    refill(3);
+    refill(3);
+    EXPECT_EQ(window.Combo1.items.get().size(), 4U);
+}
+
+TEST_F(QuickLoadTest, ARememberedListThatWasDeletedIsMadeAnewAndEmpty) {
+    station.settings.load_combo1 = favourites;
+    machine.disk.put_folder("C:\\Listes");
+    refill(3);
+    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_EQ(machine.disk.Dir(favourites), "favoris.dfm");
+    EXPECT_EQ(machine.disk.bytes(favourites), "");
+}
+
+TEST_F(QuickLoadTest, ChoosingAnItemReadsItsRecordAndOpensTheMenuOfTheDecks) {
+    put_list(favourites, 3);
+    choose_favourites(favourites);
+    window.Combo1.choose(1);
+    EXPECT_EQ(station.destination.dest_chemin, track(2));
+    EXPECT_EQ(station.chain.fichier_courant, favourites);
+    EXPECT_THAT(opened, ElementsAre("cha"));
+}
+
+TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
+    window.Combo1.key_press(U' ');
+    window.Combo2.key_press(U' ');
+    window.Combo1.key_press(U'x');
+    EXPECT_THAT(opened, ElementsAre("cha", "char_F"));
+    EXPECT_EQ(station.destination.dest_chemin, "");
+}
+
+TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
+    put_list(favourites, 3);
+    choose_favourites(favourites);
+    window.Combo1.choose(2);
+    controls(2).play.enabled = false;
+    window.lect2.click();
+    EXPECT_EQ(controls(2).title.caption.get(), "00:01:43 ( titre 3 )");
+    EXPECT_EQ(controls(2).counter.caption.get(), "103");
+    EXPECT_TRUE(controls(2).play.enabled);
+    EXPECT_EQ(window.Text2.text(), track(3));
+}
+
+TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {
+    put_list(favourites, 1);
+    machine.dialogs.expect_open(favourites);
+    window.choose_jingles.click();
+    window.Combo2.choose(0);
+    EXPECT_THAT(opened, ElementsAre("char_F"));
+    for (MenuItem* entry : window.jingle_loads())
+        entry->click();
+    for (int deck = 1; deck <= 3; ++deck)
+        EXPECT_EQ(controls(deck).title.caption.get(), "00:01:41 ( titre 1 )");
+}
+
+TEST_F(QuickLoadTest, LoadingADeckStopsTheListChainSoftly) {
+    put_list(favourites, 1);
+    choose_favourites(favourites);
+    open_tracks({200, 200});
+    start_list();
+    machine.run_for(seconds(5));
+    window.Combo1.choose(0);
+    window.lect3.click();
+    EXPECT_TRUE(window.coche2.value());
+    EXPECT_EQ(window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_EQ(window.Label10.caption.get(), "Chargement rapide");
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
+TEST_F(QuickLoadTest, TheBoxesTellTheirKey) {
+    EXPECT_EQ(window.Combo1.hint.get(), "Appuyer sur barre d'espacement puis sélection du lecteur");
+    EXPECT_EQ(window.Combo2.hint.get(), window.Combo1.hint.get());
+}
+
+} // namespace sonarelle

@@ -43,6 +43,7 @@ TEST(HostFolders, LieWhereTheXdgVariablesSay) {
     EXPECT_EQ(folders.program, folder.path("data/sonarelle"));
     EXPECT_EQ(folders.settings, folder.path("config/sonarelle/reglages.json"));
     EXPECT_EQ(folders.drive_table, folder.path("config/sonarelle/lecteurs.json"));
+    EXPECT_EQ(folders.output_choice, folder.path("config/sonarelle/sortie.json"));
 }
 
 TEST(HostFolders, AreNotMadeByLooking) {
@@ -73,6 +74,7 @@ TEST(HostFolders, AllLieInTheFolderThatIsNamed) {
     EXPECT_EQ(folders.program, folder.path("station"));
     EXPECT_EQ(folders.settings, folder.path("station/reglages.json"));
     EXPECT_EQ(folders.drive_table, folder.path("station/lecteurs.json"));
+    EXPECT_EQ(folders.output_choice, folder.path("station/sortie.json"));
 }
 
 TEST(HostCalendar, CountsInTheOperatorsTimeZone) {

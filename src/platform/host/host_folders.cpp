@@ -34,7 +34,8 @@ std::string user_folder(const char* xdg_variable, const char* below_home) {
 HostFolders host_folders(const std::optional<std::string>& folder) {
     const std::string program = folder ? absolute_machine_path(*folder) : user_folder("XDG_DATA_HOME", ".local/share");
     const std::string configuration = folder ? program : user_folder("XDG_CONFIG_HOME", ".config");
-    return {program, configuration + "/reglages.json", configuration + "/lecteurs.json"};
+    return {program, configuration + "/reglages.json", configuration + "/lecteurs.json",
+            configuration + "/sortie.json"};
 }
 
 } // namespace sonarelle

@@ -7,9 +7,10 @@ namespace sonarelle {
 
 /// Where the station's own files lie on this machine.
 struct HostFolders {
-    std::string program;     ///< The folder of the lists, the journal and the pictures.
-    std::string settings;    ///< The settings file.
-    std::string drive_table; ///< The file of the drive table, beside it.
+    std::string program;       ///< The folder of the lists, the journal and the pictures.
+    std::string settings;      ///< The settings file.
+    std::string drive_table;   ///< The file of the drive table, beside it.
+    std::string output_choice; ///< The file of the chosen sound output, there too.
 };
 
 /// The folders of the user, by the XDG variables, or with `folder` all in that one. Names alone: a folder is made by

@@ -1,17 +1,31 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <thread>
 
 #include "host/disk_bench.h"
 #include "platform/host/host_shell.h"
+#include "platform/host/known_programs.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
 
 struct ShellBench : DiskBench {
     HostShell shell{disk};
+};
+
+/// Programs are looked for in one folder alone, for as long as it lives.
+class SearchPath {
+public:
+    explicit SearchPath(const std::string& folder) { ::setenv("PATH", folder.c_str(), 1); }
+    ~SearchPath() { ::setenv("PATH", before_.c_str(), 1); }
+    SearchPath(const SearchPath&) = delete;
+    SearchPath& operator=(const SearchPath&) = delete;
+
+private:
+    std::string before_ = ::getenv("PATH");
 };
 
 TEST(HostShell, StartsAProgramWithAFileByItsMachinesPath) {
@@ -33,6 +47,38 @@ TEST(HostShell, ProgramThatIsNotThereFails) {
     EXPECT_EQ(failure_of([&] { bench.shell.start_program("sonarelle-sans-programme", ""); }), 53);
     EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\absent.sh", ""); }), 53);
     EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\no program", ""); }), 53);
+}
+
+TEST(HostShell, TakesTheFirstProgramOfThisMachineForOneOfAnotherSystem) {
+    ShellBench bench;
+    bench.folder.put("kmix", "#!/bin/sh\n: > \"$0.vu\"\n");
+    bench.folder.set_rights("kmix", 0755);
+    bench.folder.put("xfce4-mixer", "#!/bin/sh\n: > \"$0.vu\"\n");
+    bench.folder.set_rights("xfce4-mixer", 0755);
+    const SearchPath only{bench.folder.path()};
+    bench.shell.start_program("C:\\WINDOWS\\system32\\SNDVOL32.exe", "");
+
+    while (!bench.folder.exists("kmix.vu"))
+        std::this_thread::sleep_for(std::chrono::milliseconds{2});
+    EXPECT_FALSE(bench.folder.exists("xfce4-mixer.vu"));
+}
+
+TEST(HostShell, ProgramOfAnotherSystemWithoutALikeOneHereFails) {
+    ShellBench bench;
+    const SearchPath only{bench.folder.path()};
+
+    EXPECT_EQ(failure_of([&] { bench.shell.start_program("C:\\WINDOWS\\CDPLAYER.EXE", ""); }), 53);
+}
+
+TEST(HostShell, KnowsWhatTheMenusName) {
+    for (const char* program : {"Write", "C:\\WINDOWS\\CDPLAYER.EXE", "MSINFO32.EXE",
+                                "C:\\Program Files\\Windows Media Player\\wmplayer.exe"}) {
+        const KnownProgram* known = known_program(program);
+        ASSERT_NE(known, nullptr) << program;
+        EXPECT_FALSE(known->instead.empty()) << program;
+    }
+    EXPECT_EQ(known_program("C:\\Sonarelle\\Aide_Sonarine.exe")->document, "guide.md");
+    EXPECT_EQ(known_program("gimp"), nullptr);
 }
 
 TEST(HostShell, DocumentThatIsNotThereFails) {

@@ -14,6 +14,8 @@
 
 #include "platform/failure.h"
 #include "platform/host/file_handle.h"
+#include "platform/host/known_programs.h"
+#include "platform/paths.h"
 
 namespace sonarelle {
 
@@ -81,9 +83,27 @@ void HostShell::open_document(std::string_view path_or_address) {
 }
 
 void HostShell::start_program(std::string_view program, std::string_view file) {
+    if (const KnownProgram* known = known_program(program))
+        return start_instead(*known, program, file);
     const bool is_bare_name = program.find_first_of("\\/:") == std::string_view::npos;
     start(is_bare_name ? std::string{program} : disk_.machine_path(program),
           file.empty() ? std::string{} : disk_.machine_path(file), program);
+}
+
+void HostShell::start_instead(const KnownProgram& known, std::string_view program, std::string_view file) {
+    if (!known.document.empty())
+        return open_document(join_path(folder_of_path(program), known.document));
+    for (const std::string_view candidate : known.instead) {
+        const auto blank = candidate.find(' ');
+        std::string argument{blank == std::string_view::npos ? std::string_view{} : candidate.substr(blank + 1)};
+        if (!file.empty())
+            argument = disk_.machine_path(file);
+        const bool started =
+            ErrorIndicator{}.skip([&] { start(std::string{candidate.substr(0, blank)}, argument, program); });
+        if (started)
+            return;
+    }
+    throw Failure{failure_number::file_not_found, std::string{program}};
 }
 
 // posix_spawn copies no memory, so that starting an editor doesn't hold up the sound.

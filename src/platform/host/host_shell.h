@@ -10,8 +10,11 @@
 
 namespace sonarelle {
 
+struct KnownProgram;
+
 /// The desktop around the station, without a toolkit: the clipboard is the program's own. Files and programs are paths
-/// of the station; a program's bare name is one of this machine's.
+/// of the station; a program's bare name is one of this machine's, and the
+/// programs of another system that the menus name are replaced by what does the same here.
 class HostShell : public Shell {
 public:
     /// The disk is the caller's and outlives the shell.
@@ -28,6 +31,7 @@ public:
     void set_clipboard_text(std::string_view text) override { clipboard_ = text; }
 
 private:
+    void start_instead(const KnownProgram& known, std::string_view program, std::string_view file);
     void start(const std::string& program, const std::string& argument, std::string_view named);
     void forget_ended_programs();
 

@@ -1,0 +1,231 @@
+// Which windows are on view, and where they stand.
+#include <gmock/gmock.h>
+
+#include "playout/desk_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using testing::ElementsAre;
+
+class DisplayMenuTest : public DeskBench {
+protected:
+    DisplayMenuTest() {
+        start();
+        window.on_popup = [this](MenuItem& menu) { opened.push_back(menu.name()); };
+    }
+
+    [[nodiscard]] std::vector<std::string> checked_views() {
+        std::vector<std::string> names;
+        for (const MenuItem* view : window.views())
+            if (view->checked)
+                names.push_back(view->name());
+        return names;
+    }
+    void expect_place(int left, int top) {
+        EXPECT_EQ(window.left.get(), Twips{left});
+        EXPECT_EQ(window.top.get(), Twips{top});
+    }
+
+    Liste_son& list = station.list_window;
+    std::vector<std::string> opened;
+};
+
+using Views = DisplayMenuTest;
+using Places = DisplayMenuTest;
+using MenuBar = DisplayMenuTest;
+
+} // namespace
+
+TEST_F(Views, OfTheTaskBarHidesAllAndMinimisesTheMainWindow) {
+    list.show();
+    station.small_player.show();
+    window.Affiche_barre.click();
+    EXPECT_FALSE(list.visible);
+    EXPECT_FALSE(station.small_player.visible);
+    EXPECT_EQ(window.state.get(), WindowState::minimised);
+    EXPECT_THAT(checked_views(), ElementsAre("Affiche_barre"));
+}
+
+TEST_F(Views, OfTheListAloneMinimisesTheMainWindow) {
+    window.Aligner_liste.enabled = false;
+    list.state = WindowState::maximised;
+    window.Affiche_Fenetre_L.click();
+    EXPECT_TRUE(list.visible);
+    EXPECT_EQ(list.state.get(), WindowState::normal);
+    EXPECT_EQ(window.state.get(), WindowState::minimised);
+    EXPECT_TRUE(window.Aligner_liste.enabled);
+    EXPECT_THAT(checked_views(), ElementsAre("Affiche_Fenetre_L"));
+}
+
+TEST_F(Views, OfTheMainWindowAloneHidesTheList) {
+    list.show();
+    window.state = WindowState::minimised;
+    window.Affiche_Fenetre_P.click();
+    EXPECT_FALSE(list.visible);
+    EXPECT_EQ(window.state.get(), WindowState::normal);
+    EXPECT_FALSE(window.Aligner_liste.enabled);
+    EXPECT_THAT(checked_views(), ElementsAre("Affiche_Fenetre_P"));
+}
+
+TEST_F(Views, OfAllShowsBothWindows) {
+    window.Affiche_barre.click();
+    window.hide();
+    window.affiche_tout.click();
+    EXPECT_TRUE(window.visible);
+    EXPECT_TRUE(list.visible);
+    EXPECT_EQ(window.state.get(), WindowState::normal);
+    EXPECT_TRUE(window.Aligner_liste.enabled);
+    EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
+}
+
+TEST_F(Views, AlwaysOnTopKeepsTheMainWindowThereUntilAnotherIsChosen) {
+    window.hide();
+    window.affiche_toujour.click();
+    EXPECT_TRUE(window.visible);
+    EXPECT_TRUE(window.topmost);
+    EXPECT_THAT(checked_views(), ElementsAre("affiche_toujour"));
+    window.affiche_tout.click();
+    EXPECT_FALSE(window.topmost);
+    EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
+}
+
+TEST_F(Places, OfTheMainWindowAreTheMiddleAndTheUpperEdgeOfTheScreen) {
+    window.width = Twips{9360};
+    window.height = Twips{7000};
+    window.A_centre_lecteur.click();
+    expect_place(3000, 2260);
+    window.A_centre_lecteur_haut.click();
+    expect_place(3000, 0);
+    window.a_droite_haut.click();
+    expect_place(6000, 0);
+    window.a_gauche_haut.click();
+    expect_place(0, 0);
+}
+
+TEST_F(Places, OfTheKeyOfTheSquareAreTheTwoUpperCornersInTurn) {
+    window.width = Twips{9360};
+    window.key_press(U'²');
+    expect_place(6000, 0);
+    window.key_press(U'²');
+    expect_place(0, 0);
+    window.key_press(U'²');
+    expect_place(6000, 0);
+}
+
+TEST_F(Places, OfTheListAreBelowTheMainWindow) {
+    window.left = Twips{600};
+    window.top = Twips{0};
+    list.height = Twips{4000};
+    window.Aligner_liste.click();
+    EXPECT_EQ(list.left.get(), Twips{600});
+    EXPECT_EQ(list.width.get(), window.width.get());
+    EXPECT_EQ(list.top.get(), Twips{7185});
+    window.liste_pleine_largeur.click();
+    EXPECT_EQ(list.left.get(), Twips{0});
+    EXPECT_EQ(list.width.get(), Twips{15360});
+    EXPECT_EQ(list.top.get(), Twips{7185});
+}
+
+TEST_F(Places, OfTheListStayOnTheScreen) {
+    window.top = Twips{6000};
+    list.height = Twips{4000};
+    window.Aligner_liste.click();
+    EXPECT_EQ(list.top.get(), Twips{7520});
+}
+
+TEST_F(MenuBar, IsHiddenByAPressOnTheWindow) {
+    station.warning_window.show();
+    window.Combo1.set_text("titre");
+    window.click();
+    for (const MenuItem* menu : window.menu_bar)
+        EXPECT_FALSE(menu->visible);
+    for (const Label* label : window.menu_labels())
+        EXPECT_TRUE(label->visible);
+    EXPECT_FALSE(station.warning_window.visible);
+    EXPECT_EQ(window.height.get(), Twips{6885});
+    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
+}
+
+TEST_F(MenuBar, ComesBackByADoublePress) {
+    window.click();
+    window.double_click();
+    for (const MenuItem* menu : window.menu_bar)
+        EXPECT_TRUE(menu->visible);
+    for (const Label* label : window.menu_labels())
+        EXPECT_FALSE(label->visible);
+    EXPECT_EQ(window.height.get(), Twips{7185});
+}
+
+TEST_F(MenuBar, IsRepresentedByLabelsThatOpenItsMenus) {
+    window.click();
+    for (Label* label : {&window.Label12, &window.Label13, &window.Label14, &window.Label15, &window.Label16,
+                         &window.Label17, &window.Label18})
+        label->click();
+    EXPECT_THAT(opened, ElementsAre("Fichier", "lire_play", "liste", "affiche", "Option_", "aide", "A_Propos"));
+}
+
+TEST_F(MenuBar, LabelsChangeTheirColourUnderThePointer) {
+    window.Label15.mouse_move();
+    EXPECT_EQ(window.Label15.fore_colour.get(), 16777215 + 18000);
+    EXPECT_EQ(window.Label16.fore_colour.get(), 16777215);
+    window.mouse_move();
+    EXPECT_EQ(window.Label15.fore_colour.get(), 16777215);
+}
+
+TEST_F(DisplayMenuTest, OpensAtThePointerByTheRightButtonAndByItsKeys) {
+    window.right_click();
+    for (const char32_t key : {U'a', U'A', U'o', U'O'})
+        window.key_press(key);
+    EXPECT_THAT(opened, ElementsAre("affiche", "affiche", "affiche", "Option_", "Option_"));
+}
+
+TEST_F(DisplayMenuTest, KeysOfTheSmallPlayerAreCapitalIAndSmallM) {
+    window.key_press(U'i');
+    window.key_press(U'M');
+    EXPECT_FALSE(station.small_player.visible);
+    EXPECT_TRUE(window.visible);
+    for (const char32_t key : {U'I', U'm'}) {
+        list.show();
+        window.show();
+        station.small_player.hide();
+        window.key_press(key);
+        EXPECT_TRUE(station.small_player.visible);
+        EXPECT_TRUE(station.small_player.topmost);
+        EXPECT_FALSE(list.visible);
+        EXPECT_FALSE(window.visible);
+    }
+}
+
+TEST_F(DisplayMenuTest, TheSmallPlayerTakesThePlaceOfAReducedMainWindow) {
+    window.reduce();
+    EXPECT_TRUE(station.small_player.visible);
+    EXPECT_FALSE(window.visible);
+}
+
+TEST_F(DisplayMenuTest, F2OpensTheListWindow) {
+    window.ouvrir_liste.click();
+    EXPECT_TRUE(list.visible);
+}
+
+TEST_F(DisplayMenuTest, TheKeyOfTheListShowsBothWindows) {
+    window.key_press(U'l');
+    EXPECT_TRUE(window.coche3.value());
+    EXPECT_TRUE(list.visible);
+    EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
+}
+
+TEST_F(DisplayMenuTest, OpeningAListShowsBothWindowsAndAsksForIt) {
+    machine.add_track("C:\\Musique\\titre.mp3", 100);
+    machine.disk.put_file("C:\\Listes\\soir.dfm", bytes_of({record_of("C:\\Musique\\titre.mp3")}));
+    machine.dialogs.expect_open("C:\\Listes\\soir.dfm");
+    window.ouvre_L.click();
+    EXPECT_EQ(rows().count(), 1);
+    EXPECT_TRUE(list.visible);
+    EXPECT_TRUE(window.coche3.value());
+    EXPECT_EQ(window.Image13.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
+}
+
+} // namespace sonarelle

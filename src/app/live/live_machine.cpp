@@ -1,0 +1,44 @@
+#include "app/live/live_machine.h"
+
+#include "platform/audio/sdl_devices.h"
+#include "platform/numbers.h"
+
+namespace sonarelle {
+
+namespace {
+
+std::uint64_t clock_entropy() {
+    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+} // namespace
+
+LiveMachine::LiveMachine(DriveTable drives, std::uint64_t seed)
+    : disk_{std::move(drives)}, media_{clock_, bus_, std::make_shared<MachineFiles>(),
+                                       [this](std::string_view path) { return disk_.machine_path(path); },
+                                       Decoding::by_threads},
+      random_{seed, clock_entropy} {}
+
+Platform LiveMachine::platform(Settings& settings, Dialogs& dialogs, Shell& shell, const std::string& program_folder) {
+    return {clock_, scheduler_, disk_, settings, dialogs, media_, random_, shell, program_folder, DecimalMark::point};
+}
+
+void LiveMachine::open_output(const OutputName& name, std::function<void(OutputState)> on_change) {
+    auto devices = name ? std::make_unique<SdlDevices>() : nullptr;
+    output_ = std::make_unique<LiveOutput>(bus_, std::move(devices), name.value_or(""),
+                                           [this, on_change = std::move(on_change)](OutputState state) {
+                                               driver_.post([on_change, state] { on_change(state); });
+                                           });
+}
+
+std::string state_text(OutputState state) {
+    return state == OutputState::playing ? "sortie : la carte son joue"
+                                         : "sortie : aucune carte son, cadence de l'horloge";
+}
+
+std::string trouble_text(const SoundReport& report) {
+    return report.path + " : " + std::to_string(report.breaks) + " coupures, " +
+           Format(in_seconds(report.starved), "0.00", DecimalMark::point) + " s de retard";
+}
+
+} // namespace sonarelle

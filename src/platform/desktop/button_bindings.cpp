@@ -1,0 +1,94 @@
+#include "platform/desktop/button_bindings.h"
+
+#include <QMovie>
+
+#include "platform/desktop/colours.h"
+#include "platform/desktop/picture_store.h"
+#include "platform/desktop/qt_text.h"
+
+namespace sonarelle {
+
+ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const DesktopServices& services)
+    : Binding{button, widget, services}, button_{button}, face_{widget} {
+    connect(&face_, &QAbstractButton::clicked, this, [this] { run([this] { button_.click(); }); });
+}
+
+void ButtonBinding::show_state() {
+    if (const QString text = caption(); face_.text() != text)
+        face_.setText(text);
+    face_.set_picture(services().pictures.picture(button_.picture));
+    face_.set_face(face());
+}
+
+QString ButtonBinding::caption() const {
+    return plain_caption(button_.caption);
+}
+
+// What a button is told for the pointer over it and for being down shows as its share of the dark face.
+StudioButton::Face ButtonBinding::face() const {
+    const QColor ink = to_qt(button_.fore_colour, studio::text);
+    StudioButton::Face face;
+    face.ground = face_of(button_.back_colour);
+    face.ink = ink;
+    face.ground_over = mixed(face.ground, Qt::white, 0.10);
+    face.ground_down = mixed(face.ground, Qt::black, 0.35);
+    face.ink_over = face.ink_down = ink;
+    if (button_.kind() == ControlKind::graphic_button) {
+        const auto& graphic = static_cast<const GraphicButton&>(button_);
+        face.ground_over = mixed(face_of(graphic.back_colour_over), Qt::white, 0.10);
+        face.ground_down = mixed(face_of(graphic.back_colour_down), Qt::black, 0.35);
+        face.ink_over = to_qt(graphic.fore_colour_over, studio::text);
+        face.ink_down = to_qt(graphic.fore_colour_down, studio::text);
+    }
+    return face;
+}
+
+ImageBinding::ImageBinding(Image& image, StudioButton& widget, const DesktopServices& services)
+    : Binding{image, widget, services}, image_{image}, face_{widget} {
+    connect(&face_, &QAbstractButton::clicked, this, [this] { run([this] { image_.click(); }); });
+}
+
+void ImageBinding::show_state() {
+    face_.set_picture(services().pictures.picture(image_.picture));
+}
+
+FrameBinding::FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services)
+    : Binding{frame, widget, services}, frame_{frame}, box_{widget} {}
+
+void FrameBinding::show_state() {
+    box_.setTitle(caption());
+}
+
+QString FrameBinding::caption() const {
+    return plain_caption(frame_.caption);
+}
+
+MovieBinding::MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& services)
+    : Binding{movie, widget, services}, movie_{movie}, label_{widget} {}
+
+MovieBinding::~MovieBinding() = default;
+
+void MovieBinding::show_state() {
+    if (const QString file = services().pictures.path(movie_.movie); file != shown_)
+        load(file);
+    if (film_ && film_->state() != (movie_.playing ? QMovie::Running : QMovie::NotRunning))
+        movie_.playing ? film_->start() : film_->stop();
+}
+
+void MovieBinding::load(const QString& file) {
+    shown_ = file;
+    auto film = std::make_unique<QMovie>(file);
+    if (film->isValid()) {
+        film_ = std::move(film);
+        label_.setMovie(film_.get());
+        connect(film_.get(), &QMovie::finished, this, [this] {
+            if (movie_.loop)
+                film_->start();
+        });
+    } else if (const QPixmap picture{file}; !picture.isNull()) {
+        film_.reset();
+        label_.setPixmap(picture);
+    }
+}
+
+} // namespace sonarelle

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <memory>
+
+#include "platform/controls.h"
+#include "platform/desktop/binding.h"
+#include "platform/desktop/studio_button.h"
+
+class QMovie;
+
+namespace sonarelle {
+
+/// Plain and graphic buttons alike.
+class ButtonBinding : public Binding {
+public:
+    ButtonBinding(Button& button, StudioButton& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    [[nodiscard]] QString caption() const override;
+
+private:
+    [[nodiscard]] StudioButton::Face face() const;
+
+    Button& button_;
+    StudioButton& face_;
+};
+
+/// A picture that can be pressed.
+class ImageBinding : public Binding {
+public:
+    ImageBinding(Image& image, StudioButton& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+
+private:
+    Image& image_;
+    StudioButton& face_;
+};
+
+class FrameBinding : public Binding {
+public:
+    FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    [[nodiscard]] QString caption() const override;
+
+private:
+    Frame& frame_;
+    QGroupBox& box_;
+};
+
+/// Pictures that move and pictures that don't; where the file is neither, what the widget shows by itself stays.
+class MovieBinding : public Binding {
+public:
+    MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& services);
+    ~MovieBinding() override;
+
+protected:
+    void show_state() override;
+
+private:
+    void load(const QString& file);
+
+    Movie& movie_;
+    QLabel& label_;
+    QString shown_;
+    std::unique_ptr<QMovie> film_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,117 @@
+#include "platform/desktop/choice_bindings.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "platform/desktop/colours.h"
+#include "platform/desktop/qt_text.h"
+#include "platform/desktop/text_bindings.h"
+
+namespace sonarelle {
+
+CheckBoxBinding::CheckBoxBinding(CheckBox& box, QCheckBox& widget, const DesktopServices& services)
+    : Binding{box, widget, services}, box_{box}, check_{widget} {
+    // The value is the control's: what the click made of it comes back by the update.
+    connect(&check_, &QCheckBox::clicked, this, [this] {
+        run([this] { box_.click(); });
+        check_.setChecked(box_.value() != 0);
+    });
+}
+
+void CheckBoxBinding::show_state() {
+    check_.setText(caption());
+    check_.setChecked(box_.value() != 0);
+}
+
+QString CheckBoxBinding::caption() const {
+    return plain_caption(box_.caption);
+}
+
+OptionBinding::OptionBinding(OptionButton& option, QRadioButton& widget, const DesktopServices& services)
+    : Binding{option, widget, services}, option_{option}, radio_{widget} {
+    // Which one is chosen is the group's business, which may choose none.
+    radio_.setAutoExclusive(false);
+    connect(&radio_, &QRadioButton::clicked, this, [this] {
+        run([this] { option_.click(); });
+        radio_.setChecked(option_.value());
+    });
+}
+
+void OptionBinding::show_state() {
+    radio_.setText(caption());
+    radio_.setChecked(option_.value());
+}
+
+QString OptionBinding::caption() const {
+    return plain_caption(option_.caption);
+}
+
+ComboBoxBinding::ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services)
+    : Binding{box, widget, services}, box_{box}, combo_{widget} {
+    combo_.setEditable(true);
+    combo_.setInsertPolicy(QComboBox::NoInsert);
+    combo_.setCompleter(nullptr);
+    combo_.setFocusPolicy(Qt::StrongFocus);
+    combo_.lineEdit()->installEventFilter(this);
+    connect(combo_.lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
+    connect(&combo_, &QComboBox::activated, this, [this](int index) { run([&] { box_.choose(index); }); });
+}
+
+void ComboBoxBinding::show_state() {
+    if (shown_items_ != box_.items.get()) {
+        shown_items_ = box_.items.get();
+        combo_.clear();
+        for (const std::string& item : shown_items_)
+            combo_.addItem(to_qt(item));
+    }
+    if (combo_.currentIndex() != box_.selected)
+        combo_.setCurrentIndex(box_.selected);
+    const QString text = to_qt(box_.text());
+    if (combo_.currentText() != text)
+        combo_.setEditText(text);
+}
+
+void ComboBoxBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+}
+
+// A key that the station answers itself isn't typed as well.
+bool ComboBoxBinding::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Wheel && !combo_.hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && box_.on_key_press) {
+        const QString text = static_cast<QKeyEvent*>(event)->text();
+        for (const char32_t character : text.toUcs4())
+            run([&] { box_.key_press(character); });
+        if (text == " ")
+            return true;
+    }
+    return Binding::eventFilter(object, event);
+}
+
+ListBoxBinding::ListBoxBinding(ListBox& box, QListWidget& widget, const DesktopServices& services)
+    : Binding{box, widget, services}, box_{box}, list_{widget} {
+    connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0)
+            run([&] { box_.choose(row); });
+    });
+}
+
+void ListBoxBinding::show_state() {
+    if (shown_items_ != box_.items.get()) {
+        shown_items_ = box_.items.get();
+        list_.clear();
+        for (const std::string& item : shown_items_)
+            list_.addItem(to_qt(item));
+    }
+    list_.setCurrentRow(box_.selected);
+}
+
+void ListBoxBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+}
+
+} // namespace sonarelle

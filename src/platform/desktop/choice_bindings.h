@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QRadioButton>
+
+#include "platform/controls.h"
+#include "platform/desktop/binding.h"
+
+namespace sonarelle {
+
+class CheckBoxBinding : public Binding {
+public:
+    CheckBoxBinding(CheckBox& box, QCheckBox& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    [[nodiscard]] QString caption() const override;
+
+private:
+    CheckBox& box_;
+    QCheckBox& check_;
+};
+
+class OptionBinding : public Binding {
+public:
+    OptionBinding(OptionButton& option, QRadioButton& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    [[nodiscard]] QString caption() const override;
+
+private:
+    OptionButton& option_;
+    QRadioButton& radio_;
+};
+
+/// The wheel over a box that has no focus scrolls what it lies on.
+class ComboBoxBinding : public Binding {
+public:
+    ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    void paint(QPalette& palette) const override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    ComboBox& box_;
+    QComboBox& combo_;
+    std::vector<std::string> shown_items_;
+};
+
+class ListBoxBinding : public Binding {
+public:
+    ListBoxBinding(ListBox& box, QListWidget& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    void paint(QPalette& palette) const override;
+
+private:
+    ListBox& box_;
+    QListWidget& list_;
+    std::vector<std::string> shown_items_;
+};
+
+} // namespace sonarelle

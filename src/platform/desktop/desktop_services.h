@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+
+namespace sonarelle {
+
+class PictureStore;
+class UpdateQueue;
+
+/// Runs what the operator did at its instant of the station's time. The one door from the screen to the station.
+using RunEvent = std::function<void(const std::function<void()>&)>;
+
+/// What the windows on the screen share. Its parts outlive the windows.
+struct DesktopServices {
+    RunEvent run_event;
+    UpdateQueue& updates;
+    PictureStore& pictures;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,73 @@
+#include "platform/desktop/row_table_binding.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include "platform/desktop/colours.h"
+#include "platform/desktop/text_bindings.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr int twips_per_pixel = 15;
+
+} // namespace
+
+RowTableBinding::RowTableBinding(RowTable& table, QTableView& widget, const DesktopServices& services)
+    : Binding{table, widget, services}, table_{table}, view_{widget}, model_{table, services.updates} {
+    view_.setModel(&model_);
+    dress();
+    connect(view_.selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
+        if (!selecting_ && index.isValid())
+            run([&] { table_.click(index.row() + 1); });
+    });
+    model_.on_edited = [this](int row, const std::string& text) { run([&] { table_.edit_label(row, text); }); };
+    model_.on_selected = [this](int row) { select(row); };
+    model_.on_shown = [this](int row) { scroll_to(row); };
+    select(table.selected());
+}
+
+void RowTableBinding::dress() {
+    view_.setSelectionBehavior(QAbstractItemView::SelectRows);
+    view_.setSelectionMode(QAbstractItemView::SingleSelection);
+    view_.setShowGrid(false);
+    view_.setWordWrap(false);
+    view_.setTabKeyNavigation(false);
+    view_.setEditTriggers(QAbstractItemView::SelectedClicked);
+    view_.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    view_.verticalHeader()->hide();
+    view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_.verticalHeader()->setDefaultSectionSize(view_.fontMetrics().height() + 10);
+    view_.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    view_.horizontalHeader()->setHighlightSections(false);
+    for (std::size_t column = 0; column < table_.columns().size(); ++column)
+        if (const int width = table_.columns()[column].width.count(); width > 0)
+            view_.setColumnWidth(static_cast<int>(column), width / twips_per_pixel);
+}
+
+void RowTableBinding::show_state() {
+    model_.set_ground(to_qt(table_.back_colour, studio::groove));
+}
+
+void RowTableBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+}
+
+// What the station selects is no press of the operator.
+void RowTableBinding::select(int row) {
+    selecting_ = true;
+    if (row >= 1 && row <= model_.rowCount())
+        view_.selectionModel()->setCurrentIndex(model_.index(row - 1, 0),
+                                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    else
+        view_.selectionModel()->clear();
+    selecting_ = false;
+}
+
+void RowTableBinding::scroll_to(int row) {
+    if (row <= model_.rowCount())
+        view_.scrollTo(model_.index(row - 1, 0));
+}
+
+} // namespace sonarelle

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTableView>
+
+#include "platform/desktop/binding.h"
+#include "platform/desktop/row_table_model.h"
+
+namespace sonarelle {
+
+/// A table of rows. A hundred thousand of them cost no widgets: the view asks for those that it paints.
+class RowTableBinding : public Binding {
+public:
+    RowTableBinding(RowTable& table, QTableView& widget, const DesktopServices& services);
+
+    [[nodiscard]] RowTableModel& model() { return model_; }
+
+protected:
+    void show_state() override;
+    void paint(QPalette& palette) const override;
+
+private:
+    void dress();
+    void select(int row);
+    void scroll_to(int row);
+
+    RowTable& table_;
+    QTableView& view_;
+    RowTableModel model_;
+    bool selecting_ = false;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,137 @@
+#include "platform/desktop/station_label.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/desktop/colours.h"
+
+namespace sonarelle {
+
+namespace {
+
+// The pixels of a style hold for a system text of 13; a greater one makes all greater.
+double text_scale() {
+    const QFontMetrics usual{QApplication::font()};
+    return std::max(1.0, usual.height() / 17.0);
+}
+
+} // namespace
+
+StationLabel::StationLabel(const Style& style, QWidget* parent) : QWidget{parent} {
+    set_style(style);
+}
+
+void StationLabel::set_style(const Style& style) {
+    style_ = style;
+    QFont font = QApplication::font();
+    font.setPixelSize(static_cast<int>(style.pixels * text_scale()));
+    font.setBold(style.bold);
+    setFont(font);
+    setSizePolicy(style.wrapped ? QSizePolicy::Expanding : QSizePolicy::Preferred,
+                  style.wrapped ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
+    updateGeometry();
+}
+
+void StationLabel::set_text(const QString& text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    if (style_.wrapped)
+        updateGeometry();
+    update();
+}
+
+void StationLabel::set_pressable(bool pressable) {
+    pressable_ = pressable;
+    setFocusPolicy(pressable ? Qt::TabFocus : Qt::NoFocus);
+    setCursor(pressable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+QSize StationLabel::sizeHint() const {
+    const QFontMetrics metrics{font()};
+    const int width = metrics.horizontalAdvance('0') * style_.characters + 2 * margin();
+    return {width, style_.wrapped ? heightForWidth(width) : metrics.height() + (style_.framed ? 12 : 2)};
+}
+
+QSize StationLabel::minimumSizeHint() const {
+    const QFontMetrics metrics{font()};
+    const int least = style_.digits || style_.framed ? sizeHint().width() : metrics.horizontalAdvance("000");
+    return {least, metrics.height() + (style_.framed ? 8 : 2)};
+}
+
+int StationLabel::heightForWidth(int width) const {
+    const QRect room{0, 0, width - 2 * margin(), 10000};
+    return QFontMetrics{font()}.boundingRect(room, Qt::TextWordWrap, text_).height() + 8;
+}
+
+void StationLabel::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor ink = palette().color(QPalette::WindowText);
+    if (style_.framed) {
+        painter.setPen(hasFocus() ? QPen{studio::focus, 2} : QPen{studio::edge, 1});
+        painter.setBrush(underMouse() && isEnabled() ? studio::edge : studio::face);
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 6, 6);
+    } else if (hasFocus()) {
+        painter.setPen(QPen{studio::focus, 2});
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 3, 3);
+    }
+    if (style_.quiet)
+        ink.setAlphaF(0.75F);
+    painter.setPen(ink);
+    const QRect area = rect().adjusted(margin(), 0, -margin(), 0);
+    if (style_.wrapped)
+        painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextWordWrap, text_);
+    else if (style_.digits)
+        paint_in_cells(painter, area);
+    else
+        painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine,
+                         fontMetrics().elidedText(text_, Qt::ElideRight, area.width()));
+}
+
+// Digits in cells of the widest one, so that nothing jumps when a second passes.
+void StationLabel::paint_in_cells(QPainter& painter, const QRect& area) const {
+    const QFontMetrics metrics{font()};
+    int cell = 0;
+    for (char digit = '0'; digit <= '9'; ++digit)
+        cell = std::max(cell, metrics.horizontalAdvance(QChar{digit}));
+    const auto width_of = [&](QChar c) { return c.isDigit() ? cell : metrics.horizontalAdvance(c); };
+    int total = 0;
+    for (const QChar c : text_)
+        total += width_of(c);
+    int x = area.left();
+    if (style_.alignment & Qt::AlignRight)
+        x = area.right() - total;
+    else if (style_.alignment & Qt::AlignHCenter)
+        x = area.left() + (area.width() - total) / 2;
+    for (const QChar c : text_) {
+        const int width = width_of(c);
+        painter.drawText(QRect{x, area.top(), width, area.height()}, Qt::AlignHCenter | Qt::AlignVCenter, QString{c});
+        x += width;
+    }
+}
+
+// The background of the window takes the presses on a text that is no button.
+void StationLabel::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(pressable_ && event->button() == Qt::LeftButton);
+}
+
+void StationLabel::mouseReleaseEvent(QMouseEvent* event) {
+    const bool pressed = pressable_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    event->setAccepted(pressed);
+    if (pressed && on_press)
+        on_press();
+}
+
+void StationLabel::keyPressEvent(QKeyEvent* event) {
+    const bool pressed = pressable_ && (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return);
+    if (pressed && on_press)
+        on_press();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace sonarelle

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+namespace sonarelle {
+
+/// A text that changes often and never moves what stands beside it: its size depends on its style alone.
+/// Digits stand in cells of one width where the style asks for it. It can be pressed, by mouse and keyboard.
+class StationLabel : public QWidget {
+public:
+    struct Style {
+        int pixels = 14; ///< At the system's usual text size; grows with it.
+        bool bold = false;
+        bool quiet = false;   ///< A heading or an aside.
+        bool digits = false;  ///< In cells of one width.
+        bool framed = false;  ///< Drawn as a button.
+        bool wrapped = false; ///< As many lines as it takes.
+        int characters = 12;  ///< The width that it asks for.
+        Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    };
+
+    explicit StationLabel(QWidget* parent = nullptr) : StationLabel{Style{}, parent} {}
+    explicit StationLabel(const Style& style, QWidget* parent = nullptr);
+
+    void set_text(const QString& text);
+    [[nodiscard]] const QString& text() const { return text_; }
+    void set_style(const Style& style);
+    /// Makes it a button for mouse and keyboard.
+    void set_pressable(bool pressable);
+
+    std::function<void()> on_press;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return style_.wrapped; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] int margin() const { return style_.framed ? 8 : 2; }
+    void paint_in_cells(QPainter& painter, const QRect& area) const;
+
+    Style style_;
+    QString text_;
+    bool pressable_ = false;
+};
+
+} // namespace sonarelle

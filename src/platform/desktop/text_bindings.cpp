@@ -1,0 +1,85 @@
+#include "platform/desktop/text_bindings.h"
+
+#include "platform/desktop/colours.h"
+#include "platform/desktop/qt_text.h"
+
+namespace sonarelle {
+
+void paint_text_field(QPalette& palette, const Control& control) {
+    const QColor ground = to_qt(control.back_colour, studio::groove);
+    const QColor ink = to_qt(control.fore_colour, readable_on(ground));
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Base, ground);
+        palette.setColor(group, QPalette::Button, ground);
+        palette.setColor(group, QPalette::Text, ink);
+        palette.setColor(group, QPalette::ButtonText, ink);
+    }
+}
+
+LabelBinding::LabelBinding(Label& label, StationLabel& widget, const DesktopServices& services)
+    : Binding{label, widget, services}, label_{label}, text_{widget} {
+    widget.on_press = [this] { run([this] { label_.click(); }); };
+    widget.set_pressable(label.on_click != nullptr);
+}
+
+void LabelBinding::show_state() {
+    text_.set_text(caption());
+}
+
+QString LabelBinding::caption() const {
+    return plain_caption(label_.caption);
+}
+
+TextBoxBinding::TextBoxBinding(TextBox& box, QLineEdit& widget, const DesktopServices& services)
+    : Binding{box, widget, services}, box_{box}, line_{widget} {
+    connect(&line_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
+}
+
+// Writing it again would move the cursor of who is typing.
+void TextBoxBinding::show_state() {
+    const QString text = to_qt(box_.text());
+    if (line_.text() != text)
+        line_.setText(text);
+}
+
+void TextBoxBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+}
+
+RichTextBinding::RichTextBinding(RichText& text, QTextEdit& widget, const DesktopServices& services)
+    : Binding{text, widget, services}, text_{text}, edit_{widget} {
+    connect(&edit_, &QTextEdit::textChanged, this, [this] {
+        run([this] {
+            text_.text = from_qt(edit_.toPlainText());
+            if (text_.on_change)
+                text_.on_change();
+        });
+    });
+    connect(&edit_, &QTextEdit::selectionChanged, this, [this] {
+        run([this] {
+            const QTextCursor cursor = edit_.textCursor();
+            text_.selection_start = cursor.selectionStart();
+            text_.selection_length = cursor.selectionEnd() - cursor.selectionStart();
+        });
+    });
+}
+
+void RichTextBinding::show_state() {
+    const QString text = to_qt(text_.text);
+    if (edit_.toPlainText() != text)
+        edit_.setPlainText(text);
+    QTextCursor cursor = edit_.textCursor();
+    const int end = text_.selection_start + text_.selection_length;
+    if (cursor.selectionStart() == text_.selection_start && cursor.selectionEnd() == end)
+        return;
+    cursor.setPosition(text_.selection_start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    edit_.setTextCursor(cursor);
+}
+
+void RichTextBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+}
+
+} // namespace sonarelle

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QTextEdit>
+
+#include "platform/controls.h"
+#include "platform/desktop/binding.h"
+#include "platform/desktop/station_label.h"
+
+namespace sonarelle {
+
+class LabelBinding : public Binding {
+public:
+    LabelBinding(Label& label, StationLabel& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    [[nodiscard]] QString caption() const override;
+
+private:
+    Label& label_;
+    StationLabel& text_;
+};
+
+class TextBoxBinding : public Binding {
+public:
+    TextBoxBinding(TextBox& box, QLineEdit& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    void paint(QPalette& palette) const override;
+
+private:
+    TextBox& box_;
+    QLineEdit& line_;
+};
+
+class RichTextBinding : public Binding {
+public:
+    RichTextBinding(RichText& text, QTextEdit& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override;
+    void paint(QPalette& palette) const override;
+
+private:
+    RichText& text_;
+    QTextEdit& edit_;
+};
+
+/// Ink and ground of what holds text: the told ones, and where they are the desktop's, the studio's.
+void paint_text_field(QPalette& palette, const Control& control);
+
+} // namespace sonarelle

@@ -1,0 +1,232 @@
+#include "platform/desktop/window_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTextEdit>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/desktop/colours.h"
+#include "platform/desktop/picture_store.h"
+#include "platform/desktop/qt_text.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr int twips_per_pixel = 15;
+
+int pixels(Twips length) {
+    return length.count() / twips_per_pixel;
+}
+Twips twips(int length) {
+    return Twips{length * twips_per_pixel};
+}
+
+} // namespace
+
+WindowView::WindowView(Window& window, const DesktopServices& services, QSize least)
+    : window_{window}, services_{services}, content_{new QWidget{this}}, bar_{new QMenuBar{this}}, menus_{window, *this,
+                                                                                                          services} {
+    setObjectName(to_qt(window.name()));
+    setMouseTracking(true);
+    content_->setMouseTracking(true);
+    auto* column = new QVBoxLayout{this};
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->setMenuBar(bar_);
+    column->addWidget(content_);
+    menus_.fill(*bar_);
+    bar_->setVisible(!window.menu_bar.empty());
+    setMinimumSize(least);
+    const QSize wished{pixels(window.width), pixels(window.height)};
+    resize(least.expandedTo(wished));
+    window_.observe(this);
+    services_.updates.mark(*this);
+}
+
+WindowView::~WindowView() {
+    services_.updates.forget(*this);
+    window_.observe(nullptr);
+}
+
+Binding* WindowView::binding_of(const Control& control) const {
+    const auto found = std::ranges::find_if(bindings_, [&](const auto& b) { return &b->control() == &control; });
+    return found == bindings_.end() ? nullptr : found->get();
+}
+
+bool WindowView::is_bound(const Control& control) const {
+    return binding_of(control) != nullptr;
+}
+
+void WindowView::show_value() {
+    showing_ = true;
+    setWindowTitle(to_qt(window_.caption));
+    const auto any = std::ranges::any_of(window_.menu_bar, [](const MenuItem* item) { return item->visible.get(); });
+    bar_->setVisible(any);
+    setCursor(window_.mouse_pointer == 11   ? Qt::WaitCursor
+              : window_.mouse_pointer == 13 ? Qt::BusyCursor
+                                            : Qt::ArrowCursor);
+    show_place();
+    show_state();
+    update();
+    showing_ = false;
+}
+
+void WindowView::show_place() {
+    const QSize size = minimumSize().expandedTo({pixels(window_.width), pixels(window_.height)});
+    if (window_.width.get().count() > 0 && size != this->size())
+        resize(size);
+    const QPoint place{pixels(window_.left), pixels(window_.top)};
+    if (place != pos() && (was_placed_ || !place.isNull()))
+        move(place);
+    was_placed_ = was_placed_ || !place.isNull();
+}
+
+// The flag goes to the native window: Qt would take the widget off the screen and put it back.
+void WindowView::show_state() {
+    if (QWindow* native = windowHandle())
+        native->setFlag(Qt::WindowStaysOnTopHint, window_.topmost);
+    const WindowState state = window_.state;
+    if (isMinimized() != (state == WindowState::minimised) || isMaximized() != (state == WindowState::maximised))
+        setWindowState(state == WindowState::minimised   ? Qt::WindowMinimized
+                       : state == WindowState::maximised ? Qt::WindowMaximized
+                                                         : Qt::WindowNoState);
+    if (isVisible() == window_.visible)
+        return;
+    setVisible(window_.visible);
+    if (window_.visible && state != WindowState::minimised)
+        raise();
+}
+
+void WindowView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    watch_keys();
+    if (window_.topmost && windowHandle() != nullptr)
+        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, true);
+    if (!event->spontaneous())
+        QTimer::singleShot(0, this, [this] { activated(); });
+}
+
+// Not every screen has someone who makes a window active, so being shown counts too.
+void WindowView::activated() {
+    if (window_.on_activate && isVisible())
+        services_.run_event([this] { window_.activate(); });
+}
+
+// Characters reach the window before the part that has the focus, each once: on the way into the native window.
+void WindowView::watch_keys() {
+    if (watches_keys_ || windowHandle() == nullptr)
+        return;
+    windowHandle()->installEventFilter(this);
+    watches_keys_ = true;
+}
+
+bool WindowView::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && object == windowHandle()) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (!key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape))
+            pass_characters(key->text());
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+// What is typed into a field is for the field alone.
+bool WindowView::accepts_text() const {
+    const QWidget* focus = focusWidget();
+    const auto* line = qobject_cast<const QLineEdit*>(focus);
+    const auto* combo = qobject_cast<const QComboBox*>(focus);
+    return (line != nullptr && !line->isReadOnly()) || (combo != nullptr && combo->isEditable()) ||
+           qobject_cast<const QTextEdit*>(focus) != nullptr;
+}
+
+void WindowView::pass_characters(const QString& text) {
+    for (const char32_t character : text.toUcs4())
+        services_.run_event([this, character] { window_.key_press(character); });
+}
+
+void WindowView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    services_.run_event([this] {
+        if (window_.on_unload_request)
+            window_.ask_to_close();
+        else
+            window_.hide();
+    });
+}
+
+void WindowView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || showing_)
+        return;
+    const bool reduced = isMinimized() && window_.state != WindowState::minimised;
+    services_.run_event([&] {
+        window_.state = isMinimized()   ? WindowState::minimised
+                        : isMaximized() ? WindowState::maximised
+                                        : WindowState::normal;
+        if (reduced)
+            window_.reduce();
+    });
+}
+
+bool WindowView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        activated();
+    return QWidget::event(event);
+}
+
+void WindowView::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    keep_place();
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    keep_place();
+}
+
+// The station places one window by another, so it must know where the operator put it.
+void WindowView::keep_place() {
+    if (!isVisible() || isMinimized() || isMaximized())
+        return;
+    window_.left = twips(pos().x());
+    window_.top = twips(pos().y());
+    window_.width = twips(width());
+    window_.height = twips(height());
+}
+
+void WindowView::mousePressEvent(QMouseEvent* event) {
+    setFocus();
+    if (event->button() == Qt::LeftButton)
+        services_.run_event([this] { window_.click(); });
+    else if (event->button() == Qt::RightButton)
+        services_.run_event([this] { window_.right_click(); });
+}
+
+void WindowView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        services_.run_event([this] { window_.double_click(); });
+}
+
+void WindowView::mouseMoveEvent(QMouseEvent*) {
+    if (window_.on_mouse_move)
+        services_.run_event([this] { window_.mouse_move(); });
+}
+
+void WindowView::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    painter.fillRect(rect(), to_qt(window_.back_colour, studio::ground));
+    if (window_.picture.get().empty())
+        return;
+    const QPixmap picture = services_.pictures.picture(window_.picture);
+    if (picture.isNull())
+        painter.fillRect(rect(), studio::ground);
+    else
+        painter.drawPixmap(rect(), picture);
+}
+
+} // namespace sonarelle

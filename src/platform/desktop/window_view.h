@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "platform/desktop/binding.h"
+#include "platform/desktop/menu_bindings.h"
+#include "platform/window.h"
+
+class QVBoxLayout;
+
+namespace sonarelle {
+
+/// A window of the station on the screen: its place, title, state and background, the characters typed into it, its
+/// menus, and the bindings of its controls.
+class WindowView : public QWidget, public Shown, private ControlObserver {
+public:
+    /// `least`: the smallest size that loses no control; a smaller one that the station asks for is not taken.
+    WindowView(Window& window, const DesktopServices& services, QSize least);
+    ~WindowView() override;
+    WindowView(const WindowView&) = delete;
+    WindowView& operator=(const WindowView&) = delete;
+
+    void show_value() override;
+
+    [[nodiscard]] Window& window_value() const { return window_; }
+    [[nodiscard]] const DesktopServices& services() const { return services_; }
+    [[nodiscard]] MenuBindings& menus() { return menus_; }
+    [[nodiscard]] QMenuBar& menu_bar() { return *bar_; }
+    /// Below the menu bar: where the window's parts are laid out.
+    [[nodiscard]] QWidget& content() { return *content_; }
+
+    /// Keeps a binding for as long as the window lives.
+    template <typename Kind>
+    Kind& keep(std::unique_ptr<Kind> binding) {
+        Kind& kept = *binding;
+        bindings_.push_back(std::move(binding));
+        return kept;
+    }
+    [[nodiscard]] bool is_bound(const Control& control) const;
+    /// The binding of a control; null for one that has none.
+    [[nodiscard]] Binding* binding_of(const Control& control) const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void control_changed(Control&) override { services_.updates.mark(*this); }
+    void show_place();
+    void show_state();
+    void keep_place();
+    void watch_keys();
+    void pass_characters(const QString& text);
+    void activated();
+    [[nodiscard]] bool accepts_text() const;
+
+    Window& window_;
+    const DesktopServices& services_;
+    QWidget* content_;
+    QMenuBar* bar_;
+    MenuBindings menus_;
+    std::vector<std::unique_ptr<Binding>> bindings_;
+    bool showing_ = false;
+    bool watches_keys_ = false;
+    bool was_placed_ = false;
+};
+
+} // namespace sonarelle

@@ -45,9 +45,9 @@ RULES = {
 
 # The programs choose a platform and hand it in, so they see all of it; the command line has no windows.
 WIRING = PLATFORM | SUBSYSTEMS | {"station", "platform/audio", "platform/host", "platform/simulated"}
-RULES["app/live"] = (WIRING | {"app/live"}, [])
-RULES["app/outil"] = (WIRING | {"app/live", "app/outil"}, [POSIX, JSON])
-RULES["app/bureau"] = (WIRING | {"app/live", "app/bureau", "platform/desktop"}, [POSIX, QT])
+RULES["app/common"] = (WIRING | {"app/common"}, [])
+RULES["app/outil"] = (WIRING | {"app/common", "app/outil"}, [POSIX, JSON])
+RULES["app/bureau"] = (WIRING | {"app/common", "app/bureau", "platform/desktop"}, [POSIX, QT])
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>|(\S.*))', re.MULTILINE)
 COMMENT = re.compile(r"/\*.*?\*/", re.DOTALL)

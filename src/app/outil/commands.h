@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "app/outil/arguments.h"
-#include "app/outil/common_options.h"
+#include "app/common/arguments.h"
+#include "app/common/common_options.h"
 
 namespace sonarelle {
 

@@ -4,7 +4,7 @@
 
 #include "app/outil/commands.h"
 #include "app/outil/list_json.h"
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 #include "app/outil/printable.h"
 #include "platform/failure.h"
 #include "platform/paths.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 #include "platform/audio/file_opener.h"
 #include "platform/host/host_disk.h"
 #include "platform/numbers.h"

@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "app/outil/commands.h"
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 #include "app/outil/printable.h"
 #include "app/outil/programme.h"
 #include "configuration/settings_store.h"

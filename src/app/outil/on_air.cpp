@@ -6,7 +6,7 @@
 #include <memory>
 #include <ostream>
 
-#include "app/live/live_machine.h"
+#include "app/common/live_machine.h"
 #include "app/outil/deck_watch.h"
 #include "app/outil/event_writer.h"
 #include "app/outil/silence_watch.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/outil/arguments.h"
+#include "app/common/arguments.h"
 #include "platform/settings.h"
 #include "platform/units.h"
 #include "station/station.h"

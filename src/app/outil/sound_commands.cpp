@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "app/outil/commands.h"
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 #include "app/outil/measuring.h"
 #include "app/outil/printable.h"
 #include "app/outil/progress.h"

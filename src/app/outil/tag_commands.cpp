@@ -4,7 +4,7 @@
 #include <ostream>
 
 #include "app/outil/commands.h"
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 #include "app/outil/printable.h"
 #include "metadata/TypeTagMpeg.h"
 #include "metadata/TypeTagV1.h"

@@ -1,4 +1,4 @@
-#include "app/outil/arguments.h"
+#include "app/common/arguments.h"
 
 #include <algorithm>
 

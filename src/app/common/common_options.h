@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/outil/arguments.h"
+#include "app/common/arguments.h"
 
 namespace sonarelle {
 

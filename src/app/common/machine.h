@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "app/outil/common_options.h"
+#include "app/common/common_options.h"
 #include "platform/disk.h"
 #include "platform/drive_table.h"
 #include "platform/host/host_folders.h"

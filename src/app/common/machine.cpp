@@ -1,4 +1,4 @@
-#include "app/outil/machine.h"
+#include "app/common/machine.h"
 
 #include <filesystem>
 

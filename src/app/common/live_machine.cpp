@@ -1,4 +1,4 @@
-#include "app/live/live_machine.h"
+#include "app/common/live_machine.h"
 
 #include "platform/audio/sdl_devices.h"
 #include "platform/numbers.h"

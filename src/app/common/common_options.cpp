@@ -1,4 +1,4 @@
-#include "app/outil/common_options.h"
+#include "app/common/common_options.h"
 
 #include "platform/drive_table.h"
 #include "platform/failure.h"

@@ -14,10 +14,13 @@ constexpr std::chrono::milliseconds block_time{10};
 class FakeDevice final : public OutputDevice {
 public:
     FakeDevice(std::shared_ptr<FakeCard> card, PullFrames pull)
-        : card_{std::move(card)}, pull_{std::move(pull)}, thread_{[this] { play(); }} {}
+        : card_{std::move(card)}, pull_{std::move(pull)}, thread_{[this] { play(); }} {
+        ++card_->open;
+    }
     ~FakeDevice() override {
         stopping_ = true;
         thread_.join();
+        --card_->open;
     }
     [[nodiscard]] bool is_there() const override { return !card_->dead; }
 
@@ -56,11 +59,20 @@ std::vector<float> FakeCard::heard() const {
     return heard_;
 }
 
+std::vector<std::string> FakeDevices::names() {
+    std::vector<std::string> names;
+    for (const auto& [name, card] : cards_)
+        if (!name.empty() && !card->absent)
+            names.push_back(name);
+    return names;
+}
+
 std::unique_ptr<OutputDevice> FakeDevices::open(const std::string& name, PullFrames pull) {
-    if (card_->absent)
+    const auto place = cards_.find(name);
+    if (place == cards_.end() || place->second->absent)
         throw Failure{failure_number::device_unavailable, name};
-    ++card_->opened;
-    return std::make_unique<FakeDevice>(card_, std::move(pull));
+    ++place->second->opened;
+    return std::make_unique<FakeDevice>(place->second, std::move(pull));
 }
 
 } // namespace sonarelle

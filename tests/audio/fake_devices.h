@@ -1,8 +1,10 @@
 #pragma once
 
 #include <atomic>
+#include <map>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -21,6 +23,7 @@ public:
     std::atomic<bool> dead{false};    ///< It stops pulling and says that it has gone.
     std::atomic<bool> hanging{false}; ///< It stops pulling and says nothing.
     std::atomic<int> opened{0};
+    std::atomic<int> open{0}; ///< How often it is open now.
 
     void pull_block(const PullFrames& pull);
     /// By frames of the bus; silence where the card got nothing.
@@ -32,14 +35,17 @@ private:
     std::vector<float> heard_;
 };
 
+/// The cards of a machine; the one without a name is the default one.
 class FakeDevices final : public OutputDevices {
 public:
-    explicit FakeDevices(std::shared_ptr<FakeCard> card) : card_{std::move(card)} {}
-    [[nodiscard]] std::vector<std::string> names() override { return {"Carte"}; }
+    using Cards = std::map<std::string, std::shared_ptr<FakeCard>>;
+
+    explicit FakeDevices(Cards cards) : cards_{std::move(cards)} {}
+    [[nodiscard]] std::vector<std::string> names() override;
     [[nodiscard]] std::unique_ptr<OutputDevice> open(const std::string& name, PullFrames pull) override;
 
 private:
-    std::shared_ptr<FakeCard> card_;
+    Cards cards_;
 };
 
 } // namespace sonarelle

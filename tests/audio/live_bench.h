@@ -21,8 +21,10 @@ public:
         media.on_trouble = [this](const SoundReport& report) { reports.push_back(report); };
     }
 
-    void go_on_air() {
-        output = std::make_unique<LiveOutput>(bus, std::make_unique<FakeDevices>(card), "",
+    /// On the default card, or on the one of this name; `studio` is the card « Studio ».
+    void go_on_air(const std::string& name = "") {
+        auto devices = std::make_unique<FakeDevices>(FakeDevices::Cards{{"", card}, {"Studio", studio}});
+        output = std::make_unique<LiveOutput>(bus, std::move(devices), name,
                                               [this](OutputState state) { last_state = state; });
     }
     /// Lives until a condition holds; the test's own limit of time is the only one.
@@ -51,6 +53,7 @@ public:
     Scheduler scheduler;
     ProgrammeBus bus;
     std::shared_ptr<FakeCard> card = std::make_shared<FakeCard>(bus);
+    std::shared_ptr<FakeCard> studio = std::make_shared<FakeCard>(bus);
     LiveClock clock{scheduler, bus};
     SoundMedia media;
     LiveDriver driver{scheduler, clock, bus, media};

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/failure.h"
+#include "platform/audio/output_keeper.h"
 
 namespace sonarelle {
 
@@ -11,13 +11,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds retry_every = 2000ms;
 constexpr std::chrono::milliseconds watch_every = 50ms;
 constexpr std::chrono::milliseconds longest_silence =
     150ms;                                               // of a device with short blocks, until the clock takes over
 constexpr std::chrono::milliseconds settles_in = 1000ms; // a server that has just been opened takes some blocks
 constexpr std::chrono::milliseconds settling_silence = 500ms; // at once, and then none for a while
-constexpr std::chrono::milliseconds given_up_after = 4000ms;  // a device that hangs is opened anew
 constexpr std::chrono::milliseconds first_try_takes = 2000ms;
 constexpr std::chrono::milliseconds leave_takes = 1000ms;
 constexpr std::size_t paced_frames = 1024;
@@ -27,12 +25,13 @@ constexpr std::chrono::nanoseconds paced_time{1'000'000'000LL * paced_frames / f
 
 LiveOutput::LiveOutput(ProgrammeBus& bus, std::unique_ptr<OutputDevices> devices, std::string device_name,
                        std::function<void(OutputState)> on_change)
-    : shared_{std::make_shared<Shared>(bus)} {
+    : shared_{std::make_shared<OutputShared>(bus)} {
     shared_->on_change = std::move(on_change);
-    shared_->devices = std::move(devices);
-    shared_->device_name = std::move(device_name);
-    if (shared_->devices != nullptr)
-        keeper_ = std::thread{[shared = shared_] { keep_device(shared); }};
+    choose(std::move(device_name));
+    if (devices != nullptr)
+        keeper_ = std::thread{[shared = shared_, owned = std::move(devices)]() mutable {
+            OutputKeeper{std::move(shared), std::move(owned)}.run();
+        }};
     else
         shared_->first_try_over = true;
     pacer_ = std::thread{[shared = shared_] { pace(*shared); }};
@@ -57,61 +56,31 @@ LiveOutput::~LiveOutput() {
         keeper_.detach();
 }
 
-// False when it is time to stop.
-bool LiveOutput::Shared::sleep_for(std::chrono::milliseconds time) {
-    const auto until = Clock::now() + time;
-    const MutexLock lock{mutex};
-    while (!stopping && Clock::now() < until)
-        wake.wait_until(mutex, until);
-    return !stopping;
-}
-
-void LiveOutput::Shared::set_state(OutputState next) {
-    if (state.exchange(next) != next && on_change)
-        on_change(next);
-}
-
-// --- The keeper ---
-
-void LiveOutput::keep_device(const std::shared_ptr<Shared>& shared) {
-    do {
-        auto device = try_to_open(shared);
-        shared->device_open = device != nullptr;
-        shared->first_try_over = true;
-        shared->wake.notify_all();
-        if (device != nullptr)
-            watch_device(*shared, *device);
-        shared->device_open = false;
-    } while (shared->sleep_for(retry_every));
-    shared->devices.reset();
-    shared->keeper_ended = true;
-}
-
-// The callback holds on to what it needs: it may come once more while the device hangs in its end.
-std::unique_ptr<OutputDevice> LiveOutput::try_to_open(const std::shared_ptr<Shared>& shared) {
-    try {
-        return shared->devices->open(shared->device_name, [shared](float* out, std::size_t frames) {
-            shared->gate.pull_by_device(out, frames);
-        });
-    } catch (const Failure&) {
-        return nullptr;
+void LiveOutput::choose(std::string device_name) {
+    {
+        const MutexLock lock{shared_->mutex};
+        shared_->chosen = std::move(device_name);
+        shared_->choice_is_new = true;
     }
+    shared_->wake.notify_all();
 }
 
-// Until the device has gone, has hung for long, or the programme ends.
-void LiveOutput::watch_device(Shared& shared, const OutputDevice& device) {
-    std::int64_t asked = shared.gate.asked();
-    auto last_pull = Clock::now();
-    while (shared.sleep_for(2 * watch_every) && device.is_there() && Clock::now() - last_pull < given_up_after)
-        if (const std::int64_t now_asked = shared.gate.asked(); now_asked != asked) {
-            asked = now_asked;
-            last_pull = Clock::now();
-        }
+std::string LiveOutput::chosen() const {
+    const MutexLock lock{shared_->mutex};
+    return shared_->chosen;
 }
 
-// --- The pacer ---
+std::optional<std::string> LiveOutput::playing_on() const {
+    const MutexLock lock{shared_->mutex};
+    return shared_->playing_on;
+}
 
-void LiveOutput::pace(Shared& shared) {
+std::vector<std::string> LiveOutput::device_names() const {
+    const MutexLock lock{shared_->mutex};
+    return shared_->names;
+}
+
+void LiveOutput::pace(OutputShared& shared) {
     wait_for_first_try(shared);
     while (shared.sleep_for(0ms)) {
         if (shared.device_open)
@@ -122,7 +91,7 @@ void LiveOutput::pace(Shared& shared) {
 }
 
 // A programme shouldn't lose its first notes to a server that is slow to start.
-void LiveOutput::wait_for_first_try(Shared& shared) {
+void LiveOutput::wait_for_first_try(OutputShared& shared) {
     const auto limit = Clock::now() + first_try_takes;
     const MutexLock lock{shared.mutex};
     while (!shared.stopping && !shared.first_try_over && Clock::now() < limit)
@@ -130,13 +99,18 @@ void LiveOutput::wait_for_first_try(Shared& shared) {
 }
 
 // While the device pulls, this thread only looks now and then. Returns when it has stopped.
-void LiveOutput::watch_pulls(Shared& shared) {
+void LiveOutput::watch_pulls(OutputShared& shared) {
     shared.gate.give_turn(PullGate::Turn::device);
     std::int64_t asked = shared.gate.asked();
     auto last_pull = Clock::now();
-    const auto settled_at = last_pull + settles_in;
+    int on_air = shared.on_air;
+    auto settled_at = last_pull + settles_in;
     std::chrono::milliseconds patience = settling_silence;
     while (shared.sleep_for(watch_every) && shared.device_open && Clock::now() - last_pull < patience) {
+        if (const int now_on_air = shared.on_air; now_on_air != on_air) {
+            on_air = now_on_air;
+            settled_at = Clock::now() + settles_in;
+        }
         const auto least = Clock::now() < settled_at ? settling_silence : longest_silence;
         patience = std::max(least, watch_every + 2 * shared.gate.block_time());
         const std::int64_t now_asked = shared.gate.asked();
@@ -152,7 +126,7 @@ void LiveOutput::watch_pulls(Shared& shared) {
 }
 
 // Two blocks asked for by a device that is open say that it is back.
-void LiveOutput::pace_until_device_pulls(Shared& shared) {
+void LiveOutput::pace_until_device_pulls(OutputShared& shared) {
     shared.gate.give_turn(PullGate::Turn::pacer);
     shared.set_state(OutputState::paced);
     std::vector<float> block(2 * paced_frames);

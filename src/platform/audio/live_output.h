@@ -3,24 +3,22 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "platform/audio/output_device.h"
+#include "platform/audio/output_shared.h"
 #include "platform/audio/programme_bus.h"
-#include "platform/audio/pull_gate.h"
-#include "platform/audio/thread_annotations.h"
 
 namespace sonarelle {
 
-enum class OutputState {
-    opening, ///< The first try is under way; time hasn't begun.
-    playing, ///< The device pulls.
-    paced,   ///< There is no device that pulls: the monotonic clock does.
-};
-
 /// Keeps the programme going: through a device while one pulls, by the monotonic clock within 250 ms when it stops, and
 /// through the device again when it is back. A device that has gone is tried every 2 s.
+///
+/// While the chosen device can't be had, the default one plays, so that the air isn't silent; the chosen one is taken
+/// back within some 2 s of its return. What plays is given up only when another device pulls.
 ///
 /// Two threads of its own. The keeper opens, watches and closes the device, and may hang as long as that does. The
 /// pacer sees to it that someone pulls, and never waits for the keeper.
@@ -36,39 +34,26 @@ public:
 
     [[nodiscard]] OutputState state() const { return shared_->state.load(std::memory_order_acquire); }
 
+    // From any thread; none of these waits for a device.
+
+    /// Goes over to another device, on the air; empty is the default one. Without `devices` it changes nothing.
+    void choose(std::string device_name);
+    [[nodiscard]] std::string chosen() const;
+    /// The device that is open: the chosen one, or empty for the default one that plays in its place; nothing where
+    /// there is none.
+    [[nodiscard]] std::optional<std::string> playing_on() const;
+    /// The devices that there are, as of the last 2 s or so. Empty before the first try is over.
+    [[nodiscard]] std::vector<std::string> device_names() const;
+
 private:
     using Clock = std::chrono::steady_clock;
 
-    /// What the threads share, for as long as one of them lives.
-    struct Shared {
-        explicit Shared(ProgrammeBus& bus) : gate{bus} {}
+    static void pace(OutputShared& shared);
+    static void wait_for_first_try(OutputShared& shared);
+    static void watch_pulls(OutputShared& shared);
+    static void pace_until_device_pulls(OutputShared& shared);
 
-        bool sleep_for(std::chrono::milliseconds time);
-        void set_state(OutputState next);
-
-        PullGate gate;
-        std::atomic<OutputState> state{OutputState::opening};
-        std::atomic<bool> device_open{false};
-        std::atomic<bool> first_try_over{false};
-        std::atomic<bool> keeper_ended{false};
-        std::function<void(OutputState)> on_change; // by the pacer alone
-        std::unique_ptr<OutputDevices> devices;     // the keeper's
-        std::string device_name;
-
-        Mutex mutex;
-        Condition wake;
-        bool stopping SONARELLE_GUARDED_BY(mutex) = false;
-    };
-
-    static void keep_device(const std::shared_ptr<Shared>& shared);
-    [[nodiscard]] static std::unique_ptr<OutputDevice> try_to_open(const std::shared_ptr<Shared>& shared);
-    static void watch_device(Shared& shared, const OutputDevice& device);
-    static void pace(Shared& shared);
-    static void wait_for_first_try(Shared& shared);
-    static void watch_pulls(Shared& shared);
-    static void pace_until_device_pulls(Shared& shared);
-
-    std::shared_ptr<Shared> shared_;
+    std::shared_ptr<OutputShared> shared_;
     std::thread keeper_;
     std::thread pacer_;
 };

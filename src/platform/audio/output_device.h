@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] virtual std::vector<std::string> names() = 0;
 
-    /// Opens a device by name, or the default one for an empty name, and begins to pull.
+    /// Opens a device by name, or the default one for an empty name, and begins to pull. Others that are open play on.
     /// @throws Failure 68 when there is none that works.
     [[nodiscard]] virtual std::unique_ptr<OutputDevice> open(const std::string& name, PullFrames pull) = 0;
 };

@@ -26,7 +26,8 @@ void silence_alsa() {
 
 class SdlDevice final : public OutputDevice {
 public:
-    SdlDevice(const std::string& name, PullFrames pull) : pull_{std::move(pull)} {
+    SdlDevice(const std::string& name, PullFrames pull, std::shared_ptr<int> open_devices)
+        : pull_{std::move(pull)}, open_devices_{std::move(open_devices)} {
         SDL_AudioSpec wanted{};
         wanted.freq = static_cast<int>(frame_rate);
         wanted.format = AUDIO_F32SYS;
@@ -37,9 +38,13 @@ public:
         device_ = SDL_OpenAudioDevice(name.empty() ? nullptr : name.c_str(), 0, &wanted, nullptr, 0);
         if (device_ == 0)
             throw Failure{failure_number::device_unavailable, name};
+        ++*open_devices_;
         SDL_PauseAudioDevice(device_, 0);
     }
-    ~SdlDevice() override { SDL_CloseAudioDevice(device_); }
+    ~SdlDevice() override {
+        SDL_CloseAudioDevice(device_);
+        --*open_devices_;
+    }
     SdlDevice(const SdlDevice&) = delete;
     SdlDevice& operator=(const SdlDevice&) = delete;
 
@@ -52,6 +57,7 @@ private:
     }
 
     PullFrames pull_;
+    std::shared_ptr<int> open_devices_;
     SDL_AudioDeviceID device_ = 0;
 };
 
@@ -62,7 +68,7 @@ SdlDevices::~SdlDevices() {
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
-// A server that was restarted is found by beginning anew.
+// A server that was restarted is found by beginning anew, which closes all that is open.
 bool SdlDevices::connect(bool anew) {
     if (connected_ && anew)
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
@@ -87,9 +93,9 @@ std::vector<std::string> SdlDevices::names() {
 }
 
 std::unique_ptr<OutputDevice> SdlDevices::open(const std::string& name, PullFrames pull) {
-    if (!connect(true))
+    if (!connect(*open_devices_ == 0))
         throw Failure{failure_number::device_unavailable, name};
-    return std::make_unique<SdlDevice>(name, std::move(pull));
+    return std::make_unique<SdlDevice>(name, std::move(pull), open_devices_);
 }
 
 } // namespace sonarelle

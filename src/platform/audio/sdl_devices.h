@@ -20,6 +20,7 @@ private:
     [[nodiscard]] bool connect(bool anew);
 
     bool connected_ = false;
+    std::shared_ptr<int> open_devices_ = std::make_shared<int>(0);
 };
 
 } // namespace sonarelle

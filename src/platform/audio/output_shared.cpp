@@ -1,0 +1,26 @@
+#include "platform/audio/output_shared.h"
+
+namespace sonarelle {
+
+bool OutputShared::sleep_for(std::chrono::milliseconds time) {
+    const auto until = std::chrono::steady_clock::now() + time;
+    const MutexLock lock{mutex};
+    while (!stopping && std::chrono::steady_clock::now() < until)
+        wake.wait_until(mutex, until);
+    return !stopping;
+}
+
+bool OutputShared::sleep_until_choice(std::chrono::milliseconds time) {
+    const auto until = std::chrono::steady_clock::now() + time;
+    const MutexLock lock{mutex};
+    while (!stopping && !choice_is_new && std::chrono::steady_clock::now() < until)
+        wake.wait_until(mutex, until);
+    return !stopping;
+}
+
+void OutputShared::set_state(OutputState next) {
+    if (state.exchange(next) != next && on_change)
+        on_change(next);
+}
+
+} // namespace sonarelle

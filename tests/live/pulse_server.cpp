@@ -84,8 +84,16 @@ void PulseServer::thaw() {
     ::kill(server_, SIGCONT);
 }
 
-void PulseServer::record(const std::string& file) {
-    recorder_ = run({"parec", "-d", "air.monitor", "--format=float32le", "--rate=48000", "--channels=2", "--raw",
+void PulseServer::plug_in(const std::string& sink) const {
+    const std::string command =
+        "pactl load-module module-null-sink format=float32le rate=48000 channels=2 sink_name=" + sink +
+        " sink_properties=device.description=" + sink + " >/dev/null 2>&1";
+    if (std::system(command.c_str()) != 0)
+        throw std::runtime_error{"the sound server takes no more sinks"};
+}
+
+void PulseServer::record(const std::string& file, const std::string& sink) {
+    recorder_ = run({"parec", "-d", sink + ".monitor", "--format=float32le", "--rate=48000", "--channels=2", "--raw",
                      "--latency-msec=200"},
                     file);
     while (std::filesystem::exists(file) ? std::filesystem::file_size(file) == 0 : true)

@@ -20,8 +20,11 @@ public:
     void freeze(); ///< It hangs.
     void thaw();
 
-    /// Records what the sink plays, 48 kHz stereo floats, into `file` until `stop_recording`.
-    void record(const std::string& file);
+    /// One sink more, while the server runs; it is listed under this name.
+    void plug_in(const std::string& sink) const;
+
+    /// Records what a sink plays, 48 kHz stereo floats, into `file` until `stop_recording`.
+    void record(const std::string& file, const std::string& sink = "air");
     void stop_recording();
 
 private:

@@ -144,6 +144,22 @@ TEST_F(SoundCard, EndsWhileTheServerHangs) {
     server.thaw();
 }
 
+TEST_F(SoundCard, AnotherOneThatIsPluggedInIsTakenOnTheAir) {
+    const auto graph = live.graph(live.folder.counting_wav("a.wav", 60));
+    go_on_air();
+    live.live_until([&] { return live.last_state == OutputState::playing; });
+    live.driver.run_event([&] { graph->Run(); });
+    live.output->choose("Studio");
+    live.live_for(milliseconds(500));
+    EXPECT_EQ(live.output->playing_on(), "");
+    server.plug_in("Studio");
+    live.live_until([&] { return live.output->playing_on() == "Studio"; });
+    const auto file = live.folder.path("studio.raw");
+    server.record(file, "Studio");
+    wait_for_sound(file);
+    EXPECT_EQ(live.output->device_names().size(), 2U);
+}
+
 TEST_F(SoundCard, IsListedByName) {
     SdlDevices devices;
     EXPECT_EQ(devices.names().size(), 1U);

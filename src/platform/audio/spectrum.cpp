@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::size_t size = Spectrum::window_frames;
 constexpr double line_width = static_cast<double>(frame_rate) / static_cast<double>(size); // Hz
-constexpr float quietest = 1e-10F;                                                         // power at the floor
+constexpr std::size_t last_line = size / 2;
+constexpr float quietest = 1e-10F; // power at the floor
 
 // A Hann window halves a sine, whose line is half of its peak; both channels' powers are summed, and so are a line and
 // its mirror image, which doubles each.
@@ -89,8 +90,8 @@ void Spectrum::measure_lines() {
 // The greatest line in the band; one narrower than the lines are apart is read between its two neighbours.
 float Spectrum::level(std::size_t band) const {
     const double low = edge(static_cast<double>(band)) / line_width;
-    const double high = std::min(edge(static_cast<double>(band) + 1) / line_width, double{size / 2});
-    const double middle = std::min(centre(band) / line_width, double{size / 2 - 1});
+    const double high = std::min(edge(static_cast<double>(band) + 1) / line_width, double{last_line});
+    const double middle = std::min(centre(band) / line_width, double{last_line - 1});
     const auto below = static_cast<std::size_t>(middle);
     float greatest = std::lerp(decibels_[below], decibels_[below + 1], static_cast<float>(middle - std::floor(middle)));
     for (auto line = static_cast<std::size_t>(std::ceil(low)); static_cast<double>(line) < high; ++line)

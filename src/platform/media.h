@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/lengths_ahead.h"
 #include "platform/units.h"
 
 namespace sonarelle {
@@ -51,6 +52,10 @@ public:
 
     /// An empty graph. Dropping the last reference to it stops and frees it.
     [[nodiscard]] virtual std::shared_ptr<MediaGraph> create_graph() = 0;
+
+    /// Measures many files ahead of the one who wants their lengths; must not outlive the media. At first: each by a
+    /// graph, when its length is taken.
+    [[nodiscard]] virtual std::unique_ptr<LengthsAhead> measure_ahead();
 };
 
 } // namespace sonarelle

@@ -59,4 +59,8 @@ std::shared_ptr<MediaGraph> SilentMedia::create_graph() {
     return std::make_shared<SilentGraph>(*this);
 }
 
+std::unique_ptr<LengthsAhead> SilentMedia::measure_ahead() {
+    return opener_.measure_ahead(resolve_);
+}
+
 } // namespace sonarelle

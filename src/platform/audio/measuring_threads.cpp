@@ -1,0 +1,168 @@
+#include "platform/audio/measuring_threads.h"
+
+#include <algorithm>
+#include <deque>
+
+#include "platform/audio/sample_source.h"
+#include "platform/audio/thread_annotations.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::chrono::milliseconds patience_at_the_end{100};
+
+using Instant = std::chrono::steady_clock::time_point;
+
+MeasuredLength measure(SoundFiles& files, const std::string& path) {
+    try {
+        if (files.facts(path).is_folder)
+            throw Failure{failure_number::unplayable_file, path};
+        const auto source = open_sample_source(files.open(path), path);
+        return {static_cast<double>(source->length()) / source->rate(), {}};
+    } catch (const Failure& failure) {
+        return {0, failure};
+    }
+}
+
+} // namespace
+
+/// What the window thread and the measuring threads share. A file stands here from the asking to the taking.
+struct MeasuringThreads::Work {
+    enum class Stage { waiting, under_way, measured };
+    struct File {
+        std::string machine_path;
+        Stage stage = Stage::waiting;
+        Instant since{};
+        MeasuredLength length{};
+    };
+
+    explicit Work(std::shared_ptr<SoundFiles> sound_files) : files{std::move(sound_files)} {}
+
+    void run();
+
+    const std::shared_ptr<SoundFiles> files;
+    Mutex mutex;
+    Condition asked;
+    Condition answered;
+    std::unordered_map<std::string, File> by_path SONARELLE_GUARDED_BY(mutex); // the station's form
+    std::deque<std::string> queue SONARELLE_GUARDED_BY(mutex);
+    std::size_t running SONARELLE_GUARDED_BY(mutex) = 0;
+    bool ends SONARELLE_GUARDED_BY(mutex) = false;
+};
+
+void MeasuringThreads::Work::run() {
+    MutexLock lock{mutex};
+    while (!ends) {
+        if (queue.empty()) {
+            asked.wait(mutex);
+            continue;
+        }
+        const std::string path = std::move(queue.front());
+        queue.pop_front();
+        File& file = by_path[path];
+        if (file.stage != Stage::waiting) // asked for twice, once to be next
+            continue;
+        file.stage = Stage::under_way;
+        file.since = std::chrono::steady_clock::now();
+        const std::string machine_path = file.machine_path;
+        mutex.unlock();
+        MeasuredLength length = measure(*files, machine_path);
+        mutex.lock();
+        const auto found = by_path.find(path);
+        if (found == by_path.end() || found->second.stage != Stage::under_way)
+            continue; // given up meanwhile
+        found->second.length = std::move(length);
+        found->second.stage = Stage::measured;
+        answered.notify_all();
+    }
+    --running;
+    answered.notify_all();
+}
+
+MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, Patience patience)
+    : work_{std::make_shared<Work>(std::move(files))}, resolve_{std::move(resolve)}, patience_{patience} {
+    const unsigned count = std::max(1U, std::thread::hardware_concurrency());
+    for (unsigned thread = 0; thread < count; ++thread)
+        add_thread();
+}
+
+MeasuringThreads::~MeasuringThreads() {
+    const Instant limit = std::chrono::steady_clock::now() + patience_at_the_end;
+    bool all_ended = false;
+    {
+        MutexLock lock{work_->mutex};
+        work_->ends = true;
+        work_->asked.notify_all();
+        while (work_->running > 0 && std::chrono::steady_clock::now() < limit)
+            work_->answered.wait_until(work_->mutex, limit);
+        all_ended = work_->running == 0;
+    }
+    for (std::thread& thread : threads_)
+        all_ended ? thread.join() : thread.detach();
+}
+
+void MeasuringThreads::add_thread() {
+    {
+        const MutexLock lock{work_->mutex};
+        ++work_->running;
+    }
+    threads_.emplace_back([work = work_] { work->run(); });
+}
+
+void MeasuringThreads::want(std::string_view path) {
+    ask(path, false);
+}
+
+void MeasuringThreads::ask(std::string_view path, bool first) {
+    const std::string name{path};
+    {
+        const MutexLock lock{work_->mutex};
+        if (work_->by_path.contains(name))
+            return;
+    }
+    Work::File file;
+    try {
+        file.machine_path = resolve_(path);
+    } catch (const Failure& failure) {
+        file.stage = Work::Stage::measured;
+        file.length.failure = failure;
+    }
+    const bool to_measure = file.stage == Work::Stage::waiting;
+    const MutexLock lock{work_->mutex};
+    work_->by_path[name] = std::move(file);
+    if (!to_measure)
+        return;
+    if (first)
+        work_->queue.push_front(name);
+    else
+        work_->queue.push_back(name);
+    work_->asked.notify_one();
+}
+
+std::optional<MeasuredLength> MeasuringThreads::take(std::string_view path, std::chrono::milliseconds patience) {
+    ask(path, true);
+    const std::string name{path};
+    const Instant limit = std::chrono::steady_clock::now() + patience;
+    MeasuredLength length;
+    bool hangs = false;
+    {
+        MutexLock lock{work_->mutex};
+        Work::File& file = work_->by_path[name];
+        while (file.stage != Work::Stage::measured && std::chrono::steady_clock::now() < limit)
+            work_->answered.wait_until(work_->mutex, limit);
+        hangs = file.stage == Work::Stage::under_way && patience_ &&
+                std::chrono::steady_clock::now() - file.since > *patience_;
+        if (file.stage != Work::Stage::measured && !hangs)
+            return std::nullopt;
+        length = hangs ? MeasuredLength{0, Failure{failure_number::device_fault, name}} : std::move(file.length);
+        work_->by_path.erase(name);
+    }
+    if (hangs)
+        add_thread();
+    if (length.failure) // known to the station by its own name
+        length.failure = Failure{length.failure->number, name, length.failure->description};
+    return length;
+}
+
+} // namespace sonarelle

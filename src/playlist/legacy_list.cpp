@@ -1,13 +1,17 @@
 #include "playlist/legacy_list.h"
 
+#include <utility>
+
 #include "platform/dialogs.h"
+#include "platform/paths.h"
 #include "playlist/enreg_liste.h"
 
 namespace sonarelle {
 
 LegacyList::LegacyList(const Platform& platform, const StationSettings& settings, ListState& list,
-                       ListDocument& document, ListSaveDialog& save_dialog)
-    : platform_{platform}, settings_{settings}, list_{list}, document_{document}, save_dialog_{save_dialog} {}
+                       ListDocument& document, ListSaveDialog& save_dialog, std::function<void()> test_files)
+    : platform_{platform}, settings_{settings}, list_{list}, document_{document}, save_dialog_{save_dialog},
+      test_files_{std::move(test_files)} {}
 
 void LegacyList::A_Copen_rfm() {
     document_.run_load([this] {
@@ -25,6 +29,10 @@ void LegacyList::append_old_list(const std::string& name) {
     document_.append_records<enreg_rfm>(name);
     document_.announce_list();
     save_dialog_.A_Convertir_dfm();
+    // Until it has been saved there are no records that could be tested.
+    const bool saved = list_.fichier_liste != name && extension_of(list_.fichier_liste) == "dfm";
+    if (saved && !list_.sans_test_existence)
+        test_files_();
     document_.a_mettre_Enabled();
 }
 

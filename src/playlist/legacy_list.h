@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "platform/platform.h"
 #include "playlist/list_document.h"
 #include "playlist/list_save_dialog.h"
@@ -10,10 +13,10 @@ namespace sonarelle {
 class LegacyList {
 public:
     LegacyList(const Platform& platform, const StationSettings& settings, ListState& list, ListDocument& document,
-               ListSaveDialog& save_dialog);
+               ListSaveDialog& save_dialog, std::function<void()> test_files);
 
-    /// Appends the rows of an old list and offers it for saving in the new form. The file is asked for, unless a save
-    /// name is waiting.
+    /// Appends the rows of an old list and offers it for saving in the new form; once saved, its files are tested. The
+    /// file is asked for, unless a save name is waiting.
     void A_Copen_rfm();
 
 private:
@@ -25,6 +28,7 @@ private:
     ListState& list_;
     ListDocument& document_;
     ListSaveDialog& save_dialog_;
+    std::function<void()> test_files_;
 };
 
 } // namespace sonarelle

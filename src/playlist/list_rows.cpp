@@ -28,6 +28,11 @@ RowTable::Row row_of(const enreg_rfm& record, DecimalMark mark) {
             record.trimmed_genre(),  std::to_string(record.volume()), record.trimmed_duree_piste()};
 }
 
+RowTable::Row row_of(const DestinationRecord& record, DecimalMark mark) {
+    return {record.dest_chemin, Format(record.dest_debut, start_pattern, mark), end_cell(record.dest_fin, mark),
+            record.dest_genre,  text_of(record.dest_volume_pourcent),           std::string{trim(record.dest_duree)}};
+}
+
 void enter_program_folder(const Platform& platform) {
     platform.disk.ChDrive(platform.program_folder);
     platform.disk.ChDir(platform.program_folder);

@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "platform/row_table.h"
 #include "playlist/enreg_liste.h"
+#include "playlist/working_records.h"
 
 namespace sonarelle {
 
@@ -30,6 +31,9 @@ inline constexpr std::string_view default_list = "liste.dfm";
 /// A record as the list window shows it. An old record has no start of play: it gets "0.10", as every new row does.
 [[nodiscard]] RowTable::Row row_of(const enreg_liste& record, DecimalMark mark);
 [[nodiscard]] RowTable::Row row_of(const enreg_rfm& record, DecimalMark mark);
+
+/// The destination record as a row, with its volume in percent.
+[[nodiscard]] RowTable::Row row_of(const DestinationRecord& record, DecimalMark mark);
 
 /// Fills one field after the other from the cells of a row. `statement` runs each of the assignments, so that the
 /// caller decides what a cell that can't be converted does: stop it all, or leave the field as it is.

@@ -28,6 +28,12 @@ struct ListState {
     Flag glisser_autorise = true; ///< Rows and files may be dragged onto the list and the open buttons.
     Integer index_glisse;         ///< Record that the dragged record is read from.
 
+    Flag maj_liste_en_cours;          ///< The whole list is being measured anew.
+    std::string dossier_test;         ///< Folder of the row under test, with a backslash at its end.
+    std::string chemin_test;          ///< Path of the row under test.
+    bool sans_test_existence = false; ///< An old list that is opened isn't tested.
+    Flag edition_chemin;              ///< The path of a row may be edited in place.
+
     Flag bouton_jingle_actif; ///< What the switches of the two insertions show.
     Flag bouton_liste_actif;
     Flag volume_nul_signale; ///< The null volume warning has come since start-up.

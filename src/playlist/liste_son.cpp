@@ -18,6 +18,7 @@ std::vector<Column> list_columns() {
 Liste_son::Liste_son() : Window{"Liste_son"}, ListView1{*this, "ListView1", list_columns()} {
     Text2.visible = false;
     A_sauve.checked = true;
+    modifier_chemin_non.checked = true;
     coller.enabled = false;
     for (MenuItem* entry : entries_that_need_a_list())
         entry->enabled = false;

@@ -74,8 +74,14 @@ struct Liste_son : Window {
                                      "Modifier uniquement la lettre du lecteur sur toute la liste"};
     MenuItem a_debutpiste{*this, "a_debutpiste", "Modifier le debut piste sur toute la liste"};
     MenuItem A_Debut_piste{*this, "A_Debut_piste"};
+    MenuItem a_debutpiste_fichier{*this, "a_debutpiste_fichier", "Modifier le debut piste sur ce fichier"};
     MenuItem a_modif{*this, "a_modif", "Propriété du fichier sélectionné"};
     MenuItem Modifier_volume{*this, "Modifier_volume", "Modifier le volume sur toute la liste"};
+
+    MenuItem a_modifie_morceau{*this, "a_modifie_morceau",
+                               "Modifier ce fichier (wav ou autre si votre éditeur le permet)"};
+    MenuItem modifier_chemin{*this, "modifier_chemin", "Modifier le chemin sur la liste"};
+    MenuItem modifier_chemin_non{*this, "modifier_chemin_non", "Ne pas modifier directement , le chemin sur la liste"};
 
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }

@@ -1,5 +1,6 @@
 #include "playlist/record_reading.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "platform/paths.h"
@@ -19,21 +20,42 @@ void RecordReading::lire_enreg_destinataire() {
         return;
     if (list_.index_destinataire == 0)
         list_.index_destinataire = 1;
-    ErrorIndicator{}.skip([this] { read_destination(); });
+    ErrorIndicator{}.skip([this] {
+        take_texts(record_of_file(list_.index_destinataire.value()));
+        if (destination_.dest_volume == 0)
+            check_null_volume();
+        take_volume();
+    });
 }
 
-void RecordReading::read_destination() {
+bool RecordReading::read_record(int number) {
+    if (number <= INT16_MAX)
+        list_.index_destinataire = number;
+    destination_ = {};
+    return !list_.fichier_liste.empty() && ErrorIndicator{}.skip([&] { take(record_of_file(number)); });
+}
+
+enreg_liste RecordReading::record_of_file(int number) const {
     enreg_liste record;
-    ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(list_.index_destinataire.value(),
-                                                                               record);
+    ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(number, record);
+    return record;
+}
+
+void RecordReading::take(const enreg_liste& record) {
+    take_texts(record);
+    take_volume();
+}
+
+void RecordReading::take_texts(const enreg_liste& record) {
     destination_.dest_chemin = record.trimmed_chemin();
     destination_.dest_debut = record.debut_lecture();
     destination_.dest_fin = lower_case(record.trimmed_fin_lecture());
     destination_.dest_genre = record.trimmed_genre();
     destination_.dest_volume = record.volume();
     destination_.dest_duree = record.duree_piste();
-    if (record.volume() == 0)
-        check_null_volume();
+}
+
+void RecordReading::take_volume() {
     destination_.dest_volume_pourcent = destination_.dest_volume;
     if (destination_.dest_volume < 101)
         destination_.convertir_valeur_son();
@@ -56,8 +78,7 @@ void RecordReading::lire_enreg_dragdrop() {
 }
 
 void RecordReading::read_dragged() {
-    enreg_liste record;
-    ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(list_.index_glisse.value(), record);
+    const enreg_liste record = record_of_file(list_.index_glisse.value());
     dragged_.drop_chemin = record.trimmed_chemin();
     const std::string start = Format(record.debut_lecture(), start_pattern, platform_.decimal_mark);
     dragged_.drop_debut = to_double(start, platform_.decimal_mark);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/platform.h"
+#include "playlist/enreg_liste.h"
 #include "playlist/list_state.h"
 #include "playlist/working_records.h"
 
@@ -21,13 +22,22 @@ public:
     /// Nothing without a list; an index of 0 becomes 1.
     void lire_enreg_destinataire();
 
+    /// Any record, also behind the numbers that `index_destinataire` holds, without a warning. False when it can't be
+    /// read; the destination record is then empty.
+    bool read_record(int number);
+    /// A record that doesn't come from the file, in the same way.
+    void take(const enreg_liste& record);
+    /// Gives the null volume warning, if it hasn't come yet.
+    void check_null_volume();
+
     /// The record of the drag index into the dragged record, its volume still in percent.
     void lire_enreg_dragdrop();
 
 private:
-    void read_destination();
+    [[nodiscard]] enreg_liste record_of_file(int number) const;
     void read_dragged();
-    void check_null_volume();
+    void take_texts(const enreg_liste& record);
+    void take_volume();
 
     const Platform& platform_;
     ListState& list_;

@@ -26,9 +26,12 @@ Station::Station(const Platform& platform)
                                                                                [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
-      legacy_list{platform_, settings, list, list_document, list_save_dialog}, file_measure{platform_, list, chain},
-      journal{desk}, deck_volume{desk, [this] { list_document.charge_liste(); }}, mix_engine{desk, deck_volume},
-      deck_loading{desk, deck_volume, mix_engine}, deck_start{desk, deck_loading, deck_volume, mix_engine, journal},
+      legacy_list{platform_,     settings,         list,
+                  list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
+      file_measure{platform_, list, chain}, journal{desk}, deck_volume{desk, [this] { list_document.charge_liste(); }},
+      mix_engine{desk, deck_volume}, deck_loading{desk, deck_volume, mix_engine}, deck_start{desk, deck_loading,
+                                                                                             deck_volume, mix_engine,
+                                                                                             journal},
       deck_transport{desk, deck_loading, deck_start, deck_volume}, run_control{desk,         deck_loading, deck_start,
                                                                                deck_volume,  mix_engine,   journal,
                                                                                list_document},
@@ -45,6 +48,7 @@ Station::Station(const Platform& platform)
                   list_window,
                   record_reading,
                   [this](int deck) { load_row_on_deck(deck); }},
+      list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, file_measure, journal},
       track_properties{platform_,   settings,          list,           destination,
                        list_window, properties_window, record_reading, list_document} {
     connect_list_window();

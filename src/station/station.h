@@ -3,6 +3,7 @@
 #include "accessories/about_windows.h"
 #include "accessories/chargement.h"
 #include "accessories/err_form.h"
+#include "accessories/fsauve.h"
 #include "accessories/mini_lecteur.h"
 #include "accessories/propriete.h"
 #include "accessories/track_properties.h"
@@ -36,6 +37,7 @@
 #include "playout/run_control.h"
 #include "playout/zapping.h"
 #include "station/desk_wiring.h"
+#include "station/list_maintenance.h"
 
 namespace sonarelle {
 
@@ -83,6 +85,7 @@ public:
     Form_options options_window;
     mini_lecteur small_player;
     err_form warning_window;
+    fsauve progress_window;
     Propriete properties_window{platform_.scheduler};
     Chargement splash;
     frmAbout about_window;
@@ -110,6 +113,7 @@ public:
     ChainModes chain_modes;
     ListRun list_run;
     RowToDeck row_to_deck;
+    ListMaintenance list_maintenance;
     TrackProperties track_properties;
     DeskWiring desk_wiring{*this};
 

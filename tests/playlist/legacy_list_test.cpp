@@ -64,9 +64,11 @@ TEST_F(LegacyListTest, KeepsItsNameWhenTheSavingIsCancelled) {
 }
 
 TEST_F(LegacyListTest, IsSavedAsAListOfTheNewForm) {
+    machine.disk.put_file("C:\\a.mp3");
     machine.disk.put_file(old_list, old_record("C:\\a.mp3"));
     machine.dialogs.expect_open(old_list);
     machine.dialogs.expect_save("C:\\Listes\\vieux.dfm");
+    machine.dialogs.expect_box("Validation des fichiers terminé avec succés ", Answer::ok);
     station.list_window.A_Copen_rfm.click();
     EXPECT_EQ(machine.disk.bytes("C:\\Listes\\vieux.dfm"), bytes_of(record_of("C:\\a.mp3", "200.00", 80)));
 }
@@ -97,6 +99,7 @@ TEST_F(LegacyListTest, KeepsTheRowsReadBeforeTheDiskBroke) {
 
 TEST_F(LegacyListTest, IsNeverWritten) {
     machine.disk.put_file(old_list, old_record("a"));
+    station.list.sans_test_existence = true;
     machine.dialogs.expect_open(old_list);
     machine.dialogs.expect_save("C:\\Listes\\vieux.dfm");
     station.list_window.A_Copen_rfm.click();
@@ -129,6 +132,17 @@ TEST_F(LegacyListTest, SaysWhatIsLoaded) {
     open_old_list(old_record("a"));
     EXPECT_EQ(station.list_window.Label1.caption.get(), "Lecture en attente .. Nb : 1");
     EXPECT_EQ(station.list_window.caption.get(), "Fichier liste : C:\\Listes\\vieux.rfm");
+}
+
+TEST_F(LegacyListTest, IsTestedForMissingFilesOnceItIsSaved) {
+    machine.disk.put_file("C:\\b.mp3");
+    machine.disk.put_file(old_list, old_record("C:\\a.mp3") + old_record("C:\\b.mp3"));
+    machine.dialogs.expect_open(old_list);
+    machine.dialogs.expect_save("C:\\Listes\\vieux.dfm");
+    machine.dialogs.expect_box("C:\\a.mp3 Non trouvé ", Answer::yes);
+    machine.dialogs.expect_box("Validation des fichiers terminé avec succés ", Answer::ok);
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(rows().count(), 1);
 }
 
 TEST_F(LegacyListTest, LoadedButNotSavedIsOfferedAgain) {

@@ -1,0 +1,211 @@
+#include "playlist/list_update.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/media.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr int rows_ahead = 512;                // enough to work on while the window thread waits for its next look
+constexpr std::chrono::milliseconds a_look{5}; // far below the lead by which ticks run ahead of the sound
+
+} // namespace
+
+ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
+                       Liste_son& window, fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog,
+                       ListGuard& guard, RowReading& reading, FileMeasure& measure, ListVerification& verification)
+    : platform_{platform}, list_{list}, chain_{chain},
+      destination_{destination}, window_{window}, progress_{progress}, document_{document},
+      save_dialog_{save_dialog}, guard_{guard}, reading_{reading}, measure_{measure}, verification_{verification} {}
+
+void ListUpdate::a_mettre_a_jour() {
+    list_.volume_nul_signale = true;
+    if (window_.ListView1.count() == 0)
+        return;
+    if (!chain_.maj_depuis_ajout.is_true() && !guard_.allows(ListAction::a_mettre_a_jour))
+        return;
+    const ListWork work{guard_, window_};
+    std::optional<std::string> trouble;
+    try {
+        const KeptForTheAir kept{chain_, list_, destination_};
+        trouble = update_one_row();
+    } catch (const Failure& failure) {
+        trouble = failure.what();
+    }
+    list_.mesure_echouee = false;
+    if (trouble)
+        give_up(*trouble);
+    else
+        document_.sauve_tout();
+}
+
+// What goes wrong is told, or nothing.
+std::optional<std::string> ListUpdate::update_one_row() {
+    if (chain_.maj_depuis_ajout.is_false())
+        return update_selected_row();
+    if (!chain_.maj_depuis_ajout.is_true())
+        return std::string{};
+    update_dropped_row();
+    chain_.maj_depuis_ajout = false;
+    return std::nullopt;
+}
+
+void ListUpdate::update_dropped_row() {
+    const int row = list_.index_insertion.value();
+    measure(row);
+    if (!list_.mesure_echouee.is_true())
+        return window_.ListView1.replace(row, measured_row(destination_));
+    window_.ListView1.remove(row);
+    if (list_.ligne_en_lecture.value() > row)
+        list_.ligne_en_lecture -= 1;
+}
+
+std::optional<std::string> ListUpdate::update_selected_row() {
+    const int row = window_.ListView1.selected();
+    make_current(row);
+    measure(row);
+    if (list_.mesure_echouee.is_true())
+        return measure_.reason();
+    window_.ListView1.replace(row, measured_row(destination_));
+    return std::nullopt;
+}
+
+void ListUpdate::measure(int row) {
+    reading_.read(row);
+    list_.nom_fichier_maj = destination_.dest_chemin;
+    measure_.met_ajour();
+}
+
+void ListUpdate::give_up(const std::string& description) {
+    window_.mouse_pointer = 0;
+    platform_.dialogs.MsgBox(
+        {"Impossible de mettre a jour.  " + description, std::string{application_title}, Buttons::ok, Icon::warning});
+}
+
+void ListUpdate::a_mettre_a_jour_liste() {
+    const bool after_drop = !chain_.maj_depuis_ajout.is_false();
+    if (!after_drop && !guard_.allows(ListAction::a_mettre_a_jour_liste))
+        return;
+    list_.volume_nul_signale = true;
+    const std::string short_name{name_of_path(list_.nom_fichier)};
+    {
+        const ListWork work{guard_, window_};
+        list_.maj_liste_en_cours = true;
+        const bool begins = may_begin(after_drop);
+        if (begins)
+            update_all_rows();
+        list_.maj_liste_en_cours = false;
+        if (!begins)
+            return;
+    }
+    offer_saving(short_name);
+    window_.Label1.caption = "Nb de morceaux : " + std::to_string(window_.ListView1.count()) + " (" +
+                             std::to_string(window_.ListView1.selected()) + ")";
+}
+
+bool ListUpdate::may_begin(bool after_drop) {
+    if (window_.ListView1.count() == 0)
+        return false;
+    if (!after_drop)
+        verification_.test_all_rows();
+    return list_.maj_liste_en_cours.is_true();
+}
+
+void ListUpdate::update_all_rows() {
+    progress_.begin(window_.ListView1.count(), "Traitement en cours ......Patientez !");
+    try {
+        const auto lengths = platform_.media.measure_ahead();
+        int wanted = 0;
+        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled(); platform_.clock.yield()) {
+            for (; wanted < std::min(row + rows_ahead, window_.ListView1.count()); ++wanted)
+                lengths->want(window_.ListView1.text(wanted + 1));
+            progress_.advance(row, "Traitement en cours " + std::to_string(row) + " / " +
+                                       std::to_string(window_.ListView1.count()));
+            row = update_row(row, *lengths);
+        }
+    } catch (const Failure& failure) {
+        give_up(failure.what());
+    }
+    if (window_.ListView1.count() > 0) // the operator may have emptied it meanwhile
+        document_.sauve_tout();
+    progress_.end();
+}
+
+// Gives the row to go on with: the next one, or this one at its new place when the chain, or the operator, has changed
+// the list during the wait for its length.
+int ListUpdate::update_row(int row, LengthsAhead& lengths) {
+    DestinationRecord record;
+    {
+        const KeptForTheAir kept{chain_, list_, destination_};
+        reading_.read(row);
+        record = destination_;
+    }
+    make_current(row);
+    const RowTable::Row before = window_.ListView1.row(row);
+    const auto length = wait_for(lengths, record.dest_chemin);
+    if (!length)
+        return row;
+    if (row > window_.ListView1.count() || window_.ListView1.row(row) != before)
+        return place_of(before, row);
+    const KeptForTheAir kept{chain_, list_, destination_};
+    list_.chemin_fichier = list_.nom_fichier_maj = record.dest_chemin;
+    measure_.met_ajour(*length);
+    if (!list_.mesure_echouee.is_true())
+        window_.ListView1.replace(row, measured_row(record));
+    list_.mesure_echouee = false;
+    return row + 1;
+}
+
+/// Where a row went: in front of its old place, behind it, or away, which leaves the place to the next one.
+int ListUpdate::place_of(const RowTable::Row& wanted, int old_place) const {
+    const RowTable& rows = window_.ListView1;
+    for (int row = std::min(old_place - 1, rows.count()); row >= 1; --row)
+        if (rows.row(row) == wanted)
+            return row;
+    for (int row = old_place; row <= rows.count(); ++row)
+        if (rows.row(row) == wanted)
+            return row;
+    return old_place;
+}
+
+/// Nothing when the operator doesn't want to wait any longer.
+std::optional<MeasuredLength> ListUpdate::wait_for(LengthsAhead& lengths, const std::string& path) {
+    while (!progress_.is_cancelled()) {
+        if (auto length = lengths.take(path, a_look))
+            return length;
+        platform_.clock.yield();
+    }
+    return std::nullopt;
+}
+
+void ListUpdate::offer_saving(const std::string& short_name) {
+    if (platform_.dialogs.MsgBox({"Sauvegarder la liste ?", short_name, Buttons::yes_no, Icon::question}) ==
+        Answer::yes)
+        save_dialog_.A_enreg_sous();
+}
+
+/// Rows behind the station's 16-bit numbers are updated too; no number can name them.
+void ListUpdate::make_current(int row) {
+    if (row <= INT16_MAX)
+        list_.index_en_cours = row;
+}
+
+RowTable::Row ListUpdate::measured_row(const DestinationRecord& record) const {
+    return {record.dest_chemin,
+            Format(record.dest_debut, start_pattern, platform_.decimal_mark),
+            Format(chain_.duree_mesuree, start_pattern, platform_.decimal_mark),
+            list_.genre_lu,
+            "100",
+            chain_.duree_piste_texte};
+}
+
+} // namespace sonarelle

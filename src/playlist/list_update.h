@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "accessories/fsauve.h"
+#include "platform/lengths_ahead.h"
+#include "platform/platform.h"
+#include "playlist/file_measure.h"
+#include "playlist/list_document.h"
+#include "playlist/list_guard.h"
+#include "playlist/list_save_dialog.h"
+#include "playlist/list_state.h"
+#include "playlist/list_verification.h"
+#include "playlist/liste_son.h"
+#include "playlist/row_reading.h"
+#include "playout/chain_state.h"
+
+namespace sonarelle {
+
+/// Measures the files of the list anew. A row whose file can't be measured keeps what it has; one that was only just
+/// dropped goes.
+///
+/// The files of a whole list are measured ahead, by all processors; the window's words and the rows come one by one, in
+/// the list's order, and the station goes on between them.
+class ListUpdate {
+public:
+    ListUpdate(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
+               Liste_son& window, fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog,
+               ListGuard& guard, RowReading& reading, FileMeasure& measure, ListVerification& verification);
+
+    /// The selected row, or the row that was just dropped.
+    void a_mettre_a_jour();
+    void a_mettre_a_jour_liste();
+
+private:
+    [[nodiscard]] std::optional<std::string> update_one_row();
+    void update_dropped_row();
+    [[nodiscard]] std::optional<std::string> update_selected_row();
+    void measure(int row);
+    void give_up(const std::string& description);
+
+    [[nodiscard]] bool may_begin(bool after_drop);
+    void update_all_rows();
+    [[nodiscard]] int update_row(int row, LengthsAhead& lengths);
+    [[nodiscard]] int place_of(const RowTable::Row& wanted, int old_place) const;
+    [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);
+    void offer_saving(const std::string& short_name);
+    void make_current(int row);
+    [[nodiscard]] RowTable::Row measured_row(const DestinationRecord& record) const;
+
+    const Platform& platform_;
+    ListState& list_;
+    ChainState& chain_;
+    DestinationRecord& destination_;
+    Liste_son& window_;
+    fsauve& progress_;
+    ListDocument& document_;
+    ListSaveDialog& save_dialog_;
+    ListGuard& guard_;
+    RowReading& reading_;
+    FileMeasure& measure_;
+    ListVerification& verification_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,156 @@
+#include "playlist/list_verification.h"
+
+#include "platform/clock.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::string_view not_found = " Non trouvé ";
+
+} // namespace
+
+ListVerification::ListVerification(const Platform& platform, ListState& list, ChainState& chain,
+                                   DestinationRecord& destination, Liste_son& window, fsauve& progress,
+                                   ListDocument& document, ListGuard& guard, RowReading& reading, Journal& journal)
+    : platform_{platform}, list_{list}, chain_{chain}, destination_{destination}, window_{window}, progress_{progress},
+      document_{document}, guard_{guard}, reading_{reading}, journal_{journal} {}
+
+void ListVerification::prechar() {
+    if (!guard_.allows(ListAction::prechar))
+        return;
+    const ListWork work{guard_, window_};
+    test_all_rows();
+}
+
+void ListVerification::test_all_rows() {
+    if (window_.ListView1.count() == 0)
+        return;
+    progress_.begin(window_.ListView1.count(), progress_.Label1.caption);
+    try {
+        close(go_over_rows());
+    } catch (const Failure& failure) {
+        progress_.end();
+        list_.maj_liste_en_cours = false;
+        tell_failure(failure);
+    }
+}
+
+// A row that goes lets the next one take its number. A row that the disk gives no answer about stays.
+ListVerification::Tally ListVerification::go_over_rows() {
+    Tally tally;
+    const auto save_what_went = [&] {
+        if (tally.removed > 0)
+            document_.sauve_tout();
+    };
+    try {
+        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled(); platform_.clock.yield()) {
+            const FileFinding finding = test(row);
+            const bool there = finding.state == FileState::present || finding.state == FileState::on_network;
+            const std::string path = list_.chemin_test;
+            progress_.advance(tally.found + tally.removed + 1,
+                              there ? "fichier Ok : " + path : path + std::string{not_found});
+            if (there) {
+                ++tally.found;
+                ++row;
+                continue;
+            }
+            drop_row(row, finding);
+            ++tally.removed;
+            if (!wants_to_go_on(path))
+                break;
+        }
+    } catch (const Failure&) {
+        save_what_went();
+        throw;
+    }
+    save_what_went();
+    return tally;
+}
+
+FileFinding ListVerification::test(int row) {
+    {
+        const KeptForTheAir kept{chain_, list_, destination_};
+        reading_.read(row);
+        list_.chemin_test = trim(destination_.dest_chemin);
+    }
+    reading_.warn_of_null_volume();
+    FileFinding finding = look_for_file(platform_.disk, list_.chemin_test);
+    list_.dossier_test = finding.folder;
+    return finding;
+}
+
+void ListVerification::drop_row(int row, const FileFinding& finding) {
+    const std::string when = " - " + date_text(platform_) + " " + time_text(platform_);
+    journal_.note(finding.state == FileState::folder_missing ? "Dossier manquant : " + finding.folder + when
+                                                             : "fichier manquant : " + list_.chemin_test + when);
+    window_.ListView1.remove(row);
+    keep_playing_row_in_step(row);
+}
+
+void ListVerification::keep_playing_row_in_step(int removed_row) {
+    if (list_.ligne_en_lecture.value() > removed_row)
+        list_.ligne_en_lecture -= 1;
+}
+
+bool ListVerification::wants_to_go_on(const std::string& what) {
+    const MessageBox question{what + std::string{not_found} + "\nElément supprimé de la liste\nContinuez...",
+                              std::string{application_title}, Buttons::yes_no, Icon::warning};
+    return platform_.dialogs.MsgBox(question) == Answer::yes;
+}
+
+// The update goes on by itself, so it gets no box but the one that ends it.
+void ListVerification::close(const Tally& tally) {
+    const bool cancelled = progress_.is_cancelled();
+    const bool for_update = list_.maj_liste_en_cours.is_true();
+    if (for_update && cancelled)
+        list_.maj_liste_en_cours = false;
+    if (cancelled)
+        return;
+    if (for_update && tally.found > 0) {
+        progress_.Label1.caption = "Validation des fichiers terminé avec succés ";
+        return;
+    }
+    progress_.end();
+    if (for_update) {
+        tell("Aucun fichier de trouvé !", Icon::warning);
+        list_.maj_liste_en_cours = false;
+    } else if (tally.found > 0) {
+        tell("Validation des fichiers terminé avec succés ", Icon::information);
+    } else {
+        tell("Mise a jour annulé/ aucun fichier de trouvé", Icon::information);
+    }
+}
+
+void ListVerification::prechar_fich() {
+    if (!guard_.allows(ListAction::prechar_fich))
+        return;
+    const ListWork work{guard_, window_};
+    const int row = window_.ListView1.selected();
+    if (row == 0)
+        return;
+    try {
+        const FileFinding finding = test(row);
+        const std::string path = list_.chemin_test;
+        if (finding.state == FileState::present || finding.state == FileState::on_network)
+            return tell("Fichier : " + path + " Ok ", Icon::information);
+        drop_row(row, finding);
+        const bool folder = finding.state == FileState::folder_missing;
+        static_cast<void>(wants_to_go_on(folder ? "Dossier : " + finding.folder : path));
+        document_.sauve_tout();
+    } catch (const Failure& failure) {
+        tell_failure(failure);
+    }
+}
+
+void ListVerification::tell_failure(const Failure& failure) {
+    tell(" err N° " + std::to_string(failure.number) + " " + failure.what(), Icon::stop);
+}
+
+void ListVerification::tell(const std::string& text, Icon icon) {
+    platform_.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, icon});
+}
+
+} // namespace sonarelle

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+
+#include "accessories/fsauve.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "playlist/file_existence.h"
+#include "playlist/list_document.h"
+#include "playlist/list_guard.h"
+#include "playlist/list_state.h"
+#include "playlist/liste_son.h"
+#include "playlist/row_reading.h"
+#include "playout/chain_state.h"
+#include "playout/journal.h"
+
+namespace sonarelle {
+
+/// Looks whether the files of the list are there, and takes those that aren't out of it.
+class ListVerification {
+public:
+    ListVerification(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
+                     Liste_son& window, fsauve& progress, ListDocument& document, ListGuard& guard, RowReading& reading,
+                     Journal& journal);
+
+    /// Tests every row, as its own action.
+    void prechar();
+    /// Tests the selected row.
+    void prechar_fich();
+    /// Tests every row for the update of the list, which it stops, by `maj_liste_en_cours`, when no file was found.
+    void test_all_rows();
+
+private:
+    struct Tally {
+        int found = 0;
+        int removed = 0;
+    };
+
+    [[nodiscard]] Tally go_over_rows();
+    [[nodiscard]] FileFinding test(int row);
+    void drop_row(int row, const FileFinding& finding);
+    void keep_playing_row_in_step(int removed_row);
+    [[nodiscard]] bool wants_to_go_on(const std::string& what);
+    void close(const Tally& tally);
+    void tell_failure(const Failure& failure);
+    void tell(const std::string& text, Icon icon);
+
+    const Platform& platform_;
+    ListState& list_;
+    ChainState& chain_;
+    DestinationRecord& destination_;
+    Liste_son& window_;
+    fsauve& progress_;
+    ListDocument& document_;
+    ListGuard& guard_;
+    RowReading& reading_;
+    Journal& journal_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,146 @@
+#include "playlist/row_changes.h"
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// As the record will hold it. @throws Failure 5 for a character that it can't.
+std::string path_of_record(const std::string& path) {
+    enreg_liste record;
+    record.set_chemin(path);
+    return record.trimmed_chemin();
+}
+
+} // namespace
+
+RowChanges::RowChanges(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
+                       Liste_son& window, ListDocument& document, ListGuard& guard, RowReading& reading)
+    : platform_{platform}, list_{list}, chain_{chain},
+      destination_{destination}, window_{window}, document_{document}, guard_{guard}, reading_{reading} {}
+
+void RowChanges::Modifier_lettre_lecteur() {
+    const ListActionRow& action = list_action(ListAction::Modifier_lettre_lecteur);
+    if (!confirms(action))
+        return;
+    under_trap(
+        [&] {
+            const std::string letter{left(first_row()[list_column::path], 1)};
+            const std::string answer = ask(action, letter);
+            if (answer.empty())
+                return;
+            change_all_rows([&answer](RowTable::Row& row) {
+                row[list_column::path] = path_of_record(answer + std::string{mid(row[list_column::path], 2)});
+                row[list_column::volume] = "100";
+            });
+        },
+        "");
+}
+
+void RowChanges::Modifier_volume() {
+    const ListActionRow& action = list_action(ListAction::Modifier_volume);
+    if (!confirms(action))
+        return;
+    under_trap(
+        [&] {
+            const std::string answer = ask(action, first_row()[list_column::volume]);
+            if (!answer.empty())
+                change_all_rows([&answer](RowTable::Row& row) { row[list_column::volume] = answer; });
+        },
+        "");
+}
+
+void RowChanges::a_debutpiste() {
+    change_start(ListAction::a_debutpiste, window_.a_debutpiste);
+}
+
+void RowChanges::a_debutpiste_fichier() {
+    change_start(ListAction::a_debutpiste_fichier, window_.a_debutpiste_fichier);
+}
+
+void RowChanges::change_start(ListAction which, MenuItem& entry) {
+    const ListActionRow& action = list_action(which);
+    if (!confirms(action))
+        return;
+    under_trap(
+        [&] {
+            const std::string answer = ask(action);
+            if (answer.empty())
+                return;
+            const std::string start =
+                Format(to_double(answer, platform_.decimal_mark), start_pattern, platform_.decimal_mark);
+            const auto change = [&start, this](RowTable::Row& row) {
+                destination_.convertir_valeur_son_ecriture();
+                row[list_column::start] = start;
+                row[list_column::end] = destination_.dest_fin;
+                row[list_column::volume] = text_of(destination_.dest_volume);
+            };
+            if (which == ListAction::a_debutpiste) {
+                change_all_rows(change);
+            } else {
+                change_row(window_.ListView1.selected(), change);
+                document_.sauve_tout();
+            }
+            entry.caption = std::string{action.caption_of_value} + start;
+        },
+        " erreur ");
+}
+
+// The box of an empty list would have nothing to change.
+bool RowChanges::confirms(const ListActionRow& action) {
+    if (!guard_.allows(action.action) || window_.ListView1.count() == 0)
+        return false;
+    if (action.question.empty())
+        return true;
+    const MessageBox question{std::string{action.question}, std::string{application_title}, Buttons::yes_no,
+                              Icon::question};
+    return platform_.dialogs.MsgBox(question) == Answer::yes;
+}
+
+std::string RowChanges::ask(const ListActionRow& action, const std::string& first_value) {
+    std::string prompt{action.input_prompt};
+    if (action.tells_first_row)
+        prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(window_.ListView1.count()) + ")";
+    return platform_.dialogs.InputBox({prompt, std::string{action.input_title}, std::string{action.input_preset}});
+}
+
+RowTable::Row RowChanges::first_row() {
+    const KeptForTheAir kept{chain_, list_, destination_};
+    reading_.read(1);
+    return row_of(destination_, platform_.decimal_mark);
+}
+
+void RowChanges::change_all_rows(const Change& change) {
+    const ListWork work{guard_, window_};
+    for (int row = 1; row <= window_.ListView1.count(); ++row) {
+        change_row(row, change);
+        reading_.warn_of_null_volume();
+        platform_.clock.yield();
+    }
+    if (window_.ListView1.count() > 0) // the operator may have emptied it meanwhile
+        document_.sauve_tout();
+}
+
+void RowChanges::change_row(int row, const Change& change) {
+    const KeptForTheAir kept{chain_, list_, destination_};
+    reading_.read(row);
+    RowTable::Row changed = row_of(destination_, platform_.decimal_mark);
+    change(changed);
+    window_.ListView1.replace(row, std::move(changed));
+}
+
+void RowChanges::under_trap(const std::function<void()>& statements, const char* last_words) {
+    try {
+        statements();
+    } catch (const Failure& failure) {
+        platform_.dialogs.MsgBox(
+            {failure.what() + std::string{last_words}, std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+} // namespace sonarelle

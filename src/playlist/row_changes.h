@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/platform.h"
+#include "playlist/list_document.h"
+#include "playlist/list_guard.h"
+#include "playlist/list_state.h"
+#include "playlist/liste_son.h"
+#include "playlist/row_reading.h"
+#include "playout/chain_state.h"
+
+namespace sonarelle {
+
+/// Changes one value of all rows, or of the selected one, to what the operator enters.
+class RowChanges {
+public:
+    RowChanges(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
+               Liste_son& window, ListDocument& document, ListGuard& guard, RowReading& reading);
+
+    /// The drive of every path becomes the answer, whatever its length; the volumes go back to 100.
+    void Modifier_lettre_lecteur();
+    /// The answer is taken as it stands, also where no deck has a volume for it.
+    void Modifier_volume();
+    void a_debutpiste();
+    void a_debutpiste_fichier();
+
+private:
+    using Change = std::function<void(RowTable::Row& row)>;
+
+    [[nodiscard]] bool confirms(const ListActionRow& action);
+    [[nodiscard]] std::string ask(const ListActionRow& action, const std::string& first_value = {});
+    [[nodiscard]] RowTable::Row first_row();
+    void change_all_rows(const Change& change);
+    void change_row(int row, const Change& change);
+    void change_start(ListAction action, MenuItem& entry);
+    void under_trap(const std::function<void()>& statements, const char* last_words);
+
+    const Platform& platform_;
+    ListState& list_;
+    ChainState& chain_;
+    DestinationRecord& destination_;
+    Liste_son& window_;
+    ListDocument& document_;
+    ListGuard& guard_;
+    RowReading& reading_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,37 @@
+#include "playlist/row_reading.h"
+
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+void RowReading::read(int row) {
+    const RowTable::Row& shown = window_.ListView1.row(row);
+    if (!reading_.read_record(row) || destination_.dest_chemin != shown[list_column::path]) {
+        enreg_liste record;
+        ErrorIndicator cells;
+        fill_record(record, shown, platform_.decimal_mark, [&cells](auto&& statement) { cells.skip(statement); });
+        reading_.take(record);
+    }
+    null_volume_ |= destination_.dest_volume_pourcent == 0;
+}
+
+void RowReading::warn_of_null_volume() {
+    if (null_volume_)
+        reading_.check_null_volume();
+    null_volume_ = false;
+}
+
+KeptForTheAir::KeptForTheAir(ChainState& chain, ListState& list, DestinationRecord& destination)
+    : chain_{chain}, list_{list}, destination_{destination}, kept_{destination}, chemin_fichier_{list.chemin_fichier},
+      duree_piste_texte_{chain.duree_piste_texte}, duree_mesuree_{chain.duree_mesuree} {}
+
+KeptForTheAir::~KeptForTheAir() {
+    if (chain_.lecteur_en_cours == 0)
+        return;
+    destination_ = kept_;
+    list_.chemin_fichier = chemin_fichier_;
+    chain_.duree_piste_texte = duree_piste_texte_;
+    chain_.duree_mesuree = duree_mesuree_;
+}
+
+} // namespace sonarelle

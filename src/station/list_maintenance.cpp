@@ -1,0 +1,38 @@
+#include "station/list_maintenance.h"
+
+#include "playout/desk.h"
+
+namespace sonarelle {
+
+ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
+                                 ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal)
+    : guard{desk.platform, desk.list, desk.list_window}, row_reading{desk.platform, desk.destination, desk.list_window,
+                                                                     record_reading},
+      verification{desk.platform, desk.list, desk.chain, desk.destination, desk.list_window,
+                   progress,      document,  guard,      row_reading,      journal},
+      changes{desk.platform, desk.list, desk.chain, desk.destination, desk.list_window, document, guard, row_reading},
+      update{desk.platform, desk.list,   desk.chain, desk.destination, desk.list_window, progress,
+             document,      save_dialog, guard,      row_reading,      measure,          verification},
+      editor{desk.platform,    desk.settings,    desk.list, desk.chain,
+             desk.destination, desk.list_window, guard,     row_reading},
+      path_editing{desk.list, desk.list_window, document} {
+    connect(desk.list_window);
+}
+
+void ListMaintenance::connect(Liste_son& window) {
+    window.prechar.on_click = [this] { verification.prechar(); };
+    window.prechar_fich.on_click = [this] { verification.prechar_fich(); };
+    window.Modifier_lettre_lecteur.on_click = [this] { changes.Modifier_lettre_lecteur(); };
+    window.Modifier_volume.on_click = [this] { changes.Modifier_volume(); };
+    window.a_debutpiste.on_click = [this] { changes.a_debutpiste(); };
+    window.a_debutpiste_fichier.on_click = [this] { changes.a_debutpiste_fichier(); };
+    window.a_mettre_a_jour.on_click = [this] { update.a_mettre_a_jour(); };
+    window.a_mettre_a_jour_liste.on_click = [this] { update.a_mettre_a_jour_liste(); };
+    window.a_modifie_morceau.on_click = [this] { editor.a_modifie_morceau(); };
+    window.modifier_chemin.on_click = [this] { path_editing.modifier_chemin(); };
+    window.modifier_chemin_non.on_click = [this] { path_editing.modifier_chemin_non(); };
+    window.ListView1.on_click = [this] { path_editing.follow(); };
+    window.ListView1.on_label_edited = [this] { path_editing.label_edited(); };
+}
+
+} // namespace sonarelle

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "accessories/fsauve.h"
+#include "configuration/station_settings.h"
+#include "platform/platform.h"
+#include "playlist/audio_editor.h"
+#include "playlist/list_guard.h"
+#include "playlist/list_update.h"
+#include "playlist/list_verification.h"
+#include "playlist/path_editing.h"
+#include "playlist/row_changes.h"
+#include "playlist/row_reading.h"
+
+namespace sonarelle {
+
+struct Desk;
+
+/// The actions that go over the rows of the list, and their menu entries.
+class ListMaintenance {
+public:
+    ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
+                    ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal);
+
+    ListGuard guard;
+    RowReading row_reading;
+    ListVerification verification;
+    RowChanges changes;
+    ListUpdate update;
+    AudioEditor editor;
+    PathEditing path_editing;
+
+private:
+    void connect(Liste_son& window);
+};
+
+} // namespace sonarelle

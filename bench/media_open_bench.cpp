@@ -85,7 +85,7 @@ void open_as_a_deck(benchmark::State& state) {
     double duration = 0;
     for (auto _ : state)
         times.time([&] {
-            FileOpener opener{files, std::chrono::milliseconds{2000}}; // a new one knows no lengths
+            FileOpener opener{files, DiskPatience{station_patience}}; // a new one knows no lengths
             auto file = opener.open(path);
             duration = file.seconds;
             benchmark::DoNotOptimize(file.opening.data());

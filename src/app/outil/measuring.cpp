@@ -12,7 +12,7 @@
 namespace sonarelle {
 
 Measuring::Measuring(Machine& machine)
-    : machine_{machine}, disk_{machine.drives()}, opener_{std::make_shared<MachineFiles>(), std::nullopt} {}
+    : machine_{machine}, disk_{machine.drives()}, opener_{std::make_shared<MachineFiles>(), DiskPatience{}} {}
 
 Measure Measuring::measure(const std::string& file) {
     Measure measure;

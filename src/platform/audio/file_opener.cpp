@@ -3,7 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "platform/audio/measuring_threads.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -40,17 +39,12 @@ PreparedFile visit(SoundFiles& files, const std::string& path, std::optional<Pre
 // The decoder goes along, so that one that is stuck takes nothing of ours with it. Everything is asked for at once:
 // each change of threads may cost a few milliseconds.
 PreparedFile FileOpener::open(const std::string& path) {
-    PreparedFile file =
-        with_patience(patience_, path,
-                      [files = files_, path, prepared = prepared_.take(path), known = lengths_.find(path)]() mutable {
-                          return visit(*files, path, std::move(prepared), known);
-                      });
+    PreparedFile file = patience_.run(
+        path, path, [files = files_, path, prepared = prepared_.take(path), known = lengths_.find(path)]() mutable {
+            return visit(*files, path, std::move(prepared), known);
+        });
     lengths_.keep(path, {file.facts, file.seconds});
     return file;
-}
-
-std::unique_ptr<LengthsAhead> FileOpener::measure_ahead(std::function<std::string(std::string_view)> resolve) const {
-    return std::make_unique<MeasuringThreads>(files_, std::move(resolve), patience_);
 }
 
 } // namespace sonarelle

@@ -8,7 +8,6 @@ namespace sonarelle {
 
 namespace {
 
-constexpr std::chrono::milliseconds patience_with_disks{2000};
 constexpr Frames quiet_after_trouble = milliseconds(100);
 constexpr std::size_t live_stream_frames = std::size_t{4 * frame_rate};
 constexpr std::size_t inline_stream_frames = 16384; // small enough for the processor's cache
@@ -19,11 +18,12 @@ static_assert(inline_stream_frames >= SoundMedia::rendered_at_once + ramp_frames
 SoundMedia::SoundMedia(Clock& clock, ProgrammeBus& bus, std::shared_ptr<SoundFiles> files, Resolve resolve,
                        Decoding decoding)
     : clock_{clock}, bus_{bus}, resolve_{std::move(resolve)}, decoding_{decoding},
-      opener_{std::move(files), decoding == Decoding::by_threads ? Patience{patience_with_disks} : Patience{}} {}
+      opener_{std::move(files), DiskPatience{decoding == Decoding::by_threads ? DiskPatience::Limit{station_patience}
+                                                                              : DiskPatience::Limit{}}} {}
 
 // A thread that hangs in a dead disk is left behind with all that it uses; the others end now.
 SoundMedia::~SoundMedia() {
-    const auto limit = std::chrono::steady_clock::now() + patience_with_disks;
+    const auto limit = std::chrono::steady_clock::now() + station_patience;
     for (Worker& worker : workers_) {
         worker.feeder->close(0);
         while (worker.thread.joinable() && !worker.feeder->has_ended() && std::chrono::steady_clock::now() < limit)
@@ -39,10 +39,6 @@ SoundMedia::~SoundMedia() {
 
 std::shared_ptr<MediaGraph> SoundMedia::create_graph() {
     return std::make_shared<SoundGraph>(*this);
-}
-
-std::unique_ptr<LengthsAhead> SoundMedia::measure_ahead() {
-    return opener_.measure_ahead(resolve_);
 }
 
 void SoundMedia::housekeep() {

@@ -8,6 +8,7 @@
 
 #include "platform/failure.h"
 #include "platform/host/file_times.h"
+#include "platform/host/host_disk_look.h"
 #include "platform/host/host_errors.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -33,20 +34,20 @@ std::string folder_part(const std::string& machine_path) {
 
 } // namespace
 
-NameLookup::Place HostDisk::look_up(const std::string& absolute_path) const {
+HostDisk::Wanted HostDisk::wanted(const std::string& absolute_path) const {
     check_path(absolute_path);
     const PathParts parts = parts_of(absolute_path);
     std::string root = drives_.machine_path(absolute_path);
     root.resize(root.size() - (absolute_path.size() - parts.drive.size()));
-    return lookup_.find(root.substr(0, root.find_last_not_of('/') + 1), parts.names, absolute_path);
+    return {root.substr(0, root.find_last_not_of('/') + 1), parts.names, absolute_path};
 }
 
 HostDisk::Place HostDisk::place_of(std::string_view path) const {
-    const std::string wanted = absolute(path);
-    NameLookup::Place found = look_up(wanted);
+    const Wanted name = wanted(absolute(path));
+    NameLookup::Place found = lookup_->find(name.base, name.names, name.source);
     if (found.outcome == Outcome::folder_missing)
-        throw Failure{failure_number::path_not_found, wanted};
-    return {wanted, std::move(found.path), found.outcome == Outcome::present};
+        throw Failure{failure_number::path_not_found, name.source};
+    return {name.source, std::move(found.path), found.outcome == Outcome::present};
 }
 
 HostDisk::Place HostDisk::existing(std::string_view path, int number_when_missing) const {
@@ -57,7 +58,11 @@ HostDisk::Place HostDisk::existing(std::string_view path, int number_when_missin
 }
 
 std::string HostDisk::machine_path(std::string_view path) const {
-    return existing(path, failure_number::file_not_found).path;
+    const std::string name = absolute(path);
+    return look(name, [name](const NameLookup::Place& found) {
+        check_found(found, name);
+        return found.path;
+    });
 }
 
 void HostDisk::ChDrive(std::string_view path) {
@@ -65,7 +70,7 @@ void HostDisk::ChDrive(std::string_view path) {
         return;
     const char letter = drive_letter_of(path);
     try {
-        static_cast<void>(place_of(std::string{letter} + ":\\"));
+        look(std::string{letter} + ":\\", [](const NameLookup::Place&) {});
     } catch (const Failure& failure) {
         throw Failure{failure.number, std::string{path}};
     }
@@ -73,20 +78,26 @@ void HostDisk::ChDrive(std::string_view path) {
 }
 
 void HostDisk::ChDir(std::string_view folder) {
-    const Place place = existing(folder, failure_number::path_not_found);
-    struct stat kind {};
-    if (::stat(place.path.c_str(), &kind) != 0 || !S_ISDIR(kind.st_mode))
-        throw Failure{failure_number::path_not_found, place.source};
-    working_.set_folder(place.source);
+    const std::string name = absolute(folder);
+    const bool is_folder = look(name, [](const NameLookup::Place& found) {
+        struct stat kind {};
+        return found.outcome == Outcome::present && ::stat(found.path.c_str(), &kind) == 0 && S_ISDIR(kind.st_mode);
+    });
+    if (!is_folder)
+        throw Failure{failure_number::path_not_found, name};
+    working_.set_folder(name);
 }
 
 FileFacts HostDisk::facts(std::string_view path) {
-    const Place place = existing(path, failure_number::file_not_found);
-    struct stat facts {};
-    if (::stat(place.path.c_str(), &facts) != 0)
-        throw_errno(Access::reading, place.source);
-    const bool is_folder = S_ISDIR(facts.st_mode);
-    return {is_folder ? 0 : facts.st_size, nanoseconds(facts.st_mtim), is_folder};
+    const std::string name = absolute(path);
+    return look(name, [name](const NameLookup::Place& found) -> FileFacts {
+        check_found(found, name);
+        struct stat facts {};
+        if (::stat(found.path.c_str(), &facts) != 0)
+            throw_errno(Access::reading, name);
+        const bool is_folder = S_ISDIR(facts.st_mode);
+        return {is_folder ? 0 : facts.st_size, nanoseconds(facts.st_mtim), is_folder};
+    });
 }
 
 /// A write-protected file stays, though its folder would let it go; a link goes by itself.

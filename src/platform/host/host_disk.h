@@ -1,9 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/disk.h"
+#include "platform/disk_patience.h"
 #include "platform/drive_table.h"
 #include "platform/host/name_lookup.h"
 #include "platform/working_folders.h"
@@ -15,8 +18,12 @@ namespace sonarelle {
 /// with * or ? finds it only when hidden ones are asked for.
 class HostDisk : public Disk {
 public:
-    /// The table is the caller's and outlives the disk; a change in it holds from the next call on.
-    explicit HostDisk(const DriveTable& drives) : drives_{drives} {}
+    /// The table is the caller's and outlives the disk; a change in it holds from the next call on. Looks (`ChDrive`,
+    /// `ChDir`, `Dir`, `facts`, `machine_path`) and openings for reading wait as long as the patience says, then they
+    /// are Failure 57; at first, and for what changes a disk, they wait for ever.
+    explicit HostDisk(const DriveTable& drives,
+                      std::shared_ptr<DiskPatience> patience = std::make_shared<DiskPatience>())
+        : drives_{drives}, patience_{std::move(patience)} {}
 
     using Disk::Dir;
 
@@ -55,16 +62,28 @@ private:
         bool exists = false;
     };
 
+    /// What a look asks for, apart from the disk: a look that isn't answered outlives it.
+    struct Wanted {
+        std::string base; ///< The drive's folder on this machine.
+        std::vector<std::string> names;
+        std::string source;
+    };
+
+    [[nodiscard]] Wanted wanted(const std::string& absolute_path) const;
+    /// Looks for the path, and gives what `use` makes of the place found.
+    template <typename Use>
+    auto look(const std::string& absolute_path, Use use) const;
+
     /// For a name that may be new, in a folder that must be there.
     [[nodiscard]] Place place_of(std::string_view path) const;
     [[nodiscard]] Place existing(std::string_view path, int number_when_missing) const;
-    [[nodiscard]] NameLookup::Place look_up(const std::string& absolute_path) const;
 
     [[nodiscard]] std::vector<std::string> matches(const PathPattern& pattern, FileAttributes attributes) const;
     static void remove_file(const Place& place);
 
     const DriveTable& drives_;
-    NameLookup lookup_;
+    std::shared_ptr<DiskPatience> patience_;
+    std::shared_ptr<const NameLookup> lookup_ = std::make_shared<NameLookup>();
     WorkingFolders working_;
     std::vector<std::string> listing_; // what Dir() has yet to give, the next one last
 };

@@ -5,6 +5,7 @@
 
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
+#include "platform/host/host_disk_look.h"
 #include "platform/host/host_errors.h"
 #include "platform/paths.h"
 #include "platform/text.h"
@@ -47,6 +48,25 @@ void sort_backwards(std::vector<std::string>& names) {
     std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
 }
 
+/// What a folder holds that fits the pattern.
+std::vector<std::string> listed(const NameLookup::Place& folder, const PathPattern& pattern,
+                                FileAttributes attributes) {
+    std::vector<std::string> names;
+    if (folder.outcome != NameLookup::Outcome::present)
+        return names;
+    const auto take = [&](std::string_view name, unsigned char told) {
+        const bool hidden = name.starts_with('.') && !has(attributes, FileAttributes::hidden);
+        if (name != "." && name != ".." && !hidden && matches_pattern(name, pattern.name) && can_be_named(name) &&
+            is_wanted(kind_of(folder.path, name, told), attributes))
+            names.emplace_back(name);
+        return true;
+    };
+    if (!for_each_name(folder.path, take) && errno != ENOTDIR && errno != ENOENT)
+        throw_errno(Access::reading, pattern.folder);
+    sort_backwards(names);
+    return names;
+}
+
 } // namespace
 
 std::string HostDisk::Dir(std::string_view pattern, FileAttributes attributes) {
@@ -70,27 +90,16 @@ std::string HostDisk::Dir() {
 
 std::vector<std::string> HostDisk::matches(const PathPattern& pattern, FileAttributes attributes) const {
     const bool leads_elsewhere = pattern.name == "." || pattern.name == "..";
-    if (pattern.is_one_name() && !leads_elsewhere) {
-        const NameLookup::Place place = look_up(join_path(pattern.folder, pattern.name));
-        if (place.outcome != Outcome::present || !is_wanted(kind_of(place.path), attributes))
-            return {};
-        return {place.path.substr(place.path.rfind('/') + 1)};
-    }
-    const NameLookup::Place folder = look_up(pattern.folder);
-    std::vector<std::string> names;
-    if (folder.outcome != Outcome::present)
+    if (!pattern.is_one_name() || leads_elsewhere)
+        return look(pattern.folder, [pattern, attributes](const NameLookup::Place& folder) {
+            return listed(folder, pattern, attributes);
+        });
+    return look(join_path(pattern.folder, pattern.name), [attributes](const NameLookup::Place& place) {
+        std::vector<std::string> names;
+        if (place.outcome == Outcome::present && is_wanted(kind_of(place.path), attributes))
+            names.push_back(place.path.substr(place.path.rfind('/') + 1));
         return names;
-    const auto take = [&](std::string_view name, unsigned char told) {
-        const bool hidden = name.starts_with('.') && !has(attributes, FileAttributes::hidden);
-        if (name != "." && name != ".." && !hidden && matches_pattern(name, pattern.name) && can_be_named(name) &&
-            is_wanted(kind_of(folder.path, name, told), attributes))
-            names.emplace_back(name);
-        return true;
-    };
-    if (!for_each_name(folder.path, take) && errno != ENOTDIR && errno != ENOENT)
-        throw_errno(Access::reading, pattern.folder);
-    sort_backwards(names);
-    return names;
+    });
 }
 
 void HostDisk::Kill(std::string_view path) {

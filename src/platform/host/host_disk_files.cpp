@@ -5,6 +5,7 @@
 
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
+#include "platform/host/host_disk_look.h"
 #include "platform/host/host_errors.h"
 #include "platform/host/host_record_file.h"
 #include "platform/host/machine_files.h"
@@ -71,16 +72,23 @@ void HostDisk::FileCopy(std::string_view from, std::string_view to) {
 }
 
 std::unique_ptr<RecordFile> HostDisk::open(std::string_view path) {
-    const Place place = existing(path, failure_number::file_not_found);
-    return open_machine_file(place.path, place.source);
+    const std::string name = absolute(path);
+    return look(name, [name](const NameLookup::Place& found) {
+        check_found(found, name);
+        return open_machine_file(found.path, name);
+    });
 }
 
 std::unique_ptr<RecordFile> HostDisk::open_or_create(std::string_view path) {
-    const Place place = place_of(path);
-    struct stat facts {};
-    if (::stat(place.path.c_str(), &facts) != 0 && errno == ENOENT) // a link may be there and lead to nothing
-        static_cast<void>(open_plain(place.path, O_WRONLY | O_CREAT, Access::writing, place.source));
-    return open_machine_file(place.path, place.source);
+    const std::string name = absolute(path);
+    return look(name, [name](const NameLookup::Place& found) {
+        if (found.outcome == Outcome::folder_missing)
+            throw Failure{failure_number::path_not_found, name};
+        struct stat facts {};
+        if (::stat(found.path.c_str(), &facts) != 0 && errno == ENOENT) // a link may be there and lead to nothing
+            static_cast<void>(open_plain(found.path, O_WRONLY | O_CREAT, Access::writing, name));
+        return open_machine_file(found.path, name);
+    });
 }
 
 std::unique_ptr<FileReplacement> HostDisk::replace(std::string_view path) {

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+/// How long a station on the air waits for a disk.
+inline constexpr std::chrono::milliseconds station_patience{2000};
+
+/// Waits for disks that may be dead, such as a network share whose server is gone, for a limited time. What hasn't
+/// answered is left behind on a thread of its own and remembered: until it returns, whatever else lies on the same
+/// mount fails at once, so that a dead disk costs one wait and one thread. From the window thread.
+class DiskPatience {
+public:
+    using Limit = std::optional<std::chrono::milliseconds>;
+
+    /// Without a limit the window thread waits itself, for ever. The mount table is the system's, or another file of
+    /// its form.
+    explicit DiskPatience(Limit limit = {}, std::string mount_table = "/proc/self/mountinfo")
+        : limit_{limit}, mount_table_{std::move(mount_table)} {}
+
+    /// Runs `work`, which asks for an absolute path of this machine, and gives its result. The work must own all that
+    /// it uses: it may outlive everything else.
+    /// @throws what the work throws, and Failure 57 about `source` when the disk doesn't answer.
+    template <typename Work>
+    auto run(const std::string& machine_path, const std::string& source, Work work) {
+        if (!limit_)
+            return work();
+        if (is_silent(machine_path))
+            throw Failure{failure_number::device_fault, source};
+        auto returned = std::make_shared<std::atomic<bool>>(false);
+        std::packaged_task<decltype(work())()> task{std::move(work)};
+        auto result = task.get_future();
+        std::thread{[task = std::move(task), returned]() mutable {
+            task();
+            *returned = true;
+        }}.detach();
+        if (result.wait_for(*limit_) != std::future_status::ready) {
+            remember(machine_path, std::move(returned));
+            throw Failure{failure_number::device_fault, source};
+        }
+        return result.get();
+    }
+
+private:
+    struct Silent {
+        std::string folder;
+        std::shared_ptr<std::atomic<bool>> returned;
+    };
+
+    [[nodiscard]] bool is_silent(const std::string& machine_path);
+    void remember(const std::string& machine_path, std::shared_ptr<std::atomic<bool>> returned);
+
+    Limit limit_;
+    std::string mount_table_;
+    std::vector<Silent> silent_;
+};
+
+} // namespace sonarelle

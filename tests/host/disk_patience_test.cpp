@@ -1,0 +1,202 @@
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <fstream>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+#include "disk_bench.h"
+#include "platform/disk_patience.h"
+
+namespace sonarelle {
+namespace {
+
+// A mount whose server is gone; whoever asks it waits until it comes back.
+class DeadMount {
+public:
+    void come_back() {
+        const std::lock_guard lock{mutex_};
+        dead_ = false;
+        change_.notify_all();
+    }
+    void ask() {
+        std::unique_lock lock{mutex_};
+        ++asked_;
+        change_.wait(lock, [this] { return !dead_; });
+    }
+    [[nodiscard]] int asked() {
+        const std::lock_guard lock{mutex_};
+        return asked_;
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable change_;
+    bool dead_ = true;
+    int asked_ = 0;
+};
+
+class DiskPatienceTest : public testing::Test {
+protected:
+    ~DiskPatienceTest() override { mount->come_back(); }
+
+    /// A system whose disks are mounted at these places.
+    void mount_at(const std::vector<std::string>& places) {
+        for (const std::string& place : places)
+            std::ofstream{table, std::ios::app} << "36 35 98:0 / " << place
+                                                << " rw,noatime shared:1 - nfs serveur rw\n";
+    }
+
+    int ask(const std::string& path) {
+        return patience->run(path, path, [asked = mount] {
+            asked->ask();
+            return 1;
+        });
+    }
+    [[nodiscard]] int failure_of(const std::string& path) {
+        try {
+            ask(path);
+        } catch (const Failure& failure) {
+            return failure.number;
+        }
+        return 0;
+    }
+
+    std::shared_ptr<DeadMount> mount = std::make_shared<DeadMount>();
+    test::PrivateFolder folder;
+    std::string table = folder.path() + "/mountinfo";
+    std::shared_ptr<DiskPatience> patience = std::make_shared<DiskPatience>(std::chrono::milliseconds{20}, table);
+};
+
+TEST_F(DiskPatienceTest, GivesWhatTheDiskAnswers) {
+    mount->come_back();
+    EXPECT_EQ(ask("/mnt/a/titre.mp3"), 1);
+}
+
+TEST_F(DiskPatienceTest, PassesOnTheFailureOfADiskThatAnswers) {
+    const auto refused = [] { throw Failure{failure_number::file_not_found}; };
+    EXPECT_THROW(patience->run("/mnt/a", "a", refused), Failure);
+    mount->come_back();
+    EXPECT_EQ(ask("/mnt/a/titre.mp3"), 1);
+}
+
+TEST_F(DiskPatienceTest, DiskThatDoesNotAnswerIsADeviceFault) {
+    EXPECT_EQ(failure_of("/mnt/a/titre.mp3"), failure_number::device_fault);
+}
+
+TEST_F(DiskPatienceTest, SilentDiskIsNotAskedAgain) {
+    mount_at({"/", "/mnt/a"});
+    static_cast<void>(failure_of("/mnt/a/titre.mp3"));
+    for (int look = 0; look < 10; ++look)
+        EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), failure_number::device_fault);
+    EXPECT_LE(mount->asked(), 1);
+}
+
+TEST_F(DiskPatienceTest, SilentDiskIsKnownByItsMount) {
+    mount_at({"/", "/mnt", "/mnt/disque\\040de\\040musique"});
+    static_cast<void>(failure_of("/mnt/disque de musique/a/b/titre.mp3"));
+    EXPECT_EQ(failure_of("/mnt/disque de musique/c/titre.mp3"), failure_number::device_fault);
+    EXPECT_LE(mount->asked(), 1);
+}
+
+TEST_F(DiskPatienceTest, OnTheRootsDiskTheSilentFolderAloneIsAvoided) {
+    mount_at({"/"});
+    static_cast<void>(failure_of("/musique/lien"));
+    EXPECT_EQ(failure_of("/musique/lien/titre.mp3"), failure_number::device_fault);
+    EXPECT_EQ(patience->run("/musique/autre.mp3", "", [] { return 2; }), 2);
+}
+
+TEST_F(DiskPatienceTest, SilentDiskKeepsNoOtherFromAnswering) {
+    mount_at({"/", "/mnt/a", "/mnt/ab"});
+    static_cast<void>(failure_of("/mnt/a/titre.mp3"));
+    EXPECT_EQ(patience->run("/mnt/ab/titre.mp3", "", [] { return 2; }), 2);
+}
+
+TEST_F(DiskPatienceTest, DiskThatCameBackIsAskedAgain) {
+    static_cast<void>(failure_of("/mnt/a/titre.mp3"));
+    mount->come_back();
+    while (failure_of("/mnt/a/titre.mp3") != 0)
+        std::this_thread::yield();
+}
+
+TEST_F(DiskPatienceTest, UnansweredLookOutlivesThePatience) {
+    static_cast<void>(failure_of("/mnt/a/titre.mp3"));
+    while (mount->asked() == 0)
+        std::this_thread::yield();
+    patience.reset();
+    mount->come_back();
+}
+
+TEST_F(DiskPatienceTest, WithoutALimitTheCallerWaits) {
+    patience = std::make_shared<DiskPatience>();
+    std::thread server{[this] {
+        while (mount->asked() == 0)
+            std::this_thread::yield();
+        mount->come_back();
+    }};
+    EXPECT_EQ(ask("/mnt/a/titre.mp3"), 1);
+    server.join();
+}
+
+// Drive D lies on the mount that is silent, drive E elsewhere.
+class SilentDrive : public DiskPatienceTest {
+protected:
+    SilentDrive() {
+        mount_at({"/", silent.path(), sound.path()});
+        drives.set("D", silent.path());
+        drives.set("E", sound.path());
+        static_cast<void>(failure_of(silent.path() + "/titre.mp3"));
+    }
+
+    template <typename Use>
+    [[nodiscard]] static int failure_of_use(Use use) {
+        try {
+            use();
+        } catch (const Failure& failure) {
+            return failure.number;
+        }
+        return 0;
+    }
+
+    test::PrivateFolder silent;
+    test::PrivateFolder sound;
+    DriveTable drives;
+    HostDisk disk{drives, patience};
+};
+
+TEST_F(SilentDrive, FailsEachLookAsADeviceFault) {
+    const std::vector<std::function<void()>> looks{
+        [this] { disk.ChDrive("D:\\titre.mp3"); },
+        [this] { disk.ChDir("D:\\"); },
+        [this] { static_cast<void>(disk.Dir("D:\\titre.mp3")); },
+        [this] { static_cast<void>(disk.Dir("D:\\*.mp3")); },
+        [this] { static_cast<void>(disk.facts("D:\\titre.mp3")); },
+        [this] { static_cast<void>(disk.machine_path("D:\\titre.mp3")); },
+        [this] { static_cast<void>(disk.open("D:\\titre.mp3")); },
+        [this] { static_cast<void>(disk.open_or_create("D:\\liste.dfm")); },
+    };
+    for (std::size_t look = 0; look < looks.size(); ++look)
+        EXPECT_EQ(failure_of_use(looks[look]), failure_number::device_fault) << look;
+}
+
+TEST_F(SilentDrive, LeavesTheWorkingFolderWhereItIs) {
+    static_cast<void>(failure_of_use([this] { disk.ChDrive("D:\\"); }));
+    EXPECT_EQ(disk.current_drive(), 'C');
+}
+
+TEST_F(SilentDrive, LeavesTheOtherDrivesAlone) {
+    disk.ChDrive("E:");
+    disk.append("E:\\journal.doc", "x");
+    EXPECT_EQ(disk.Dir("E:\\*"), "journal.doc");
+}
+
+TEST_F(SilentDrive, ThatCameBackIsLookedAtAgain) {
+    mount->come_back();
+    while (failure_of_use([this] { disk.ChDrive("D:"); }) != 0)
+        std::this_thread::yield();
+    EXPECT_EQ(disk.current_drive(), 'D');
+}
+
+} // namespace
+} // namespace sonarelle

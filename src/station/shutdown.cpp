@@ -1,7 +1,7 @@
 #include "station/shutdown.h"
 
-#include <ranges>
 #include <utility>
+#include <vector>
 
 #include "configuration/window_place.h"
 #include "platform/disk.h"
@@ -66,10 +66,11 @@ void Shutdown::close_journal() {
 }
 
 void Shutdown::unload_windows() {
-    for (Window* window : windows_() | std::views::reverse) {
-        if (window == &desk_.window)
-            store_place(desk_.platform, *window, main_window_place);
-        window->hide();
+    const std::vector<Window*> windows = windows_();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        if (*window == &desk_.window)
+            store_place(desk_.platform, desk_.window, main_window_place);
+        (*window)->hide();
     }
 }
 

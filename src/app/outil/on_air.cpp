@@ -6,21 +6,14 @@
 #include <memory>
 #include <ostream>
 
+#include "app/common/live_machine.h"
 #include "app/outil/deck_watch.h"
 #include "app/outil/event_writer.h"
 #include "app/outil/silence_watch.h"
 #include "configuration/settings_store.h"
-#include "platform/audio/live_driver.h"
-#include "platform/audio/live_output.h"
-#include "platform/audio/sdl_devices.h"
-#include "platform/audio/sound_media.h"
-#include "platform/disk_patience.h"
 #include "platform/failure.h"
-#include "platform/host/host_disk.h"
 #include "platform/host/host_settings.h"
-#include "platform/host/host_shell.h"
 #include "platform/host/machine_paths.h"
-#include "platform/random.h"
 #include "platform/simulated/simulated_dialogs.h"
 #include "platform/timer.h"
 
@@ -52,24 +45,14 @@ public:
     StopOnSignals& operator=(const StopOnSignals&) = delete;
 };
 
-std::uint64_t clock_entropy() {
-    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-}
-
-std::string state_text(OutputState state) {
-    return state == OutputState::playing ? "sortie : la carte son joue"
-                                         : "sortie : aucune carte son, cadence de l'horloge";
-}
-
 /// A station on this machine's sound, disk and settings.
 class LiveStation {
 public:
     LiveStation(const LiveProgramme& live, HostSettings& settings, std::ostream& out)
-        : live_{live}, out_{out}, disk_{live.drives, std::make_shared<DiskPatience>(station_patience)},
-          settings_{settings}, events_{out} {
+        : live_{live}, out_{out}, machine_{live.drives, live.programme.seed}, settings_{settings}, events_{out} {
         write_first_settings();
-        station_ = std::make_unique<Station>(Platform{clock_, scheduler_, disk_, settings_, dialogs_, media_, random_,
-                                                      shell_, live.program_folder, DecimalMark::point});
+        station_ =
+            std::make_unique<Station>(machine_.platform(settings_, dialogs_, machine_.shell(), live.program_folder));
         watch_ = std::make_unique<DeckWatch>(station_->desk);
         connect();
         station_->create_main_window();
@@ -79,29 +62,22 @@ public:
     }
 
     void run() {
-        const StopOnSignals stop{driver_};
+        const StopOnSignals stop{machine_.driver()};
         // Frame 0 of the programme is that of the list: the card finds sound as soon as it is open.
-        scheduler_.run_event(Frames{}, [this] { start(station_path_of(live_.drives, live_.programme.list)); });
-        open_output();
-        driver_.run();
+        machine_.scheduler().run_event(Frames{},
+                                       [this] { start(station_path_of(live_.drives, live_.programme.list)); });
+        const OutputName output = live_.output == "aucune" ? OutputName{} : live_.output.value_or("");
+        machine_.open_output(output, [this](OutputState state) { tell_output(state); });
+        machine_.driver().run();
         if (!ended_) // by a signal
-            driver_.run_event([this] { end(); });
+            machine_.driver().run_event([this] { end(); });
     }
 
 private:
-    void open_output() {
-        auto devices = live_.output == "aucune" ? nullptr : std::make_unique<SdlDevices>();
-        const std::string name = live_.output.value_or("");
-        output_ = std::make_unique<LiveOutput>(bus_, std::move(devices), name, [this](OutputState state) {
-            driver_.post([this, state] { tell_output(state); });
-        });
-    }
-
     void tell_output(OutputState state) {
-        if (station_)
-            station_->journal.note(date_and_time(station_->desk.platform) + " " + state_text(state));
+        station_->journal.note(date_and_time(station_->desk.platform) + " " + state_text(state));
         if (!live_.shows_journal)
-            events_.write_warning(clock_.now(), state_text(state));
+            events_.write_warning(now(), state_text(state));
     }
 
     /// An empty store gets its first values, so that the next start is none of those.
@@ -128,28 +104,26 @@ private:
         } else {
             dialogs_.on_answered = [this](const Question& question) {
                 if (question.kind == QuestionKind::box || question.kind == QuestionKind::input)
-                    events_.write(clock_.now(), question);
+                    events_.write(now(), question);
             };
             station_->desk.on_event = [this](const OnAirEvent& event) { tell(event); };
-            station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(clock_.now(), text); };
+            station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(now(), text); };
             watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
             silence_.on_two_seconds = [this](Frames at) { events_.write_silence(at); };
         }
         silence_.on_silence_over = [this](Frames span) { events_.add_silence(span); };
-        media_.on_opened = [this](std::chrono::nanoseconds time) {
+        machine_.media().on_opened = [this](std::chrono::nanoseconds time) {
             events_.add_load(std::chrono::duration<double, std::milli>{time}.count());
         };
-        media_.on_trouble = [this](const SoundReport& report) {
-            station_->journal.note(date_and_time(station_->desk.platform) + " " + report.path + " : " +
-                                   std::to_string(report.breaks) + " coupures, " +
-                                   Format(in_seconds(report.starved), "0.00", DecimalMark::point) + " s de retard");
+        machine_.media().on_trouble = [this](const SoundReport& report) {
+            station_->journal.note(date_and_time(station_->desk.platform) + " " + trouble_text(report));
         };
         look_.set_interval(100);
         look_.on_tick = [this] { look(); };
     }
 
     void start(const std::string& list) {
-        begins_at(clock_.now());
+        begins_at(now());
         start_programme(*station_, dialogs_, live_.programme, list);
         length_ = live_.programme.length.value_or(length_of_list(*station_));
         look_.enable();
@@ -163,8 +137,8 @@ private:
 
     void tell(const OnAirEvent& event) {
         if (event.kind == OnAirEvent::Kind::started && events_.starts() == 0)
-            begins_at(clock_.now());
-        events_.write(clock_.now(), event);
+            begins_at(now());
+        events_.write(now(), event);
     }
 
     void end() {
@@ -173,12 +147,14 @@ private:
         silence_.end();
         station_->list_run.Image3_Click();
         if (!live_.shows_journal)
-            events_.write_account(clock_.now());
-        driver_.stop();
+            events_.write_account(now());
+        machine_.driver().stop();
     }
 
+    [[nodiscard]] Frames now() { return machine_.clock().now(); }
+
     void look() {
-        const Frames now = clock_.now();
+        const Frames now = this->now();
         if (watch_->sounds_until(now))
             silence_.sounding();
         else
@@ -191,23 +167,14 @@ private:
 
     const LiveProgramme& live_;
     std::ostream& out_;
-    HostDisk disk_;
+    LiveMachine machine_;
     HostSettings& settings_;
     EventWriter events_;
     SilenceWatch silence_;
-    Scheduler scheduler_;
-    ProgrammeBus bus_;
-    LiveClock clock_{scheduler_, bus_};
-    SoundMedia media_{clock_, bus_, std::make_shared<MachineFiles>(),
-                      [this](std::string_view path) { return disk_.machine_path(path); }, Decoding::by_threads};
-    LiveDriver driver_{scheduler_, clock_, bus_, media_};
-    SimulatedDialogs dialogs_{clock_};
-    HostShell shell_{disk_};
-    Random random_{live_.programme.seed, clock_entropy};
-    std::unique_ptr<LiveOutput> output_;
+    SimulatedDialogs dialogs_{machine_.clock()};
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
-    Timer look_{"look", 0, scheduler_};
+    Timer look_{"look", 0, machine_.scheduler()};
     Frames began_;
     Frames length_;
     Frames last_;

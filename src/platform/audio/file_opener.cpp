@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/audio/measuring_threads.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -45,6 +46,10 @@ PreparedFile FileOpener::open(const std::string& path) {
         });
     lengths_.keep(path, {file.facts, file.seconds});
     return file;
+}
+
+std::unique_ptr<LengthsAhead> FileOpener::measure_ahead(std::function<std::string(std::string_view)> resolve) const {
+    return std::make_unique<MeasuringThreads>(files_, std::move(resolve), patience_);
 }
 
 } // namespace sonarelle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "platform/audio/prepared_files.h"
 #include "platform/audio/sound_files.h"
 #include "platform/disk_patience.h"
+#include "platform/lengths_ahead.h"
 
 namespace sonarelle {
 
@@ -21,6 +23,10 @@ public:
     /// Opens and measures; may read the whole file.
     /// @throws Failure 53, 57 (also when the disk doesn't answer in time), 70 or 1001.
     [[nodiscard]] PreparedFile open(const std::string& path);
+
+    /// Measures files ahead, with as much patience.
+    [[nodiscard]] std::unique_ptr<LengthsAhead>
+    measure_ahead(std::function<std::string(std::string_view)> resolve) const;
 
     /// Takes back a file of which nothing has been played.
     void keep(PreparedFile file) { prepared_.keep(std::move(file)); }

@@ -22,6 +22,7 @@ public:
         : clock_{clock}, opener_{std::move(files), DiskPatience{}}, resolve_{std::move(resolve)} {}
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
+    [[nodiscard]] std::unique_ptr<LengthsAhead> measure_ahead() override;
 
 private:
     friend class SilentGraph;

@@ -41,6 +41,10 @@ std::shared_ptr<MediaGraph> SoundMedia::create_graph() {
     return std::make_shared<SoundGraph>(*this);
 }
 
+std::unique_ptr<LengthsAhead> SoundMedia::measure_ahead() {
+    return opener_.measure_ahead(resolve_);
+}
+
 void SoundMedia::housekeep() {
     bus_.housekeep();
     opener_.forget_old();

@@ -14,3 +14,9 @@ add_custom_command(OUTPUT "${CMAKE_BINARY_DIR}/pictures.stamp"
     VERBATIM)
 add_custom_target(pictures ALL DEPENDS "${CMAKE_BINARY_DIR}/pictures.stamp")
 install(DIRECTORY "${SONARELLE_PICTURES_DIR}/" DESTINATION share/sonarelle)
+
+# Programs that run from the build tree find the pictures here.
+set(program_files "${CMAKE_SOURCE_DIR}/src/platform/host/program_files.cpp")
+set_property(SOURCE "${program_files}" DIRECTORY "${CMAKE_SOURCE_DIR}/src"
+    APPEND PROPERTY COMPILE_DEFINITIONS "SONARELLE_PICTURES_DIR=\"${SONARELLE_PICTURES_DIR}\"")
+set_property(SOURCE "${program_files}" DIRECTORY "${CMAKE_SOURCE_DIR}/src" PROPERTY SKIP_PRECOMPILE_HEADERS ON)

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/desktop/dresser.h"
+#include "platform/desktop/panel.h"
+#include "playout/deck_controls.h"
+
+namespace sonarelle {
+
+/// What a deck is to the air, beside what its controls say.
+struct DeckLook {
+    bool main = false;
+    bool loaded = false;
+    std::optional<double> mix_point; ///< Seconds.
+    std::optional<double> end_point; ///< Seconds.
+};
+
+/// One deck of the main window.
+class DeckPanel : public Panel {
+public:
+    DeckPanel(WindowView& view, DeckControls& controls, Label& slider_stand_in, int number, QWidget* parent);
+
+    void show_look(const DeckLook& look);
+
+private:
+    [[nodiscard]] QLayout* heading(int number);
+    [[nodiscard]] QLayout* figures(Dresser& dresser);
+    [[nodiscard]] QLayout* transport(Dresser& dresser, int number);
+    [[nodiscard]] QLayout* volume(Dresser& dresser, Label& slider_stand_in);
+    void show_elapsed();
+
+    WindowView& view_;
+    DeckControls& controls_;
+    Lamp* lamp_;
+    StationLabel* state_;
+    StationLabel* elapsed_;
+    StudioButton* play_ = nullptr;
+    StudioButton* zap_ = nullptr;
+    ProgressStrip* progress_ = nullptr;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,167 @@
+#include "platform/desktop/desktop.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QStyle>
+#include <algorithm>
+
+#include "accessories/chargement.h"
+#include "accessories/propriete.h"
+#include "platform/desktop/colours.h"
+#include "platform/desktop/list_view.h"
+#include "platform/desktop/main_view.h"
+#include "platform/desktop/plain_views.h"
+#include "platform/desktop/qt_text.h"
+
+namespace sonarelle {
+
+namespace {
+
+std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& services, const SoundReading& sound) {
+    if (auto* main = dynamic_cast<Antenne_FM*>(&window))
+        return std::make_unique<MainView>(*main, services, sound);
+    if (auto* list = dynamic_cast<Liste_son*>(&window))
+        return std::make_unique<ListView>(*list, services);
+    if (auto* player = dynamic_cast<mini_lecteur*>(&window))
+        return small_player_view(*player, services);
+    if (auto* splash = dynamic_cast<Chargement*>(&window))
+        return splash_view(*splash, services);
+    if (auto* properties = dynamic_cast<Propriete*>(&window))
+        return properties_view(*properties, services);
+    return form_view(window, services);
+}
+
+// Nothing for what is no number yet.
+std::optional<double> seconds_of(Deck& deck) {
+    bool is_number = false;
+    const double end = to_qt(deck.controls.counter.caption.get()).toDouble(&is_number);
+    return is_number && end > 0 ? std::optional{end} : std::nullopt;
+}
+
+} // namespace
+
+void dress_application() {
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(studio_palette());
+    QFont font = QApplication::font();
+    if (QFontDatabase::families().contains("Inter"))
+        font.setFamily("Inter");
+    QApplication::setFont(font);
+}
+
+Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopServices& services,
+                 const SoundReading& sound)
+    : desk_{desk}, services_{services} {
+    for (Window* window : windows) {
+        views_.push_back(view_of(*window, services, sound));
+        if (auto* main = dynamic_cast<MainView*>(views_.back().get()))
+            main_ = main;
+        if (auto* list = dynamic_cast<ListView*>(views_.back().get()))
+            list_ = list;
+    }
+    connect_readings();
+}
+
+Desktop::~Desktop() = default;
+
+QWidget* Desktop::widget_of(const Window& window) const {
+    const auto found = std::ranges::find_if(views_, [&](const auto& view) { return &view->window_value() == &window; });
+    return found == views_.end() ? nullptr : found->get();
+}
+
+void Desktop::watch(Control& control, std::function<void()> show) {
+    for (const auto& view : views_)
+        if (Binding* binding = view->binding_of(control)) {
+            const auto before = std::move(binding->on_shown);
+            binding->on_shown = [before, show = std::move(show)] {
+                if (before)
+                    before();
+                show();
+            };
+            return;
+        }
+}
+
+// What is told in one window and read at a glance in the other.
+void Desktop::connect_readings() {
+    if (main_ == nullptr || list_ == nullptr)
+        return;
+    for (Label* label : {&desk_.list_window.Label2, &desk_.list_window.Label4, &desk_.list_window.Label13})
+        watch(*label, [this] { show_air(); });
+    watch(desk_.list_window.Label4, [this] { show_list(); });
+    watch(desk_.list_window.Label1, [this] { show_list(); });
+    watch(desk_.window.Text1, [this] { show_decks(); });
+    for (DeckControls& deck : desk_.window.decks)
+        for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
+                                                                &deck.playing_mark, &deck.play})
+            watch(*control, [this] { show_decks(); });
+    show_air();
+    show_decks();
+}
+
+void Desktop::show_air() {
+    const Liste_son& list = desk_.list_window;
+    main_->show_on_air(plain_caption(list.Label2.caption), plain_caption(list.Label4.caption),
+                       plain_caption(list.Label13.caption));
+}
+
+void Desktop::show_decks() {
+    const int main = desk_.has_main_deck() ? desk_.chain.lecteur_en_cours.value() : 0;
+    QString next;
+    for (Deck& deck : desk_.decks) {
+        DeckLook look{.main = deck.number() == main,
+                      .loaded = deck.has_graph(),
+                      .mix_point = std::nullopt,
+                      .end_point = seconds_of(deck)};
+        if (look.end_point)
+            look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
+        main_->show_look(deck.number(), look);
+        if (look.loaded && !look.main)
+            next = "Ensuite : " + plain_caption(deck.controls.title.caption);
+    }
+    main_->show_chain(main == 0 ? QStringLiteral("EN ATTENTE") : "● À L'ANTENNE — Play " + QString::number(main), next);
+    main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
+}
+
+void Desktop::show_list() {
+    const bool on = desk_.has_main_deck() && desk_.chain.mode_enchainement.is_true();
+    const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
+    const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() : 0;
+    list_->show_marks({.playing = playing, .next = next});
+}
+
+void Desktop::show_output(const std::string& text) {
+    if (main_ != nullptr)
+        main_->show_output(to_qt(text));
+}
+
+void Desktop::offer_outputs(OutputChoice choice) {
+    QMenu* options = main_ == nullptr ? nullptr : main_->menus().menu(desk_.window.Option_);
+    if (options == nullptr)
+        return;
+    outputs_ = std::move(choice);
+    output_menu_ = std::make_unique<QMenu>("Sortie audio");
+    output_menu_->setObjectName("Sortie_audio");
+    options->addSeparator();
+    options->addMenu(output_menu_.get());
+    QObject::connect(output_menu_.get(), &QMenu::aboutToShow, output_menu_.get(), [this] { fill_outputs(); });
+}
+
+// Cards come and go, so the entries are made when they are looked at.
+void Desktop::fill_outputs() {
+    output_menu_->clear();
+    std::vector<std::string> names = outputs_.names();
+    const std::string chosen = outputs_.chosen();
+    if (!chosen.empty() && std::ranges::find(names, chosen) == names.end())
+        names.push_back(chosen);
+    names.insert(names.begin(), std::string{});
+    for (const std::string& name : names) {
+        QAction* action = output_menu_->addAction(name.empty() ? "Sortie par défaut" : to_qt(name).replace("&", "&&"));
+        action->setCheckable(true);
+        action->setChecked(name == chosen);
+        QObject::connect(action, &QAction::triggered, output_menu_.get(),
+                         [this, name] { services_.run_event([&] { outputs_.choose(name); }); });
+    }
+}
+
+} // namespace sonarelle

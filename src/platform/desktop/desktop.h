@@ -1,0 +1,67 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/desktop/desktop_services.h"
+#include "platform/desktop/sound_reading.h"
+#include "playout/desk.h"
+
+class QMenu;
+class QWidget;
+
+namespace sonarelle {
+
+class ListView;
+class MainView;
+class WindowView;
+
+/// The sound outputs that the operator may choose from, as the option menu offers them. The empty name is the default
+/// one.
+struct OutputChoice {
+    std::function<std::vector<std::string>()> names;
+    std::function<std::string()> chosen;
+    std::function<void(const std::string&)> choose;
+};
+
+/// Gives the application the studio's look: style, palette, type. Once, before the first window.
+void dress_application();
+
+/// The windows of a station on the screen. Each is shown and hidden by its own `visible`. Window thread.
+class Desktop {
+public:
+    /// Windows without a view of their own are shown as a form of their parts. All outlive the desktop.
+    Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopServices& services,
+            const SoundReading& sound);
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// Null for a window that isn't the station's.
+    [[nodiscard]] QWidget* widget_of(const Window& window) const;
+
+    /// What plays, on the main window's status line.
+    void show_output(const std::string& text);
+    /// Hangs "Sortie audio" into the option menu.
+    void offer_outputs(OutputChoice choice);
+
+private:
+    void connect_readings();
+    void watch(Control& control, std::function<void()> show);
+    void show_air();
+    void show_decks();
+    void show_list();
+    void fill_outputs();
+
+    Desk& desk_;
+    const DesktopServices& services_;
+    std::vector<std::unique_ptr<WindowView>> views_;
+    MainView* main_ = nullptr;
+    ListView* list_ = nullptr;
+    OutputChoice outputs_;
+    std::unique_ptr<QMenu> output_menu_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/desktop/dresser.h"
+#include "platform/desktop/panel.h"
+#include "playlist/liste_son.h"
+
+namespace sonarelle {
+
+/// The list window: the rows, what is on and how long it lasts, the list's buttons.
+class ListView : public WindowView {
+public:
+    ListView(Liste_son& window, const DesktopServices& services);
+
+    void show_marks(const RowMarks& marks) { rows_->model().set_marks(marks); }
+
+private:
+    void build_rows();
+    [[nodiscard]] QLayout* header();
+    [[nodiscard]] QLayout* table_row();
+    [[nodiscard]] QWidget* side_column();
+    [[nodiscard]] QLayout* button_row();
+    [[nodiscard]] QLayout* status_row();
+    [[nodiscard]] StudioButton* menu_button();
+    void fill_menu(QMenu& menu);
+    void show_row_menu();
+
+    Liste_son& window_;
+    Dresser dresser_{*this};
+    RowTableBinding* rows_ = nullptr;
+    QMenu* all_entries_ = nullptr;
+};
+
+} // namespace sonarelle

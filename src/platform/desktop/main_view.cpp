@@ -1,0 +1,214 @@
+#include "platform/desktop/main_view.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "platform/desktop/button_bindings.h"
+#include "platform/desktop/colours.h"
+#include "platform/desktop/level_meter.h"
+#include "platform/desktop/remaining_parts.h"
+#include "platform/desktop/sound_picture.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr QSize least_size{1024, 600};
+constexpr QSize banner_size{475, 40};
+constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
+constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
+constexpr StationLabel::Style menu_word{.pixels = 13, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
+
+StationLabel* text_label(const StationLabel::Style& style, const QString& text = {}) {
+    auto* label = new StationLabel{style};
+    label->set_text(text);
+    return label;
+}
+
+// A panel whose column begins with its heading.
+QVBoxLayout* column_in(Panel* panel, const QString& heading) {
+    auto* column = new QVBoxLayout{panel};
+    column->setContentsMargins(12, 8, 12, 10);
+    column->setSpacing(5);
+    if (!heading.isEmpty())
+        column->addWidget(text_label(panel_heading, heading));
+    return column;
+}
+
+} // namespace
+
+MainView::MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound)
+    : WindowView{window, services, least_size}, window_{window} {
+    build_rows(sound);
+}
+
+void MainView::build_rows(const SoundReading& sound) {
+    auto* rows = new QVBoxLayout{&content()};
+    rows->setContentsMargins(12, 6, 12, 4);
+    rows->setSpacing(8);
+    rows->addWidget(menu_labels());
+    rows->addLayout(header());
+    rows->addLayout(deck_row(), 3);
+    rows->addLayout(lower_row(sound), 1);
+    if (QWidget* rest = remaining_parts(dresser_))
+        rows->addWidget(rest);
+    rows->addWidget(status_line());
+}
+
+// They stand for the menu bar while it is hidden.
+QWidget* MainView::menu_labels() {
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout{line};
+    row->setContentsMargins(0, 0, 0, 0);
+    for (Label* label : window_.menu_labels())
+        row->addWidget(dresser_.label(*label, menu_word));
+    row->addStretch(1);
+    return line;
+}
+
+QLayout* MainView::header() {
+    heading_ = text_label({.pixels = 12, .characters = 20}, "À L'ANTENNE");
+    QPalette green = heading_->palette();
+    green.setColor(QPalette::WindowText, mixed(studio::air, Qt::white, 0.25));
+    heading_->setPalette(green);
+    title_ = text_label({.pixels = 22, .bold = true, .characters = 14});
+    next_ = text_label({.pixels = 12, .quiet = true, .characters = 20});
+    remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
+                            "00:00:00");
+    remaining_->setObjectName("remaining");
+    remaining_->setAccessibleName("Temps restant");
+    clock_ =
+        text_label({.pixels = 20, .digits = true, .characters = 8, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    auto* banner = dresser_.movie(window_.banner);
+    banner->setFixedSize(banner_size);
+    auto* mark = dresser_.image(window_.Image2);
+    mark->set_flat(true);
+    mark->setFocusPolicy(Qt::NoFocus);
+    mark->setMaximumHeight(20);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addLayout(column_of({heading_, title_, next_}, 2), 1);
+    row->addWidget(remaining_, 0);
+    auto* right = column_of({clock_, banner}, 4);
+    row->addLayout(right, 0);
+    mark->hide();
+    return row;
+}
+
+QLayout* MainView::deck_row() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    for (int number = 1; number <= 3; ++number) {
+        const auto place = static_cast<std::size_t>(number - 1);
+        decks_[place] =
+            new DeckPanel{*this, window_.deck(number), *window_.slider_stand_ins()[place], number, &content()};
+        row->addWidget(decks_[place], 1);
+    }
+    return row;
+}
+
+QLayout* MainView::lower_row(const SoundReading& sound) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(chain_panel(), 4);
+    row->addWidget(quick_load_panel(), 3);
+    row->addWidget(effect_panel(sound), 3);
+    row->addWidget(meter_panel(sound), 2);
+    return row;
+}
+
+Panel* MainView::chain_panel() {
+    auto* panel = new Panel{&content()};
+    auto* column = column_in(panel, "ENCHAÎNEMENT");
+    const auto lamp = [this](Image& image) {
+        auto* button = dresser_.image(image, "●");
+        button->set_least_width(26);
+        return button;
+    };
+    auto* decks = row_of({lamp(window_.Image12), dresser_.option(window_.coche2), nullptr});
+    auto* list = row_of({lamp(window_.Image13), dresser_.option(window_.coche3), nullptr});
+    decks->addWidget(dresser_.image(window_.Image17, "Top horaire"));
+    auto* overlap = dresser_.text_box(window_.Text1);
+    overlap->setAccessibleName("Superposition en secondes");
+    overlap->setFixedWidth(44);
+    overlap->setAlignment(Qt::AlignCenter);
+    auto* less = dresser_.image(window_.Image14, "−");
+    auto* more = dresser_.image(window_.Image15, "+");
+    less->setAccessibleName("Superposition moins une seconde");
+    more->setAccessibleName("Superposition plus une seconde");
+    auto* mix =
+        row_of({less, overlap, more, text_label({.pixels = 12, .quiet = true, .characters = 9}, "s de superposition"),
+                nullptr, dresser_.check_box(window_.coche4)});
+    column->addLayout(decks);
+    column->addLayout(list);
+    column->addLayout(mix);
+    column->addStretch(1);
+    return panel;
+}
+
+Panel* MainView::quick_load_panel() {
+    auto* panel = new Panel{&content()};
+    auto* column = column_in(panel, {});
+    column->addWidget(dresser_.label(window_.Label10, panel_heading));
+    column->addWidget(dresser_.combo_box(window_.Combo1));
+    column->addWidget(dresser_.combo_box(window_.Combo2));
+    column->addWidget(text_label({.pixels = 11, .quiet = true, .characters = 18}, "espace : choisir le lecteur"));
+    column->addStretch(1);
+    return panel;
+}
+
+Panel* MainView::effect_panel(const SoundReading& sound) {
+    auto* panel = new Panel{&content()};
+    auto* column = column_in(panel, "EFFET VISUEL");
+    auto* picture = new SoundPictureView{sound};
+    keep(std::make_unique<SoundDisplayBinding>(window_.sound_display, *picture, services()));
+    column->addWidget(picture, 1);
+    return panel;
+}
+
+Panel* MainView::meter_panel(const SoundReading& sound) {
+    auto* panel = new Panel{&content()};
+    auto* column = column_in(panel, {});
+    auto* heading = text_label(panel_heading, "NIVEAU");
+    auto* meter = new LevelMeter{sound};
+    auto* frame = dresser_.frame(window_.meters);
+    frame->hide();
+    meter->on_loudness = [heading](const QString& text) { heading->set_text("NIVEAU · " + text); };
+    column->addWidget(heading);
+    column->addWidget(meter, 1);
+    return panel;
+}
+
+QWidget* MainView::status_line() {
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout{line};
+    row->setContentsMargins(2, 0, 2, 0);
+    row->setSpacing(18);
+    auto* elapsed = dresser_.label(window_.Label5, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
+    elapsed->setToolTip("Seconde en cours du lecteur principal");
+    output_ = text_label(status);
+    played_ =
+        text_label({.pixels = 12, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    row->addWidget(dresser_.label(window_.Label7, status), 2);
+    row->addWidget(elapsed);
+    row->addWidget(output_, 2);
+    row->addWidget(played_, 1);
+    return line;
+}
+
+void MainView::show_on_air(const QString& title, const QString& remaining, const QString& clock) {
+    title_->set_text(title);
+    remaining_->set_text(remaining);
+    clock_->set_text(clock);
+}
+
+void MainView::show_chain(const QString& heading, const QString& next) {
+    heading_->set_text(heading);
+    next_->set_text(next);
+}
+
+} // namespace sonarelle

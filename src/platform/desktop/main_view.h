@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+
+#include "platform/desktop/deck_panel.h"
+#include "platform/desktop/sound_reading.h"
+#include "playout/antenne_fm.h"
+
+namespace sonarelle {
+
+/// The main window: what is on and how long it lasts, three decks, the chain and the quick loads.
+class MainView : public WindowView {
+public:
+    MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound);
+
+    /// What the list window knows of the air.
+    void show_on_air(const QString& title, const QString& remaining, const QString& clock);
+    void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
+    void show_chain(const QString& heading, const QString& next);
+    void show_output(const QString& text) { output_->set_text(text); }
+    void show_played(const QString& text) { played_->set_text(text); }
+
+private:
+    void build_rows(const SoundReading& sound);
+    [[nodiscard]] QWidget* menu_labels();
+    [[nodiscard]] QLayout* header();
+    [[nodiscard]] QLayout* deck_row();
+    [[nodiscard]] QLayout* lower_row(const SoundReading& sound);
+    [[nodiscard]] Panel* chain_panel();
+    [[nodiscard]] Panel* quick_load_panel();
+    [[nodiscard]] Panel* effect_panel(const SoundReading& sound);
+    [[nodiscard]] Panel* meter_panel(const SoundReading& sound);
+    [[nodiscard]] QWidget* status_line();
+
+    Antenne_FM& window_;
+    Dresser dresser_{*this};
+    std::array<DeckPanel*, 3> decks_{};
+    StationLabel* heading_ = nullptr;
+    StationLabel* title_ = nullptr;
+    StationLabel* next_ = nullptr;
+    StationLabel* remaining_ = nullptr;
+    StationLabel* clock_ = nullptr;
+    StationLabel* output_ = nullptr;
+    StationLabel* played_ = nullptr;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/desktop/studio_button.h"
+
+class QBoxLayout;
+
+namespace sonarelle {
+
+/// A plate on which parts of a window stand; its edge is lit for the air and for what comes next.
+class Panel : public QWidget {
+public:
+    explicit Panel(QWidget* parent = nullptr);
+
+    void set_accent(Accent accent);
+    [[nodiscard]] Accent accent() const { return accent_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Accent accent_ = Accent::none;
+};
+
+/// A lamp: lit in its colour, or dark.
+class Lamp : public QWidget {
+public:
+    explicit Lamp(QWidget* parent = nullptr);
+
+    void set_accent(Accent accent);
+    [[nodiscard]] QSize sizeHint() const override { return {14, 14}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Accent accent_ = Accent::none;
+};
+
+/// Rows and columns without margins.
+[[nodiscard]] QBoxLayout* row_of(std::initializer_list<QWidget*> widgets, int spacing = 6);
+[[nodiscard]] QBoxLayout* column_of(std::initializer_list<QWidget*> widgets, int spacing = 6);
+
+} // namespace sonarelle

@@ -1,0 +1,114 @@
+#include "platform/desktop/plain_views.h"
+
+#include <QBoxLayout>
+#include <QLineEdit>
+
+#include "accessories/chargement.h"
+#include "accessories/mini_lecteur.h"
+#include "accessories/propriete.h"
+#include "platform/desktop/panel.h"
+#include "platform/desktop/progress_strip.h"
+#include "platform/desktop/remaining_parts.h"
+
+namespace sonarelle {
+
+namespace {
+
+// What the view hasn't placed stands below, so that nothing is missing.
+void add_rest(Dresser& dresser, QVBoxLayout& column) {
+    if (QWidget* rest = remaining_parts(dresser))
+        column.addWidget(rest);
+}
+
+} // namespace
+
+std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services) {
+    auto view = std::make_unique<WindowView>(window, services, QSize{420, 180});
+    Dresser dresser{*view};
+    auto* column = new QVBoxLayout{&view->content()};
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(form_of_parts(dresser, window));
+    return view;
+}
+
+std::unique_ptr<WindowView> small_player_view(mini_lecteur& window, const DesktopServices& services) {
+    auto view = std::make_unique<WindowView>(window, services, QSize{420, 74});
+    Dresser dresser{*view};
+    const std::array<std::pair<GraphicButton*, const char*>, 7> buttons{{{&window.Command6, "◀◀"},
+                                                                         {&window.Command1, "▶"},
+                                                                         {&window.Command3, "■"},
+                                                                         {&window.Command7, "▶▶"},
+                                                                         {&window.Command2, "⇥"},
+                                                                         {&window.Command4, "☰"},
+                                                                         {&window.Command5, "✕"}}};
+    auto* panel = new Panel;
+    auto* row = new QHBoxLayout{panel};
+    auto* seconds = dresser.label(
+        window.label1,
+        {.pixels = 28, .bold = true, .digits = true, .characters = 4, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    row->addWidget(seconds);
+    for (const auto& [button, symbol] : buttons)
+        row->addWidget(dresser.button(*button, symbol), 1);
+    auto* column = new QVBoxLayout{&view->content()};
+    column->setContentsMargins(6, 6, 6, 6);
+    column->addWidget(panel);
+    add_rest(dresser, *column);
+    return view;
+}
+
+std::unique_ptr<WindowView> splash_view(Chargement& window, const DesktopServices& services) {
+    auto view = std::make_unique<WindowView>(window, services, QSize{500, 350});
+    Dresser dresser{*view};
+    auto* picture = dresser.image(window.Image1, "Sonarelle");
+    picture->set_flat(true);
+    picture->setFocusPolicy(Qt::NoFocus);
+    picture->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto* column = new QVBoxLayout{&view->content()};
+    column->setContentsMargins(3, 3, 3, 3);
+    column->addWidget(picture);
+    view->setWindowFlag(Qt::SplashScreen);
+    return view;
+}
+
+std::unique_ptr<WindowView> properties_view(Propriete& window, const DesktopServices& services) {
+    auto view = std::make_unique<WindowView>(window, services, QSize{560, 330});
+    Dresser dresser{*view};
+    auto* panel = new Panel;
+    auto* grid = new QGridLayout{panel};
+    grid->setContentsMargins(14, 12, 14, 12);
+    grid->setVerticalSpacing(8);
+    const StationLabel::Style name{.bold = true, .characters = 16};
+    const StationLabel::Style step{.bold = true, .framed = true, .characters = 3, .alignment = Qt::AlignCenter};
+    const StationLabel::Style action{.framed = true, .characters = 8, .alignment = Qt::AlignCenter};
+    grid->addWidget(dresser.label(window.Label1, name), 0, 0);
+    grid->addWidget(dresser.label(window.Label2, {.bold = true, .characters = 28}), 0, 1, 1, 4);
+    const std::array<std::pair<Label*, TextBox*>, 5> fields{{{&window.Label3, &window.Text1},
+                                                             {&window.Label4, &window.Text2},
+                                                             {&window.Label5, &window.Text3},
+                                                             {&window.Label6, &window.Text4},
+                                                             {&window.Label7, &window.Text5}}};
+    int line = 1;
+    for (const auto& [label, field] : fields) {
+        grid->addWidget(dresser.label(*label, name), line, 0);
+        grid->addWidget(dresser.text_box(*field), line++, 1);
+    }
+    grid->addWidget(dresser.label(window.start_back, step), 1, 2);
+    grid->addWidget(dresser.label(window.mark_start, action), 1, 3);
+    grid->addWidget(dresser.label(window.start_forward, step), 1, 4);
+    grid->addWidget(dresser.label(window.end_back, step), 2, 2);
+    grid->addWidget(dresser.label(window.mark_end, action), 2, 3);
+    grid->addWidget(dresser.label(window.end_forward, step), 2, 4);
+    grid->addWidget(dresser.label(window.play, action), 3, 3);
+    grid->addWidget(dresser.label(window.stop, action), 4, 3);
+    grid->addWidget(dresser.progress(window.ProgressBar1), line, 0, 1, 5);
+    auto* column = new QVBoxLayout{&view->content()};
+    column->setContentsMargins(10, 10, 10, 10);
+    column->addWidget(panel, 1);
+    auto* close = dresser.button(window.AnyButton1);
+    auto* save = dresser.button(window.AnyButton2);
+    column->addLayout(row_of({nullptr, save, close}));
+    add_rest(dresser, *column);
+    return view;
+}
+
+} // namespace sonarelle

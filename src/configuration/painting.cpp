@@ -1,6 +1,8 @@
 #include "configuration/painting.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 #include <vector>
 
 namespace sonarelle {
@@ -29,6 +31,26 @@ constexpr std::array paints{
     Paint{ControlKind::list_box, &S::coul_texte_liste, &S::coul_fond_liste},
     Paint{ControlKind::row_table, &S::coul_texte_liste, &S::coul_fond_liste},
     Paint{ControlKind::progress_bar, &S::coul_texte_liste, nullptr},
+};
+
+struct PaintedWindow {
+    std::string_view name;
+    ButtonColour buttons = ButtonColour::of_windows;
+    std::string_view text_of_boxes = {}; ///< What every text box gets with its colours.
+};
+
+constexpr std::array painted_windows{
+    PaintedWindow{"Form_options", ButtonColour::of_buttons},
+    PaintedWindow{"Form_options_jingles", ButtonColour::of_buttons, "*.mp3 - *.wav"},
+    PaintedWindow{"mini_lecteur"},
+    PaintedWindow{"Liste_son"},
+    PaintedWindow{"Antenne_FM"},
+    PaintedWindow{"ajout_fichier"},
+    PaintedWindow{"Propriete", ButtonColour::of_buttons},
+    PaintedWindow{"renom", ButtonColour::of_buttons},
+    PaintedWindow{"frmAbout"},
+    PaintedWindow{"copie", ButtonColour::of_buttons},
+    PaintedWindow{"Association", ButtonColour::of_buttons},
 };
 
 void paint_control(Control& control, const StationSettings& settings) {
@@ -60,6 +82,16 @@ void paint(Window& window, const StationSettings& settings, ButtonColour buttons
         else if (control->kind() == ControlKind::button && buttons == ButtonColour::of_buttons)
             control->back_colour = settings.coul_bouton;
     }
+}
+
+void paint_station_window(Window& window, const StationSettings& settings) {
+    const auto* painted = std::ranges::find(painted_windows, window.name(), &PaintedWindow::name);
+    if (painted == painted_windows.end())
+        return;
+    paint(window, settings, painted->buttons);
+    for (Control* control : window.controls())
+        if (!painted->text_of_boxes.empty() && control->kind() == ControlKind::text_box)
+            static_cast<TextBox&>(*control).set_text(std::string{painted->text_of_boxes});
 }
 
 void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings) {

@@ -14,6 +14,9 @@ enum class ButtonColour { of_windows, of_buttons };
 /// Gives a window and its controls the colours of the settings, each kind its own.
 void paint(Window& window, const StationSettings& settings, ButtonColour buttons = ButtonColour::of_windows);
 
+/// The same for a window of the station, by its name. A window that keeps the desktop's colours is left alone.
+void paint_station_window(Window& window, const StationSettings& settings);
+
 /// What is added to the colour of the labels while the pointer is over one that acts as a button.
 inline constexpr Colour hover_step = 18000;
 

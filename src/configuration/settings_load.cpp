@@ -201,6 +201,7 @@ void SettingsLoad::convert_kept_texts() {
     convert(kept_.valeur_vitesse_timer, settings_.valeur_vitesse_timer, &options_.Text8);
     convert(kept_.mix, settings_.mix_defaut);
     main_.Text1.set_text(kept_.mix);
+    main_.UpDown1.show_value(settings_.mix_courant.value());
 }
 
 void SettingsLoad::show_paths() {

@@ -44,6 +44,8 @@ struct Antenne_FM : MainMenus {
     Label Label18{*this, "Label18", "À propos"};
     Label Label19{*this, "Label19", "Quitter"};
 
+    Slider UpDown1{*this, "UpDown1", 1, 20}; ///< The overlap field's companion.
+
     OptionGroup chain_choice;
     OptionButton coche2{*this, chain_choice, "coche2", "Mixer les titres"};
     OptionButton coche3{*this, chain_choice, "coche3", "Mixer une liste"};

@@ -145,7 +145,7 @@ void ChainModes::Option1_Click() {
     desk_.window.Timer2.enable();
     desk_.window.Timer4.disable();
     mix_.Active_audio_zapping_Click();
-    journal_.note(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
+    journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
     if (desk_.has_main_deck())
         show_end_point(desk_.main_deck().duree_piste);
 }
@@ -166,7 +166,7 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
     desk_.window.Timer4.enable();
     desk_.window.Timer2.disable();
     mix_.Active_audio_Click();
-    journal_.note(date_and_time(desk_.platform) + " " + journal_text);
+    journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
     desk_.list_window.Label3.caption = std::string{empty_counter};
     if (!desk_.has_main_deck())
         return;

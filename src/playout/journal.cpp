@@ -1,7 +1,9 @@
 #include "playout/journal.h"
 
+#include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
+#include "platform/scheduler.h"
 #include "platform/shell.h"
 #include "platform/text.h"
 #include "playlist/list_rows.h"
@@ -14,21 +16,33 @@ constexpr std::string_view journal_file = "journal.doc";
 
 } // namespace
 
-void Journal::journal() {
-    ErrorIndicator{}.skip([this] {
+bool Journal::append_line() {
+    return ErrorIndicator{}.skip([this] {
         enter_program_folder(desk_.platform);
         desk_.platform.disk.append(journal_file, to_windows_1252(desk_.chain.ligne_journal) + "\r\n");
     });
 }
 
-void Journal::note(const std::string& line) {
+bool Journal::note(const std::string& line) {
     if (!desk_.chain.journal_actif.is_true())
-        return;
+        return true;
     desk_.chain.ligne_journal = line;
-    journal();
+    const bool written = append_line();
     if (on_line)
         on_line(line);
     desk_.chain.ligne_journal.clear();
+    return written;
+}
+
+// A tick of the chain doesn't wait for the operator.
+void Journal::note_of_list_window(const std::string& line) {
+    constexpr std::string_view fault = "Erreur écriture journal";
+    if (note(line))
+        return;
+    if (desk_.platform.scheduler.in_tick())
+        desk_.warn(std::string{fault});
+    else
+        desk_.platform.dialogs.MsgBox({std::string{fault}, std::string{application_title}, Buttons::ok, Icon::stop});
 }
 
 void Journal::Active_journal1_Click() {

@@ -14,10 +14,13 @@ public:
 
     /// Writes `ligne_journal`, whether the journal is on or not. A disk that refuses it is passed over: the air goes
     /// on.
-    void journal();
+    void journal() { static_cast<void>(append_line()); }
 
-    /// Writes a line while the journal is on.
-    void note(const std::string& line);
+    /// Writes a line while the journal is on. True unless the disk refused it.
+    bool note(const std::string& line);
+
+    /// The same for the list window, which tells the operator when the line can't be written.
+    void note_of_list_window(const std::string& line);
 
     /// Called with each line that `note` writes.
     std::function<void(const std::string&)> on_line;
@@ -30,6 +33,7 @@ public:
 
 private:
     void choose(const MenuItem& entry, bool active);
+    [[nodiscard]] bool append_line();
 
     Desk& desk_;
 };

@@ -43,7 +43,7 @@ void ListRun::start_selected_row() {
 }
 
 void ListRun::Image3_Click() {
-    journal_.note(" Arrét lecture liste a " + date_and_time(desk_.platform));
+    journal_.note_of_list_window(" Arrét lecture liste a " + date_and_time(desk_.platform));
     chain_.cancel_walks();
     for (Deck& deck : desk_.decks)
         transport_.stop(deck);

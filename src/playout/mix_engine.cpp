@@ -39,6 +39,7 @@ void MixEngine::Choix_mix() {
 void MixEngine::show_overlap() {
     desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
     desk_.window.Text1.hint = "Superposition de : " + text_of(desk_.settings.mix_courant) + " seconde(s)";
+    desk_.window.UpDown1.show_value(desk_.settings.mix_courant.value());
 }
 
 void MixEngine::change_overlap(int step) {
@@ -59,8 +60,18 @@ void MixEngine::set_overlap(Integer seconds) {
     else if (seconds == s.prechargement - 1)
         s.prechargement += 3;
     show_overlap();
+    store_overlap();
+}
+
+void MixEngine::UpDown1_Change() {
+    desk_.settings.mix_courant = desk_.settings.mix_defaut = desk_.window.UpDown1.value();
+    show_overlap();
+    store_overlap();
+}
+
+void MixEngine::store_overlap() {
     const SettingsStore store{desk_.platform.settings, desk_.platform.program_folder, desk_.platform.decimal_mark};
-    ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Mix", text_of(seconds)); });
+    ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Mix", text_of(desk_.settings.mix_defaut)); });
 }
 
 void MixEngine::coche4_Click() {

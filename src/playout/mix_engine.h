@@ -21,6 +21,7 @@ public:
     void Image14_Click() { change_overlap(-1); }
     void Image15_Click() { change_overlap(1); }
     void set_overlap(Integer seconds);
+    void UpDown1_Change();
 
     /// The load step on and off.
     void coche4_Click();
@@ -48,6 +49,7 @@ private:
     void change_overlap(int step);
     void start_special_mix(Deck& deck);
     void show_overlap();
+    void store_overlap();
     [[nodiscard]] bool is_mode_defined() const;
 
     Desk& desk_;

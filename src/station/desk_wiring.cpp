@@ -136,10 +136,8 @@ void DeskWiring::connect_menu_labels() {
 }
 
 void DeskWiring::paint_windows() {
-    paint(station_.options_window, station_.settings, ButtonColour::of_buttons);
-    for (Window* window : {static_cast<Window*>(&station_.small_player), static_cast<Window*>(&station_.list_window),
-                           static_cast<Window*>(&station_.main_window), static_cast<Window*>(&station_.about_window)})
-        paint(*window, station_.settings);
+    for (Window* window : station_.windows())
+        paint_station_window(*window, station_.settings);
 }
 
 } // namespace sonarelle

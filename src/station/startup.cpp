@@ -190,7 +190,7 @@ void Startup::act_on_command_line() {
     const std::string_view opened{ligne_commande_};
     const std::string_view without_last = left(opened, count - 1);
     ligne_commande_ = std::string{without_last.substr(left(without_last, 1).size())};
-    parts_.desk.chain.extension_fichier = extension_of(ligne_commande_);
+    détecte_ext();
     if (parts_.desk.chain.extension_fichier != "dfm")
         return play_on_small_player();
     parts_.modes.Image13_Click();
@@ -198,6 +198,10 @@ void Startup::act_on_command_line() {
     if (parts_.desk.list_window.ListView1.selected() == 0)
         parts_.desk.list_window.ListView1.select(1);
     parts_.list_run.Image1_Click();
+}
+
+void Startup::détecte_ext() {
+    parts_.desk.chain.extension_fichier = extension_of(ligne_commande_);
 }
 
 void Startup::play_on_small_player() {

@@ -64,6 +64,7 @@ private:
     void greet_first_start();
     void store_program_folder();
     void act_on_command_line();
+    void détecte_ext();
     void play_on_small_player();
     void report(const Failure& failure);
 

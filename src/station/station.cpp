@@ -134,6 +134,7 @@ void Station::connect_chain_choices() {
     main_window.Image13.on_click = [this] { chain_modes.Image13_Click(); };
     main_window.Image14.on_click = [this] { mix_engine.Image14_Click(); };
     main_window.Image15.on_click = [this] { mix_engine.Image15_Click(); };
+    main_window.UpDown1.on_change = [this] { mix_engine.UpDown1_Change(); };
     main_window.Active_audio_jingles.on_click = [this] { mix_engine.Active_audio_jingles_Click(); };
     main_window.Active_audio.on_click = [this] { mix_engine.Active_audio_Click(); };
     main_window.Active_audio_zapping.on_click = [this] { mix_engine.Active_audio_zapping_Click(); };

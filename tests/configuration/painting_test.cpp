@@ -70,6 +70,32 @@ TEST_F(PaintingTest, GivesPlainButtonsTheButtonColourWhereTheWindowAsksForIt) {
     expect_colours(button, desktop_text, 6);
 }
 
+TEST_F(PaintingTest, TakesTheButtonColourInTheDialogsAlone) {
+    Window options{"Form_options"};
+    Button save{options, "Command3"};
+    Window main{"Antenne_FM"};
+    Button open{main, "Command1"};
+    paint_station_window(options, settings);
+    paint_station_window(main, settings);
+    EXPECT_EQ(save.back_colour.get(), 6);
+    EXPECT_EQ(open.back_colour.get(), 5);
+}
+
+TEST_F(PaintingTest, LeavesTheWarningAsTheDesktopHasIt) {
+    Window warning{"err_form"};
+    Label text{warning, "Label1"};
+    paint_station_window(warning, settings);
+    expect_colours(warning, desktop_text, desktop_face);
+    expect_colours(text, desktop_text, desktop_face);
+}
+
+TEST_F(PaintingTest, FillsTheBoxesOfTheHourlyStyles) {
+    Window styles{"Form_options_jingles"};
+    TextBox hour{styles, "Text1"};
+    paint_station_window(styles, settings);
+    EXPECT_EQ(hour.text(), "*.mp3 - *.wav");
+}
+
 TEST_F(PaintingTest, HoverFollowsTheLabelColourInForce) {
     Label first{window, "Label1"};
     Label second{window, "Label2"};

@@ -37,6 +37,14 @@ TEST_F(JournalTest, WritesALineForWhoeverAsksAlsoWhileItIsOff) {
                               "cution de Sonarelle\r\n");
 }
 
+TEST_F(JournalTest, OfTheListWindowTellsTheOperatorThatItCantBeWritten) {
+    station.main_window.Active_journal.click();
+    machine.disk.refuse("C:\\Sonarelle\\journal.doc", 70);
+    machine.dialogs.expect_box("Erreur écriture journal", Answer::ok);
+    station.list_window.Image3.click();
+    EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
+}
+
 TEST_F(JournalTest, EntriesOfTheMenuExcludeEachOther) {
     station.main_window.Active_journal1.click();
     EXPECT_EQ(checks(), (std::vector<bool>{true, false, false}));
@@ -135,6 +143,7 @@ TEST_F(JournalTest, ThatCannotBeWrittenHoldsNothingUp) {
     machine.disk.put_file("C:\\Sonarelle\\journal.doc", "x");
     machine.disk.set_read_only("C:\\Sonarelle\\journal.doc");
     open_tracks({100, 100});
+    machine.dialogs.expect_box("Erreur écriture journal", Answer::ok);
     start_list();
     machine.run_for(seconds(95));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));

@@ -86,6 +86,17 @@ TEST_F(MixEngineTest, OverlapThatMeetsTheLoadLeadPushesItAhead) {
     EXPECT_EQ(station.settings.prechargement, 10);
 }
 
+TEST_F(MixEngineTest, OverlapFieldsCompanionGivesItItsValue) {
+    EXPECT_EQ(station.main_window.UpDown1.value(), 6);
+    station.main_window.UpDown1.set_value(9);
+    EXPECT_EQ(station.main_window.Text1.text(), "9");
+    EXPECT_EQ(station.settings.mix_courant, 9);
+    EXPECT_EQ(station.settings.mix_defaut, 9);
+    EXPECT_EQ(machine.settings.GetSetting(settings_application, "Config", "Mix", ""), "9");
+    station.main_window.Image14.click();
+    EXPECT_EQ(station.main_window.UpDown1.value(), 8);
+}
+
 TEST_F(MixEngineTest, OverlapIsStoredAtOnce) {
     station.main_window.Image15.click();
     EXPECT_EQ(machine.settings.GetSetting(settings_application, "Config", "Mix", ""), "7");

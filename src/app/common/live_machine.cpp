@@ -1,6 +1,7 @@
 #include "app/common/live_machine.h"
 
 #include "platform/audio/sdl_devices.h"
+#include "platform/disk_patience.h"
 #include "platform/numbers.h"
 
 namespace sonarelle {
@@ -14,9 +15,9 @@ std::uint64_t clock_entropy() {
 } // namespace
 
 LiveMachine::LiveMachine(DriveTable drives, std::uint64_t seed)
-    : disk_{std::move(drives)}, media_{clock_, bus_, std::make_shared<MachineFiles>(),
-                                       [this](std::string_view path) { return disk_.machine_path(path); },
-                                       Decoding::by_threads},
+    : drives_{std::move(drives)}, disk_{drives_, std::make_shared<DiskPatience>(station_patience)},
+      media_{clock_, bus_, std::make_shared<MachineFiles>(),
+             [this](std::string_view path) { return disk_.machine_path(path); }, Decoding::by_threads},
       random_{seed, clock_entropy} {}
 
 Platform LiveMachine::platform(Settings& settings, Dialogs& dialogs, Shell& shell, const std::string& program_folder) {

@@ -51,6 +51,7 @@ public:
     [[nodiscard]] LiveDriver& driver() { return driver_; }
 
 private:
+    DriveTable drives_;
     HostDisk disk_;
     HostShell shell_{disk_};
     Scheduler scheduler_;

@@ -19,6 +19,7 @@ public:
     explicit Machine(CommonOptions options);
 
     [[nodiscard]] HostSettings& settings() { return settings_; }
+    [[nodiscard]] const HostFolders& folders() const { return folders_; }
     [[nodiscard]] const DriveTable& drives();
 
     /// A file named on the command line: exactly this name, as the shell and its completion spell it, in the reach of a

@@ -36,9 +36,13 @@ std::vector<std::string> names_in(const std::string& folder) {
     return names;
 }
 
+std::string path_in(const std::string& folder, const std::string& name) {
+    return (std::filesystem::path{folder} / name).string();
+}
+
 bool is_supplied(const std::string& folder, const std::string& name) {
     std::error_code error;
-    return !name.starts_with('.') && std::filesystem::is_regular_file(folder + "/" + name, error);
+    return !name.starts_with('.') && std::filesystem::is_regular_file(path_in(folder, name), error);
 }
 
 void copy_file(const std::string& from, const std::string& to) {
@@ -79,7 +83,7 @@ void fill_program_folder(const std::string& supplied, const std::string& program
         present.insert(lower_case(name));
     for (const std::string& name : names_in(supplied))
         if (is_supplied(supplied, name) && !present.contains(lower_case(name)))
-            copy_file(supplied + "/" + name, program_folder + "/" + name);
+            copy_file(path_in(supplied, name), path_in(program_folder, name));
 }
 
 } // namespace sonarelle

@@ -52,6 +52,8 @@ public:
         return result.get();
     }
 
+    [[nodiscard]] const Limit& limit() const { return limit_; }
+
 private:
     struct Silent {
         std::string folder;

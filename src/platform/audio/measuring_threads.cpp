@@ -80,7 +80,7 @@ void MeasuringThreads::Work::run() {
     answered.notify_all();
 }
 
-MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, Patience patience)
+MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience::Limit patience)
     : work_{std::make_shared<Work>(std::move(files))}, resolve_{std::move(resolve)}, patience_{patience} {
     const unsigned count = std::max(1U, std::thread::hardware_concurrency());
     for (unsigned thread = 0; thread < count; ++thread)

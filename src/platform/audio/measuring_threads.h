@@ -9,8 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/audio/patience.h"
 #include "platform/audio/sound_files.h"
+#include "platform/disk_patience.h"
 #include "platform/lengths_ahead.h"
 
 namespace sonarelle {
@@ -24,7 +24,7 @@ public:
     using Resolve = std::function<std::string(std::string_view)>;
 
     /// With limited patience a file that takes longer counts as one whose disk has failed.
-    MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, Patience patience);
+    MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience::Limit patience);
     ~MeasuringThreads() override;
     MeasuringThreads(const MeasuringThreads&) = delete;
     MeasuringThreads& operator=(const MeasuringThreads&) = delete;
@@ -41,7 +41,7 @@ private:
 
     const std::shared_ptr<Work> work_; // shared with threads that are left behind
     const Resolve resolve_;
-    const Patience patience_;
+    const DiskPatience::Limit patience_;
     std::vector<std::thread> threads_;
 };
 

@@ -9,7 +9,10 @@ namespace sonarelle {
 
 /// What the program is, and a door to the system's own information.
 struct frmAbout : Window {
-    frmAbout() : Window{"frmAbout"} { caption = "À propos de " + std::string{application_title}; }
+    frmAbout() : Window{"frmAbout"} {
+        caption = "À propos de " + std::string{application_title};
+        on_unload_request = [this] { hide(); };
+    }
 
     Label lblTitle{*this, "lblTitle", std::string{application_title}};
     Label lblVersion{*this, "lblVersion", "FREEWARE   Version " + version_text()};
@@ -20,7 +23,10 @@ struct frmAbout : Window {
 
 /// How to take a new version.
 struct vbplus : Window {
-    vbplus() : Window{"vbplus"} { caption = "Info mise a jour"; }
+    vbplus() : Window{"vbplus"} {
+        caption = "Info mise a jour";
+        on_unload_request = [this] { hide(); };
+    }
 
     Label step1{*this, "step1", "1° télecharger la derniere version de " + std::string{application_title} + ".exe"};
     Label site{*this, "site", "Sur : " + std::string{maker::site}}; ///< Opens the site.

@@ -8,6 +8,7 @@ namespace sonarelle {
 struct Chargement : Window {
     Chargement() : Window{"Chargement"} {
         caption = "Chargement en cours ...";
+        on_unload_request = [this] { hide(); };
         width = Twips{7500};
         height = Twips{5250};
         Image1.width = width.get() - Twips{100};

@@ -30,6 +30,7 @@ DeskWiring::DeskWiring(Station& station)
     connect_quick_load();
     connect_windows();
     connect_menu_labels();
+    answer_for_missing_windows();
     small_player.connect();
     about.connect();
 }
@@ -133,6 +134,17 @@ void DeskWiring::connect_menu_labels() {
     const std::array update_labels{&station_.update_window.site, &station_.update_window.download,
                                    &station_.update_window.mail};
     connect_hover(station_.update_window, update_labels, station_.settings);
+}
+
+// An entry whose window isn't built yet says so; the window's own wiring takes the entry over.
+void DeskWiring::answer_for_missing_windows() {
+    Antenne_FM& window = station_.main_window;
+    const auto answer = [this] { station_.desk.inform("Cette fenètre n'est pas encore disponible"); };
+    for (MenuItem* entry : {&window.A_gere, &window.ecoute, &window.a_assosiation, &window.Afficher_C_aleatoire})
+        if (!entry->on_click)
+            entry->on_click = answer;
+    if (!window.Image17.on_click)
+        window.Image17.on_click = answer;
 }
 
 void DeskWiring::paint_windows() {

@@ -40,6 +40,7 @@ private:
     void connect_quick_load();
     void connect_windows();
     void connect_menu_labels();
+    void answer_for_missing_windows();
 
     Station& station_;
 };

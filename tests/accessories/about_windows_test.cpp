@@ -60,6 +60,15 @@ TEST_F(AboutWindowsTest, TellTheVersion) {
     EXPECT_FALSE(about.visible);
 }
 
+TEST_F(AboutWindowsTest, AreClosedByTheirOwnCloseButtonsToo) {
+    for (Window* closed :
+         {static_cast<Window*>(&about), static_cast<Window*>(&update), static_cast<Window*>(&station.splash)}) {
+        closed->show();
+        closed->ask_to_close();
+        EXPECT_FALSE(closed->visible) << closed->name();
+    }
+}
+
 TEST_F(AboutWindowsTest, StartTheSystemsInformation) {
     EXPECT_EQ(about.cmdSysInfo.caption.get(), "&Infos système...");
     about.cmdSysInfo.click();

@@ -2,13 +2,15 @@
 #include <istream>
 #include <ostream>
 
+#include "app/common/machine.h"
 #include "app/outil/commands.h"
 #include "app/outil/list_json.h"
-#include "app/common/machine.h"
 #include "app/outil/printable.h"
 #include "platform/failure.h"
+#include "platform/host/host_disk.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playlist/file_existence.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
@@ -131,12 +133,58 @@ void convert(const Call& call) {
     written->commit();
 }
 
+std::string_view word_of(FileState state) {
+    switch (state) {
+    case FileState::present:
+        return "present";
+    case FileState::missing:
+        return "absent";
+    case FileState::folder_missing:
+        return "dossier absent";
+    case FileState::on_network:
+        return "reseau";
+    }
+    return {};
+}
+
+/// What can't be looked at, for want of rights, can't be played either.
+FileState state_of(Disk& disk, const std::string& path) {
+    FileState state = FileState::missing;
+    ErrorIndicator{}.skip([&] { state = look_for_file(disk, path).state; });
+    return state;
+}
+
+/// As the list window tests its rows, but nothing is taken out.
+void verify(const Call& call) {
+    const std::string& file = call.arguments.filled_word(0, "FICHIER.dfm");
+    call.arguments.expect_at_most(1);
+    check_extension(file, "dfm");
+    Machine machine{call.options};
+    HostDisk disk{machine.drives()};
+    ListReader reader{machine.open(file)};
+    const bool json = call.arguments.has(json_option.name);
+    std::int64_t missing = 0;
+    for_each_record(reader, [&](const enreg_liste& record, std::int64_t number) {
+        const std::string path = record.trimmed_chemin();
+        const FileState state = state_of(disk, path);
+        missing += state == FileState::missing || state == FileState::folder_missing ? 1 : 0;
+        if (json)
+            call.out << Json{{"numero", number}, {"chemin", path}, {"etat", word_of(state)}}.dump() << '\n';
+        else
+            call.out << number << "  " << word_of(state) << "  " << printable(path) << '\n';
+    });
+    if (!json)
+        call.out << missing << (missing > 1 ? " fichiers manquants sur " : " fichier manquant sur ") << reader.count()
+                 << '\n';
+}
+
 constexpr std::array json_options{json_option};
 
 constexpr std::array commands{
     Command{"liste voir", "FICHIER [--json]", json_options, view},
     Command{"liste ecrire", "FICHIER.dfm  (le JSON de « liste voir » sur l'entrée standard)", {}, write},
     Command{"liste convertir", "VIEUX.rfm NEUF.dfm", {}, convert},
+    Command{"liste verifier", "FICHIER.dfm [--json]", json_options, verify},
 };
 
 } // namespace

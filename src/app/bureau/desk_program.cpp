@@ -1,0 +1,121 @@
+#include "app/bureau/desk_program.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <random>
+#include <utility>
+
+#include "app/bureau/signal_watch.h"
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+#include "platform/host/machine_paths.h"
+#include "platform/host/output_choice.h"
+#include "platform/host/program_files.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr int twips_of_pixel = 15;
+
+ScreenSize screen_size() {
+    const QSize pixels = QGuiApplication::primaryScreen()->availableSize();
+    return {Twips{pixels.width() * twips_of_pixel}, Twips{pixels.height() * twips_of_pixel}};
+}
+
+/// A picture that can't be put in its place is missed where it is shown, by name.
+std::string filled_program_folder(Machine& machine) {
+    std::string folder = machine.make_program_folder();
+    if (const auto supplied = supplied_files())
+        ErrorIndicator{}.skip([&] { fill_program_folder(*supplied, machine.folders().program); });
+    return folder;
+}
+
+/// The form in which the station gets its command line.
+std::string quoted(const std::string& path) {
+    return path.empty() ? path : '"' + path + '"';
+}
+
+} // namespace
+
+DeskProgram::DeskProgram(Machine& machine, const std::string& file)
+    : machine_{machine}, command_line_{quoted(
+                             file.empty() ? file : station_path_of(machine.drives(), absolute_machine_path(file)))},
+      program_folder_{filled_program_folder(machine)}, live_{machine.drives(), std::random_device{}()},
+      dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }}, station_{platform()},
+      pictures_{[this](const std::string& name) { return picture_path(name); }},
+      services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_},
+      desktop_{station_.windows(), station_.desk, services_, probe_.reading()},
+      pulse_{live_.driver().wake_descriptor(), [this] {
+                 std::chrono::nanoseconds rest{};
+                 guard([&] { rest = live_.driver().poll(); });
+                 return rest;
+             }} {
+    live_.driver().sleep = [this](std::chrono::nanoseconds time) { pulse_.serve(time); };
+    connect();
+}
+
+DeskProgram::~DeskProgram() = default;
+
+Platform DeskProgram::platform() {
+    Platform platform = live_.platform(machine_.settings(), dialogs_, shell_, program_folder_);
+    platform.screen = screen_size();
+    return platform;
+}
+
+PathForms DeskProgram::path_forms() {
+    return {[this](const std::string& path) { return live_.disk().machine_path(path); },
+            [this](const std::string& path) { return station_path_of(machine_.drives(), path); }};
+}
+
+std::string DeskProgram::picture_path(const std::string& name) {
+    std::string path;
+    ErrorIndicator{}.skip([&] { path = live_.disk().machine_path(name); });
+    return path;
+}
+
+void DeskProgram::run_event(const std::function<void()>& event) {
+    if (station_.ended())
+        return;
+    guard([&] { live_.driver().run_event(event); });
+    pulse_.beat();
+}
+
+void DeskProgram::guard(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const Failure& failure) {
+        dialogs_.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    }
+}
+
+void DeskProgram::connect() {
+    station_.on_end = [] { QCoreApplication::exit(); }; // quit() would ask the windows, which refuse
+    desktop_.offer_outputs({[this] { return live_.output()->device_names(); },
+                            [this] { return live_.output()->chosen(); },
+                            [this](const std::string& name) { choose_output(name); }});
+    live_.media().on_trouble = [this](const SoundReport& report) {
+        station_.journal.note(date_and_time(station_.desk.platform) + " " + trouble_text(report));
+    };
+}
+
+void DeskProgram::run() {
+    const SignalWatch watch{[this] { run_event([this] { station_.desk_wiring.shutdown.quit_confirmed(); }); }};
+    live_.open_output(load_output_choice(machine_.folders().output_choice),
+                      [this](OutputState state) { tell_output(state); });
+    // Ending ends a loop that turns already, so the station begins inside it.
+    QTimer::singleShot(0, [this] { run_event([this] { station_.desk_wiring.startup.enter_program(command_line_); }); });
+    QApplication::exec();
+}
+
+void DeskProgram::tell_output(OutputState state) {
+    station_.journal.note(date_and_time(station_.desk.platform) + " " + state_text(state));
+    desktop_.show_output(state_text(state));
+}
+
+void DeskProgram::choose_output(const std::string& name) {
+    live_.output()->choose(name);
+    guard([&] { save_output_choice(machine_.folders().output_choice, name); });
+}
+
+} // namespace sonarelle

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/bureau/sound_probe.h"
+#include "app/common/live_machine.h"
+#include "app/common/machine.h"
+#include "platform/desktop/desktop.h"
+#include "platform/desktop/desktop_dialogs.h"
+#include "platform/desktop/desktop_shell.h"
+#include "platform/desktop/picture_store.h"
+#include "platform/desktop/pulse.h"
+#include "platform/desktop/update_queue.h"
+#include "station/station.h"
+
+namespace sonarelle {
+
+/// The desk: a station on this machine's sound, disk and screen. One QApplication stands around it. Window thread.
+class DeskProgram {
+public:
+    /// `file`, a path of this machine as typed, or empty, is what the station opens and plays.
+    /// @throws Failure for a file that no drive reaches, and for a folder that can't be made.
+    DeskProgram(Machine& machine, const std::string& file);
+    ~DeskProgram();
+    DeskProgram(const DeskProgram&) = delete;
+    DeskProgram& operator=(const DeskProgram&) = delete;
+
+    /// Goes on the air and turns the windows' loop until the station has ended.
+    void run();
+
+    [[nodiscard]] Station& station() { return station_; }
+    [[nodiscard]] LiveMachine& live() { return live_; }
+    [[nodiscard]] QWidget* widget_of(const Window& window) const { return desktop_.widget_of(window); }
+
+private:
+    [[nodiscard]] Platform platform();
+    [[nodiscard]] PathForms path_forms();
+    /// Empty where there is none.
+    [[nodiscard]] std::string picture_path(const std::string& name);
+    void run_event(const std::function<void()>& event);
+    /// A fault that no routine of the station caught is told, and the station stays on the air.
+    void guard(const std::function<void()>& work);
+    void connect();
+    void choose_output(const std::string& name);
+    void tell_output(OutputState state);
+
+    Machine& machine_;
+    std::string command_line_;
+    std::string program_folder_;
+    LiveMachine live_;
+    DesktopDialogs dialogs_;
+    DesktopShell shell_{live_.shell()};
+    Station station_;
+    UpdateQueue updates_;
+    PictureStore pictures_;
+    DesktopServices services_;
+    SoundProbe probe_{live_.bus().taps()};
+    Desktop desktop_;
+    Pulse pulse_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,49 @@
+#include "app/bureau/signal_watch.h"
+
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <system_error>
+#include <utility>
+
+namespace sonarelle {
+
+namespace {
+
+// A signal's handler can reach nothing else.
+int wake_descriptor = -1;
+
+void wake(int) {
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const auto count = ::write(wake_descriptor, &one, sizeof one);
+}
+
+int open_descriptor() {
+    wake_descriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    if (wake_descriptor < 0)
+        throw std::system_error{errno, std::generic_category()};
+    return wake_descriptor;
+}
+
+} // namespace
+
+SignalWatch::SignalWatch(std::function<void()> on_signal) : notifier_{open_descriptor(), QSocketNotifier::Read} {
+    QObject::connect(&notifier_, &QSocketNotifier::activated, [on_signal = std::move(on_signal)] {
+        std::uint64_t ignored = 0;
+        [[maybe_unused]] const auto count = ::read(wake_descriptor, &ignored, sizeof ignored);
+        on_signal();
+    });
+    for (const int signal : {SIGINT, SIGTERM})
+        std::signal(signal, wake);
+}
+
+SignalWatch::~SignalWatch() {
+    for (const int signal : {SIGINT, SIGTERM})
+        std::signal(signal, SIG_DFL);
+    ::close(wake_descriptor);
+}
+
+} // namespace sonarelle

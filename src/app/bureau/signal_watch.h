@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <functional>
+
+namespace sonarelle {
+
+/// Tells of SIGINT and SIGTERM in the windows' loop. One at a time in a process.
+class SignalWatch {
+public:
+    explicit SignalWatch(std::function<void()> on_signal);
+    ~SignalWatch();
+    SignalWatch(const SignalWatch&) = delete;
+    SignalWatch& operator=(const SignalWatch&) = delete;
+
+private:
+    QSocketNotifier notifier_;
+};
+
+} // namespace sonarelle

@@ -44,6 +44,9 @@ public:
     /// A new track overlaps the old one from now on.
     void begin_overlap() { faded_deck_ = 0; }
 
+    /// Journals that the row's disk was silent for too long.
+    void note_silent_disk();
+
     /// Ends the walks that look for a row.
     void cancel_walks();
 

@@ -168,10 +168,14 @@ void AutoChain::loaded() {
 
 /// The row of a disk that doesn't answer may be sound again tomorrow, so it stays in the list.
 void AutoChain::pass_over_row(RowWalk& walk) {
-    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
-                  " Le disque ne répond pas");
+    note_silent_disk();
     desk_.chain.chargement_fait = false;
     walk.rest();
+}
+
+void AutoChain::note_silent_disk() {
+    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
+                  " Le disque ne répond pas");
 }
 
 void AutoChain::drop_invalid_row() {

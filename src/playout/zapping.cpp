@@ -113,8 +113,7 @@ void Zapping::zap_in_list(Deck& old) {
         } else {
             chain_.take_next_row();
         }
-        run_.detecte_fichier_liste();
-    } while (desk_.list.chemin_fichier.empty());
+    } while (!is_found());
     chain_.cancel_walks();
     chain_.begin_overlap();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
@@ -137,6 +136,19 @@ void Zapping::zap_in_list(Deck& old) {
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
+}
+
+/// Whether the row's file is there; a row whose disk doesn't answer is passed over and kept.
+bool Zapping::is_found() {
+    try {
+        run_.detecte_fichier_liste();
+        return !desk_.list.chemin_fichier.empty();
+    } catch (const Failure& failure) {
+        if (failure.number != failure_number::device_fault)
+            throw;
+        chain_.note_silent_disk();
+        return false;
+    }
 }
 
 void Zapping::zap_over_decks(Deck& old) {

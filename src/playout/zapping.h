@@ -30,6 +30,7 @@ private:
     void refuse_too_early();
     void store_end_point();
     void zap_in_list(Deck& old);
+    [[nodiscard]] bool is_found();
     void zap_over_decks(Deck& old);
     void hand_over(Deck& old);
     void tell(const std::string& text, Icon icon);

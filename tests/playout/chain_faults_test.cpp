@@ -258,4 +258,62 @@ TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAns
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
+namespace {
+
+// Row 2 lies on drive D, which stops answering.
+class SilentDriveTest : public ChainFaultsTest {
+protected:
+    void open_tracks_and_start(int first_length) {
+        station.main_window.Active_journal.click();
+        machine.disk.add_drive("D");
+        machine.add_track(silent, 100);
+        machine.add_track(track(1), first_length);
+        machine.add_track(track(3), 100);
+        open_list("C:\\Sonarelle\\essai.dfm",
+                  {record_of(track(1), std::to_string(first_length), 100, 0.0), record_of(silent, "100", 100, 0.0),
+                   record_of(track(3), "100", 100, 0.0)});
+        rows().select(1);
+        start_list();
+        machine.disk.take("D:\\", seconds(2));
+        machine.disk.refuse("D:\\", failure_number::device_fault);
+    }
+    void expect_passed_over_and_kept() {
+        EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+        EXPECT_EQ(rows().count(), 3);
+        EXPECT_NE(journal_text().find(" fichier : " + silent + " Le disque ne r\xE9pond pas"), std::string::npos);
+    }
+
+    const std::string silent = "D:\\Musique\\b.mp3";
+};
+
+} // namespace
+
+TEST_F(SilentDriveTest, PassesItsRowOverAtTheLoad) {
+    open_tracks_and_start(100);
+    play_for(110);
+    expect_passed_over_and_kept();
+}
+
+TEST_F(SilentDriveTest, PassesItsRowOverBehindAnItemTooShortForALoad) {
+    open_tracks_and_start(2);
+    play_for(20);
+    expect_passed_over_and_kept();
+}
+
+TEST_F(SilentDriveTest, PassesItsRowOverAtAZapByKey) {
+    open_tracks_and_start(100);
+    play_for(40);
+    station.main_window.key_press(U'z');
+    play_for(5);
+    expect_passed_over_and_kept();
+}
+
+TEST_F(SilentDriveTest, PassesItsRowOverAtAZapByTheButton) {
+    open_tracks_and_start(100);
+    play_for(40);
+    controls(1).zap.click();
+    play_for(10);
+    expect_passed_over_and_kept();
+}
+
 } // namespace sonarelle

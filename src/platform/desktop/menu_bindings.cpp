@@ -1,6 +1,7 @@
 #include "platform/desktop/menu_bindings.h"
 
 #include <QCursor>
+#include <algorithm>
 
 #include "platform/desktop/qt_text.h"
 
@@ -39,10 +40,12 @@ void MenuItemBinding::show_value() {
     action_->setShortcut(QKeySequence{to_qt(item_.shortcut)});
     action_->setEnabled(item_.enabled);
     action_->setVisible(item_.visible);
-    if (menu_ != nullptr)
-        return;
-    action_->setCheckable(item_.checked);
-    action_->setChecked(item_.checked);
+    if (menu_ == nullptr) {
+        action_->setCheckable(item_.checked);
+        action_->setChecked(item_.checked);
+    }
+    if (on_shown)
+        on_shown();
 }
 
 MenuBindings::MenuBindings(Window& window, QWidget& widget, const DesktopServices& services)
@@ -76,8 +79,15 @@ QAction& MenuBindings::action(MenuItem& item) {
 }
 
 void MenuBindings::fill(QMenuBar& bar) {
-    for (MenuItem* item : window_.menu_bar)
+    for (MenuItem* item : window_.menu_bar) {
         bar.addAction(&entry(*item).action());
+        entry(*item).on_shown = [this, &bar] { show_bar(bar); };
+    }
+    show_bar(bar);
+}
+
+void MenuBindings::show_bar(QMenuBar& bar) const {
+    bar.setVisible(std::ranges::any_of(window_.menu_bar, [](const MenuItem* item) { return item->visible.get(); }));
 }
 
 // Opens without waiting: the handler that asked for it goes on.

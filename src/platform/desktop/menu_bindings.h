@@ -25,6 +25,9 @@ public:
     /// Null for an entry without entries.
     [[nodiscard]] QMenu* menu() const { return menu_.get(); }
 
+    /// Called after each update.
+    std::function<void()> on_shown;
+
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
 
@@ -42,6 +45,7 @@ public:
     MenuBindings(const MenuBindings&) = delete;
     MenuBindings& operator=(const MenuBindings&) = delete;
 
+    /// The bar goes while all its menus are hidden.
     void fill(QMenuBar& bar);
     void popup(MenuItem& item);
     /// The entry's action, for a tool button or a shortcut.
@@ -50,6 +54,7 @@ public:
 
 private:
     MenuItemBinding& entry(MenuItem& item);
+    void show_bar(QMenuBar& bar) const;
 
     Window& window_;
     QWidget& widget_;

@@ -18,14 +18,36 @@ RowTableBinding::RowTableBinding(RowTable& table, QTableView& widget, const Desk
     : Binding{table, widget, services}, table_{table}, view_{widget}, model_{table, services.updates} {
     view_.setModel(&model_);
     dress();
-    connect(view_.selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
-        if (!selecting_ && index.isValid())
-            run([&] { table_.click(index.row() + 1); });
+    view_.viewport()->installEventFilter(this);
+    connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection& chosen) { rows_chosen(chosen); });
+    connect(&view_, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
+        if (!chosen_by_press_)
+            press(index.row() + 1);
     });
     model_.on_edited = [this](int row, const std::string& text) { run([&] { table_.edit_label(row, text); }); };
     model_.on_selected = [this](int row) { select(row); };
     model_.on_shown = [this](int row) { scroll_to(row); };
     select(table.selected());
+}
+
+void RowTableBinding::press(int row) {
+    run([&] { table_.click(row); });
+}
+
+// The arrow keys choose a row as a press does. A table that merely gets the focus chooses none.
+void RowTableBinding::rows_chosen(const QItemSelection& chosen) {
+    if (selecting_ || chosen.isEmpty())
+        return;
+    chosen_by_press_ = true;
+    press(chosen.first().top() + 1);
+}
+
+// A press on the row that is selected already is a press, too.
+bool RowTableBinding::eventFilter(QObject* object, QEvent* event) {
+    if (object == view_.viewport() && event->type() == QEvent::MouseButtonPress)
+        chosen_by_press_ = false;
+    return Binding::eventFilter(object, event);
 }
 
 void RowTableBinding::dress() {

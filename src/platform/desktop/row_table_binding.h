@@ -17,8 +17,11 @@ public:
 protected:
     void show_state() override;
     void paint(QPalette& palette) const override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void press(int row);
+    void rows_chosen(const QItemSelection& chosen);
     void dress();
     void select(int row);
     void scroll_to(int row);
@@ -27,6 +30,7 @@ private:
     QTableView& view_;
     RowTableModel model_;
     bool selecting_ = false;
+    bool chosen_by_press_ = false;
 };
 
 } // namespace sonarelle

@@ -41,7 +41,6 @@ WindowView::WindowView(Window& window, const DesktopServices& services, QSize le
     column->setMenuBar(bar_);
     column->addWidget(content_);
     menus_.fill(*bar_);
-    bar_->setVisible(!window.menu_bar.empty());
     setMinimumSize(least);
     const QSize wished{pixels(window.width), pixels(window.height)};
     resize(least.expandedTo(wished));
@@ -66,8 +65,6 @@ bool WindowView::is_bound(const Control& control) const {
 void WindowView::show_value() {
     showing_ = true;
     setWindowTitle(to_qt(window_.caption));
-    const auto any = std::ranges::any_of(window_.menu_bar, [](const MenuItem* item) { return item->visible.get(); });
-    bar_->setVisible(any);
     setCursor(window_.mouse_pointer == 11   ? Qt::WaitCursor
               : window_.mouse_pointer == 13 ? Qt::BusyCursor
                                             : Qt::ArrowCursor);
@@ -81,6 +78,8 @@ void WindowView::show_place() {
     const QSize size = minimumSize().expandedTo({pixels(window_.width), pixels(window_.height)});
     if (window_.width.get().count() > 0 && size != this->size())
         resize(size);
+    else
+        keep_size();
     const QPoint place{pixels(window_.left), pixels(window_.top)};
     if (place != pos() && (was_placed_ || !place.isNull()))
         move(place);
@@ -195,6 +194,12 @@ void WindowView::keep_place() {
         return;
     window_.left = twips(pos().x());
     window_.top = twips(pos().y());
+    keep_size();
+}
+
+void WindowView::keep_size() {
+    if (!isVisible() || isMinimized() || isMaximized())
+        return;
     window_.width = twips(width());
     window_.height = twips(height());
 }

@@ -60,6 +60,7 @@ private:
     void show_place();
     void show_state();
     void keep_place();
+    void keep_size();
     void watch_keys();
     void pass_characters(const QString& text);
     void activated();

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <memory>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/desktop/desktop.h"
+#include "platform/desktop/desktop_services.h"
+#include "platform/desktop/picture_store.h"
+#include "platform/desktop/update_queue.h"
+
+namespace sonarelle {
+
+/// An application without a screen. Every event that comes through the door is counted.
+class DesktopBench : public testing::Test {
+protected:
+    DesktopBench() { dress_application(); }
+
+    /// What the windows' loop does between two events.
+    void settle() {
+        updates.flush();
+        QCoreApplication::processEvents();
+        updates.flush();
+    }
+
+private:
+    struct Offscreen {
+        Offscreen() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
+    };
+
+    Offscreen offscreen_;
+    int count_ = 1;
+    std::string name_ = "desktop";
+    char* words_[2] = {name_.data(), nullptr};
+    QApplication application_{count_, words_};
+
+protected:
+    int events = 0;
+    UpdateQueue updates;
+    PictureStore pictures{[](const std::string& name) { return name; }};
+    DesktopServices services{[this](const std::function<void()>& event) {
+                                 ++events;
+                                 event();
+                             },
+                             updates, pictures};
+    Window window{"feuille"};
+};
+
+} // namespace sonarelle

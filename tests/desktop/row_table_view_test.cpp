@@ -1,0 +1,152 @@
+#include <QScrollBar>
+#include <QTest>
+
+#include "desktop/desktop_bench.h"
+#include "platform/desktop/row_table_binding.h"
+
+namespace sonarelle {
+
+namespace {
+
+class TableView : public DesktopBench {
+protected:
+    void fill(int count) {
+        for (int row = 1; row <= count; ++row)
+            table.append({"D:\\titre " + std::to_string(row) + ".mp3", "0.10", "200.00", "Rock", "100", "00:03:20"});
+        settle();
+    }
+    [[nodiscard]] std::string shown(int row, int column = 0) const {
+        return widget.model()->index(row - 1, column).data().toString().toStdString();
+    }
+
+    RowTable table{window, "ListView1", {{"Chemin", Twips{3000}}, {"Début", Twips{900}}, {"Fin", Twips{900}}}};
+    QTableView widget;
+    RowTableBinding binding{table, widget, services};
+};
+
+TEST_F(TableView, ShowsTheRowsAndColumnsOfTheTable) {
+    fill(3);
+    EXPECT_EQ(widget.model()->rowCount(), 3);
+    EXPECT_EQ(widget.model()->columnCount(), 3);
+    EXPECT_EQ(shown(2), "D:\\titre 2.mp3");
+}
+
+TEST_F(TableView, ChangedCellIsShown) {
+    fill(3);
+    table.set_sub_item(2, 1, "4.20");
+    settle();
+    EXPECT_EQ(shown(2, 1), "4.20");
+}
+
+TEST_F(TableView, InsertedRowPushesTheOthersDown) {
+    fill(3);
+    table.insert(2, {"D:\\neuf.mp3"});
+    settle();
+    EXPECT_EQ(widget.model()->rowCount(), 4);
+    EXPECT_EQ(shown(2), "D:\\neuf.mp3");
+    EXPECT_EQ(shown(3), "D:\\titre 2.mp3");
+}
+
+TEST_F(TableView, RemovedRowIsGone) {
+    fill(3);
+    table.remove(1);
+    settle();
+    EXPECT_EQ(widget.model()->rowCount(), 2);
+    EXPECT_EQ(shown(1), "D:\\titre 2.mp3");
+}
+
+TEST_F(TableView, ManyChangesAreOneNewTable) {
+    fill(3);
+    int resets = 0;
+    QObject::connect(widget.model(), &QAbstractItemModel::modelReset, [&] { ++resets; });
+    fill(1000);
+    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(widget.model()->rowCount(), 1003);
+}
+
+TEST_F(TableView, SelectionStaysOverANewTable) {
+    fill(10);
+    table.select(4);
+    table.remove(9);
+    table.remove(8);
+    settle();
+    EXPECT_EQ(widget.currentIndex().row(), 3);
+}
+
+TEST_F(TableView, SelectionOfTheStationIsShownAndIsNoEvent) {
+    fill(3);
+    table.select(3);
+    settle();
+    EXPECT_EQ(widget.currentIndex().row(), 2);
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(TableView, PressedRowIsSelectedInTheTable) {
+    fill(3);
+    int clicks = 0;
+    table.on_click = [&] { ++clicks; };
+    widget.resize(600, 300);
+    widget.show();
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, widget.visualRect(widget.model()->index(1, 0)).center());
+    EXPECT_EQ(table.selected(), 2);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(TableView, SecondPressOnTheSameRowIsAClickToo) {
+    fill(3);
+    int clicks = 0;
+    table.on_click = [&] { ++clicks; };
+    widget.resize(600, 300);
+    widget.show();
+    const QPoint place = widget.visualRect(widget.model()->index(1, 0)).center();
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(TableView, ArrowKeysChooseRowsAsPressesDo) {
+    fill(3);
+    table.select(1);
+    settle();
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_EQ(table.selected(), 2);
+}
+
+TEST_F(TableView, RowThatMustBeSeenIsScrolledIntoView) {
+    widget.resize(600, 200);
+    widget.show();
+    fill(500);
+    table.ensure_visible(400);
+    settle();
+    EXPECT_TRUE(widget.viewport()->rect().intersects(widget.visualRect(widget.model()->index(399, 0))));
+}
+
+TEST_F(TableView, HundredThousandRowsMakeNoWidgets) {
+    widget.resize(600, 300);
+    widget.show();
+    const auto before = widget.findChildren<QWidget*>().size();
+    fill(100000);
+    EXPECT_EQ(widget.model()->rowCount(), 100000);
+    EXPECT_EQ(widget.findChildren<QWidget*>().size(), before);
+}
+
+TEST_F(TableView, RowsOnTheAirAndNextAreTinted) {
+    fill(3);
+    binding.model().set_marks({.playing = 1, .next = 2});
+    const auto ground = [this](int row) { return widget.model()->index(row - 1, 0).data(Qt::BackgroundRole); };
+    EXPECT_TRUE(ground(1).isValid());
+    EXPECT_TRUE(ground(2).isValid());
+    EXPECT_NE(ground(1), ground(2));
+    EXPECT_FALSE(ground(3).isValid());
+}
+
+TEST_F(TableView, EditedLabelReachesTheTableWhereEditingIsAutomatic) {
+    fill(1);
+    table.label_editing = LabelEditing::automatic;
+    widget.model()->setData(widget.model()->index(0, 0), "D:\\autre.mp3", Qt::EditRole);
+    EXPECT_EQ(table.text(1), "D:\\autre.mp3");
+}
+
+} // namespace
+
+} // namespace sonarelle

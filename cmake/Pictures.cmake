@@ -4,12 +4,15 @@ set(SONARELLE_PICTURES_DIR "${CMAKE_BINARY_DIR}/pictures")
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 file(GLOB drawings CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/assets/*.svg")
 set(pictures_script "${CMAKE_SOURCE_DIR}/scripts/pictures")
+# The help entry opens the operator's guide, which lies beside them.
+set(operators_guide "${CMAKE_SOURCE_DIR}/docs/guide.md")
 # One stamp for all: names of pictures hold blanks, and a picture that left the table must leave the folder.
 add_custom_command(OUTPUT "${CMAKE_BINARY_DIR}/pictures.stamp"
     COMMAND ${CMAKE_COMMAND} -E rm -rf "${SONARELLE_PICTURES_DIR}"
     COMMAND Python3::Interpreter -B "${pictures_script}" "${SONARELLE_PICTURES_DIR}"
+    COMMAND ${CMAKE_COMMAND} -E copy "${operators_guide}" "${SONARELLE_PICTURES_DIR}/guide.md"
     COMMAND ${CMAKE_COMMAND} -E touch "${CMAKE_BINARY_DIR}/pictures.stamp"
-    DEPENDS "${pictures_script}" ${drawings}
+    DEPENDS "${pictures_script}" "${operators_guide}" ${drawings}
     COMMENT "Drawing the pictures"
     VERBATIM)
 add_custom_target(pictures ALL DEPENDS "${CMAKE_BINARY_DIR}/pictures.stamp")

@@ -21,6 +21,7 @@ DeckControls::DeckControls(Window& window, Scheduler& scheduler, const DeckNames
     forward.hint = "Avancer";
     back.hint = "Reculer";
     playing_mark.visible = false;
+    slider.hint = "Volume %100";
     special_mix.hint = "Mixage spécial sur lecteur en cours (" + std::string{names.mix_key} + ") avec : ";
     keep_volume.hint = "Garder le volume dans la liste";
     scroll_timer.set_interval(500);

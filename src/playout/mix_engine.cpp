@@ -38,8 +38,14 @@ void MixEngine::Choix_mix() {
 
 void MixEngine::show_overlap() {
     desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
-    desk_.window.Text1.hint = "Superposition de : " + text_of(desk_.settings.mix_courant) + " seconde(s)";
+    show_hints();
     desk_.window.UpDown1.show_value(desk_.settings.mix_courant.value());
+}
+
+void MixEngine::show_hints() {
+    const StationSettings& s = desk_.settings;
+    desk_.window.Text1.hint = "Superposition de : " + text_of(s.mix_courant) + " seconde(s)";
+    desk_.window.coche4.hint = "Préchargement (" + text_of(s.prechargement) + " s avant le mix) ";
 }
 
 void MixEngine::change_overlap(int step) {
@@ -80,7 +86,7 @@ void MixEngine::coche4_Click() {
     if (!on)
         desk_.chain.point_chargement = 0;
     desk_.settings.prechargement = on ? desk_.settings.prechargement_defaut : Integer{0};
-    desk_.window.coche4.hint = "Préchargement (" + text_of(desk_.settings.prechargement) + " s avant le mix) ";
+    show_hints();
 }
 
 void MixEngine::Désactive_audio_Click() {

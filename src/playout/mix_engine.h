@@ -23,6 +23,9 @@ public:
     void set_overlap(Integer seconds);
     void UpDown1_Change();
 
+    /// The overlap and the load lead in force, where the operator points at them.
+    void show_hints();
+
     /// The load step on and off.
     void coche4_Click();
 

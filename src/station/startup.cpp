@@ -136,6 +136,7 @@ void Startup::create_under_trap() {
     parts_.quick_load.Charge_combo();
     parts_.quick_load.active_text_combo();
     parts_.commands.show_effect(window_.A_visuel_active.checked);
+    parts_.mix.show_hints();
     load_pictures();
     parts_.desk.chain.ligne_journal = date_and_time(platform_) + " Exécution de " + std::string{application_title};
     parts_.journal.journal();

@@ -13,6 +13,7 @@
 #include "playout/desk_commands.h"
 #include "playout/journal.h"
 #include "playout/list_run.h"
+#include "playout/mix_engine.h"
 #include "playout/option_menu.h"
 #include "playout/quick_load.h"
 
@@ -36,6 +37,7 @@ public:
         QuickLoad& quick_load;
         OptionMenu& options;
         DeskCommands& commands;
+        MixEngine& mix;
         std::function<void(Deck&)> press_play;
     };
 

@@ -214,8 +214,9 @@ void Station::connect_keys() {
 }
 
 void Station::press_list_key() {
+    const bool manual = desk.is_manual();
     chain_modes.press_list_key();
-    if (!desk.is_manual())
+    if (!manual)
         desk_wiring.display_menu.affiche_tout_Click();
 }
 

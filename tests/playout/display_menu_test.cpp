@@ -216,6 +216,14 @@ TEST_F(DisplayMenuTest, TheKeyOfTheListShowsBothWindows) {
     EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
 }
 
+TEST_F(DisplayMenuTest, TheKeyOfTheListShowsNothingInManualMode) {
+    window.a_mode_manuel.checked = true;
+    machine.dialogs.expect_box("Vous ètes en mode manuel", Answer::ok);
+    window.key_press(U'L');
+    EXPECT_FALSE(list.visible);
+    EXPECT_THAT(checked_views(), testing::IsEmpty());
+}
+
 TEST_F(DisplayMenuTest, OpeningAListShowsBothWindowsAndAsksForIt) {
     machine.add_track("C:\\Musique\\titre.mp3", 100);
     machine.disk.put_file("C:\\Listes\\soir.dfm", bytes_of({record_of("C:\\Musique\\titre.mp3")}));

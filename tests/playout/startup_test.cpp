@@ -246,6 +246,14 @@ TEST_F(StartupTest, ShowsTheVisualEffectThatWasChosen) {
     EXPECT_TRUE(window.sound_display.takes_sound);
 }
 
+TEST_F(StartupTest, TellsTheOverlapAndTheLoadLeadWhereTheOperatorPoints) {
+    start();
+    EXPECT_EQ(window.Text1.hint.get(), "Superposition de : 6 seconde(s)");
+    EXPECT_EQ(window.coche4.hint.get(), "Préchargement (7 s avant le mix) ");
+    EXPECT_EQ(window.deck(2).slider.hint.get(), "Volume %100");
+    EXPECT_EQ(window.deck(2).special_mix.hint.get(), "Mixage spécial sur lecteur en cours (F9) avec : ");
+}
+
 TEST_F(StartupTest, NamesTheProgramInItsMenus) {
     start();
     EXPECT_EQ(window.a_assosiation.caption.get(), "Associer des fichiers audio , vidéo ou liste a : Sonarelle");

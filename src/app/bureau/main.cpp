@@ -1,11 +1,11 @@
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QTranslator>
 #include <csignal>
 #include <iostream>
 #include <span>
 
 #include "app/bureau/desk_program.h"
+#include "app/bureau/french.h"
 #include "app/common/arguments.h"
 #include "app/common/common_options.h"
 #include "platform/failure.h"
@@ -25,12 +25,6 @@ int run(std::span<char* const> words) {
     DeskProgram program{machine, arguments.words().empty() ? std::string{} : arguments.words().front()};
     program.run();
     return done;
-}
-
-/// Qt's own words in boxes and dialogs are French, as all others are.
-void speak_french(QTranslator& translator) {
-    if (translator.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
 }
 
 int refuse(std::string_view sentence, int status) {

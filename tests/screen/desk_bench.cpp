@@ -1,0 +1,203 @@
+#include "screen/desk_bench.h"
+
+#include <QComboBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "configuration/settings_store.h"
+#include "platform/failure.h"
+#include "platform/host/machine_paths.h"
+
+namespace sonarelle::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto patience = 15s; // far more than a busy machine needs
+
+/// Nothing of the test touches the files of who runs it, and no sound server is found.
+void set_environment(const PrivateFolder& folder) {
+    for (const auto& [name, value] : {std::pair{"XDG_CONFIG_HOME", "config"},
+                                      {"XDG_DATA_HOME", "data"},
+                                      {"XDG_RUNTIME_DIR", "run"},
+                                      {"PULSE_RUNTIME_PATH", "run"}})
+        ::setenv(name, folder.path(value).c_str(), 1);
+    ::setenv("QT_QPA_PLATFORM", "xcb", 1);
+    ::setenv("QT_ENABLE_HIGHDPI_SCALING", "0", 1);
+    folder.put_folder("run");
+    folder.set_rights("run", 0700);
+}
+
+void put_number(std::string& bytes, std::uint32_t number, int size) {
+    for (int i = 0; i < size; ++i)
+        bytes += static_cast<char>(number >> (8 * i) & 0xFF);
+}
+
+/// 8 kHz, one channel, 8 bit: a square wave of 100 Hz.
+std::string wav_bytes(int seconds) {
+    constexpr std::uint32_t rate = 8000;
+    const std::uint32_t count = rate * static_cast<std::uint32_t>(seconds);
+    std::string bytes = "RIFF";
+    put_number(bytes, 36 + count, 4);
+    bytes += "WAVEfmt ";
+    put_number(bytes, 16, 4);
+    for (const auto& [number, size] : {std::pair{1U, 2}, {1U, 2}, {rate, 4}, {rate, 4}, {1U, 2}, {8U, 2}})
+        put_number(bytes, number, size);
+    bytes += "data";
+    put_number(bytes, count, 4);
+    for (std::uint32_t i = 0; i < count; ++i)
+        bytes += static_cast<char>(i / 40 % 2 == 0 ? 0x90 : 0x70);
+    return bytes;
+}
+
+std::string failure_folder() {
+    const std::string folder = std::filesystem::current_path().string() + "/screen-failures";
+    std::filesystem::create_directories(folder);
+    return folder;
+}
+
+} // namespace
+
+DeskBench::DeskBench() {
+    set_environment(folder_);
+    application_ = std::make_unique<QApplication>(argument_count_, arguments_);
+    QApplication::setQuitOnLastWindowClosed(false);
+    speak_french(translator_);
+    dress_application();
+    machine_ = std::make_unique<Machine>(CommonOptions{});
+}
+
+DeskBench::~DeskBench() = default;
+
+void DeskBench::settings_of_a_second_start() {
+    const SettingsStore store{machine_->settings(), machine_->make_program_folder(), DecimalMark::point};
+    store.write_column(&SettingRow::first);
+}
+
+std::string DeskBench::tone(const std::string& name, int seconds) const {
+    folder_.put(name, wav_bytes(seconds));
+    return folder_.path(name);
+}
+
+std::string DeskBench::list_of(int tracks, int seconds) {
+    const char* tool = std::getenv("SONARELLE_OUTIL");
+    const std::string list = folder_.path("air.dfm");
+    std::string command = std::string{tool} + " liste ajouter '" + list + "'";
+    for (int track = 1; track <= tracks; ++track)
+        command += " '" + tone("piste" + std::to_string(track) + ".wav", seconds) + "'";
+    if (std::system(command.c_str()) != 0)
+        throw std::runtime_error{command};
+    return list;
+}
+
+void DeskBench::operate(const std::string& file, const std::function<void()>& hands) {
+    program_ = std::make_unique<DeskProgram>(*machine_, file);
+    std::thread operator_thread{[&] {
+        try {
+            hands();
+        } catch (const std::exception& fault) {
+            ADD_FAILURE() << fault.what();
+        }
+        if (HasFailure())
+            keep_picture_of_failure();
+        if (!ended_)
+            QMetaObject::invokeMethod(application_.get(), [] { QCoreApplication::exit(); });
+    }};
+    program_->run();
+    ended_ = true;
+    operator_thread.join();
+    program_.reset();
+}
+
+void DeskBench::on_window_thread(const std::function<void()>& work) {
+    if (!ended_)
+        QMetaObject::invokeMethod(application_.get(), work, Qt::BlockingQueuedConnection);
+}
+
+void DeskBench::eventually(const std::string& what, const std::function<bool()>& so) {
+    const auto limit = std::chrono::steady_clock::now() + patience;
+    while (std::chrono::steady_clock::now() < limit) {
+        bool is_so = false;
+        on_window_thread([&] { is_so = so(); });
+        if (is_so)
+            return;
+        std::this_thread::sleep_for(20ms);
+    }
+    throw std::runtime_error{"it did not come: " + what};
+}
+
+void DeskBench::key(const std::string& chord) {
+    screen_.hand("key --clearmodifiers " + chord);
+}
+
+void DeskBench::click_at(const std::function<QWidget*()>& find, const std::string& name, int button) {
+    QPoint place;
+    eventually(name + " on the screen", [&] {
+        const QWidget* widget = find();
+        if (widget == nullptr || !widget->isVisible() || !widget->isEnabled())
+            return false;
+        place = widget->mapToGlobal(widget->rect().center());
+        return true;
+    });
+    screen_.hand("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()) + " click " +
+                 std::to_string(button));
+}
+
+void DeskBench::press(const std::string& window, const std::string& control, int button) {
+    const auto find = [&]() -> QWidget* {
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top->objectName() == QString::fromStdString(window))
+                return top->findChild<QWidget*>(QString::fromStdString(control));
+        return nullptr;
+    };
+    click_at(find, window + "." + control, button);
+}
+
+bool DeskBench::is_on_screen(const Window& window) const {
+    const QWidget* widget = program_->widget_of(window);
+    return widget != nullptr && widget->isVisible() && !widget->isMinimized();
+}
+
+bool DeskBench::is_active(const Window& window) const {
+    return is_on_screen(window) && program_->widget_of(window)->isActiveWindow();
+}
+
+void DeskBench::operators_event(const std::function<void()>& event) {
+    on_window_thread([&] { program_->live().driver().run_event(event); });
+}
+
+std::string DeskBench::station_form(const std::string& path) const {
+    return station_path_of(machine_->drives(), path);
+}
+
+std::string DeskBench::box() {
+    return seen<std::string>([]() -> std::string {
+        const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        return open == nullptr ? "" : open->text().toStdString();
+    });
+}
+
+void DeskBench::answer(const std::string& caption) {
+    const auto find = [&]() -> QWidget* {
+        const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (open == nullptr)
+            return nullptr;
+        for (QAbstractButton* button : open->buttons())
+            if (button->text().remove('&') == QString::fromStdString(caption))
+                return button;
+        return nullptr;
+    };
+    click_at(find, "button " + caption, 1);
+}
+
+void DeskBench::keep_picture_of_failure() {
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    screen_.picture(failure_folder() + "/" + test->test_suite_name() + "." + test->name() + ".png");
+}
+
+} // namespace sonarelle::test

@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include "screen/desk_bench.h"
+
+namespace sonarelle::test {
+
+using StartAndEnd = DeskBench;
+
+TEST_F(StartAndEnd, AFirstStartTellsWhatItWroteAndEnds) {
+    operate("", [this] {
+        eventually("the box of a first start", [this] { return QApplication::activeModalWidget() != nullptr; });
+        EXPECT_NE(box().find("Vous pouvez relancer Sonarelle"), std::string::npos);
+        key("Return");
+        while (!has_ended())
+            std::this_thread::yield();
+    });
+}
+
+TEST_F(StartAndEnd, ASecondStartShowsTheMainWindow) {
+    settings_of_a_second_start();
+    operate("", [this] { eventually("the main window", [this] { return is_on_screen(station().main_window); }); });
+}
+
+TEST_F(StartAndEnd, AListOnTheCommandLineIsOnTheAir) {
+    settings_of_a_second_start();
+    operate(list_of(2, 40), [this] {
+        eventually("the first track", [this] { return station().main_window.Label5.caption.get() == "2"; });
+        EXPECT_EQ(text(station().list_window.Label2), "piste1");
+    });
+}
+
+TEST_F(StartAndEnd, AFileOnTheCommandLinePlaysOnTheSmallPlayerAlone) {
+    settings_of_a_second_start();
+    const std::string file = tone("seul.wav", 20);
+    operate(file, [this] {
+        eventually("the small player", [this] { return is_on_screen(station().small_player); });
+        EXPECT_FALSE(seen<bool>([this] { return is_on_screen(station().main_window); }));
+    });
+}
+
+TEST_F(StartAndEnd, QuittingWithNoGoesOn) {
+    settings_of_a_second_start();
+    operate("", [this] {
+        eventually("the main window", [this] { return is_active(station().main_window); });
+        key("q");
+        answer("Non");
+        eventually("the box gone", [] { return QApplication::activeModalWidget() == nullptr; });
+        EXPECT_FALSE(has_ended());
+    });
+}
+
+TEST_F(StartAndEnd, QuittingWithYesEnds) {
+    settings_of_a_second_start();
+    operate("", [this] {
+        eventually("the main window", [this] { return is_active(station().main_window); });
+        key("Escape");
+        answer("Oui");
+        while (!has_ended())
+            std::this_thread::yield();
+    });
+}
+
+TEST_F(StartAndEnd, TheCrossOfTheMainWindowAsks) {
+    settings_of_a_second_start();
+    operate("", [this] {
+        eventually("the main window", [this] { return is_active(station().main_window); });
+        key("alt+F4");
+        eventually("the question", [] { return QApplication::activeModalWidget() != nullptr; });
+        EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");
+    });
+}
+
+} // namespace sonarelle::test

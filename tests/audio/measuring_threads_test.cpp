@@ -1,0 +1,183 @@
+#include "platform/audio/measuring_threads.h"
+
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <cstring>
+#include <map>
+#include <mutex>
+#include <set>
+#include <thread>
+
+#include "platform/failure.h"
+
+namespace sonarelle {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The bytes of a WAV file, 8 bits, mono, of so many samples at 8 kHz.
+std::string wav(std::uint32_t samples) {
+    const auto word = [](std::uint32_t value, std::size_t bytes) {
+        std::string text(bytes, '\0');
+        std::memcpy(text.data(), &value, bytes);
+        return text;
+    };
+    return "RIFF" + word(36 + samples, 4) + "WAVEfmt " + word(16, 4) + word(1, 2) + word(1, 2) + word(8000, 4) +
+           word(8000, 4) + word(1, 2) + word(8, 2) + "data" + word(samples, 4) + std::string(samples, '\x80');
+}
+
+/// Files in memory. Those of a folder that hangs don't answer until it is let go.
+class MemoryFiles final : public SoundFiles {
+public:
+    void put(const std::string& path, std::string bytes) { files_[path] = std::move(bytes); }
+    void let_go() {
+        const std::lock_guard lock{mutex_};
+        hangs_ = false;
+        free_.notify_all();
+    }
+
+    [[nodiscard]] FileFacts facts(const std::string& path) override {
+        std::unique_lock lock{mutex_};
+        seen_.insert(std::this_thread::get_id());
+        if (path.starts_with("/mort/"))
+            free_.wait(lock, [this] { return !hangs_; });
+        if (!files_.contains(path))
+            throw Failure{failure_number::file_not_found, path};
+        return {.size = static_cast<std::int64_t>(files_[path].size()), .modified = 0, .is_folder = false};
+    }
+    [[nodiscard]] std::unique_ptr<RecordFile> open(const std::string& path) override {
+        const std::lock_guard lock{mutex_};
+        return std::make_unique<Bytes>(files_.at(path));
+    }
+    [[nodiscard]] std::set<std::thread::id> seen() {
+        const std::lock_guard lock{mutex_};
+        return seen_;
+    }
+
+private:
+    class Bytes final : public RecordFile {
+    public:
+        explicit Bytes(std::string bytes) : bytes_{std::move(bytes)} {}
+        [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(bytes_.size()); }
+        std::size_t read(std::int64_t position, std::span<std::byte> into) override {
+            const auto from = std::min(bytes_.size(), static_cast<std::size_t>(position));
+            const std::size_t count = std::min(into.size(), bytes_.size() - from);
+            std::memcpy(into.data(), bytes_.data() + from, count);
+            return count;
+        }
+
+    private:
+        std::string bytes_;
+    };
+
+    std::mutex mutex_;
+    std::condition_variable free_;
+    std::map<std::string, std::string> files_;
+    std::set<std::thread::id> seen_;
+    bool hangs_ = true;
+};
+
+/// As the station's paths lie in memory: only drive Q is nowhere.
+std::string resolve(std::string_view path) {
+    if (path.starts_with("Q:"))
+        throw Failure{failure_number::device_unavailable, std::string{path}};
+    return std::string{path.substr(2)};
+}
+
+class MeasuringAhead : public testing::Test {
+protected:
+    ~MeasuringAhead() override { files->let_go(); }
+
+    [[nodiscard]] static MeasuredLength taken(LengthsAhead& lengths, const std::string& path) {
+        for (;;)
+            if (auto length = lengths.take(path, 10ms))
+                return *length;
+    }
+    [[nodiscard]] static int failure_of(LengthsAhead& lengths, const std::string& path) {
+        const MeasuredLength length = taken(lengths, path);
+        return length.failure ? length.failure->number : 0;
+    }
+
+    std::shared_ptr<MemoryFiles> files = std::make_shared<MemoryFiles>();
+    MeasuringThreads lengths{files, resolve, 60s};
+};
+
+} // namespace
+
+TEST_F(MeasuringAhead, GivesEachFileItsLength) {
+    for (std::uint32_t seconds = 1; seconds <= 40; ++seconds)
+        files->put("/" + std::to_string(seconds), wav(seconds * 8000));
+    for (int seconds = 1; seconds <= 40; ++seconds)
+        lengths.want("C:/" + std::to_string(seconds));
+    for (int seconds = 1; seconds <= 40; ++seconds)
+        EXPECT_EQ(taken(lengths, "C:/" + std::to_string(seconds)).seconds, seconds);
+}
+
+TEST_F(MeasuringAhead, GivesThemInWhateverOrderTheyAreTaken) {
+    files->put("/a", wav(8000));
+    files->put("/b", wav(16000));
+    lengths.want("C:/a");
+    lengths.want("C:/b");
+    EXPECT_EQ(taken(lengths, "C:/b").seconds, 2);
+    EXPECT_EQ(taken(lengths, "C:/a").seconds, 1);
+}
+
+TEST_F(MeasuringAhead, MeasuresAFileThatNobodyAskedFor) {
+    files->put("/a", wav(8000));
+    EXPECT_EQ(taken(lengths, "C:/a").seconds, 1);
+}
+
+TEST_F(MeasuringAhead, MeasuresAFileThatIsTakenTwice) {
+    files->put("/a", wav(8000));
+    lengths.want("C:/a");
+    lengths.want("C:/a");
+    EXPECT_EQ(taken(lengths, "C:/a").seconds, 1);
+    EXPECT_EQ(taken(lengths, "C:/a").seconds, 1);
+}
+
+TEST_F(MeasuringAhead, MeasuresOnThreadsOfItsOwn) {
+    files->put("/a", wav(8000));
+    static_cast<void>(taken(lengths, "C:/a"));
+    EXPECT_FALSE(files->seen().contains(std::this_thread::get_id()));
+}
+
+TEST_F(MeasuringAhead, SaysWhyThereIsNoLengthUnderTheStationsName) {
+    const MeasuredLength length = taken(lengths, "C:/rien");
+    ASSERT_TRUE(length.failure);
+    EXPECT_EQ(length.failure->number, failure_number::file_not_found);
+    EXPECT_EQ(length.failure->source, "C:/rien");
+}
+
+TEST_F(MeasuringAhead, TellsAPathThatNoDriveReaches) {
+    lengths.want("Q:/a");
+    EXPECT_EQ(failure_of(lengths, "Q:/a"), failure_number::device_unavailable);
+}
+
+TEST_F(MeasuringAhead, TellsAFileWithoutSound) {
+    files->put("/texte", "Ceci n'est pas de la musique.");
+    EXPECT_EQ(failure_of(lengths, "C:/texte"), failure_number::unplayable_file);
+}
+
+TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {
+    files->put("/a", wav(8000));
+    MeasuringThreads impatient{files, resolve, 500ms};
+    for (int file = 0; file < 4; ++file)
+        impatient.want("C:/mort/" + std::to_string(file));
+    for (int file = 0; file < 4; ++file)
+        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), failure_number::device_fault);
+    EXPECT_EQ(taken(impatient, "C:/a").seconds, 1);
+}
+
+TEST_F(MeasuringAhead, IsDroppedWhileADiskHangs) {
+    {
+        MeasuringThreads others{files, resolve, std::nullopt};
+        others.want("C:/mort/a");
+        EXPECT_FALSE(others.take("C:/mort/a", 10ms));
+    }
+    files->put("/b", wav(8000));
+    EXPECT_EQ(taken(lengths, "C:/b").seconds, 1);
+}
+
+} // namespace sonarelle

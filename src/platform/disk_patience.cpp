@@ -1,7 +1,10 @@
 #include "platform/disk_patience.h"
 
 #include <algorithm>
+#include <condition_variable>
+#include <deque>
 #include <fstream>
+#include <mutex>
 #include <sstream>
 #include <string_view>
 
@@ -62,6 +65,44 @@ bool DiskPatience::is_silent(const std::string& machine_path) {
 void DiskPatience::remember(const std::string& machine_path, std::shared_ptr<std::atomic<bool>> returned) {
     const std::string mount = mount_of(machine_path, mount_table_);
     silent_.push_back({mount == "/" ? machine_path : mount, std::move(returned)});
+}
+
+struct DiskHelper::Desk {
+    std::mutex mutex;
+    std::condition_variable wakes;
+    std::deque<std::function<void()>> work;
+    bool ends = false;
+
+    void run() {
+        std::unique_lock lock{mutex};
+        for (;;) {
+            wakes.wait(lock, [this] { return ends || !work.empty(); });
+            if (work.empty())
+                return;
+            std::function<void()> next = std::move(work.front());
+            work.pop_front();
+            lock.unlock();
+            next();
+            next = nullptr;
+            lock.lock();
+        }
+    }
+};
+
+DiskHelper::DiskHelper() : desk_{std::make_shared<Desk>()} {
+    std::thread{[desk = desk_] { desk->run(); }}.detach();
+}
+
+DiskHelper::~DiskHelper() {
+    const std::lock_guard lock{desk_->mutex};
+    desk_->ends = true;
+    desk_->wakes.notify_one();
+}
+
+void DiskHelper::give(std::function<void()> work) {
+    const std::lock_guard lock{desk_->mutex};
+    desk_->work.push_back(std::move(work));
+    desk_->wakes.notify_one();
 }
 
 } // namespace sonarelle

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <future>
 #include <memory>
 #include <optional>
@@ -16,6 +17,23 @@ namespace sonarelle {
 
 /// How long a station on the air waits for a disk.
 inline constexpr std::chrono::milliseconds station_patience{2000};
+
+/// A thread that asks the disk, one question after the other; starting one for each would cost more than the answer.
+/// When it is dropped the thread ends, after the question that it may hang in.
+class DiskHelper {
+public:
+    DiskHelper();
+    ~DiskHelper();
+    DiskHelper(const DiskHelper&) = delete;
+    DiskHelper& operator=(const DiskHelper&) = delete;
+
+    /// The work before has returned.
+    void give(std::function<void()> work);
+
+private:
+    struct Desk;
+    std::shared_ptr<Desk> desk_; // the thread's too
+};
 
 /// Waits for disks that may be dead, such as a network share whose server is gone, for a limited time. What hasn't
 /// answered is left behind on a thread of its own and remembered: until it returns, whatever else lies on the same
@@ -39,13 +57,17 @@ public:
         if (is_silent(machine_path))
             throw Failure{failure_number::device_fault, source};
         auto returned = std::make_shared<std::atomic<bool>>(false);
-        std::packaged_task<decltype(work())()> task{std::move(work)};
-        auto result = task.get_future();
-        std::thread{[task = std::move(task), returned]() mutable {
-            task();
+        auto task = std::make_shared<std::packaged_task<decltype(work())()>>(std::move(work));
+        auto result = task->get_future();
+        if (!helper_)
+            helper_ = std::make_shared<DiskHelper>();
+        helper_->give([task = std::move(task), returned]() mutable {
+            (*task)();
+            task.reset();
             *returned = true;
-        }}.detach();
+        });
         if (result.wait_for(*limit_) != std::future_status::ready) {
+            helper_.reset();
             remember(machine_path, std::move(returned));
             throw Failure{failure_number::device_fault, source};
         }
@@ -65,6 +87,7 @@ private:
 
     Limit limit_;
     std::string mount_table_;
+    std::shared_ptr<DiskHelper> helper_; ///< Idle between two calls.
     std::vector<Silent> silent_;
 };
 

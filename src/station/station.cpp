@@ -73,8 +73,8 @@ void Station::end() {
 }
 
 std::vector<Window*> Station::windows() {
-    return {&splash,         &main_window,       &list_window,  &options_window, &small_player,
-            &warning_window, &properties_window, &about_window, &update_window};
+    return {&splash,         &main_window,     &list_window,       &options_window, &small_player,
+            &warning_window, &progress_window, &properties_window, &about_window,   &update_window};
 }
 
 void Station::connect_list_window() {

@@ -57,6 +57,19 @@ TEST_F(ShutdownTest, YesSilencesTheDecksAndEnds) {
         EXPECT_FALSE(open->visible) << open->name();
 }
 
+TEST_F(ShutdownTest, LeavesNoWindowOnTheScreen) {
+    const std::array<Window*, 10> all{&station.splash,          &station.main_window,       &station.list_window,
+                                      &station.options_window,  &station.small_player,      &station.warning_window,
+                                      &station.progress_window, &station.properties_window, &station.about_window,
+                                      &station.update_window};
+    for (Window* window_on_screen : all)
+        window_on_screen->show();
+    expect_question(Answer::yes);
+    window.Quitter_.click();
+    for (const Window* closed : all)
+        EXPECT_FALSE(closed->visible) << closed->name();
+}
+
 TEST_F(ShutdownTest, TellsTheLoopOnce) {
     int ends = 0;
     station.on_end = [&] { ++ends; };

@@ -2,8 +2,8 @@
 #include <fstream>
 #include <ostream>
 
-#include "app/outil/commands.h"
 #include "app/common/machine.h"
+#include "app/outil/commands.h"
 #include "app/outil/on_air.h"
 #include "app/outil/rehearsal.h"
 #include "configuration/station_settings.h"

@@ -2,8 +2,8 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "app/outil/commands.h"
 #include "app/common/machine.h"
+#include "app/outil/commands.h"
 
 namespace sonarelle {
 

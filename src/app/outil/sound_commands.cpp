@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "app/outil/commands.h"
 #include "app/common/machine.h"
+#include "app/outil/commands.h"
 #include "app/outil/measuring.h"
 #include "app/outil/printable.h"
 #include "app/outil/progress.h"

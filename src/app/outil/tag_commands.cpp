@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "app/outil/commands.h"
 #include "app/common/machine.h"
+#include "app/outil/commands.h"
 #include "app/outil/printable.h"
 #include "metadata/TypeTagMpeg.h"
 #include "metadata/TypeTagV1.h"

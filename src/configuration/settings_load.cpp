@@ -67,7 +67,6 @@ void SettingsLoad::Chargement_parametres() {
     show_cursors();
     show_name();
     place_windows();
-    show_list_picture();
     read_colours();
     if (apply_colours)
         apply_colours();
@@ -229,11 +228,6 @@ void SettingsLoad::show_cursors() {
 
 void SettingsLoad::show_name() {
     main_.Quitter_.caption = "Quitter " + settings_.nom_radio + " (Q)";
-}
-
-void SettingsLoad::show_list_picture() {
-    if (settings_.logo_liste != "Vrai" && settings_.logo_liste != "non")
-        list_.picture = settings_.logo_liste;
 }
 
 void SettingsLoad::place_windows() {

@@ -50,7 +50,6 @@ private:
     void show_cursors();
     void show_name();
     void place_windows();
-    void show_list_picture();
     void read_colours();
     void place_small_player();
 

@@ -324,22 +324,6 @@ TEST_F(SettingsLoadTest, OfAnEmptyStoreShowsTheRepairedLeadAndNoTimerInTheOption
     EXPECT_EQ(station.options_window.Text8.text(), "0");
 }
 
-TEST_F(SettingsLoadTest, TakesThePictureOfTheListFromTheStore) {
-    fill_store();
-    load();
-    EXPECT_EQ(station.list_window.picture.get(), "C:\\Sonarelle\\Liste_Sonarine1.jpg");
-}
-
-TEST_F(SettingsLoadTest, LeavesThePictureOfTheListForTheTwoWordsThatMeanNone) {
-    fill_store();
-    for (const std::string_view word : {"Vrai", "non"}) {
-        set(config, "logo_liste", word);
-        station.list_window.picture = "avant.jpg";
-        load();
-        EXPECT_EQ(station.list_window.picture.get(), "avant.jpg") << word;
-    }
-}
-
 TEST_F(SettingsLoadTest, GoesOnWhenTheStoreCannotBeWritten) {
     machine.settings.refuse_writes();
     load();

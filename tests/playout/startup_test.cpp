@@ -229,13 +229,17 @@ TEST_F(StartupTest, AfterAMissingPictureTheRestOfTheCreationIsLeftOut) {
     EXPECT_FALSE(station.small_player.visible);
 }
 
-TEST_F(StartupTest, NeedsNoListPictureWhereTheStoreNamesNone) {
+TEST_F(StartupTest, LeavesTheListsPictureForTheTwoWordsThatMeanNone) {
     remove("Liste_Sonarine1.jpg");
     fill_store();
-    set("Logo_liste", "Vrai");
-    station.start("");
-    EXPECT_EQ(station.list_window.picture.get(), "");
-    EXPECT_TRUE(window.visible);
+    for (const std::string_view word : {"Vrai", "non"}) {
+        set("Logo_liste", word);
+        Station another{machine.platform};
+        another.list_window.picture = "avant.jpg";
+        another.start("");
+        EXPECT_EQ(another.list_window.picture.get(), "avant.jpg") << word;
+        EXPECT_TRUE(another.main_window.visible);
+    }
 }
 
 TEST_F(StartupTest, ShowsTheVisualEffectThatWasChosen) {

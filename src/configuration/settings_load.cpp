@@ -217,13 +217,7 @@ void SettingsLoad::show_effects() {
 }
 
 void SettingsLoad::show_cursors() {
-    const bool shown = kept_.montrer_curseur == "Oui";
-    main_.aa_montrer_curseur.checked = shown;
-    main_.aa_cacher_curseur.checked = !shown;
-    for (DeckControls& deck : main_.decks)
-        deck.slider.visible = shown;
-    for (Label* stand_in : {&main_.Label27, &main_.Label28, &main_.Label29})
-        stand_in->visible = !shown;
+    main_.show_sliders(kept_.montrer_curseur == "Oui");
 }
 
 void SettingsLoad::show_name() {

@@ -23,4 +23,13 @@ Antenne_FM::Antenne_FM(Scheduler& scheduler)
     Timer1.enable();
 }
 
+void Antenne_FM::show_sliders(bool shown) {
+    aa_montrer_curseur.checked = shown;
+    aa_cacher_curseur.checked = !shown;
+    for (DeckControls& deck : decks)
+        deck.slider.visible = shown;
+    for (Label* stand_in : slider_stand_ins())
+        stand_in->visible = !shown;
+}
+
 } // namespace sonarelle

@@ -70,6 +70,8 @@ struct Antenne_FM : MainMenus {
         return {&Label12, &Label13, &Label14, &Label15, &Label16, &Label17, &Label18, &Label19};
     }
     [[nodiscard]] std::array<Label*, 3> slider_stand_ins() { return {&Label27, &Label28, &Label29}; }
+    /// The decks' volume sliders, or the labels in their place, and the marks of the two entries.
+    void show_sliders(bool shown);
 };
 
 /// Heights of the main window, in twips: with its menu bar, and without.

@@ -86,12 +86,7 @@ void DeskCommands::choose_sound_picture(SoundPicture picture) {
 }
 
 void DeskCommands::set_sliders(bool shown) {
-    desk_.window.aa_montrer_curseur.checked = shown;
-    desk_.window.aa_cacher_curseur.checked = !shown;
-    for (DeckControls& deck : desk_.window.decks)
-        deck.slider.visible = shown;
-    for (Label* stand_in : desk_.window.slider_stand_ins())
-        stand_in->visible = !shown;
+    desk_.window.show_sliders(shown);
     desk_.remember("Montrer curseur", yes_or_no(shown));
 }
 

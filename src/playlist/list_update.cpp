@@ -125,12 +125,12 @@ void ListUpdate::update_all_rows() {
     try {
         const auto lengths = platform_.media.measure_ahead();
         int wanted = 0;
-        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled(); platform_.clock.yield()) {
+        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled();) {
             for (; wanted < std::min(row + rows_ahead, window_.ListView1.count()); ++wanted)
                 lengths->want(window_.ListView1.text(wanted + 1));
             progress_.advance(row, "Traitement en cours " + std::to_string(row) + " / " +
                                        std::to_string(window_.ListView1.count()));
-            row = update_row(row, *lengths);
+            row = reading_.follow(update_row(row, *lengths));
         }
     } catch (const Failure& failure) {
         give_up(failure.what());
@@ -155,7 +155,7 @@ int ListUpdate::update_row(int row, LengthsAhead& lengths) {
     if (!length)
         return row;
     if (row > window_.ListView1.count() || window_.ListView1.row(row) != before)
-        return place_of(before, row);
+        return reading_.place_of(before, row);
     const KeptForTheAir kept{chain_, list_, destination_};
     list_.chemin_fichier = list_.nom_fichier_maj = record.dest_chemin;
     measure_.met_ajour(*length);
@@ -163,18 +163,6 @@ int ListUpdate::update_row(int row, LengthsAhead& lengths) {
         window_.ListView1.replace(row, measured_row(record));
     list_.mesure_echouee = false;
     return row + 1;
-}
-
-/// Where a row went: in front of its old place, behind it, or away, which leaves the place to the next one.
-int ListUpdate::place_of(const RowTable::Row& wanted, int old_place) const {
-    const RowTable& rows = window_.ListView1;
-    for (int row = std::min(old_place - 1, rows.count()); row >= 1; --row)
-        if (rows.row(row) == wanted)
-            return row;
-    for (int row = old_place; row <= rows.count(); ++row)
-        if (rows.row(row) == wanted)
-            return row;
-    return old_place;
 }
 
 /// Nothing when the operator doesn't want to wait any longer.

@@ -44,7 +44,6 @@ private:
     [[nodiscard]] bool may_begin(bool after_drop);
     void update_all_rows();
     [[nodiscard]] int update_row(int row, LengthsAhead& lengths);
-    [[nodiscard]] int place_of(const RowTable::Row& wanted, int old_place) const;
     [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);
     void offer_saving(const std::string& short_name);
     void make_current(int row);

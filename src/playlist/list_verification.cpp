@@ -1,6 +1,5 @@
 #include "playlist/list_verification.h"
 
-#include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 
@@ -46,7 +45,8 @@ ListVerification::Tally ListVerification::go_over_rows() {
             document_.sauve_tout();
     };
     try {
-        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled(); platform_.clock.yield()) {
+        bool goes_on = true;
+        for (int row = 1; goes_on && row <= window_.ListView1.count() && !progress_.is_cancelled();) {
             const FileFinding finding = test(row);
             const bool there = finding.state == FileState::present || finding.state == FileState::on_network;
             const std::string path = list_.chemin_test;
@@ -54,13 +54,12 @@ ListVerification::Tally ListVerification::go_over_rows() {
                               there ? "fichier Ok : " + path : path + std::string{not_found});
             if (there) {
                 ++tally.found;
-                ++row;
+                row = reading_.follow(row + 1);
                 continue;
             }
             drop_row(row, finding);
             ++tally.removed;
-            if (!wants_to_go_on(path))
-                break;
+            row = reading_.follow(row, [&] { goes_on = wants_to_go_on(path); });
         }
     } catch (const Failure&) {
         save_what_went();
@@ -76,7 +75,6 @@ FileFinding ListVerification::test(int row) {
         reading_.read(row);
         list_.chemin_test = trim(destination_.dest_chemin);
     }
-    reading_.warn_of_null_volume();
     FileFinding finding = look_for_file(platform_.disk, list_.chemin_test);
     list_.dossier_test = finding.folder;
     return finding;
@@ -134,12 +132,15 @@ void ListVerification::prechar_fich() {
     try {
         const FileFinding finding = test(row);
         const std::string path = list_.chemin_test;
-        if (finding.state == FileState::present || finding.state == FileState::on_network)
-            return tell("Fichier : " + path + " Ok ", Icon::information);
-        drop_row(row, finding);
-        const bool folder = finding.state == FileState::folder_missing;
-        static_cast<void>(wants_to_go_on(folder ? "Dossier : " + finding.folder : path));
-        document_.sauve_tout();
+        if (finding.state == FileState::present || finding.state == FileState::on_network) {
+            tell("Fichier : " + path + " Ok ", Icon::information);
+        } else {
+            drop_row(row, finding);
+            const bool folder = finding.state == FileState::folder_missing;
+            static_cast<void>(wants_to_go_on(folder ? "Dossier : " + finding.folder : path));
+            document_.sauve_tout();
+        }
+        reading_.warn_of_null_volume();
     } catch (const Failure& failure) {
         tell_failure(failure);
     }

@@ -1,6 +1,5 @@
 #include "playlist/row_changes.h"
 
-#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -117,11 +116,8 @@ RowTable::Row RowChanges::first_row() {
 
 void RowChanges::change_all_rows(const Change& change) {
     const ListWork work{guard_, window_};
-    for (int row = 1; row <= window_.ListView1.count(); ++row) {
+    for (int row = 1; row <= window_.ListView1.count(); row = reading_.follow(row + 1))
         change_row(row, change);
-        reading_.warn_of_null_volume();
-        platform_.clock.yield();
-    }
     if (window_.ListView1.count() > 0) // the operator may have emptied it meanwhile
         document_.sauve_tout();
 }

@@ -275,6 +275,16 @@ TEST_F(ListUpdateTest, FollowsTheRowsWhenTheListChangesMeanwhile) {
     EXPECT_EQ(column(list_column::end)[0], "30.00");
 }
 
+TEST_F(ListUpdateTest, LeavesNoRowOutWhenOneGoesBetweenTwoOthers) {
+    put_songs({"C:\\a.mp3", "C:\\b.mp3"}, 30);
+    open_rows({"C:\\a.mp3", "C:\\b.mp3"});
+    station.chain.maj_depuis_ajout = Flag::of_word(3);
+    machine.time.at(machine.time.now(), [this] { rows().remove(1); });
+    update();
+    EXPECT_THAT(paths(), ElementsAre("C:\\b.mp3"));
+    EXPECT_EQ(column(list_column::end)[0], "30.00");
+}
+
 TEST_F(ListUpdateTest, HasItsCaptions) {
     EXPECT_EQ(list().a_mettre_a_jour.caption.get(), "Mettre a jour les infos de ce fichier");
     EXPECT_EQ(list().a_mettre_a_jour_liste.caption.get(), "Mettre a jour les infos de la liste");

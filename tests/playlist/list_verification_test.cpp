@@ -268,6 +268,33 @@ TEST_F(ListVerificationTest, NeverTakesOutARowForAnotherAfterAFailedSave) {
     EXPECT_THAT(paths(), ElementsAre("C:\\b.mp3", "C:\\c.mp3"));
 }
 
+TEST_F(ListVerificationTest, TakesOutNoOtherRowWhenTheListChangesDuringTheWarning) {
+    put_songs({"C:\\b.mp3"});
+    open_list(matin, {record_of("C:\\a.mp3", "200.00", 0), record_of("C:\\b.mp3")});
+    expect_removal("C:\\a.mp3");
+    machine.dialogs.expect_window("err_form", [this] {
+        if (rows().text(1) == "C:\\a.mp3")
+            rows().remove(1);
+    });
+    expect_success();
+    list().prechar.click();
+    EXPECT_THAT(paths(), ElementsAre("C:\\b.mp3"));
+}
+
+TEST_F(ListVerificationTest, LeavesNoRowOutWhenOneGoesDuringTheQuestion) {
+    put_songs({"C:\\a.mp3", "C:\\d.mp3"});
+    open_rows({"C:\\a.mp3", "C:\\b.mp3", "C:\\c.mp3", "C:\\d.mp3"});
+    machine.dialogs.on_answered = [this](const Question& question) {
+        if (question.text.starts_with("C:\\b.mp3"))
+            rows().remove(1);
+    };
+    expect_removal("C:\\b.mp3");
+    expect_removal("C:\\c.mp3");
+    expect_success();
+    list().prechar.click();
+    EXPECT_THAT(paths(), ElementsAre("C:\\d.mp3"));
+}
+
 TEST_F(ListVerificationTest, OfOneFileSaysThatItIsThere) {
     put_songs({"C:\\a.mp3"});
     open_rows({"C:\\a.mp3", "C:\\b.mp3"});

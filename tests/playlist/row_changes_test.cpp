@@ -216,6 +216,15 @@ TEST_F(VolumeChange, LeavesWhatTheNextStartOnTheAirGoesBy) {
     EXPECT_EQ(station.list.chemin_fichier, "C:\\Musique\\a.mp3");
 }
 
+TEST_F(VolumeChange, LeavesNoRowOutWhenOneGoesMeanwhile) {
+    open_list(matin, {record_of("C:\\a.mp3", "200.00", 0), record_of("C:\\b.mp3"), record_of("C:\\c.mp3")});
+    expect_volume("60");
+    machine.dialogs.expect_window("err_form", [this] { rows().remove(1); });
+    list().Modifier_volume.click();
+    EXPECT_THAT(paths(), ElementsAre("C:\\b.mp3", "C:\\c.mp3"));
+    EXPECT_THAT(column(list_column::volume), Each("60"));
+}
+
 TEST_F(StartChange, GivesAllRowsTheNewStart) {
     open_two_rows();
     machine.dialogs.expect_input("1.5");

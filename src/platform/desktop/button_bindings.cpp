@@ -8,6 +8,12 @@
 
 namespace sonarelle {
 
+namespace {
+
+const std::string resting_picture = "bandeau.gif"; // while there is no movie
+
+} // namespace
+
 ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const DesktopServices& services)
     : Binding{button, widget, services}, button_{button}, face_{widget} {
     connect(&face_, &QAbstractButton::clicked, this, [this] { run([this] { button_.click(); }); });
@@ -69,7 +75,9 @@ MovieBinding::MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& 
 MovieBinding::~MovieBinding() = default;
 
 void MovieBinding::show_state() {
-    if (const QString file = services().pictures.path(movie_.movie); file != shown_)
+    const QString wanted = services().pictures.path(movie_.movie);
+    const QString file = wanted.isEmpty() ? services().pictures.path(resting_picture) : wanted;
+    if (!file.isEmpty() && file != shown_)
         load(file);
     if (film_ && film_->state() != (movie_.playing ? QMovie::Running : QMovie::NotRunning))
         movie_.playing ? film_->start() : film_->stop();

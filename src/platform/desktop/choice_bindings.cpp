@@ -9,6 +9,18 @@
 
 namespace sonarelle {
 
+namespace {
+
+// A box that can be seen on a dark plate, with the air's green in it.
+void paint_indicator(QPalette& palette) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Base, QColor{0x4a, 0x51, 0x5c});
+        palette.setColor(group, QPalette::Text, studio::air);
+    }
+}
+
+} // namespace
+
 CheckBoxBinding::CheckBoxBinding(CheckBox& box, QCheckBox& widget, const DesktopServices& services)
     : Binding{box, widget, services}, box_{box}, check_{widget} {
     // The value is the control's: what the click made of it comes back by the update.
@@ -21,6 +33,11 @@ CheckBoxBinding::CheckBoxBinding(CheckBox& box, QCheckBox& widget, const Desktop
 void CheckBoxBinding::show_state() {
     check_.setText(caption());
     check_.setChecked(box_.value() != 0);
+}
+
+void CheckBoxBinding::paint(QPalette& palette) const {
+    Binding::paint(palette);
+    paint_indicator(palette);
 }
 
 QString CheckBoxBinding::caption() const {
@@ -42,12 +59,18 @@ void OptionBinding::show_state() {
     radio_.setChecked(option_.value());
 }
 
+void OptionBinding::paint(QPalette& palette) const {
+    Binding::paint(palette);
+    paint_indicator(palette);
+}
+
 QString OptionBinding::caption() const {
     return plain_caption(option_.caption);
 }
 
 ComboBoxBinding::ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services)
     : Binding{box, widget, services}, box_{box}, combo_{widget} {
+    embolden(combo_);
     combo_.setEditable(true);
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.setCompleter(nullptr);

@@ -16,6 +16,7 @@ public:
 
 protected:
     void show_state() override;
+    void paint(QPalette& palette) const override;
     [[nodiscard]] QString caption() const override;
 
 private:
@@ -29,6 +30,7 @@ public:
 
 protected:
     void show_state() override;
+    void paint(QPalette& palette) const override;
     [[nodiscard]] QString caption() const override;
 
 private:

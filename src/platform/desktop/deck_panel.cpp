@@ -11,10 +11,11 @@ namespace sonarelle {
 
 namespace {
 
-constexpr StationLabel::Style aside{.pixels = 11, .quiet = true, .characters = 8};
-constexpr StationLabel::Style figure{.pixels = 22, .digits = true, .characters = 5};
+constexpr int least_transport_height = 36;
+constexpr StationLabel::Style aside{.pixels = 11, .quiet = true, .characters = 11};
+constexpr StationLabel::Style figure{.pixels = 38, .digits = true, .characters = 5};
 constexpr StationLabel::Style right_figure{
-    .pixels = 22, .digits = true, .characters = 5, .alignment = Qt::AlignRight | Qt::AlignVCenter};
+    .pixels = 38, .digits = true, .characters = 5, .alignment = Qt::AlignRight | Qt::AlignVCenter};
 
 StationLabel* aside_label(const QString& text, Qt::Alignment alignment = Qt::AlignLeft) {
     auto* label = new StationLabel{aside};
@@ -32,9 +33,9 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
       elapsed_{new StationLabel{figure, this}} {
     Dresser dresser{view};
     auto* left = new QVBoxLayout;
-    left->setSpacing(4);
+    left->setSpacing(5);
     left->addLayout(heading(number));
-    left->addWidget(dresser.label(controls.title, {.pixels = 17, .bold = true, .characters = 20}));
+    left->addWidget(dresser.label(controls.title, {.pixels = 21, .bold = true, .characters = 16}));
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);
     left->addWidget(progress_);
@@ -53,7 +54,7 @@ QLayout* DeckPanel::heading(int number) {
     auto* row = row_of({lamp_, name, nullptr, state_});
     // The station's own mark of the main deck: the lamp shows it.
     auto* mark = Dresser{view_}.image(controls_.playing_mark, "▶");
-    mark->set_flat(true);
+    mark->set_look(ButtonLook::picture);
     mark->setMaximumSize(18, 18);
     mark->setFocusPolicy(Qt::NoFocus);
     row->addWidget(mark);
@@ -80,7 +81,7 @@ QLayout* DeckPanel::transport(Dresser& dresser, int number) {
     auto* pause = dresser.button(controls_.pause, "II");
     auto* back = dresser.button(controls_.back, "◀◀");
     auto* forward = dresser.button(controls_.forward, "▶▶");
-    zap_ = dresser.button(controls_.zap, "Zap → Play" + QString::number(number % 3 + 1));
+    zap_ = dresser.button(controls_.zap, "→ Play" + QString::number(number % 3 + 1));
     constexpr std::array keys{"F8", "F9", "F11"};
     auto* mix =
         dresser.button(controls_.special_mix, QStringLiteral("Mix ") + keys[static_cast<std::size_t>(number - 1)]);
@@ -97,6 +98,8 @@ QLayout* DeckPanel::transport(Dresser& dresser, int number) {
     grid->addWidget(forward, 1, 2, 1, 2);
     grid->addWidget(zap_, 1, 4, 1, 5);
     grid->addWidget(mix, 1, 9, 1, 3);
+    for (StudioButton* button : {open, play_, stop, pause, back, forward, zap_, mix})
+        button->setMinimumHeight(least_transport_height);
     for (int i = 0; i < 12; ++i)
         grid->setColumnStretch(i, 1);
     return grid;
@@ -124,6 +127,7 @@ QLayout* DeckPanel::volume(Dresser& dresser, Label& slider_stand_in) {
     column->addWidget(quieter, 0, Qt::AlignHCenter);
     column->addWidget(percent, 0, Qt::AlignHCenter);
     column->addWidget(keep, 0, Qt::AlignHCenter);
+    column->addStretch(0); // the slider may be hidden
     return column;
 }
 

@@ -31,6 +31,12 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
     return form_view(window, services);
 }
 
+// A deck that waits has kept its place, but no file.
+bool has_file(const Deck& deck) {
+    const std::string& title = deck.controls.title.caption;
+    return deck.has_graph() && title != empty_title && title != waiting_title;
+}
+
 // Nothing for what is no number yet.
 std::optional<double> seconds_of(Deck& deck) {
     bool is_number = false;
@@ -110,7 +116,7 @@ void Desktop::show_decks() {
     QString next;
     for (Deck& deck : desk_.decks) {
         DeckLook look{.main = deck.number() == main,
-                      .loaded = deck.has_graph(),
+                      .loaded = has_file(deck),
                       .mix_point = std::nullopt,
                       .end_point = seconds_of(deck)};
         if (look.end_point)

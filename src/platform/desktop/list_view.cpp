@@ -64,6 +64,13 @@ QLayout* ListView::table_row() {
     return row;
 }
 
+StudioButton* ListView::lamp(Image& image) {
+    auto* button = dresser_.image(image, "●");
+    button->set_look(ButtonLook::lamp);
+    button->setFixedSize(28, 28);
+    return button;
+}
+
 QWidget* ListView::side_column() {
     auto* side = new Panel{&content()};
     side->setFixedWidth(236);
@@ -81,10 +88,10 @@ QWidget* ListView::side_column() {
                                                                  {&window_.Image11, &window_.Option3},
                                                                  {&window_.Image12, &window_.Option4}}};
     for (const auto& [picture, option] : modes)
-        column->addLayout(row_of({dresser_.image(*picture, "♪"), dresser_.option(*option), nullptr}));
+        column->addLayout(row_of({lamp(*picture), dresser_.option(*option), nullptr}));
     heading("INSERTION");
-    column->addLayout(row_of({dresser_.image(window_.Image13, "⏻"), dresser_.label(window_.Label14, bold_text)}));
-    column->addLayout(row_of({dresser_.image(window_.Image14, "⏻"), dresser_.label(window_.Label15, bold_text)}));
+    column->addLayout(row_of({lamp(window_.Image13), dresser_.label(window_.Label14, bold_text)}));
+    column->addLayout(row_of({lamp(window_.Image14), dresser_.label(window_.Label15, bold_text)}));
     column->addStretch(1);
     return side;
 }
@@ -94,7 +101,11 @@ QLayout* ListView::button_row() {
     auto* zap = dresser_.image(window_.Image2, "⇥ Zap (Z)", Accent::next);
     auto* stop = dresser_.image(window_.Image3, "■ Stopper");
     auto* place = dresser_.image(window_.Image4, "◎ Position");
-    auto* row = row_of({play, zap, stop, place, nullptr});
+    auto* strip = dresser_.image(window_.Image10);
+    strip->set_look(ButtonLook::picture);
+    strip->setFocusPolicy(Qt::NoFocus);
+    strip->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto* row = row_of({play, zap, stop, place, strip});
     row->addWidget(dresser_.label(window_.Label8, button_text));
     row->addWidget(menu_button());
     return row;

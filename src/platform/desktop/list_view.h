@@ -20,6 +20,7 @@ private:
     [[nodiscard]] QLayout* header();
     [[nodiscard]] QLayout* table_row();
     [[nodiscard]] QWidget* side_column();
+    [[nodiscard]] StudioButton* lamp(Image& image);
     [[nodiscard]] QLayout* button_row();
     [[nodiscard]] QLayout* status_row();
     [[nodiscard]] StudioButton* menu_button();

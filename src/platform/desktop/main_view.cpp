@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSlider>
 
 #include "platform/desktop/button_bindings.h"
 #include "platform/desktop/colours.h"
@@ -19,6 +20,7 @@ namespace {
 
 constexpr QSize least_size{1024, 600};
 constexpr QSize banner_size{475, 40};
+constexpr int title_height = 50; // two lines
 constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
 constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
 constexpr StationLabel::Style menu_word{.pixels = 13, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
@@ -54,9 +56,10 @@ void MainView::build_rows(const SoundReading& sound) {
     rows->addLayout(header());
     rows->addLayout(deck_row(), 3);
     rows->addLayout(lower_row(sound), 1);
+    QWidget* status = status_line();
     if (QWidget* rest = remaining_parts(dresser_))
         rows->addWidget(rest);
-    rows->addWidget(status_line());
+    rows->addWidget(status);
 }
 
 // They stand for the menu bar while it is hidden.
@@ -75,7 +78,8 @@ QLayout* MainView::header() {
     QPalette green = heading_->palette();
     green.setColor(QPalette::WindowText, mixed(studio::air, Qt::white, 0.25));
     heading_->setPalette(green);
-    title_ = text_label({.pixels = 22, .bold = true, .characters = 14});
+    title_ = text_label({.pixels = 19, .bold = true, .wrapped = true, .characters = 14});
+    title_->setFixedHeight(title_height);
     next_ = text_label({.pixels = 12, .quiet = true, .characters = 20});
     remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
                             "00:00:00");
@@ -86,16 +90,15 @@ QLayout* MainView::header() {
     auto* banner = dresser_.movie(window_.banner);
     banner->setFixedSize(banner_size);
     auto* mark = dresser_.image(window_.Image2);
-    mark->set_flat(true);
+    mark->set_look(ButtonLook::picture);
     mark->setFocusPolicy(Qt::NoFocus);
     mark->setMaximumHeight(20);
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    row->addLayout(column_of({heading_, title_, next_}, 2), 1);
+    row->addLayout(column_of({heading_, title_, next_, mark}, 2), 1);
     row->addWidget(remaining_, 0);
     auto* right = column_of({clock_, banner}, 4);
     row->addLayout(right, 0);
-    mark->hide();
     return row;
 }
 
@@ -126,12 +129,14 @@ Panel* MainView::chain_panel() {
     auto* column = column_in(panel, "ENCHAÎNEMENT");
     const auto lamp = [this](Image& image) {
         auto* button = dresser_.image(image, "●");
-        button->set_least_width(26);
+        button->set_look(ButtonLook::lamp);
+        button->setFixedSize(26, 26);
         return button;
     };
     auto* decks = row_of({lamp(window_.Image12), dresser_.option(window_.coche2), nullptr});
     auto* list = row_of({lamp(window_.Image13), dresser_.option(window_.coche3), nullptr});
     decks->addWidget(dresser_.image(window_.Image17, "Top horaire"));
+    list->addWidget(dresser_.check_box(window_.coche4));
     auto* overlap = dresser_.text_box(window_.Text1);
     overlap->setAccessibleName("Superposition en secondes");
     overlap->setFixedWidth(44);
@@ -140,9 +145,11 @@ Panel* MainView::chain_panel() {
     auto* more = dresser_.image(window_.Image15, "+");
     less->setAccessibleName("Superposition moins une seconde");
     more->setAccessibleName("Superposition plus une seconde");
-    auto* mix =
-        row_of({less, overlap, more, text_label({.pixels = 12, .quiet = true, .characters = 9}, "s de superposition"),
-                nullptr, dresser_.check_box(window_.coche4)});
+    auto* unit = text_label({.pixels = 12, .quiet = true, .characters = 16}, "s de superposition");
+    auto* companion = dresser_.slider(window_.UpDown1, Qt::Horizontal);
+    companion->setAccessibleName("Superposition");
+    companion->setMaximumWidth(110);
+    auto* mix = row_of({less, overlap, more, unit, companion});
     column->addLayout(decks);
     column->addLayout(list);
     column->addLayout(mix);
@@ -167,19 +174,23 @@ Panel* MainView::effect_panel(const SoundReading& sound) {
     auto* picture = new SoundPictureView{sound};
     keep(std::make_unique<SoundDisplayBinding>(window_.sound_display, *picture, services()));
     column->addWidget(picture, 1);
+    column->addStretch(0);
     return panel;
 }
 
 Panel* MainView::meter_panel(const SoundReading& sound) {
     auto* panel = new Panel{&content()};
     auto* column = column_in(panel, {});
-    auto* heading = text_label(panel_heading, "NIVEAU");
+    auto* heading = text_label({.pixels = 13, .bold = true, .digits = true, .characters = 10}, "— LUFS");
     auto* meter = new LevelMeter{sound};
     auto* frame = dresser_.frame(window_.meters);
-    frame->hide();
-    meter->on_loudness = [heading](const QString& text) { heading->set_text("NIVEAU · " + text); };
-    column->addWidget(heading);
-    column->addWidget(meter, 1);
+    frame->setFlat(true);
+    auto* inside = new QVBoxLayout{frame};
+    inside->setContentsMargins(0, 2, 0, 0);
+    inside->addWidget(heading);
+    inside->addWidget(meter, 1);
+    meter->on_loudness = [heading](const QString& text) { heading->set_text(text); };
+    column->addWidget(frame, 1);
     return panel;
 }
 

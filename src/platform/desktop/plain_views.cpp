@@ -60,7 +60,7 @@ std::unique_ptr<WindowView> splash_view(Chargement& window, const DesktopService
     auto view = std::make_unique<WindowView>(window, services, QSize{500, 350});
     Dresser dresser{*view};
     auto* picture = dresser.image(window.Image1, "Sonarelle");
-    picture->set_flat(true);
+    picture->set_look(ButtonLook::picture);
     picture->setFocusPolicy(Qt::NoFocus);
     picture->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     auto* column = new QVBoxLayout{&view->content()};

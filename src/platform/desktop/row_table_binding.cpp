@@ -1,7 +1,10 @@
 #include "platform/desktop/row_table_binding.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/text_bindings.h"
@@ -11,6 +14,28 @@ namespace sonarelle {
 namespace {
 
 constexpr int twips_per_pixel = 15;
+constexpr int widest_other = 104;
+
+/// Leaves the row on the air and the next one their colours when they are selected: an edge shows the selection.
+class MarkedRowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem shown = option;
+        const bool marked = index.data(Qt::BackgroundRole).isValid();
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        if (marked)
+            shown.state &= ~QStyle::State_Selected;
+        shown.state &= ~QStyle::State_HasFocus;
+        QStyledItemDelegate::paint(painter, shown, index);
+        if (!marked || !selected)
+            return;
+        painter->setPen(QPen{option.palette.color(QPalette::Highlight), 2});
+        painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+};
 
 } // namespace
 
@@ -61,11 +86,23 @@ void RowTableBinding::dress() {
     view_.verticalHeader()->hide();
     view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view_.verticalHeader()->setDefaultSectionSize(view_.fontMetrics().height() + 10);
-    view_.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    view_.horizontalHeader()->setHighlightSections(false);
+    view_.setItemDelegate(new MarkedRowDelegate{&view_});
+    embolden(*view_.horizontalHeader());
+    dress_header(*view_.horizontalHeader());
+}
+
+// The first column takes what the others leave; their captions have two lines.
+void RowTableBinding::dress_header(QHeaderView& header) {
+    QFont font = header.font();
+    font.setPixelSize(12);
+    header.setFont(font);
+    header.setDefaultAlignment(static_cast<Qt::Alignment>(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap));
+    header.setMinimumHeight(2 * QFontMetrics{font}.height() + 8);
+    header.setHighlightSections(false);
     for (std::size_t column = 0; column < table_.columns().size(); ++column)
         if (const int width = table_.columns()[column].width.count(); width > 0)
-            view_.setColumnWidth(static_cast<int>(column), width / twips_per_pixel);
+            view_.setColumnWidth(static_cast<int>(column), std::min(width / twips_per_pixel, widest_other));
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 void RowTableBinding::show_state() {

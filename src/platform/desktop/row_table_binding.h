@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHeaderView>
 #include <QTableView>
 
 #include "platform/desktop/binding.h"
@@ -23,6 +24,7 @@ private:
     void press(int row);
     void rows_chosen(const QItemSelection& chosen);
     void dress();
+    void dress_header(QHeaderView& header);
     void select(int row);
     void scroll_to(int row);
 

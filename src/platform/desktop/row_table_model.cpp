@@ -46,6 +46,8 @@ QVariant RowTableModel::data(const QModelIndex& index, int role) const {
     case Qt::FontRole: {
         QFont font;
         font.setBold(row == marks_.playing);
+        if (is_number(text))
+            font.setFamily("DejaVu Sans"); // figures of one width
         return font;
     }
     default:

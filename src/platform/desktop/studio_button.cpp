@@ -8,6 +8,13 @@
 
 namespace sonarelle {
 
+namespace {
+
+constexpr QMargins picture_margins{14, 8, 14, 8};
+constexpr int least_text_width = 8;
+
+} // namespace
+
 QColor colour_of(Accent accent) {
     switch (accent) {
     case Accent::air:
@@ -37,8 +44,15 @@ void StudioButton::set_face(const Face& face) {
 }
 
 void StudioButton::set_picture(const QPixmap& picture) {
+    if (picture.isNull() != picture_.isNull())
+        updateGeometry();
     picture_ = picture;
     update();
+}
+
+// A word stays beside a picture; a sign was there in its stead.
+bool StudioButton::has_text_beside() const {
+    return has_face() && shown_text().size() > 2;
 }
 
 void StudioButton::set_symbol(const QString& symbol) {
@@ -54,8 +68,8 @@ void StudioButton::set_accent(Accent accent) {
     update();
 }
 
-void StudioButton::set_flat(bool flat) {
-    flat_ = flat;
+void StudioButton::set_look(ButtonLook look) {
+    look_ = look;
     update();
 }
 
@@ -65,13 +79,21 @@ void StudioButton::set_least_width(int pixels) {
 }
 
 QSize StudioButton::sizeHint() const {
-    if (flat_ && !picture_.isNull())
-        return picture_.size().boundedTo({200, 40});
     const QFontMetrics metrics{font()};
-    return {std::max(least_width_, metrics.horizontalAdvance(shown_text()) + 20), metrics.height() + 14};
+    const int height = metrics.height() + 14;
+    if (!has_face() && !picture_.isNull())
+        return (picture_.size() / 2).boundedTo({480, height});
+    if (!has_face() && shown_text().isEmpty())
+        return {0, 0};
+    int width = picture_.isNull() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) + 20 : 0;
+    if (!picture_.isNull())
+        width += (picture_.width() - picture_margins.left() - picture_margins.right()) / 2;
+    return {std::max(least_width_, width), height};
 }
 
 QSize StudioButton::minimumSizeHint() const {
+    if (!has_face())
+        return sizeHint().boundedTo({24, 24});
     return {std::min(sizeHint().width(), std::max(least_width_, 34)), QFontMetrics{font()}.height() + 10};
 }
 
@@ -89,7 +111,9 @@ void StudioButton::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const bool over = isEnabled() && underMouse();
-    const QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
+    QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
+    if (!picture_.isNull() && !over)
+        ground = studio::face;
     QColor ink = isDown() ? face_.ink_down : over ? face_.ink_over : face_.ink;
     if (!isEnabled())
         painter.setOpacity(0.38);
@@ -104,8 +128,8 @@ void StudioButton::paint_face(QPainter& painter, QColor ground) const {
     const bool lit = isEnabled() && accent_ != Accent::none;
     if (lit)
         ground = mixed(ground, colour_of(accent_), 0.32);
-    painter.setBrush(flat_ ? QBrush{Qt::NoBrush} : QBrush{ground});
-    painter.setPen(flat_ ? QPen{Qt::NoPen} : QPen{lit ? colour_of(accent_) : studio::edge, 1});
+    painter.setBrush(has_face() ? QBrush{ground} : QBrush{Qt::NoBrush});
+    painter.setPen(!has_face() ? QPen{Qt::NoPen} : QPen{lit ? colour_of(accent_) : studio::edge, 1});
     painter.drawRoundedRect(area, 5, 5);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
@@ -115,21 +139,36 @@ void StudioButton::paint_face(QPainter& painter, QColor ground) const {
 }
 
 void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
-    QRect area = rect().adjusted(5, 3, -5, -3);
-    if (!picture_.isNull()) {
-        const QSize size = picture_.size().scaled(area.size(), Qt::KeepAspectRatio).boundedTo(picture_.size());
-        QRect place{QPoint{}, size};
-        place.moveCenter(area.center());
-        painter.drawPixmap(place, picture_);
-        if (!flat_ || shown_text().isEmpty())
-            return;
-    }
+    QRect area = has_face() ? rect().adjusted(5, 3, -5, -3) : rect();
+    if (!picture_.isNull())
+        area = paint_picture(painter, area);
+    if (area.width() < least_text_width)
+        return;
     QFont shown = font();
     if (accent_ != Accent::none && isEnabled())
         shown.setBold(true);
     painter.setFont(shown);
     painter.setPen(ink);
     painter.drawText(area, Qt::AlignCenter, QFontMetrics{shown}.elidedText(shown_text(), Qt::ElideRight, area.width()));
+}
+
+// Pictures are drawn at twice their size and have a face of their own, whose edge is left out: the button draws its
+// own. Returns the room that is left for text, which is none where there is no text for it.
+QRect StudioButton::paint_picture(QPainter& painter, const QRect& area) const {
+    const QRect source = !has_face() ? picture_.rect() : picture_.rect().marginsRemoved(picture_margins);
+    const QSize size = !has_face()
+                           ? picture_.size().scaled(area.size(), Qt::KeepAspectRatio).boundedTo(picture_.size())
+                           : (source.size() / 2).scaled(area.size(), Qt::KeepAspectRatio).boundedTo(source.size() / 2);
+    const int left = area.width() - size.width();
+    const bool text = has_text_beside() && QFontMetrics{font()}.horizontalAdvance(shown_text()) < left - 4;
+    QRect place{area.topLeft(), size};
+    place.moveCenter({text ? area.left() + size.width() / 2 : area.center().x(), area.center().y()});
+    // Of the picture's own face nothing shows where the button is lit.
+    if (look_ != ButtonLook::picture)
+        painter.setCompositionMode(QPainter::CompositionMode_Lighten);
+    painter.drawPixmap(place, picture_, source);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    return text ? QRect{place.right(), area.top(), area.right() - place.right(), area.height()} : QRect{};
 }
 
 } // namespace sonarelle

@@ -5,6 +5,9 @@
 
 namespace sonarelle {
 
+/// How a button is drawn: with a face, as its picture alone, or as a lamp that glows on what it lies on.
+enum class ButtonLook { face, picture, lamp };
+
 /// What a button means for the air.
 enum class Accent { none, air, next, trouble };
 
@@ -23,8 +26,7 @@ public:
     /// Shown where there is no caption; the caption still names the button.
     void set_symbol(const QString& symbol);
     void set_accent(Accent accent);
-    /// A picture alone, without a face.
-    void set_flat(bool flat);
+    void set_look(ButtonLook look);
     void set_least_width(int pixels);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -36,15 +38,18 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    [[nodiscard]] bool has_face() const { return look_ == ButtonLook::face; }
+    [[nodiscard]] bool has_text_beside() const;
     [[nodiscard]] QString shown_text() const { return symbol_.isEmpty() ? text() : symbol_; }
     void paint_face(QPainter& painter, QColor ground) const;
     void paint_content(QPainter& painter, const QColor& ink) const;
+    QRect paint_picture(QPainter& painter, const QRect& area) const;
 
     Face face_;
     QPixmap picture_;
     QString symbol_;
     Accent accent_ = Accent::none;
-    bool flat_ = false;
+    ButtonLook look_ = ButtonLook::face;
     int least_width_ = 34;
 };
 

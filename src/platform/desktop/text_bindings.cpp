@@ -16,6 +16,13 @@ void paint_text_field(QPalette& palette, const Control& control) {
     }
 }
 
+void embolden(QWidget& widget) {
+    QFont font = widget.font();
+    font.setPixelSize(std::max(14, QFontInfo{font}.pixelSize()));
+    font.setBold(true);
+    widget.setFont(font);
+}
+
 LabelBinding::LabelBinding(Label& label, StationLabel& widget, const DesktopServices& services)
     : Binding{label, widget, services}, label_{label}, text_{widget} {
     widget.on_press = [this] { run([this] { label_.click(); }); };
@@ -32,6 +39,7 @@ QString LabelBinding::caption() const {
 
 TextBoxBinding::TextBoxBinding(TextBox& box, QLineEdit& widget, const DesktopServices& services)
     : Binding{box, widget, services}, box_{box}, line_{widget} {
+    embolden(line_);
     connect(&line_, &QLineEdit::textEdited, this,
             [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
 }

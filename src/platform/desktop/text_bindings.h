@@ -51,4 +51,7 @@ private:
 /// Ink and ground of what holds text: the told ones, and where they are the desktop's, the studio's.
 void paint_text_field(QPalette& palette, const Control& control);
 
+/// Text of a told colour on a told ground is read more easily when it is bold and not small.
+void embolden(QWidget& widget);
+
 } // namespace sonarelle

@@ -13,6 +13,16 @@ class MenuItem;
 
 enum class WindowState { normal, minimised, maximised };
 
+/// Where a window stands, across or down. Another place raises the window's `on_move`, whoever moved it.
+class WindowPlace : public Property<Twips> {
+public:
+    explicit WindowPlace(Window& window);
+    WindowPlace& operator=(Twips place);
+
+private:
+    Window& window_;
+};
+
 /// A window of the station: a struct of controls derives from it. Places and sizes are in twips.
 class Window : public Control {
 public:
@@ -46,8 +56,8 @@ public:
 
     Property<std::string> caption{*this, {}};
     Property<std::string> picture{*this, {}};
-    Property<Twips> left{*this, Twips{}};
-    Property<Twips> top{*this, Twips{}};
+    WindowPlace left{*this};
+    WindowPlace top{*this};
     Property<bool> topmost{*this, false};
     Property<WindowState> state{*this, WindowState::normal};
     Property<int> mouse_pointer{*this, 0}; ///< 0 is the plain pointer, 11 and 13 show busy.
@@ -60,14 +70,26 @@ public:
     std::function<void()> on_double_click;
     std::function<void()> on_right_click;
     std::function<void()> on_activate;
+    std::function<void()> on_move;
     std::function<void()> on_reduce;
     std::function<void()> on_unload_request;
     std::function<void(MenuItem&)> on_popup;
 
 private:
     friend class Control;
+    friend class WindowPlace;
 
     std::vector<Control*> controls_;
 };
+
+inline WindowPlace::WindowPlace(Window& window) : Property{window, Twips{}}, window_{window} {}
+
+inline WindowPlace& WindowPlace::operator=(Twips place) {
+    if (get() == place)
+        return *this;
+    Property::operator=(place);
+    Window::raise(window_.on_move);
+    return *this;
+}
 
 } // namespace sonarelle

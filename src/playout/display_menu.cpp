@@ -78,11 +78,23 @@ void DisplayMenu::change_corner() {
 }
 
 void DisplayMenu::Aligner_liste_Click() {
+    list_follows_ = true;
     place_list_below(desk_.window.left, desk_.window.width);
 }
 
 void DisplayMenu::liste_pleine_largeur_Click() {
+    list_follows_ = false;
     place_list_below(Twips{}, desk_.platform.screen.width);
+}
+
+// A list that isn't on view keeps the place that was stored for it.
+void DisplayMenu::Aligne_liste_son() {
+    Liste_son& list = desk_.list_window;
+    if (!list_follows_ || !list.visible || list.state != WindowState::normal)
+        return;
+    list.left = desk_.window.left.get();
+    list.top = desk_.window.top.get() + desk_.window.height.get();
+    list.width = desk_.window.width.get();
 }
 
 // A list that would stand below the screen's lower edge covers the main window's foot instead.

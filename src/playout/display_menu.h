@@ -27,6 +27,8 @@ public:
     /// Below the main window: as wide as it, or as wide as the screen.
     void Aligner_liste_Click();
     void liste_pleine_largeur_Click();
+    /// The main window has moved: the list goes with it, below it and as wide, unless it has the screen's width.
+    void Aligne_liste_son();
 
     /// The small player takes the main window's place.
     void a_mini_Click();
@@ -47,6 +49,7 @@ private:
 
     Desk& desk_;
     bool cote_haut_ = false;
+    bool list_follows_ = true;
 };
 
 } // namespace sonarelle

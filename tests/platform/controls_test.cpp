@@ -340,6 +340,15 @@ TEST_F(Windows, ForgetAPartThatIsGone) {
     EXPECT_THAT(window.controls(), IsEmpty());
 }
 
+TEST_F(Windows, TellThatTheyMoved) {
+    int moves = 0;
+    window.on_move = [&] { ++moves; };
+    window.left = Twips{600};
+    window.top = Twips{300};
+    window.top = Twips{300};
+    EXPECT_EQ(moves, 2);
+}
+
 TEST_F(Windows, AreHiddenAtFirst) {
     EXPECT_FALSE(window.visible);
     window.show();

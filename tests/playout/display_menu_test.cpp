@@ -135,6 +135,42 @@ TEST_F(Places, OfTheListStayOnTheScreen) {
     EXPECT_EQ(list.top.get(), Twips{7520});
 }
 
+TEST_F(Places, OfAListOnViewFollowTheMainWindow) {
+    list.show();
+    window.height = Twips{7185};
+    window.left = Twips{900};
+    window.top = Twips{300};
+    EXPECT_EQ(list.left.get(), Twips{900});
+    EXPECT_EQ(list.top.get(), Twips{7485});
+    EXPECT_EQ(list.width.get(), window.width.get());
+}
+
+TEST_F(Places, OfAHiddenListStay) {
+    list.left = Twips{1500};
+    list.top = Twips{1200};
+    window.a_droite_haut.click();
+    EXPECT_EQ(list.left.get(), Twips{1500});
+    EXPECT_EQ(list.top.get(), Twips{1200});
+}
+
+TEST_F(Places, OfAListAsWideAsTheScreenStayUntilItIsAligned) {
+    list.show();
+    window.liste_pleine_largeur.click();
+    window.left = Twips{900};
+    EXPECT_EQ(list.left.get(), Twips{0});
+    window.Aligner_liste.click();
+    window.left = Twips{1200};
+    EXPECT_EQ(list.left.get(), Twips{1200});
+}
+
+TEST_F(Places, OfAMaximisedListStay) {
+    list.show();
+    list.left = Twips{1500};
+    list.state = WindowState::maximised;
+    window.left = Twips{900};
+    EXPECT_EQ(list.left.get(), Twips{1500});
+}
+
 TEST_F(MenuBar, IsHiddenByAPressOnTheWindow) {
     station.warning_window.show();
     window.Combo1.set_text("titre");

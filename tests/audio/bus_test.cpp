@@ -90,14 +90,12 @@ TEST(Limiter, IsTransparentAgainAfterALoudPlace) {
     EXPECT_EQ(frames.back(), 0.5F);
 }
 
-TEST(BusTaps, ShowPeakPowerAndTheNewestFrames) {
+TEST(BusTaps, ShowPeakAndTheNewestFrames) {
     SoundBench bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
     graph->Run();
     bench.run_for(Frames{20000});
-    const Level level = bench.bus.taps().level();
-    EXPECT_NEAR(level.peak[1], 0.3, 0.001);
-    EXPECT_NEAR(level.power[1], 0.045 * (1 - std::exp(-20000.0 / 19200)), 0.002);
+    EXPECT_NEAR(bench.bus.taps().level().peak[1], 0.3, 0.001);
     EXPECT_EQ(bench.bus.taps().level().peak[1], 0.0F) << "asked for, a peak begins anew";
     std::vector<float> newest(2 * 100);
     bench.bus.taps().newest(newest);

@@ -5,46 +5,26 @@
 
 namespace sonarelle {
 
-namespace {
-
-constexpr float power_share = 1.0F / (0.4F * static_cast<float>(frame_rate));
-
-} // namespace
-
 void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
     std::array<float, 2> peak{};
-    std::array<float, 2> squares{};
     auto place = static_cast<std::size_t>(at.count());
     writing_.store(static_cast<std::int64_t>(place + frames.size() / 2), std::memory_order_relaxed);
     for (std::size_t frame = 0; frame + 1 < frames.size(); frame += 2, ++place) {
-        for (std::size_t channel = 0; channel < 2; ++channel) {
-            const float sample = frames[frame + channel];
-            peak[channel] = std::max(peak[channel], std::abs(sample));
-            squares[channel] += sample * sample;
-        }
+        for (std::size_t channel = 0; channel < 2; ++channel)
+            peak[channel] = std::max(peak[channel], std::abs(frames[frame + channel]));
         frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_release);
     }
-    const std::size_t frame_count = frames.size() / 2;
-    const auto count = static_cast<float>(frame_count);
+    // A reader's reset between the two is lost: the meter then shows an old peak once more.
     for (std::size_t channel = 0; channel < 2; ++channel)
-        if (count > 0)
-            running_power_[channel] +=
-                (squares[channel] / count - running_power_[channel]) * std::min(1.0F, count * power_share);
-    for (std::size_t channel = 0; channel < 2; ++channel) {
-        // A reader's reset between the two is lost: the meter then shows an old peak once more.
         if (peak[channel] > peak_[channel].load(std::memory_order_relaxed))
             peak_[channel].store(peak[channel], std::memory_order_relaxed);
-        power_[channel].store(running_power_[channel], std::memory_order_relaxed);
-    }
     end_.store(static_cast<std::int64_t>(place), std::memory_order_release);
 }
 
 Level BusTaps::level() {
     Level level;
-    for (std::size_t channel = 0; channel < 2; ++channel) {
+    for (std::size_t channel = 0; channel < 2; ++channel)
         level.peak[channel] = peak_[channel].exchange(0, std::memory_order_relaxed);
-        level.power[channel] = power_[channel].load(std::memory_order_relaxed);
-    }
     return level;
 }
 

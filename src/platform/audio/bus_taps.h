@@ -12,8 +12,7 @@ namespace sonarelle {
 
 /// What the meters show, each channel from 0 (silence) to 1 (full).
 struct Level {
-    std::array<float, 2> peak{};  ///< The greatest since it was last asked for.
-    std::array<float, 2> power{}; ///< Mean of the squares over the last 400 ms or so.
+    std::array<float, 2> peak{}; ///< The greatest since it was last asked for.
 };
 
 /// What leaves the bus, for meters, scope and spectrum. The callback writes, one other thread reads; neither waits.
@@ -49,8 +48,6 @@ private:
     std::atomic<std::int64_t> writing_{0}; // behind the block that is being written
     std::atomic<std::int64_t> end_{0};
     std::array<std::atomic<float>, 2> peak_{};
-    std::array<std::atomic<float>, 2> power_{};
-    std::array<float, 2> running_power_{};
 };
 
 } // namespace sonarelle

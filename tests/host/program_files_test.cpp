@@ -23,6 +23,33 @@ struct ProgramFiles : testing::Test {
     PrivateFolder folder;
 };
 
+/// A program that may be installed, and a build's own folder of pictures.
+struct SuppliedFiles : testing::Test {
+    SuppliedFiles() { folder.put_folder("usr/bin"); }
+
+    [[nodiscard]] std::optional<std::string> found() const {
+        return supplied_files(folder.path("usr/bin/sonarelle"), folder.path("build/pictures"));
+    }
+
+    PrivateFolder folder;
+};
+
+TEST_F(SuppliedFiles, OfAnInstalledProgramLieInTheShareBesideIt) {
+    folder.put_folder("usr/share/sonarelle");
+    folder.put_folder("build/pictures");
+    EXPECT_EQ(found(), folder.path("usr/share/sonarelle"));
+}
+
+TEST_F(SuppliedFiles, OfAProgramThatIsNotInstalledAreTheBuilds) {
+    folder.put_folder("build/pictures");
+    EXPECT_EQ(found(), folder.path("build/pictures"));
+}
+
+TEST_F(SuppliedFiles, AreNoneWhereNeitherFolderIs) {
+    folder.put("usr/share/sonarelle", "a file");
+    EXPECT_EQ(found(), std::nullopt);
+}
+
 TEST_F(ProgramFiles, FillAFolderThatIsNotThereYet) {
     fill();
 

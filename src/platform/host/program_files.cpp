@@ -64,9 +64,14 @@ void copy_file(const std::string& from, const std::string& to) {
 
 std::optional<std::string> supplied_files() {
     std::error_code error;
-    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const std::filesystem::path installed = program.parent_path().parent_path() / "share/sonarelle";
-    for (const std::filesystem::path& folder : {installed, std::filesystem::path{folder_of_the_build}})
+    return supplied_files(std::filesystem::read_symlink("/proc/self/exe", error).string(), folder_of_the_build);
+}
+
+std::optional<std::string> supplied_files(const std::string& program, const std::string& drawn) {
+    std::error_code error;
+    const std::filesystem::path installed =
+        std::filesystem::path{program}.parent_path().parent_path() / "share/sonarelle";
+    for (const std::filesystem::path& folder : {installed, std::filesystem::path{drawn}})
         if (std::filesystem::is_directory(folder, error))
             return folder.string();
     return std::nullopt;

@@ -5,9 +5,12 @@
 
 namespace sonarelle {
 
-/// The folder of the files that come with the program (its pictures): `../share/sonarelle` beside the running program
-/// where it is installed, else where the build drew them. Nothing when neither is there.
+/// The folder of the files that come with the running program (its pictures). Nothing when there is none.
 [[nodiscard]] std::optional<std::string> supplied_files();
+
+/// The same for a program by its path: `../share/sonarelle` beside it where it is installed, else `drawn`, where the
+/// build drew them.
+[[nodiscard]] std::optional<std::string> supplied_files(const std::string& program, const std::string& drawn);
 
 /// Copies the plain files of `supplied` that `program_folder` doesn't hold yet; makes the folder where it is missing.
 /// A file of the same name, in whatever case, is the operator's and stays. Each copy is written beside and renamed, so

@@ -38,6 +38,11 @@ TEST_F(OutputChoice, IsTheDefaultOutputWhenTheFileIsDamaged) {
     }
 }
 
+TEST_F(OutputChoice, IsTheDefaultOutputWhenTheFileCantBeRead) {
+    folder.put_folder("config/sortie.json");
+    EXPECT_EQ(load_output_choice(file), "");
+}
+
 TEST_F(OutputChoice, DamagedFileIsSetAsideByTheNextChoice) {
     folder.put("config/sortie.json", "Carte");
     save_output_choice(file, "Régie");

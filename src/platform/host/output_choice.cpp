@@ -30,8 +30,12 @@ std::string text_of(const std::string& name) {
 } // namespace
 
 std::string load_output_choice(const std::string& file) {
-    const auto text = read_shared_file(file);
-    return text ? parsed(*text).value_or("") : "";
+    std::string name;
+    ErrorIndicator{}.skip([&] {
+        if (const auto text = read_shared_file(file))
+            name = parsed(*text).value_or("");
+    });
+    return name;
 }
 
 void save_output_choice(const std::string& file, const std::string& name) {

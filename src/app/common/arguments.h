@@ -23,13 +23,12 @@ struct Option {
 /// The words behind a command's own word, and the options among them.
 class Arguments {
 public:
-    /// @throws WrongWords for an option that isn't among the allowed ones, or that lacks its value; Failure 5 for a
-    /// character that Windows-1252 lacks.
+    /// A lone `--` ends the options, so that a word may begin with `--`. @throws WrongWords for an option that isn't
+    /// among the allowed ones, or that lacks its value; Failure 5 for a character that Windows-1252 lacks.
     Arguments(std::span<char* const> words, std::span<const Option> allowed);
 
     [[nodiscard]] const std::vector<std::string>& words() const { return words_; }
-    /// The word at a place, counted from 0. A lone `--` ends the options, so that a word may begin with `--`. @throws
-    /// WrongWords when there are fewer, naming what is missing.
+    /// The word at a place, counted from 0. @throws WrongWords when there are fewer, naming what is missing.
     [[nodiscard]] const std::string& word(std::size_t place, std::string_view what) const;
     /// The same for a word that says nothing when it is empty. @throws WrongWords when it is.
     [[nodiscard]] const std::string& filled_word(std::size_t place, std::string_view what) const;

@@ -13,8 +13,8 @@ namespace sonarelle {
 struct KnownProgram;
 
 /// The desktop around the station, without a toolkit: the clipboard is the program's own. Files and programs are paths
-/// of the station; a program's bare name is one of this machine's, and the
-/// programs of another system that the menus name are replaced by what does the same here.
+/// of the station; a program's bare name is one of this machine's, and the programs of another system that the menus
+/// name are replaced by what does the same here.
 class HostShell : public Shell {
 public:
     /// The disk is the caller's and outlives the shell.

@@ -41,6 +41,8 @@ public:
     void take_next_row();
     /// Takes the path of the current row, round the end.
     void take_current_row();
+    /// Whether the load step has put the current row on that deck already.
+    [[nodiscard]] bool is_loaded(const Deck& next) const;
     /// A new track overlaps the old one from now on.
     void begin_overlap() { faded_deck_ = 0; }
 
@@ -65,8 +67,11 @@ private:
     void list_tick();
     void show_list_progress(Deck& deck, Integer mix_point);
     void mix_point(Deck& deck, Integer point);
-    void follow_at_once(Deck& deck);
+    /// Where the search for the row behind a track begins; from there it goes on in list order.
+    enum class FirstLook { next_row, current_row, drawn_row };
+    void follow_at_once(Deck& deck, FirstLook first);
     bool try_to_follow(Deck& deck);
+    [[nodiscard]] bool take_row_to_follow();
     bool try_to_zap(Deck& old, bool by_draw);
     bool start_zapped(Deck& old);
     [[nodiscard]] bool load_and_play(Deck& old);
@@ -96,6 +101,7 @@ private:
     RowWalk load_walk_;
     RowWalk mix_walk_;
     RandomOrder random_order_;
+    FirstLook first_look_ = FirstLook::next_row;
     int faded_deck_ = 0; // the deck whose fade has begun and is reported
 };
 

@@ -152,15 +152,7 @@ bool AutoChain::is_playable_file() {
 
 // In list order the chain adds 1 again when it starts the track.
 void AutoChain::loaded() {
-    Deck& deck = desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value()));
-    desk_.report({OnAirEvent::Kind::loaded,
-                  deck.number(),
-                  desk_.list.index_en_cours.value(),
-                  deck.path,
-                  deck.controls.counter.caption,
-                  0,
-                  0,
-                  {}});
+    desk_.report_loaded(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
     if (!desk_.chain.ordre_aleatoire.is_true())
         desk_.list.index_en_cours -= 1;
     desk_.chain.duree_lecteur = 0;

@@ -27,9 +27,9 @@ void AutoChain::list_tick() {
     const bool has_net = deck.number() != 1 || !desk_.settings.valide_fichier_aleatoire1.is_true();
     if (has_net && deck.controls.progress.percent() == 100) {
         if (desk_.chain.ordre_aleatoire.is_false())
-            return follow_at_once(deck);
-        if (desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true() && take_drawn_row())
-            return follow_at_once(deck);
+            return follow_at_once(deck, FirstLook::next_row);
+        if (desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true())
+            return follow_at_once(deck, FirstLook::drawn_row);
     }
     mix_point(deck, point);
 }
@@ -48,7 +48,8 @@ void AutoChain::mix_point(Deck& deck, Integer point) {
         return;
     if (point <= desk_.settings.valeur_max_jingles) {
         desk_.window.Timer3.disable();
-        follow_at_once(deck);
+        // In random order the load step has left the list on the row that it drew.
+        follow_at_once(deck, desk_.chain.ordre_aleatoire.is_true() ? FirstLook::current_row : FirstLook::next_row);
         return;
     }
     desk_.settings.mix_courant = desk_.settings.mix_defaut;
@@ -58,16 +59,26 @@ void AutoChain::mix_point(Deck& deck, Integer point) {
 }
 
 // A short item is followed without a fade.
-void AutoChain::follow_at_once(Deck& deck) {
+void AutoChain::follow_at_once(Deck& deck, FirstLook first) {
+    first_look_ = first;
     mix_walk_.start([this, &deck] { return try_to_follow(deck); }, [this] { return desk_.row_count(); },
                     trap_of(desk_.window.Timer4, "T4"));
 }
 
 bool AutoChain::try_to_follow(Deck& deck) {
-    take_next_row();
-    if (!is_found())
+    return take_row_to_follow() && is_found() && start_row(deck);
+}
+
+/// False when no row could be drawn: the next turn draws again.
+bool AutoChain::take_row_to_follow() {
+    if (first_look_ == FirstLook::drawn_row && !take_drawn_row())
         return false;
-    return start_row(deck);
+    if (first_look_ == FirstLook::current_row)
+        take_current_row();
+    if (first_look_ == FirstLook::next_row)
+        take_next_row();
+    first_look_ = FirstLook::next_row;
+    return true;
 }
 
 bool AutoChain::is_found() {
@@ -86,27 +97,25 @@ bool AutoChain::is_candidate() {
     return !desk_.list.chemin_fichier.empty() && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
 }
 
+bool AutoChain::is_loaded(const Deck& next) const {
+    return desk_.chain.chargement_fait.is_true() && next.path == desk_.list.chemin_fichier;
+}
+
 bool AutoChain::load_and_play(Deck& old) {
     load_walk_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
     reading_.lire_enreg_destinataire();
     Deck& next = desk_.deck(next_deck(old.number()));
+    const bool told = is_loaded(next);
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
     if (desk_.chain.disk_did_not_answer) {
         pass_over_row(mix_walk_);
         return false;
     }
-    if (!desk_.chain.chargement_fait.is_true() && !desk_.chain.erreur_chargement.is_true())
-        desk_.report({OnAirEvent::Kind::loaded,
-                      next.number(),
-                      desk_.list.index_en_cours.value(),
-                      next.path,
-                      next.controls.counter.caption,
-                      0,
-                      0,
-                      {}});
+    if (!told && !desk_.chain.erreur_chargement.is_true())
+        desk_.report_loaded(next);
     begin_overlap();
     old.controls.title.caption = std::string{waiting_title};
     start_.play(next);

@@ -35,6 +35,17 @@ void Desk::warn(const std::string& lines) {
         on_warning(lines);
 }
 
+void Desk::report_loaded(const Deck& deck) const {
+    report({OnAirEvent::Kind::loaded,
+            deck.number(),
+            list.index_en_cours.value(),
+            deck.path,
+            deck.controls.counter.caption,
+            0,
+            0,
+            {}});
+}
+
 void Desk::inform(const std::string& text) {
     platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::information});
 }

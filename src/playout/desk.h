@@ -51,6 +51,8 @@ struct Desk {
         if (on_event)
             on_event(event);
     }
+    /// Reports that a deck holds the current row's file.
+    void report_loaded(const Deck& deck) const;
     /// An information box under the station's title.
     void inform(const std::string& text);
     /// Writes a setting of section "Config". A store that refuses it says so: the running station has the new value

@@ -31,14 +31,7 @@ void ListRun::start_selected_row() {
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
     desk_.deck(1).controls.progress.value = 0;
-    desk_.report({OnAirEvent::Kind::loaded,
-                  1,
-                  row.value(),
-                  desk_.deck(1).path,
-                  desk_.deck(1).controls.counter.caption,
-                  0,
-                  0,
-                  {}});
+    desk_.report_loaded(desk_.deck(1));
     run_.lect_liste();
 }
 

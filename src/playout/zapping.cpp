@@ -119,18 +119,12 @@ void Zapping::zap_in_list(Deck& old) {
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
     reading_.lire_enreg_destinataire();
-    desk_.chain.erreur_chargement = false;
     Deck& next = desk_.deck(next_deck(old.number()));
+    const bool told = chain_.is_loaded(next);
+    desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
-    if (!desk_.chain.chargement_fait.is_true())
-        desk_.report({OnAirEvent::Kind::loaded,
-                      next.number(),
-                      desk_.list.index_en_cours.value(),
-                      next.path,
-                      next.controls.counter.caption,
-                      0,
-                      0,
-                      {}});
+    if (!told && !desk_.chain.erreur_chargement.is_true())
+        desk_.report_loaded(next);
     hand_over(old);
     desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     const int row = desk_.list.index_en_cours.value();

@@ -11,7 +11,8 @@ int RandomOrder::draw(int playing_row, int rows) {
     deja_lu_.push_back(playing_row);
     for (int attempt = 0; attempt < 100 * rows; ++attempt) {
         random_.Randomize();
-        const int row = static_cast<int>(Fix(random_.Rnd() * static_cast<float>(rows) + 1.0F));
+        // In single precision the greatest number would round up to a row behind the last one.
+        const int row = static_cast<int>(Fix(static_cast<double>(random_.Rnd()) * rows + 1));
         if (std::ranges::find(deja_lu_, row) == deja_lu_.end())
             return row;
     }

@@ -193,6 +193,17 @@ TEST_F(ChainFaultsTest, FileBelowOneSecondInAListStandsStill) {
     EXPECT_EQ(times_of(Kind::started).size(), 1U);
 }
 
+TEST_F(ChainFaultsTest, RowThatEndsAtZeroIsFollowedAtTheEndOfItsFile) {
+    machine.add_track("C:\\a.mp3", 20);
+    machine.add_track("C:\\b.mp3", 20);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of("C:\\a.mp3", "0", 100, 0.0), record_of("C:\\b.mp3", "0", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    play_for(30);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 2}}));
+}
+
 TEST_F(ChainFaultsTest, ListOfTheSameFileOnlyPlaysOut) {
     machine.add_track("C:\\a.mp3", 100);
     open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\a.mp3", "100"), record_of("C:\\a.mp3", "100")});

@@ -93,6 +93,21 @@ TEST_F(ShutdownTest, AJournalThatIsOffLeavesNoFile) {
     EXPECT_FALSE(has_journal());
 }
 
+TEST_F(ShutdownTest, AJournalThatIsOffTakesTheFileOfAnEarlierRunWithIt) {
+    machine.disk.put_file("C:\\Sonarelle\\journal.doc", "hier\r\n");
+    expect_question(Answer::yes);
+    window.Quitter_.click();
+    EXPECT_FALSE(has_journal());
+}
+
+TEST_F(ShutdownTest, AJournalThatIsKeptOnlyAtTheEndKeepsWhatStoodInIt) {
+    machine.disk.put_file("C:\\Sonarelle\\journal.doc", "hier\r\n");
+    window.Active_journal.click();
+    expect_question(Answer::yes);
+    window.Quitter_.click();
+    EXPECT_THAT(journal_text(), testing::StartsWith("hier\r\n"));
+}
+
 TEST_F(ShutdownTest, AJournalThatIsNotKeptLeavesNoFile) {
     window.Active_journal1.click();
     expect_question(Answer::yes);

@@ -78,15 +78,31 @@ void DeskProgram::run_event(const std::function<void()>& event) {
     if (station_.ended())
         return;
     guard([&] { live_.driver().run_event(event); });
-    pulse_.beat();
+    if (!station_.ended())
+        pulse_.beat();
 }
 
 void DeskProgram::guard(const std::function<void()>& work) {
     try {
         work();
-    } catch (const Failure& failure) {
-        dialogs_.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    } catch (const std::exception& fault) {
+        tell_fault(fault.what());
     }
+}
+
+// Time goes on behind the box, and a tick that fails at every second must not heap up boxes.
+void DeskProgram::tell_fault(const std::string& sentence) {
+    note(sentence);
+    if (std::exchange(tells_fault_, true))
+        return;
+    dialogs_.MsgBox({sentence, std::string{application_title}, Buttons::ok, Icon::stop});
+    tells_fault_ = false;
+}
+
+// The journal is closed, or gone, when the station has ended.
+void DeskProgram::note(const std::string& what) {
+    if (!station_.ended())
+        station_.journal.note(date_and_time(station_.desk.platform) + " " + what);
 }
 
 void DeskProgram::connect() {
@@ -94,9 +110,7 @@ void DeskProgram::connect() {
     desktop_.offer_outputs({[this] { return live_.output()->device_names(); },
                             [this] { return live_.output()->chosen(); },
                             [this](const std::string& name) { choose_output(name); }});
-    live_.media().on_trouble = [this](const SoundReport& report) {
-        station_.journal.note(date_and_time(station_.desk.platform) + " " + trouble_text(report));
-    };
+    live_.media().on_trouble = [this](const SoundReport& report) { note(trouble_text(report)); };
 }
 
 void DeskProgram::run() {
@@ -109,7 +123,7 @@ void DeskProgram::run() {
 }
 
 void DeskProgram::tell_output(OutputState state) {
-    station_.journal.note(date_and_time(station_.desk.platform) + " " + state_text(state));
+    note(state_text(state));
     desktop_.show_output(state_text(state));
 }
 

@@ -41,6 +41,8 @@ private:
     void run_event(const std::function<void()>& event);
     /// A fault that no routine of the station caught is told, and the station stays on the air.
     void guard(const std::function<void()>& work);
+    void tell_fault(const std::string& sentence);
+    void note(const std::string& what);
     void connect();
     void choose_output(const std::string& name);
     void tell_output(OutputState state);
@@ -58,6 +60,7 @@ private:
     SoundProbe probe_{live_.bus().taps()};
     Desktop desktop_;
     Pulse pulse_;
+    bool tells_fault_ = false;
 };
 
 } // namespace sonarelle

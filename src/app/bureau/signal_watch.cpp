@@ -43,6 +43,7 @@ SignalWatch::SignalWatch(std::function<void()> on_signal) : notifier_{open_descr
 SignalWatch::~SignalWatch() {
     for (const int signal : {SIGINT, SIGTERM})
         std::signal(signal, SIG_DFL);
+    notifier_.setEnabled(false);
     ::close(wake_descriptor);
 }
 

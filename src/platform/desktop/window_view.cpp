@@ -192,9 +192,9 @@ void WindowView::resizeEvent(QResizeEvent* event) {
 void WindowView::keep_place() {
     if (!isVisible() || isMinimized() || isMaximized())
         return;
+    keep_size();
     window_.left = twips(pos().x());
     window_.top = twips(pos().y());
-    keep_size();
 }
 
 void WindowView::keep_size() {

@@ -74,16 +74,19 @@ public:
         return result.get();
     }
 
+    // For work that has threads of its own and waits in its own way.
+
     [[nodiscard]] const Limit& limit() const { return limit_; }
+    /// Whether a disk that was asked for this absolute path would leave the question unanswered.
+    [[nodiscard]] bool is_silent(const std::string& machine_path);
+    /// The disk of this path doesn't answer, until the thread that is left behind in it says that it does.
+    void remember(const std::string& machine_path, std::shared_ptr<std::atomic<bool>> returned);
 
 private:
     struct Silent {
         std::string folder;
         std::shared_ptr<std::atomic<bool>> returned;
     };
-
-    [[nodiscard]] bool is_silent(const std::string& machine_path);
-    void remember(const std::string& machine_path, std::shared_ptr<std::atomic<bool>> returned);
 
     Limit limit_;
     std::string mount_table_;

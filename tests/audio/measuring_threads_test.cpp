@@ -2,14 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <condition_variable>
 #include <cstring>
+#include <fstream>
 #include <map>
 #include <mutex>
 #include <set>
 #include <thread>
 
 #include "platform/failure.h"
+#include "support/private_folder.h"
 
 namespace sonarelle {
 
@@ -28,7 +31,8 @@ std::string wav(std::uint32_t samples) {
            word(8000, 4) + word(1, 2) + word(8, 2) + "data" + word(samples, 4) + std::string(samples, '\x80');
 }
 
-/// Files in memory. Those of a folder that hangs don't answer until it is let go.
+/// Files in memory. The disk of one folder tells nothing of its files until it is let go, that of another tells of them
+/// and then takes as long to read them.
 class MemoryFiles final : public SoundFiles {
 public:
     void put(const std::string& path, std::string bytes) { files_[path] = std::move(bytes); }
@@ -41,15 +45,24 @@ public:
     [[nodiscard]] FileFacts facts(const std::string& path) override {
         std::unique_lock lock{mutex_};
         seen_.insert(std::this_thread::get_id());
-        if (path.starts_with("/mort/"))
+        if (path.starts_with("/mort/")) {
+            ++hung_;
             free_.wait(lock, [this] { return !hangs_; });
+        }
         if (!files_.contains(path))
             throw Failure{failure_number::file_not_found, path};
         return {.size = static_cast<std::int64_t>(files_[path].size()), .modified = 0, .is_folder = false};
     }
     [[nodiscard]] std::unique_ptr<RecordFile> open(const std::string& path) override {
-        const std::lock_guard lock{mutex_};
+        std::unique_lock lock{mutex_};
+        if (path.starts_with("/disque/long/"))
+            free_.wait(lock, [this] { return !hangs_; });
         return std::make_unique<Bytes>(files_.at(path));
+    }
+    /// How often a folder that hangs was asked.
+    [[nodiscard]] unsigned hung() {
+        const std::lock_guard lock{mutex_};
+        return hung_;
     }
     [[nodiscard]] std::set<std::thread::id> seen() {
         const std::lock_guard lock{mutex_};
@@ -77,6 +90,7 @@ private:
     std::map<std::string, std::string> files_;
     std::set<std::thread::id> seen_;
     bool hangs_ = true;
+    unsigned hung_ = 0;
 };
 
 /// As the station's paths lie in memory: only drive Q is nowhere.
@@ -100,8 +114,17 @@ protected:
         return length.failure ? length.failure->number : 0;
     }
 
+    /// The mount table of a system that has a disk there.
+    [[nodiscard]] std::string mount_at(const std::string& place) const {
+        std::string table = folder.path() + "/mountinfo";
+        std::ofstream{table} << "36 35 98:0 / " << place << " rw,noatime shared:1 - nfs serveur rw\n";
+        return table;
+    }
+
+    const test::PrivateFolder folder;
+    const unsigned threads = std::max(1U, std::thread::hardware_concurrency());
     std::shared_ptr<MemoryFiles> files = std::make_shared<MemoryFiles>();
-    MeasuringThreads lengths{files, resolve, 60s};
+    MeasuringThreads lengths{files, resolve, DiskPatience{60s}};
 };
 
 } // namespace
@@ -162,7 +185,7 @@ TEST_F(MeasuringAhead, TellsAFileWithoutSound) {
 
 TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {
     files->put("/a", wav(8000));
-    MeasuringThreads impatient{files, resolve, 500ms};
+    MeasuringThreads impatient{files, resolve, DiskPatience{500ms}};
     for (int file = 0; file < 4; ++file)
         impatient.want("C:/mort/" + std::to_string(file));
     for (int file = 0; file < 4; ++file)
@@ -170,9 +193,44 @@ TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {
     EXPECT_EQ(taken(impatient, "C:/a").seconds, 1);
 }
 
+TEST_F(MeasuringAhead, AsksADeadDiskNoMoreThanOnceAThread) {
+    const unsigned count = 3 * threads;
+    MeasuringThreads impatient{files, resolve, DiskPatience{500ms, mount_at("/mort")}};
+    for (unsigned file = 0; file < count; ++file)
+        impatient.want("C:/mort/" + std::to_string(file));
+    for (unsigned file = 0; file < count; ++file)
+        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), failure_number::device_fault);
+    EXPECT_EQ(failure_of(impatient, "C:/mort/later"), failure_number::device_fault);
+    EXPECT_LE(files->hung(), threads);
+}
+
+TEST_F(MeasuringAhead, TakesADiskThatReadsALongFileForNoDeadOne) {
+    const auto long_file = [](unsigned number) { return "/disque/long/" + std::to_string(number); };
+    files->put("/disque/a", wav(8000));
+    MeasuringThreads impatient{files, resolve, DiskPatience{500ms, mount_at("/disque")}};
+    for (unsigned file = 0; file < threads; ++file) {
+        files->put(long_file(file), wav(8000));
+        impatient.want("C:" + long_file(file));
+    }
+    impatient.want("C:/disque/a");
+    EXPECT_EQ(failure_of(impatient, "C:" + long_file(0)), failure_number::device_fault);
+    EXPECT_EQ(taken(impatient, "C:/disque/a").seconds, 1);
+}
+
+TEST_F(MeasuringAhead, AsksADiskThatCameBackAgain) {
+    files->put("/mort/a", wav(8000));
+    MeasuringThreads impatient{files, resolve, DiskPatience{500ms}};
+    EXPECT_EQ(failure_of(impatient, "C:/mort/a"), failure_number::device_fault);
+    files->let_go();
+    MeasuredLength length = taken(impatient, "C:/mort/a");
+    while (length.failure) // as long as the thread that was left behind is on its way back
+        length = taken(impatient, "C:/mort/a");
+    EXPECT_EQ(length.seconds, 1);
+}
+
 TEST_F(MeasuringAhead, IsDroppedWhileADiskHangs) {
     {
-        MeasuringThreads others{files, resolve, std::nullopt};
+        MeasuringThreads others{files, resolve, DiskPatience{}};
         others.want("C:/mort/a");
         EXPECT_FALSE(others.take("C:/mort/a", 10ms));
     }

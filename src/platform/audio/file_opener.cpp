@@ -49,7 +49,7 @@ PreparedFile FileOpener::open(const std::string& path) {
 }
 
 std::unique_ptr<LengthsAhead> FileOpener::measure_ahead(std::function<std::string(std::string_view)> resolve) const {
-    return std::make_unique<MeasuringThreads>(files_, std::move(resolve), patience_.limit());
+    return std::make_unique<MeasuringThreads>(files_, std::move(resolve), patience_);
 }
 
 } // namespace sonarelle

@@ -14,32 +14,45 @@ constexpr std::chrono::milliseconds patience_at_the_end{100};
 
 using Instant = std::chrono::steady_clock::time_point;
 
-MeasuredLength measure(SoundFiles& files, const std::string& path) {
+MeasuredLength measure(SoundFiles& files, const std::string& path, std::atomic<bool>& disk_answers) {
     try {
-        if (files.facts(path).is_folder)
+        const FileFacts facts = files.facts(path);
+        disk_answers = true;
+        if (facts.is_folder)
             throw Failure{failure_number::unplayable_file, path};
         const auto source = open_sample_source(files.open(path), path);
         return {static_cast<double>(source->length()) / source->rate(), {}};
     } catch (const Failure& failure) {
+        disk_answers = true;
         return {0, failure};
     }
 }
 
 } // namespace
 
-/// What the window thread and the measuring threads share. A file stands here from the asking to the taking.
+/// What the window thread and the measuring threads share.
 struct MeasuringThreads::Work {
     enum class Stage { waiting, under_way, measured };
+    /// A file from the asking to the taking.
     struct File {
+        [[nodiscard]] bool hangs(DiskPatience& patience) const;
+        void fail(int number) {
+            stage = Stage::measured;
+            length = {0, Failure{number}};
+        }
+
         std::string machine_path;
         Stage stage = Stage::waiting;
         Instant since{};
+        std::shared_ptr<std::atomic<bool>> disk_answers{}; ///< Set once the disk has told of the file.
         MeasuredLength length{};
     };
 
     explicit Work(std::shared_ptr<SoundFiles> sound_files) : files{std::move(sound_files)} {}
 
     void run();
+    /// The file takes too long. Where its disk hasn't even told of it, what waits for the same one fails unasked.
+    void give_up(File& file, DiskPatience& patience) SONARELLE_REQUIRES(mutex);
 
     const std::shared_ptr<SoundFiles> files;
     Mutex mutex;
@@ -60,17 +73,19 @@ void MeasuringThreads::Work::run() {
         }
         const std::string path = std::move(queue.front());
         queue.pop_front();
-        File& file = by_path[path];
-        if (file.stage != Stage::waiting) // asked for twice, once to be next
-            continue;
-        file.stage = Stage::under_way;
-        file.since = std::chrono::steady_clock::now();
-        const std::string machine_path = file.machine_path;
+        const auto waiting = by_path.find(path);
+        if (waiting == by_path.end() || waiting->second.stage != Stage::waiting)
+            continue; // its disk was given up meanwhile
+        const auto disk_answers = std::make_shared<std::atomic<bool>>(false);
+        waiting->second.stage = Stage::under_way;
+        waiting->second.since = std::chrono::steady_clock::now();
+        waiting->second.disk_answers = disk_answers;
+        const std::string machine_path = waiting->second.machine_path;
         mutex.unlock();
-        MeasuredLength length = measure(*files, machine_path);
+        MeasuredLength length = measure(*files, machine_path, *disk_answers);
         mutex.lock();
         const auto found = by_path.find(path);
-        if (found == by_path.end() || found->second.stage != Stage::under_way)
+        if (found == by_path.end() || found->second.disk_answers != disk_answers)
             continue; // given up meanwhile
         found->second.length = std::move(length);
         found->second.stage = Stage::measured;
@@ -80,8 +95,24 @@ void MeasuringThreads::Work::run() {
     answered.notify_all();
 }
 
-MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience::Limit patience)
-    : work_{std::make_shared<Work>(std::move(files))}, resolve_{std::move(resolve)}, patience_{patience} {
+bool MeasuringThreads::Work::File::hangs(DiskPatience& patience) const {
+    return stage == Stage::under_way && patience.limit() &&
+           (std::chrono::steady_clock::now() - since > *patience.limit() ||
+            (!*disk_answers && patience.is_silent(machine_path)));
+}
+
+void MeasuringThreads::Work::give_up(File& file, DiskPatience& patience) {
+    file.fail(failure_number::device_fault);
+    if (*file.disk_answers)
+        return;
+    patience.remember(file.machine_path, file.disk_answers);
+    for (auto& [path, other] : by_path)
+        if (other.stage == Stage::waiting && patience.is_silent(other.machine_path))
+            other.fail(failure_number::device_fault);
+}
+
+MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience patience)
+    : work_{std::make_shared<Work>(std::move(files))}, resolve_{std::move(resolve)}, patience_{std::move(patience)} {
     const unsigned count = std::max(1U, std::thread::hardware_concurrency());
     for (unsigned thread = 0; thread < count; ++thread)
         add_thread();
@@ -124,6 +155,8 @@ void MeasuringThreads::ask(std::string_view path, bool first) {
     Work::File file;
     try {
         file.machine_path = resolve_(path);
+        if (patience_.is_silent(file.machine_path))
+            file.fail(failure_number::device_fault);
     } catch (const Failure& failure) {
         file.stage = Work::Stage::measured;
         file.length.failure = failure;
@@ -145,20 +178,22 @@ std::optional<MeasuredLength> MeasuringThreads::take(std::string_view path, std:
     const std::string name{path};
     const Instant limit = std::chrono::steady_clock::now() + patience;
     MeasuredLength length;
-    bool hangs = false;
+    bool left_behind = false;
     {
         MutexLock lock{work_->mutex};
         Work::File& file = work_->by_path[name];
-        while (file.stage != Work::Stage::measured && std::chrono::steady_clock::now() < limit)
+        while (file.stage != Work::Stage::measured && !file.hangs(patience_) &&
+               std::chrono::steady_clock::now() < limit)
             work_->answered.wait_until(work_->mutex, limit);
-        hangs = file.stage == Work::Stage::under_way && patience_ &&
-                std::chrono::steady_clock::now() - file.since > *patience_;
-        if (file.stage != Work::Stage::measured && !hangs)
+        left_behind = file.hangs(patience_);
+        if (left_behind)
+            work_->give_up(file, patience_);
+        if (file.stage != Work::Stage::measured)
             return std::nullopt;
-        length = hangs ? MeasuredLength{0, Failure{failure_number::device_fault, name}} : std::move(file.length);
+        length = std::move(file.length);
         work_->by_path.erase(name);
     }
-    if (hangs)
+    if (left_behind)
         add_thread();
     if (length.failure) // known to the station by its own name
         length.failure = Failure{length.failure->number, name, length.failure->description};

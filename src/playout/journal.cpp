@@ -62,12 +62,15 @@ void Journal::choose(const MenuItem& entry, bool active) {
     desk_.chain.journal_actif = active;
 }
 
-void Journal::A_purger_journal_Click() {
-    const bool deleted = ErrorIndicator{}.skip([this] {
+bool Journal::discard() {
+    return ErrorIndicator{}.skip([this] {
         enter_program_folder(desk_.platform);
         desk_.platform.disk.Kill(journal_file);
     });
-    if (deleted)
+}
+
+void Journal::A_purger_journal_Click() {
+    if (discard())
         desk_.inform("Ok journal supprimé");
 }
 

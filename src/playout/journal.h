@@ -22,6 +22,9 @@ public:
     /// The same for the list window, which tells the operator when the line can't be written.
     void note_of_list_window(const std::string& line);
 
+    /// Deletes the file; the next line begins a new one. False when there is none, or the disk refuses it.
+    bool discard();
+
     /// Called with each line that `note` writes.
     std::function<void(const std::string&)> on_line;
 

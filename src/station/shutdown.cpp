@@ -4,17 +4,10 @@
 #include <vector>
 
 #include "configuration/window_place.h"
-#include "platform/disk.h"
 #include "platform/failure.h"
 #include "playlist/list_rows.h"
 
 namespace sonarelle {
-
-namespace {
-
-constexpr std::string_view journal_file = "journal.doc";
-
-} // namespace
 
 Shutdown::Shutdown(Desk& desk, Journal& journal, std::function<std::vector<Window*>()> windows,
                    std::function<void()> end_process)
@@ -59,10 +52,7 @@ void Shutdown::close_journal() {
     journal_.journal();
     desk_.chain.ligne_journal.clear();
     if (desk_.window.Active_journal1.checked || desk_.window.A_desacive_J.checked)
-        ErrorIndicator{}.skip([this] {
-            enter_program_folder(desk_.platform);
-            desk_.platform.disk.Kill(journal_file);
-        });
+        static_cast<void>(journal_.discard());
 }
 
 void Shutdown::unload_windows() {

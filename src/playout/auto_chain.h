@@ -57,7 +57,8 @@ private:
 
     void load_step();
     bool try_to_load_next();
-    [[nodiscard]] bool is_playable_file();
+    /// The current row's file on the next deck, when it is there and can be played.
+    [[nodiscard]] bool load_if_playable();
     void loaded();
     void drop_invalid_row();
     void pass_over_row(RowWalk& walk);

@@ -89,7 +89,7 @@ bool AutoChain::try_to_load_next() {
     reading_.lire_enreg_destinataire();
     chain.chargement_fait = true;
     try {
-        if (is_playable_file()) {
+        if (load_if_playable()) {
             loaded();
             return true;
         }
@@ -124,7 +124,7 @@ bool AutoChain::take_drawn_row() {
     return true;
 }
 
-bool AutoChain::is_playable_file() {
+bool AutoChain::load_if_playable() {
     const std::string& path = desk_.list.chemin_fichier;
     if (is_network_path(path)) {
         journal_.note(date_and_time(desk_.platform) +
@@ -175,7 +175,7 @@ void AutoChain::drop_invalid_row() {
                   " Non trouvé ou non valide");
     if (desk_.row_count() == 0)
         throw ListStopped{};
-    run_.remove_row("Recherche de fichier valide ");
+    run_.remove_row();
     desk_.chain.chargement_fait = false;
     if (desk_.row_count() == 0)
         throw ListStopped{};

@@ -126,7 +126,7 @@ void RunControl::detecte_fichier_liste() {
         return;
     desk_.platform.disk.ChDrive(path);
     if (desk_.platform.disk.Dir(path).empty()) {
-        remove_row("Recherche de fichier valide ");
+        remove_row();
         path.clear();
         return;
     }
@@ -141,7 +141,7 @@ void RunControl::detecte_fichier_liste() {
     path.clear();
 }
 
-void RunControl::remove_row(const std::string& heading) {
+void RunControl::remove_row() {
     desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
     document_.sauve_tout();
     desk_.report(
@@ -149,7 +149,8 @@ void RunControl::remove_row(const std::string& heading) {
     if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
         desk_.list.ligne_en_lecture -= 1;
     desk_.list.index_en_cours -= 1;
-    report_missing(heading, "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+    report_missing("Recherche de fichier valide ",
+                   "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
 
 void RunControl::report_missing(const std::string& heading, const std::string& last_line) {

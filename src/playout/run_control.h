@@ -30,7 +30,7 @@ public:
     void detecte_fichier_liste();
 
     /// Removes the current row, whose file can't be played, saves the list and says so.
-    void remove_row(const std::string& heading);
+    void remove_row();
 
     void Mettre_en_pause(const std::function<void(Deck&)>& press_pause);
 

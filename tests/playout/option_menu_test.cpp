@@ -32,14 +32,14 @@ TEST_F(StationName, IsStoredAndShown) {
     EXPECT_EQ(window.Quitter_.caption.get(), "Quitter Radio Port (Q)");
 }
 
-TEST_F(StationName, ThatIsEmptyBecomesTheProgramsOldOne) {
+TEST_F(StationName, ThatIsEmptyBecomesTheDefaultOne) {
     machine.dialogs.expect_cancel();
     window.nom_radio.click();
     EXPECT_EQ(stored("Nom_antenne_fm"), "Antenne_FM");
     EXPECT_EQ(station.settings.nom_radio, "Antenne_FM");
 }
 
-TEST_F(StationName, ThatWasEmptyIsOfferedAsTheProgramsOldOne) {
+TEST_F(StationName, ThatWasEmptyIsOfferedAsTheDefaultOne) {
     station.settings.nom_radio.clear();
     enter("Radio Port");
     window.nom_radio.click();

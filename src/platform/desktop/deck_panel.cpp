@@ -35,7 +35,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     auto* left = new QVBoxLayout;
     left->setSpacing(5);
     left->addLayout(heading(number));
-    left->addWidget(dresser.label(controls.title, {.pixels = 21, .bold = true, .characters = 16}));
+    left->addWidget(dresser.label(controls.title, {.pixels = 19, .bold = true, .characters = 16}));
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);
     left->addWidget(progress_);

@@ -145,10 +145,11 @@ Panel* MainView::chain_panel() {
     auto* more = dresser_.image(window_.Image15, "+");
     less->setAccessibleName("Superposition moins une seconde");
     more->setAccessibleName("Superposition plus une seconde");
-    auto* unit = text_label({.pixels = 12, .quiet = true, .characters = 16}, "s de superposition");
+    auto* unit = text_label({.pixels = 11, .quiet = true, .characters = 17}, "s de superposition");
+    unit->setMinimumWidth(unit->sizeHint().width());
     auto* companion = dresser_.slider(window_.UpDown1, Qt::Horizontal);
     companion->setAccessibleName("Superposition");
-    companion->setMaximumWidth(110);
+    companion->setMaximumWidth(64);
     auto* mix = row_of({less, overlap, more, unit, companion});
     column->addLayout(decks);
     column->addLayout(list);

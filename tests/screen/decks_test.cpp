@@ -14,18 +14,6 @@ protected:
         return std::string{deck_names[static_cast<std::size_t>(GetParam() - 1)].*part};
     }
 
-    /// Chooses the chain over decks and loads the decks.
-    void load_decks(const std::string& list) {
-        eventually("the main window", [this] { return is_active(station().main_window); });
-        operators_event([&] {
-            station().list_document.open_list(station_form(list));
-            station().main_window.coche2.click();
-            for (int row = 1; row <= 3; ++row) {
-                station().list_window.ListView1.select(row);
-                station().list_window.deck_loads()[static_cast<std::size_t>(row - 1)]->click();
-            }
-        });
-    }
     [[nodiscard]] bool runs() { return deck().has_graph() && deck().graph().GetState() == MediaState::running; }
     void start() {
         press("Antenne_FM", named(&DeckNames::play));
@@ -34,18 +22,16 @@ protected:
 };
 
 TEST_P(DecksOnScreen, PlaysWhenPlayIsPressed) {
-    const std::string list = list_of(3, 60);
     operate("", [&] {
-        load_decks(list);
+        load_decks();
         start();
         EXPECT_EQ(seen<int>([this] { return station().chain.lecteur_en_cours.value(); }), GetParam());
     });
 }
 
 TEST_P(DecksOnScreen, PausesAndGoesOn) {
-    const std::string list = list_of(3, 60);
     operate("", [&] {
-        load_decks(list);
+        load_decks();
         start();
         press("Antenne_FM", named(&DeckNames::pause));
         eventually("the pause", [this] { return !runs(); });
@@ -55,9 +41,8 @@ TEST_P(DecksOnScreen, PausesAndGoesOn) {
 }
 
 TEST_P(DecksOnScreen, StopsWhenStopIsPressed) {
-    const std::string list = list_of(3, 60);
     operate("", [&] {
-        load_decks(list);
+        load_decks();
         start();
         press("Antenne_FM", named(&DeckNames::stop));
         eventually("the stop", [this] { return !runs(); });
@@ -65,9 +50,8 @@ TEST_P(DecksOnScreen, StopsWhenStopIsPressed) {
 }
 
 TEST_P(DecksOnScreen, GoesForwardByTheButton) {
-    const std::string list = list_of(3, 60);
     operate("", [&] {
-        load_decks(list);
+        load_decks();
         start();
         const auto position = [this] { return deck().graph().get_CurrentPosition(); };
         const double before = seen<double>(position);
@@ -78,9 +62,8 @@ TEST_P(DecksOnScreen, GoesForwardByTheButton) {
 }
 
 TEST_P(DecksOnScreen, ZapsToTheNextDeck) {
-    const std::string list = list_of(3, 60);
     operate("", [&] {
-        load_decks(list);
+        load_decks();
         start();
         press("Antenne_FM", named(&DeckNames::zap));
         eventually("the next deck as the main one",

@@ -39,7 +39,7 @@ void put_number(std::string& bytes, std::uint32_t number, int size) {
 }
 
 /// 8 kHz, one channel, 8 bit: a square wave of 100 Hz.
-std::string wav_bytes(int seconds) {
+std::string wav_bytes(int seconds, int level) {
     constexpr std::uint32_t rate = 8000;
     const std::uint32_t count = rate * static_cast<std::uint32_t>(seconds);
     std::string bytes = "RIFF";
@@ -51,7 +51,7 @@ std::string wav_bytes(int seconds) {
     bytes += "data";
     put_number(bytes, count, 4);
     for (std::uint32_t i = 0; i < count; ++i)
-        bytes += static_cast<char>(i / 40 % 2 == 0 ? 0x90 : 0x70);
+        bytes += static_cast<char>(i / 40 % 2 == 0 ? 128 + level : 128 - level);
     return bytes;
 }
 
@@ -79,8 +79,8 @@ void DeskBench::settings_of_a_second_start() {
     store.write_column(&SettingRow::first);
 }
 
-std::string DeskBench::tone(const std::string& name, int seconds) const {
-    folder_.put(name, wav_bytes(seconds));
+std::string DeskBench::tone(const std::string& name, int seconds, int level) const {
+    folder_.put(name, wav_bytes(seconds, level));
     return folder_.path(name);
 }
 
@@ -89,7 +89,7 @@ std::string DeskBench::list_of(int tracks, int seconds) {
     const std::string list = folder_.path("air.dfm");
     std::string command = std::string{tool} + " liste ajouter '" + list + "'";
     for (int track = 1; track <= tracks; ++track)
-        command += " '" + tone("piste" + std::to_string(track) + ".wav", seconds) + "'";
+        command += " '" + tone("piste" + std::to_string(track) + ".wav", seconds, 8 + 8 * track) + "'";
     if (std::system(command.c_str()) != 0)
         throw std::runtime_error{command};
     return list;
@@ -169,6 +169,19 @@ bool DeskBench::is_active(const Window& window) const {
 
 void DeskBench::operators_event(const std::function<void()>& event) {
     on_window_thread([&] { program_->live().driver().run_event(event); });
+}
+
+void DeskBench::load_decks() {
+    eventually("the main window", [this] { return is_active(station().main_window); });
+    const std::string list = station_form(list_of(3, 60));
+    operators_event([&] {
+        station().list_document.open_list(list);
+        station().main_window.coche2.click();
+        for (int row = 1; row <= 3; ++row) {
+            station().list_window.ListView1.select(row);
+            station().list_window.deck_loads()[static_cast<std::size_t>(row - 1)]->click();
+        }
+    });
 }
 
 std::string DeskBench::station_form(const std::string& path) const {

@@ -28,10 +28,10 @@ protected:
 
     /// The settings of a station that has been started before.
     void settings_of_a_second_start();
-    /// A list of tracks that last this many seconds each, quiet tones; its path on this machine.
+    /// A list of tracks that last this many seconds each, tones of different levels; its path on this machine.
     [[nodiscard]] std::string list_of(int tracks, int seconds);
-    /// One tone; its path on this machine.
-    [[nodiscard]] std::string tone(const std::string& name, int seconds) const;
+    /// One tone, loud as told (1 to 100); its path on this machine.
+    [[nodiscard]] std::string tone(const std::string& name, int seconds, int level = 16) const;
 
     /// Starts the desk with a file, or none, and lets `hands` work on it. Then the desk is closed without asking, if it
     /// hasn't ended by then.
@@ -60,6 +60,8 @@ protected:
     [[nodiscard]] bool is_active(const Window& window) const;
     /// What an operator does at one instant, without the mouse.
     void operators_event(const std::function<void()>& event);
+    /// Chooses the chain over decks and loads each deck with a track of a minute.
+    void load_decks();
     /// The station's form of a path of this machine.
     [[nodiscard]] std::string station_form(const std::string& path) const;
 
@@ -69,6 +71,7 @@ protected:
     void answer(const std::string& caption);
 
     [[nodiscard]] Station& station() { return program_->station(); }
+    [[nodiscard]] QWidget* widget_of(const Window& window) const { return program_->widget_of(window); }
     [[nodiscard]] bool has_ended() const { return ended_; }
     [[nodiscard]] const VirtualScreen& screen() const { return screen_; }
     [[nodiscard]] const PrivateFolder& folder() const { return folder_; }

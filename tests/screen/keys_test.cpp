@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include <QMenu>
+
+#include "screen/desk_bench.h"
+
+namespace sonarelle::test {
+
+/// The main window with three loaded decks, at the keyboard.
+class KeysOnScreen : public DeskBench {
+protected:
+    KeysOnScreen() { settings_of_a_second_start(); }
+
+    void at_the_keyboard(const std::function<void()>& hands) {
+        operate("", [&] {
+            load_decks();
+            hands();
+        });
+    }
+    /// Sets a deck going by its key in the play menu, and brings it to its tenth second.
+    void play(int number, const std::string& function_key) {
+        key(function_key);
+        eventually("the deck running", [this, number] { return runs(number); });
+        operators_event([this, number] { station().desk.deck(number).graph().put_CurrentPosition(10); });
+    }
+    [[nodiscard]] bool runs(int number) {
+        Deck& deck = station().desk.deck(number);
+        return deck.has_graph() && deck.graph().GetState() == MediaState::running;
+    }
+    [[nodiscard]] static std::string open_menu() {
+        const QWidget* menu = QApplication::activePopupWidget();
+        return menu == nullptr ? "" : menu->objectName().toStdString();
+    }
+    [[nodiscard]] int slider() {
+        return seen<int>([this] { return station().desk.deck(1).controls.slider.value(); });
+    }
+};
+
+struct StepBack {
+    const char* key;
+    int deck;
+    const char* play_key;
+};
+
+class StepsBack : public KeysOnScreen, public testing::WithParamInterface<StepBack> {};
+
+TEST_P(StepsBack, OnItsDeck) {
+    at_the_keyboard([this] {
+        const StepBack& step = GetParam();
+        play(step.deck, step.play_key);
+        key(step.key);
+        eventually("a place before the tenth second",
+                   [&] { return station().desk.deck(step.deck).graph().get_CurrentPosition() < 10; });
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, StepsBack,
+                         testing::Values(StepBack{"ampersand", 1, "F5"}, StepBack{"1", 1, "F5"},
+                                         StepBack{"eacute", 2, "F6"}, StepBack{"2", 2, "F6"},
+                                         StepBack{"quotedbl", 3, "F7"}, StepBack{"3", 3, "F7"}));
+
+struct MenuKey {
+    const char* key;
+    const char* menu;
+};
+
+class MenuKeys : public KeysOnScreen, public testing::WithParamInterface<MenuKey> {};
+
+TEST_P(MenuKeys, OpenTheirMenu) {
+    at_the_keyboard([this] {
+        key(GetParam().key);
+        eventually("the menu", [] { return open_menu() == GetParam().menu; });
+        key("Escape");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, MenuKeys,
+                         testing::Values(MenuKey{"a", "affiche"}, MenuKey{"A", "affiche"}, MenuKey{"o", "Option_"},
+                                         MenuKey{"O", "Option_"}));
+
+TEST_F(KeysOnScreen, BTurnsTheMainDeckDown) {
+    at_the_keyboard([this] {
+        play(1, "F5");
+        key("b");
+        eventually("a quieter deck", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
+    });
+}
+
+TEST_F(KeysOnScreen, HTurnsTheMainDeckUpAgain) {
+    at_the_keyboard([this] {
+        play(1, "F5");
+        key("b");
+        key("B");
+        key("h");
+        eventually("one step up", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
+    });
+}
+
+TEST_F(KeysOnScreen, PPausesTheMainDeck) {
+    at_the_keyboard([this] {
+        play(1, "F5");
+        key("p");
+        eventually("the pause", [this] { return !runs(1); });
+    });
+}
+
+TEST_F(KeysOnScreen, ZGoesOverToTheNextDeck) {
+    at_the_keyboard([this] {
+        play(1, "F5");
+        key("z");
+        eventually("deck 2 as the main one", [this] { return station().chain.lecteur_en_cours == 2; });
+    });
+}
+
+TEST_F(KeysOnScreen, SmallMShowsTheSmallPlayer) {
+    at_the_keyboard([this] {
+        key("m");
+        eventually("the small player", [this] { return is_on_screen(station().small_player); });
+    });
+}
+
+TEST_F(KeysOnScreen, CapitalIShowsTheSmallPlayer) {
+    at_the_keyboard([this] {
+        key("I");
+        eventually("the small player", [this] { return is_on_screen(station().small_player); });
+    });
+}
+
+TEST_F(KeysOnScreen, LChoosesTheList) {
+    at_the_keyboard([this] {
+        key("l");
+        eventually("the list's chain", [this] { return station().main_window.coche3.value(); });
+    });
+}
+
+TEST_F(KeysOnScreen, LTellsInManualModeThatItIsManual) {
+    at_the_keyboard([this] {
+        operators_event([this] { station().main_window.a_mode_manuel.click(); });
+        key("l");
+        eventually("the box", [] { return QApplication::activeModalWidget() != nullptr; });
+        EXPECT_EQ(box(), "Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
+        key("Return");
+    });
+}
+
+TEST_F(KeysOnScreen, TheSquareSignGoesFromCornerToCorner) {
+    at_the_keyboard([this] {
+        const auto left = [this] { return station().main_window.left.get().count(); };
+        key("twosuperior");
+        eventually("the right corner", [&] { return left() > 1000; });
+        key("twosuperior");
+        eventually("the left corner", [&] { return left() == 0; });
+    });
+}
+
+TEST_F(KeysOnScreen, F2OpensTheListWindow) {
+    at_the_keyboard([this] {
+        key("F2");
+        eventually("the list window", [this] { return is_on_screen(station().list_window); });
+    });
+}
+
+TEST_F(KeysOnScreen, F9MixesDeck2OverTheMainDeck) {
+    at_the_keyboard([this] {
+        play(1, "F5");
+        key("F9");
+        eventually("both decks", [this] { return runs(1) && runs(2); });
+    });
+}
+
+TEST_F(KeysOnScreen, ControlYChoosesTheFadeOfTheList) {
+    at_the_keyboard([this] {
+        operators_event([this] { station().main_window.coche3.click(); });
+        key("ctrl+y");
+        eventually("the check mark", [this] { return station().main_window.Active_audio.checked.get(); });
+    });
+}
+
+TEST_F(KeysOnScreen, ControlZChoosesTheFadeOfTheZap) {
+    at_the_keyboard([this] {
+        operators_event([this] { station().main_window.coche3.click(); });
+        key("ctrl+z");
+        eventually("the check mark", [this] { return station().main_window.Active_audio_zapping.checked.get(); });
+    });
+}
+
+} // namespace sonarelle::test

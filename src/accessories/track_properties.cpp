@@ -1,5 +1,6 @@
 #include "accessories/track_properties.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/dialogs.h"
@@ -7,6 +8,7 @@
 #include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
+#include "playlist/row_reading.h"
 
 namespace sonarelle {
 
@@ -24,12 +26,11 @@ int percent_of(int x) {
 } // namespace
 
 TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
-                                 DestinationRecord& destination, Liste_son& list_window, Propriete& window,
-                                 RecordReading& reading, ListDocument& document)
-    : platform_{platform}, settings_{settings}, list_{list}, destination_{destination}, list_window_{list_window},
-      window_{window}, reading_{reading}, document_{document}, start_{window.Text1, window.Timer2}, end_{
-                                                                                                        window.Text2,
-                                                                                                        window.Timer3} {
+                                 ChainState& chain, DestinationRecord& destination, Liste_son& list_window,
+                                 Propriete& window, RecordReading& reading, ListDocument& document)
+    : platform_{platform}, settings_{settings}, list_{list}, chain_{chain}, destination_{destination},
+      list_window_{list_window}, window_{window}, reading_{reading}, document_{document},
+      start_{window.Text1, window.Timer2}, end_{window.Text2, window.Timer3} {
     connect_actions();
     connect_looks();
 }
@@ -88,22 +89,30 @@ void TrackProperties::a_modif() {
         return;
     ErrorIndicator{}.skip([this] {
         stop();
-        list_.index_destinataire = list_window_.ListView1.selected();
-        reading_.lire_enreg_destinataire();
-        destination_.convertir_valeur_son_ecriture();
-        row_ = list_.index_destinataire;
-        path_ = trim(destination_.dest_chemin);
-        list_.nom_fichier_maj = path_;
-        changed_ = false;
-        window_.Label2.caption = destination_.dest_nom_fichier;
-        window_.Text1.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
-        window_.Text2.set_text(destination_.dest_fin);
-        window_.Text3.set_text(destination_.dest_genre);
-        window_.Text4.set_text(text_of(destination_.dest_volume));
-        window_.Text5.set_text(destination_.dest_duree);
+        const bool has_volume = fill_finds_a_volume(std::max(1, list_window_.ListView1.selected()));
         restore_colours();
         window_.show();
+        if (!has_volume)
+            reading_.check_null_volume();
     });
+}
+
+// The record that the next start on the air goes by stays.
+bool TrackProperties::fill_finds_a_volume(int row) {
+    const KeptForTheAir kept{chain_, list_, destination_};
+    const bool is_read = reading_.read_record(row);
+    destination_.convertir_valeur_son_ecriture();
+    row_ = row;
+    path_ = trim(destination_.dest_chemin);
+    list_.nom_fichier_maj = path_;
+    changed_ = false;
+    window_.Label2.caption = destination_.dest_nom_fichier;
+    window_.Text1.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
+    window_.Text2.set_text(destination_.dest_fin);
+    window_.Text3.set_text(destination_.dest_genre);
+    window_.Text4.set_text(text_of(destination_.dest_volume));
+    window_.Text5.set_text(destination_.dest_duree);
+    return !is_read || destination_.dest_volume_pourcent != 0;
 }
 
 void TrackProperties::play() {
@@ -229,9 +238,7 @@ enreg_liste TrackProperties::edited_row() const {
 
 // As after every change of a row, the default list then holds the whole table.
 void TrackProperties::put_row_back(const enreg_liste& row) {
-    RowTable& rows = list_window_.ListView1;
-    rows.remove(row_.value());
-    rows.insert(row_.value(), row_of(row, platform_.decimal_mark));
+    list_window_.ListView1.replace(row_.value(), row_of(row, platform_.decimal_mark));
     document_.sauve_tout();
 }
 

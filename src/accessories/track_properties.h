@@ -14,6 +14,7 @@
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
 #include "playlist/working_records.h"
+#include "playout/chain_state.h"
 
 namespace sonarelle {
 
@@ -21,7 +22,7 @@ namespace sonarelle {
 /// start and end, and writes the row back. Window thread.
 class TrackProperties {
 public:
-    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
+    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list, ChainState& chain,
                     DestinationRecord& destination, Liste_son& list_window, Propriete& window, RecordReading& reading,
                     ListDocument& document);
 
@@ -41,6 +42,7 @@ private:
     void connect_looks();
     void on_press(Label& label, std::function<void()> act);
 
+    [[nodiscard]] bool fill_finds_a_volume(int row);
     void play();
     void stop();
     void press_mark(Mark& mark);
@@ -67,6 +69,7 @@ private:
     const Platform& platform_;
     const StationSettings& settings_;
     ListState& list_;
+    ChainState& chain_;
     DestinationRecord& destination_;
     Liste_son& list_window_;
     Propriete& window_;

@@ -44,6 +44,21 @@ TEST_F(TrackPropertiesOnAir, RunGoesOnAndPlaysTheRowAsItWasCut) {
     EXPECT_DOUBLE_EQ(starts[3].first - starts[2].first, 54) << "row 3 plays from 20 to 80 less the mix";
 }
 
+TEST_F(TrackPropertiesOnAir, LeaveWhatTheNextStartGoesBy) {
+    open_tracks({60, 60, 60}, 3.0);
+    rows().set_sub_item(3, 1, "9.00");
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    machine.run_for(milliseconds(10000));
+    const std::string next = station.destination.dest_chemin;
+    rows().select(3);
+    station.list_window.a_modif.click();
+    EXPECT_EQ(station.properties_window.Text1.text(), "9");
+    EXPECT_EQ(station.destination.dest_debut, 3.0);
+    EXPECT_EQ(station.destination.dest_chemin, next);
+}
+
 TEST_F(TrackPropertiesOnAir, SaveWhileTheChainHasReadAnotherRow) {
     open_tracks({100, 200, 200});
     start_list();

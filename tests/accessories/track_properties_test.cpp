@@ -55,6 +55,14 @@ TEST_F(TrackPropertiesTest, ShowWhatTheFileHoldsNotTheCells) {
     EXPECT_EQ(window.Text3.text(), "Rock");
 }
 
+TEST_F(TrackPropertiesTest, WarnOfANullVolumeOnceTheyAreShown) {
+    open_list("C:\\Sonarelle\\nul.dfm", {record_of(music, "180.00", 0)});
+    machine.dialogs.expect_window("err_form", [this] { station.record_reading.read_record(1); });
+    open(3);
+    EXPECT_EQ(window.Label2.caption.get(), "été.mp3");
+    EXPECT_EQ(window.Text4.text(), "0");
+}
+
 TEST_F(TrackPropertiesTest, StayClosedWhileTheListIsEmpty) {
     rows().clear();
     station.list_window.a_modif.click();

@@ -8,7 +8,7 @@ using StartAndEnd = DeskBench;
 
 TEST_F(StartAndEnd, AFirstStartTellsWhatItWroteAndEnds) {
     operate("", [this] {
-        eventually("the box of a first start", [this] { return QApplication::activeModalWidget() != nullptr; });
+        eventually("the box of a first start", [] { return QApplication::activeModalWidget() != nullptr; });
         EXPECT_NE(box().find("Vous pouvez relancer Sonarelle"), std::string::npos);
         key("Return");
         while (!has_ended())

@@ -3,9 +3,22 @@
 #include <QCursor>
 #include <algorithm>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/qt_text.h"
 
 namespace sonarelle {
+
+namespace {
+
+// Menus lie over panels of the windows' own colour, so theirs is lighter.
+QPalette menu_palette() {
+    QPalette palette = studio_palette();
+    palette.setColor(QPalette::Window, studio::face);
+    palette.setColor(QPalette::Base, studio::face);
+    return palette;
+}
+
+} // namespace
 
 MenuItemBinding::MenuItemBinding(MenuItem& item, QWidget& window, const DesktopServices& services)
     : item_{item}, services_{services} {
@@ -13,6 +26,7 @@ MenuItemBinding::MenuItemBinding(MenuItem& item, QWidget& window, const DesktopS
         menu_ = std::make_unique<QMenu>(&window);
         menu_->setObjectName(to_qt(item.name()));
         menu_->setToolTipsVisible(true);
+        menu_->setPalette(menu_palette());
         action_ = menu_->menuAction();
         connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
             services_.run_event([this] { item_.open(); });

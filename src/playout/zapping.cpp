@@ -123,10 +123,13 @@ void Zapping::zap_in_list(Deck& old) {
     const bool told = chain_.is_loaded(next);
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
-    if (!told && !desk_.chain.erreur_chargement.is_true())
+    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    // The track on the air goes on, and its mix point takes the row behind.
+    if (desk_.chain.erreur_chargement.is_true())
+        throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
+    if (!told)
         desk_.report_loaded(next);
     hand_over(old);
-    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);

@@ -63,6 +63,32 @@ TEST_F(ZappingTest, ByTheButtonIsNotBoundToTheSecondsInAReadingModeOfTheList) {
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {5, 2}}));
 }
 
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedSaysSoByName) {
+    start_and_run(50);
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_NE(machine.dialogs.last().text.find(track(2)), std::string::npos);
+}
+
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedLeavesTheTrackOnTheAir) {
+    start_and_run(50);
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    machine.run_for(seconds(10));
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedIsFollowedAtTheMixPointByTheRowBehind) {
+    start_and_run(50);
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    machine.run_for(seconds(150));
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(3)});
+}
+
 TEST_F(ZappingTest, WithoutAMainDeckSaysSo) {
     machine.dialogs.expect_box("Aucune lecture en cours", Answer::ok);
     station.list_window.Image2.click();

@@ -56,10 +56,10 @@ void MainView::build_rows(const SoundReading& sound) {
     rows->addLayout(header());
     rows->addLayout(deck_row(), 3);
     rows->addLayout(lower_row(sound), 1);
-    QWidget* status = status_line();
+    QWidget* foot = status_line();
     if (QWidget* rest = remaining_parts(dresser_))
         rows->addWidget(rest);
-    rows->addWidget(status);
+    rows->addWidget(foot);
 }
 
 // They stand for the menu bar while it is hidden.

@@ -1,5 +1,6 @@
 #include "platform/desktop/row_table_binding.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>

@@ -1,6 +1,7 @@
 #include "platform/scheduler.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "platform/timer.h"
@@ -62,8 +63,26 @@ void Scheduler::run_until(Frames horizon) {
 }
 
 void Scheduler::run_event(Frames stamp, const std::function<void()>& event) {
-    run_until(std::max(stamp, now_));
+    const Frames horizon = std::max(stamp, now_);
+    const std::exception_ptr fault = run_all_until(horizon);
     event();
+    if (fault)
+        std::rethrow_exception(fault);
+}
+
+// Every round passes the tick that failed, whose timer is due later by then.
+std::exception_ptr Scheduler::run_all_until(Frames horizon) {
+    std::exception_ptr first_fault;
+    for (bool reached = false; !reached;) {
+        try {
+            run_until(horizon);
+            reached = true;
+        } catch (...) {
+            if (!first_fault)
+                first_fault = std::current_exception();
+        }
+    }
+    return first_fault;
 }
 
 bool Scheduler::in_tick() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -30,7 +31,8 @@ public:
     /// yields): the timers whose ticks are under way stand still then, and their missed ticks are left out.
     void run_until(Frames horizon);
 
-    /// Runs what the operator did at `stamp` (never below the last tick run), after the ticks due by then.
+    /// Runs what the operator did at `stamp` (never below the last tick run), after the ticks due by then. A tick that
+    /// throws costs neither the other ticks nor the event: its exception goes on when the event has run.
     void run_event(Frames stamp, const std::function<void()>& event);
 
     /// Whether a tick is under way, which must not wait for the operator.
@@ -46,6 +48,8 @@ private:
     void remove(Timer& timer);
     [[nodiscard]] Timer* next_timer() const;
     void run_tick(Timer& timer);
+    /// Runs them past any that throw; the first of their exceptions, or none.
+    [[nodiscard]] std::exception_ptr run_all_until(Frames horizon);
 
     std::vector<Timer*> timers_;
     Frames now_;

@@ -106,6 +106,24 @@ TEST_F(SchedulerEvent, OfThePastHappensNow) {
     EXPECT_THAT(lines, ElementsAre("1@1000", "event@1000"));
 }
 
+TEST_F(SchedulerEvent, ComesBehindATickThatThrowsAndThoseAfterIt) {
+    add(1, 500);
+    add(2, 500).on_tick = [] { throw std::runtime_error{"tick"}; };
+    EXPECT_THROW(scheduler.run_event(seconds(1), [&] { write("event"); }), std::runtime_error);
+    EXPECT_THAT(lines, ElementsAre("1@500", "1@1000", "event@1000"));
+}
+
+TEST_F(SchedulerEvent, GoesByTheFirstOfTheExceptionsOfItsTicks) {
+    int ticks = 0;
+    add(1, 500).on_tick = [&] { throw std::runtime_error{std::to_string(++ticks)}; };
+    try {
+        scheduler.run_event(seconds(1), [] {});
+    } catch (const std::runtime_error& fault) {
+        lines.emplace_back(fault.what());
+    }
+    EXPECT_THAT(lines, ElementsAre("1"));
+}
+
 TEST_F(SchedulerEvent, IsNoTick) {
     bool in_tick = true;
     scheduler.run_event(seconds(1), [&] { in_tick = scheduler.in_tick(); });

@@ -11,6 +11,7 @@
 #include "platform/host/machine_paths.h"
 #include "platform/host/output_choice.h"
 #include "platform/host/program_files.h"
+#include "platform/paths.h"
 
 namespace sonarelle {
 
@@ -70,7 +71,9 @@ PathForms DeskProgram::path_forms() {
 
 std::string DeskProgram::picture_path(const std::string& name) {
     std::string path;
-    ErrorIndicator{}.skip([&] { path = live_.disk().machine_path(name); });
+    // The station's current folder is that of its music.
+    const bool is_bare = name_of_path(name) == name;
+    ErrorIndicator{}.skip([&] { path = live_.disk().machine_path(is_bare ? join_path(program_folder_, name) : name); });
     return path;
 }
 

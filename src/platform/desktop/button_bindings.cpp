@@ -22,7 +22,7 @@ ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const Desktop
 void ButtonBinding::show_state() {
     if (const QString text = caption(); face_.text() != text)
         face_.setText(text);
-    face_.set_picture(services().pictures.picture(button_.picture));
+    face_.set_pictures(services().pictures.faces(button_.picture));
     face_.set_face(face());
 }
 
@@ -55,7 +55,7 @@ ImageBinding::ImageBinding(Image& image, StudioButton& widget, const DesktopServ
 }
 
 void ImageBinding::show_state() {
-    face_.set_picture(services().pictures.picture(image_.picture));
+    face_.set_pictures(services().pictures.faces(image_.picture));
 }
 
 FrameBinding::FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services)

@@ -1,11 +1,18 @@
 #pragma once
 
-#include <QHash>
 #include <QPixmap>
 #include <functional>
 #include <string>
+#include <unordered_map>
 
 namespace sonarelle {
+
+/// A picture at rest, under the pointer and pressed. Where a drawing of its own is missing, it is the one at rest.
+struct PictureFaces {
+    QPixmap rest;
+    QPixmap over;
+    QPixmap down;
+};
 
 /// The pictures of the program's folder, each read once.
 class PictureStore {
@@ -16,12 +23,15 @@ public:
 
     /// Null for an empty name and for a file that can't be shown.
     [[nodiscard]] QPixmap picture(const std::string& name);
+    /// `b.gif` with `b_survol.gif` and `b_enfonce.gif`; where there is a `b_repos.gif`, `b.gif` is the pressed one.
+    [[nodiscard]] PictureFaces faces(const std::string& name);
     /// The machine's path of a file; empty when there is none.
     [[nodiscard]] QString path(const std::string& name) const;
 
 private:
     std::function<std::string(const std::string&)> machine_path_;
-    QHash<QString, QPixmap> pictures_;
+    std::unordered_map<std::string, QPixmap> pictures_;
+    std::unordered_map<std::string, PictureFaces> faces_;
 };
 
 } // namespace sonarelle

@@ -10,8 +10,14 @@ namespace sonarelle {
 
 namespace {
 
-constexpr QMargins picture_margins{14, 8, 14, 8};
 constexpr int least_text_width = 8;
+
+// A picture without its edge.
+QRect inside(const QPixmap& picture) {
+    const int across = picture.width() / 8;
+    const int down = picture.height() / 8;
+    return picture.rect().adjusted(across, down, -across, -down);
+}
 
 } // namespace
 
@@ -43,11 +49,15 @@ void StudioButton::set_face(const Face& face) {
     update();
 }
 
-void StudioButton::set_picture(const QPixmap& picture) {
-    if (picture.isNull() != picture_.isNull())
+void StudioButton::set_pictures(const PictureFaces& pictures) {
+    if (pictures.rest.isNull() == has_picture())
         updateGeometry();
-    picture_ = picture;
+    pictures_ = pictures;
     update();
+}
+
+const QPixmap& StudioButton::shown_picture() const {
+    return isDown() ? pictures_.down : is_under_pointer() ? pictures_.over : pictures_.rest;
 }
 
 // A word stays beside a picture; a sign was there in its stead.
@@ -81,13 +91,13 @@ void StudioButton::set_least_width(int pixels) {
 QSize StudioButton::sizeHint() const {
     const QFontMetrics metrics{font()};
     const int height = metrics.height() + 14;
-    if (!has_face() && !picture_.isNull())
-        return (picture_.size() / 2).boundedTo({480, height});
+    if (!has_face() && has_picture())
+        return (pictures_.rest.size() / 2).boundedTo({480, height});
     if (!has_face() && shown_text().isEmpty())
         return {0, 0};
-    int width = picture_.isNull() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) + 20 : 0;
-    if (!picture_.isNull())
-        width += (picture_.width() - picture_margins.left() - picture_margins.right()) / 2;
+    int width = !has_picture() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) + 20 : 0;
+    if (has_picture())
+        width += inside(pictures_.rest).width() / 2;
     return {std::max(least_width_, width), height};
 }
 
@@ -110,9 +120,9 @@ void StudioButton::leaveEvent(QEvent* event) {
 void StudioButton::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const bool over = isEnabled() && underMouse();
+    const bool over = is_under_pointer();
     QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
-    if (!picture_.isNull() && !over)
+    if (has_picture() && !over && !isDown())
         ground = studio::face;
     QColor ink = isDown() ? face_.ink_down : over ? face_.ink_over : face_.ink;
     if (!isEnabled())
@@ -140,7 +150,7 @@ void StudioButton::paint_face(QPainter& painter, QColor ground) const {
 
 void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
     QRect area = has_face() ? rect().adjusted(5, 3, -5, -3) : rect();
-    if (!picture_.isNull())
+    if (has_picture())
         area = paint_picture(painter, area);
     if (area.width() < least_text_width)
         return;
@@ -155,9 +165,10 @@ void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
 // Pictures are drawn at twice their size and have a face of their own, whose edge is left out: the button draws its
 // own. Returns the room that is left for text, which is none where there is no text for it.
 QRect StudioButton::paint_picture(QPainter& painter, const QRect& area) const {
-    const QRect source = !has_face() ? picture_.rect() : picture_.rect().marginsRemoved(picture_margins);
+    const QPixmap& picture = shown_picture();
+    const QRect source = !has_face() ? picture.rect() : inside(picture);
     const QSize size = !has_face()
-                           ? picture_.size().scaled(area.size(), Qt::KeepAspectRatio).boundedTo(picture_.size())
+                           ? picture.size().scaled(area.size(), Qt::KeepAspectRatio).boundedTo(picture.size())
                            : (source.size() / 2).scaled(area.size(), Qt::KeepAspectRatio).boundedTo(source.size() / 2);
     const int left = area.width() - size.width();
     const bool text = has_text_beside() && QFontMetrics{font()}.horizontalAdvance(shown_text()) < left - 4;
@@ -166,7 +177,7 @@ QRect StudioButton::paint_picture(QPainter& painter, const QRect& area) const {
     // Of the picture's own face nothing shows where the button is lit.
     if (look_ != ButtonLook::picture)
         painter.setCompositionMode(QPainter::CompositionMode_Lighten);
-    painter.drawPixmap(place, picture_, source);
+    painter.drawPixmap(place, picture, source);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     return text ? QRect{place.right(), area.top(), area.right() - place.right(), area.height()} : QRect{};
 }

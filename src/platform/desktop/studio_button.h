@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QPixmap>
+
+#include "platform/desktop/picture_store.h"
 
 namespace sonarelle {
 
@@ -22,7 +23,7 @@ public:
     explicit StudioButton(QWidget* parent = nullptr);
 
     void set_face(const Face& face);
-    void set_picture(const QPixmap& picture);
+    void set_pictures(const PictureFaces& pictures);
     /// Shown where there is no caption; the caption still names the button.
     void set_symbol(const QString& symbol);
     void set_accent(Accent accent);
@@ -41,12 +42,15 @@ private:
     [[nodiscard]] bool has_face() const { return look_ == ButtonLook::face; }
     [[nodiscard]] bool has_text_beside() const;
     [[nodiscard]] QString shown_text() const { return symbol_.isEmpty() ? text() : symbol_; }
+    [[nodiscard]] bool has_picture() const { return !pictures_.rest.isNull(); }
+    [[nodiscard]] bool is_under_pointer() const { return isEnabled() && underMouse(); }
+    [[nodiscard]] const QPixmap& shown_picture() const;
     void paint_face(QPainter& painter, QColor ground) const;
     void paint_content(QPainter& painter, const QColor& ink) const;
     QRect paint_picture(QPainter& painter, const QRect& area) const;
 
     Face face_;
-    QPixmap picture_;
+    PictureFaces pictures_;
     QString symbol_;
     Accent accent_ = Accent::none;
     ButtonLook look_ = ButtonLook::face;

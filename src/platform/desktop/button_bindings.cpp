@@ -22,6 +22,7 @@ ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const Desktop
 void ButtonBinding::show_state() {
     if (const QString text = caption(); face_.text() != text)
         face_.setText(text);
+    face_.setShortcut(access_keys(button_.caption));
     face_.set_pictures(services().pictures.faces(button_.picture));
     face_.set_face(face());
 }

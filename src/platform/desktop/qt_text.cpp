@@ -9,10 +9,12 @@ QString plain_caption(const std::string& caption) {
     return text;
 }
 
-QChar access_key(const std::string& caption) {
+QKeySequence access_keys(const std::string& caption) {
     QString text = to_qt(caption);
     const auto mark = text.remove("&&").indexOf('&');
-    return mark >= 0 && mark + 1 < text.size() ? text.at(mark + 1).toUpper() : QChar{};
+    if (mark < 0 || mark + 1 >= text.size() || !text.at(mark + 1).isLetterOrNumber())
+        return {};
+    return QKeySequence{"Alt+" + text.mid(mark + 1, 1).toUpper()};
 }
 
 } // namespace sonarelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
 #include <string>
 
@@ -14,7 +15,7 @@ namespace sonarelle {
 
 /// A caption for the eye: without the mark of its access key, and with line ends as Qt has them.
 [[nodiscard]] QString plain_caption(const std::string& caption);
-/// The letter behind the mark of a caption's access key; null for none.
-[[nodiscard]] QChar access_key(const std::string& caption);
+/// Alt with the letter behind the mark of a caption's access key; empty for none.
+[[nodiscard]] QKeySequence access_keys(const std::string& caption);
 
 } // namespace sonarelle

@@ -1,5 +1,7 @@
 #include "platform/desktop/text_bindings.h"
 
+#include <QShortcut>
+
 #include "platform/desktop/colours.h"
 #include "platform/desktop/qt_text.h"
 
@@ -27,10 +29,16 @@ LabelBinding::LabelBinding(Label& label, StationLabel& widget, const DesktopServ
     : Binding{label, widget, services}, label_{label}, text_{widget} {
     widget.on_press = [this] { run([this] { label_.click(); }); };
     widget.set_pressable(label.on_click != nullptr);
+    if (label.on_click == nullptr)
+        return;
+    access_ = new QShortcut{&widget};
+    connect(access_, &QShortcut::activated, this, [this] { run([this] { label_.click(); }); });
 }
 
 void LabelBinding::show_state() {
     text_.set_text(caption());
+    if (access_ != nullptr)
+        access_->setKey(access_keys(label_.caption));
 }
 
 QString LabelBinding::caption() const {

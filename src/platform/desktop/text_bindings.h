@@ -7,6 +7,8 @@
 #include "platform/desktop/binding.h"
 #include "platform/desktop/station_label.h"
 
+class QShortcut;
+
 namespace sonarelle {
 
 class LabelBinding : public Binding {
@@ -20,6 +22,7 @@ protected:
 private:
     Label& label_;
     StationLabel& text_;
+    QShortcut* access_ = nullptr; ///< The widget's; null for a text that is no button.
 };
 
 class TextBoxBinding : public Binding {

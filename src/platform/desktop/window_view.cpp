@@ -128,7 +128,9 @@ void WindowView::watch_keys() {
 bool WindowView::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::KeyPress && object == windowHandle()) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (!key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape))
+        // Alt with a letter calls a menu or a button, and types nothing.
+        const bool calls = key->modifiers().testFlag(Qt::AltModifier);
+        if (!calls && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape))
             pass_characters(key->text());
     }
     return QWidget::eventFilter(object, event);

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/units.h"
 
@@ -93,9 +94,15 @@ public:
     Property<Twips> width{*this, Twips{}};
     Property<Twips> height{*this, Twips{}};
     std::function<void()> on_mouse_move;
+    std::function<void(const std::vector<std::string>&)> on_files_dropped;
 
     /// The pointer is over it.
     void mouse_move() const { raise(on_mouse_move); }
+    /// Files were dropped on it from another program: whole paths in the station's form.
+    void drop_files(const std::vector<std::string>& paths) const {
+        if (on_files_dropped && is_reachable())
+            on_files_dropped(paths);
+    }
 
 protected:
     /// For a window, which is its own parent.

@@ -183,6 +183,16 @@ void DeckLoading::open_by_hand(Deck& deck) {
         accept_opened(deck);
 }
 
+// The next press of the button asks for a file again, whatever became of this one.
+void DeckLoading::open_dropped(Deck& deck, const std::vector<std::string>& paths) {
+    if (paths.empty() || !desk_.list.glisser_autorise.is_true())
+        return;
+    deck.path = paths.front();
+    desk_.chain.ajout_externe = true;
+    open_by_hand(deck);
+    desk_.chain.ajout_externe = false;
+}
+
 bool DeckLoading::is_file_chosen() const {
     return desk_.chain.ajout_externe.is_true() || desk_.chain.maj_depuis_ajout.is_true();
 }

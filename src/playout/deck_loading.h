@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
@@ -37,6 +38,8 @@ public:
 
     /// The open button of a deck: asks for a file, unless one was dragged.
     void open_by_hand(Deck& deck);
+    /// Files were dropped on a deck: the first one is opened as by hand, where dragging is allowed.
+    void open_dropped(Deck& deck, const std::vector<std::string>& paths);
 
     /// Looks for the destination record's file in its folder; the deck's path is empty when it isn't there.
     void recup_path(Deck& deck);

@@ -223,6 +223,7 @@ void Station::press_list_key() {
 void Station::connect_deck(Deck& deck) {
     DeckControls& controls = deck.controls;
     controls.open.on_click = [this, &deck] { deck_loading.open_by_hand(deck); };
+    controls.open.on_files_dropped = [this, &deck](const auto& paths) { deck_loading.open_dropped(deck, paths); };
     controls.zap.on_click = [this, &deck] { zapping.press_zap(deck); };
     controls.play.on_click = [this, &deck] { press_play(deck); };
     controls.stop.on_click = [this, &deck] { stop_deck(deck); };

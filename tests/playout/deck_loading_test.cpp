@@ -88,6 +88,40 @@ TEST_F(DeckLoadingTest, CancelledDialogLeavesTheTitle) {
     EXPECT_EQ(controls(1).title.caption.get(), "00:01:23 ( Chanson )");
 }
 
+TEST_F(DeckLoadingTest, FileDroppedOnADeckIsOpenedWithoutAQuestion) {
+    machine.add_track(song, 83);
+    controls(2).open.drop_files({std::string{song}, "C:\\Musique\\Autre.mp3"});
+    EXPECT_EQ(controls(2).title.caption.get(), "00:01:23 ( Chanson )");
+    EXPECT_EQ(station.desk.deck(2).path, song);
+}
+
+TEST_F(DeckLoadingTest, FileDroppedWhileDraggingIsForbiddenIsLeft) {
+    machine.add_track(song, 83);
+    station.main_window.A_glisser_déplacer.click();
+    const std::string before = controls(2).title.caption;
+    controls(2).open.drop_files({std::string{song}});
+    EXPECT_EQ(controls(2).title.caption.get(), before);
+}
+
+TEST_F(DeckLoadingTest, OpenButtonAsksAgainAfterARefusedDrop) {
+    machine.add_track(song, 0.5);
+    machine.dialogs.expect_box("Erreur lecture fichier ", Answer::ok);
+    controls(1).open.drop_files({std::string{song}});
+    machine.dialogs.expect_cancel();
+    controls(1).open.click();
+    EXPECT_EQ(machine.dialogs.last().title, "Ouvrir un fichier multimédia");
+}
+
+TEST_F(DeckLoadingTest, FileDroppedWhileTheOpenButtonIsLockedIsLeft) {
+    open_tracks({200, 200});
+    start_list();
+    machine.run_for(seconds(5));
+    machine.add_track(song, 83);
+    controls(1).open.enabled = false;
+    controls(1).open.drop_files({std::string{song}});
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
 TEST_F(DeckLoadingTest, FileOfOneSecondIsGood) {
     machine.add_track(song, 1.0);
     open_on(1, song);

@@ -45,7 +45,7 @@ DeskProgram::DeskProgram(Machine& machine, const std::string& file)
       program_folder_{filled_program_folder(machine)}, live_{machine.drives(), std::random_device{}()},
       dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }}, station_{platform()},
       pictures_{[this](const std::string& name) { return picture_path(name); }},
-      services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_},
+      services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_, path_forms()},
       desktop_{station_.windows(), station_.desk, services_, probe_.reading()},
       pulse_{live_.driver().wake_descriptor(), [this] {
                  std::chrono::nanoseconds rest{};

@@ -3,6 +3,7 @@
 #include <QEvent>
 
 #include "platform/desktop/colours.h"
+#include "platform/desktop/file_drops.h"
 #include "platform/desktop/qt_text.h"
 
 namespace sonarelle {
@@ -13,11 +14,19 @@ Binding::Binding(Control& control, QWidget& widget, const DesktopServices& servi
     widget.installEventFilter(this);
     control.observe(this);
     services.updates.mark(*this);
+    if (control.on_files_dropped)
+        drops_ = std::make_unique<FileDrops>(control, services);
+    take_drops_on(widget);
 }
 
 Binding::~Binding() {
     services_.updates.forget(*this);
     control_.observe(nullptr);
+}
+
+void Binding::take_drops_on(QWidget& widget) {
+    if (drops_ != nullptr)
+        drops_->take_on(widget);
 }
 
 void Binding::show_value() {

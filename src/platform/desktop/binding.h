@@ -3,12 +3,15 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "platform/control.h"
 #include "platform/desktop/desktop_services.h"
 #include "platform/desktop/update_queue.h"
 
 namespace sonarelle {
+
+class FileDrops;
 
 /// Ties a control to a widget: what the station changes is shown, what the operator does goes through the one door.
 /// It decides nothing. The control outlives it.
@@ -24,6 +27,9 @@ public:
 
     [[nodiscard]] Control& control() const { return control_; }
     [[nodiscard]] QWidget* widget() const { return widget_; }
+
+    /// Files for the control may be dropped on this widget, too.
+    void take_drops_on(QWidget& widget);
 
     /// Called after each update, for what a window shows beside the control itself.
     std::function<void()> on_shown;
@@ -49,6 +55,7 @@ private:
 
     Control& control_;
     QPointer<QWidget> widget_;
+    std::unique_ptr<FileDrops> drops_; ///< Null where the station takes no files.
     const DesktopServices& services_;
     bool showing_ = false;
 };

@@ -46,6 +46,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     row->setSpacing(10);
     row->addLayout(left, 1);
     row->addLayout(volume(dresser, slider_stand_in));
+    view.binding_of(controls.open)->take_drops_on(*this);
     view.binding_of(controls.progress)->on_shown = [this] { show_elapsed(); };
 }
 

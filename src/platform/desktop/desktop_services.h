@@ -2,6 +2,8 @@
 
 #include <functional>
 
+#include "platform/desktop/path_forms.h"
+
 namespace sonarelle {
 
 class PictureStore;
@@ -15,6 +17,7 @@ struct DesktopServices {
     RunEvent run_event;
     UpdateQueue& updates;
     PictureStore& pictures;
+    PathForms paths{};
 };
 
 } // namespace sonarelle

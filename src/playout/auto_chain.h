@@ -46,8 +46,9 @@ public:
     /// A new track overlaps the old one from now on.
     void begin_overlap() { faded_deck_ = 0; }
 
-    /// Journals that the row's disk was silent for too long.
-    void note_silent_disk();
+    /// Whether the current row's file is there. A row whose disk doesn't answer is passed over and kept.
+    /// @throws Failure when its drive or folder is gone.
+    [[nodiscard]] bool is_found();
 
     /// Ends the walks that look for a row.
     void cancel_walks();
@@ -62,6 +63,8 @@ private:
     void loaded();
     void drop_invalid_row();
     void pass_over_row(RowWalk& walk);
+    /// Journals that the row's disk was silent for too long.
+    void note_silent_disk();
     void stop_after_load_error();
     void leave_load_step();
 
@@ -73,13 +76,13 @@ private:
     void follow_at_once(Deck& deck, FirstLook first);
     bool try_to_follow(Deck& deck);
     [[nodiscard]] bool take_row_to_follow();
-    bool try_to_zap(Deck& old, bool by_draw);
+    bool try_to_zap(Deck& old);
+    void give_prepared_row_up(Integer row);
     bool start_zapped(Deck& old);
     [[nodiscard]] bool load_and_play(Deck& old);
     [[nodiscard]] bool take_drawn_row();
-    /// Whether the row's file is there and isn't the one that plays. @throws Failure when its drive or folder is gone.
-    [[nodiscard]] bool is_found();
-    [[nodiscard]] bool is_candidate();
+    /// Whether it is, and isn't the one that plays.
+    [[nodiscard]] bool is_found_to_follow();
 
     void deck_tick();
     void manual_display();

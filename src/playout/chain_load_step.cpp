@@ -162,6 +162,7 @@ void AutoChain::loaded() {
 void AutoChain::pass_over_row(RowWalk& walk) {
     note_silent_disk();
     desk_.chain.chargement_fait = false;
+    desk_.chain.choix_prepare = false;
     walk.rest();
 }
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/failure.h"
 #include "playout/auto_chain.h"
 

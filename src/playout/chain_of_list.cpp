@@ -66,7 +66,7 @@ void AutoChain::follow_at_once(Deck& deck, FirstLook first) {
 }
 
 bool AutoChain::try_to_follow(Deck& deck) {
-    return take_row_to_follow() && is_found() && start_row(deck);
+    return take_row_to_follow() && is_found_to_follow() && start_row(deck);
 }
 
 /// False when no row could be drawn: the next turn draws again.
@@ -90,11 +90,11 @@ bool AutoChain::is_found() {
         pass_over_row(mix_walk_);
         return false;
     }
-    return is_candidate();
+    return !desk_.list.chemin_fichier.empty();
 }
 
-bool AutoChain::is_candidate() {
-    return !desk_.list.chemin_fichier.empty() && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
+bool AutoChain::is_found_to_follow() {
+    return is_found() && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
 }
 
 bool AutoChain::is_loaded(const Deck& next) const {
@@ -142,26 +142,33 @@ void AutoChain::automatic_zap(Deck& old) {
         desk_.window.Timer2.set_interval(0);
         desk_.window.Timer3.enable();
     }
-    bool by_draw = desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true() &&
-                   !desk_.settings.valide_fichier_aleatoire1.is_true();
-    const auto step = [this, &old, by_draw]() mutable {
-        const bool started = try_to_zap(old, by_draw);
-        by_draw = true;
-        return started;
-    };
-    mix_walk_.start(
-        step, [this] { return desk_.row_count(); }, trap_of(desk_.window.Timer4, "T4"));
+    mix_walk_.start([this, &old] { return try_to_zap(old); }, [this] { return desk_.row_count(); },
+                    trap_of(desk_.window.Timer4, "T4"));
 }
 
-/// A row that can't be taken gives way to a drawn one, in list order too: the air goes on with what there is.
-bool AutoChain::try_to_zap(Deck& old, bool by_draw) {
-    if (!by_draw)
+/// In list order each turn begins with the next row. One that can't be taken gives way to a drawn one: the air goes on
+/// with what there is.
+bool AutoChain::try_to_zap(Deck& old) {
+    const bool in_list_order = !desk_.chain.ordre_aleatoire.is_true() || desk_.chain.jingles_aleatoires.is_true() ||
+                               desk_.settings.valide_fichier_aleatoire1.is_true();
+    if (in_list_order && mix_walk_.begins_turn())
         take_next_row();
     else if (desk_.chain.choix_prepare.is_true())
         take_current_row();
     else if (!take_drawn_row())
         return false;
-    return is_found() && start_zapped(old);
+    const Integer row = desk_.list.index_en_cours;
+    if (is_found_to_follow() && start_zapped(old))
+        return true;
+    give_prepared_row_up(row);
+    return false;
+}
+
+/// A row that was removed leaves its place to the one before it, if there is one. What else can't be taken now mustn't
+/// be looked at for ever: the next look draws anew.
+void AutoChain::give_prepared_row_up(Integer row) {
+    if (desk_.list.index_en_cours == row || desk_.list.index_en_cours < 1)
+        desk_.chain.choix_prepare = false;
 }
 
 bool AutoChain::start_zapped(Deck& old) {

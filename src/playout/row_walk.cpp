@@ -37,9 +37,11 @@ void RowWalk::walk_round() {
     const Step step = step_;
     const int rows = std::max(1, turn_());
     rests_ = false;
-    for (int row = 0; row < rows && step_ && !rests_; ++row)
+    for (int row = 0; row < rows && step_ && !rests_; ++row) {
+        begins_turn_ = row == 0;
         if (step())
             return cancel();
+    }
     if (step_)
         pause_.enable();
 }

@@ -22,6 +22,8 @@ public:
     void cancel();
     /// Ends this turn; the next one begins 100 ms later with the next row.
     void rest() { rests_ = true; }
+    /// Whether the step under way is the first one of its turn.
+    [[nodiscard]] bool begins_turn() const { return begins_turn_; }
 
 private:
     void take_a_turn();
@@ -29,6 +31,7 @@ private:
 
     Timer pause_;
     bool rests_ = false;
+    bool begins_turn_ = false;
     Step step_;
     std::function<int()> turn_;
     std::function<void(const std::function<void()>&)> trap_;

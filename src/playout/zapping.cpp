@@ -16,9 +16,9 @@ constexpr int earliest_second = 30;
 } // namespace
 
 Zapping::Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
-                 RunControl& run, RecordReading& reading, ListDocument& document)
-    : desk_{desk}, chain_{chain}, loading_{loading}, start_{start}, mix_{mix}, journal_{journal}, run_{run},
-      reading_{reading}, document_{document} {}
+                 RecordReading& reading, ListDocument& document)
+    : desk_{desk}, chain_{chain}, loading_{loading}, start_{start}, mix_{mix}, journal_{journal}, reading_{reading},
+      document_{document} {}
 
 void Zapping::zapping() {
     if (desk_.has_main_deck())
@@ -113,7 +113,7 @@ void Zapping::zap_in_list(Deck& old) {
         } else {
             chain_.take_next_row();
         }
-    } while (!is_found());
+    } while (!chain_.is_found());
     chain_.cancel_walks();
     chain_.begin_overlap();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
@@ -133,19 +133,6 @@ void Zapping::zap_in_list(Deck& old) {
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
-}
-
-/// Whether the row's file is there; a row whose disk doesn't answer is passed over and kept.
-bool Zapping::is_found() {
-    try {
-        run_.detecte_fichier_liste();
-        return !desk_.list.chemin_fichier.empty();
-    } catch (const Failure& failure) {
-        if (failure.number != failure_number::device_fault)
-            throw;
-        chain_.note_silent_disk();
-        return false;
-    }
 }
 
 void Zapping::zap_over_decks(Deck& old) {

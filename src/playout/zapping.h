@@ -13,7 +13,7 @@ namespace sonarelle {
 class Zapping {
 public:
     Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
-            RunControl& run, RecordReading& reading, ListDocument& document);
+            RecordReading& reading, ListDocument& document);
 
     /// From the main deck, by key.
     void zapping();
@@ -30,7 +30,6 @@ private:
     void refuse_too_early();
     void store_end_point();
     void zap_in_list(Deck& old);
-    [[nodiscard]] bool is_found();
     void zap_over_decks(Deck& old);
     void hand_over(Deck& old);
     void tell(const std::string& text, Icon icon);
@@ -41,7 +40,6 @@ private:
     DeckStart& start_;
     MixEngine& mix_;
     Journal& journal_;
-    RunControl& run_;
     RecordReading& reading_;
     ListDocument& document_;
 };

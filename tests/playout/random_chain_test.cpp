@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/failure.h"
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -25,6 +26,12 @@ protected:
         }
         open_list("C:\\Sonarelle\\essai.dfm", records);
         rows().select(1);
+    }
+
+    void add_row(const std::string& path) {
+        machine.add_track(path, 100);
+        rows().append({path, "0.10", "100.00", "Rock", "100", ""});
+        station.list_document.sauve_tout();
     }
 
     [[nodiscard]] std::vector<int> rows_loaded() const {
@@ -66,9 +73,7 @@ TEST_F(RandomChainTest, TakesARowThatWasAddedWhileNoneCouldBeDrawn) {
     open_tracks_that_play_out(1);
     start_at_random();
     machine.run_for(milliseconds(30'300));
-    machine.add_track("C:\\neuf.mp3", 100);
-    rows().append({"C:\\neuf.mp3", "0.10", "100.00", "Rock", "100", ""});
-    station.list_document.sauve_tout();
+    add_row("C:\\neuf.mp3");
     machine.run_for(milliseconds(200));
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\neuf.mp3"});
 }
@@ -81,6 +86,51 @@ TEST_F(RandomChainTest, TellsTheLoadOfARowThatIsDrawnBehindTheLoadStep) {
     machine.run_for(seconds(5));
     EXPECT_EQ(rows_loaded().size(), 3U);
     EXPECT_EQ(rows_loaded().back(), rows_started().back());
+}
+
+TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnRowsDiskNoLongerAnswersAtTheMixPoint) {
+    open_tracks({100, 100, 100});
+    start_at_random();
+    machine.run_for(seconds(88));
+    ASSERT_EQ(rows_loaded().size(), 2U);
+    const int drawn = rows_loaded().back();
+    machine.disk.refuse(track(drawn), failure_number::device_fault);
+    machine.run_for(seconds(12));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 5 - drawn})); // of rows 2 and 3 the other one
+}
+
+TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnFirstRowIsRemovedAtTheMixPoint) {
+    open_tracks({100, 100});
+    rows().select(2);
+    start_at_random();
+    machine.run_for(seconds(88));
+    ASSERT_EQ(rows_loaded(), (std::vector<int>{2, 1}));
+    add_row("C:\\neuf.mp3");
+    machine.disk.Kill(track(1));
+    machine.run_for(seconds(12));
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\neuf.mp3"});
+}
+
+TEST_F(RandomChainTest, DrawsAnewWhereTheRowBeforeARemovedOneIsTheOneThatPlays) {
+    open_tracks({100, 100});
+    start_at_random();
+    machine.run_for(seconds(88));
+    ASSERT_EQ(rows_loaded(), (std::vector<int>{1, 2}));
+    add_row("C:\\neuf.mp3");
+    machine.disk.Kill(track(2));
+    machine.run_for(seconds(12));
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\neuf.mp3"});
+}
+
+TEST_F(RandomChainTest, TakesTheRowBeforeADrawnOneThatIsRemovedAtTheMixPoint) {
+    open_tracks({100, 100, 100, 100, 100, 100});
+    start_at_random();
+    machine.run_for(seconds(88));
+    const int drawn = rows_loaded().back();
+    ASSERT_GT(drawn, 2);
+    machine.disk.Kill(track(drawn));
+    machine.run_for(seconds(12));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, drawn - 1}));
 }
 
 } // namespace sonarelle

@@ -31,6 +31,9 @@ void DeckTransport::stop(Deck& deck) {
     if (desk_.chain.mode_enchainement.is_true()) {
         desk_.window.Active_audio_jingles.checked = false;
         desk_.window.Timer4.enable();
+    } else if (desk_.window.Active_audio_jingles.checked && desk_.chain.lecteur_mix_special == deck.number()) {
+        // The chain over decks waits for the end of the mix, and its deck won't come to it any more.
+        check_only(desk_.window.fade_rules(), desk_.window.Active_audio_zapping);
     }
     desk_.list_window.Label13.enabled = true;
 }

@@ -19,6 +19,14 @@ protected:
         machine.run_for(seconds(5));
         station.chain.path_of_deck(deck) = "C:\\jingle.mp3";
     }
+    /// A chain over decks, whose second deck holds a minute that is mixed over the first one.
+    void mix_over_the_chain_of_decks() {
+        open_on_all({100, 60, 100});
+        window.coche2.click();
+        controls(1).play.click();
+        controls(2).special_mix.click();
+        machine.run_for(seconds(3));
+    }
     [[nodiscard]] bool hears_jingle() const {
         const std::vector<std::string> heard = machine.media.on_air();
         return std::ranges::find(heard, "C:\\jingle.mp3") != heard.end();
@@ -126,6 +134,26 @@ TEST_F(SpecialMixTest, StopOfItsDeckLetsTheChainGoOn) {
     EXPECT_EQ(controls(1).slider.value(), 0);
     machine.run_for(seconds(90));
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
+}
+
+TEST_F(SpecialMixTest, StopOfItsDeckLetsTheChainOverDecksGoOn) {
+    mix_over_the_chain_of_decks();
+    controls(2).stop.click();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
+}
+
+TEST_F(SpecialMixTest, StopOfItsDeckOverTheChainOfDecksLeavesTheFadeOnZap) {
+    mix_over_the_chain_of_decks();
+    controls(2).stop.click();
+    EXPECT_TRUE(window.Active_audio_zapping.checked);
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+}
+
+TEST_F(SpecialMixTest, StopOfAnotherDeckOfTheChainOfDecksLeavesItUnderWay) {
+    mix_over_the_chain_of_decks();
+    controls(3).stop.click();
+    EXPECT_TRUE(window.Active_audio_jingles.checked);
 }
 
 TEST_F(SpecialMixTest, StopOfTheMainDeckLeavesItsSliderAsItWasBefore) {

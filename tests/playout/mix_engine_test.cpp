@@ -47,6 +47,16 @@ TEST_F(MixEngineTest, OfANormalTrackHasTheDefaults) {
     EXPECT_EQ(mix_of("31"), (Mix{6, 7}));
 }
 
+TEST_F(MixEngineTest, OfANormalTrackHeedsNoShortOverlapHoweverGreat) {
+    station.settings.forcer_mix_jingles = 32767;
+    EXPECT_EQ(mix_of("31"), (Mix{6, 7}));
+}
+
+TEST_F(MixEngineTest, OfFiveSecondsHeedsNoLeadOfALongerItem) {
+    station.settings.forcer_mix_jingles = 32766;
+    EXPECT_EQ(mix_of("5"), (Mix{32766, 32767}));
+}
+
 TEST_F(MixEngineTest, OfANegativeEndLeavesTheOverlap) {
     mix_of("31");
     EXPECT_EQ(mix_of("-1"), (Mix{6, 7}));

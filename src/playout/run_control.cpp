@@ -99,7 +99,7 @@ void RunControl::write_start(const std::string& path) {
 
 void RunControl::stoppe_liste(const std::string& reason) {
     desk_.window.Timer2.disable();
-    journal_.note(desk_.chain.ligne_journal);
+    journal_.note(desk_.chain.ligne_journal); // in a list an empty line, which sets the run off
     desk_.chain.ligne_journal.clear();
     for (Deck& deck : desk_.decks)
         deck.controls.open.enabled = true;

@@ -132,6 +132,15 @@ TEST_F(RunControlTest, HardStopLeavesTheDeckPlayingAndWaits) {
         EXPECT_TRUE(controls(deck).open.enabled);
 }
 
+TEST_F(RunControlTest, HardStopInAListSetsTheRunOffInTheJournalByAnEmptyLine) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100, 100});
+    start_list();
+    const std::string before = journal_text();
+    station.run_control.stoppe_liste("essai");
+    EXPECT_EQ(journal_text(), before + "\r\n");
+}
+
 TEST_F(RunControlTest, HardStopLeavesTheChainOverDecksOff) {
     station.main_window.a_mode_auto.click();
     station.run_control.stoppe_liste("essai");

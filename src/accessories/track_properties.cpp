@@ -27,9 +27,10 @@ int percent_of(int x) {
 
 TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
                                  ChainState& chain, DestinationRecord& destination, Liste_son& list_window,
-                                 Propriete& window, RecordReading& reading, ListDocument& document)
+                                 Propriete& window, RecordReading& reading, ListDocument& document,
+                                 const ListGuard& guard)
     : platform_{platform}, settings_{settings}, list_{list}, chain_{chain}, destination_{destination},
-      list_window_{list_window}, window_{window}, reading_{reading}, document_{document},
+      list_window_{list_window}, window_{window}, reading_{reading}, document_{document}, guard_{guard},
       start_{window.Text1, window.Timer2}, end_{window.Text2, window.Timer3} {
     connect_actions();
     connect_looks();
@@ -193,6 +194,8 @@ void TrackProperties::go_to_place(int x) {
 }
 
 void TrackProperties::save() {
+    if (guard_.is_at_work())
+        return;
     try {
         write_row();
     } catch (const Failure& failure) {

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "playlist/enreg_liste.h"
 #include "playlist/list_document.h"
+#include "playlist/list_guard.h"
 #include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
@@ -24,7 +25,7 @@ class TrackProperties {
 public:
     TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list, ChainState& chain,
                     DestinationRecord& destination, Liste_son& list_window, Propriete& window, RecordReading& reading,
-                    ListDocument& document);
+                    ListDocument& document, const ListGuard& guard);
 
     /// Fills the window from the selected row's record, and shows it. Nothing while the list is empty.
     void a_modif();
@@ -75,6 +76,7 @@ private:
     Propriete& window_;
     RecordReading& reading_;
     ListDocument& document_;
+    const ListGuard& guard_;
 
     Mark start_;
     Mark end_;

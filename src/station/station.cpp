@@ -48,8 +48,8 @@ Station::Station(const Platform& platform)
                   record_reading,
                   [this](int deck) { load_row_on_deck(deck); }},
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, file_measure, journal},
-      track_properties{platform_,   settings,          list,           chain,        destination,
-                       list_window, properties_window, record_reading, list_document} {
+      track_properties{platform_,   settings,          list,           chain,         destination,
+                       list_window, properties_window, record_reading, list_document, list_maintenance.guard} {
     connect_list_window();
     connect_reading_modes();
     connect_timers();

@@ -295,6 +295,21 @@ TEST_F(TrackPropertiesTest, SaveNoOtherRow) {
     EXPECT_EQ(rows().count(), 2);
 }
 
+TEST_F(TrackPropertiesTest, SaveNothingWhileAnActionGoesOverTheList) {
+    machine.add_track("C:\\Musique\\autre.mp3", 200);
+    open();
+    window.Text3.set_text("Chanson");
+    machine.disk.take("C:\\Musique", seconds(1));
+    std::string genre;
+    machine.time.at(machine.time.now() + milliseconds(500), [&] {
+        window.AnyButton2.click();
+        genre = record("C:\\Sonarelle\\matin.dfm", 2).trimmed_genre();
+    });
+    machine.dialogs.expect_box("Sauvegarder la liste ?", Answer::no);
+    station.list_window.a_mettre_a_jour_liste.click();
+    EXPECT_EQ(genre, "Rock");
+}
+
 TEST_F(TrackPropertiesTest, SaveRefillsTheRowsFromTheFile) {
     open();
     rows().set_text(1, "C:\\jamais sauvé.mp3");

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <map>
 #include <mutex>
+#include <new>
 #include <set>
 #include <thread>
 
@@ -55,6 +56,8 @@ public:
     }
     [[nodiscard]] std::unique_ptr<RecordFile> open(const std::string& path) override {
         std::unique_lock lock{mutex_};
+        if (path.starts_with("/immense/"))
+            throw std::bad_alloc{};
         if (path.starts_with("/disque/long/"))
             free_.wait(lock, [this] { return !hangs_; });
         return std::make_unique<Bytes>(files_.at(path));
@@ -181,6 +184,11 @@ TEST_F(MeasuringAhead, TellsAPathThatNoDriveReaches) {
 TEST_F(MeasuringAhead, TellsAFileWithoutSound) {
     files->put("/texte", "Ceci n'est pas de la musique.");
     EXPECT_EQ(failure_of(lengths, "C:/texte"), failure_number::unplayable_file);
+}
+
+TEST_F(MeasuringAhead, TellsAFileThatMemoryDoesNotHold) {
+    files->put("/immense/a", wav(8000));
+    EXPECT_EQ(failure_of(lengths, "C:/immense/a"), failure_number::unplayable_file);
 }
 
 TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <exception>
 
 #include "platform/audio/sample_source.h"
 #include "platform/audio/thread_annotations.h"
@@ -25,6 +26,9 @@ MeasuredLength measure(SoundFiles& files, const std::string& path, std::atomic<b
     } catch (const Failure& failure) {
         disk_answers = true;
         return {0, failure};
+    } catch (const std::exception&) { // no memory for what a broken file claims to hold
+        disk_answers = true;
+        return {0, Failure{failure_number::unplayable_file, path}};
     }
 }
 

@@ -22,6 +22,27 @@ protected:
         throw std::runtime_error{"it did not come: " + what};
     }
     [[nodiscard]] QWidget* main_widget() { return widget_of(station().main_window); }
+    /// As on a screen of 1024 by 600.
+    static void make_small(QWidget& widget) { widget.resize(1000, 560); }
+    [[nodiscard]] static bool is_small(const QWidget& widget) {
+        return widget.width() <= 1000 && widget.height() <= 560;
+    }
+    /// The parts of a window that can't be seen whole, by name.
+    [[nodiscard]] std::string lost_in(const Window& window) const {
+        std::string names;
+        const QWidget* shown = widget_of(window);
+        for (const Control* control : window.controls()) {
+            if (control->kind() == ControlKind::menu_item || !control->visible)
+                continue;
+            const auto* widget = shown->findChild<QWidget*>(QString::fromStdString(control->name()));
+            if (widget != nullptr && widget->sizeHint() == QSize{0, 0}) // a picture that no file fills
+                continue;
+            const bool whole = widget != nullptr && widget->isVisible() && !widget->size().isEmpty() &&
+                               shown->rect().contains(QRect{widget->mapTo(shown, QPoint{}), widget->size()});
+            names += whole ? "" : control->name() + " ";
+        }
+        return names;
+    }
     void see_main_window() {
         eventually("the main window", [this] { return is_active(station().main_window); });
     }
@@ -58,23 +79,31 @@ TEST_F(WindowsOnScreen, TheSmallestMainWindowLosesNoControl) {
         see_main_window();
         operators_event([this] {
             station().main_window.aa_montrer_curseur.click();
-            main_widget()->resize(1024, 600);
+            make_small(*main_widget());
         });
-        eventually("the smaller window", [this] { return main_widget()->height() <= 600; });
-        const auto lost = [this] {
-            std::string names;
-            const QRect all = main_widget()->rect();
-            for (const Control* control : station().main_window.controls()) {
-                if (control->kind() == ControlKind::menu_item || !control->visible)
-                    continue;
-                const auto* widget = main_widget()->findChild<QWidget*>(QString::fromStdString(control->name()));
-                const bool whole = widget != nullptr && widget->isVisible() && !widget->size().isEmpty() &&
-                                   all.contains(QRect{widget->mapTo(main_widget(), QPoint{}), widget->size()});
-                names += whole ? "" : control->name() + " ";
-            }
-            return names;
-        };
-        EXPECT_EQ(seen<std::string>(lost), "");
+        eventually("the smaller window", [this] { return is_small(*main_widget()); });
+        EXPECT_EQ(seen<std::string>([this] { return lost_in(station().main_window); }), "");
+    });
+}
+
+TEST_F(WindowsOnScreen, TheSmallestListWindowLosesNoControl) {
+    operate(list_of(2, 60), [this] {
+        eventually("the list", [this] { return is_on_screen(station().list_window); });
+        operators_event([this] { make_small(*widget_of(station().list_window)); });
+        eventually("the smaller window", [this] { return is_small(*widget_of(station().list_window)); });
+        EXPECT_EQ(seen<std::string>([this] { return lost_in(station().list_window); }), "");
+    });
+}
+
+TEST_F(WindowsOnScreen, TheSmallestListWindowHasTheWordsOfItsButtons) {
+    operate(list_of(2, 60), [this] {
+        eventually("the list", [this] { return is_on_screen(station().list_window); });
+        operators_event([this] { make_small(*widget_of(station().list_window)); });
+        eventually("the words", [this] {
+            const QWidget* list = widget_of(station().list_window);
+            const auto* play = list->findChild<QWidget*>("Image1");
+            return is_small(*list) && play->width() >= play->sizeHint().width();
+        });
     });
 }
 

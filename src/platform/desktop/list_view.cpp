@@ -12,7 +12,7 @@ namespace sonarelle {
 
 namespace {
 
-constexpr QSize least_size{1024, 600};
+constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
 // White on a middle grey reads well when it is bold and of this size.
 constexpr StationLabel::Style bold_text{.pixels = 14, .bold = true, .characters = 18};
 constexpr StationLabel::Style button_text{.pixels = 14, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
@@ -104,8 +104,9 @@ QLayout* ListView::button_row() {
     auto* strip = dresser_.image(window_.Image10);
     strip->set_look(ButtonLook::picture);
     strip->setFocusPolicy(Qt::NoFocus);
-    strip->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* row = row_of({play, zap, stop, place, strip});
+    row->setStretchFactor(strip, 1); // it takes what the buttons leave
     row->addWidget(dresser_.label(window_.Label8, button_text));
     row->addWidget(menu_button());
     return row;

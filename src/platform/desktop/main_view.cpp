@@ -18,7 +18,7 @@ namespace sonarelle {
 
 namespace {
 
-constexpr QSize least_size{1024, 600};
+constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
 constexpr QSize banner_size{475, 40};
 constexpr int title_height = 50; // two lines
 constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};

@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QLineEdit>
+#include <QScrollArea>
 
 #include "accessories/chargement.h"
 #include "accessories/mini_lecteur.h"
@@ -14,6 +15,9 @@ namespace sonarelle {
 
 namespace {
 
+constexpr QSize least_form{420, 180};
+constexpr QSize greatest_form{800, 520}; // beyond it a form scrolls
+
 // What the view hasn't placed stands below, so that nothing is missing.
 void add_rest(Dresser& dresser, QVBoxLayout& column) {
     if (QWidget* rest = remaining_parts(dresser))
@@ -23,11 +27,21 @@ void add_rest(Dresser& dresser, QVBoxLayout& column) {
 } // namespace
 
 std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services) {
-    auto view = std::make_unique<WindowView>(window, services, QSize{420, 180});
+    auto view = std::make_unique<WindowView>(window, services, least_form);
     Dresser dresser{*view};
+    QWidget* form = form_of_parts(dresser, window);
+    auto* area = new QScrollArea;
+    area->setWidget(form);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    // The window draws what is behind its parts.
+    area->viewport()->setAutoFillBackground(false);
+    form->setAutoFillBackground(false);
     auto* column = new QVBoxLayout{&view->content()};
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(form_of_parts(dresser, window));
+    column->addWidget(area);
+    view->setMinimumSize(form->sizeHint().expandedTo(least_form).boundedTo(greatest_form));
+    view->resize(view->minimumSize());
     return view;
 }
 

@@ -31,9 +31,6 @@ protected:
         const QWidget* menu = QApplication::activePopupWidget();
         return menu == nullptr ? "" : menu->objectName().toStdString();
     }
-    [[nodiscard]] int slider() {
-        return seen<int>([this] { return station().desk.deck(1).controls.slider.value(); });
-    }
 };
 
 struct StepBack {
@@ -78,39 +75,140 @@ INSTANTIATE_TEST_SUITE_P(Keys, MenuKeys,
                          testing::Values(MenuKey{"a", "affiche"}, MenuKey{"A", "affiche"}, MenuKey{"o", "Option_"},
                                          MenuKey{"O", "Option_"}));
 
-TEST_F(KeysOnScreen, BTurnsTheMainDeckDown) {
+/// Keys that do the same.
+class OneKey : public KeysOnScreen, public testing::WithParamInterface<const char*> {
+protected:
+    void press_it() { key(GetParam()); }
+};
+
+class VolumeDownKeys : public OneKey {};
+
+TEST_P(VolumeDownKeys, TurnTheMainDeckDown) {
     at_the_keyboard([this] {
         play(1, "F5");
-        key("b");
+        press_it();
         eventually("a quieter deck", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
     });
 }
 
-TEST_F(KeysOnScreen, HTurnsTheMainDeckUpAgain) {
+INSTANTIATE_TEST_SUITE_P(Keys, VolumeDownKeys, testing::Values("b", "B"));
+
+class VolumeUpKeys : public OneKey {};
+
+TEST_P(VolumeUpKeys, TurnTheMainDeckUpAgain) {
     at_the_keyboard([this] {
         play(1, "F5");
         key("b");
-        key("B");
-        key("h");
+        key("b");
+        press_it();
         eventually("one step up", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
     });
 }
 
-TEST_F(KeysOnScreen, PPausesTheMainDeck) {
+INSTANTIATE_TEST_SUITE_P(Keys, VolumeUpKeys, testing::Values("h", "H"));
+
+class PauseKeys : public OneKey {};
+
+TEST_P(PauseKeys, PauseTheMainDeck) {
     at_the_keyboard([this] {
         play(1, "F5");
-        key("p");
+        press_it();
         eventually("the pause", [this] { return !runs(1); });
     });
 }
 
-TEST_F(KeysOnScreen, ZGoesOverToTheNextDeck) {
+INSTANTIATE_TEST_SUITE_P(Keys, PauseKeys, testing::Values("p", "P"));
+
+class ZapKeys : public OneKey {};
+
+TEST_P(ZapKeys, GoOverToTheNextDeck) {
     at_the_keyboard([this] {
         play(1, "F5");
-        key("z");
+        press_it();
         eventually("deck 2 as the main one", [this] { return station().chain.lecteur_en_cours == 2; });
     });
 }
+
+INSTANTIATE_TEST_SUITE_P(Keys, ZapKeys, testing::Values("z", "Z"));
+
+class QuitKeys : public OneKey {};
+
+TEST_P(QuitKeys, Ask) {
+    at_the_keyboard([this] {
+        press_it();
+        eventually("the question", [] { return QApplication::activeModalWidget() != nullptr; });
+        EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");
+        answer("Non");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, QuitKeys, testing::Values("Escape", "q", "Q"));
+
+struct PlayKey {
+    const char* key;
+    int deck;
+};
+
+class PlayKeys : public KeysOnScreen, public testing::WithParamInterface<PlayKey> {};
+
+TEST_P(PlayKeys, SetTheirDeckGoing) {
+    at_the_keyboard([this] { play(GetParam().deck, GetParam().key); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, PlayKeys, testing::Values(PlayKey{"F5", 1}, PlayKey{"F6", 2}, PlayKey{"F7", 3}));
+
+struct MixKey {
+    const char* main_key;
+    int main;
+    const char* key;
+    int deck;
+};
+
+class MixKeys : public KeysOnScreen, public testing::WithParamInterface<MixKey> {};
+
+TEST_P(MixKeys, PlayTheirDeckOverTheMainOne) {
+    at_the_keyboard([this] {
+        const MixKey& mix = GetParam();
+        play(mix.main, mix.main_key);
+        key(mix.key);
+        eventually("both decks", [&] { return runs(mix.main) && runs(mix.deck); });
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, MixKeys,
+                         testing::Values(MixKey{"F6", 2, "F8", 1}, MixKey{"F5", 1, "F9", 2},
+                                         MixKey{"F6", 2, "F11", 3}));
+
+class ListKeys : public OneKey {};
+
+TEST_P(ListKeys, ChooseTheList) {
+    at_the_keyboard([this] {
+        press_it();
+        eventually("the list's chain", [this] { return station().main_window.coche3.value(); });
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, ListKeys, testing::Values("l", "L"));
+
+struct QuickBox {
+    const char* box;
+    const char* menu;
+};
+
+class QuickBoxes : public KeysOnScreen, public testing::WithParamInterface<QuickBox> {};
+
+TEST_P(QuickBoxes, OpenTheirMenuBySpace) {
+    at_the_keyboard([this] {
+        operators_event([this] {
+            widget_of(station().main_window)->findChild<QWidget*>(GetParam().box)->setFocus(Qt::TabFocusReason);
+        });
+        key("space");
+        eventually("the menu", [] { return open_menu() == GetParam().menu; });
+        key("Escape");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, QuickBoxes, testing::Values(QuickBox{"Combo1", "cha"}, QuickBox{"Combo2", "char_F"}));
 
 TEST_F(KeysOnScreen, SmallMShowsTheSmallPlayer) {
     at_the_keyboard([this] {
@@ -123,13 +221,6 @@ TEST_F(KeysOnScreen, CapitalIShowsTheSmallPlayer) {
     at_the_keyboard([this] {
         key("I");
         eventually("the small player", [this] { return is_on_screen(station().small_player); });
-    });
-}
-
-TEST_F(KeysOnScreen, LChoosesTheList) {
-    at_the_keyboard([this] {
-        key("l");
-        eventually("the list's chain", [this] { return station().main_window.coche3.value(); });
     });
 }
 
@@ -157,14 +248,6 @@ TEST_F(KeysOnScreen, F2OpensTheListWindow) {
     at_the_keyboard([this] {
         key("F2");
         eventually("the list window", [this] { return is_on_screen(station().list_window); });
-    });
-}
-
-TEST_F(KeysOnScreen, F9MixesDeck2OverTheMainDeck) {
-    at_the_keyboard([this] {
-        play(1, "F5");
-        key("F9");
-        eventually("both decks", [this] { return runs(1) && runs(2); });
     });
 }
 

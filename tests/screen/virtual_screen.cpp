@@ -54,13 +54,15 @@ VirtualScreen::~VirtualScreen() {
     end(server_);
 }
 
-// The server chooses a free display and writes its number when it is ready.
+// The server chooses a free display and writes its number when it is ready. It mustn't begin anew when its last client
+// leaves: a question that ends before the window manager has come would throw that one out.
 void VirtualScreen::start_server(int width, int height) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0)
         throw std::runtime_error{"pipe"};
     const std::string size = std::to_string(width) + "x" + std::to_string(height) + "x24";
-    server_ = start({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", size, "-nolisten", "tcp"});
+    server_ =
+        start({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", size, "-nolisten", "tcp", "-noreset"});
     ::close(ends[1]);
     std::string number;
     for (char digit = 0; ::read(ends[0], &digit, 1) == 1 && digit != '\n';)

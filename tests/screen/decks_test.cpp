@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
 #include "screen/desk_bench.h"
 
 namespace sonarelle::test {
@@ -15,6 +19,17 @@ protected:
     }
 
     [[nodiscard]] bool runs() { return deck().has_graph() && deck().graph().GetState() == MediaState::running; }
+    /// As a file manager does with a file of this machine.
+    void drop_on_panel(const std::string& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
+        const auto* open =
+            widget_of(station().main_window)->findChild<QWidget*>(QString::fromStdString(named(&DeckNames::open)));
+        QDragEnterEvent enter{{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QCoreApplication::sendEvent(open->parentWidget(), &enter);
+        QDropEvent drop{{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QCoreApplication::sendEvent(open->parentWidget(), &drop);
+    }
     void start() {
         press("Antenne_FM", named(&DeckNames::play));
         eventually("the deck running", [this] { return runs(); });
@@ -68,6 +83,16 @@ TEST_P(DecksOnScreen, ZapsToTheNextDeck) {
         press("Antenne_FM", named(&DeckNames::zap));
         eventually("the next deck as the main one",
                    [this] { return station().chain.lecteur_en_cours == next_deck(GetParam()); });
+    });
+}
+
+TEST_P(DecksOnScreen, OpensAFileThatIsDroppedOnItsPanel) {
+    const std::string file = tone("Dépôt.wav", 5);
+    operate("", [&] {
+        eventually("the main window", [this] { return is_active(station().main_window); });
+        operators_event([&] { drop_on_panel(file); });
+        eventually("the file", [this] { return deck().controls.title.caption.get() == "00:00:05 ( Dépôt )"; });
+        EXPECT_EQ(seen<std::string>([this] { return deck().path; }), station_form(file));
     });
 }
 

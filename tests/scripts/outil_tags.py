@@ -233,7 +233,7 @@ class FullDisk(Tool):
     def test_leaves_the_old_file_and_says_why(self):
         data = frames() + tag(b"Vieux")
         path = self.file(data=data)
-        for room in (0, 1000, len(data) - TAG_SIZE, len(data) - 1):
+        for room in (100, 1000, len(data) - TAG_SIZE, len(data) - 1):
             self.write_with_room(path, room, status=1)
             self.assertIn(f"{path} : le tag n'est pas écrit : Disque plein", self.error)
             self.assertEqual(path.read_bytes(), data, room)

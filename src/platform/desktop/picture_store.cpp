@@ -10,7 +10,7 @@ namespace sonarelle {
 
 namespace {
 
-/// "b.gif" and "_survol" make "b_survol.gif".
+/// `b.gif` and `_survol` make `b_survol.gif`.
 std::string with_suffix(const std::string& name, std::string_view suffix) {
     const auto dot = std::min(name.rfind('.'), name.size());
     return name.substr(0, dot).append(suffix).append(name, dot);

@@ -30,7 +30,7 @@ protected:
     void settings_of_a_second_start();
     /// A list of tracks that last this many seconds each, tones of different levels; its path on this machine.
     [[nodiscard]] std::string list_of(int tracks, int seconds);
-    /// One tone, loud as told (1 to 100); its path on this machine.
+    /// One tone, at a level of 1 to 100; its path on this machine.
     [[nodiscard]] std::string tone(const std::string& name, int seconds, int level = 16) const;
 
     /// Starts the desk with a file, or none, and lets `hands` work on it. Then the desk is closed without asking, if it

@@ -71,6 +71,7 @@ struct DiskHelper::Desk {
     std::mutex mutex;
     std::condition_variable wakes;
     std::deque<std::function<void()>> work;
+    std::atomic<bool> has_work{false};
     bool ends = false;
 
     void run() {
@@ -81,9 +82,11 @@ struct DiskHelper::Desk {
                 return;
             std::function<void()> next = std::move(work.front());
             work.pop_front();
+            has_work = !work.empty();
             lock.unlock();
             next();
             next = nullptr;
+            stay_awake_until([this] { return has_work.load(); });
             lock.lock();
         }
     }
@@ -102,6 +105,7 @@ DiskHelper::~DiskHelper() {
 void DiskHelper::give(std::function<void()> work) {
     const std::lock_guard lock{desk_->mutex};
     desk_->work.push_back(std::move(work));
+    desk_->has_work = true;
     desk_->wakes.notify_one();
 }
 

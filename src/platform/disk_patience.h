@@ -18,6 +18,15 @@ namespace sonarelle {
 /// How long a station on the air waits for a disk.
 inline constexpr std::chrono::milliseconds station_patience{2000};
 
+/// Lets other threads run until it is so, for as long as most disks take to answer and no longer: to fall asleep and be
+/// woken would cost several times the answer.
+template <typename Condition>
+void stay_awake_until(Condition so) {
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::microseconds{100};
+    while (!so() && std::chrono::steady_clock::now() < limit)
+        std::this_thread::yield();
+}
+
 /// A thread that asks the disk, one question after the other; starting one for each would cost more than the answer.
 /// When it is dropped the thread ends, after the question that it may hang in.
 class DiskHelper {
@@ -66,6 +75,7 @@ public:
             task.reset();
             *returned = true;
         });
+        stay_awake_until([&] { return returned->load(std::memory_order_acquire); });
         if (result.wait_for(*limit_) != std::future_status::ready) {
             helper_.reset();
             remember(machine_path, std::move(returned));

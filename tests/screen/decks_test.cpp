@@ -89,7 +89,7 @@ TEST_P(DecksOnScreen, ZapsToTheNextDeck) {
 TEST_P(DecksOnScreen, OpensAFileThatIsDroppedOnItsPanel) {
     const std::string file = tone("Dépôt.wav", 5);
     operate("", [&] {
-        eventually("the main window", [this] { return is_active(station().main_window); });
+        wait_for_the_keyboard();
         operators_event([&] { drop_on_panel(file); });
         eventually("the file", [this] { return deck().controls.title.caption.get() == "00:00:05 ( Dépôt )"; });
         EXPECT_EQ(seen<std::string>([this] { return deck().path; }), station_form(file));

@@ -3,10 +3,12 @@
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "configuration/settings_store.h"
 #include "platform/failure.h"
@@ -120,11 +122,17 @@ void DeskBench::on_window_thread(const std::function<void()>& work) {
 }
 
 void DeskBench::eventually(const std::string& what, const std::function<bool()>& so) {
-    const auto limit = std::chrono::steady_clock::now() + patience;
-    while (std::chrono::steady_clock::now() < limit) {
+    until(what, [&] {
         bool is_so = false;
         on_window_thread([&] { is_so = so(); });
-        if (is_so)
+        return is_so;
+    });
+}
+
+void DeskBench::until(const std::string& what, const std::function<bool()>& so) {
+    const auto limit = std::chrono::steady_clock::now() + patience;
+    while (std::chrono::steady_clock::now() < limit) {
+        if (so())
             return;
         std::this_thread::sleep_for(20ms);
     }
@@ -167,12 +175,23 @@ bool DeskBench::is_active(const Window& window) const {
     return is_on_screen(window) && program_->widget_of(window)->isActiveWindow();
 }
 
+// The splash leaves while the main window comes, and for an instant the keyboard belongs to neither.
+void DeskBench::wait_for_the_keyboard() {
+    eventually("the main window", [this] { return is_active(station().main_window); });
+    const auto id = seen<WId>([this] { return widget_of(station().main_window)->winId(); });
+    std::ostringstream alone_and_active;
+    for (const char* property : {"_NET_CLIENT_LIST", "_NET_ACTIVE_WINDOW"})
+        alone_and_active << property << "(WINDOW): window id # 0x" << std::hex << id << "\n";
+    until("the keyboard",
+          [&] { return screen_.asked("xprop -root _NET_CLIENT_LIST _NET_ACTIVE_WINDOW") == alone_and_active.str(); });
+}
+
 void DeskBench::operators_event(const std::function<void()>& event) {
     on_window_thread([&] { program_->live().driver().run_event(event); });
 }
 
 void DeskBench::load_decks() {
-    eventually("the main window", [this] { return is_active(station().main_window); });
+    wait_for_the_keyboard();
     const std::string list = station_form(list_of(3, 60));
     operators_event([&] {
         station().list_document.open_list(list);
@@ -210,7 +229,9 @@ void DeskBench::answer(const std::string& caption) {
 
 void DeskBench::keep_picture_of_failure() {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    screen_.picture(failure_folder() + "/" + test->test_suite_name() + "." + test->name() + ".png");
+    std::string name = std::string{test->test_suite_name()} + "." + test->name() + ".png";
+    std::ranges::replace(name, '/', '-'); // as in the names of tests with parameters
+    screen_.picture(failure_folder() + "/" + name);
 }
 
 } // namespace sonarelle::test

@@ -43,7 +43,9 @@ protected:
     void key(const std::string& chord);
     /// Presses the middle of the widget of a control in a window, by their names.
     void press(const std::string& window, const std::string& control, int button = 1);
-    /// Waits until it is so; a failure says `what` didn't come.
+    /// Waits until the main window is the only one and has the keyboard, for the window manager too.
+    void wait_for_the_keyboard();
+    /// Waits until it is so on the window's thread; a failure says `what` didn't come.
     void eventually(const std::string& what, const std::function<bool()>& so);
     /// What the window's thread sees of something.
     template <typename Value>
@@ -78,6 +80,7 @@ protected:
 
 private:
     void on_window_thread(const std::function<void()>& work);
+    static void until(const std::string& what, const std::function<bool()>& so);
     void click_at(const std::function<QWidget*()>& find, const std::string& name, int button);
     void keep_picture_of_failure();
 

@@ -41,7 +41,7 @@ TEST_F(StartAndEnd, AFileOnTheCommandLinePlaysOnTheSmallPlayerAlone) {
 TEST_F(StartAndEnd, QuittingWithNoGoesOn) {
     settings_of_a_second_start();
     operate("", [this] {
-        eventually("the main window", [this] { return is_active(station().main_window); });
+        wait_for_the_keyboard();
         key("q");
         answer("Non");
         eventually("the box gone", [] { return QApplication::activeModalWidget() == nullptr; });
@@ -52,7 +52,7 @@ TEST_F(StartAndEnd, QuittingWithNoGoesOn) {
 TEST_F(StartAndEnd, QuittingWithYesEnds) {
     settings_of_a_second_start();
     operate("", [this] {
-        eventually("the main window", [this] { return is_active(station().main_window); });
+        wait_for_the_keyboard();
         key("Escape");
         answer("Oui");
         while (!has_ended())
@@ -63,7 +63,7 @@ TEST_F(StartAndEnd, QuittingWithYesEnds) {
 TEST_F(StartAndEnd, TheCrossOfTheMainWindowAsks) {
     settings_of_a_second_start();
     operate("", [this] {
-        eventually("the main window", [this] { return is_active(station().main_window); });
+        wait_for_the_keyboard();
         key("alt+F4");
         eventually("the question", [] { return QApplication::activeModalWidget() != nullptr; });
         EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");

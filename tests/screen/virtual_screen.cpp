@@ -46,6 +46,7 @@ void end(pid_t child) {
 
 VirtualScreen::VirtualScreen(int width, int height) {
     start_server(width, height);
+    lay_french_keyboard();
     start_window_manager();
 }
 
@@ -71,6 +72,13 @@ void VirtualScreen::start_server(int width, int height) {
     if (number.empty())
         throw std::runtime_error{"Xvfb did not start"};
     ::setenv("DISPLAY", (":" + number).c_str(), 1);
+}
+
+// The keyboard of the desk has keys for ² and é. A character without a key makes xdotool lend it one for an instant,
+// and a busy program reads what that key means when the instant has passed.
+void VirtualScreen::lay_french_keyboard() {
+    if (std::system("setxkbmap fr") != 0)
+        throw std::runtime_error{"setxkbmap fr"};
 }
 
 void VirtualScreen::start_window_manager() {

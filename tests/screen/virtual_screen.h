@@ -25,6 +25,7 @@ public:
 
 private:
     void start_server(int width, int height);
+    void lay_french_keyboard();
     void start_window_manager();
 
     pid_t server_ = -1;

@@ -43,9 +43,7 @@ protected:
         }
         return names;
     }
-    void see_main_window() {
-        eventually("the main window", [this] { return is_active(station().main_window); });
-    }
+    void see_main_window() { wait_for_the_keyboard(); }
 };
 
 TEST_F(WindowsOnScreen, AlwaysOnTopIsAboveAllOthers) {

@@ -26,6 +26,19 @@ StationLabel* aside_label(const QString& text, Qt::Alignment alignment = Qt::Ali
     return label;
 }
 
+struct RoleLook {
+    Accent frame;
+    Accent lamp;
+    const char* word;
+};
+
+const RoleLook& role_look(DeckRole role) {
+    static constexpr std::array looks{
+        RoleLook{Accent::none, Accent::none, ""}, RoleLook{Accent::next, Accent::next, "chargé"},
+        RoleLook{Accent::none, Accent::air, "en lecture"}, RoleLook{Accent::air, Accent::air, "à l'antenne"}};
+    return looks[static_cast<std::size_t>(role)];
+}
+
 } // namespace
 
 DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_stand_in, int number, QWidget* parent)
@@ -137,19 +150,20 @@ void DeckPanel::show_elapsed() {
 }
 
 void DeckPanel::show_look(const DeckLook& look) {
-    const Accent accent = look.main ? Accent::air : look.loaded ? Accent::next : Accent::none;
-    set_accent(accent);
-    lamp_->set_accent(accent);
-    play_->set_accent(look.main ? Accent::air : Accent::none);
-    zap_->set_accent(look.main ? Accent::next : Accent::none);
-    state_->set_text(look.main ? "à l'antenne" : look.loaded ? "chargé" : "");
-    progress_->set_fill(look.main ? studio::air : studio::next);
+    const auto& [frame, lamp, word] = role_look(look.role);
+    const bool is_main = look.role == DeckRole::main;
+    set_accent(frame);
+    lamp_->set_accent(lamp);
+    play_->set_accent(is_main ? Accent::air : Accent::none);
+    zap_->set_accent(is_main ? Accent::next : Accent::none);
+    state_->set_text(word);
+    progress_->set_fill(lamp == Accent::air ? studio::air : studio::next);
     const double whole = controls_.progress.maximum;
-    const auto share = [whole](std::optional<double> second) -> std::optional<double> {
-        return second && whole > 0 ? std::optional{*second / whole} : std::nullopt;
+    const auto share = [&](std::optional<double> second) -> std::optional<double> {
+        const bool shown = look.role != DeckRole::empty && second && whole > 0;
+        return shown ? std::optional{*second / whole} : std::nullopt;
     };
-    progress_->set_marks(look.loaded ? share(look.mix_point) : std::nullopt,
-                         look.loaded ? share(look.end_point) : std::nullopt);
+    progress_->set_marks(share(look.mix_point), share(look.end_point));
 }
 
 } // namespace sonarelle

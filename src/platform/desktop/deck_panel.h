@@ -4,14 +4,14 @@
 
 #include "platform/desktop/dresser.h"
 #include "platform/desktop/panel.h"
+#include "playout/air_view.h"
 #include "playout/deck_controls.h"
 
 namespace sonarelle {
 
-/// What a deck is to the air, beside what its controls say.
+/// What is seen of a deck, beside what its controls say.
 struct DeckLook {
-    bool main = false;
-    bool loaded = false;
+    DeckRole role = DeckRole::empty;
     std::optional<double> mix_point; ///< Seconds.
     std::optional<double> end_point; ///< Seconds.
 };

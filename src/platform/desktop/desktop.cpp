@@ -12,6 +12,7 @@
 #include "platform/desktop/main_view.h"
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/qt_text.h"
+#include "playout/air_view.h"
 
 namespace sonarelle {
 
@@ -29,12 +30,6 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
     if (auto* properties = dynamic_cast<Propriete*>(&window))
         return properties_view(*properties, services);
     return form_view(window, services);
-}
-
-// A deck that waits has kept its place, but no file.
-bool has_file(const Deck& deck) {
-    const std::string& title = deck.controls.title.caption;
-    return deck.has_graph() && title != empty_title && title != waiting_title;
 }
 
 // Nothing for what is no number yet.
@@ -94,7 +89,10 @@ void Desktop::connect_readings() {
         return;
     for (Label* label : {&desk_.list_window.Label2, &desk_.list_window.Label4, &desk_.list_window.Label13})
         watch(*label, [this] { show_air(); });
-    watch(desk_.list_window.Label4, [this] { show_list(); });
+    watch(desk_.list_window.Label4, [this] {
+        show_list();
+        show_chain();
+    });
     watch(desk_.list_window.Label1, [this] { show_list(); });
     watch(desk_.window.Text1, [this] { show_decks(); });
     for (DeckControls& deck : desk_.window.decks)
@@ -112,21 +110,22 @@ void Desktop::show_air() {
 }
 
 void Desktop::show_decks() {
-    const int main = desk_.has_main_deck() ? desk_.chain.lecteur_en_cours.value() : 0;
-    QString next;
     for (Deck& deck : desk_.decks) {
-        DeckLook look{.main = deck.number() == main,
-                      .loaded = has_file(deck),
-                      .mix_point = std::nullopt,
-                      .end_point = seconds_of(deck)};
+        DeckLook look{.role = role_of(desk_, deck), .mix_point = std::nullopt, .end_point = seconds_of(deck)};
         if (look.end_point)
             look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
         main_->show_look(deck.number(), look);
-        if (look.loaded && !look.main)
-            next = "Ensuite : " + plain_caption(deck.controls.title.caption);
     }
-    main_->show_chain(main == 0 ? QStringLiteral("EN ATTENTE") : "● À L'ANTENNE — Play " + QString::number(main), next);
     main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
+    show_chain();
+}
+
+void Desktop::show_chain() {
+    const QString next = to_qt(name_to_come(desk_));
+    main_->show_chain(desk_.has_main_deck()
+                          ? "● À L'ANTENNE — Play " + QString::number(desk_.chain.lecteur_en_cours.value())
+                          : QStringLiteral("EN ATTENTE"),
+                      next.isEmpty() ? next : "Ensuite : " + next);
 }
 
 void Desktop::show_list() {

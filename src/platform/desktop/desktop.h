@@ -52,6 +52,7 @@ private:
     void watch(Control& control, std::function<void()> show);
     void show_air();
     void show_decks();
+    void show_chain();
     void show_list();
     void fill_outputs();
 

@@ -31,6 +31,14 @@ StationLabel* text_label(const StationLabel::Style& style, const QString& text =
     return label;
 }
 
+StationLabel* coloured_label(const StationLabel::Style& style, QColor colour) {
+    auto* label = text_label(style);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, mixed(colour, Qt::white, 0.25));
+    label->setPalette(palette);
+    return label;
+}
+
 // A panel whose column begins with its heading.
 QVBoxLayout* column_in(Panel* panel, const QString& heading) {
     auto* column = new QVBoxLayout{panel};
@@ -74,13 +82,10 @@ QWidget* MainView::menu_labels() {
 }
 
 QLayout* MainView::header() {
-    heading_ = text_label({.pixels = 12, .characters = 20}, "À L'ANTENNE");
-    QPalette green = heading_->palette();
-    green.setColor(QPalette::WindowText, mixed(studio::air, Qt::white, 0.25));
-    heading_->setPalette(green);
+    heading_ = coloured_label({.pixels = 12, .characters = 20}, studio::air);
     title_ = text_label({.pixels = 19, .bold = true, .wrapped = true, .characters = 14});
     title_->setFixedHeight(title_height);
-    next_ = text_label({.pixels = 12, .quiet = true, .characters = 20});
+    next_ = coloured_label({.pixels = 15, .characters = 16}, studio::next);
     remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
                             "00:00:00");
     remaining_->setObjectName("remaining");

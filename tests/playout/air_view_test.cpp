@@ -1,0 +1,94 @@
+#include "playout/air_view.h"
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+class AirView : public ChainBench {
+protected:
+    [[nodiscard]] std::string to_come() { return name_to_come(station.desk); }
+    [[nodiscard]] std::vector<DeckRole> roles() {
+        std::vector<DeckRole> roles;
+        for (const Deck& deck : station.desk.decks)
+            roles.push_back(role_of(station.desk, deck));
+        return roles;
+    }
+};
+
+using Roles = std::vector<DeckRole>;
+
+} // namespace
+
+TEST_F(AirView, NothingFollowsBeforeTheListRuns) {
+    open_tracks({200, 200, 200});
+    EXPECT_EQ(to_come(), "");
+}
+
+TEST_F(AirView, NamesTheNextRowFromTheFirstSecond) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "titre 2");
+}
+
+TEST_F(AirView, NamesTheLoadedTrackBetweenLoadAndStart) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(190));
+    EXPECT_EQ(to_come(), "titre 2");
+    EXPECT_EQ(roles(), (Roles{DeckRole::main, DeckRole::loaded, DeckRole::empty}));
+}
+
+TEST_F(AirView, NamesTheRowBehindTheNewTrackWhileTheOldOneFades) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(196));
+    EXPECT_EQ(to_come(), "titre 3");
+    EXPECT_EQ(roles(), (Roles{DeckRole::heard, DeckRole::main, DeckRole::empty}));
+}
+
+TEST_F(AirView, NamesTheFirstRowBehindTheLastOne) {
+    open_tracks({200, 200});
+    start_list();
+    machine.run_for(seconds(205));
+    EXPECT_EQ(to_come(), "titre 1");
+}
+
+TEST_F(AirView, GoesOverRowsOfTheFileOnTheAir) {
+    machine.add_track("C:\\a.mp3", 100);
+    machine.add_track("C:\\b.mp3", 100);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of("C:\\a.mp3", "100"), record_of("C:\\a.mp3", "100"), record_of("C:\\b.mp3", "100")});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "b");
+}
+
+TEST_F(AirView, NothingIsNamedBeforeADraw) {
+    open_tracks({200, 200, 200});
+    start_list();
+    station.chain.ordre_aleatoire = true;
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "");
+}
+
+TEST_F(AirView, ChainOverDecksNamesTheFileOfTheNextDeck) {
+    open_on_all({60, 60, 60});
+    station.main_window.coche2.click();
+    controls(2).play.click();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "titre 3");
+}
+
+TEST_F(AirView, NothingFollowsByItselfInManualMode) {
+    open_on_all({60, 60, 60});
+    station.main_window.a_mode_manuel.click();
+    controls(1).play.click();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "");
+}
+
+} // namespace sonarelle

@@ -129,6 +129,8 @@ void StudioButton::paintEvent(QPaintEvent*) {
         painter.setOpacity(0.38);
     else if (accent_ != Accent::none)
         ink = Qt::white;
+    if (look_ == ButtonLook::lamp) // one without a picture yet is dark
+        ink = studio::edge;
     paint_face(painter, ground);
     paint_content(painter, ink);
 }

@@ -180,6 +180,21 @@ TEST_F(SilentDrive, FailsEachLookAsADeviceFault) {
         EXPECT_EQ(failure_of_use(looks[look]), failure_number::device_fault) << look;
 }
 
+// The chain writes an end of play back into the list, which may lie on the drive that has gone.
+TEST_F(SilentDrive, FailsEachChangeAsADeviceFault) {
+    const std::vector<std::function<void()>> changes{
+        [this] { static_cast<void>(disk.replace("D:\\liste.dfm")); },
+        [this] { disk.append("D:\\journal.doc", "x"); },
+        [this] { disk.FileCopy("D:\\titre.mp3", "E:\\titre.mp3"); },
+        [this] { disk.Name("D:\\titre.mp3", "D:\\autre.mp3"); },
+        [this] { disk.Kill("D:\\titre.mp3"); },
+        [this] { disk.MkDir("D:\\album"); },
+        [this] { disk.RmDir("D:\\album"); },
+    };
+    for (std::size_t change = 0; change < changes.size(); ++change)
+        EXPECT_EQ(failure_of_use(changes[change]), failure_number::device_fault) << change;
+}
+
 TEST_F(SilentDrive, LeavesTheWorkingFolderWhereItIs) {
     static_cast<void>(failure_of_use([this] { disk.ChDrive("D:\\"); }));
     EXPECT_EQ(disk.current_drive(), 'C');

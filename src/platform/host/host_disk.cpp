@@ -43,11 +43,12 @@ HostDisk::Wanted HostDisk::wanted(const std::string& absolute_path) const {
 }
 
 HostDisk::Place HostDisk::place_of(std::string_view path) const {
-    const Wanted name = wanted(absolute(path));
-    NameLookup::Place found = lookup_->find(name.base, name.names, name.source);
-    if (found.outcome == Outcome::folder_missing)
-        throw Failure{failure_number::path_not_found, name.source};
-    return {name.source, std::move(found.path), found.outcome == Outcome::present};
+    const std::string name = absolute(path);
+    return look(name, [name](const NameLookup::Place& found) -> Place {
+        if (found.outcome == Outcome::folder_missing)
+            throw Failure{failure_number::path_not_found, name};
+        return {name, found.path, found.outcome == Outcome::present};
+    });
 }
 
 HostDisk::Place HostDisk::existing(std::string_view path, int number_when_missing) const {

@@ -1,5 +1,8 @@
 #include "playout/air_view.h"
 
+#include <algorithm>
+
+#include "platform/failure.h"
 #include "platform/paths.h"
 
 namespace sonarelle {
@@ -10,6 +13,19 @@ namespace {
 bool has_file(const Deck& deck) {
     const std::string& title = deck.controls.title.caption;
     return !deck.path.empty() && title != empty_title && title != waiting_title;
+}
+
+MediaState state_of(const Deck& deck) {
+    return deck.has_graph() ? deck.graph().GetState() : MediaState::stopped;
+}
+
+// A graph that has come to its end goes on running.
+bool sounds(const Deck& deck) {
+    return state_of(deck) == MediaState::running && deck.graph().get_CurrentPosition() < deck.graph().get_Duration();
+}
+
+bool is_on(DeckRole main) {
+    return main == DeckRole::on_air || main == DeckRole::paused;
 }
 
 std::string name_without_ending(std::string_view path) {
@@ -37,16 +53,33 @@ std::string path_in_list_order(const Desk& desk) {
 } // namespace
 
 DeckRole role_of(const Desk& desk, const Deck& deck) {
-    if (deck.number() == desk.chain.lecteur_en_cours.value())
-        return DeckRole::main;
-    // What fades out says already that it waits.
-    if (deck.has_graph() && deck.graph().GetState() == MediaState::running)
-        return DeckRole::heard;
+    const bool is_main = deck.number() == desk.chain.lecteur_en_cours.value();
+    if (sounds(deck)) // what fades out says already that it waits
+        return is_main ? DeckRole::on_air : DeckRole::heard;
+    if (is_main)
+        return state_of(deck) == MediaState::paused ? DeckRole::paused : DeckRole::ended;
     return has_file(deck) ? DeckRole::loaded : DeckRole::empty;
 }
 
+DeckRole main_role(Desk& desk) {
+    return desk.has_main_deck() ? role_of(desk, desk.main_deck()) : DeckRole::empty;
+}
+
+std::string name_on_air(Desk& desk) {
+    return is_on(main_role(desk)) ? name_without_ending(desk.main_deck().path) : std::string{};
+}
+
+int seconds_left(Desk& desk) {
+    int left = 0;
+    if (is_on(main_role(desk))) {
+        const Deck& deck = desk.main_deck();
+        ErrorIndicator{}.skip([&] { left = deck.end_point().value() - deck.whole_position().value(); });
+    }
+    return std::max(0, left);
+}
+
 std::string name_to_come(Desk& desk) {
-    if (!desk.has_main_deck() || desk.is_manual())
+    if (!is_on(main_role(desk)) || desk.is_manual())
         return {};
     const Deck& next = desk.deck(next_deck(desk.chain.lecteur_en_cours.value()));
     const bool from_list = desk.chain.mode_enchainement.is_true();

@@ -11,10 +11,19 @@ enum class DeckRole {
     empty,  ///< Without a file that it could start.
     loaded, ///< Waits with a file.
     heard,  ///< Runs beside the main deck: fades out, or plays over it.
-    main    ///< The one that the chain goes by.
+    on_air, ///< The main deck, the one that the chain goes by, while it plays.
+    paused, ///< The main deck, paused.
+    ended   ///< The main deck, silent: stopped, at its end, or without a file.
 };
 
 [[nodiscard]] DeckRole role_of(const Desk& desk, const Deck& deck);
+/// That of the main deck; empty without one.
+[[nodiscard]] DeckRole main_role(Desk& desk);
+
+/// The name of the file on the air, without its ending; empty for none.
+[[nodiscard]] std::string name_on_air(Desk& desk);
+/// Whole seconds from now to the end of play of what is on the air; 0 for nothing.
+[[nodiscard]] int seconds_left(Desk& desk);
 
 /// The name of the file that follows the main deck's, without its ending. Empty when nothing follows by itself, or a
 /// draw has yet to choose.

@@ -151,11 +151,11 @@ void DeckPanel::show_elapsed() {
 
 void DeckPanel::show_look(const DeckLook& look) {
     const auto& [frame, lamp, word] = role_look(look.role);
-    const bool is_main = look.role == DeckRole::main;
+    const bool on_air = look.role == DeckRole::on_air;
     set_accent(frame);
     lamp_->set_accent(lamp);
-    play_->set_accent(is_main ? Accent::air : Accent::none);
-    zap_->set_accent(is_main ? Accent::next : Accent::none);
+    play_->set_accent(on_air ? Accent::air : Accent::none);
+    zap_->set_accent(on_air ? Accent::next : Accent::none);
     state_->set_text(word);
     progress_->set_fill(lamp == Accent::air ? studio::air : studio::next);
     const double whole = controls_.progress.maximum;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QStyle>
+#include <QTime>
 #include <algorithm>
 
 #include "accessories/chargement.h"
@@ -87,26 +88,24 @@ void Desktop::watch(Control& control, std::function<void()> show) {
 void Desktop::connect_readings() {
     if (main_ == nullptr || list_ == nullptr)
         return;
-    for (Label* label : {&desk_.list_window.Label2, &desk_.list_window.Label4, &desk_.list_window.Label13})
-        watch(*label, [this] { show_air(); });
-    watch(desk_.list_window.Label4, [this] {
-        show_list();
-        show_chain();
-    });
+    watch(desk_.list_window.Label4, [this] { show_list(); });
     watch(desk_.list_window.Label1, [this] { show_list(); });
     watch(desk_.window.Text1, [this] { show_decks(); });
     for (DeckControls& deck : desk_.window.decks)
         for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
                                                                 &deck.playing_mark, &deck.play})
             watch(*control, [this] { show_decks(); });
-    show_air();
-    show_decks();
+    QObject::connect(&second_, &QTimer::timeout, &second_, [this] { show_second(); });
+    second_.setSingleShot(true);
+    second_.setTimerType(Qt::PreciseTimer);
+    show_second();
 }
 
-void Desktop::show_air() {
-    const Liste_son& list = desk_.list_window;
-    main_->show_on_air(plain_caption(list.Label2.caption), plain_caption(list.Label4.caption),
-                       plain_caption(list.Label13.caption));
+// The clock goes on and the air is told as it is, whatever the chain does.
+void Desktop::show_second() {
+    show_decks();
+    main_->show_clock(to_qt(time_text(desk_.platform)));
+    second_.start(1000 - QTime::currentTime().msec());
 }
 
 void Desktop::show_decks() {
@@ -117,15 +116,16 @@ void Desktop::show_decks() {
         main_->show_look(deck.number(), look);
     }
     main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
-    show_chain();
+    show_air();
 }
 
-void Desktop::show_chain() {
+void Desktop::show_air() {
     const QString next = to_qt(name_to_come(desk_));
-    main_->show_chain(desk_.has_main_deck()
-                          ? "● À L'ANTENNE — Play " + QString::number(desk_.chain.lecteur_en_cours.value())
-                          : QStringLiteral("EN ATTENTE"),
-                      next.isEmpty() ? next : "Ensuite : " + next);
+    main_->show_air({.role = main_role(desk_),
+                     .deck = desk_.chain.lecteur_en_cours.value(),
+                     .title = to_qt(name_on_air(desk_)),
+                     .left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss"),
+                     .next = next.isEmpty() ? next : "Ensuite : " + next});
 }
 
 void Desktop::show_list() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <string>
@@ -50,9 +51,9 @@ public:
 private:
     void connect_readings();
     void watch(Control& control, std::function<void()> show);
-    void show_air();
+    void show_second();
     void show_decks();
-    void show_chain();
+    void show_air();
     void show_list();
     void fill_outputs();
 
@@ -61,6 +62,7 @@ private:
     std::vector<std::unique_ptr<WindowView>> views_;
     MainView* main_ = nullptr;
     ListView* list_ = nullptr;
+    QTimer second_;
     OutputChoice outputs_;
     std::unique_ptr<QMenu> output_menu_;
 };

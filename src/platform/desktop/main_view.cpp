@@ -31,12 +31,11 @@ StationLabel* text_label(const StationLabel::Style& style, const QString& text =
     return label;
 }
 
-StationLabel* coloured_label(const StationLabel::Style& style, QColor colour) {
-    auto* label = text_label(style);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, mixed(colour, Qt::white, 0.25));
-    label->setPalette(palette);
-    return label;
+void colour(QWidget& label, QColor accent) {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, mixed(accent, Qt::white, 0.25));
+    if (palette != label.palette())
+        label.setPalette(palette);
 }
 
 // A panel whose column begins with its heading.
@@ -82,10 +81,11 @@ QWidget* MainView::menu_labels() {
 }
 
 QLayout* MainView::header() {
-    heading_ = coloured_label({.pixels = 12, .characters = 20}, studio::air);
+    heading_ = text_label({.pixels = 12, .characters = 20});
     title_ = text_label({.pixels = 19, .bold = true, .wrapped = true, .characters = 14});
     title_->setFixedHeight(title_height);
-    next_ = coloured_label({.pixels = 15, .characters = 16}, studio::next);
+    next_ = text_label({.pixels = 15, .characters = 16});
+    colour(*next_, studio::next);
     remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
                             "00:00:00");
     remaining_->setObjectName("remaining");
@@ -217,15 +217,24 @@ QWidget* MainView::status_line() {
     return line;
 }
 
-void MainView::show_on_air(const QString& title, const QString& remaining, const QString& clock) {
-    title_->set_text(title);
-    remaining_->set_text(remaining);
-    clock_->set_text(clock);
-}
-
-void MainView::show_chain(const QString& heading, const QString& next) {
-    heading_->set_text(heading);
-    next_->set_text(next);
+void MainView::show_air(const AirLook& look) {
+    const QString play = " — Play " + QString::number(look.deck);
+    switch (look.role) {
+    case DeckRole::on_air:
+        colour(*heading_, studio::air);
+        heading_->set_text("● À L'ANTENNE" + play);
+        break;
+    case DeckRole::paused:
+        colour(*heading_, studio::next);
+        heading_->set_text("EN PAUSE" + play);
+        break;
+    default:
+        colour(*heading_, studio::text);
+        heading_->set_text("EN ATTENTE");
+    }
+    title_->set_text(look.title);
+    remaining_->set_text(look.left);
+    next_->set_text(look.next);
 }
 
 } // namespace sonarelle

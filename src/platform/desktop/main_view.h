@@ -8,15 +8,23 @@
 
 namespace sonarelle {
 
+/// What is read of the air at a glance.
+struct AirLook {
+    DeckRole role = DeckRole::empty; ///< The main deck's.
+    int deck = 0;                    ///< Its number.
+    QString title;
+    QString left; ///< Time to the end of play.
+    QString next;
+};
+
 /// The main window: what is on and how long it lasts, three decks, the chain and the quick loads.
 class MainView : public WindowView {
 public:
     MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound);
 
-    /// What the list window knows of the air.
-    void show_on_air(const QString& title, const QString& remaining, const QString& clock);
+    void show_air(const AirLook& look);
+    void show_clock(const QString& time) { clock_->set_text(time); }
     void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
-    void show_chain(const QString& heading, const QString& next);
     void show_output(const QString& text) { output_->set_text(text); }
     void show_played(const QString& text) { played_->set_text(text); }
 

@@ -38,7 +38,7 @@ TEST_F(AirView, NamesTheLoadedTrackBetweenLoadAndStart) {
     start_list();
     machine.run_for(seconds(190));
     EXPECT_EQ(to_come(), "titre 2");
-    EXPECT_EQ(roles(), (Roles{DeckRole::main, DeckRole::loaded, DeckRole::empty}));
+    EXPECT_EQ(roles(), (Roles{DeckRole::on_air, DeckRole::loaded, DeckRole::empty}));
 }
 
 TEST_F(AirView, NamesTheRowBehindTheNewTrackWhileTheOldOneFades) {
@@ -46,7 +46,7 @@ TEST_F(AirView, NamesTheRowBehindTheNewTrackWhileTheOldOneFades) {
     start_list();
     machine.run_for(seconds(196));
     EXPECT_EQ(to_come(), "titre 3");
-    EXPECT_EQ(roles(), (Roles{DeckRole::heard, DeckRole::main, DeckRole::empty}));
+    EXPECT_EQ(roles(), (Roles{DeckRole::heard, DeckRole::on_air, DeckRole::empty}));
 }
 
 TEST_F(AirView, NamesTheFirstRowBehindTheLastOne) {
@@ -65,6 +65,52 @@ TEST_F(AirView, GoesOverRowsOfTheFileOnTheAir) {
     start_list();
     machine.run_for(seconds(1));
     EXPECT_EQ(to_come(), "b");
+}
+
+TEST_F(AirView, NamesWhatIsHeardWhileTheNextTrackIsLoaded) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(190));
+    EXPECT_EQ(name_on_air(station.desk), "titre 1");
+    EXPECT_EQ(seconds_left(station.desk), 10);
+}
+
+TEST_F(AirView, CountsToTheEndOfPlayOfTheRow) {
+    machine.add_track(track(1), 200);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "150.00")});
+    rows().select(1);
+    station.list_window.Option2.click();
+    station.list_window.Image1.click();
+    machine.run_for(seconds(20));
+    EXPECT_EQ(seconds_left(station.desk), 130);
+}
+
+TEST_F(AirView, KeepsNameAndTimeInAPause) {
+    open_tracks({200, 200});
+    start_list();
+    machine.run_for(seconds(50));
+    controls(1).pause.click();
+    machine.run_for(seconds(30));
+    EXPECT_EQ(main_role(station.desk), DeckRole::paused);
+    EXPECT_EQ(name_on_air(station.desk), "titre 1");
+    EXPECT_EQ(seconds_left(station.desk), 150);
+}
+
+TEST_F(AirView, NothingIsOnTheAirBehindTheEndOfTheFile) {
+    open_on_all({20, 60, 60});
+    station.main_window.a_mode_manuel.click();
+    controls(1).play.click();
+    machine.run_for(seconds(30));
+    EXPECT_EQ(main_role(station.desk), DeckRole::ended);
+    EXPECT_EQ(name_on_air(station.desk), "");
+    EXPECT_EQ(seconds_left(station.desk), 0);
+}
+
+TEST_F(AirView, AnItemThatHasRunOutIsNotHeard) {
+    open_tracks({10, 100, 100});
+    start_list();
+    machine.run_for(seconds(15));
+    EXPECT_EQ(roles(), (Roles{DeckRole::empty, DeckRole::on_air, DeckRole::empty}));
 }
 
 TEST_F(AirView, NothingIsNamedBeforeADraw) {

@@ -32,11 +32,21 @@ struct RoleLook {
     const char* word;
 };
 
-const RoleLook& role_look(DeckRole role) {
-    static constexpr std::array looks{
-        RoleLook{Accent::none, Accent::none, ""}, RoleLook{Accent::next, Accent::next, "chargé"},
-        RoleLook{Accent::none, Accent::air, "en lecture"}, RoleLook{Accent::air, Accent::air, "à l'antenne"}};
-    return looks[static_cast<std::size_t>(role)];
+RoleLook look_of(DeckRole role) {
+    switch (role) {
+    case DeckRole::loaded:
+        return {Accent::next, Accent::next, "chargé"};
+    case DeckRole::heard:
+        return {Accent::none, Accent::air, "en lecture"};
+    case DeckRole::on_air:
+        return {Accent::air, Accent::air, "à l'antenne"};
+    case DeckRole::paused:
+        return {Accent::air, Accent::next, "en pause"};
+    case DeckRole::ended:
+    case DeckRole::empty:
+        break;
+    }
+    return {Accent::none, Accent::none, ""};
 }
 
 } // namespace
@@ -150,7 +160,7 @@ void DeckPanel::show_elapsed() {
 }
 
 void DeckPanel::show_look(const DeckLook& look) {
-    const auto& [frame, lamp, word] = role_look(look.role);
+    const auto [frame, lamp, word] = look_of(look.role);
     const bool on_air = look.role == DeckRole::on_air;
     set_accent(frame);
     lamp_->set_accent(lamp);

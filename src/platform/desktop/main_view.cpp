@@ -88,10 +88,14 @@ QLayout* MainView::header() {
     colour(*next_, studio::next);
     remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
                             "00:00:00");
-    remaining_->setObjectName("remaining");
+    // Not the station's controls, so the names are the view's.
+    for (const auto& [label, name] :
+         {std::pair{heading_, "air_state"}, {title_, "air_title"}, {next_, "air_next"}, {remaining_, "remaining"}})
+        label->setObjectName(name);
     remaining_->setAccessibleName("Temps restant");
     clock_ =
         text_label({.pixels = 20, .digits = true, .characters = 8, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    clock_->setObjectName("clock");
     auto* banner = dresser_.movie(window_.banner);
     banner->setFixedSize(banner_size);
     auto* mark = dresser_.image(window_.Image2);

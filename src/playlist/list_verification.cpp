@@ -59,7 +59,10 @@ ListVerification::Tally ListVerification::go_over_rows() {
             }
             drop_row(row, finding);
             ++tally.removed;
-            row = reading_.follow(row, [&] { goes_on = wants_to_go_on(path); });
+            row = reading_.follow(row, [&] {
+                save_for_the_air();
+                goes_on = wants_to_go_on(path);
+            });
         }
     } catch (const Failure&) {
         save_what_went();
@@ -85,12 +88,16 @@ void ListVerification::drop_row(int row, const FileFinding& finding) {
     journal_.note(finding.state == FileState::folder_missing ? "Dossier manquant : " + finding.folder + when
                                                              : "fichier manquant : " + list_.chemin_test + when);
     window_.ListView1.remove(row);
-    keep_playing_row_in_step(row);
+    if (list_.ligne_en_lecture.value() > row)
+        list_.ligne_en_lecture -= 1;
+    if (is_on_the_air() && list_.index_en_cours.value() > row)
+        list_.index_en_cours -= 1;
 }
 
-void ListVerification::keep_playing_row_in_step(int removed_row) {
-    if (list_.ligne_en_lecture.value() > removed_row)
-        list_.ligne_en_lecture -= 1;
+// The chain reads records by the numbers of their rows, and it goes on behind the question.
+void ListVerification::save_for_the_air() {
+    if (is_on_the_air())
+        document_.sauve_tout();
 }
 
 bool ListVerification::wants_to_go_on(const std::string& what) {
@@ -136,6 +143,7 @@ void ListVerification::prechar_fich() {
             tell("Fichier : " + path + " Ok ", Icon::information);
         } else {
             drop_row(row, finding);
+            save_for_the_air();
             const bool folder = finding.state == FileState::folder_missing;
             static_cast<void>(wants_to_go_on(folder ? "Dossier : " + finding.folder : path));
             document_.sauve_tout();

@@ -39,7 +39,8 @@ private:
     [[nodiscard]] Tally go_over_rows();
     [[nodiscard]] FileFinding test(int row);
     void drop_row(int row, const FileFinding& finding);
-    void keep_playing_row_in_step(int removed_row);
+    void save_for_the_air();
+    [[nodiscard]] bool is_on_the_air() const { return chain_.lecteur_en_cours != 0; }
     [[nodiscard]] bool wants_to_go_on(const std::string& what);
     void close(const Tally& tally);
     void tell_failure(const Failure& failure);

@@ -109,8 +109,9 @@ void AutoChain::take_next_row() {
     take_current_row();
 }
 
+// Behind the last row the list begins anew; it may have become shorter meanwhile.
 void AutoChain::take_current_row() {
-    if (desk_.list.index_en_cours == desk_.row_count() + 1)
+    if (desk_.list.index_en_cours.value() > desk_.row_count())
         desk_.list.index_en_cours = 1;
     desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
 }

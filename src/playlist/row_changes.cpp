@@ -68,6 +68,8 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
         return;
     under_trap(
         [&] {
+            const bool all_rows = which == ListAction::a_debutpiste;
+            const std::optional<ChosenRow> chosen = all_rows ? std::nullopt : std::optional{chosen_row()};
             const std::string answer = ask(action);
             if (answer.empty())
                 return;
@@ -79,15 +81,28 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
                 row[list_column::end] = destination_.dest_fin;
                 row[list_column::volume] = text_of(destination_.dest_volume);
             };
-            if (which == ListAction::a_debutpiste) {
-                change_all_rows(change);
-            } else {
-                change_row(window_.ListView1.selected(), change);
+            if (chosen) {
+                change_row(place_now(*chosen), change);
                 document_.sauve_tout();
+            } else {
+                change_all_rows(change);
             }
             entry.caption = std::string{action.caption_of_value} + start;
         },
         " erreur ");
+}
+
+RowChanges::ChosenRow RowChanges::chosen_row() const {
+    const int number = window_.ListView1.selected();
+    return {number, window_.ListView1.row(number)};
+}
+
+// While the operator types, the chain selects the rows that it starts, and takes out those that it can't play.
+int RowChanges::place_now(const ChosenRow& chosen) const {
+    const int number = reading_.place_of(chosen.cells, chosen.number);
+    if (number > window_.ListView1.count() || window_.ListView1.row(number) != chosen.cells)
+        throw Failure{failure_number::not_in_selection, chosen.cells[list_column::path]};
+    return number;
 }
 
 // The box of an empty list would have nothing to change.

@@ -29,10 +29,17 @@ public:
 
 private:
     using Change = std::function<void(RowTable::Row& row)>;
+    struct ChosenRow {
+        int number;
+        RowTable::Row cells;
+    };
 
     [[nodiscard]] bool confirms(const ListActionRow& action);
     [[nodiscard]] std::string ask(const ListActionRow& action, const std::string& first_value = {});
     [[nodiscard]] RowTable::Row first_row();
+    [[nodiscard]] ChosenRow chosen_row() const;
+    /// @throws Failure 9 when the row is gone.
+    [[nodiscard]] int place_now(const ChosenRow& chosen) const;
     void change_all_rows(const Change& change);
     void change_row(int row, const Change& change);
     void change_start(ListAction action, MenuItem& entry);

@@ -86,7 +86,7 @@ MediaGraph& TrackProperties::graph() const {
 }
 
 void TrackProperties::a_modif() {
-    if (list_window_.ListView1.count() == 0)
+    if (list_window_.ListView1.count() == 0 || !guard_.allows(ListAction::a_modif))
         return;
     ErrorIndicator{}.skip([this] {
         stop();
@@ -194,7 +194,7 @@ void TrackProperties::go_to_place(int x) {
 }
 
 void TrackProperties::save() {
-    if (guard_.is_at_work())
+    if (!guard_.allows(ListAction::a_modif))
         return;
     try {
         write_row();

@@ -62,6 +62,7 @@ constexpr std::array rows{
                   .caption_of_value = "Début piste de ce fichier a : "},
     ListActionRow{.action = a_mettre_a_jour, .needs_saving = true, .needs_dfm = true},
     ListActionRow{.action = a_mettre_a_jour_liste, .needs_saving = true, .needs_dfm = true},
+    ListActionRow{.action = a_modif, .needs_dfm = true},
     ListActionRow{.action = a_modifie_morceau, .needs_saving = true},
 };
 

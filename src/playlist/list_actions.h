@@ -14,6 +14,7 @@ enum class ListAction {
     a_debutpiste_fichier,
     a_mettre_a_jour,
     a_mettre_a_jour_liste,
+    a_modif,
     a_modifie_morceau
 };
 

@@ -4,6 +4,8 @@
 #include <span>
 #include <vector>
 
+#include "platform/paths.h"
+
 namespace sonarelle {
 
 namespace {
@@ -25,6 +27,9 @@ void copy_bytes(RecordFile& source, FileReplacement& target, std::int64_t from, 
 } // namespace
 
 void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
+    if (extension_of(path) == "rfm")
+        throw Failure{failure_number::wrong_file_name, std::string{path},
+                      "Sauvegarder dans format .dfm avant traitement !"};
     const auto old = disk.open(path);
     constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
     const std::int64_t begin = (number - 1) * size;

@@ -57,7 +57,7 @@ private:
 
 /// Puts one record in the place of another, and leaves the rest of the file as it is. A number one behind the last
 /// record adds it.
-/// @throws Failure 63 for any other number.
+/// @throws Failure 63 for any other number; 52 for an old list, which is never written.
 void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record);
 
 } // namespace sonarelle

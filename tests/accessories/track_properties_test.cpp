@@ -69,6 +69,17 @@ TEST_F(TrackPropertiesTest, StayClosedWhileTheListIsEmpty) {
     EXPECT_FALSE(window.visible);
 }
 
+TEST_F(TrackPropertiesTest, StayClosedForAListOfTheOldForm) {
+    machine.disk.put_file("C:\\Sonarelle\\vieux.rfm", std::string(2 * enreg_rfm::size, ' '));
+    station.list.nom_sauvegarde.clear();
+    machine.dialogs.expect_open("C:\\Sonarelle\\vieux.rfm");
+    machine.dialogs.expect_cancel();
+    station.list_window.A_Copen_rfm.click();
+    machine.dialogs.expect_box("Sauvegarder dans format .dfm avant traitement !", Answer::ok);
+    open(3);
+    EXPECT_FALSE(window.visible);
+}
+
 TEST_F(TrackPropertiesTest, ShowTheFirstRowWhenNoneIsSelected) {
     station.list_window.a_modif.click();
     EXPECT_EQ(window.Label2.caption.get(), "autre.mp3");

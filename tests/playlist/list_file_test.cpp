@@ -113,6 +113,13 @@ TEST_F(ListFile, RefusesToReplaceARecordFarBehindTheEnd) {
     EXPECT_THROW(replace_record(machine.disk, list, 3, record_of("b")), Failure);
 }
 
+TEST_F(ListFile, IsNeverWrittenInTheOldForm) {
+    const std::string old_list(2 * enreg_rfm::size, 'x');
+    machine.disk.put_file("C:\\Listes\\vieux.RFM", old_list);
+    EXPECT_THROW(replace_record(machine.disk, "C:\\Listes\\vieux.RFM", 1, record_of("neuf")), Failure);
+    EXPECT_EQ(machine.disk.bytes("C:\\Listes\\vieux.RFM"), old_list);
+}
+
 TEST_F(ListFile, StandsAsItWasWhenTheDiskFillsWhileARecordIsReplaced) {
     const std::string before = bytes_of({record_of("a"), record_of("b")});
     for (std::int64_t room = 0; room < 2 * 418; ++room) {

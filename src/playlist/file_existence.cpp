@@ -13,6 +13,15 @@ bool means_missing(int failure) {
            failure == failure_number::device_unavailable;
 }
 
+/// False for a drive that can't be had. One that doesn't answer may hold all its files.
+bool enter_drive(Disk& disk, std::string_view path) {
+    ErrorIndicator errors;
+    errors.skip([&] { disk.ChDrive(path); });
+    if (errors.number() == failure_number::device_fault)
+        throw Failure{failure_number::device_fault, std::string{path}};
+    return !errors.is_set();
+}
+
 bool is_folder(Disk& disk, std::string_view folder) {
     try {
         return disk.facts(folder).is_folder;
@@ -39,7 +48,7 @@ FileFinding look_for_file(Disk& disk, std::string_view path) {
         finding.state = FileState::on_network;
         return finding;
     }
-    if (!path.empty() && !ErrorIndicator{}.skip([&] { disk.ChDrive(path); })) {
+    if (!path.empty() && !enter_drive(disk, path)) {
         finding.state = FileState::missing;
         return finding;
     }

@@ -47,6 +47,12 @@ TEST_F(FileExistence, CountsADriveThatIsNotThereAsAMissingFile) {
     EXPECT_EQ(state_of("Q:\\titre.mp3"), FileState::missing);
 }
 
+TEST_F(FileExistence, HasNoAnswerFromADriveThatIsSilent) {
+    machine.disk.put_file("D:\\titre.mp3");
+    machine.disk.refuse("D:\\", failure_number::device_fault);
+    EXPECT_THROW((void)state_of("D:\\titre.mp3"), Failure);
+}
+
 TEST_F(FileExistence, CountsAPathWithoutAFileNameAsPresent) {
     EXPECT_EQ(state_of("C:\\Nulle part\\"), FileState::present);
     EXPECT_EQ(state_of(""), FileState::present);
@@ -178,6 +184,15 @@ TEST_F(ListVerificationTest, TellsAnErrorAndKeepsTheRow) {
     EXPECT_THAT(paths(), ElementsAre("C:\\Musique\\b.mp3"));
     EXPECT_THAT(saved_paths(), ElementsAre("C:\\Musique\\b.mp3"));
     EXPECT_FALSE(window().visible);
+}
+
+TEST_F(ListVerificationTest, KeepsTheRowsOfADriveThatIsSilent) {
+    put_songs({"D:\\a.mp3", "D:\\b.mp3"});
+    open_rows({"D:\\a.mp3", "D:\\b.mp3"});
+    machine.disk.refuse("D:\\", failure_number::device_fault);
+    machine.dialogs.expect_box(" err N° 57 ", Answer::ok);
+    list().prechar.click();
+    EXPECT_EQ(rows().count(), 2);
 }
 
 TEST_F(ListVerificationTest, LeavesTheOldListWhenTheDiskIsFull) {

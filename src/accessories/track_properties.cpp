@@ -89,7 +89,7 @@ void TrackProperties::a_modif() {
     if (list_window_.ListView1.count() == 0 || !guard_.allows(ListAction::a_modif))
         return;
     ErrorIndicator{}.skip([this] {
-        stop();
+        forget_file();
         const bool has_volume = fill_finds_a_volume(std::max(1, list_window_.ListView1.selected()));
         restore_colours();
         window_.show();
@@ -116,10 +116,22 @@ bool TrackProperties::fill_finds_a_volume(int row) {
     return !is_read || destination_.dest_volume_pourcent != 0;
 }
 
+// Nothing is marked by ear on the file of the row that was shown before.
+void TrackProperties::forget_file() {
+    stop();
+    graph_.reset();
+    window_.ProgressBar1.maximum = 0;
+    window_.ProgressBar1.caption = std::string{};
+    for (Label* later : {&window_.stop, &window_.mark_end})
+        later->visible = false;
+}
+
 void TrackProperties::play() {
     stop();
-    graph_ = platform_.media.create_graph();
-    graph_->RenderFile(path_);
+    graph_.reset();
+    auto graph = platform_.media.create_graph();
+    graph->RenderFile(path_);
+    graph_ = std::move(graph);
     window_.ProgressBar1.maximum = to_long(graph_->get_Duration());
     window_.stop.visible = true;
     graph_->Run();

@@ -44,6 +44,7 @@ private:
     void on_press(Label& label, std::function<void()> act);
 
     [[nodiscard]] bool fill_finds_a_volume(int row);
+    void forget_file();
     void play();
     void stop();
     void press_mark(Mark& mark);

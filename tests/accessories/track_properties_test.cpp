@@ -128,6 +128,14 @@ TEST_F(TrackPropertiesTest, LeaveAMissingFileWithoutAWord) {
     EXPECT_FALSE(window.stop.visible);
 }
 
+TEST_F(TrackPropertiesTest, MarkNothingOnAFileThatCannotBePlayed) {
+    machine.disk.Kill(music);
+    open_and_play();
+    window.mark_start.click();
+    run_for(2);
+    EXPECT_EQ(window.Text1.text(), "0.1");
+}
+
 TEST_F(TrackPropertiesTest, MarkTheStartAtTheFirstPressAndGoOnAtTheNext) {
     open_and_play();
     machine.run_for(milliseconds(12340));
@@ -437,6 +445,18 @@ TEST_F(TrackPropertiesTest, OpenOnAnotherRowStopsTheOneThatPlays) {
     run_for(2);
     EXPECT_TRUE(machine.media.on_air().empty());
     EXPECT_EQ(window.Text1.text(), "0.1");
+}
+
+TEST_F(TrackPropertiesTest, MarkNothingOnTheFileOfTheRowBefore) {
+    open_and_play();
+    run_for(3);
+    open(1);
+    window.mark_start.click();
+    window.ProgressBar1.click_at(100);
+    run_for(2);
+    EXPECT_TRUE(machine.media.on_air().empty());
+    EXPECT_EQ(window.Text1.text(), "0.1");
+    EXPECT_FALSE(window.mark_end.visible);
 }
 
 } // namespace sonarelle

@@ -101,6 +101,12 @@ class Reading(Tool):
         self.assertIn("titre : Été·[2J\n", shown)
         self.assertIn("piste : 4\n", shown)
 
+    def test_shows_people_no_control_character_of_a_name(self):
+        self.assertNotIn("\x1b", self.call("tag", "lire", self.file("a\x1b[2J.mp3")))
+
+    def test_tells_a_refused_name_on_one_line(self):
+        self.call("tag", "lire", self.folder / "a\nb.mp3", status=1)
+
     def test_finds_a_file_beside_where_it_is_called(self):
         self.file(data=tag(track=9))
         found = json.loads(self.call("tag", "lire", "a.mp3", "--json", cwd=self.folder))

@@ -82,7 +82,7 @@ void print(const Call& call, const std::string& file, const Json& fields) {
         call.out << fields.dump() << '\n';
         return;
     }
-    call.out << file << '\n';
+    call.out << printable(file) << '\n';
     print_fields(call.out, fields, "  ");
 }
 
@@ -98,7 +98,7 @@ void for_each_file(const Call& call, Read&& read) {
             print(call, name, read(file));
         } catch (const Failure& failure) {
             all_read = false;
-            std::cerr << "sonarelle-outil : " << failure.what() << '\n';
+            std::cerr << "sonarelle-outil : " << printable(failure.what()) << '\n';
         }
     }
     if (!all_read)

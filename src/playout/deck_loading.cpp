@@ -298,6 +298,7 @@ void DeckLoading::show_loaded(Deck& deck) {
 
 void DeckLoading::set_bar(Deck& deck) {
     deck.controls.progress.maximum = deck.whole_duration().value();
+    deck.controls.progress.value = 0;
 }
 
 void DeckLoading::ecrire_path_fichier(const std::string& path) {

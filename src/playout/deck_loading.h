@@ -59,7 +59,7 @@ public:
 private:
     void render_from_list(Deck& deck);
     void show_loaded(Deck& deck);
-    /// The bar's range, for files of a second and more.
+    /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);
     /// The file of a deck was dragged on it.
     [[nodiscard]] bool is_file_chosen() const;

@@ -135,10 +135,19 @@ void DeckStart::release_ring(Deck& deck) {
     journal_.note("Nb_de_fichier_écouté " + text_of(desk_.chain.nb_fichiers_ecoutes));
     journal_.note(time_text(desk_.platform) + " Lecture de " + deck.path + " (" + text_of(desk_.list.index_en_cours) +
                   ")");
-    desk_.deck(next_deck(deck.number())).drop_graph();
+    silence(desk_.deck(next_deck(deck.number())));
     desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
     desk_.chain.choix_prepare = false;
     desk_.chain.chargement_fait = false;
+}
+
+/// A deck whose track is cut short goes back to its beginning: where the bar stands behind it no deck starts.
+void DeckStart::silence(Deck& deck) {
+    deck.drop_graph();
+    if (deck.controls.progress.value == 0)
+        return;
+    clear_display(deck);
+    deck.controls.title.caption = std::string{waiting_title};
 }
 
 void DeckStart::clear_display(Deck& deck) {

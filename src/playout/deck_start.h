@@ -44,6 +44,7 @@ private:
     void show_names(Deck& deck);
     void show_main_deck(Deck& deck);
     void release_ring(Deck& deck);
+    void silence(Deck& deck);
 
     Desk& desk_;
     DeckLoading& loading_;

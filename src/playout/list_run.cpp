@@ -30,7 +30,6 @@ void ListRun::start_selected_row() {
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
-    desk_.deck(1).controls.progress.value = 0;
     desk_.report_loaded(desk_.deck(1));
     run_.lect_liste();
 }

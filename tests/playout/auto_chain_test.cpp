@@ -62,6 +62,17 @@ TEST_F(AutoChainTest, SkipsTheSameFileTwiceInARow) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
+TEST_F(AutoChainTest, GoesOnBehindATrackThatThePlayerBeforeTheMainOneCutShort) {
+    open_tracks({100, 100, 100});
+    machine.add_track("C:\\urgent.mp3", 60);
+    start_list();
+    machine.run_for(seconds(20));
+    open_on(3, "C:\\urgent.mp3");
+    controls(3).play.click();
+    machine.run_for(seconds(60));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 3}, {74, 1}}));
+}
+
 TEST_F(AutoChainTest, RemovesARowWhoseFileIsMissing) {
     open_tracks({100, 100, 100});
     machine.disk.Kill(track(2));

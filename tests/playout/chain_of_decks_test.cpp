@@ -33,6 +33,14 @@ TEST_F(ChainOfDecksTest, LetsTheOldDeckPlayOut) {
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
 }
 
+TEST_F(ChainOfDecksTest, GoesRoundToADeckThatAnotherCutShort) {
+    start_decks({100, 100, 100});
+    machine.run_for(seconds(20));
+    station.main_window.lire_3.click();
+    machine.run_for(seconds(100));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 3}, {114, 1}}));
+}
+
 TEST_F(ChainOfDecksTest, ReadsTheWholeFile) {
     start_decks({100, 60, 100});
     EXPECT_EQ(controls(1).counter.caption.get(), "100");

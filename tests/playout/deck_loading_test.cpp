@@ -40,6 +40,16 @@ TEST_F(DeckLoadingTest, OpenButtonReadiesPlayAndZap) {
     EXPECT_TRUE(controls(2).zap.enabled);
 }
 
+TEST_F(DeckLoadingTest, FileLoadedOnADeckThatPlaysStartsFromItsPlayButton) {
+    open_tracks({200, 200});
+    machine.add_track(song, 83);
+    start_list();
+    machine.run_for(seconds(5));
+    load_record(song);
+    controls(1).play.click();
+    EXPECT_EQ(machine.media.on_air(), Paths{std::string{song}});
+}
+
 TEST_F(DeckLoadingTest, OpenButtonAsksInTheMusicFolder) {
     station.settings.chemin_musique = "C:\\Sonarelle\\";
     machine.add_track(song, 83);

@@ -45,7 +45,9 @@ void RunControl::start_first_deck() {
     volume_.apply_record(deck);
     mix_.Choix_mix();
     deck.graph().Run();
+    desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off
     start_.align_timers();
+    deck.volume_sauve = deck.controls.slider.value();
     desk_.chain.duree_mesuree = deck.graph().get_Duration();
     loading_.format_duration();
     deck.pause_lecteur = false;

@@ -92,6 +92,27 @@ TEST_F(RunControlTest, ListStartBeginsAtTheRecordsStart) {
     EXPECT_EQ(station.desk.deck(1).graph().get_CurrentPosition(), 13.5);
 }
 
+TEST_F(RunControlTest, ListStartCountsDownAndLoadsWhereTheRunBeforeWasStoppedBehindItsLoad) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(90));
+    station.list_window.Image3.click();
+    station.list_window.Image1.click();
+    machine.run_for(seconds(30));
+    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:10");
+    machine.run_for(seconds(58));
+    EXPECT_EQ(times_of(OnAirEvent::Kind::loaded).back(), (std::pair<double, int>{177, 2}));
+}
+
+TEST_F(RunControlTest, PauseOfTheFirstTrackKeepsItsVolume) {
+    machine.add_track(track(1), 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100", 50)});
+    rows().select(1);
+    start_list();
+    controls(1).pause.click();
+    EXPECT_EQ(station.desk.deck(1).graph().get_Volume(), Millibel{-2000});
+}
+
 TEST_F(RunControlTest, ListStartsWithTheSelectedRow) {
     open_tracks({100, 100, 100});
     rows().select(3);

@@ -15,6 +15,7 @@ void ListRun::Image1_Click() {
 }
 
 void ListRun::start_selected_row() {
+    select_a_row();
     const Integer row = desk_.list_window.ListView1.selected();
     desk_.list.index_en_cours = desk_.list.index_destinataire = row;
     desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
@@ -32,6 +33,13 @@ void ListRun::start_selected_row() {
     loading_.load_from_list(desk_.deck(1));
     desk_.report_loaded(desk_.deck(1));
     run_.lect_liste();
+}
+
+// A list that was just loaded begins with its first row.
+void ListRun::select_a_row() {
+    RowTable& rows = desk_.list_window.ListView1;
+    if (rows.selected() == 0 && rows.count() > 0)
+        rows.select(1);
 }
 
 void ListRun::Image3_Click() {

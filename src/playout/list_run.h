@@ -25,6 +25,7 @@ public:
 
 private:
     void start_selected_row();
+    void select_a_row();
 
     Desk& desk_;
     AutoChain& chain_;

@@ -121,6 +121,19 @@ TEST_F(RunControlTest, ListStartsWithTheSelectedRow) {
     EXPECT_EQ(rows_started(), (std::vector<int>{3, 1}));
 }
 
+TEST_F(RunControlTest, ListWithoutASelectedRowStartsWithItsFirstAndCanBeZapped) {
+    std::vector<enreg_liste> records;
+    for (const int row : {1, 2}) {
+        machine.add_track(track(row), 100);
+        records.push_back(record_of(track(row), "100"));
+    }
+    open_list("C:\\Sonarelle\\essai.dfm", records);
+    start_list();
+    machine.run_for(seconds(40));
+    station.list_window.Image2.click();
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
 TEST_F(RunControlTest, ListStartOpensNoVideoWindowForAWmvAndALaterStartDoes) {
     for (const std::string_view path : {"C:\\a.wmv", "C:\\b.wmv"}) {
         machine.add_track(path, 40);

@@ -1,5 +1,8 @@
 #include "playout/list_run.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -21,6 +24,7 @@ void ListRun::start_selected_row() {
     desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
+    choose_a_reading_mode();
     for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2, &desk_.list_window.Image1})
         button->enabled = true;
     reading_.lire_enreg_destinataire();
@@ -40,6 +44,15 @@ void ListRun::select_a_row() {
     RowTable& rows = desk_.list_window.ListView1;
     if (rows.selected() == 0 && rows.count() > 0)
         rows.select(1);
+}
+
+// Without a mode the list would end with its first track. The lamp of the list chain chooses the same one.
+void ListRun::choose_a_reading_mode() {
+    Liste_son& list = desk_.list_window;
+    const std::array modes{&list.Option1, &list.Option2, &list.Option3, &list.Option4};
+    const bool none = std::ranges::none_of(modes, [](const OptionButton* mode) { return mode->value(); });
+    if (none && desk_.chain.mode_enchainement.is_false())
+        list.Option4.set_value(true);
 }
 
 void ListRun::Image3_Click() {

@@ -26,6 +26,7 @@ public:
 private:
     void start_selected_row();
     void select_a_row();
+    void choose_a_reading_mode();
 
     Desk& desk_;
     AutoChain& chain_;

@@ -134,6 +134,22 @@ TEST_F(RunControlTest, ListWithoutASelectedRowStartsWithItsFirstAndCanBeZapped) 
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
+TEST_F(RunControlTest, ListStartedWithoutAReadingModeGoesOnBehindItsFirstTrack) {
+    open_tracks({100, 100, 100});
+    station.list_window.Image1.click();
+    machine.run_for(seconds(95));
+    EXPECT_TRUE(station.list_window.Option4.value());
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(RunControlTest, ListStartedInTheDecksModePlaysItsRowAlone) {
+    open_tracks({100, 100, 100});
+    station.list_window.Option1.click();
+    station.list_window.Image1.click();
+    machine.run_for(seconds(300));
+    EXPECT_EQ(rows_started(), std::vector<int>{1});
+}
+
 TEST_F(RunControlTest, ListStartOpensNoVideoWindowForAWmvAndALaterStartDoes) {
     for (const std::string_view path : {"C:\\a.wmv", "C:\\b.wmv"}) {
         machine.add_track(path, 40);

@@ -7,6 +7,14 @@
 
 namespace sonarelle {
 
+namespace {
+
+bool is_running(const Deck& deck) {
+    return deck.has_graph() && deck.graph().GetState() == MediaState::running;
+}
+
+} // namespace
+
 ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
                  RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document)
     : desk_{desk}, chain_{chain}, loading_{loading}, transport_{transport}, journal_{journal}, run_{run},
@@ -20,14 +28,23 @@ void ListRun::Image1_Click() {
 void ListRun::start_selected_row() {
     select_a_row();
     const Integer row = desk_.list_window.ListView1.selected();
+    const Integer row_before = desk_.list.index_en_cours;
     desk_.list.index_en_cours = desk_.list.index_destinataire = row;
     desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
-    choose_a_reading_mode();
     for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2, &desk_.list_window.Image1})
         button->enabled = true;
     reading_.lire_enreg_destinataire();
+    if (is_on_air() && !can_be_played(desk_.destination.dest_chemin)) {
+        desk_.list.index_en_cours = row_before;
+        return run_.report_failed_start(desk_.destination.dest_chemin);
+    }
+    choose_a_reading_mode();
+    start_row(row);
+}
+
+void ListRun::start_row(Integer row) {
     desk_.list.chemin_fichier = desk_.destination.dest_chemin;
     desk_.window.Text2.set_text(desk_.list.chemin_fichier);
     desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
@@ -36,7 +53,24 @@ void ListRun::start_selected_row() {
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
     desk_.report_loaded(desk_.deck(1));
+    stop_other_decks();
     run_.lect_liste();
+}
+
+bool ListRun::is_on_air() const {
+    return std::ranges::any_of(desk_.decks, [](const Deck& deck) { return is_running(deck); });
+}
+
+// On a graph of its own: a row that can't be played leaves the air as it is.
+bool ListRun::can_be_played(const std::string& path) const {
+    return ErrorIndicator{}.skip([&] { desk_.platform.media.create_graph()->RenderFile(path); });
+}
+
+// The list begins on the first deck alone.
+void ListRun::stop_other_decks() {
+    for (Deck& deck : desk_.decks)
+        if (deck.number() != 1 && is_running(deck))
+            transport_.stop(deck);
 }
 
 // A list that was just loaded begins with its first row.

@@ -16,7 +16,7 @@ public:
     ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
             RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document);
 
-    /// Plays the list from the selected row.
+    /// Plays the list from the selected row, alone. One that can't be played leaves what is on the air.
     void Image1_Click();
     /// Presses the stop buttons of all decks.
     void Image3_Click();
@@ -25,6 +25,10 @@ public:
 
 private:
     void start_selected_row();
+    void start_row(Integer row);
+    [[nodiscard]] bool is_on_air() const;
+    [[nodiscard]] bool can_be_played(const std::string& path) const;
+    void stop_other_decks();
     void select_a_row();
     void choose_a_reading_mode();
 

@@ -28,11 +28,15 @@ void RunControl::Start_liste() {
     try {
         start_first_deck();
     } catch (const Failure&) {
-        desk_.list_window.Image1.enabled = true;
-        desk_.list_window.Label1.caption = "Non trouvé";
-        desk_.warn("Recherche de fichier\nDemarrage liste\n" + desk_.chain.chemin_lecture +
-                   "\n / format / lecture impossible  \nabandon lecture liste");
+        report_failed_start(desk_.chain.chemin_lecture);
     }
+}
+
+void RunControl::report_failed_start(const std::string& path) {
+    desk_.list_window.Image1.enabled = true;
+    desk_.list_window.Label1.caption = "Non trouvé";
+    desk_.warn("Recherche de fichier\nDemarrage liste\n" + path +
+               "\n / format / lecture impossible  \nabandon lecture liste");
 }
 
 void RunControl::start_first_deck() {

@@ -20,6 +20,9 @@ public:
     /// Starts deck 1 with the file that is loaded on it.
     void Start_liste();
 
+    /// Warns that a list can't start with this file.
+    void report_failed_start(const std::string& path);
+
     /// The hard stop of the chain. The deck that plays goes on.
     void stoppe_liste(const std::string& reason);
     /// The soft stop, before a deck is loaded by hand from a quick load list.

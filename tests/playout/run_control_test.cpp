@@ -150,6 +150,39 @@ TEST_F(RunControlTest, ListStartedInTheDecksModePlaysItsRowAlone) {
     EXPECT_EQ(rows_started(), std::vector<int>{1});
 }
 
+TEST_F(RunControlTest, ListStartedAgainIsHeardAlone) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(97));
+    rows().select(3);
+    station.list_window.Image1.click();
+    EXPECT_EQ(machine.media.on_air(), Paths{track(3)});
+    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+}
+
+TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedLeavesTheTrackOnTheAir) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(20));
+    machine.media.set_unplayable(track(3));
+    rows().select(3);
+    station.list_window.Image1.click();
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+    EXPECT_EQ(warning(), "Recherche de fichier\nDemarrage liste\n" + track(3) +
+                             "\n / format / lecture impossible  \nabandon lecture liste");
+    machine.run_for(seconds(75));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedSaysSo) {
+    open_tracks({100, 100, 100});
+    machine.media.set_unplayable(track(1));
+    start_list();
+    EXPECT_EQ(warning().substr(0, 37), "Recherche de fichier\nDemarrage liste\n");
+    EXPECT_EQ(station.list_window.Label1.caption.get(), "Non trouvé");
+    EXPECT_TRUE(machine.media.on_air().empty());
+}
+
 TEST_F(RunControlTest, ListStartOpensNoVideoWindowForAWmvAndALaterStartDoes) {
     for (const std::string_view path : {"C:\\a.wmv", "C:\\b.wmv"}) {
         machine.add_track(path, 40);

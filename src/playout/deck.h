@@ -55,7 +55,8 @@ public:
 
     DeckControls& controls;
     std::string& path;
-    std::string fin_piste;   ///< End of play of the record on the deck, seconds as text.
+    std::string fin_piste;   ///< End of play of the record on the deck, seconds as text; empty without a record.
+    double debut_piste = 0;  ///< Start of play of that record, seconds.
     std::string duree_piste; ///< Whole seconds of the file, as text.
     Flag pause_lecteur;      ///< The deck is paused.
     Integer mix_en_cours;    ///< Not 0 while the deck runs a special mix.

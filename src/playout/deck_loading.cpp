@@ -35,6 +35,7 @@ void DeckLoading::load_record(Deck& deck) {
         deck.controls.title.caption = "Non trouvé";
         return;
     }
+    take_start(deck);
     desk_.chain.nom_fichier_source = deck.path;
     nom_du_fich();
     ErrorIndicator errors;
@@ -70,6 +71,7 @@ void DeckLoading::render_from_list(Deck& deck) {
     nom_du_fich();
     deck.graph().RenderFile(deck.path);
     chain.duree_mesuree = deck.graph().get_Duration();
+    take_start(deck);
     deck.fin_piste = desk_.destination.dest_fin;
     deck.duree_piste = text_of(deck.whole_duration());
     if (!desk_.list_window.Option4.value() && chain.mode_enchainement.is_true())
@@ -89,6 +91,12 @@ void DeckLoading::render_from_list(Deck& deck) {
     }
     if (chain.duree_mesuree >= shortest_good_file)
         set_bar(deck);
+}
+
+// Other records are read while this one waits on its deck. What a hand loads plays to its end.
+void DeckLoading::take_start(Deck& deck) {
+    deck.debut_piste = desk_.destination.dest_debut;
+    deck.fin_piste.clear();
 }
 
 std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_record) const {
@@ -169,7 +177,8 @@ void DeckLoading::open_by_hand(Deck& deck) {
     nom_du_fich();
     formate_nom();
     mix_.manuel_mix();
-    deck.fin_piste.clear(); // that of the row that was on the deck before
+    deck.fin_piste.clear(); // those of the row that was on the deck before
+    deck.debut_piste = 0;
     attempt([&] { deck.graph().RenderFile(deck.path); });
     desk_.chain.duree_mesuree = deck.graph().get_Duration();
     attempt([this] { format_duration(); });

@@ -58,6 +58,8 @@ public:
 
 private:
     void render_from_list(Deck& deck);
+    /// The destination record's start is that of the deck's file; an end it has none yet.
+    void take_start(Deck& deck);
     void show_loaded(Deck& deck);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);

@@ -18,6 +18,7 @@ void DeckRecord::read() {
     ListReader{platform_.disk, list_path(platform_, chain_.fichier_courant)}.read(list_.index_destinataire.value(),
                                                                                   record);
     destination_.dest_chemin = record.trimmed_chemin();
+    destination_.dest_debut = 0; // that of another record is none of this one
     destination_.dest_fin = text_of(end_point_to_integer(record.trimmed_fin_lecture()));
     destination_.dest_genre = record.trimmed_genre();
     destination_.dest_volume = record.volume();

@@ -76,7 +76,7 @@ void DeckStart::run(Deck& deck) {
     desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
     if (desk_.chain.duree_mesuree >= shortest_good_file) {
         deck.controls.progress.maximum = deck.whole_duration().value();
-        deck.graph().put_CurrentPosition(desk_.destination.dest_debut);
+        deck.graph().put_CurrentPosition(deck.debut_piste);
     }
     mix_.Choix_mix();
     desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);

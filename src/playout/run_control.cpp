@@ -45,7 +45,7 @@ void RunControl::start_first_deck() {
     deck.controls.zap.enabled = true;
     desk_.chain.lecteur_en_cours = 1;
     deck.graph().RenderFile(deck.path);
-    deck.graph().put_CurrentPosition(desk_.destination.dest_debut);
+    deck.graph().put_CurrentPosition(deck.debut_piste);
     volume_.apply_record(deck);
     mix_.Choix_mix();
     deck.graph().Run();

@@ -326,6 +326,15 @@ TEST_F(DeckLoadingTest, SpecialMixButtonNamesItsKeyAndFile) {
               "Mixage spécial sur lecteur en cours (F11) avec : " + std::string{song});
 }
 
+TEST_F(DeckLoadingTest, FileOpenedByHandPlaysFromItsBeginningWhereTheListsTracksBeginLater) {
+    open_tracks({100, 100}, 12.0);
+    machine.add_track("C:\\jingle.mp3", 5);
+    start_list();
+    open_on(2, "C:\\jingle.mp3");
+    controls(2).play.click();
+    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.0);
+}
+
 TEST_F(DeckLoadingTest, FileOpenedByHandPlaysToItsEndWhileTheListRuns) {
     open_tracks({100, 100});
     machine.add_track("C:\\main.mp3", 80);

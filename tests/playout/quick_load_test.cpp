@@ -162,6 +162,38 @@ TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
     EXPECT_EQ(window.Text2.text(), track(3));
 }
 
+TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
+    machine.add_track("C:\\favori.mp3", 60);
+    machine.disk.put_file(favourites, bytes_of(record_of("C:\\favori.mp3", "60")));
+    choose_favourites(favourites);
+    open_tracks({200, 200});
+    start_list();
+    window.Combo1.choose(0);
+    window.lect1.click();
+    station.list_window.Option3.click();
+    EXPECT_EQ(controls(1).counter.caption.get(), "60");
+}
+
+TEST_F(QuickLoadTest, ATrackOfABoxBeginsAtItsOwnStartWhateverIsReadMeanwhile) {
+    machine.add_track(track(1), 100);
+    machine.disk.put_file(favourites, bytes_of(record_of(track(1), "90", 100, 2.0)));
+    choose_favourites(favourites);
+    window.Combo1.choose(0);
+    window.lect2.click();
+    station.destination.dest_debut = 30.0;
+    controls(2).play.click();
+    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 2.0);
+}
+
+TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
+    machine.add_track(track(1), 100);
+    machine.disk.put_file(favourites, bytes_of(record_of(track(1), "")));
+    choose_favourites(favourites);
+    station.destination.dest_debut = 30.0;
+    window.Combo1.choose(0);
+    EXPECT_EQ(station.destination.dest_debut, 0.0);
+}
+
 TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {
     put_list(favourites, 1);
     machine.dialogs.expect_open(favourites);

@@ -26,9 +26,9 @@ void DeckStart::play(Deck& deck) {
     deck.create_graph();
     if (deck.path.empty())
         return;
+    deck.graph().RenderFile(deck.path); // before all else: the main deck stays when the file can't be played
     arrange_buttons(deck);
     desk_.chain.lecteur_en_cours = deck.number();
-    deck.graph().RenderFile(deck.path);
     volume_.apply_record(deck);
     set_end_point(deck);
     run(deck);

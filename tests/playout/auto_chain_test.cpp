@@ -73,6 +73,17 @@ TEST_F(AutoChainTest, GoesOnBehindATrackThatThePlayerBeforeTheMainOneCutShort) {
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 3}, {74, 1}}));
 }
 
+TEST_F(AutoChainTest, GoesOnWhenAFilePlayedByHandIsGone) {
+    open_tracks({100, 100, 100});
+    machine.add_track("C:\\urgent.mp3", 60);
+    start_list();
+    open_on(2, "C:\\urgent.mp3");
+    machine.disk.Kill("C:\\urgent.mp3");
+    controls(2).play.click();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
+}
+
 TEST_F(AutoChainTest, RemovesARowWhoseFileIsMissing) {
     open_tracks({100, 100, 100});
     machine.disk.Kill(track(2));

@@ -79,6 +79,7 @@ private:
     bool try_to_zap(Deck& old);
     void give_prepared_row_up(Integer row);
     bool start_zapped(Deck& old);
+    void show_full_volume(Deck& deck);
     [[nodiscard]] bool load_and_play(Deck& old);
     [[nodiscard]] bool take_drawn_row();
     /// Whether it is, and isn't the one that plays.

@@ -175,11 +175,20 @@ bool AutoChain::start_zapped(Deck& old) {
     if (!load_and_play(old))
         return false;
     desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
-    desk_.deck(next_deck(old.number())).controls.slider.show_value(0);
+    show_full_volume(desk_.deck(next_deck(old.number())));
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
     return true;
+}
+
+/// The slider of a record that isn't at full volume stands where the record has put it: from there the operator and the
+/// special mix go on.
+void AutoChain::show_full_volume(Deck& deck) {
+    if (!deck.has_graph() || deck.graph().get_Volume() != Millibel{0})
+        return;
+    deck.controls.slider.show_value(0);
+    DeckVolume::show(deck);
 }
 
 void AutoChain::cancel_walks() {

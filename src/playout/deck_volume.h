@@ -23,7 +23,7 @@ public:
     void SetSliderText1() { show(desk_.deck(2)); }
     void SetSliderText2() { show(desk_.deck(3)); }
     /// Slider to its hint and percent.
-    void show(Deck& deck);
+    static void show(Deck& deck);
 
     void A_lire_volume() { apply_record(desk_.deck(1)); }
     void A_lire_volume1() { apply_record(desk_.deck(2)); }

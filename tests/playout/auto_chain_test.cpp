@@ -194,4 +194,33 @@ TEST_F(AutoChainTest, GivesTheRecordsVolumeToTheGraph) {
     EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-800});
 }
 
+TEST_F(AutoChainTest, ShowsTheRecordsVolumeOnTheSlider) {
+    machine.add_track("C:\\a.mp3", 100);
+    machine.add_track("C:\\b.mp3", 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\a.mp3", "100"), record_of("C:\\b.mp3", "100", 50)});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(controls(2).slider.value(), 10);
+    EXPECT_EQ(controls(2).percent.caption.get(), "50%");
+}
+
+TEST_F(AutoChainTest, ShowsFullVolumeWhereTheOperatorLeftTheSliderLower) {
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(90));
+    controls(2).slider.set_value(6);
+    machine.run_for(seconds(5));
+    EXPECT_EQ(controls(2).slider.value(), 0);
+    EXPECT_EQ(controls(2).percent.caption.get(), "100%");
+}
+
+TEST_F(AutoChainTest, FadeShowsItsPercent) {
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(100));
+    EXPECT_EQ(controls(1).percent.caption.get(), std::to_string(100 - 5 * controls(1).slider.value()) + "%");
+    EXPECT_GT(controls(1).slider.value(), 0);
+}
+
 } // namespace sonarelle

@@ -68,6 +68,22 @@ TEST_F(SpecialMixTest, OfTheFirstDeckPlaysOverTheSecond) {
     EXPECT_EQ(controls(2).slider.value(), 0);
 }
 
+TEST_F(SpecialMixTest, LowersAndGivesBackATrackBelowFullVolume) {
+    for (const int row : {1, 2})
+        machine.add_track(track(row), 200);
+    machine.add_track("C:\\jingle.mp3", 5);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100"), record_of(track(2), "200", 50)});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(120));
+    const auto volume = [this] { return station.desk.deck(2).graph().get_Volume(); };
+    station.chain.chemin_lecture3 = "C:\\jingle.mp3";
+    controls(3).special_mix.click();
+    EXPECT_EQ(volume(), Millibel{-2400});
+    machine.run_for(seconds(6));
+    EXPECT_EQ(volume(), Millibel{-2000});
+}
+
 TEST_F(SpecialMixTest, HoldsTheChainUntilItsEnd) {
     play_list_with_jingle_on(2);
     machine.run_for(seconds(87));

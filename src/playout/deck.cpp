@@ -33,11 +33,22 @@ MediaGraph& Deck::graph() const {
     return *graph_;
 }
 
+void Deck::create_graph() {
+    graph_ = media_.create_graph();
+    end_pause();
+}
+
 // The video window holds on to the graph, which is silent all the same once it is dropped.
 void Deck::drop_graph() {
     if (graph_ != nullptr && video_ != nullptr)
         graph_->Stop();
     graph_.reset();
+    end_pause();
+}
+
+void Deck::end_pause() {
+    pause_lecteur = false;
+    controls.pause.caption = std::string{pause_caption};
 }
 
 void Deck::open_video(std::string_view caption) {

@@ -34,8 +34,8 @@ public:
     [[nodiscard]] int number() const { return number_; }
     [[nodiscard]] std::string name() const { return std::to_string(number_); }
 
-    /// Takes a new, empty graph; what played on the old one goes silent.
-    void create_graph() { graph_ = media_.create_graph(); }
+    /// Takes a new, empty graph, which isn't paused; what played on the old one goes silent.
+    void create_graph();
     [[nodiscard]] bool has_graph() const { return graph_ != nullptr; }
     /// @throws Failure 91 without one.
     [[nodiscard]] MediaGraph& graph() const;
@@ -63,6 +63,8 @@ public:
     Integer volume_sauve;    ///< Slider value that comes back after a special mix.
 
 private:
+    void end_pause();
+
     Media& media_;
     std::shared_ptr<MediaGraph> graph_;
     std::shared_ptr<MediaGraph> video_;

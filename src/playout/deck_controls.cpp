@@ -8,7 +8,7 @@ DeckControls::DeckControls(Window& window, Scheduler& scheduler, const DeckNames
     : title{window, std::string{names.title}, "(Aucun fichier en cours)"},
       counter{window, std::string{names.counter}, "0"}, progress{window, std::string{names.progress}},
       open{window, std::string{names.open}}, zap{window, std::string{names.zap}}, play{window, std::string{names.play}},
-      stop{window, std::string{names.stop}}, pause{window, std::string{names.pause}, "II"},
+      stop{window, std::string{names.stop}}, pause{window, std::string{names.pause}, std::string{pause_caption}},
       forward{window, std::string{names.forward}}, back{window, std::string{names.back}},
       special_mix{window, std::string{names.special_mix}}, keep_volume{window, std::string{names.keep_volume}},
       playing_mark{window, std::string{names.playing_mark}}, slider{window, std::string{names.slider}, 0, 20},

@@ -84,6 +84,10 @@ inline constexpr std::array deck_names{
               7},
 };
 
+/// What a press of the pause button does: it holds the deck, or lets it go on.
+inline constexpr std::string_view pause_caption = "II";
+inline constexpr std::string_view resume_caption = "=>";
+
 /// The parts of one deck on the main window.
 struct DeckControls {
     DeckControls(Window& window, Scheduler& scheduler, const DeckNames& names);

@@ -85,7 +85,6 @@ void DeckStart::run(Deck& deck) {
         desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     deck.graph().Run();
     align_timers();
-    deck.pause_lecteur = false;
     deck.volume_sauve = deck.controls.slider.value();
 }
 

@@ -8,8 +8,6 @@ namespace {
 
 constexpr double default_forward = 10.0;
 constexpr double default_back = 0.2;
-constexpr std::string_view resume_caption = "=>";
-constexpr std::string_view pause_caption = "II";
 
 } // namespace
 

@@ -54,7 +54,6 @@ void RunControl::start_first_deck() {
     deck.volume_sauve = deck.controls.slider.value();
     desk_.chain.duree_mesuree = deck.graph().get_Duration();
     loading_.format_duration();
-    deck.pause_lecteur = false;
     show_first_deck(deck);
     if (desk_.settings.valide_fichier_aleatoire.is_true()) {
         desk_.chain.compteur_aleatoire = 1;

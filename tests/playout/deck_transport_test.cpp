@@ -144,6 +144,15 @@ TEST_F(DeckTransportTest, ResumeOfAnyDeckStartsTheClockTickAgain) {
     EXPECT_TRUE(station.main_window.Timer1.enabled());
 }
 
+TEST_F(DeckTransportTest, PausedTrackThatIsZappedLeavesItsDeckUnpaused) {
+    play_list_for(40);
+    controls(1).pause.click();
+    station.list_window.Image2.click();
+    machine.run_for(seconds(30));
+    EXPECT_EQ(controls(1).pause.caption.get(), "II");
+    EXPECT_TRUE(station.desk.deck(1).pause_lecteur.is_false());
+}
+
 TEST_F(DeckTransportTest, PauseWithoutAFileDoesNothing) {
     controls(3).pause.click();
     EXPECT_EQ(controls(3).pause.caption.get(), "II");

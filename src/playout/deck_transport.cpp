@@ -17,6 +17,7 @@ void DeckTransport::stop(Deck& deck) {
         return;
     deck.controls.title.caption = std::string{waiting_title};
     start_.clear_display(deck);
+    deck.mix_en_cours = 0;
     desk_.window.Timer3.disable();
     rewind(deck);
     if (desk_.window.coche2.value())

@@ -146,6 +146,7 @@ bool MixEngine::serve_special_mix() {
     deck.controls.progress.value = 0;
     deck.controls.progress.caption = "";
     deck.controls.special_mix.enabled = true;
+    deck.mix_en_cours = 0;
     volume_.vol_pour_stop();
     desk_.window.Active_audio_jingles.checked = false;
     return true;

@@ -166,6 +166,24 @@ TEST_F(SpecialMixTest, StopOfItsDeckOverTheChainOfDecksLeavesTheFadeOnZap) {
     EXPECT_FALSE(window.Active_audio_jingles.checked);
 }
 
+TEST_F(SpecialMixTest, ResumeOfItsDeckBehindItsEndLowersNothing) {
+    play_list_with_jingle_on(2);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(7));
+    controls(2).pause.click();
+    controls(2).pause.click();
+    EXPECT_EQ(controls(1).slider.value(), 0);
+}
+
+TEST_F(SpecialMixTest, ResumeOfItsDeckBehindItsStopLowersNothing) {
+    play_list_with_jingle_on(2);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(2));
+    controls(2).stop.click();
+    controls(2).pause.click();
+    EXPECT_EQ(controls(1).slider.value(), 0);
+}
+
 TEST_F(SpecialMixTest, StopOfAnotherDeckOfTheChainOfDecksLeavesItUnderWay) {
     mix_over_the_chain_of_decks();
     controls(3).stop.click();

@@ -136,7 +136,9 @@ void ChainModes::read_overlap() {
 void ChainModes::Option1_Click() {
     clear_insertions();
     desk_.settings.valide_fichier_aleatoire = false;
+    desk_.list.bouton_jingle_actif = false;
     desk_.list_window.Label14.caption = "Jingle Off";
+    desk_.list_window.Label15.caption = "Liste Off";
     desk_.list_window.Image13.picture = std::string{switch_off};
     desk_.chain.jingles_aleatoires = false;
     desk_.chain.ordre_aleatoire = false;
@@ -153,6 +155,7 @@ void ChainModes::Option1_Click() {
 void ChainModes::clear_insertions() {
     desk_.settings.valide_fichier_aleatoire1 = false;
     desk_.list_window.Label15.caption = "liste Off";
+    desk_.list.bouton_liste_actif = false;
     desk_.list_window.Image14.picture = std::string{switch_off};
     desk_.chain.compteur_aleatoire = desk_.chain.compteur_aleatoire1 = 0;
     desk_.window.Timer9.disable();

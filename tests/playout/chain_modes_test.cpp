@@ -157,6 +157,22 @@ TEST_F(ChainModesTest, FirstOptionReadsTheWholeFileOverDecks) {
     EXPECT_EQ(list.Label14.caption.get(), "Jingle Off");
 }
 
+TEST_F(ChainModesTest, FirstOptionPutsBothInsertionsOff) {
+    station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
+    list.Option1.click();
+    EXPECT_EQ(list.Label15.caption.get(), "Liste Off");
+    EXPECT_TRUE(station.list.bouton_jingle_actif.is_false());
+    EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
+}
+
+TEST_F(ChainModesTest, ThirdOptionPutsTheInsertionOfListItemsOffAlone) {
+    station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
+    list.Option3.click();
+    EXPECT_EQ(list.Label15.caption.get(), "liste Off");
+    EXPECT_TRUE(station.list.bouton_jingle_actif.is_true());
+    EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
+}
+
 TEST_F(ChainModesTest, SecondOptionReadsAtRandom) {
     list.Option2.click();
     EXPECT_TRUE(station.chain.ordre_aleatoire.is_true());

@@ -96,14 +96,14 @@ void DeckVolume::A_sauve(Deck& deck) {
         }
         const std::string path = list_path(desk_.platform, desk_.list.fichier_liste);
         ListReader reader{desk_.platform.disk, path};
-        if (reader.count() > 0) {
-            enreg_liste record;
-            reader.read(desk_.list.index_en_cours.value(), record);
-            const std::string percent = deck.controls.percent.caption;
-            record.set_volume(static_cast<std::int16_t>(
-                to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
-            replace_record(desk_.platform.disk, path, desk_.list.index_en_cours.value(), record);
-        }
+        if (reader.count() == 0)
+            return;
+        enreg_liste record;
+        reader.read(desk_.list.index_en_cours.value(), record);
+        const std::string percent = deck.controls.percent.caption;
+        record.set_volume(static_cast<std::int16_t>(
+            to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
+        replace_record(desk_.platform.disk, path, desk_.list.index_en_cours.value(), record);
         reload_list_();
         desk_.inform("Sauvegarde des paramètres en cours éffectués .");
     } catch (const Failure& failure) {

@@ -182,6 +182,15 @@ TEST_F(DeckVolumeTest, KeepVolumeInTheChainOverDecksDoesNothing) {
     EXPECT_EQ(machine.dialogs.asked().size(), 3U);
 }
 
+TEST_F(DeckVolumeTest, KeepVolumeInAnEmptyListWritesNothingAndSaysNothing) {
+    open_tracks({100, 100});
+    start_list();
+    machine.disk.put_file("C:\\Sonarelle\\essai.dfm", "");
+    controls(1).keep_volume.click();
+    EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), "");
+    EXPECT_EQ(machine.dialogs.asked().size(), 1U);
+}
+
 TEST_F(DeckVolumeTest, KeepVolumeWithoutAListAsksForOneAndRefusesAnotherEnding) {
     open_tracks({100, 100});
     start_list();

@@ -94,6 +94,9 @@ void Station::connect_list_window() {
     list_window.Image2.on_click = [this] { zapping.zapping(); };
     list_window.Image3.on_click = [this] { list_run.Image3_Click(); };
     list_window.Image4.on_click = [this] { list_run.Image4_Click(); };
+    list_window.Image4.on_mouse_move = [this] {
+        list_window.Image4.hint = "Position en cours N° " + text_of(list.ligne_en_lecture);
+    };
 }
 
 // Picture and option of a reading mode are one choice.

@@ -241,6 +241,17 @@ TEST_F(RunControlTest, SoftStopGoesOverToTheDecks) {
               std::string::npos);
 }
 
+TEST_F(RunControlTest, ButtonsOfTheListWindowTellWhatTheyDo) {
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(95));
+    station.list_window.Image4.mouse_move();
+    EXPECT_EQ(station.list_window.Image1.hint.get(), "lecture liste");
+    EXPECT_EQ(station.list_window.Image2.hint.get(), "Zapper rapidement sur le fichier suvant (Z)");
+    EXPECT_EQ(station.list_window.Image3.hint.get(), "Stopper tous les lecteurs");
+    EXPECT_EQ(station.list_window.Image4.hint.get(), "Position en cours N° 2");
+}
+
 TEST_F(RunControlTest, PlayingRowIsShownOnDemand) {
     open_tracks({100, 100, 100});
     start_list();

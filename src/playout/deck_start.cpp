@@ -116,7 +116,7 @@ void DeckStart::show_main_deck(Deck& deck) {
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
     desk_.window.Label7.caption = desk_.station_banner();
-    deck.mix_en_cours = 0;
+    mix_.leave_special_mix(deck);
     desk_.report({OnAirEvent::Kind::started,
                   deck.number(),
                   desk_.list.index_en_cours.value(),
@@ -143,6 +143,7 @@ void DeckStart::release_ring(Deck& deck) {
 /// A deck whose track is cut short goes back to its beginning: where the bar stands behind it no deck starts.
 void DeckStart::silence(Deck& deck) {
     deck.drop_graph();
+    mix_.leave_special_mix(deck);
     if (deck.controls.progress.value == 0)
         return;
     clear_display(deck);

@@ -133,6 +133,19 @@ void MixEngine::start_special_mix(Deck& deck) {
     deck.controls.special_mix.enabled = false;
 }
 
+void MixEngine::leave_special_mix(Deck& deck) {
+    if (deck.mix_en_cours == 0)
+        return;
+    deck.mix_en_cours = 0;
+    deck.controls.progress.caption = "";
+    deck.controls.special_mix.enabled = true;
+    if (!desk_.window.Active_audio_jingles.checked || desk_.chain.lecteur_mix_special != deck.number())
+        return;
+    desk_.window.Active_audio_jingles.checked = false;
+    if (!desk_.chain.mode_enchainement.is_true())
+        Active_audio_zapping_Click();
+}
+
 bool MixEngine::serve_special_mix() {
     if (desk_.chain.lecteur_mix_special < 1 || desk_.chain.lecteur_mix_special > 3) {
         desk_.window.Label10.caption = "Chargement rapide";

@@ -39,6 +39,8 @@ public:
 
     /// The special mix of a deck over the main one; a deck isn't mixed over itself.
     void special_mix(Deck& deck);
+    /// A deck that is started or silenced mixes nothing over the main one any more: the chain goes on.
+    void leave_special_mix(Deck& deck);
     /// What a tick of the chain does while a special mix runs. Returns true when it ended with this tick, or there was
     /// none to serve.
     bool serve_special_mix();

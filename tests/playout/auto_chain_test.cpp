@@ -161,6 +161,18 @@ TEST_F(AutoChainTest, CountsTheRemainingTimeDown) {
     EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:10");
 }
 
+TEST_F(AutoChainTest, CountsMinutesAndHoursDownAndStopsAtNothing) {
+    const auto after = [this](std::string_view text) {
+        station.list_window.Label4.caption = std::string{text};
+        station.auto_chain.compteur();
+        return station.list_window.Label4.caption.get();
+    };
+    EXPECT_EQ(after("00:01:00"), "00:00:59");
+    EXPECT_EQ(after("01:00:00"), "00:59:59");
+    EXPECT_EQ(after("10:10:10"), "10:10:09");
+    EXPECT_EQ(after("00:00:00"), "00:00:00");
+}
+
 TEST_F(AutoChainTest, WritesTheRunIntoTheJournalWhileItIsOn) {
     station.main_window.Active_journal.click();
     open_tracks({100, 100});

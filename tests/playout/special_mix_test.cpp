@@ -199,6 +199,20 @@ TEST_F(SpecialMixTest, StopOfTheMainDeckLeavesItsSliderAsItWasBefore) {
     EXPECT_EQ(controls(1).slider.value(), 3);
 }
 
+TEST_P(SpecialMixOfADeck, EndsWithAZapAndTheChainGoesOn) {
+    play_list_with_jingle_on(GetParam());
+    machine.media.set_length("C:\\jingle.mp3", 20);
+    machine.run_for(seconds(30));
+    controls(GetParam()).special_mix.click();
+    machine.run_for(seconds(5));
+    station.list_window.Image2.click();
+    EXPECT_FALSE(hears_jingle());
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_TRUE(controls(GetParam()).special_mix.enabled);
+    machine.run_for(seconds(95));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {40, 2}, {134, 3}}));
+}
+
 TEST_F(SpecialMixTest, OverlapFieldTakesAStepFromOneAtLeast) {
     window.Text1.set_text("-4");
     window.Image15.click();

@@ -34,6 +34,7 @@ MediaGraph& Deck::graph() const {
 }
 
 void Deck::create_graph() {
+    close_video();
     graph_ = media_.create_graph();
     end_pause();
 }

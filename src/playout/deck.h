@@ -34,7 +34,8 @@ public:
     [[nodiscard]] int number() const { return number_; }
     [[nodiscard]] std::string name() const { return std::to_string(number_); }
 
-    /// Takes a new, empty graph, which isn't paused; what played on the old one goes silent.
+    /// Takes a new, empty graph, which isn't paused; what played on the old one goes silent, and its video window
+    /// closes.
     void create_graph();
     [[nodiscard]] bool has_graph() const { return graph_ != nullptr; }
     /// @throws Failure 91 without one.

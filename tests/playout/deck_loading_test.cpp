@@ -311,12 +311,34 @@ TEST_F(DeckLoadingTest, VideoWindowOfAnAviClosesAtItsStopAndThatOfAWmvStays) {
         controls(1).play.click();
         controls(1).stop.click();
         controls(1).open.enabled = true;
-        machine.dialogs.expect_cancel();
-        controls(1).open.click();
+        station.desk.deck(1).drop_graph();
         return machine.media.graphs();
     };
-    EXPECT_EQ(graphs_after_stop("C:\\film.avi"), 1U);
-    EXPECT_EQ(graphs_after_stop("C:\\film.wmv"), 2U);
+    EXPECT_EQ(graphs_after_stop("C:\\film.avi"), 0U);
+    EXPECT_EQ(graphs_after_stop("C:\\film.wmv"), 1U);
+}
+
+TEST_F(DeckLoadingTest, FileLoadedOnADeckThatPlaysAVideoCutsIt) {
+    machine.add_track("C:\\film.avi", 60);
+    machine.media.set_video("C:\\film.avi");
+    machine.add_track(song, 83);
+    open_on(1, "C:\\film.avi");
+    controls(1).play.click();
+    controls(1).open.enabled = true;
+    open_on(1, song);
+    EXPECT_TRUE(machine.media.on_air().empty());
+}
+
+TEST_F(DeckLoadingTest, VideoWindowOfAWmvClosesAtTheNextLoad) {
+    machine.add_track("C:\\film.wmv", 60);
+    machine.media.set_video("C:\\film.wmv");
+    machine.add_track(song, 83);
+    open_on(1, "C:\\film.wmv");
+    controls(1).play.click();
+    controls(1).stop.click();
+    controls(1).open.enabled = true;
+    open_on(1, song);
+    EXPECT_EQ(machine.media.graphs(), 1U);
 }
 
 TEST_F(DeckLoadingTest, SpecialMixButtonNamesItsKeyAndFile) {

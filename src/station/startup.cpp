@@ -196,8 +196,6 @@ void Startup::act_on_command_line() {
         return play_on_small_player();
     parts_.modes.Image13_Click();
     parts_.document.open_list(ligne_commande_);
-    if (parts_.desk.list_window.ListView1.selected() == 0)
-        parts_.desk.list_window.ListView1.select(1);
     parts_.list_run.Image1_Click();
 }
 

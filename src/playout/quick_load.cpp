@@ -73,6 +73,7 @@ void QuickLoad::choose(const Box& box) {
     desk_.chain.fichier_courant = box.list;
     desk_.list.index_destinataire = box.box.selected + 1;
     record_.lire();
+    chosen_ = desk_.destination;
     desk_.window.popup(box.menu);
 }
 
@@ -81,8 +82,11 @@ void QuickLoad::press_key(const Box& box, char32_t key) {
         desk_.window.popup(box.menu);
 }
 
+// The chain reads rows of its own while the menu waits for the operator.
 void QuickLoad::load(Deck& deck, const Box& box) {
     run_.stoppe_list();
+    if (chosen_)
+        desk_.destination = *chosen_;
     desk_.window.Text2.set_text(std::string{trim(box.box.text())});
     loading_.load_record(deck);
     deck.controls.play.enabled = true;

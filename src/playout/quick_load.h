@@ -1,6 +1,11 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "playlist/enreg_liste.h"
+#include "playlist/working_records.h"
 #include "playout/deck_loading.h"
 #include "playout/deck_record.h"
 #include "playout/desk.h"
@@ -52,6 +57,7 @@ private:
     DeckRecord& record_;
     DeckLoading& loading_;
     RunControl& run_;
+    std::optional<DestinationRecord> chosen_; ///< Of the item last chosen in either box.
 };
 
 } // namespace sonarelle

@@ -26,6 +26,17 @@ protected:
         }
         machine.disk.put_file(path, bytes_of(records));
     }
+    /// A favourite that plays from its first second.
+    void put_favourite(std::string_view path) {
+        machine.add_track(std::string{path}, 60);
+        machine.disk.put_file(favourites, bytes_of({record_of(path, "60.00", 80, 0.0)}));
+        choose_favourites(favourites);
+    }
+    void play_list_for(int length) {
+        open_tracks({200, 200, 200});
+        start_list();
+        machine.run_for(seconds(length));
+    }
     void choose_favourites(std::string_view path) {
         machine.dialogs.expect_open(path);
         window.choose_favourites.click();
@@ -218,6 +229,25 @@ TEST_F(QuickLoadTest, LoadingADeckStopsTheListChainSoftly) {
     EXPECT_EQ(window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
     EXPECT_EQ(window.Label10.caption.get(), "Chargement rapide");
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
+TEST_F(QuickLoadTest, ADeckGetsTheChosenItemThoughTheChainHasReadARowMeanwhile) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    play_list_for(180);
+    window.Combo1.choose(0);
+    machine.run_for(seconds(9)); // over the load step
+    window.lect3.click();
+    EXPECT_EQ(station.chain.chemin_lecture3, "C:\\Musique\\favori.mp3");
+}
+
+TEST_F(QuickLoadTest, TheSpaceKeysMenuLoadsWhatWasChosenBefore) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    play_list_for(180);
+    window.Combo1.choose(0);
+    machine.run_for(seconds(9));
+    window.Combo1.key_press(U' ');
+    window.lect3.click();
+    EXPECT_EQ(station.chain.chemin_lecture3, "C:\\Musique\\favori.mp3");
 }
 
 TEST_F(QuickLoadTest, TheBoxesTellTheirKey) {

@@ -9,11 +9,17 @@ void DisplayMenu::choose_view(const MenuItem& view) {
     check_only(desk_.window.views(), view);
 }
 
+// The small player's menu chooses a view while the main window is hidden, and there must be a way back to it.
+void DisplayMenu::show_main_window(WindowState state) {
+    desk_.window.state = state;
+    desk_.window.show();
+}
+
 void DisplayMenu::Affiche_barre_Click() {
     choose_view(desk_.window.Affiche_barre);
     desk_.list_window.hide();
     desk_.small_player.hide();
-    desk_.window.state = WindowState::minimised;
+    show_main_window(WindowState::minimised);
 }
 
 void DisplayMenu::Affiche_Fenetre_L_Click() {
@@ -21,21 +27,20 @@ void DisplayMenu::Affiche_Fenetre_L_Click() {
     desk_.window.Aligner_liste.enabled = true;
     desk_.list_window.state = WindowState::normal;
     desk_.list_window.show();
-    desk_.window.state = WindowState::minimised;
+    show_main_window(WindowState::minimised);
 }
 
 void DisplayMenu::Affiche_Fenetre_P_Click() {
     choose_view(desk_.window.Affiche_Fenetre_P);
     desk_.window.Aligner_liste.enabled = false;
-    desk_.window.state = WindowState::normal;
+    show_main_window(WindowState::normal);
     desk_.list_window.hide();
 }
 
 void DisplayMenu::affiche_tout_Click() {
     choose_view(desk_.window.affiche_tout);
     desk_.window.Aligner_liste.enabled = true;
-    desk_.window.state = WindowState::normal;
-    desk_.window.show();
+    show_main_window(WindowState::normal);
     desk_.list_window.show();
 }
 

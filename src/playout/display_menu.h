@@ -43,6 +43,7 @@ public:
 
 private:
     void choose_view(const MenuItem& view);
+    void show_main_window(WindowState state);
     void place(Twips left, Twips top);
     void place_list_below(Twips left, Twips width);
     [[nodiscard]] Twips centred_left() const;

@@ -91,6 +91,21 @@ TEST_F(Views, AlwaysOnTopKeepsTheMainWindowThereUntilAnotherIsChosen) {
     EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
 }
 
+TEST_F(Views, OfTheTaskBarHaveTheMainWindowInItWhenTheSmallPlayerWasThere) {
+    window.reduce();
+    window.Affiche_barre.click();
+    EXPECT_TRUE(window.visible);
+    EXPECT_EQ(window.state.get(), WindowState::minimised);
+}
+
+TEST_F(Views, OfOneWindowShowTheMainWindowThatTheSmallPlayerHid) {
+    for (MenuItem* view : {&window.Affiche_Fenetre_L, &window.Affiche_Fenetre_P}) {
+        window.reduce();
+        view->click();
+        EXPECT_TRUE(window.visible) << view->name();
+    }
+}
+
 TEST_F(Places, OfTheMainWindowAreTheMiddleAndTheUpperEdgeOfTheScreen) {
     window.width = Twips{9360};
     window.height = Twips{7000};

@@ -27,12 +27,16 @@ void Desk::show_on_small_player(const std::string& name) {
     small_player.Command2.enabled = true;
 }
 
-void Desk::warn(const std::string& lines) {
+void Desk::write_warning(const std::string& lines) {
     warning.caption = "ATTENTION ERREUR";
     warning.Label1.caption = lines;
-    warning.show();
     if (on_warning)
         on_warning(lines);
+}
+
+void Desk::warn(const std::string& lines) {
+    write_warning(lines);
+    warning.show();
 }
 
 void Desk::report_loaded(const Deck& deck) const {

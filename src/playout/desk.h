@@ -47,6 +47,8 @@ struct Desk {
     void show_on_small_player(const std::string& name);
     /// Shows lines in the warning window without waiting for the operator.
     void warn(const std::string& lines);
+    /// Writes them into it, for who shows it.
+    void write_warning(const std::string& lines);
     void report(const OnAirEvent& event) const {
         if (on_event)
             on_event(event);

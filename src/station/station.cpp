@@ -257,14 +257,14 @@ void Station::warn_of_null_volume() {
     if (desk.has_main_deck())
         for (DeckControls& deck : main_window.decks)
             deck.slider.set_value(0);
-    warning_window.Label1.caption =
+    const std::string lines =
         "le niveau son est nul\rvous devez si vous utilisez des listes\r\n\r\n"
         "créés avec une version anterieure de Sonarelle\rMettez a jour vos listes (voir menu clic droit)\r"
         "- Mettre a jour les infos de la liste -";
     if (platform_.scheduler.in_tick())
-        warning_window.show();
-    else
-        platform_.dialogs.show_modal(warning_window);
+        return desk.warn(lines);
+    desk.write_warning(lines);
+    platform_.dialogs.show_modal(warning_window);
 }
 
 } // namespace sonarelle

@@ -181,6 +181,17 @@ TEST_F(RecordReadingTest, SaysInTheWarningWhatToDo) {
               "- Mettre a jour les infos de la liste -");
 }
 
+TEST_F(RecordReadingTest, HeadsTheWarningAsOneWhateverTheWindowShowedBefore) {
+    put_list({record_of("a", "1", 0)});
+    station.warning_window.AnyButton2.click();
+    std::string told;
+    station.desk.on_warning = [&](const std::string& lines) { told = lines; };
+    machine.dialogs.expect_window("err_form");
+    read_destination(1);
+    EXPECT_EQ(station.warning_window.caption.get(), "ATTENTION ERREUR");
+    EXPECT_EQ(told, station.warning_window.Label1.caption.get());
+}
+
 TEST_F(RecordReadingTest, SetsTheSlidersToFullWithTheWarningWhileADeckIsMain) {
     put_list({record_of("a", "1", 0)});
     station.chain.lecteur_en_cours = 2;

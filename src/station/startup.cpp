@@ -164,8 +164,9 @@ void Startup::load_pictures() {
     window_.Image2.picture = "";
 }
 
+// A setting without a name means no picture.
 void Startup::load_picture(Property<std::string>& picture, const std::string& file) {
-    if (platform_.disk.Dir(file).empty())
+    if (!file.empty() && platform_.disk.Dir(file).empty())
         throw Failure{failure_number::file_not_found, file};
     picture = file;
 }

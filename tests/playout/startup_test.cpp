@@ -242,6 +242,15 @@ TEST_F(StartupTest, LeavesTheListsPictureForTheTwoWordsThatMeanNone) {
     }
 }
 
+TEST_F(StartupTest, ShowsNoPictureForASettingThatNamesNone) {
+    fill_store();
+    for (const std::string_view key : {"logo_fond", "Logo_liste", "Logo_fichier", "logo"})
+        set(key, "");
+    station.start("");
+    EXPECT_EQ(station.list_window.picture.get(), "");
+    EXPECT_EQ(window.picture.get(), "fond_noir1.jpg");
+}
+
 TEST_F(StartupTest, ShowsTheVisualEffectThatWasChosen) {
     fill_store();
     set("Effet visuel", "Oui");

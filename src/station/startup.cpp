@@ -174,7 +174,9 @@ void Startup::load_picture(Property<std::string>& picture, const std::string& fi
 void Startup::store_program_folder() {
     const SettingsStore store{platform_.settings, platform_.program_folder, platform_.decimal_mark};
     settings_.chemin_programme = with_backslash(platform_.program_folder);
-    store.write(setting_section::config, "Chemin_programme", settings_.chemin_programme);
+    // A store that takes nothing keeps no list from the air.
+    ErrorIndicator{}.skip(
+        [&] { store.write(setting_section::config, "Chemin_programme", settings_.chemin_programme); });
 }
 
 void Startup::greet_first_start() {

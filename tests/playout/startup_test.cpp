@@ -289,6 +289,14 @@ TEST_F(CommandLine, OfAListLoadsItAndPlays) {
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
 }
 
+TEST_F(CommandLine, OfAListPlaysWhereTheStoreCantBeWritten) {
+    put_list("C:\\Listes\\matin.dfm", 1);
+    fill_store();
+    machine.settings.refuse_writes();
+    station.start("\"C:\\Listes\\matin.dfm\"");
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
+}
+
 TEST_F(CommandLine, OfAListChainsItsTracks) {
     put_list("C:\\Listes\\matin.dfm", 3);
     start("\"C:\\Listes\\matin.dfm\"");

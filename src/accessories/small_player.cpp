@@ -37,8 +37,12 @@ void SmallPlayer::play() {
 void SmallPlayer::next() {
     if (!has_main_deck())
         return;
+    const Integer deck = desk_.chain.lecteur_en_cours;
     desk_.small_player.Command2.enabled = false;
     commands_.next(desk_.main_deck());
+    // Where no file came, no load switches the button on again.
+    if (desk_.chain.lecteur_en_cours == deck)
+        desk_.small_player.Command2.enabled = true;
 }
 
 bool SmallPlayer::has_main_deck() {

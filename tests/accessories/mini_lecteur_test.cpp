@@ -113,6 +113,13 @@ TEST_F(MiniLecteurTest, ZapsToTheNextDeckAndIsReadyAgainWhenAFileComes) {
     EXPECT_TRUE(player.Command2.enabled);
 }
 
+TEST_F(MiniLecteurTest, ZapThatFindsNoFileOnTheNextDeckLeavesTheButtonReady) {
+    play_deck(1);
+    player.Command2.click();
+    EXPECT_THAT(machine.media.on_air(), ElementsAre(track(1)));
+    EXPECT_TRUE(player.Command2.enabled);
+}
+
 TEST_F(MiniLecteurTest, NamesTheFileInItsTitle) {
     load(1);
     window.deck(1).play.click();

@@ -85,6 +85,10 @@ struct Liste_son : Window {
 
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
+    /// What lists in a fixed order offer: lists to open and to convert, and the pre-listen.
+    [[nodiscard]] std::array<MenuItem*, 4> entries_of_a_fixed_order() {
+        return {&A_liste, &A_liste_anciene, &Convertion, &A_precoute};
+    }
     /// The entries that need a list, and stand disabled until there is one.
     [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();
 };

@@ -163,8 +163,11 @@ void ChainModes::clear_insertions() {
 
 void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
     desk_.chain.ordre_aleatoire = random;
-    if (!random)
+    if (!random) {
         clear_insertions();
+        for (MenuItem* entry : desk_.list_window.entries_of_a_fixed_order())
+            entry->enabled = true;
+    }
     desk_.chain.mode_enchainement = true;
     desk_.window.Timer4.enable();
     desk_.window.Timer2.disable();

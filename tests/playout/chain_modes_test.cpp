@@ -181,6 +181,15 @@ TEST_F(ChainModesTest, SecondOptionReadsAtRandom) {
     EXPECT_FALSE(window.Timer2.enabled());
 }
 
+TEST_F(ChainModesTest, ThirdAndFourthOptionOfferThePreListenAgain) {
+    for (OptionButton* option : {&list.Option3, &list.Option4}) {
+        window.a_mode_auto.click();
+        ASSERT_FALSE(list.A_precoute.enabled);
+        option->click();
+        EXPECT_TRUE(list.A_precoute.enabled);
+    }
+}
+
 TEST_F(ChainModesTest, ThirdOptionReadsToTheRecordsEnd) {
     start_list_that_ends_at_a_hundred();
     list.Option1.click();

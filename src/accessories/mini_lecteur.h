@@ -16,6 +16,7 @@ struct mini_lecteur : Window {
         Command4.hint = "Liste (L)";
         Command6.hint = "Arrière";
         Command7.hint = "Avant";
+        answers_space = true;
     }
 
     GraphicButton Command1{*this, "Command1"}; ///< Plays.

@@ -120,6 +120,10 @@ TEST_F(MiniLecteurTest, ZapThatFindsNoFileOnTheNextDeckLeavesTheButtonReady) {
     EXPECT_TRUE(player.Command2.enabled);
 }
 
+TEST_F(MiniLecteurTest, KeepsTheSpaceBarFromItsButtons) {
+    EXPECT_TRUE(player.answers_space);
+}
+
 TEST_F(MiniLecteurTest, NamesTheFileInItsTitle) {
     load(1);
     window.deck(1).play.click();

@@ -19,6 +19,7 @@ struct Feuille : Window {
     MenuItem Ouvrir{*this, "Ouvrir", "Ouvrir", "F5"};
     MenuItem Quitter{*this, "Quitter", "Quitter"};
     TextBox champ{*this, "champ"};
+    GraphicButton bouton{*this, "bouton", "Lecture"};
 };
 
 class View : public DesktopBench {
@@ -31,6 +32,22 @@ protected:
         QKeyEvent press{QEvent::KeyPress, key, Qt::NoModifier, text};
         QCoreApplication::sendEvent(view.windowHandle(), &press);
         settle();
+    }
+
+    /// Presses the space bar and lets it go.
+    void press_space() {
+        for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent key{kind, Qt::Key_Space, Qt::NoModifier, " "};
+            QCoreApplication::sendEvent(view.windowHandle(), &key);
+        }
+        settle();
+    }
+    /// A button that has the focus, and counts its presses.
+    void focus_button(int& presses) {
+        feuille.bouton.on_click = [&presses] { ++presses; };
+        auto* button = Dresser{view}.button(feuille.bouton);
+        show();
+        button->setFocus();
     }
 
     Feuille feuille;
@@ -88,6 +105,24 @@ TEST_F(View, WhatIsTypedIntoAFieldIsForTheFieldAlone) {
     type(Qt::Key_2, "2");
     EXPECT_EQ(keys, U"");
     EXPECT_EQ(feuille.champ.text(), "2");
+}
+
+TEST_F(View, SpaceBarPressesTheButtonThatHasTheFocus) {
+    int presses = 0;
+    focus_button(presses);
+    press_space();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST_F(View, SpaceBarThatIsTheWindowsOwnPressesNoButton) {
+    std::u32string keys;
+    feuille.on_key_press = [&](char32_t key) { keys += key; };
+    feuille.answers_space = true;
+    int presses = 0;
+    focus_button(presses);
+    press_space();
+    EXPECT_EQ(presses, 0);
+    EXPECT_EQ(keys, U" ");
 }
 
 TEST_F(View, PressesOnTheBackgroundAreTheWindows) {

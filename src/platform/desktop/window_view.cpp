@@ -130,8 +130,12 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         // Alt with a letter calls a menu or a button, and types nothing.
         const bool calls = key->modifiers().testFlag(Qt::AltModifier);
-        if (!calls && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape))
+        if (!calls && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape)) {
+            const bool presses_no_button = window_.answers_space && key->key() == Qt::Key_Space;
             pass_characters(key->text());
+            if (presses_no_button)
+                return true;
+        }
     }
     return QWidget::eventFilter(object, event);
 }

@@ -31,7 +31,14 @@ public:
     /// All parts, in the order in which they were made.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
 
-    void show() { visible = true; }
+    /// Brings it on view, in front of the others.
+    void show() {
+        visible = true;
+        ++shows_;
+        notify();
+    }
+    /// How often it was shown.
+    [[nodiscard]] int shows() const { return shows_; }
     void hide() { visible = false; }
 
     /// The operator typed a character, or asked to close the window.
@@ -81,6 +88,7 @@ private:
     friend class WindowPlace;
 
     std::vector<Control*> controls_;
+    int shows_ = 0;
 };
 
 inline WindowPlace::WindowPlace(Window& window) : Property{window, Twips{}}, window_{window} {}

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "screen/desk_bench.h"
 
 namespace sonarelle::test {
@@ -20,6 +22,17 @@ protected:
             std::this_thread::sleep_for(std::chrono::milliseconds{20});
         }
         throw std::runtime_error{"it did not come: " + what};
+    }
+    void expect_uppermost(const Window& window) {
+        const auto number = seen<unsigned long long>([&] { return widget_of(window)->winId(); });
+        std::ostringstream last;
+        last << "0x" << std::hex << number << "\n";
+        for (int tries = 0; tries < 200; ++tries) {
+            if (screen().asked("xprop -root _NET_CLIENT_LIST_STACKING").ends_with(last.str()))
+                return;
+            std::this_thread::sleep_for(std::chrono::milliseconds{20});
+        }
+        throw std::runtime_error{window.name() + " did not come to the front"};
     }
     [[nodiscard]] QWidget* main_widget() { return widget_of(station().main_window); }
     /// As on a screen of 1024 by 600.
@@ -69,6 +82,18 @@ TEST_F(WindowsOnScreen, ReducingMinimisesTheMainWindow) {
         see_main_window();
         operators_event([this] { station().main_window.Affiche_barre.click(); });
         expect_state("hidden", [](const std::string& state) { return state.find("HIDDEN") != std::string::npos; });
+    });
+}
+
+TEST_F(WindowsOnScreen, TheListComesBeforeTheMainWindowByItsKey) {
+    operate("", [this] {
+        see_main_window();
+        operators_event([this] { station().list_window.show(); });
+        eventually("the list", [this] { return is_on_screen(station().list_window); });
+        operators_event([this] { station().main_window.show(); });
+        expect_uppermost(station().main_window);
+        operators_event([this] { station().main_window.ouvrir_liste.click(); });
+        expect_uppermost(station().list_window);
     });
 }
 

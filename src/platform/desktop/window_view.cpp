@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/picture_store.h"
@@ -95,10 +96,13 @@ void WindowView::show_state() {
         setWindowState(state == WindowState::minimised   ? Qt::WindowMinimized
                        : state == WindowState::maximised ? Qt::WindowMaximized
                                                          : Qt::WindowNoState);
-    if (isVisible() == window_.visible)
-        return;
-    setVisible(window_.visible);
-    if (window_.visible && state != WindowState::minimised)
+    const bool is_new = isVisible() != window_.visible;
+    if (is_new)
+        setVisible(window_.visible);
+    // One that was on view already doesn't come before a box that waits for its answer.
+    const bool is_called = std::exchange(shows_, window_.shows()) != window_.shows();
+    if (window_.visible && state != WindowState::minimised &&
+        (is_new || (is_called && QApplication::activeModalWidget() == nullptr)))
         raise();
 }
 

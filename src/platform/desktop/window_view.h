@@ -75,6 +75,7 @@ private:
     bool showing_ = false;
     bool watches_keys_ = false;
     bool was_placed_ = false;
+    int shows_ = 0; ///< How many of the window's were answered.
 };
 
 } // namespace sonarelle

@@ -97,6 +97,18 @@ TEST_F(WindowsOnScreen, TheListComesBeforeTheMainWindowByItsKey) {
     });
 }
 
+TEST_F(WindowsOnScreen, AMaximisedMainWindowStaysSoWhenItsCaptionChanges) {
+    operate("", [this] {
+        see_main_window();
+        const auto fills_the_screen = [this] { return main_widget()->width() == 1280; };
+        operators_event([this] { main_widget()->showMaximized(); });
+        eventually("the whole screen", fills_the_screen);
+        operators_event([this] { station().main_window.caption = "Radio Port : piste"; });
+        eventually("the caption", [this] { return main_widget()->windowTitle() == "Radio Port : piste"; });
+        EXPECT_TRUE(seen<bool>(fills_the_screen));
+    });
+}
+
 TEST_F(WindowsOnScreen, TheSmallestMainWindowLosesNoControl) {
     operate("", [this] {
         see_main_window();

@@ -75,7 +75,10 @@ void WindowView::show_value() {
     showing_ = false;
 }
 
+// A maximised window has the screen's size; the station's own is for the time after.
 void WindowView::show_place() {
+    if (isMaximized())
+        return;
     const QSize size = minimumSize().expandedTo({pixels(window_.width), pixels(window_.height)});
     if (window_.width.get().count() > 0 && size != this->size())
         resize(size);

@@ -19,8 +19,12 @@ public:
     explicit WindowPlace(Window& window);
     WindowPlace& operator=(Twips place);
 
+    /// Whether anyone has put it somewhere, if only at the edge; otherwise the screen finds a place.
+    [[nodiscard]] bool is_given() const { return given_; }
+
 private:
     Window& window_;
+    bool given_ = false;
 };
 
 /// A window of the station: a struct of controls derives from it. Places and sizes are in twips.
@@ -94,6 +98,7 @@ private:
 inline WindowPlace::WindowPlace(Window& window) : Property{window, Twips{}}, window_{window} {}
 
 inline WindowPlace& WindowPlace::operator=(Twips place) {
+    given_ = true;
     if (get() == place)
         return *this;
     Property::operator=(place);

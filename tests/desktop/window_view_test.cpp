@@ -147,6 +147,29 @@ TEST_F(View, MovesWhereTheStationPutsIt) {
     EXPECT_EQ(view.pos(), QPoint(100, 50));
 }
 
+TEST_F(View, CornerOfTheScreenIsAPlaceToo) {
+    feuille.left = Twips{};
+    feuille.top = Twips{};
+    show();
+    EXPECT_TRUE(view.testAttribute(Qt::WA_Moved));
+}
+
+TEST_F(View, WithoutAPlaceIsTheScreensToPlace) {
+    show();
+    EXPECT_FALSE(view.testAttribute(Qt::WA_Moved));
+}
+
+TEST_F(View, KeepsTheScreensSizeWhileItIsMaximised) {
+    show();
+    view.showMaximized();
+    settle();
+    const QRect whole = view.geometry();
+    feuille.caption = "Radio Port";
+    feuille.height = Twips{6885};
+    settle();
+    EXPECT_EQ(view.geometry(), whole);
+}
+
 TEST_F(View, StationKnowsWhereTheOperatorPutIt) {
     show();
     view.move(40, 30);

@@ -81,6 +81,10 @@ void DeskBench::settings_of_a_second_start() {
     store.write_column(&SettingRow::first);
 }
 
+void DeskBench::set(std::string_view section, std::string_view key, std::string_view value) {
+    machine_->settings().SaveSetting(settings_application, section, key, value);
+}
+
 std::string DeskBench::tone(const std::string& name, int seconds, int level) const {
     folder_.put(name, wav_bytes(seconds, level));
     return folder_.path(name);

@@ -28,6 +28,7 @@ protected:
 
     /// The settings of a station that has been started before.
     void settings_of_a_second_start();
+    void set(std::string_view section, std::string_view key, std::string_view value);
     /// A list of tracks that last this many seconds each, tones of different levels; its path on this machine.
     [[nodiscard]] std::string list_of(int tracks, int seconds);
     /// One tone, at a level of 1 to 100; its path on this machine.

@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "configuration/settings_vocabulary.h"
+#include "configuration/window_place.h"
 #include "screen/desk_bench.h"
 
 namespace sonarelle::test {
@@ -106,6 +108,16 @@ TEST_F(WindowsOnScreen, AMaximisedMainWindowStaysSoWhenItsCaptionChanges) {
         operators_event([this] { station().main_window.caption = "Radio Port : piste"; });
         eventually("the caption", [this] { return main_widget()->windowTitle() == "Radio Port : piste"; });
         EXPECT_TRUE(seen<bool>(fills_the_screen));
+    });
+}
+
+TEST_F(WindowsOnScreen, InTheScreensCornerItComesBackThere) {
+    for (const std::string_view key : {main_window_place.top, main_window_place.left})
+        set(setting_section::position, key, "0");
+    operate("", [this] {
+        see_main_window();
+        EXPECT_EQ(seen<int>([this] { return main_widget()->x(); }), 0);
+        EXPECT_EQ(seen<int>([this] { return main_widget()->y(); }), 0);
     });
 }
 

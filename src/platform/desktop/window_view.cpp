@@ -85,9 +85,10 @@ void WindowView::show_place() {
     else
         keep_size();
     const QPoint place{pixels(window_.left), pixels(window_.top)};
-    if (place != pos() && (was_placed_ || !place.isNull()))
+    const bool is_given = window_.left.is_given() || window_.top.is_given();
+    if (is_given && (!was_placed_ || place != pos()))
         move(place);
-    was_placed_ = was_placed_ || !place.isNull();
+    was_placed_ = was_placed_ || is_given;
 }
 
 // The flag goes to the native window: Qt would take the widget off the screen and put it back.
@@ -206,6 +207,7 @@ void WindowView::keep_place() {
     if (!isVisible() || isMinimized() || isMaximized())
         return;
     keep_size();
+    was_placed_ = true;
     window_.left = twips(pos().x());
     window_.top = twips(pos().y());
 }

@@ -56,6 +56,7 @@ public:
 private:
     using Trap = std::function<void(const std::function<void()>&)>;
 
+    [[nodiscard]] bool loads_ahead() const;
     void load_step();
     bool try_to_load_next();
     /// The current row's file on the next deck, when it is there and can be played.
@@ -74,6 +75,8 @@ private:
     /// Where the search for the row behind a track begins; from there it goes on in list order.
     enum class FirstLook { next_row, current_row, drawn_row };
     void follow_at_once(Deck& deck, FirstLook first);
+    /// Looks for the row behind the deck's track, for as long as that is the one to follow.
+    void walk_to_follow(Deck& deck, RowWalk::Step step);
     bool try_to_follow(Deck& deck);
     [[nodiscard]] bool take_row_to_follow();
     bool try_to_zap(Deck& old);

@@ -40,9 +40,12 @@ void AutoChain::compteur() {
 }
 
 void AutoChain::Timer1_tick() {
-    if (desk_.is_manual() || desk_.chain.chaine_suspendue.is_true() || desk_.window.coche2.value())
-        return;
-    ErrorIndicator{}.skip([this] { load_step(); });
+    if (loads_ahead())
+        ErrorIndicator{}.skip([this] { load_step(); });
+}
+
+bool AutoChain::loads_ahead() const {
+    return !desk_.is_manual() && !desk_.chain.chaine_suspendue.is_true() && !desk_.window.coche2.value();
 }
 
 void AutoChain::load_step() {
@@ -59,7 +62,10 @@ void AutoChain::load_step() {
         return leave_load_step();
     desk_.warning.hide();
     const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
-    load_walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, trap);
+    const auto wanted = [this, main = chain.lecteur_en_cours] {
+        return loads_ahead() && desk_.chain.lecteur_en_cours == main;
+    };
+    load_walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, wanted, trap);
     leave_load_step();
 }
 

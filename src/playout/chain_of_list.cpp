@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "platform/failure.h"
 #include "playout/auto_chain.h"
 
@@ -61,8 +63,18 @@ void AutoChain::mix_point(Deck& deck, Integer point) {
 // A short item is followed without a fade.
 void AutoChain::follow_at_once(Deck& deck, FirstLook first) {
     first_look_ = first;
-    mix_walk_.start([this, &deck] { return try_to_follow(deck); }, [this] { return desk_.row_count(); },
-                    trap_of(desk_.window.Timer4, "T4"));
+    walk_to_follow(deck, [this, &deck] { return try_to_follow(deck); });
+}
+
+// Once the operator has gone over to another deck, or to a chain without a list, a row that turns up would cut what he
+// plays.
+void AutoChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
+    const auto wanted = [this, &deck] {
+        const bool list_chain = desk_.window.Timer4.enabled() || desk_.chain.mode_enchainement.is_true();
+        return list_chain && desk_.chain.lecteur_en_cours == deck.number();
+    };
+    mix_walk_.start(
+        std::move(step), [this] { return desk_.row_count(); }, wanted, trap_of(desk_.window.Timer4, "T4"));
 }
 
 bool AutoChain::try_to_follow(Deck& deck) {
@@ -142,8 +154,7 @@ void AutoChain::automatic_zap(Deck& old) {
         desk_.window.Timer2.set_interval(0);
         desk_.window.Timer3.enable();
     }
-    mix_walk_.start([this, &old] { return try_to_zap(old); }, [this] { return desk_.row_count(); },
-                    trap_of(desk_.window.Timer4, "T4"));
+    walk_to_follow(old, [this, &old] { return try_to_zap(old); });
 }
 
 /// In list order each turn begins with the next row. One that can't be taken gives way to a drawn one: the air goes on

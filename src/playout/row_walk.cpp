@@ -7,12 +7,14 @@ namespace sonarelle {
 
 RowWalk::RowWalk(std::string name, Scheduler& scheduler) : pause_{std::move(name), 0, scheduler} {
     pause_.set_interval(100);
-    pause_.on_tick = [this] { trap_([this] { take_a_turn(); }); };
+    pause_.on_tick = [this] { take_a_later_turn(); };
 }
 
-void RowWalk::start(Step step, std::function<int()> turn, std::function<void(const std::function<void()>&)> trap) {
+void RowWalk::start(Step step, std::function<int()> turn, Wanted wanted,
+                    std::function<void(const std::function<void()>&)> trap) {
     step_ = std::move(step);
     turn_ = std::move(turn);
+    wanted_ = std::move(wanted);
     trap_ = std::move(trap);
     take_a_turn();
 }
@@ -20,6 +22,13 @@ void RowWalk::start(Step step, std::function<int()> turn, std::function<void(con
 void RowWalk::cancel() {
     pause_.disable();
     step_ = {};
+}
+
+void RowWalk::take_a_later_turn() {
+    if (wanted_())
+        trap_([this] { take_a_turn(); });
+    else
+        cancel();
 }
 
 // A step that fails ends the walk: the next one must not find it still under way.

@@ -16,8 +16,12 @@ public:
     /// Looks at the next row; true ends the walk, whatever it came to.
     using Step = std::function<bool()>;
 
+    /// Who still needs the row: no, and a later turn ends the walk.
+    using Wanted = std::function<bool()>;
+
     /// Walks on with `step`. `turn` says how many rows a full turn has.
-    void start(Step step, std::function<int()> turn, std::function<void(const std::function<void()>&)> trap);
+    void start(Step step, std::function<int()> turn, Wanted wanted,
+               std::function<void(const std::function<void()>&)> trap);
     [[nodiscard]] bool under_way() const { return static_cast<bool>(step_); }
     void cancel();
     /// Ends this turn; the next one begins 100 ms later with the next row.
@@ -26,6 +30,7 @@ public:
     [[nodiscard]] bool begins_turn() const { return begins_turn_; }
 
 private:
+    void take_a_later_turn();
     void take_a_turn();
     void walk_round();
 
@@ -34,6 +39,7 @@ private:
     bool begins_turn_ = false;
     Step step_;
     std::function<int()> turn_;
+    Wanted wanted_;
     std::function<void(const std::function<void()>&)> trap_;
 };
 

@@ -52,6 +52,9 @@ void ListRun::start_row(Integer row) {
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
+    // A fault may have put the chain off. In the mode of the full length no load puts it on again.
+    if (desk_.chain.mode_enchainement.is_true())
+        desk_.window.Timer4.enable();
     desk_.report_loaded(desk_.deck(1));
     stop_other_decks();
     run_.lect_liste();

@@ -327,4 +327,17 @@ TEST_F(SilentDriveTest, PassesItsRowOverAtAZapByTheButton) {
     expect_passed_over_and_kept();
 }
 
+TEST_F(ChainFaultsTest, ListThatStartsAgainInTheFullLengthIsChainedAgain) {
+    open_tracks({3, 100, 100, 100});
+    machine.media.set_unplayable(track(2));
+    station.list_window.Option4.click();
+    station.list_window.Image1.click();
+    play_for(5);
+    ASSERT_FALSE(station.main_window.Timer4.enabled());
+    rows().select(3);
+    station.list_window.Image1.click();
+    play_for(95);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 4}));
+}
+
 } // namespace sonarelle

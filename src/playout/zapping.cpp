@@ -97,8 +97,6 @@ void Zapping::store_end_point() {
 }
 
 void Zapping::zap_in_list(Deck& old) {
-    desk_.window.coche4.set_value(0);
-    desk_.window.Timer2.set_interval(0);
     bool by_draw = desk_.chain.ordre_aleatoire.is_true();
     int rows_left = desk_.row_count();
     do {
@@ -123,12 +121,13 @@ void Zapping::zap_in_list(Deck& old) {
     const bool told = chain_.is_loaded(next);
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
-    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
-    // The track on the air goes on, and its mix point takes the row behind.
+    // The track on the air goes on, with its load step, and its mix point takes the row behind.
     if (desk_.chain.erreur_chargement.is_true())
         throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
     if (!told)
         desk_.report_loaded(next);
+    desk_.window.coche4.set_value(0);
+    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     hand_over(old);
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);

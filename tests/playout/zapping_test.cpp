@@ -95,4 +95,16 @@ TEST_F(ZappingTest, WithoutAMainDeckSaysSo) {
     EXPECT_EQ(station.list_window.Label12.caption.get(), "Zapping autorisé");
 }
 
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedLeavesTheLoadStepOn) {
+    open_tracks({200, 200, 200, 200});
+    machine.media.set_unplayable(track(2));
+    machine.media.set_unplayable(track(3));
+    start_list();
+    machine.run_for(seconds(50));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    machine.run_for(seconds(150));
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(4)});
+}
+
 } // namespace sonarelle

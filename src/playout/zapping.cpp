@@ -3,6 +3,7 @@
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/random.h"
+#include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
@@ -64,7 +65,7 @@ void Zapping::zap_by_the_rules(Deck& old) {
         } else if (desk_.chain.mode_enchainement.is_true()) {
             if (desk_.elapsed() <= earliest_second)
                 return refuse_too_early();
-            store_end_point();
+            store_end_point(old);
         }
     }
     if (desk_.window.coche3.value())
@@ -82,8 +83,9 @@ void Zapping::refuse_too_early() {
     desk_.list_window.Label12.caption = "Zapping autorisé";
 }
 
-// The next run ends the track where it was zapped.
-void Zapping::store_end_point() {
+// The next run ends the track where it was zapped. A file that the operator put on the deck himself has no row: the end
+// of the one that stands there is not its own.
+void Zapping::store_end_point(const Deck& old) {
     const int row = desk_.list.ligne_en_lecture.value();
     desk_.list.index_destinataire = row;
     reading_.lire_enreg_destinataire();
@@ -91,6 +93,8 @@ void Zapping::store_end_point() {
     const std::string path = list_path(desk_.platform, desk_.list.fichier_liste);
     enreg_liste record;
     ListReader{desk_.platform.disk, path}.read(row, record);
+    if (!equal_ignoring_case(record.trimmed_chemin(), old.path))
+        return;
     record.set_fin_lecture(text_of(desk_.elapsed()));
     replace_record(desk_.platform.disk, path, row, record);
     document_.charge_liste();

@@ -28,7 +28,7 @@ private:
     void zap_by_the_rules(Deck& old);
     [[nodiscard]] bool is_list_mode() const;
     void refuse_too_early();
-    void store_end_point();
+    void store_end_point(const Deck& old);
     void zap_in_list(Deck& old);
     void zap_over_decks(Deck& old);
     void hand_over(Deck& old);

@@ -107,4 +107,16 @@ TEST_F(ZappingTest, OntoAFileThatCantBePlayedLeavesTheLoadStepOn) {
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(4)});
 }
 
+TEST_F(ZappingTest, FromAFileThatBelongsToNoRowLeavesTheEndsOfTheList) {
+    start_and_run(10);
+    machine.add_track("C:\\main.mp3", 100);
+    open_on(2, "C:\\main.mp3");
+    controls(2).play.click();
+    machine.run_for(seconds(40));
+    const std::string before = machine.disk.bytes("C:\\Sonarelle\\essai.dfm");
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.media.on_air().back(), track(2));
+    EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), before);
+}
+
 } // namespace sonarelle

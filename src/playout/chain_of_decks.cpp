@@ -39,7 +39,8 @@ void AutoChain::deck_tick() {
     if (position != 0)
         desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
-    if (point <= 0)
+    // A file that is shorter than its overlap has no mix point: its end is what the next one follows.
+    if (point <= 0 && deck.controls.progress.percent() != 100)
         return;
     if (!desk_.window.coche2.value())
         return manual_display();

@@ -178,4 +178,11 @@ TEST_F(ChainOfDecksTest, PlayWithoutAListChoosesIt) {
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
 }
 
+TEST_F(ChainOfDecksTest, FileShorterThanItsOverlapIsFollowedAtItsEnd) {
+    station.settings.forcer_mix_jingles = 5;
+    start_decks({4, 100, 100});
+    machine.run_for(seconds(10));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {4, 2}}));
+}
+
 } // namespace sonarelle

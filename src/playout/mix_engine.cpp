@@ -37,6 +37,7 @@ void MixEngine::Choix_mix() {
     }
     if (s.prechargement <= s.mix_courant)
         s.prechargement = s.mix_courant + 3;
+    show_hints();
 }
 
 void MixEngine::show_overlap() {

@@ -135,4 +135,9 @@ TEST_F(MixEngineTest, SpecialMixLowersTheMainDeckAndBringsItBack) {
     EXPECT_FALSE(station.main_window.Active_audio_jingles.checked);
 }
 
+TEST_F(MixEngineTest, TellsTheLoadLeadThatHolds) {
+    mix_of("3");
+    EXPECT_EQ(station.main_window.coche4.hint.get(), "Préchargement (4 s avant le mix) ");
+}
+
 } // namespace sonarelle

@@ -142,7 +142,7 @@ void DeckStart::release_ring(Deck& deck) {
 
 /// A deck whose track is cut short goes back to its beginning: where the bar stands behind it no deck starts.
 void DeckStart::silence(Deck& deck) {
-    deck.drop_graph();
+    mix_.release(deck);
     mix_.leave_special_mix(deck);
     if (deck.controls.progress.value == 0)
         return;

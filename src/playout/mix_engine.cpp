@@ -101,7 +101,15 @@ void MixEngine::Désactive_audio_Click() {
 
 void MixEngine::Pas_demix_audio() {
     if (desk_.has_main_deck())
-        desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())).drop_graph();
+        release(desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())));
+}
+
+void MixEngine::release(Deck& deck) {
+    const bool sounds = deck.has_graph() && deck.graph().GetState() == MediaState::running &&
+                        deck.graph().get_CurrentPosition() < deck.graph().get_Duration();
+    deck.drop_graph();
+    if (sounds)
+        desk_.report({OnAirEvent::Kind::cut, deck.number(), 0, {}, {}, 0, 0, {}});
 }
 
 void MixEngine::special_mix(Deck& deck) {

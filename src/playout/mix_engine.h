@@ -36,6 +36,8 @@ public:
 
     /// Drops the graph of the deck before the main one at once: no overlap.
     void Pas_demix_audio();
+    /// Drops a deck's graph. One that still sounds is cut, which is reported.
+    void release(Deck& deck);
 
     /// The special mix of a deck over the main one; a deck isn't mixed over itself.
     void special_mix(Deck& deck);

@@ -156,4 +156,12 @@ TEST_F(ZapTest, ByTheButtonAgainAndAgainKeepsTheAirFull) {
     EXPECT_EQ(rows_started().size(), 51U);
 }
 
+TEST_F(ZapTest, TwiceTellsThatTheFirstDeckIsCut) {
+    start_and_run(10);
+    controls(1).zap.click();
+    machine.run_for(seconds(2));
+    controls(2).zap.click();
+    EXPECT_EQ(times_of(Kind::cut), (Times{{12, 1}}));
+}
+
 } // namespace sonarelle

@@ -241,6 +241,12 @@ class Hands(Air):
             self.assertEqual(self.times(events, "depart", "lecteur", "chemin")[1:],
                              [(12, 2, self.station_path(self.files[2]))])
 
+    def test_load_the_file_of_their_own_line(self):
+        on_the_air, meant = self.files[0], self.files[2]
+        events = self.rehearse_gestures(f"5 charge 1 {on_the_air}\n10 charge 2 {meant}\n12 play 2\n", "--duree",
+                                        "00:00:20", "--mode", "lecteur")
+        self.assertEqual(self.times(events, "depart", "lecteur", "chemin")[1:], [(12, 2, self.station_path(meant))])
+
     def test_may_be_written_out_of_order(self):
         events = self.rehearse_gestures("# la soirée\n\n40 pause 1\n31 zap\n", "--duree", "00:00:35")
         self.assertEqual(self.times(events, "depart"), [0, 31])

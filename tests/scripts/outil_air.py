@@ -318,6 +318,12 @@ class Words(Air):
         self.call("repetition", self.list, status=1)
         self.assertIn(f"{self.list} : Fichier introuvable", self.error)
 
+    def test_of_a_file_that_is_no_list(self):
+        file, *_ = self.make_list(100)
+        for word in ("repetition", "antenne"):
+            self.assertEqual(self.call(word, file, status=1), "")
+            self.assertIn(".dfm est attendu", self.error)
+
     def test_of_a_list_without_rows(self):
         self.list.write_bytes(b"")
         self.assertEqual(self.call("repetition", self.list, status=1), "")

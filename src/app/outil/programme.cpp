@@ -6,6 +6,7 @@
 
 #include "configuration/settings_vocabulary.h"
 #include "platform/failure.h"
+#include "platform/paths.h"
 #include "platform/simulated/simulated_dialogs.h"
 #include "platform/text.h"
 #include "playlist/list_rows.h"
@@ -75,6 +76,8 @@ Programme programme_of(const Arguments& arguments) {
     Programme programme;
     programme.list = arguments.filled_word(0, "LISTE.dfm");
     arguments.expect_at_most(1);
+    if (extension_of(programme.list) != "dfm")
+        throw Failure{failure_number::wrong_file_name, programme.list, "un fichier .dfm est attendu"};
     if (arguments.has(length_option.name))
         programme.length = length_of(arguments.value(length_option.name, ""));
     programme.mode = mode_of(arguments.value(mode_option.name, "liste"));

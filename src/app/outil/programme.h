@@ -31,7 +31,7 @@ inline constexpr Option mode_option{"--mode", true};
 inline constexpr Option seed_option{"--graine", true};
 inline constexpr Option setting_option{"--reglage", true};
 
-/// @throws WrongWords for a word that isn't one of these.
+/// @throws WrongWords for a word that isn't one of these, Failure for a list of another kind.
 [[nodiscard]] Programme programme_of(const Arguments& arguments);
 
 /// What `--reglage CLE=VALEUR` changes. @throws WrongWords for a key that there isn't.

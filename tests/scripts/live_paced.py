@@ -5,7 +5,7 @@ import signal
 import subprocess
 import unittest
 
-from outil_air import Air
+from outil_air import Air, write_wav
 
 
 class PacedByTheClock(Air):
@@ -64,6 +64,12 @@ class PacedByTheClock(Air):
         before = self.call("reglages", "--json")
         self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:01", "--reglage", "Mix=9")
         self.assertEqual(self.call("reglages", "--json"), before)
+
+    def test_tells_silence_that_a_file_holds(self):
+        write_wav(self.make_list(100, 100)[0], 100, period=bytes([128]))
+        events = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:04"))
+        self.assertEqual(self.times(events, "silence"), [2])
+        self.assertGreater(events[-1]["silence_total"], 3.5)
 
     def test_refuses_wrong_words(self):
         self.make_list(100, 100)

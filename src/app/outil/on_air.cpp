@@ -5,12 +5,14 @@
 #include <csignal>
 #include <memory>
 #include <ostream>
+#include <span>
 
 #include "app/common/live_machine.h"
 #include "app/outil/deck_watch.h"
 #include "app/outil/event_writer.h"
 #include "app/outil/silence_watch.h"
 #include "configuration/settings_store.h"
+#include "platform/audio/tap_reader.h"
 #include "platform/failure.h"
 #include "platform/host/host_settings.h"
 #include "platform/host/machine_paths.h"
@@ -132,7 +134,7 @@ private:
     /// Loading the first file may take a while, so the list begins once more with the first deck that starts.
     void begins_at(Frames frame) {
         events_.count_from(frame);
-        began_ = last_ = frame;
+        began_ = frame;
     }
 
     void tell(const OnAirEvent& event) {
@@ -144,6 +146,7 @@ private:
     void end() {
         ended_ = true;
         look_.disable();
+        listen();
         silence_.end();
         station_->list_run.Image3_Click();
         if (!live_.shows_journal)
@@ -153,14 +156,18 @@ private:
 
     [[nodiscard]] Frames now() { return machine_.clock().now(); }
 
+    /// What the bus has made since the last look: a deck that runs may be silent all the same.
+    void listen() {
+        const Frames lost_before = heard_.lost();
+        const std::span<const float> frames = heard_.read();
+        silence_.skip(heard_.lost() - lost_before);
+        silence_.take(frames);
+    }
+
     void look() {
         const Frames now = this->now();
-        if (watch_->sounds_until(now))
-            silence_.sounding();
-        else
-            silence_.silent(last_, now);
+        listen();
         watch_->advance(now, now + milliseconds(100));
-        last_ = now;
         if (now - began_ >= length_)
             end();
     }
@@ -171,13 +178,13 @@ private:
     HostSettings& settings_;
     EventWriter events_;
     SilenceWatch silence_;
+    TapReader heard_{machine_.bus().taps()}; // from the bus's first frame on
     SimulatedDialogs dialogs_{machine_.clock()};
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
     Timer look_{"look", 0, machine_.scheduler()};
     Frames began_;
     Frames length_;
-    Frames last_;
     bool ended_ = false;
 };
 

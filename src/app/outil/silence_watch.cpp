@@ -30,6 +30,13 @@ void SilenceWatch::sounding() {
     told_ = false;
 }
 
+void SilenceWatch::skip(Frames span) {
+    if (span == Frames{})
+        return;
+    sounding();
+    taken_ += span;
+}
+
 void SilenceWatch::take(std::span<const float> frames) {
     const auto is_quiet = [](float sample) { return std::fabs(sample) < threshold; };
     while (!frames.empty()) {

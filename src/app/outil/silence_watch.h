@@ -21,6 +21,8 @@ public:
 
     /// The programme's next frames, two floats each. Below -60 dBFS is silence.
     void take(std::span<const float> frames);
+    /// So many of them weren't heard, and count as sound.
+    void skip(Frames span);
 
     /// The programme is over.
     void end() { sounding(); }

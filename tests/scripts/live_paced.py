@@ -65,6 +65,15 @@ class PacedByTheClock(Air):
         self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:01", "--reglage", "Mix=9")
         self.assertEqual(self.call("reglages", "--json"), before)
 
+    def test_ticks_as_the_rehearsal_does(self):
+        self.make_list(6, 6)
+        words = ["--duree", "00:00:08", "--reglage", "Mix=3", "--reglage", "valeur_max_jingles=2",
+                 "--reglage", "Valeur_vitesse_timer=2000"]
+        rehearsed = self.times(self.rehearse(*words), "depart")
+        self.assertEqual(rehearsed, [0, 6])
+        aired = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", *words))
+        self.assertEqual(self.times(aired, "depart"), rehearsed)
+
     def test_tells_silence_that_a_file_holds(self):
         write_wav(self.make_list(100, 100)[0], 100, period=bytes([128]))
         events = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", "--duree", "00:00:04"))

@@ -97,6 +97,8 @@ private:
             station_->settings.mix_defaut = station_->settings.mix_courant;
         if (setting.key == "Préchargement")
             station_->settings.prechargement_defaut = station_->settings.prechargement;
+        if (setting.key == "Valeur_vitesse_timer")
+            station_->main_window.Timer4.set_interval(station_->settings.valeur_vitesse_timer);
     }
 
     void connect() {

@@ -13,6 +13,7 @@
 #include "platform/desktop/main_view.h"
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/qt_text.h"
+#include "platform/desktop/studio_style.h"
 #include "playout/air_view.h"
 
 namespace sonarelle {
@@ -43,7 +44,7 @@ std::optional<double> seconds_of(Deck& deck) {
 } // namespace
 
 void dress_application() {
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new StudioStyle); // which the application then owns
     QApplication::setPalette(studio_palette());
     QFont font = QApplication::font();
     if (QFontDatabase::families().contains("Inter"))

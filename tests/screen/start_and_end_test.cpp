@@ -21,6 +21,14 @@ TEST_F(StartAndEnd, ASecondStartShowsTheMainWindow) {
     operate("", [this] { eventually("the main window", [this] { return is_on_screen(station().main_window); }); });
 }
 
+TEST_F(StartAndEnd, WindowsCarryTheStationsSign) {
+    settings_of_a_second_start();
+    operate("", [this] {
+        eventually("the main window", [this] { return is_on_screen(station().main_window); });
+        EXPECT_FALSE(seen<bool>([] { return QApplication::windowIcon().pixmap(32).isNull(); }));
+    });
+}
+
 TEST_F(StartAndEnd, AListOnTheCommandLineIsOnTheAir) {
     settings_of_a_second_start();
     operate(list_of(2, 40), [this] {

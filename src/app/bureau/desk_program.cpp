@@ -52,6 +52,7 @@ DeskProgram::DeskProgram(Machine& machine, const std::string& file)
                  guard([&] { rest = live_.driver().poll(); });
                  return rest;
              }} {
+    QApplication::setWindowIcon(QIcon{pictures_.path("sonarelle.png")});
     live_.driver().sleep = [this](std::chrono::nanoseconds time) { pulse_.serve(time); };
     connect();
 }

@@ -128,7 +128,7 @@ void DeskProgram::run() {
 
 void DeskProgram::tell_output(OutputState state) {
     note(state_text(state));
-    desktop_.show_output(state_text(state));
+    desktop_.show_output(state_text(state), state != OutputState::playing);
 }
 
 void DeskProgram::choose_output(const std::string& name) {

@@ -136,9 +136,9 @@ void Desktop::show_list() {
     list_->show_marks({.playing = playing, .next = next});
 }
 
-void Desktop::show_output(const std::string& text) {
+void Desktop::show_output(const std::string& text, bool is_trouble) {
     if (main_ != nullptr)
-        main_->show_output(to_qt(text));
+        main_->show_output(to_qt(text), is_trouble);
 }
 
 void Desktop::offer_outputs(OutputChoice choice) {

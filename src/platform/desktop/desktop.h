@@ -43,8 +43,8 @@ public:
     /// Null for a window that isn't the station's.
     [[nodiscard]] QWidget* widget_of(const Window& window) const;
 
-    /// What plays, on the main window's status line.
-    void show_output(const std::string& text);
+    /// What plays, on the main window's status line; in red where it is a trouble.
+    void show_output(const std::string& text, bool is_trouble);
     /// Hangs "Sortie audio" into the option menu.
     void offer_outputs(OutputChoice choice);
 

@@ -23,6 +23,7 @@ constexpr QSize banner_size{475, 40};
 constexpr int title_height = 50; // two lines
 constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
 constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
+constexpr StationLabel::Style trouble{.pixels = 14, .bold = true, .characters = 24};
 constexpr StationLabel::Style menu_word{.pixels = 13, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
 
 StationLabel* text_label(const StationLabel::Style& style, const QString& text = {}) {
@@ -212,6 +213,7 @@ QWidget* MainView::status_line() {
     auto* elapsed = dresser_.label(window_.Label5, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
     elapsed->setToolTip("Seconde en cours du lecteur principal");
     output_ = text_label(status);
+    output_->setObjectName("output");
     played_ =
         text_label({.pixels = 12, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
     row->addWidget(dresser_.label(window_.Label7, status), 2);
@@ -239,6 +241,14 @@ void MainView::show_air(const AirLook& look) {
     title_->set_text(look.title);
     remaining_->set_text(look.left);
     next_->set_text(look.next);
+}
+
+void MainView::show_output(const QString& text, bool is_trouble) {
+    output_->set_style(is_trouble ? trouble : status);
+    output_->setPalette({});
+    if (is_trouble)
+        colour(*output_, studio::trouble);
+    output_->set_text(text);
 }
 
 } // namespace sonarelle

@@ -25,7 +25,7 @@ public:
     void show_air(const AirLook& look);
     void show_clock(const QString& time) { clock_->set_text(time); }
     void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
-    void show_output(const QString& text) { output_->set_text(text); }
+    void show_output(const QString& text, bool is_trouble);
     void show_played(const QString& text) { played_->set_text(text); }
 
 private:

@@ -219,6 +219,15 @@ void WindowView::keep_size() {
     window_.height = twips(height());
 }
 
+// The menus are there without a mouse, too.
+void WindowView::keyPressEvent(QKeyEvent* event) {
+    const auto menus = bar_->actions();
+    const auto first = std::ranges::find_if(menus, [](const QAction* menu) { return menu->isVisible(); });
+    if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::NoModifier || first == menus.end())
+        return QWidget::keyPressEvent(event);
+    bar_->setActiveAction(*first);
+}
+
 void WindowView::mousePressEvent(QMouseEvent* event) {
     setFocus();
     if (event->button() == Qt::LeftButton)

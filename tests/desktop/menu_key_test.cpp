@@ -1,0 +1,63 @@
+// The menus without a mouse.
+#include <QTest>
+
+#include "desktop/desktop_bench.h"
+#include "platform/desktop/window_view.h"
+
+namespace sonarelle {
+
+namespace {
+
+struct Feuille : Window {
+    Feuille() : Window{"feuille"} {
+        menu_bar = {&Fichier, &Aide};
+        Fichier.hang({{&Ouvrir}});
+        Aide.hang({{&Info}});
+    }
+
+    MenuItem Fichier{*this, "Fichier", "Fichier"};
+    MenuItem Aide{*this, "Aide", "Aide"};
+    MenuItem Ouvrir{*this, "Ouvrir", "Ouvrir"};
+    MenuItem Info{*this, "Info", "Info"};
+};
+
+class Keyboard : public DesktopBench {
+protected:
+    void show() {
+        feuille.show();
+        settle();
+    }
+    [[nodiscard]] QMenu& menu_of(MenuItem& item) { return *view.menus().menu(item); }
+
+    Feuille feuille;
+    WindowView view{feuille, services, {300, 200}};
+};
+
+} // namespace
+
+TEST_F(Keyboard, F10OpensTheFirstMenu) {
+    show();
+    QTest::keyClick(&view, Qt::Key_F10);
+    EXPECT_TRUE(menu_of(feuille.Fichier).isVisible());
+    menu_of(feuille.Fichier).hide();
+}
+
+TEST_F(Keyboard, F10PassesAHiddenMenuOver) {
+    show();
+    feuille.Fichier.visible = false;
+    settle();
+    QTest::keyClick(&view, Qt::Key_F10);
+    EXPECT_TRUE(menu_of(feuille.Aide).isVisible());
+    menu_of(feuille.Aide).hide();
+}
+
+TEST_F(Keyboard, F10OpensNothingWhereAllMenusAreHidden) {
+    show();
+    feuille.Fichier.visible = false;
+    feuille.Aide.visible = false;
+    settle();
+    QTest::keyClick(&view, Qt::Key_F10);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+} // namespace sonarelle

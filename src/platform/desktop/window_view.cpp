@@ -28,6 +28,15 @@ Twips twips(int length) {
     return Twips{length * twips_per_pixel};
 }
 
+// A window that has just come doesn't know its own frame yet, but those of one desktop are alike.
+int frame_height() {
+    int height = 0;
+    for (const QWidget* top : QApplication::topLevelWidgets())
+        if (dynamic_cast<const WindowView*>(top) != nullptr && top->isVisible())
+            height = std::max(height, top->frameGeometry().height() - top->height());
+    return height;
+}
+
 } // namespace
 
 WindowView::WindowView(Window& window, const DesktopServices& services, QSize least)
@@ -86,9 +95,18 @@ void WindowView::show_place() {
         keep_size();
     const QPoint place{pixels(window_.left), pixels(window_.top)};
     const bool is_given = window_.left.is_given() || window_.top.is_given();
-    if (is_given && (!was_placed_ || place != pos()))
-        move(place);
+    if (is_given && (!was_placed_ || place != pos())) {
+        window_.top = twips(on_screen(place.y()));
+        move(place.x(), pixels(window_.top));
+    }
     was_placed_ = was_placed_ || is_given;
+}
+
+// Where the station would put a window's foot below the screen, the window goes up: the station knows of no frames, and
+// of a window that has not been seen not how large it must be.
+int WindowView::on_screen(int top) const {
+    const int lowest = screen()->availableGeometry().bottom() + 1 - height() - frame_height();
+    return std::min(top, std::max(0, lowest));
 }
 
 // The flag goes to the native window: Qt would take the widget off the screen and put it back.

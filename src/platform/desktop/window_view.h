@@ -59,6 +59,7 @@ protected:
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
     void show_place();
+    [[nodiscard]] int on_screen(int top) const;
     void show_state();
     void keep_place();
     void keep_size();

@@ -1,8 +1,15 @@
 #include "playout/display_menu.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace sonarelle {
+
+namespace {
+
+constexpr int frame_thickness = 600; // twips: a title bar and a little
+
+} // namespace
 
 void DisplayMenu::choose_view(const MenuItem& view) {
     desk_.window.topmost = &view == &desk_.window.affiche_toujour;
@@ -94,12 +101,18 @@ void DisplayMenu::liste_pleine_largeur_Click() {
 
 // A list that isn't on view keeps the place that was stored for it.
 void DisplayMenu::Aligne_liste_son() {
-    Liste_son& list = desk_.list_window;
+    const Liste_son& list = desk_.list_window;
     if (!list_follows_ || !list.visible || list.state != WindowState::normal)
         return;
-    list.left = desk_.window.left.get();
-    list.top = desk_.window.top.get() + desk_.window.height.get();
-    list.width = desk_.window.width.get();
+    place_list_below(desk_.window.left, desk_.window.width);
+}
+
+// At a first start both windows have one place.
+void DisplayMenu::uncover_main_window() {
+    const auto near = [](Twips a, Twips b) { return std::abs((a - b).count()) < frame_thickness; };
+    const Liste_son& list = desk_.list_window;
+    if (list.state == WindowState::normal && near(list.left, desk_.window.left) && near(list.top, desk_.window.top))
+        place_list_below(desk_.window.left, desk_.window.width);
 }
 
 // A list that would stand below the screen's lower edge covers the main window's foot instead.

@@ -29,6 +29,8 @@ public:
     void liste_pleine_largeur_Click();
     /// The main window has moved: the list goes with it, below it and as wide, unless it has the screen's width.
     void Aligne_liste_son();
+    /// The list has come to the front: where it would hide the main window, it goes below it.
+    void uncover_main_window();
 
     /// The small player takes the main window's place.
     void a_mini_Click();

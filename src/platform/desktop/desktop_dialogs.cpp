@@ -16,6 +16,8 @@ namespace sonarelle {
 
 namespace {
 
+constexpr int least_input_width = 520; // pixels: a path, and the box's title
+
 struct ButtonRow {
     QMessageBox::StandardButton button;
     Answer answer;
@@ -89,6 +91,7 @@ std::string DesktopDialogs::InputBox(const sonarelle::InputBox& box) {
     dialog.setWindowTitle(to_qt(box.title));
     dialog.setLabelText(to_qt(box.prompt));
     dialog.setTextValue(to_qt(box.preset));
+    dialog.resize(dialog.sizeHint().expandedTo({least_input_width, 0}));
     return dialog.exec() == QDialog::Accepted ? from_qt(dialog.textValue()) : std::string{};
 }
 

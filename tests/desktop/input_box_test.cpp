@@ -1,0 +1,28 @@
+#include <QInputDialog>
+#include <QTimer>
+
+#include "desktop/desktop_bench.h"
+#include "platform/desktop/desktop_dialogs.h"
+
+namespace sonarelle {
+
+namespace {
+
+using InputBoxOnScreen = DesktopBench;
+
+} // namespace
+
+TEST_F(InputBoxOnScreen, IsWideEnoughForAPath) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    int width = 0;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        width = box->width();
+        box->reject();
+    });
+    static_cast<void>(dialogs.InputBox({"Chemin", "Définir chemin des jingles", "C:\\Jingles"}));
+    EXPECT_GE(width, 500);
+}
+
+} // namespace sonarelle

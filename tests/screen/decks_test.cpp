@@ -44,6 +44,25 @@ TEST_P(DecksOnScreen, PlaysWhenPlayIsPressed) {
     });
 }
 
+TEST_P(DecksOnScreen, KeepsItsPartsWhereTheyAreWhenItPlays) {
+    operate("", [&] {
+        load_decks();
+        const auto place = [this] {
+            return widget_of(station().main_window)
+                ->findChild<QWidget*>(QString::fromStdString(named(&DeckNames::title)))
+                ->pos();
+        };
+        const auto before = seen<QPoint>(place);
+        start();
+        eventually("the mark of the main deck", [this] {
+            const auto* mark = widget_of(station().main_window)
+                                   ->findChild<QWidget*>(QString::fromStdString(named(&DeckNames::playing_mark)));
+            return mark->isVisible();
+        });
+        EXPECT_EQ(seen<QPoint>(place), before);
+    });
+}
+
 TEST_P(DecksOnScreen, PausesAndGoesOn) {
     operate("", [&] {
         load_decks();

@@ -81,6 +81,10 @@ QLayout* DeckPanel::heading(int number) {
     mark->set_look(ButtonLook::picture);
     mark->setMaximumSize(18, 18);
     mark->setFocusPolicy(Qt::NoFocus);
+    // The deck's parts stay where they are when it comes.
+    QSizePolicy room = mark->sizePolicy();
+    room.setRetainSizeWhenHidden(true);
+    mark->setSizePolicy(room);
     row->addWidget(mark);
     return row;
 }

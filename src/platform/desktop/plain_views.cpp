@@ -1,8 +1,11 @@
 #include "platform/desktop/plain_views.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QTimer>
+#include <algorithm>
 
 #include "accessories/chargement.h"
 #include "accessories/mini_lecteur.h"
@@ -24,10 +27,37 @@ void add_rest(Dresser& dresser, QVBoxLayout& column) {
         column.addWidget(rest);
 }
 
+/// Grows with texts that come when it is made already, so that no button hides behind a scroll bar.
+class FormWindow : public WindowView {
+public:
+    using WindowView::WindowView;
+
+    void watch(QScrollArea& area) {
+        area_ = &area;
+        area.widget()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (area_ != nullptr && object == area_->widget() && event->type() == QEvent::LayoutRequest)
+            QTimer::singleShot(0, this, [this] { grow(); });
+        return WindowView::eventFilter(object, event);
+    }
+
+private:
+    void grow() {
+        const int missing = area_->widget()->sizeHint().height() - area_->viewport()->height();
+        if (missing > 0 && height() < greatest_form.height())
+            resize(width(), std::min(height() + missing, greatest_form.height()));
+    }
+
+    QScrollArea* area_ = nullptr;
+};
+
 } // namespace
 
 std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services) {
-    auto view = std::make_unique<WindowView>(window, services, least_form);
+    auto view = std::make_unique<FormWindow>(window, services, least_form);
     Dresser dresser{*view};
     QWidget* form = form_of_parts(dresser, window);
     auto* area = new QScrollArea;
@@ -42,6 +72,7 @@ std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& ser
     column->addWidget(area);
     view->setMinimumSize(form->sizeHint().expandedTo(least_form).boundedTo(greatest_form));
     view->resize(view->minimumSize());
+    view->watch(*area);
     return view;
 }
 

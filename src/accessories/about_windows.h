@@ -7,11 +7,19 @@
 
 namespace sonarelle {
 
+/// Escape leaves a window that only tells something.
+inline void hide_by(Window& window, char32_t key) {
+    constexpr char32_t escape = 27;
+    if (key == escape)
+        window.hide();
+}
+
 /// What the program is, and a door to the system's own information.
 struct frmAbout : Window {
     frmAbout() : Window{"frmAbout"} {
         caption = "À propos de " + std::string{application_title};
         on_unload_request = [this] { hide(); };
+        on_key_press = [this](char32_t key) { hide_by(*this, key); };
     }
 
     Label lblTitle{*this, "lblTitle", std::string{application_title}};
@@ -26,6 +34,7 @@ struct vbplus : Window {
     vbplus() : Window{"vbplus"} {
         caption = "Info mise a jour";
         on_unload_request = [this] { hide(); };
+        on_key_press = [this](char32_t key) { hide_by(*this, key); };
     }
 
     Label step1{*this, "step1", "1° télecharger la derniere version de " + std::string{application_title} + ".exe"};

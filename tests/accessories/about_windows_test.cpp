@@ -69,6 +69,14 @@ TEST_F(AboutWindowsTest, AreClosedByTheirOwnCloseButtonsToo) {
     }
 }
 
+TEST_F(AboutWindowsTest, AreClosedByEscape) {
+    for (Window* left : {static_cast<Window*>(&about), static_cast<Window*>(&update)}) {
+        left->show();
+        left->key_press(27);
+        EXPECT_FALSE(left->visible) << left->name();
+    }
+}
+
 TEST_F(AboutWindowsTest, StartTheSystemsInformation) {
     EXPECT_EQ(about.cmdSysInfo.caption.get(), "&Infos système...");
     about.cmdSysInfo.click();

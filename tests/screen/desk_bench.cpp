@@ -221,7 +221,7 @@ std::string DeskBench::box() {
 void DeskBench::answer(const std::string& caption) {
     const auto find = [&]() -> QWidget* {
         const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (open == nullptr)
+        if (open == nullptr || !open->isActiveWindow()) // it has its place when it has the keyboard
             return nullptr;
         for (QAbstractButton* button : open->buttons())
             if (button->text().remove('&') == QString::fromStdString(caption))

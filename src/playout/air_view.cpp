@@ -15,13 +15,8 @@ bool has_file(const Deck& deck) {
     return !deck.path.empty() && title != empty_title && title != waiting_title;
 }
 
-MediaState state_of(const Deck& deck) {
-    return deck.has_graph() ? deck.graph().GetState() : MediaState::stopped;
-}
-
-// A graph that has come to its end goes on running.
-bool sounds(const Deck& deck) {
-    return state_of(deck) == MediaState::running && deck.graph().get_CurrentPosition() < deck.graph().get_Duration();
+bool is_paused(const Deck& deck) {
+    return deck.has_graph() && deck.graph().GetState() == MediaState::paused;
 }
 
 bool is_on(DeckRole main) {
@@ -54,10 +49,10 @@ std::string path_in_list_order(const Desk& desk) {
 
 DeckRole role_of(const Desk& desk, const Deck& deck) {
     const bool is_main = deck.number() == desk.chain.lecteur_en_cours.value();
-    if (sounds(deck)) // what fades out says already that it waits
+    if (deck.sounds()) // what fades out says already that it waits
         return is_main ? DeckRole::on_air : DeckRole::heard;
     if (is_main)
-        return state_of(deck) == MediaState::paused ? DeckRole::paused : DeckRole::ended;
+        return is_paused(deck) ? DeckRole::paused : DeckRole::ended;
     return has_file(deck) ? DeckRole::loaded : DeckRole::empty;
 }
 

@@ -33,6 +33,11 @@ MediaGraph& Deck::graph() const {
     return *graph_;
 }
 
+bool Deck::sounds() const {
+    return has_graph() && graph_->GetState() == MediaState::running &&
+           graph_->get_CurrentPosition() < graph_->get_Duration();
+}
+
 void Deck::create_graph() {
     close_video();
     graph_ = media_.create_graph();

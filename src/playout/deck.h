@@ -40,6 +40,8 @@ public:
     [[nodiscard]] bool has_graph() const { return graph_ != nullptr; }
     /// @throws Failure 91 without one.
     [[nodiscard]] MediaGraph& graph() const;
+    /// Whether it runs and isn't at its end: a graph that has come to its end goes on running.
+    [[nodiscard]] bool sounds() const;
     /// Drops the graph; a video window stays until `close_video`.
     void drop_graph();
 

@@ -7,14 +7,6 @@
 
 namespace sonarelle {
 
-namespace {
-
-bool is_running(const Deck& deck) {
-    return deck.has_graph() && deck.graph().GetState() == MediaState::running;
-}
-
-} // namespace
-
 ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
                  RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document)
     : desk_{desk}, chain_{chain}, loading_{loading}, transport_{transport}, journal_{journal}, run_{run},
@@ -61,7 +53,7 @@ void ListRun::start_row(Integer row) {
 }
 
 bool ListRun::is_on_air() const {
-    return std::ranges::any_of(desk_.decks, [](const Deck& deck) { return is_running(deck); });
+    return std::ranges::any_of(desk_.decks, [](const Deck& deck) { return deck.sounds(); });
 }
 
 // On a graph of its own: a row that can't be played leaves the air as it is.
@@ -72,7 +64,7 @@ bool ListRun::can_be_played(const std::string& path) const {
 // The list begins on the first deck alone.
 void ListRun::stop_other_decks() {
     for (Deck& deck : desk_.decks)
-        if (deck.number() != 1 && is_running(deck))
+        if (deck.number() != 1 && deck.sounds())
             transport_.stop(deck);
 }
 

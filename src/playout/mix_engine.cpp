@@ -105,8 +105,7 @@ void MixEngine::Pas_demix_audio() {
 }
 
 void MixEngine::release(Deck& deck) {
-    const bool sounds = deck.has_graph() && deck.graph().GetState() == MediaState::running &&
-                        deck.graph().get_CurrentPosition() < deck.graph().get_Duration();
+    const bool sounds = deck.sounds();
     deck.drop_graph();
     if (sounds)
         desk_.report({OnAirEvent::Kind::cut, deck.number(), 0, {}, {}, 0, 0, {}});

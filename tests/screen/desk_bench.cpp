@@ -211,6 +211,13 @@ std::string DeskBench::station_form(const std::string& path) const {
     return station_path_of(machine_->drives(), path);
 }
 
+void DeskBench::wait_for_box() {
+    eventually("the box", [] {
+        const QWidget* open = QApplication::activeModalWidget();
+        return open != nullptr && open->isActiveWindow();
+    });
+}
+
 std::string DeskBench::box() {
     return seen<std::string>([]() -> std::string {
         const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

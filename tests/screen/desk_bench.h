@@ -49,6 +49,8 @@ protected:
     /// Waits until it is so on the window's thread; a failure says `what` didn't come.
     void eventually(const std::string& what, const std::function<bool()>& so);
     /// What the window's thread sees of something.
+    /// The same on the hands' own thread.
+    static void until(const std::string& what, const std::function<bool()>& so);
     template <typename Value>
     [[nodiscard]] Value seen(const std::function<Value()>& look) {
         std::optional<Value> value;
@@ -68,6 +70,8 @@ protected:
     /// The station's form of a path of this machine.
     [[nodiscard]] std::string station_form(const std::string& path) const;
 
+    /// Waits until a box has the keyboard.
+    void wait_for_box();
     /// The open message box's text; empty when there is none.
     [[nodiscard]] std::string box();
     /// Presses a button of the open message box, by its French caption.
@@ -81,7 +85,6 @@ protected:
 
 private:
     void on_window_thread(const std::function<void()>& work);
-    static void until(const std::string& what, const std::function<bool()>& so);
     void click_at(const std::function<QWidget*()>& find, const std::string& name, int button);
     void keep_picture_of_failure();
 

@@ -136,7 +136,7 @@ class QuitKeys : public OneKey {};
 TEST_P(QuitKeys, Ask) {
     at_the_keyboard([this] {
         press_it();
-        eventually("the question", [] { return QApplication::activeModalWidget() != nullptr; });
+        wait_for_box();
         EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");
         answer("Non");
     });
@@ -228,7 +228,7 @@ TEST_F(KeysOnScreen, LTellsInManualModeThatItIsManual) {
     at_the_keyboard([this] {
         operators_event([this] { station().main_window.a_mode_manuel.click(); });
         key("l");
-        eventually("the box", [] { return QApplication::activeModalWidget() != nullptr; });
+        wait_for_box();
         EXPECT_EQ(box(), "Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
         key("Return");
     });

@@ -8,11 +8,10 @@ using StartAndEnd = DeskBench;
 
 TEST_F(StartAndEnd, AFirstStartTellsWhatItWroteAndEnds) {
     operate("", [this] {
-        eventually("the box of a first start", [] { return QApplication::activeModalWidget() != nullptr; });
+        wait_for_box();
         EXPECT_NE(box().find("Vous pouvez relancer Sonarelle"), std::string::npos);
         key("Return");
-        while (!has_ended())
-            std::this_thread::yield();
+        until("the end", [this] { return has_ended(); });
     });
 }
 
@@ -63,8 +62,7 @@ TEST_F(StartAndEnd, QuittingWithYesEnds) {
         wait_for_the_keyboard();
         key("Escape");
         answer("Oui");
-        while (!has_ended())
-            std::this_thread::yield();
+        until("the end", [this] { return has_ended(); });
     });
 }
 
@@ -73,7 +71,7 @@ TEST_F(StartAndEnd, TheCrossOfTheMainWindowAsks) {
     operate("", [this] {
         wait_for_the_keyboard();
         key("alt+F4");
-        eventually("the question", [] { return QApplication::activeModalWidget() != nullptr; });
+        wait_for_box();
         EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");
     });
 }

@@ -75,10 +75,12 @@ void VirtualScreen::start_server(int width, int height) {
 }
 
 // The keyboard of the desk has keys for ² and é. A character without a key makes xdotool lend it one for an instant,
-// and a busy program reads what that key means when the instant has passed.
+// and a busy program reads what that key means when the instant has passed. The first key of xdotool makes the server
+// announce a new keyboard; a window manager lets go of its keys then for an instant, so that one is pressed before.
 void VirtualScreen::lay_french_keyboard() {
     if (std::system("setxkbmap fr") != 0)
         throw std::runtime_error{"setxkbmap fr"};
+    hand("key shift");
 }
 
 void VirtualScreen::start_window_manager() {

@@ -104,7 +104,7 @@ TEST_F(ProgramFiles, ThatAreMissingAreAFailureThatNamesTheirFolder) {
     const std::string nowhere = folder.path("nowhere");
     try {
         fill_program_folder(nowhere, folder.path("data"));
-        ADD_FAILURE() << "nothing was told";
+        ADD_FAILURE() << "no failure";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.source, nowhere);
     }

@@ -9,6 +9,7 @@ class ListPlace : public DeskBench {
 protected:
     ListPlace() {
         start();
+        window.left = window.top = Twips{90};
         window.height = Twips{7000};
         list.height = Twips{4000};
     }
@@ -31,16 +32,12 @@ TEST_F(ListPlace, StaysOnTheScreenWhenTheMainWindowGoesDown) {
 }
 
 TEST_F(ListPlace, GoesBelowTheMainWindowThatItWouldHide) {
-    window.left = Twips{90};
-    window.top = Twips{90};
     show_list_at(100, 100);
     EXPECT_EQ(list.left.get(), Twips{90});
     EXPECT_EQ(list.top.get(), Twips{7090});
 }
 
 TEST_F(ListPlace, StaysWhereItHidesNothing) {
-    window.left = Twips{90};
-    window.top = Twips{90};
     show_list_at(100, 1500);
     EXPECT_EQ(list.left.get(), Twips{100});
     EXPECT_EQ(list.top.get(), Twips{1500});

@@ -48,7 +48,7 @@ struct MeasuringThreads::Work {
         std::string machine_path;
         Stage stage = Stage::waiting;
         Instant since{};
-        std::shared_ptr<std::atomic<bool>> disk_answers{}; ///< Set once the disk has told of the file.
+        std::shared_ptr<std::atomic<bool>> disk_answers{}; ///< Set once the disk has answered about the file.
         MeasuredLength length{};
     };
 
@@ -79,7 +79,7 @@ void MeasuringThreads::Work::run() {
         queue.pop_front();
         const auto waiting = by_path.find(path);
         if (waiting == by_path.end() || waiting->second.stage != Stage::waiting)
-            continue; // its disk was given up meanwhile
+            continue; // nobody waits for its disk any more
         const auto disk_answers = std::make_shared<std::atomic<bool>>(false);
         waiting->second.stage = Stage::under_way;
         waiting->second.since = std::chrono::steady_clock::now();

@@ -38,7 +38,7 @@ inline constexpr QColor focus{0x7f, 0xb4, 0xff};
 [[nodiscard]] QColor readable_on(const QColor& ground);
 /// `share` of `b` in `a`.
 [[nodiscard]] QColor mixed(const QColor& a, const QColor& b, double share);
-/// A button's face: dark, with a breath of the colour that it was given.
-[[nodiscard]] QColor face_of(Colour told);
+/// A button's face: dark, with a breath of the button's colour.
+[[nodiscard]] QColor face_of(Colour colour);
 
 } // namespace sonarelle

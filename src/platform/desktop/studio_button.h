@@ -12,7 +12,7 @@ enum class ButtonLook { face, picture, lamp };
 /// What a button means for the air.
 enum class Accent { none, air, next, trouble };
 
-/// A button that is drawn: a face of the colour it was given, a picture or a symbol, a caption.
+/// A button that is drawn: a coloured face, a picture or a symbol, a caption.
 class StudioButton : public QAbstractButton {
 public:
     struct Face {

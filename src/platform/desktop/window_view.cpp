@@ -157,9 +157,8 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         // Alt with a letter calls a menu or a button, and types nothing.
         const bool calls = key->modifiers().testFlag(Qt::AltModifier);
         if (!calls && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape)) {
-            const bool presses_no_button = window_.answers_space && key->key() == Qt::Key_Space;
             pass_characters(key->text());
-            if (presses_no_button)
+            if (window_.answers_space && key->key() == Qt::Key_Space)
                 return true;
         }
     }

@@ -9,7 +9,8 @@ class ListPlace : public DeskBench {
 protected:
     ListPlace() {
         start();
-        window.left = window.top = Twips{90};
+        window.left = Twips{90};
+        window.top = Twips{90};
         window.height = Twips{7000};
         list.height = Twips{4000};
     }

@@ -64,8 +64,6 @@ private:
     void loaded();
     void drop_invalid_row();
     void pass_over_row(RowWalk& walk);
-    /// Journals that the row's disk was silent for too long.
-    void note_silent_disk();
     void stop_after_load_error();
     void leave_load_step();
 

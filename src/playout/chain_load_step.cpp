@@ -77,7 +77,7 @@ void AutoChain::leave_load_step() {
 /// Looks at the next row; true when it was loaded, or the list was stopped.
 bool AutoChain::try_to_load_next() {
     ChainState& chain = desk_.chain;
-    chain.erreur_chargement = false;
+    chain.erreur_chargement = chain.file_too_short = false;
     if (chain.ordre_aleatoire.is_false()) {
         chain.choix_prepare = false;
         take_next_row();
@@ -99,7 +99,7 @@ bool AutoChain::try_to_load_next() {
             loaded();
             return true;
         }
-        if (chain.disk_did_not_answer)
+        if (chain.is_row_passed_over())
             pass_over_row(load_walk_);
         else
             drop_invalid_row();
@@ -165,17 +165,13 @@ void AutoChain::loaded() {
     desk_.chain.duree_lecteur = 0;
 }
 
-/// The row of a disk that doesn't answer may be sound again tomorrow, so it stays in the list.
+/// The row of a disk that doesn't answer, or whose file was cut off, may be sound again tomorrow: it stays in the list.
 void AutoChain::pass_over_row(RowWalk& walk) {
-    note_silent_disk();
+    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
+                  (desk_.chain.file_too_short ? " Plus court qu'une seconde" : " Le disque ne répond pas"));
     desk_.chain.chargement_fait = false;
     desk_.chain.choix_prepare = false;
     walk.rest();
-}
-
-void AutoChain::note_silent_disk() {
-    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
-                  " Le disque ne répond pas");
 }
 
 void AutoChain::drop_invalid_row() {

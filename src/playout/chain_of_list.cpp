@@ -99,6 +99,7 @@ bool AutoChain::is_found() {
     } catch (const Failure& failure) {
         if (failure.number != failure_number::device_fault)
             throw;
+        desk_.chain.file_too_short = false;
         pass_over_row(mix_walk_);
         return false;
     }
@@ -122,7 +123,7 @@ bool AutoChain::load_and_play(Deck& old) {
     const bool told = is_loaded(next);
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
-    if (desk_.chain.disk_did_not_answer) {
+    if (desk_.chain.is_row_passed_over()) {
         pass_over_row(mix_walk_);
         return false;
     }

@@ -45,13 +45,16 @@ struct ChainState {
     Integer dernier_point_mix;        ///< The last mix point of the list chain, seconds.
     Flag erreur_chargement;           ///< The last list load failed.
     bool disk_did_not_answer = false; ///< It failed because its disk was silent for too long.
-    Flag choix_prepare;               ///< The load step has drawn the next row already.
-    Flag chargement_fait;             ///< The load step has loaded the next deck.
-    Integer nb_fichiers_ecoutes;      ///< Tracks started.
-    Integer position_zap;             ///< Position of the incoming deck at the last operator zap, whole seconds.
-    Integer lecteur_mix_special;      ///< The deck of the special mix.
-    Flag demande_ajout;               ///< A track has started since the last insertion.
-    Integer compteur_aleatoire;       ///< Tracks started since the last jingle.
+    bool file_too_short = false;      ///< It failed because the file is shorter than a second.
+    /// The last list load failed in a way that may be mended by tomorrow: its row stays in the list.
+    [[nodiscard]] bool is_row_passed_over() const { return disk_did_not_answer || file_too_short; }
+    Flag choix_prepare;          ///< The load step has drawn the next row already.
+    Flag chargement_fait;        ///< The load step has loaded the next deck.
+    Integer nb_fichiers_ecoutes; ///< Tracks started.
+    Integer position_zap;        ///< Position of the incoming deck at the last operator zap, whole seconds.
+    Integer lecteur_mix_special; ///< The deck of the special mix.
+    Flag demande_ajout;          ///< A track has started since the last insertion.
+    Integer compteur_aleatoire;  ///< Tracks started since the last jingle.
     Integer compteur_aleatoire1;
 
     Flag journal_actif;

@@ -54,7 +54,7 @@ void DeckLoading::load_record(Deck& deck) {
 
 void DeckLoading::load_from_list(Deck& deck) {
     deck.create_graph();
-    desk_.chain.disk_did_not_answer = false;
+    desk_.chain.disk_did_not_answer = desk_.chain.file_too_short = false;
     try {
         render_from_list(deck);
     } catch (const Failure& failure) {
@@ -91,6 +91,8 @@ void DeckLoading::render_from_list(Deck& deck) {
     }
     if (chain.duree_mesuree >= shortest_good_file)
         set_bar(deck);
+    else // its bar would never come to its end, for which the chain waits
+        chain.erreur_chargement = chain.file_too_short = true;
 }
 
 // Other records are read while this one waits on its deck. What a hand loads plays to its end.

@@ -28,7 +28,8 @@ public:
     void charge_1_list() { load_from_list(desk_.deck(1)); }
     void charge_2_list() { load_from_list(desk_.deck(2)); }
     void charge_3_list() { load_from_list(desk_.deck(3)); }
-    /// `chemin_fichier`, or the listening path, without starting it. Any failure sets `erreur_chargement` and no more.
+    /// `chemin_fichier`, or the listening path, without starting it. Any failure sets `erreur_chargement` and no more,
+    /// and so does a file that is shorter than a second.
     void load_from_list(Deck& deck);
 
     /// The file already named on deck 1, without resolving its path.

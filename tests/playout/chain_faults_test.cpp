@@ -261,6 +261,43 @@ TEST_F(ChainFaultsTest, ARowWhoseDiskDoesNotAnswerIsJournalled) {
     EXPECT_NE(machine.disk.bytes("C:\\Sonarelle\\journal.doc").find("Le disque ne r\xE9pond pas"), std::string::npos);
 }
 
+TEST_F(ChainFaultsTest, ARowOfLessThanASecondIsPassedOverAndStaysInTheList) {
+    open_tracks({100, 100, 100});
+    machine.media.set_length(track(2), 0.9);
+    start_list();
+    play_for(100);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, ARowOfLessThanASecondIsJournalled) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100, 100});
+    machine.media.set_length(track(2), 0.9);
+    start_list();
+    play_for(100);
+    EXPECT_NE(journal_text().find(" fichier : " + track(2) + " Plus court qu'une seconde"), std::string::npos);
+}
+
+TEST_F(ChainFaultsTest, AMissingRowBehindOneOfLessThanASecondIsRemoved) {
+    open_tracks({100, 100, 100, 100});
+    machine.media.set_length(track(2), 0.9);
+    machine.disk.Kill(track(3));
+    start_list();
+    play_for(100);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().text(3), track(4));
+}
+
+TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneOfLessThanASecond) {
+    open_tracks({2, 100, 100});
+    machine.media.set_length(track(2), 0.9);
+    start_list();
+    play_for(10);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
 TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnswer) {
     open_tracks({2, 100, 100});
     start_list();

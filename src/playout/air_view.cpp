@@ -60,6 +60,12 @@ DeckRole main_role(Desk& desk) {
     return desk.has_main_deck() ? role_of(desk, desk.main_deck()) : DeckRole::empty;
 }
 
+bool waits_for_special_mix(const Desk& desk) {
+    const bool chained = desk.window.Timer2.enabled() || desk.window.Timer4.enabled();
+    return chained && !desk.is_manual() && desk.window.Active_audio_jingles.checked &&
+           desk.chain.lecteur_mix_special != 0;
+}
+
 std::string name_on_air(Desk& desk) {
     return is_on(main_role(desk)) ? name_without_ending(desk.main_deck().path) : std::string{};
 }

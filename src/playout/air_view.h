@@ -20,6 +20,9 @@ enum class DeckRole {
 /// That of the main deck; empty without one.
 [[nodiscard]] DeckRole main_role(Desk& desk);
 
+/// Whether the chain stands still until a special mix has ended.
+[[nodiscard]] bool waits_for_special_mix(const Desk& desk);
+
 /// The name of the file on the air, without its ending; empty for none.
 [[nodiscard]] std::string name_on_air(Desk& desk);
 /// Whole seconds from now to the end of play of what is on the air; 0 for nothing.

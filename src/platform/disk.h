@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,6 +25,7 @@ struct FileFacts {
     std::int64_t size = 0;
     std::int64_t modified = 0; ///< Nanoseconds since 1970.
     bool is_folder = false;
+    std::int64_t serial = 0; ///< Of the file itself: another one under its name has another.
     friend bool operator==(const FileFacts&, const FileFacts&) = default;
 };
 
@@ -35,6 +37,9 @@ public:
 
     /// Length in bytes.
     [[nodiscard]] virtual std::int64_t length() const = 0;
+
+    /// The file's state when it was opened.
+    [[nodiscard]] virtual FileFacts facts() const { return {.size = length()}; }
 
     /// Fills `into` from byte `position` on and returns how many bytes were there.
     /// @throws Failure 57 when the disk gives none.
@@ -52,6 +57,21 @@ public:
 
     /// Flushes and puts the new file in the place of the old one, with the rights and owner that the old one had.
     virtual void commit() = 0;
+
+    /// As `commit`, if the file is still as it was `seen` (nothing: there was none). Gives the new file's facts, or
+    /// nothing when another program has written meanwhile: its file stands, and the replacement is of no more use. Of
+    /// programs that write one file by this, none ever takes the place of what it hasn't seen.
+    /// @throws Failure 75 too when another program keeps the file for seconds.
+    [[nodiscard]] virtual std::optional<FileFacts> commit_over(const std::optional<FileFacts>& seen) = 0;
+};
+
+/// A file's name that is one program's own for as long as this lives; it ends with the program, however that ends.
+class FileClaim {
+public:
+    FileClaim() = default;
+    FileClaim(const FileClaim&) = delete;
+    FileClaim& operator=(const FileClaim&) = delete;
+    virtual ~FileClaim() = default;
 };
 
 /// The disk in the station's own form of paths: a drive letter and backslashes, or `\\serveur\partage`. Names match
@@ -104,6 +124,10 @@ public:
     [[nodiscard]] virtual std::unique_ptr<RecordFile> open_or_create(std::string_view path) = 0;
 
     [[nodiscard]] virtual std::unique_ptr<FileReplacement> replace(std::string_view path) = 0;
+
+    /// Claims a name, be the file there or not; null when another program, or another claim, has it. What is claimed
+    /// can be read and written all the same: a claim binds those who ask for it.
+    [[nodiscard]] virtual std::unique_ptr<FileClaim> claim(std::string_view path) = 0;
 
     /// Adds bytes at the end of a file, created where it is missing, and flushes them to the disk.
     virtual void append(std::string_view path, std::string_view bytes) = 0;

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] std::int64_t count() const { return file_->length() / record_size; }
     /// Bytes behind the last whole record.
     [[nodiscard]] std::int64_t rest() const { return file_->length() % record_size; }
+    /// The file's state, by which a writer knows it again.
+    [[nodiscard]] FileFacts facts() const { return file_->facts(); }
 
     /// @throws Failure 63 for a number below 1, 62 behind the last record.
     void read(std::int64_t number, Record& into) {

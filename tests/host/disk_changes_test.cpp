@@ -198,7 +198,10 @@ TEST(HostDiskFacts, TellSizeTimeAndKind) {
     const timespec times[2]{{1'600'000'000, 0}, {1'600'000'000, 123'000'000}};
     ASSERT_EQ(::utimensat(AT_FDCWD, bench.folder.path("a.mp3").c_str(), times, 0), 0);
 
-    EXPECT_EQ(bench.disk.facts("D:\\A.MP3"), (FileFacts{4, 1'600'000'000'123'000'000, false}));
+    const FileFacts facts = bench.disk.facts("D:\\A.MP3");
+    EXPECT_EQ(facts.size, 4);
+    EXPECT_EQ(facts.modified, 1'600'000'000'123'000'000);
+    EXPECT_FALSE(facts.is_folder);
     EXPECT_TRUE(bench.disk.facts("D:\\").is_folder);
 }
 

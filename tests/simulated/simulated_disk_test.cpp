@@ -191,6 +191,32 @@ TEST_F(DiskFiles, ADroppedReplacementLeavesTheOldFile) {
     EXPECT_EQ(disk.used(), 7);
 }
 
+TEST_F(DiskFiles, AReplacementOfWhatWasSeenTakesItsPlace) {
+    const FileFacts seen = disk.open("D:\\Musique\\été.mp3")->facts();
+    const auto file = disk.replace("D:\\Musique\\été.mp3");
+    file->write(as_bytes_of("xy"));
+    const auto written = file->commit_over(seen);
+    EXPECT_EQ(written, disk.facts("D:\\Musique\\été.mp3"));
+    EXPECT_EQ(disk.bytes("D:\\Musique\\été.mp3"), "xy");
+}
+
+TEST_F(DiskFiles, AReplacementNeverTakesThePlaceOfWhatWasNotSeen) {
+    const FileFacts seen = disk.facts("D:\\Musique\\été.mp3");
+    const auto file = disk.replace("D:\\Musique\\été.mp3");
+    file->write(as_bytes_of("xy"));
+    write_whole("D:\\Musique\\été.mp3", "fedcba");
+    EXPECT_EQ(file->commit_over(seen), std::nullopt);
+    EXPECT_EQ(disk.bytes("D:\\Musique\\été.mp3"), "fedcba");
+}
+
+TEST_F(DiskFiles, AClaimedNameIsNobodyElsesUntilTheClaimEnds) {
+    auto claim = disk.claim("D:\\Musique\\liste.dfm");
+    EXPECT_NE(claim, nullptr);
+    EXPECT_EQ(disk.claim("D:\\Musique\\LISTE.DFM"), nullptr);
+    claim.reset();
+    EXPECT_NE(disk.claim("D:\\Musique\\liste.dfm"), nullptr);
+}
+
 TEST_F(DiskFiles, ADroppedReplacementOfNothingLeavesNothing) {
     disk.replace("C:\\Sonarelle\\liste.dfm")->write(as_bytes_of("xy"));
     EXPECT_FALSE(disk.exists("C:\\Sonarelle\\liste.dfm"));

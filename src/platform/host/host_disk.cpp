@@ -7,9 +7,9 @@
 #include <cstdio>
 
 #include "platform/failure.h"
-#include "platform/host/file_times.h"
 #include "platform/host/host_disk_look.h"
 #include "platform/host/host_errors.h"
+#include "platform/host/machine_files.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 
@@ -96,8 +96,7 @@ FileFacts HostDisk::facts(std::string_view path) {
         struct stat facts {};
         if (::stat(found.path.c_str(), &facts) != 0)
             throw_errno(Access::reading, name);
-        const bool is_folder = S_ISDIR(facts.st_mode);
-        return {is_folder ? 0 : facts.st_size, nanoseconds(facts.st_mtim), is_folder};
+        return facts_of(facts);
     });
 }
 

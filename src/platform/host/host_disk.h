@@ -46,6 +46,7 @@ public:
     [[nodiscard]] std::unique_ptr<RecordFile> open(std::string_view path) override;
     [[nodiscard]] std::unique_ptr<RecordFile> open_or_create(std::string_view path) override;
     [[nodiscard]] std::unique_ptr<FileReplacement> replace(std::string_view path) override;
+    [[nodiscard]] std::unique_ptr<FileClaim> claim(std::string_view path) override;
     void append(std::string_view path, std::string_view bytes) override;
 
     /// This machine's path of a file or folder that is there, for the libraries that open files themselves.

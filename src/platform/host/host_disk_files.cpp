@@ -58,7 +58,7 @@ void HostDisk::FileCopy(std::string_view from, std::string_view to) {
         throw Failure{failure_number::permission_refused, to_place.source};
 
     SafeFile copy{to_place.path, to_place.source};
-    HostRecordFile reader{std::move(source.handle), source.facts.st_size, from_place.source};
+    HostRecordFile reader{std::move(source.handle), facts_of(source.facts), from_place.source};
     std::vector<std::byte> block(std::size_t{1} << 20U);
     for (std::int64_t position = 0;;) {
         const std::size_t count = reader.read(position, block);
@@ -94,6 +94,11 @@ std::unique_ptr<RecordFile> HostDisk::open_or_create(std::string_view path) {
 std::unique_ptr<FileReplacement> HostDisk::replace(std::string_view path) {
     const Place place = place_of(path);
     return replace_machine_file(place.path, place.source);
+}
+
+std::unique_ptr<FileClaim> HostDisk::claim(std::string_view path) {
+    const Place place = place_of(path);
+    return claim_machine_file(place.path, place.source);
 }
 
 void HostDisk::append(std::string_view path, std::string_view bytes) {

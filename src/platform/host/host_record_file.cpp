@@ -16,8 +16,8 @@ constexpr std::size_t walking_read = 512 * 1024;
 
 } // namespace
 
-HostRecordFile::HostRecordFile(FileHandle file, std::int64_t length, std::string source)
-    : file_{std::move(file)}, length_{length}, source_{std::move(source)} {}
+HostRecordFile::HostRecordFile(FileHandle file, const FileFacts& facts, std::string source)
+    : file_{std::move(file)}, facts_{facts}, source_{std::move(source)} {}
 
 std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> into) {
     if (position < 0)
@@ -35,7 +35,7 @@ std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> int
 }
 
 std::size_t HostRecordFile::bytes_left(std::int64_t position, std::size_t at_most) const {
-    const std::int64_t left = std::max<std::int64_t>(0, length_ - position);
+    const std::int64_t left = std::max<std::int64_t>(0, length() - position);
     return static_cast<std::size_t>(std::min(left, static_cast<std::int64_t>(at_most)));
 }
 

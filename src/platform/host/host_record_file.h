@@ -13,9 +13,10 @@ namespace sonarelle {
 /// A file of this machine, read through a buffer: a list read record by record costs a copy a record.
 class HostRecordFile : public RecordFile {
 public:
-    HostRecordFile(FileHandle file, std::int64_t length, std::string source);
+    HostRecordFile(FileHandle file, const FileFacts& facts, std::string source);
 
-    [[nodiscard]] std::int64_t length() const override { return length_; }
+    [[nodiscard]] std::int64_t length() const override { return facts_.size; }
+    [[nodiscard]] FileFacts facts() const override { return facts_; }
     std::size_t read(std::int64_t position, std::span<std::byte> into) override;
 
 private:
@@ -25,7 +26,7 @@ private:
     void fill_buffer(std::int64_t position, std::size_t wanted);
 
     FileHandle file_;
-    std::int64_t length_;
+    FileFacts facts_;
     std::string source_;
     std::vector<std::byte> buffer_;
     std::int64_t buffer_begin_ = 0; // position in the file of the buffer's first byte

@@ -12,7 +12,9 @@
 #include <filesystem>
 
 #include "platform/failure.h"
+#include "platform/host/file_lock.h"
 #include "platform/host/host_errors.h"
+#include "platform/host/machine_files.h"
 
 namespace sonarelle {
 
@@ -163,11 +165,47 @@ void SafeFile::flush() {
 }
 
 void SafeFile::commit() {
+    finish();
+    put_in_place();
+}
+
+// The look and the renaming are one step to all who write by this: they hold the folder's lock meanwhile, which leaves
+// no lock file behind and holds whatever the list's own file is replaced by.
+std::optional<FileFacts> SafeFile::commit_over(const std::optional<FileFacts>& seen) {
+    finish();
+    const FileHandle folder{::openat(folder_.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (folder.is_open())
+        wait_for_lock(folder, source_);
+    if (old_file() != seen) {
+        drop();
+        return std::nullopt;
+    }
+    struct stat facts {};
+    if (::fstat(file_.get(), &facts) != 0)
+        fail();
+    put_in_place();
+    return facts_of(facts);
+}
+
+std::optional<FileFacts> SafeFile::old_file() const {
+    struct stat facts {};
+    if (::fstatat(folder_.get(), name_.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
+        return std::nullopt;
+    return facts_of(facts);
+}
+
+/// All bytes are on the disk, under the hidden name.
+void SafeFile::finish() {
     if (hidden_.empty())
         throw Failure{failure_number::device_fault, source_};
     flush();
     take_over_rights();
-    if (::fsync(file_.get()) != 0 || ::renameat(folder_.get(), hidden_.c_str(), folder_.get(), name_.c_str()) != 0)
+    if (::fsync(file_.get()) != 0)
+        fail();
+}
+
+void SafeFile::put_in_place() {
+    if (::renameat(folder_.get(), hidden_.c_str(), folder_.get(), name_.c_str()) != 0)
         fail();
     hidden_.clear();
     // The new file stands; a folder that can't be flushed only leaves open which of the two a power cut would leave.

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/disk.h"
 #include "platform/host/file_handle.h"
 
 namespace sonarelle {
@@ -35,11 +36,18 @@ public:
     /// Flushes the new file to the disk and puts it in the old one's place.
     void commit();
 
+    /// The same, if the old file is still as it was `seen`, or missing as it was: gives the new file's facts. Another
+    /// program's file stays, and the new one is dropped.
+    [[nodiscard]] std::optional<FileFacts> commit_over(const std::optional<FileFacts>& seen);
+
 private:
     void look_at_old_file();
     void create_beside();
     void flush();
     void take_over_rights();
+    void finish();
+    void put_in_place();
+    [[nodiscard]] std::optional<FileFacts> old_file() const;
     void drop() noexcept;
     [[noreturn]] void fail();
 

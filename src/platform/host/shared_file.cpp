@@ -1,26 +1,21 @@
 #include "platform/host/shared_file.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <thread>
 
 #include "platform/failure.h"
+#include "platform/host/file_lock.h"
 #include "platform/host/host_errors.h"
 #include "platform/host/safe_file.h"
 
 namespace sonarelle {
 
 namespace {
-
-// A write takes some ms; a program that holds the lock for longer is stopped, and the station doesn't stop with it.
-constexpr std::chrono::milliseconds patience{3000};
 
 std::string lock_name(const std::filesystem::path& path) {
     return path.parent_path() / ("." + path.stem().string() + ".verrou");
@@ -61,15 +56,7 @@ SharedFileLock::SharedFileLock(const std::string& path) {
     file_ = FileHandle{::open(lock_name(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
     if (!file_.is_open())
         throw_errno(Access::writing, path);
-    const auto give_up = std::chrono::steady_clock::now() + patience;
-    while (::flock(file_.get(), LOCK_EX | LOCK_NB) != 0) {
-        // A disk without locks is written without one: its file is whole all the same.
-        if (errno != EWOULDBLOCK && errno != EINTR)
-            return;
-        if (std::chrono::steady_clock::now() > give_up)
-            throw Failure{failure_number::path_access, path, "Un autre programme garde ce fichier pour lui"};
-        std::this_thread::sleep_for(std::chrono::milliseconds{1});
-    }
+    wait_for_lock(file_, path);
 }
 
 void write_shared_file(const std::string& path, std::string_view text) {

@@ -41,6 +41,23 @@ bool is_asked_for(const DiskEntry& entry, FileAttributes attributes) {
            (!entry.hidden || has(attributes, FileAttributes::hidden));
 }
 
+FileFacts facts_of(const DiskEntry& entry) {
+    if (entry.is_folder())
+        return {0, 0, true};
+    return {static_cast<std::int64_t>(entry.content->bytes().size()), entry.content->modified, false};
+}
+
+class SimulatedClaim : public FileClaim {
+public:
+    SimulatedClaim(std::shared_ptr<std::set<std::string>> claimed, std::string name)
+        : claimed_{std::move(claimed)}, name_{std::move(name)} {}
+    ~SimulatedClaim() override { claimed_->erase(name_); }
+
+private:
+    std::shared_ptr<std::set<std::string>> claimed_;
+    std::string name_;
+};
+
 } // namespace
 
 SimulatedDisk::SimulatedDisk(Clock& clock) : clock_{clock} {
@@ -98,9 +115,7 @@ FileFacts SimulatedDisk::facts(std::string_view path) {
     const DiskEntry* entry = tree_.locate(target).entry;
     if (entry == nullptr)
         fail(failure_number::file_not_found, target);
-    if (entry->is_folder())
-        return {0, 0, true};
-    return {static_cast<std::int64_t>(entry->content->bytes().size()), entry->content->modified, false};
+    return facts_of(*entry);
 }
 
 void SimulatedDisk::Kill(std::string_view path) {
@@ -197,10 +212,25 @@ void SimulatedDisk::append(std::string_view path, std::string_view bytes) {
     file.content->modified = time_of_change();
 }
 
-void SimulatedDisk::commit(std::string_view path, std::shared_ptr<FileContent> content) {
+std::unique_ptr<FileClaim> SimulatedDisk::claim(std::string_view path) {
+    const DiskPlace place = place_of(path);
+    check_folder(place);
+    std::string name = lower_case(place.path);
+    if (!claimed_->insert(name).second)
+        return nullptr;
+    return std::make_unique<SimulatedClaim>(claimed_, std::move(name));
+}
+
+FileFacts SimulatedDisk::commit(std::string_view path, std::shared_ptr<FileContent> content) {
     DiskEntry& file = file_to_write(place_of(path));
     file.content = std::move(content);
     file.content->modified = time_of_change();
+    return facts_of(file);
+}
+
+std::optional<FileFacts> SimulatedDisk::facts_of_file(std::string_view absolute_path) const {
+    const DiskEntry* entry = tree_.find(absolute_path);
+    return entry == nullptr ? std::nullopt : std::optional{facts_of(*entry)};
 }
 
 void SimulatedDisk::put_file(std::string_view path, std::string_view bytes) {

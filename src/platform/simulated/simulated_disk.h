@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +44,7 @@ public:
     [[nodiscard]] std::unique_ptr<RecordFile> open(std::string_view path) override;
     [[nodiscard]] std::unique_ptr<RecordFile> open_or_create(std::string_view path) override;
     [[nodiscard]] std::unique_ptr<FileReplacement> replace(std::string_view path) override;
+    [[nodiscard]] std::unique_ptr<FileClaim> claim(std::string_view path) override;
     void append(std::string_view path, std::string_view bytes) override;
 
     // The hands of a test. Drives are named as `D` or `\\serveur\partage`; faults don't concern these calls.
@@ -84,7 +87,8 @@ private:
     [[nodiscard]] PathPattern pattern_of(std::string_view path) const;
     [[nodiscard]] std::vector<DiskEntry*> matches(const PathPattern& pattern, FileAttributes attributes) const;
     DiskEntry& file_to_write(const DiskPlace& place);
-    void commit(std::string_view absolute_path, std::shared_ptr<FileContent> content);
+    FileFacts commit(std::string_view absolute_path, std::shared_ptr<FileContent> content);
+    [[nodiscard]] std::optional<FileFacts> facts_of_file(std::string_view absolute_path) const;
     [[nodiscard]] std::int64_t time_of_change();
 
     Clock& clock_;
@@ -94,6 +98,7 @@ private:
     WorkingFolders working_;
     std::vector<std::string> found_; // what Dir() has still to give, the next one last
     std::int64_t last_change_ = 0;
+    std::shared_ptr<std::set<std::string>> claimed_ = std::make_shared<std::set<std::string>>(); // in lower case
 };
 
 } // namespace sonarelle

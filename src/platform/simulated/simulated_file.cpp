@@ -35,6 +35,14 @@ void SimulatedReplacement::commit() {
     disk_.commit(path_, std::exchange(content_, nullptr));
 }
 
+std::optional<FileFacts> SimulatedReplacement::commit_over(const std::optional<FileFacts>& seen) {
+    check_usable();
+    auto content = std::exchange(content_, nullptr);
+    if (disk_.facts_of_file(path_) != seen)
+        return std::nullopt;
+    return disk_.commit(path_, std::move(content));
+}
+
 void SimulatedReplacement::check_usable() const {
     if (content_ == nullptr)
         throw Failure{failure_number::device_fault, path_};

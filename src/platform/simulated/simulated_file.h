@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -19,6 +20,7 @@ public:
         : faults_{faults}, path_{std::move(path)}, content_{std::move(content)} {}
 
     [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(content_->bytes().size()); }
+    [[nodiscard]] FileFacts facts() const override { return {length(), content_->modified}; }
     std::size_t read(std::int64_t position, std::span<std::byte> into) override;
 
 private:
@@ -35,6 +37,7 @@ public:
 
     void write(std::span<const std::byte> bytes) override;
     void commit() override;
+    std::optional<FileFacts> commit_over(const std::optional<FileFacts>& seen) override;
 
 private:
     void check_usable() const;

@@ -126,7 +126,8 @@ void Desktop::show_air() {
                      .deck = desk_.chain.lecteur_en_cours.value(),
                      .title = to_qt(name_on_air(desk_)),
                      .left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss"),
-                     .next = next.isEmpty() ? next : "Ensuite : " + next});
+                     .next = next.isEmpty() ? next : "Ensuite : " + next,
+                     .silence = {}});
 }
 
 void Desktop::show_list() {

@@ -19,8 +19,6 @@ namespace sonarelle {
 namespace {
 
 constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
-constexpr QSize banner_size{475, 40};
-constexpr int title_height = 50; // two lines
 constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
 constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
 constexpr StationLabel::Style trouble{.pixels = 14, .bold = true, .characters = 24};
@@ -61,7 +59,8 @@ void MainView::build_rows(const SoundReading& sound) {
     rows->setContentsMargins(12, 6, 12, 4);
     rows->setSpacing(8);
     rows->addWidget(menu_labels());
-    rows->addLayout(header());
+    header_ = new AirHeader{dresser_, window_};
+    rows->addWidget(header_);
     rows->addLayout(deck_row(), 3);
     rows->addLayout(lower_row(sound), 1);
     QWidget* foot = status_line();
@@ -79,37 +78,6 @@ QWidget* MainView::menu_labels() {
         row->addWidget(dresser_.label(*label, menu_word));
     row->addStretch(1);
     return line;
-}
-
-QLayout* MainView::header() {
-    heading_ = text_label({.pixels = 12, .characters = 20});
-    title_ = text_label({.pixels = 19, .bold = true, .wrapped = true, .characters = 14});
-    title_->setFixedHeight(title_height);
-    next_ = text_label({.pixels = 15, .characters = 16});
-    colour(*next_, studio::next);
-    remaining_ = text_label({.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter},
-                            "00:00:00");
-    // Not the station's controls, so the names are the view's.
-    for (const auto& [label, name] :
-         {std::pair{heading_, "air_state"}, {title_, "air_title"}, {next_, "air_next"}, {remaining_, "remaining"}})
-        label->setObjectName(name);
-    remaining_->setAccessibleName("Temps restant");
-    clock_ =
-        text_label({.pixels = 20, .digits = true, .characters = 8, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    clock_->setObjectName("clock");
-    auto* banner = dresser_.movie(window_.banner);
-    banner->setFixedSize(banner_size);
-    auto* mark = dresser_.image(window_.Image2);
-    mark->set_look(ButtonLook::picture);
-    mark->setFocusPolicy(Qt::NoFocus);
-    mark->setMaximumHeight(20);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    row->addLayout(column_of({heading_, title_, next_, mark}, 2), 1);
-    row->addWidget(remaining_, 0);
-    auto* right = column_of({clock_, banner}, 4);
-    row->addLayout(right, 0);
-    return row;
 }
 
 QLayout* MainView::deck_row() {
@@ -223,32 +191,13 @@ QWidget* MainView::status_line() {
     return line;
 }
 
-void MainView::show_air(const AirLook& look) {
-    const QString play = " — Play " + QString::number(look.deck);
-    switch (look.role) {
-    case DeckRole::on_air:
-        colour(*heading_, studio::air);
-        heading_->set_text("● À L'ANTENNE" + play);
-        break;
-    case DeckRole::paused:
-        colour(*heading_, studio::next);
-        heading_->set_text("EN PAUSE" + play);
-        break;
-    default:
-        colour(*heading_, studio::text);
-        heading_->set_text("EN ATTENTE");
-    }
-    title_->set_text(look.title);
-    remaining_->set_text(look.left);
-    next_->set_text(look.next);
-}
-
 void MainView::show_output(const QString& text, bool is_trouble) {
     output_->set_style(is_trouble ? trouble : status);
     output_->setPalette({});
     if (is_trouble)
         colour(*output_, studio::trouble);
     output_->set_text(text);
+    header_->show_card_lost(is_trouble);
 }
 
 } // namespace sonarelle

@@ -2,28 +2,20 @@
 
 #include <array>
 
+#include "platform/desktop/air_header.h"
 #include "platform/desktop/deck_panel.h"
 #include "platform/desktop/sound_reading.h"
 #include "playout/antenne_fm.h"
 
 namespace sonarelle {
 
-/// What is read of the air at a glance.
-struct AirLook {
-    DeckRole role = DeckRole::empty; ///< The main deck's.
-    int deck = 0;                    ///< Its number.
-    QString title;
-    QString left; ///< Time to the end of play.
-    QString next;
-};
-
 /// The main window: what is on and how long it lasts, three decks, the chain and the quick loads.
 class MainView : public WindowView {
 public:
     MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound);
 
-    void show_air(const AirLook& look);
-    void show_clock(const QString& time) { clock_->set_text(time); }
+    void show_air(const AirLook& look) { header_->show_air(look); }
+    void show_clock(const QString& time) { header_->show_clock(time); }
     void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
     void show_output(const QString& text, bool is_trouble);
     void show_played(const QString& text) { played_->set_text(text); }
@@ -31,7 +23,6 @@ public:
 private:
     void build_rows(const SoundReading& sound);
     [[nodiscard]] QWidget* menu_labels();
-    [[nodiscard]] QLayout* header();
     [[nodiscard]] QLayout* deck_row();
     [[nodiscard]] QLayout* lower_row(const SoundReading& sound);
     [[nodiscard]] Panel* chain_panel();
@@ -42,12 +33,8 @@ private:
 
     Antenne_FM& window_;
     Dresser dresser_{*this};
+    AirHeader* header_ = nullptr;
     std::array<DeckPanel*, 3> decks_{};
-    StationLabel* heading_ = nullptr;
-    StationLabel* title_ = nullptr;
-    StationLabel* next_ = nullptr;
-    StationLabel* remaining_ = nullptr;
-    StationLabel* clock_ = nullptr;
     StationLabel* output_ = nullptr;
     StationLabel* played_ = nullptr;
 };

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/desktop/station_label.h"
+#include "playout/air_view.h"
+
+namespace sonarelle {
+
+class Dresser;
+struct Antenne_FM;
+
+/// What is read of the air at a glance.
+struct AirLook {
+    DeckRole role = DeckRole::empty; ///< The main deck's.
+    int deck = 0;                    ///< Its number.
+    QString title;
+    QString left; ///< Time to the end of play.
+    QString next;
+    QString silence; ///< How long the air has been silent, mm:ss; empty while it is as it should be.
+
+    friend bool operator==(const AirLook&, const AirLook&) = default;
+};
+
+/// The head of the main window: what is on the air, how long it lasts, what follows, and the time of day. It turns red
+/// when the air is silent or the sound card is gone.
+class AirHeader : public QWidget {
+public:
+    AirHeader(Dresser& dresser, Antenne_FM& window);
+
+    void show_air(const AirLook& look);
+    void show_clock(const QString& time) { clock_->set_text(time); }
+    void show_card_lost(bool lost);
+    [[nodiscard]] bool alarms() const { return card_lost_ || !look_.silence.isEmpty(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QWidget* mark(Dresser& dresser, Antenne_FM& window) const;
+    void name_labels();
+    void show_heading();
+    void show_alarm();
+    void colour_labels();
+
+    StationLabel* heading_;
+    StationLabel* title_;
+    StationLabel* next_;
+    StationLabel* remaining_;
+    StationLabel* silence_;   ///< In the place of the remaining time and of the banner.
+    StationLabel* card_gone_; ///< In the banner's place.
+    StationLabel* clock_;
+    QWidget* banner_;
+    AirLook look_;
+    bool card_lost_ = false;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,136 @@
+// The head of the main window, when the air is silent and when the sound card is gone.
+#include "platform/desktop/air_header.h"
+
+#include "desktop/desktop_bench.h"
+#include "platform/desktop/colours.h"
+#include "platform/desktop/main_view.h"
+#include "platform/scheduler.h"
+
+namespace sonarelle {
+
+namespace {
+
+class AirHeaderTest : public DesktopBench {
+protected:
+    AirHeaderTest() {
+        main_window.show();
+        settle();
+        view.resize(1000, 560);
+        settle();
+    }
+
+    void be_silent_for(const QString& time) {
+        view.show_air(
+            {.role = DeckRole::ended, .deck = 1, .title = {}, .left = "00:00:00", .next = {}, .silence = time});
+        settle();
+    }
+    void lose_the_card() {
+        view.show_output("sortie : aucune carte son, cadence de l'horloge", true);
+        settle();
+    }
+    void play() {
+        view.show_air({.role = DeckRole::on_air,
+                       .deck = 2,
+                       .title = "Matin sur le port",
+                       .left = "00:02:10",
+                       .next = "Ensuite : Jingle bonjour",
+                       .silence = {}});
+        settle();
+    }
+
+    [[nodiscard]] AirHeader& header() { return *view.findChild<AirHeader*>("air_header"); }
+    [[nodiscard]] StationLabel& label(const char* name) { return *view.findChild<StationLabel*>(name); }
+
+    /// The part of the header that reads as red, from 0 to 1.
+    [[nodiscard]] double red_share() {
+        const QImage seen = header().grab().toImage();
+        int red = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x) {
+                const QColor pixel = seen.pixelColor(x, y);
+                red += pixel.red() > 120 && pixel.green() < 60 && pixel.blue() < 70 ? 1 : 0;
+            }
+        return static_cast<double>(red) / (seen.width() * seen.height());
+    }
+
+    void expect_whole(const StationLabel& label) {
+        const QFontMetrics metrics{label.font()};
+        EXPECT_GE(label.width(), metrics.horizontalAdvance(label.text())) << label.objectName().toStdString();
+        EXPECT_GE(label.height(), metrics.height()) << label.objectName().toStdString();
+    }
+
+    Scheduler scheduler;
+    Antenne_FM main_window{scheduler};
+    SoundReading sound{[] { return LevelReading{}; }, [](std::span<float>) {}, [] { return std::span<const float>{}; }};
+    MainView view{main_window, services, sound};
+};
+
+} // namespace
+
+TEST_F(AirHeaderTest, IsRedWhileTheAirIsSilent) {
+    be_silent_for("00:02");
+    EXPECT_GT(red_share(), 0.6);
+}
+
+TEST_F(AirHeaderTest, CountsTheSilence) {
+    be_silent_for("00:12");
+    EXPECT_EQ(label("air_silence").text(), "SILENCE depuis 00:12");
+    EXPECT_TRUE(label("air_silence").isVisible());
+}
+
+TEST_F(AirHeaderTest, IsRedWithoutASoundCard) {
+    play();
+    lose_the_card();
+    EXPECT_GT(red_share(), 0.6);
+}
+
+TEST_F(AirHeaderTest, NamesTheLostCardBesideTheRemainingTime) {
+    play();
+    lose_the_card();
+    EXPECT_TRUE(label("card_gone").isVisible());
+    EXPECT_TRUE(label("remaining").isVisible());
+}
+
+TEST_F(AirHeaderTest, TellsTheSilenceBeforeTheLostCard) {
+    lose_the_card();
+    be_silent_for("00:02");
+    EXPECT_TRUE(label("air_silence").isVisible());
+    EXPECT_FALSE(label("card_gone").isVisible());
+}
+
+TEST_F(AirHeaderTest, IsQuietOnceSoundIsBack) {
+    be_silent_for("00:02");
+    play();
+    EXPECT_LT(red_share(), 0.01);
+    EXPECT_FALSE(label("air_silence").isVisible());
+    EXPECT_TRUE(label("remaining").isVisible());
+}
+
+TEST_F(AirHeaderTest, IsReadableInAlarm) {
+    play();
+    lose_the_card();
+    for (const StationLabel* text : header().findChildren<StationLabel*>())
+        EXPECT_GE(contrast(text->palette().color(QPalette::WindowText), QColor(0xb0, 0x14, 0x1e)), 4.5)
+            << text->objectName().toStdString();
+}
+
+TEST_F(AirHeaderTest, HasRoomForItsAlarmsOnTheSmallestScreen) {
+    be_silent_for("120:02");
+    expect_whole(label("air_silence"));
+    expect_whole(label("clock"));
+    play();
+    lose_the_card();
+    expect_whole(label("card_gone"));
+    expect_whole(label("remaining"));
+}
+
+TEST_F(AirHeaderTest, MovesNothingBelowItInAlarm) {
+    play();
+    const QRect before = header().geometry();
+    be_silent_for("00:02");
+    EXPECT_EQ(header().geometry(), before);
+    lose_the_card();
+    EXPECT_EQ(header().geometry(), before);
+}
+
+} // namespace sonarelle

@@ -19,6 +19,8 @@ public:
     void reopen();
 
     [[nodiscard]] AVFormatContext& format() const { return *format_; }
+    /// The bytes that all this is read from.
+    [[nodiscard]] RecordFile& bytes() const { return *file_; }
     /// The chief stream of this kind; null when there is none.
     [[nodiscard]] AVStream* stream(AVMediaType kind) const;
 

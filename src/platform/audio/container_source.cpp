@@ -5,6 +5,7 @@
 
 #include "platform/audio/codec_session.h"
 #include "platform/audio/container_file.h"
+#include "platform/audio/top_level_chunks.h"
 #include "platform/failure.h"
 #include "platform/units.h"
 
@@ -13,6 +14,12 @@ namespace sonarelle {
 namespace {
 
 constexpr int most_damaged_packets = 1000; // in a row: then the rest of the file counts as lost
+
+// A length is looked into where the file has fewer bytes a second than this; the look begins so long before the end.
+constexpr int thinnest_sound = 500;
+constexpr std::int64_t looked_at_seconds = 1;
+// Sound is measured by decoding so much of it, which takes some tenths of a second, and then by its time stamps.
+constexpr std::int64_t decoded_seconds = 300;
 
 bool has_film(const ContainerFile& file) {
     const AVStream* pictures = file.stream(AVMEDIA_TYPE_VIDEO);
@@ -56,7 +63,7 @@ public:
 
     [[nodiscard]] std::int64_t length() override {
         if (!length_)
-            length_ = announced_length();
+            length_ = held_length();
         return *length_;
     }
 
@@ -90,6 +97,7 @@ private:
                 file_.format().streams[other]->discard = AVDISCARD_ALL;
         codec_ = CodecSession::open(*stream_->codecpar);
         position_ = discard_ = 0;
+        moved_ = false;
         ahead_ = codec_ == nullptr ? PlanarBlock{} : decode();
         return ahead_.samples > 0;
     }
@@ -160,27 +168,97 @@ private:
         return position_ + (settling_frames / 2) * *grid_ <= sample;
     }
 
-    [[nodiscard]] std::int64_t announced_length() {
+    // What the file announces, where it holds that much; else what is there.
+    [[nodiscard]] std::int64_t held_length() {
+        const auto announced = announced_length();
+        if (stream_ == nullptr)
+            return announced.value_or(0);
+        const Completeness chunks = completeness_of_chunks(file_.bytes());
+        if (announced && is_trusted(*announced, chunks))
+            return *announced;
+        const std::int64_t place = position_ + discard_;
+        const int breaks = breaks_;
+        std::int64_t held = 0;
+        if (chunks == Completeness::cut || (announced && !sounds_up_to(*announced)))
+            held = decoded_length();
+        else
+            held = announced ? *announced : counted_length();
+        rewind();
+        discard_ = place;
+        breaks_ = breaks;
+        return held;
+    }
+
+    [[nodiscard]] std::optional<std::int64_t> announced_length() const {
         const AVFormatContext& format = file_.format();
         const bool guessed = format.duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
         if (stream_ == nullptr || (!guessed && format.duration > 0))
             return av_rescale(std::max<std::int64_t>(format.duration, 0), rate_, AV_TIME_BASE);
         if (stream_->duration > 0 && !guessed)
-            return av_rescale_q(stream_->duration, stream_->time_base, AVRational{1, rate_});
-        return counted_length();
+            return in_samples(stream_->duration);
+        return std::nullopt;
     }
 
-    // The file says nothing: its packets are counted, then it stands at its start again.
+    // A film may be longer than its sound.
+    [[nodiscard]] bool is_trusted(std::int64_t announced, Completeness chunks) const {
+        const bool found_at_the_end = file_.format().duration_estimation_method == AVFMT_DURATION_FROM_PTS;
+        const bool is_thin = announced / rate_ > file_.bytes().length() / thinnest_sound;
+        return chunks != Completeness::cut &&
+               (found_at_the_end || has_pictures_ || (chunks == Completeness::whole && !is_thin));
+    }
+
+    // Decodes the end.
+    [[nodiscard]] bool sounds_up_to(std::int64_t announced) {
+        const std::int64_t from = announced - looked_at_seconds * rate_;
+        if (from <= 0 || first_stamp_ == AV_NOPTS_VALUE)
+            return false;
+        const std::int64_t stamp = first_stamp_ + av_rescale_q(from, AVRational{1, rate_}, stream_->time_base);
+        if (av_seek_frame(&file_.format(), stream_->index, stamp, AVSEEK_FLAG_BACKWARD) < 0)
+            return false;
+        codec_->reset();
+        std::int64_t end = 0;
+        for (PlanarBlock block = decode(); block.samples > 0; block = decode())
+            if (codec_->timestamp() != AV_NOPTS_VALUE)
+                end = in_samples(codec_->timestamp() - first_stamp_) + static_cast<std::int64_t>(block.samples);
+        return end + rate_ / 20 >= announced;
+    }
+
+    [[nodiscard]] std::int64_t decoded_length() {
+        rewind();
+        std::int64_t samples = 0;
+        for (PlanarBlock block = ahead_; block.samples > 0; block = decode()) {
+            samples += static_cast<std::int64_t>(block.samples);
+            if (samples > decoded_seconds * rate_)
+                return samples + stamped_rest();
+        }
+        return samples;
+    }
+
+    // From the last decoded samples to the last packet.
+    [[nodiscard]] std::int64_t stamped_rest() {
+        const std::int64_t from = codec_->timestamp();
+        std::int64_t last = from;
+        while (file_.read(stream_->index, *packet_)) {
+            if (from != AV_NOPTS_VALUE && packet_->pts != AV_NOPTS_VALUE)
+                last = std::max(last, packet_->pts);
+            av_packet_unref(packet_.get());
+        }
+        return in_samples(last - from);
+    }
+
+    // The file says nothing: its packets are counted.
     [[nodiscard]] std::int64_t counted_length() {
         rewind();
         std::int64_t samples = 0;
         while (file_.read(stream_->index, *packet_)) {
-            samples +=
-                av_rescale_q(std::max<std::int64_t>(packet_->duration, 0), stream_->time_base, AVRational{1, rate_});
+            samples += in_samples(std::max<std::int64_t>(packet_->duration, 0));
             av_packet_unref(packet_.get());
         }
-        rewind();
         return samples;
+    }
+
+    [[nodiscard]] std::int64_t in_samples(std::int64_t stamps) const {
+        return av_rescale_q(stamps, stream_->time_base, AVRational{1, rate_});
     }
 
     ContainerFile file_;

@@ -97,6 +97,13 @@ std::optional<MpegFrame> mpeg_frame(std::uint32_t word) {
     return frame;
 }
 
+std::int64_t least_mpeg_bytes(std::uint32_t word, std::uint32_t frames) {
+    constexpr std::uint32_t bit_rate_and_padding = 0xF200;
+    constexpr std::uint32_t lowest_bit_rate = 0x1000;
+    const auto frame = mpeg_frame((word & ~bit_rate_and_padding) | lowest_bit_rate);
+    return frame ? std::int64_t{frames} * static_cast<std::int64_t>(frame->bytes) : 0;
+}
+
 std::optional<MpegLengthHeader> mpeg_length_header(const MpegFrame& frame, const std::uint8_t* bytes) {
     constexpr std::size_t head = 4;
     constexpr std::size_t vbri_at = head + 32;

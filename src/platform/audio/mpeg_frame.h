@@ -30,6 +30,9 @@ struct MpegFrame {
     return ((a ^ b) & 0xFFFE0C00U) == 0;
 }
 
+/// The least that so many frames of the stream with this head take: all at its lowest bit rate.
+[[nodiscard]] std::int64_t least_mpeg_bytes(std::uint32_t word, std::uint32_t frames);
+
 /// What a length header (Xing, Info or VBRI) in the first frame announces.
 struct MpegLengthHeader {
     std::uint32_t frames = 0;    ///< Audio frames behind this one; 0 when it doesn't say.

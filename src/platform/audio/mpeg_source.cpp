@@ -75,7 +75,8 @@ private:
         return std::max<std::int64_t>(0, samples - static_cast<std::int64_t>(gaps_.start_skip + gaps_.end_padding));
     }
 
-    // A header that speaks of much less than the file holds belongs to a part of it (files that were put together).
+    // The header of a part (files that were put together) or of a whole that has lost its end tells no length, and what
+    // it says of the end isn't true of this one.
     void read_length_header() {
         const auto bytes = walk_.bytes(0);
         const auto header = bytes.empty() ? std::nullopt : mpeg_length_header(walk_.first(), bytes.data());
@@ -83,11 +84,14 @@ private:
             return;
         first_audio_ = 1;
         gaps_ = *header;
+        if (header->bytes == 0 || header->frames == 0)
+            return;
         const std::int64_t held = walk_.audio_end() - walk_.offset(0);
-        const bool of_a_part = header->bytes != 0 && held > std::int64_t{header->bytes} + header->bytes / 16 + 65536;
-        if (of_a_part)
+        const bool of_a_part = held > std::int64_t{header->bytes} + header->bytes / 16 + 65536;
+        const bool of_more = held < header->bytes || held < least_mpeg_bytes(mpeg_word(bytes.data()), header->frames);
+        if (of_a_part || of_more)
             gaps_.end_padding = 0;
-        else if (header->frames != 0)
+        else
             length_ = length_of(header->frames);
     }
 

@@ -33,7 +33,8 @@ public:
     [[nodiscard]] virtual int channels() const = 0;
     [[nodiscard]] virtual bool has_pictures() const { return false; }
 
-    /// The announced length in samples of `rate`, exact where the format allows. May have to read the whole file.
+    /// The length in samples of `rate`, exact where the format allows: the announced one where the file holds that
+    /// much, else that of the sound that is there. May have to read the whole file.
     /// @throws Failure 57 when the disk fails.
     [[nodiscard]] virtual std::int64_t length() = 0;
 

@@ -263,6 +263,16 @@ TEST_F(SliderBindings, ValueIsShownAndIsNoEvent) {
     EXPECT_EQ(events, 0);
 }
 
+TEST_F(SliderBindings, KeysMoveItByOneAndTheGrooveByFive) {
+    Slider slider{window, "s", 0, 20};
+    QSlider widget;
+    const SliderBinding binding{slider, widget, services};
+    widget.triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(slider.value(), 5);
+    widget.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(slider.value(), 6);
+}
+
 TEST_F(SliderBindings, MovingItChangesTheControl) {
     Slider slider{window, "s", 0, 20};
     int changes = 0;

@@ -9,6 +9,8 @@ namespace sonarelle {
 
 SliderBinding::SliderBinding(Slider& slider, QSlider& widget, const DesktopServices& services)
     : Binding{slider, widget, services}, slider_{slider}, handle_{widget} {
+    handle_.setSingleStep(1);
+    handle_.setPageStep(5);
     connect(&handle_, &QSlider::valueChanged, this, [this](int value) { run([&] { slider_.set_value(value); }); });
 }
 

@@ -23,11 +23,6 @@ bool is_on(DeckRole main) {
     return main == DeckRole::on_air || main == DeckRole::paused;
 }
 
-std::string name_without_ending(std::string_view path) {
-    const std::string_view name = name_of_path(path);
-    return std::string{name.substr(0, name.rfind('.'))};
-}
-
 bool is_drawn(const Desk& desk) {
     return !desk.chain.ordre_aleatoire.is_false() || desk.chain.jingles_aleatoires.is_true() ||
            desk.settings.valide_fichier_aleatoire1.is_true();
@@ -46,6 +41,11 @@ std::string path_in_list_order(const Desk& desk) {
 }
 
 } // namespace
+
+std::string name_without_ending(std::string_view path) {
+    const std::string_view name = name_of_path(path);
+    return std::string{name.substr(0, name.rfind('.'))};
+}
 
 DeckRole role_of(const Desk& desk, const Deck& deck) {
     const bool is_main = deck.number() == desk.chain.lecteur_en_cours.value();
@@ -66,16 +66,32 @@ bool waits_for_special_mix(const Desk& desk) {
            desk.chain.lecteur_mix_special != 0;
 }
 
-std::string name_on_air(Desk& desk) {
-    return is_on(main_role(desk)) ? name_without_ending(desk.main_deck().path) : std::string{};
+const Deck* deck_on_air(Desk& desk) {
+    if (is_on(main_role(desk)))
+        return &desk.main_deck();
+    const auto* heard = std::ranges::find_if(desk.decks, [](const Deck& deck) { return deck.sounds(); });
+    return heard == desk.decks.end() ? nullptr : heard;
 }
 
+DeckRole air_role(Desk& desk) {
+    const Deck* deck = deck_on_air(desk);
+    return deck == nullptr ? main_role(desk) : role_of(desk, *deck);
+}
+
+std::string name_on_air(Desk& desk) {
+    const Deck* deck = deck_on_air(desk);
+    return deck == nullptr ? std::string{} : name_without_ending(deck->path);
+}
+
+// A deck that sounds beside the main one plays its file out.
 int seconds_left(Desk& desk) {
+    const Deck* deck = deck_on_air(desk);
     int left = 0;
-    if (is_on(main_role(desk))) {
-        const Deck& deck = desk.main_deck();
-        ErrorIndicator{}.skip([&] { left = deck.end_point().value() - deck.whole_position().value(); });
-    }
+    ErrorIndicator{}.skip([&] {
+        if (deck != nullptr)
+            left = ((is_on(main_role(desk)) ? deck->end_point() : deck->whole_duration()) - deck->whole_position())
+                       .value();
+    });
     return std::max(0, left);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "playout/desk.h"
 
@@ -22,6 +23,14 @@ enum class DeckRole {
 
 /// Whether the chain stands still until a special mix has ended.
 [[nodiscard]] bool waits_for_special_mix(const Desk& desk);
+
+/// The deck that the air is told by: the main one while it plays or is paused, else another that sounds, else none.
+[[nodiscard]] const Deck* deck_on_air(Desk& desk);
+/// Its role; that of the main deck in silence.
+[[nodiscard]] DeckRole air_role(Desk& desk);
+
+/// How a file is named to the operator.
+[[nodiscard]] std::string name_without_ending(std::string_view path);
 
 /// The name of the file on the air, without its ending; empty for none.
 [[nodiscard]] std::string name_on_air(Desk& desk);

@@ -106,6 +106,32 @@ TEST_F(AirView, NothingIsOnTheAirBehindTheEndOfTheFile) {
     EXPECT_EQ(seconds_left(station.desk), 0);
 }
 
+TEST_F(AirView, DeckThatStillSoundsIsTheAirWhenTheMainOneIsStopped) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(196));
+    controls(2).stop.click();
+    EXPECT_EQ(air_role(station.desk), DeckRole::heard);
+    EXPECT_EQ(name_on_air(station.desk), "titre 1");
+    EXPECT_EQ(seconds_left(station.desk), 4);
+}
+
+TEST_F(AirView, MainDeckIsTheAirBesideOneThatFades) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(196));
+    EXPECT_EQ(air_role(station.desk), DeckRole::on_air);
+    EXPECT_EQ(name_on_air(station.desk), "titre 2");
+}
+
+TEST_F(AirView, SilenceIsTheMainDecksRole) {
+    open_tracks({200, 200, 200});
+    start_list();
+    controls(1).stop.click();
+    EXPECT_EQ(air_role(station.desk), DeckRole::ended);
+    EXPECT_EQ(deck_on_air(station.desk), nullptr);
+}
+
 TEST_F(AirView, AnItemThatHasRunOutIsNotHeard) {
     open_tracks({10, 100, 100});
     start_list();

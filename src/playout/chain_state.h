@@ -51,9 +51,9 @@ struct ChainState {
     Flag choix_prepare;          ///< The load step has drawn the next row already.
     Flag chargement_fait;        ///< The load step has loaded the next deck.
     Integer nb_fichiers_ecoutes; ///< Tracks started.
+    bool overflow_noted = false; ///< The journal has that they are more than a counter holds.
     Integer position_zap;        ///< Position of the incoming deck at the last operator zap, whole seconds.
-    Integer lecteur_mix_special; ///< The deck of the special mix.
-    Flag demande_ajout;          ///< A track has started since the last insertion.
+    Integer lecteur_mix_special; ///< The deck of the special mix; 0 for none.
     Integer compteur_aleatoire;  ///< Tracks started since the last jingle.
     Integer compteur_aleatoire1;
 

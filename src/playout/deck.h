@@ -18,6 +18,9 @@ namespace sonarelle {
     return (deck + 1) % 3 + 1;
 }
 
+/// Seconds of the shortest file that is taken for a track.
+inline constexpr double shortest_good_file = 1.0;
+
 /// Whether a file's ending is one of pictures. A stop closes, and the start of a list opens, the video window of the
 /// classic ones alone; any other start opens it for all.
 [[nodiscard]] bool has_video_ending(std::string_view extension);

@@ -13,7 +13,6 @@ namespace sonarelle {
 
 namespace {
 
-constexpr double shortest_good_file = 1.0;
 constexpr std::string_view network_genre = "réseau";
 constexpr std::string_view media_filter =
     "fichier multimédia |*.mp3;*.wav;*.wma;*.mid;*.avi;*.mpg|fichier (*.mp3)|*.mp3|fichier (*.wav)|*.wav|"

@@ -1,10 +1,19 @@
 #include "playout/deck_start.h"
 
+#include <cstdint>
+#include <utility>
+
 namespace sonarelle {
 
 namespace {
 
-constexpr double shortest_good_file = 1.0;
+/// A counter that is full stays so; false then.
+bool count_up(Integer& counter) {
+    if (counter == INT16_MAX)
+        return false;
+    counter += 1;
+    return true;
+}
 
 } // namespace
 
@@ -59,9 +68,9 @@ void DeckStart::set_end_point(Deck& deck) {
     deck.controls.counter.caption = loading_.end_point_text(deck, deck.fin_piste);
     if (chain.mode_enchainement.is_true()) {
         if (desk_.settings.valide_fichier_aleatoire.is_true())
-            chain.compteur_aleatoire += 1;
+            count_up(chain.compteur_aleatoire);
         if (desk_.settings.valide_fichier_aleatoire1.is_true())
-            chain.compteur_aleatoire1 += 1;
+            count_up(chain.compteur_aleatoire1);
         desk_.window.Timer2.disable();
     } else {
         desk_.window.Timer2.enable();
@@ -111,8 +120,7 @@ void DeckStart::show_names(Deck& deck) {
 }
 
 void DeckStart::show_main_deck(Deck& deck) {
-    desk_.chain.nb_fichiers_ecoutes += 1;
-    desk_.chain.demande_ajout = true;
+    count_track();
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
     desk_.window.Label7.caption = desk_.station_banner();
@@ -125,6 +133,12 @@ void DeckStart::show_main_deck(Deck& deck) {
                   desk_.settings.mix_courant.value(),
                   desk_.settings.prechargement.value(),
                   {}});
+}
+
+// A station is on the air for longer than the counter lasts.
+void DeckStart::count_track() {
+    if (!count_up(desk_.chain.nb_fichiers_ecoutes) && !std::exchange(desk_.chain.overflow_noted, true))
+        journal_.note("Nb_de_fichier_écouté : " + std::string{failure_description(failure_number::overflow)});
 }
 
 // The next deck in the ring is the one that the ring left two steps ago: its sound ends here.

@@ -43,6 +43,7 @@ private:
     void run(Deck& deck);
     void show_names(Deck& deck);
     void show_main_deck(Deck& deck);
+    void count_track();
     void release_ring(Deck& deck);
     void silence(Deck& deck);
 

@@ -68,6 +68,7 @@ private:
     void leave_load_step();
 
     void list_tick();
+    void special_mix_tick();
     void show_list_progress(Deck& deck, Integer mix_point);
     void mix_point(Deck& deck, Integer point);
     /// Where the search for the row behind a track begins; from there it goes on in list order.
@@ -89,6 +90,7 @@ private:
     void deck_tick();
     void manual_display();
     [[nodiscard]] bool is_due(Deck& deck, Integer point);
+    void show_deck_progress(Deck& deck);
     void play_ring(int deck);
 
     void overlap_tick();

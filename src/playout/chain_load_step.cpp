@@ -2,6 +2,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playout/air_view.h"
 #include "playout/auto_chain.h"
 
 namespace sonarelle {
@@ -58,12 +59,13 @@ void AutoChain::load_step() {
     if (chain.jingles_aleatoires.is_true() || desk_.settings.valide_fichier_aleatoire1.is_true())
         return;
     chain.point_chargement = chain.duree_lecteur - (desk_.settings.mix_courant + desk_.settings.prechargement);
-    if (!desk_.has_main_deck() || load_walk_.under_way() || chain.point_chargement != desk_.elapsed())
+    if (!desk_.has_main_deck() || waits_for_special_mix(desk_) || load_walk_.under_way() ||
+        chain.point_chargement != desk_.elapsed())
         return leave_load_step();
     desk_.warning.hide();
     const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
     const auto wanted = [this, main = chain.lecteur_en_cours] {
-        return loads_ahead() && desk_.chain.lecteur_en_cours == main;
+        return loads_ahead() && !waits_for_special_mix(desk_) && desk_.chain.lecteur_en_cours == main;
     };
     load_walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, wanted, trap);
     leave_load_step();

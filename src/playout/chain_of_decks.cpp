@@ -24,6 +24,8 @@ void AutoChain::deck_tick() {
         desk_.window.Active_audio_zapping.checked = false;
         if (mix_.serve_special_mix())
             desk_.window.Active_audio_zapping.checked = true;
+        if (desk_.has_main_deck() && desk_.main_deck().has_graph())
+            show_deck_progress(desk_.main_deck());
         return;
     }
     if (!desk_.has_main_deck()) {
@@ -31,13 +33,9 @@ void AutoChain::deck_tick() {
         return;
     }
     Deck& deck = desk_.main_deck();
-    const Integer position = deck.whole_position();
-    desk_.window.Label5.caption = text_of(position);
-    deck.controls.progress.value = position.value();
-    if (position == desk_.settings.prechargement)
+    show_deck_progress(deck);
+    if (deck.whole_position() == desk_.settings.prechargement)
         deck.controls.zap.enabled = true;
-    if (position != 0)
-        desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
     // A file that is shorter than its overlap has no mix point: its end is what the next one follows.
     if (point <= 0 && deck.controls.progress.percent() != 100)
@@ -51,6 +49,14 @@ void AutoChain::deck_tick() {
         play_ring(deck.number());
     else
         desk_.list_window.Label16.caption = "Play " + deck.name() + " Mix lecteur";
+}
+
+void AutoChain::show_deck_progress(Deck& deck) {
+    const Integer position = deck.whole_position();
+    desk_.window.Label5.caption = text_of(position);
+    deck.controls.progress.value = position.value();
+    if (position != 0)
+        desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
 }
 
 bool AutoChain::is_due(Deck& deck, Integer point) {
@@ -124,6 +130,7 @@ void AutoChain::fade(Deck& old) {
 }
 
 void AutoChain::release(Deck& main, Deck& old) {
+    mix_.leave_special_mix(old);
     old.controls.title.caption = std::string{waiting_title};
     if (old.has_graph()) {
         old.graph().Stop();

@@ -7,12 +7,19 @@ namespace sonarelle {
 
 void AutoChain::Timer4_tick() {
     if (desk_.window.Active_audio_jingles.checked) {
-        trap_of(desk_.window.Timer4, "T4")([this] { mix_.serve_special_mix(); });
+        trap_of(desk_.window.Timer4, "T4")([this] { special_mix_tick(); });
         return;
     }
     if (desk_.chain.chaine_suspendue.is_true() || mix_walk_.under_way())
         return;
     trap_of(desk_.window.Timer4, "T4")([this] { list_tick(); });
+}
+
+// The chain stands still, and the desk goes on showing where the track on the air is.
+void AutoChain::special_mix_tick() {
+    mix_.serve_special_mix();
+    if (desk_.has_main_deck() && desk_.main_deck().has_graph())
+        show_list_progress(desk_.main_deck(), desk_.main_deck().end_point() - desk_.settings.mix_courant);
 }
 
 void AutoChain::list_tick() {

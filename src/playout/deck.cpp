@@ -39,6 +39,7 @@ bool Deck::sounds() const {
 }
 
 void Deck::create_graph() {
+    tell_that_graph_leaves();
     close_video();
     graph_ = media_.create_graph();
     end_pause();
@@ -46,10 +47,22 @@ void Deck::create_graph() {
 
 // The video window holds on to the graph, which is silent all the same once it is dropped.
 void Deck::drop_graph() {
+    tell_that_graph_leaves();
     if (graph_ != nullptr && video_ != nullptr)
         graph_->Stop();
     graph_.reset();
     end_pause();
+}
+
+void Deck::forget_record() {
+    fin_piste.clear();
+    debut_piste = 0;
+    volume_piste.reset();
+}
+
+void Deck::tell_that_graph_leaves() const {
+    if (on_graph_leaves)
+        on_graph_leaves();
 }
 
 void Deck::end_pause() {

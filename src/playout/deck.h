@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,20 +58,27 @@ public:
     [[nodiscard]] Integer whole_position() const { return to_integer(Fix(graph().get_CurrentPosition())); }
     [[nodiscard]] Integer whole_duration() const { return to_integer(Fix(graph().get_Duration())); }
 
+    /// The file on the deck belongs to no record: it plays from its beginning to its end, as loud as the slider says.
+    void forget_record();
+
     /// The end point that the counter shows. @throws Failure 13 for a text that is none.
     [[nodiscard]] Integer end_point() const { return end_point_to_integer(controls.counter.caption.get()); }
 
     DeckControls& controls;
     std::string& path;
-    std::string fin_piste;   ///< End of play of the record on the deck, seconds as text; empty without a record.
-    double debut_piste = 0;  ///< Start of play of that record, seconds.
-    std::string duree_piste; ///< Whole seconds of the file, as text.
-    Flag pause_lecteur;      ///< The deck is paused.
-    Integer mix_en_cours;    ///< Not 0 while the deck runs a special mix.
-    Integer volume_sauve;    ///< Slider value that comes back after a special mix.
+    std::string fin_piste;  ///< End of play of the record on the deck, seconds as text; empty without a record.
+    double debut_piste = 0; ///< Start of play of that record, seconds.
+    std::optional<Integer> volume_piste; ///< Its attenuation, hundredths of a decibel; none without a record.
+    std::string duree_piste;             ///< Whole seconds of the file, as text.
+    Flag pause_lecteur;                  ///< The deck is paused.
+    Integer mix_en_cours;                ///< Not 0 while the deck runs a special mix.
+    Integer volume_sauve;                ///< Slider value that comes back after a special mix.
+    /// The graph is about to go, for a new one or for none.
+    std::function<void()> on_graph_leaves;
 
 private:
     void end_pause();
+    void tell_that_graph_leaves() const;
 
     Media& media_;
     std::shared_ptr<MediaGraph> graph_;

@@ -124,7 +124,6 @@ void DeckStart::show_main_deck(Deck& deck) {
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
     desk_.window.Label7.caption = desk_.station_banner();
-    mix_.leave_special_mix(deck);
     desk_.report({OnAirEvent::Kind::started,
                   deck.number(),
                   desk_.list.index_en_cours.value(),
@@ -156,9 +155,9 @@ void DeckStart::release_ring(Deck& deck) {
 
 /// A deck whose track is cut short goes back to its beginning: where the bar stands behind it no deck starts.
 void DeckStart::silence(Deck& deck) {
+    const bool moved = deck.controls.progress.value != 0;
     mix_.release(deck);
-    mix_.leave_special_mix(deck);
-    if (deck.controls.progress.value == 0)
+    if (!moved)
         return;
     clear_display(deck);
     deck.controls.title.caption = std::string{waiting_title};

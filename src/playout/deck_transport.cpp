@@ -17,7 +17,6 @@ void DeckTransport::stop(Deck& deck) {
         return;
     deck.controls.title.caption = std::string{waiting_title};
     start_.clear_display(deck);
-    deck.mix_en_cours = 0;
     desk_.window.Timer3.disable();
     rewind(deck);
     if (desk_.window.coche2.value())
@@ -28,11 +27,11 @@ void DeckTransport::stop(Deck& deck) {
     desk_.chain.index_debut_aleatoire = desk_.chain.index_debut_aleatoire1 = 0;
     desk_.window.caption = desk_.settings.nom_radio + desk_.list.chemin_fichier;
     if (desk_.chain.mode_enchainement.is_true()) {
+        mix_.end_special_mix();
         desk_.window.Active_audio_jingles.checked = false;
         desk_.window.Timer4.enable();
-    } else if (desk_.window.Active_audio_jingles.checked && desk_.chain.lecteur_mix_special == deck.number()) {
-        // The chain over decks waits for the end of the mix, and its deck won't come to it any more.
-        check_only(desk_.window.fade_rules(), desk_.window.Active_audio_zapping);
+    } else {
+        mix_.leave_special_mix(deck);
     }
     desk_.list_window.Label13.enabled = true;
 }

@@ -4,14 +4,15 @@
 #include "playout/deck_start.h"
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
+#include "playout/mix_engine.h"
 
 namespace sonarelle {
 
 /// Stop, pause, seek and unload of a deck by hand.
 class DeckTransport {
 public:
-    DeckTransport(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume)
-        : desk_{desk}, loading_{loading}, start_{start}, volume_{volume} {}
+    DeckTransport(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix)
+        : desk_{desk}, loading_{loading}, start_{start}, volume_{volume}, mix_{mix} {}
 
     void stop(Deck& deck);
     /// Pauses a deck that runs, resumes any other. A paused deck stops the clock tick of the window.
@@ -38,6 +39,7 @@ private:
     DeckLoading& loading_;
     DeckStart& start_;
     DeckVolume& volume_;
+    MixEngine& mix_;
 };
 
 } // namespace sonarelle

@@ -1,12 +1,19 @@
 #include "playout/mix_engine.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "configuration/settings_store.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
+#include "playout/air_view.h"
 
 namespace sonarelle {
+
+MixEngine::MixEngine(Desk& desk, DeckVolume& volume) : desk_{desk}, volume_{volume} {
+    for (Deck& deck : desk_.decks)
+        deck.on_graph_leaves = [this, &deck] { leave_special_mix(deck); };
+}
 
 bool MixEngine::is_mode_defined() const {
     return desk_.chain.mode_enchainement.is_true() || desk_.chain.mode_enchainement.is_false();
@@ -87,14 +94,17 @@ void MixEngine::store_overlap() {
 void MixEngine::coche4_Click() {
     const bool on = desk_.window.coche4.value() == 1;
     desk_.window.Timer1.set_enabled(on);
-    if (!on)
-        desk_.chain.point_chargement = 0;
     desk_.settings.prechargement = on ? desk_.settings.prechargement_defaut : Integer{0};
     show_hints();
 }
 
+void MixEngine::choose_rule(MenuItem& rule) {
+    end_special_mix();
+    check_only(desk_.window.fade_rules(), rule);
+}
+
 void MixEngine::Désactive_audio_Click() {
-    check_only(desk_.window.fade_rules(), desk_.window.Désactive_audio);
+    choose_rule(desk_.window.Désactive_audio);
     desk_.chain.mode_enchainement = false;
     desk_.window.Timer2.disable();
 }
@@ -126,32 +136,54 @@ void MixEngine::special_mix(Deck& deck) {
 void MixEngine::start_special_mix(Deck& deck) {
     deck.controls.pause.enabled = true;
     deck.graph().RenderFile(deck.path);
+    end_special_mix();
     const std::string whole = text_of(deck.whole_duration());
     deck.controls.counter.caption = whole;
     deck.controls.progress.maximum = deck.whole_duration().value();
+    volume_.adjust(deck);
     volume_.vol_pour_mix_spc();
     desk_.chain.lecteur_mix_special = deck.number();
     deck.graph().Run();
     deck.controls.progress.caption = "Mixage spécial en cours (" + whole + " S)";
     Active_audio_jingles_Click();
     desk_.chain.ecoute_demandee = false;
-    desk_.window.caption = desk_.settings.nom_radio + " : " + deck.path;
     desk_.window.Label7.caption = desk_.station_banner();
     deck.mix_en_cours = 1;
     deck.controls.special_mix.enabled = false;
+    warn_of_long_mix(deck);
 }
 
-void MixEngine::leave_special_mix(Deck& deck) {
-    if (deck.mix_en_cours == 0)
+void MixEngine::warn_of_long_mix(const Deck& deck) {
+    if (main_role(desk_) != DeckRole::on_air || !waits_for_special_mix(desk_))
         return;
+    const Deck& main = desk_.main_deck();
+    const Integer left = main.end_point() - desk_.settings.mix_courant - main.whole_position();
+    if (left > 0 && deck.whole_duration() > left)
+        desk_.warn("Le mixage spécial dure " + text_of(deck.whole_duration()) +
+                   " s\nLe titre à l'antenne s'enchaîne dans " + text_of(left) +
+                   " s\nLa suite attendra la fin du mixage");
+}
+
+void MixEngine::end_special_mix() {
+    const Integer number = std::exchange(desk_.chain.lecteur_mix_special, 0);
+    if (number < 1 || number > 3)
+        return;
+    Deck& deck = desk_.deck(number.value());
     deck.mix_en_cours = 0;
+    deck.controls.progress.value = 0;
     deck.controls.progress.caption = "";
     deck.controls.special_mix.enabled = true;
-    if (!desk_.window.Active_audio_jingles.checked || desk_.chain.lecteur_mix_special != deck.number())
+    volume_.vol_pour_stop();
+    if (!desk_.window.Active_audio_jingles.checked)
         return;
     desk_.window.Active_audio_jingles.checked = false;
     if (!desk_.chain.mode_enchainement.is_true())
-        Active_audio_zapping_Click();
+        desk_.window.Active_audio_zapping.checked = true;
+}
+
+void MixEngine::leave_special_mix(const Deck& deck) {
+    if (desk_.chain.lecteur_mix_special == deck.number())
+        end_special_mix();
 }
 
 bool MixEngine::serve_special_mix() {
@@ -164,12 +196,7 @@ bool MixEngine::serve_special_mix() {
     deck.controls.progress.value = deck.whole_position().value();
     if (deck.whole_duration() != deck.whole_position())
         return false;
-    deck.controls.progress.value = 0;
-    deck.controls.progress.caption = "";
-    deck.controls.special_mix.enabled = true;
-    deck.mix_en_cours = 0;
-    volume_.vol_pour_stop();
-    desk_.window.Active_audio_jingles.checked = false;
+    end_special_mix();
     return true;
 }
 

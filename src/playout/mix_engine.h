@@ -9,7 +9,7 @@ namespace sonarelle {
 /// mix: a second file over the main deck, which is lowered meanwhile.
 class MixEngine {
 public:
-    MixEngine(Desk& desk, DeckVolume& volume) : desk_{desk}, volume_{volume} {}
+    MixEngine(Desk& desk, DeckVolume& volume);
 
     /// Sets overlap and load lead from the main deck's end point.
     /// @throws Failure 13 for an end point that is no number.
@@ -30,8 +30,9 @@ public:
     void coche4_Click();
 
     void Active_audio_jingles_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_jingles); }
-    void Active_audio_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio); }
-    void Active_audio_zapping_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_zapping); }
+    /// Another rule ends the special mix, which goes by the first one.
+    void Active_audio_Click() { choose_rule(desk_.window.Active_audio); }
+    void Active_audio_zapping_Click() { choose_rule(desk_.window.Active_audio_zapping); }
     void Désactive_audio_Click();
 
     /// Drops the graph of the deck before the main one at once: no overlap.
@@ -39,10 +40,13 @@ public:
     /// Drops a deck's graph. One that still sounds is cut, which is reported.
     void release(Deck& deck);
 
-    /// The special mix of a deck over the main one; a deck isn't mixed over itself.
+    /// The special mix of a deck over the main one; a deck isn't mixed over itself. One that is under way on another
+    /// deck ends, and its sound plays out.
     void special_mix(Deck& deck);
-    /// A deck that is started or silenced mixes nothing over the main one any more: the chain goes on.
-    void leave_special_mix(Deck& deck);
+    /// Ends the special mix, however it comes about: the main deck has its volume again, the chain goes on.
+    void end_special_mix();
+    /// Ends it when it is that of this deck.
+    void leave_special_mix(const Deck& deck);
     /// What a tick of the chain does while a special mix runs. Returns true when it ended with this tick, or there was
     /// none to serve.
     bool serve_special_mix();
@@ -54,6 +58,8 @@ public:
 
 private:
     void change_overlap(int step);
+    void choose_rule(MenuItem& rule);
+    void warn_of_long_mix(const Deck& deck);
     void start_special_mix(Deck& deck);
     void show_overlap();
     void store_overlap();

@@ -87,17 +87,6 @@ TEST_F(ChainFaultsTest, ItemTooShortForALoadStepBeforeAMissingFileGoesOn) {
     EXPECT_EQ(rows().count(), 2);
 }
 
-TEST_F(ChainFaultsTest, LostGraphOfASpecialMixStopsTheListAloud) {
-    open_tracks({100, 100});
-    start_list();
-    machine.add_track("C:\\jingle.mp3", 5);
-    station.chain.chemin_lecture3 = "C:\\jingle.mp3";
-    controls(3).special_mix.click();
-    station.main_window.A_décharge_3.click();
-    play_for(2);
-    EXPECT_EQ(warning().substr(0, 21), "ATTENTION ERREUR ! T4");
-}
-
 TEST_F(ChainFaultsTest, FaultOfTheFadeLeavesTheListRunning) {
     open_tracks({100, 100, 100});
     start_list();
@@ -296,6 +285,21 @@ TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneOfLessThanASecond) 
     play_for(10);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
     EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, ARowBehindOneWhoseShareDoesNotAnswerIsTaken) {
+    const std::string silent = R"(\\serveur\son\a.mp3)";
+    const std::string sound = R"(\\serveur\son\b.mp3)";
+    machine.disk.add_drive(R"(\\serveur\son)");
+    for (const std::string& path : {track(1), silent, sound})
+        machine.add_track(path, 100);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of(track(1), "100"), record_of(silent, "100"), record_of(sound, "100")});
+    rows().select(1);
+    start_list();
+    machine.disk.refuse(silent, failure_number::device_fault);
+    play_for(110);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
 TEST_F(ChainFaultsTest, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnswer) {

@@ -33,6 +33,8 @@ const SimulatedMedia::File& SimulatedMedia::open(std::string_view path) {
         const bool missing = failure.number == failure_number::file_not_found ||
                              failure.number == failure_number::path_not_found ||
                              failure.number == failure_number::device_unavailable;
+        if (failure.number == failure_number::device_fault)
+            throw;
         throw Failure{missing ? failure_number::file_not_found : failure_number::unplayable_file, std::string{path}};
     }
     const auto known = files_.find(lower_case(disk_.absolute(path)));

@@ -6,6 +6,8 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playlist/volume_table.h"
+#include "playout/air_view.h"
 #include "playout/duration_text.h"
 #include "playout/mix_engine.h"
 
@@ -34,7 +36,9 @@ void DeckLoading::load_record(Deck& deck) {
         deck.controls.title.caption = "Non trouvé";
         return;
     }
-    take_start(deck);
+    take_record(deck);
+    DestinationRecord& record = desk_.destination;
+    deck.volume_piste = attenuation_of_percent(record.dest_volume.value()).value_or(record.dest_volume.value());
     desk_.chain.nom_fichier_source = deck.path;
     nom_du_fich();
     ErrorIndicator errors;
@@ -43,7 +47,7 @@ void DeckLoading::load_record(Deck& deck) {
     errors.skip([&] { format_duration(); });
     formate_nom();
     show_loaded(deck);
-    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    errors.skip([&] { show_length(deck); });
     if (desk_.chain.duree_mesuree < shortest_good_file)
         return;
     set_bar(deck);
@@ -70,7 +74,7 @@ void DeckLoading::render_from_list(Deck& deck) {
     nom_du_fich();
     deck.graph().RenderFile(deck.path);
     chain.duree_mesuree = deck.graph().get_Duration();
-    take_start(deck);
+    take_record(deck);
     deck.fin_piste = desk_.destination.dest_fin;
     deck.duree_piste = text_of(deck.whole_duration());
     if (!desk_.list_window.Option4.value() && chain.mode_enchainement.is_true())
@@ -95,9 +99,19 @@ void DeckLoading::render_from_list(Deck& deck) {
 }
 
 // Other records are read while this one waits on its deck. What a hand loads plays to its end.
-void DeckLoading::take_start(Deck& deck) {
+void DeckLoading::take_record(Deck& deck) {
     deck.debut_piste = desk_.destination.dest_debut;
     deck.fin_piste.clear();
+    deck.volume_piste = desk_.destination.dest_volume;
+}
+
+void DeckLoading::show_length(Deck& deck) {
+    deck.controls.counter.caption = deck.duree_piste = text_of(deck.whole_duration());
+}
+
+double DeckLoading::length_of(const std::string& path) const {
+    const std::shared_ptr<MediaGraph> graph = desk_.platform.media.create_graph();
+    return ErrorIndicator{}.skip([&] { graph->RenderFile(path); }) ? graph->get_Duration() : 0;
 }
 
 std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_record) const {
@@ -124,7 +138,7 @@ void DeckLoading::charge_() {
     desk_.chain.nom_fichier_source = deck.path;
     nom_du_fich();
     deck.controls.title.caption = desk_.destination.dest_nom_fichier + " - ";
-    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    errors.skip([&] { show_length(deck); });
     if (deck.graph().get_Duration() >= shortest_good_file)
         set_bar(deck);
 }
@@ -143,7 +157,7 @@ void DeckLoading::charge_lire(const std::string& path) {
         failure = refused;
     }
     ErrorIndicator errors;
-    errors.skip([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    errors.skip([&] { show_length(deck); });
     if (deck.graph().get_Duration() < shortest_good_file) {
         desk_.platform.dialogs.MsgBox(
             {path + " Ne peut ouvrir " + failure.description, std::string{application_title}, Buttons::ok, Icon::stop});
@@ -186,7 +200,7 @@ void DeckLoading::open_by_hand(Deck& deck) {
     show_loaded(deck);
     desk_.chain.duree_piste_texte.clear();
     volume_.adjust(deck);
-    attempt([&] { deck.controls.counter.caption = text_of(deck.whole_duration()); });
+    attempt([&] { show_length(deck); });
     if (desk_.chain.duree_mesuree < shortest_good_file)
         report_failed_open(deck, pending);
     else

@@ -45,6 +45,9 @@ public:
     /// Looks for the destination record's file in its folder; the deck's path is empty when it isn't there.
     void recup_path(Deck& deck);
 
+    /// Seconds of a file, which is opened beside the decks; 0 for one that can't be played.
+    [[nodiscard]] double length_of(const std::string& path) const;
+
     /// The end point that a deck's counter shows by the reading options in force.
     [[nodiscard]] std::string end_point_text(Deck& deck, const std::string& end_of_record) const;
 
@@ -59,8 +62,9 @@ public:
 
 private:
     void render_from_list(Deck& deck);
-    /// The destination record's start is that of the deck's file; an end it has none yet.
-    void take_start(Deck& deck);
+    /// The destination record's start and volume are those of the deck's file; an end it has none yet.
+    void take_record(Deck& deck);
+    void show_length(Deck& deck);
     void show_loaded(Deck& deck);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);

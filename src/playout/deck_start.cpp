@@ -38,13 +38,15 @@ void DeckStart::play(Deck& deck) {
     deck.graph().RenderFile(deck.path); // before all else: the main deck stays when the file can't be played
     arrange_buttons(deck);
     desk_.chain.lecteur_en_cours = deck.number();
-    volume_.apply_record(deck);
+    volume_.apply_start(deck);
     set_end_point(deck);
     run(deck);
     show_names(deck);
     show_main_deck(deck);
     if (!desk_.is_manual())
         release_ring(deck);
+    // Behind the release: what still sounds there ends as quietly as it was.
+    desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);
 }
 
 void DeckStart::arrange_buttons(Deck& deck) {
@@ -88,7 +90,6 @@ void DeckStart::run(Deck& deck) {
         deck.graph().put_CurrentPosition(deck.debut_piste);
     }
     mix_.Choix_mix();
-    desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);
     // The first deck's interval is set when its chain over decks begins, the others' at each start.
     if (deck.number() != 1 || !desk_.chain.mode_enchainement.is_true())
         desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);

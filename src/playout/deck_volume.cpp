@@ -30,10 +30,7 @@ DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
     : desk_{desk}, reload_list_{std::move(reload_list)} {}
 
 void DeckVolume::adjust(Deck& deck) {
-    if (!deck.has_graph())
-        return;
-    ErrorIndicator errors;
-    errors.skip([&] {
+    ErrorIndicator{}.skip([&] {
         deck.graph().put_Volume(Millibel{attenuation_of_slider(deck.controls.slider.value())});
         desk_.destination.dest_volume = deck.graph().get_Volume().count();
     });
@@ -57,6 +54,13 @@ void DeckVolume::apply_record(Deck& deck) {
         deck.graph().put_Volume(Millibel{attenuation});
     });
     show(deck);
+}
+
+void DeckVolume::apply_start(Deck& deck) {
+    if (!deck.volume_piste || desk_.window.coche2.value())
+        return adjust(deck);
+    desk_.destination.dest_volume = *deck.volume_piste;
+    apply_record(deck);
 }
 
 void DeckVolume::vol_pour_stop() {

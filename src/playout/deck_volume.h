@@ -16,7 +16,7 @@ public:
     void AdjustVolume() { adjust(desk_.deck(1)); }
     void AdjustVolume1() { adjust(desk_.deck(2)); }
     void AdjustVolume2() { adjust(desk_.deck(3)); }
-    /// Slider to graph and texts. A file without sound is passed over.
+    /// Slider to texts, and to the graph where there is one. A file without sound is passed over.
     void adjust(Deck& deck);
 
     void SetSliderText() { show(desk_.deck(1)); }
@@ -31,6 +31,9 @@ public:
     /// Volume of the destination record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves
     /// the slider where it is.
     void apply_record(Deck& deck);
+
+    /// How loud a deck begins: as its record says, else as its slider stands.
+    void apply_start(Deck& deck);
 
     /// Gives the main deck's slider back the value that it had before a special mix.
     void vol_pour_stop();

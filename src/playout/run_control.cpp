@@ -46,7 +46,7 @@ void RunControl::start_first_deck() {
     desk_.chain.lecteur_en_cours = 1;
     deck.graph().RenderFile(deck.path);
     deck.graph().put_CurrentPosition(deck.debut_piste);
-    volume_.apply_record(deck);
+    volume_.apply_start(deck);
     mix_.Choix_mix();
     deck.graph().Run();
     desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off

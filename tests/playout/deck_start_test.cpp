@@ -1,0 +1,129 @@
+#include "playout/deck_start.h"
+
+#include "playout/chain_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using Kind = OnAirEvent::Kind;
+
+using DeckStartTest = ChainBench;
+
+int count_of(const std::string& text, std::string_view part) {
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+} // namespace
+
+TEST_F(DeckStartTest, CounterThatIsFullStaysAndTheListGoesOn) {
+    open_tracks({100, 100, 100});
+    start_list();
+    station.chain.nb_fichiers_ecoutes = 32766;
+    machine.run_for(seconds(300));
+    EXPECT_EQ(station.chain.nb_fichiers_ecoutes, 32767);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3, 1}));
+}
+
+TEST_F(DeckStartTest, CounterThatIsFullIsJournalledOnce) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100, 100});
+    start_list();
+    station.chain.nb_fichiers_ecoutes = 32766;
+    machine.run_for(seconds(300));
+    EXPECT_EQ(count_of(journal_text(), "passement de capacit"), 1);
+}
+
+TEST_F(DeckStartTest, CountersOfTheInsertionsThatAreFullStay) {
+    open_tracks({100, 100});
+    start_list();
+    station.settings.valide_fichier_aleatoire = true;
+    station.chain.compteur_aleatoire = station.chain.compteur_aleatoire1 = 32767;
+    machine.run_for(seconds(94));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(station.chain.compteur_aleatoire, 32767);
+}
+
+TEST_F(DeckStartTest, EachTrackKeepsTheVolumeThatAPauseGivesBack) {
+    machine.add_track(track(1), 100);
+    machine.add_track(track(2), 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100"), record_of(track(2), "100", 50)});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(120));
+    controls(2).slider.set_value(4);
+    controls(2).pause.click();
+    EXPECT_EQ(controls(2).slider.value(), 10);
+}
+
+TEST_F(DeckStartTest, WaitingDeckStartsAsLoudAsItsSliderShows) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    controls(2).slider.set_value(10);
+    machine.run_for(seconds(95));
+    ASSERT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
+    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+    EXPECT_EQ(controls(2).slider.value(), 10);
+}
+
+TEST_F(DeckStartTest, RecordsVolumeIsThatOfTheRowWhateverWasReadSince) {
+    for (const int row : {1, 2, 3})
+        machine.add_track(track(row), 100);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of(track(1), "100"), record_of(track(2), "100", 50), record_of(track(3), "100", 20)});
+    rows().select(1);
+    start_list();
+    rows().select(2);
+    station.list_window.char2.click();
+    rows().select(3);
+    station.list_window.char3.click();
+    controls(2).play.enabled = true;
+    controls(2).play.click();
+    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+}
+
+TEST_F(DeckStartTest, DeckThatTheRingDropsIsNotMadeLouderAtItsEnd) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(10));
+    controls(1).zap.click();
+    machine.run_for(seconds(2));
+    machine.media.clear_log();
+    controls(2).zap.click();
+    for (const MediaCommand& command : machine.media.log())
+        EXPECT_FALSE(command.action == MediaAction::volume && command.path == track(1)) << command.value;
+    EXPECT_EQ(controls(1).slider.value(), 0);
+}
+
+TEST_F(DeckStartTest, TrackOfExactlyTheLongestJingleIsFollowedWithoutAFade) {
+    open_tracks({36, 100, 100});
+    start_list();
+    machine.run_for(seconds(35));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {30, 2}}));
+    EXPECT_TRUE(times_of(Kind::fade_began).empty());
+}
+
+TEST_F(DeckStartTest, TrackBeyondTheLongestJingleIsFollowedWithAFade) {
+    open_tracks({37, 100, 100});
+    start_list();
+    machine.run_for(seconds(36));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {31, 2}}));
+    EXPECT_EQ(times_of(Kind::fade_began).size(), 1U);
+}
+
+TEST_F(DeckStartTest, ZapButtonOfTheMainDeckIsOnBehindTheOverlapAndTheOtherOff) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(95));
+    controls(2).zap.enabled = false;
+    controls(1).zap.enabled = true;
+    machine.run_for(seconds(13));
+    EXPECT_TRUE(controls(2).zap.enabled);
+    EXPECT_FALSE(controls(1).zap.enabled);
+}
+
+} // namespace sonarelle

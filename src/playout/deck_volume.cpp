@@ -8,6 +8,7 @@
 #include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
+#include "playout/row_on_air.h"
 
 namespace sonarelle {
 
@@ -98,16 +99,15 @@ void DeckVolume::A_sauve(Deck& deck) {
                 return;
             desk_.list.fichier_liste = chosen.file_name;
         }
-        const std::string path = list_path(desk_.platform, desk_.list.fichier_liste);
-        ListReader reader{desk_.platform.disk, path};
-        if (reader.count() == 0)
+        if (ListReader{desk_.platform.disk, list_path(desk_.platform, desk_.list.fichier_liste)}.count() == 0)
             return;
-        enreg_liste record;
-        reader.read(desk_.list.index_en_cours.value(), record);
+        std::optional<RowOnAir> row = row_on_air(desk_, deck);
+        if (!row)
+            return desk_.inform("Ce titre n'est pas dans la liste");
         const std::string percent = deck.controls.percent.caption;
-        record.set_volume(static_cast<std::int16_t>(
+        row->record.set_volume(static_cast<std::int16_t>(
             to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
-        replace_record(desk_.platform.disk, path, desk_.list.index_en_cours.value(), record);
+        replace_row(desk_, *row);
         reload_list_();
         desk_.inform("Sauvegarde des paramètres en cours éffectués .");
     } catch (const Failure& failure) {

@@ -40,7 +40,7 @@ public:
     /// Lowers the main deck for a special mix.
     void vol_pour_mix_spc();
 
-    /// Keeps the volume of a deck in the current row's record.
+    /// Keeps the volume of the main deck in the record of the row that plays.
     void keep_in_record(Deck& deck);
 
     /// Moves a deck's slider by a step; beyond its ends it stays.

@@ -48,6 +48,12 @@ TEST_F(DeckVolumeTest, MovedSliderWithoutAFileChangesNothing) {
     EXPECT_EQ(station.destination.dest_volume, 0);
 }
 
+TEST_F(DeckVolumeTest, MovedSliderWithoutAFileShowsItsPercent) {
+    controls(2).slider.set_value(5);
+    EXPECT_EQ(controls(2).percent.caption.get(), "75%");
+    EXPECT_EQ(controls(2).slider.hint.get(), "Volume %75");
+}
+
 TEST_F(DeckVolumeTest, ButtonsMoveTheSliderByOneAndStopAtItsEnds) {
     open_song();
     controls(1).quieter.click();
@@ -163,6 +169,34 @@ TEST_F(DeckVolumeTest, KeepVolumeBehindTheLoadStepStillWritesTheRowThatPlays) {
     EXPECT_EQ(record_in(list, 1).volume(), 75);
     EXPECT_EQ(record_in(list, 1).trimmed_chemin(), track(1));
     EXPECT_EQ(record_in(list, 2).volume(), 100);
+}
+
+TEST_F(DeckVolumeTest, KeepVolumeInRandomOrderBehindTheLoadStepWritesTheRowThatPlays) {
+    open_tracks({100, 100, 100, 100, 100});
+    station.list_window.Option2.click();
+    station.list_window.Image1.click();
+    machine.run_for(seconds(90));
+    ASSERT_NE(station.list.index_en_cours, 1);
+    controls(1).slider.set_value(5);
+    machine.dialogs.expect_box("Sauvegarde", Answer::ok);
+    controls(1).keep_volume.click();
+    const std::string list = machine.disk.bytes("C:\\Sonarelle\\essai.dfm");
+    EXPECT_EQ(record_in(list, 1).volume(), 75);
+    for (std::size_t row = 2; row <= 5; ++row)
+        EXPECT_EQ(record_in(list, row).volume(), 100);
+}
+
+TEST_F(DeckVolumeTest, KeepVolumeOfAFileThatBelongsToNoRowSaysSo) {
+    open_tracks({100, 100});
+    machine.add_track("C:\\main.mp3", 100);
+    start_list();
+    const std::string before = machine.disk.bytes("C:\\Sonarelle\\essai.dfm");
+    open_on(2, "C:\\main.mp3");
+    controls(2).play.click();
+    controls(2).slider.set_value(5);
+    machine.dialogs.expect_box("Ce titre n'est pas dans la liste", Answer::ok);
+    controls(2).keep_volume.click();
+    EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), before);
 }
 
 TEST_F(DeckVolumeTest, KeepVolumeOfADeckThatIsNotReadySaysSo) {

@@ -1,0 +1,24 @@
+#include "playout/row_on_air.h"
+
+#include "platform/text.h"
+#include "playlist/list_file.h"
+#include "playlist/list_rows.h"
+
+namespace sonarelle {
+
+std::optional<RowOnAir> row_on_air(const Desk& desk, const Deck& deck) {
+    RowOnAir row{desk.list.ligne_en_lecture.value(), {}};
+    ListReader reader{desk.platform.disk, list_path(desk.platform, desk.list.fichier_liste)};
+    if (row.number < 1 || row.number > reader.count())
+        return std::nullopt;
+    reader.read(row.number, row.record);
+    if (!equal_ignoring_case(row.record.trimmed_chemin(), deck.path))
+        return std::nullopt;
+    return row;
+}
+
+void replace_row(const Desk& desk, const RowOnAir& row) {
+    replace_record(desk.platform.disk, list_path(desk.platform, desk.list.fichier_liste), row.number, row.record);
+}
+
+} // namespace sonarelle

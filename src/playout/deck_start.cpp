@@ -107,7 +107,7 @@ void DeckStart::show_names(Deck& deck) {
     desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
     if (desk_.chain.ecoute_en_cours.is_false())
         desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
-    desk_.chain.nom_fichier_source = desk_.window.coche2.value() ? deck.path : desk_.list.chemin_fichier;
+    desk_.chain.nom_fichier_source = deck.path;
     loading_.nom_du_fich();
     std::string& name = desk_.destination.dest_nom_fichier;
     desk_.window.caption = desk_.settings.nom_radio + " : " + name;

@@ -68,7 +68,7 @@ void RunControl::start_first_deck() {
 }
 
 void RunControl::show_first_deck(Deck& deck) {
-    desk_.chain.nom_fichier_source = desk_.window.coche2.value() ? deck.path : desk_.list.chemin_fichier;
+    desk_.chain.nom_fichier_source = deck.path;
     loading_.nom_du_fich();
     std::string& name = desk_.destination.dest_nom_fichier;
     desk_.list_window.caption = name;

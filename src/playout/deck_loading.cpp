@@ -172,8 +172,20 @@ void DeckLoading::charge_lire(const std::string& path) {
     desk_.window.coche2.set_value(true);
 }
 
-// The last failure on the way says what to tell the operator when nothing came of it.
 void DeckLoading::open_by_hand(Deck& deck) {
+    if (may_be_cut(deck))
+        open(deck);
+}
+
+bool DeckLoading::may_be_cut(const Deck& deck) {
+    return !deck.sounds() || desk_.platform.dialogs.MsgBox(
+                                 {name_without_ending(deck.path) + " est à l'antenne\nCouper le lecteur " +
+                                      deck.name() + " pour y ouvrir un autre fichier ?",
+                                  std::string{application_title}, Buttons::yes_no, Icon::warning, 2}) == Answer::yes;
+}
+
+// The last failure on the way says what to tell the operator when nothing came of it.
+void DeckLoading::open(Deck& deck) {
     deck.create_graph();
     Failure pending{failure_number::unplayable_file};
     const auto attempt = [&pending](const auto& statement) {
@@ -192,8 +204,7 @@ void DeckLoading::open_by_hand(Deck& deck) {
     nom_du_fich();
     formate_nom();
     mix_.manuel_mix();
-    deck.fin_piste.clear(); // those of the row that was on the deck before
-    deck.debut_piste = 0;
+    deck.forget_record();
     attempt([&] { deck.graph().RenderFile(deck.path); });
     desk_.chain.duree_mesuree = deck.graph().get_Duration();
     attempt([this] { format_duration(); });
@@ -209,11 +220,11 @@ void DeckLoading::open_by_hand(Deck& deck) {
 
 // The next press of the button asks for a file again, whatever became of this one.
 void DeckLoading::open_dropped(Deck& deck, const std::vector<std::string>& paths) {
-    if (paths.empty() || !desk_.list.glisser_autorise.is_true())
+    if (paths.empty() || !desk_.list.glisser_autorise.is_true() || !may_be_cut(deck))
         return;
     deck.path = paths.front();
     desk_.chain.ajout_externe = true;
-    open_by_hand(deck);
+    open(deck);
     desk_.chain.ajout_externe = false;
 }
 
@@ -234,6 +245,12 @@ bool DeckLoading::choose_file(Deck& deck) {
         {"Ouvrir un fichier multimédia", desk_.settings.chemin_musique, "", std::string{media_filter}});
     if (chosen.cancelled || chosen.file_name.empty())
         return false;
+    if (deck.has_graph() && deck.graph().GetState() != MediaState::stopped) {
+        desk_.inform("Le lecteur " + deck.name() + " est passé à l'antenne pendant votre choix\n" +
+                     std::string{name_of_path(chosen.file_name)} + " n'est pas ouvert");
+        return false;
+    }
+    deck.create_graph(); // the chain may have used the deck meanwhile
     deck.path = chosen.file_name;
     return true;
 }
@@ -250,6 +267,9 @@ void DeckLoading::accept_opened(Deck& deck) {
 }
 
 void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
+    deck.path.clear();
+    deck.controls.title.caption = std::string{waiting_title};
+    deck.controls.progress.value = 0;
     const auto tell = [&](const std::string& text) {
         desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::stop});
     };
@@ -263,11 +283,10 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
     case failure_number::path_access:
     case failure_number::path_not_found:
         desk_.settings.chemin_musique = desk_.settings.chemin_programme;
-        tell(failure.what());
+        tell(lines_of(failure));
         return;
     default:
-        tell("Erreur lecture fichier " + std::string{failure.what()});
-        deck.controls.title.caption = std::string{waiting_title};
+        tell("Erreur lecture fichier " + lines_of(failure));
     }
 }
 

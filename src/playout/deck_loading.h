@@ -37,7 +37,8 @@ public:
     /// A file of the program's command line on deck 1.
     void charge_lire(const std::string& path);
 
-    /// The open button of a deck: asks for a file, unless one was dragged.
+    /// The open button of a deck: asks for a file, unless one was dragged. A deck that sounds is cut only after a
+    /// question, and one that the chain has put on the air behind the file dialog keeps its track.
     void open_by_hand(Deck& deck);
     /// Files were dropped on a deck: the first one is opened as by hand, where dragging is allowed.
     void open_dropped(Deck& deck, const std::vector<std::string>& paths);
@@ -68,9 +69,12 @@ private:
     void show_loaded(Deck& deck);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);
+    [[nodiscard]] bool may_be_cut(const Deck& deck);
+    void open(Deck& deck);
     /// The file of a deck was dragged on it.
     [[nodiscard]] bool is_file_chosen() const;
     void go_to_music_folder();
+    /// False when nothing was chosen, or the deck plays meanwhile.
     [[nodiscard]] bool choose_file(Deck& deck);
     void accept_opened(Deck& deck);
     void report_failed_open(Deck& deck, const Failure& failure);

@@ -63,6 +63,10 @@ void Desk::remember(std::string_view key, std::string_view value) {
     }
 }
 
+std::string lines_of(const Failure& failure) {
+    return failure.source.empty() ? failure.description : failure.description + "\n" + failure.source;
+}
+
 std::string date_text(const Platform& platform) {
     const CalendarTime time = platform.clock.calendar();
     return digits(time.day, 2) + "/" + digits(time.month, 2) + "/" + digits(time.year, 4);

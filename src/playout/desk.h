@@ -65,6 +65,9 @@ struct Desk {
 inline constexpr std::string_view waiting_title = " - En attente";
 inline constexpr std::string_view empty_title = "(Aucun fichier en cours)";
 
+/// What a box says of a failure: the sentence, and on a line of its own what it concerns.
+[[nodiscard]] std::string lines_of(const Failure& failure);
+
 /// The date as dd/mm/yyyy and the time as hh:mm:ss.
 [[nodiscard]] std::string date_text(const Platform& platform);
 [[nodiscard]] std::string time_text(const Platform& platform);

@@ -82,6 +82,7 @@ TEST_F(DeckLoadingTest, OpenButtonOnAPlayingDeckCutsItEvenWhenTheDialogIsCancell
     machine.run_for(seconds(5));
     controls(1).open.enabled = true;
     Paths heard{"?"};
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
     machine.dialogs.expect_cancel();
     machine.dialogs.on_answered = [&](const Question&) { heard = machine.media.on_air(); };
     controls(1).open.click();
@@ -165,7 +166,7 @@ TEST_F(DeckLoadingTest, ShortFileFromALostMusicFolderSendsTheNextOpeningToThePro
     machine.dialogs.expect_box("C:\\Parti", Answer::ok);
     controls(1).open.click();
     EXPECT_EQ(station.settings.chemin_musique, "C:\\Sonarelle\\");
-    EXPECT_EQ(controls(1).title.caption.get(), "00:00:00 ( Chanson )");
+    EXPECT_EQ(controls(1).title.caption.get(), " - En attente");
 }
 
 TEST_F(DeckLoadingTest, GoodFileFromALostMusicFolderIsTaken) {
@@ -325,6 +326,7 @@ TEST_F(DeckLoadingTest, FileLoadedOnADeckThatPlaysAVideoCutsIt) {
     open_on(1, "C:\\film.avi");
     controls(1).play.click();
     controls(1).open.enabled = true;
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
     open_on(1, song);
     EXPECT_TRUE(machine.media.on_air().empty());
 }

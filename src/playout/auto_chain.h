@@ -82,15 +82,17 @@ private:
     void give_prepared_row_up(Integer row);
     bool start_zapped(Deck& old);
     void show_full_volume(Deck& deck);
-    [[nodiscard]] bool load_and_play(Deck& old);
+    /// Loads the current row's file on the deck behind; false when the row was passed over.
+    [[nodiscard]] bool load_behind(Deck& old);
+    void play_behind(Deck& old);
     [[nodiscard]] bool take_drawn_row();
     /// Whether it is, and isn't the one that plays.
     [[nodiscard]] bool is_found_to_follow();
 
     void deck_tick();
+    void show_deck_progress(Deck& deck);
     void manual_display();
     [[nodiscard]] bool is_due(Deck& deck, Integer point);
-    void show_deck_progress(Deck& deck);
     void play_ring(int deck);
 
     void overlap_tick();

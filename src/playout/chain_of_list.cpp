@@ -121,7 +121,7 @@ bool AutoChain::is_loaded(const Deck& next) const {
     return desk_.chain.chargement_fait.is_true() && next.path == desk_.list.chemin_fichier;
 }
 
-bool AutoChain::load_and_play(Deck& old) {
+bool AutoChain::load_behind(Deck& old) {
     load_walk_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
@@ -136,15 +136,19 @@ bool AutoChain::load_and_play(Deck& old) {
     }
     if (!told && !desk_.chain.erreur_chargement.is_true())
         desk_.report_loaded(next);
-    begin_overlap();
-    old.controls.title.caption = std::string{waiting_title};
-    start_.play(next);
     return true;
 }
 
+void AutoChain::play_behind(Deck& old) {
+    begin_overlap();
+    old.controls.title.caption = std::string{waiting_title};
+    start_.play(desk_.deck(next_deck(old.number())));
+}
+
 bool AutoChain::start_row(Deck& old) {
-    if (!load_and_play(old))
+    if (!load_behind(old))
         return false;
+    play_behind(old);
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
@@ -156,12 +160,6 @@ bool AutoChain::start_row(Deck& old) {
 }
 
 void AutoChain::automatic_zap(Deck& old) {
-    desk_.deck(next_deck(old.number())).create_graph();
-    if (desk_.window.coche3.value()) {
-        desk_.window.coche4.set_value(0);
-        desk_.window.Timer2.set_interval(0);
-        desk_.window.Timer3.enable();
-    }
     walk_to_follow(old, [this, &old] { return try_to_zap(old); });
 }
 
@@ -191,8 +189,14 @@ void AutoChain::give_prepared_row_up(Integer row) {
 }
 
 bool AutoChain::start_zapped(Deck& old) {
-    if (!load_and_play(old))
+    if (!load_behind(old))
         return false;
+    if (desk_.window.coche3.value()) {
+        desk_.window.coche4.set_value(0);
+        desk_.window.Timer2.set_interval(0);
+        desk_.window.Timer3.enable();
+    }
+    play_behind(old);
     desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
     show_full_volume(desk_.deck(next_deck(old.number())));
     const int row = desk_.list.index_en_cours.value();

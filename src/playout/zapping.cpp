@@ -1,11 +1,13 @@
 #include "playout/zapping.h"
 
+#include <optional>
+#include <utility>
+
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/random.h"
 #include "platform/text.h"
-#include "playlist/list_file.h"
-#include "playlist/list_rows.h"
+#include "playout/row_on_air.h"
 
 namespace sonarelle {
 
@@ -30,14 +32,14 @@ void Zapping::zapping() {
 }
 
 void Zapping::press_zap(Deck& old) {
-    if (desk_.is_manual())
+    if (desk_.is_manual() || desk_.chain.lecteur_en_cours != old.number())
         return;
     if (!is_list_mode())
         return zap(old);
     try {
         chain_.automatic_zap(old);
     } catch (const Failure& failure) {
-        tell(failure.what(), Icon::none);
+        tell(lines_of(failure), Icon::none);
     }
 }
 
@@ -50,28 +52,21 @@ void Zapping::zap(Deck& old) {
     try {
         zap_by_the_rules(old);
     } catch (const Failure& failure) {
-        tell(failure.what(), Icon::none);
+        tell(lines_of(failure), Icon::none);
     }
 }
 
 void Zapping::zap_by_the_rules(Deck& old) {
-    desk_.deck(next_deck(old.number())).create_graph();
-    if (is_list_mode()) {
-        if (desk_.chain.mode_enchainement.is_false()) {
-            if (desk_.window.Désactive_audio.checked)
-                mix_.Pas_demix_audio();
-            else
-                mix_.Active_audio_zapping_Click();
-        } else if (desk_.chain.mode_enchainement.is_true()) {
-            if (desk_.elapsed() <= earliest_second)
-                return refuse_too_early();
-            store_end_point(old);
-        }
-    }
+    if (ends_record() && desk_.elapsed() <= earliest_second)
+        return refuse_too_early();
     if (desk_.window.coche3.value())
         zap_in_list(old);
     else
         zap_over_decks(old);
+}
+
+bool Zapping::ends_record() const {
+    return is_list_mode() && desk_.chain.mode_enchainement.is_true();
 }
 
 void Zapping::refuse_too_early() {
@@ -83,53 +78,19 @@ void Zapping::refuse_too_early() {
     desk_.list_window.Label12.caption = "Zapping autorisé";
 }
 
-// The next run ends the track where it was zapped. A file that the operator put on the deck himself has no row: the end
-// of the one that stands there is not its own.
-void Zapping::store_end_point(const Deck& old) {
-    const int row = desk_.list.ligne_en_lecture.value();
-    desk_.list.index_destinataire = row;
-    reading_.lire_enreg_destinataire();
-    desk_.destination.convertir_valeur_son_ecriture();
-    const std::string path = list_path(desk_.platform, desk_.list.fichier_liste);
-    enreg_liste record;
-    ListReader{desk_.platform.disk, path}.read(row, record);
-    if (!equal_ignoring_case(record.trimmed_chemin(), old.path))
-        return;
-    record.set_fin_lecture(text_of(desk_.elapsed()));
-    replace_record(desk_.platform.disk, path, row, record);
-    document_.charge_liste();
-}
-
 void Zapping::zap_in_list(Deck& old) {
     bool by_draw = desk_.chain.ordre_aleatoire.is_true();
     int rows_left = desk_.row_count();
     do {
         if (rows_left-- < 0)
             return;
-        if (by_draw) {
-            desk_.platform.random.Randomize();
-            const double rows = desk_.row_count();
-            desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
-            chain_.take_current_row();
-            by_draw = false;
-        } else {
-            chain_.take_next_row();
-        }
-    } while (!chain_.is_found());
-    chain_.cancel_walks();
-    chain_.begin_overlap();
-    desk_.chain.element_en_cours = desk_.list.index_en_cours;
-    desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.lire_enreg_destinataire();
-    Deck& next = desk_.deck(next_deck(old.number()));
-    const bool told = chain_.is_loaded(next);
-    desk_.chain.erreur_chargement = false;
-    loading_.load_from_list(next);
+        take_row(std::exchange(by_draw, false));
+    } while (!chain_.is_found() || is_too_short());
     // The track on the air goes on, with its load step, and its mix point takes the row behind.
-    if (desk_.chain.erreur_chargement.is_true())
-        throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
-    if (!told)
-        desk_.report_loaded(next);
+    if (loading_.length_of(desk_.list.chemin_fichier) == 0)
+        throw Failure{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
+    chain_.cancel_walks();
+    load_row(desk_.deck(next_deck(old.number())));
     desk_.window.coche4.set_value(0);
     desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     hand_over(old);
@@ -138,17 +99,57 @@ void Zapping::zap_in_list(Deck& old) {
     desk_.list_window.ListView1.select(row);
 }
 
-void Zapping::zap_over_decks(Deck& old) {
-    const std::string& path = desk_.deck(next_deck(old.number())).path;
-    if (path.empty())
-        return;
-    if (desk_.platform.disk.Dir(path).empty())
-        return tell("Fichier non trouvé /abandon", Icon::stop);
-    chain_.begin_overlap();
-    hand_over(old);
+void Zapping::take_row(bool by_draw) {
+    if (!by_draw)
+        return chain_.take_next_row();
+    desk_.platform.random.Randomize();
+    const double rows = desk_.row_count();
+    desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
+    chain_.take_current_row();
 }
 
+bool Zapping::is_too_short() {
+    const double length = loading_.length_of(desk_.list.chemin_fichier);
+    if (length == 0 || length >= shortest_good_file)
+        return false;
+    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
+                  " Plus court qu'une seconde");
+    return true;
+}
+
+void Zapping::load_row(Deck& next) {
+    desk_.chain.element_en_cours = desk_.list.index_en_cours;
+    desk_.list.index_destinataire = desk_.list.index_en_cours;
+    reading_.lire_enreg_destinataire();
+    const bool told = chain_.is_loaded(next);
+    desk_.chain.erreur_chargement = false;
+    loading_.load_from_list(next);
+    if (desk_.chain.erreur_chargement.is_true())
+        throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
+    if (!told)
+        desk_.report_loaded(next);
+}
+
+void Zapping::zap_over_decks(Deck& old) {
+    Deck& next = desk_.deck(next_deck(old.number()));
+    if (next.path.empty())
+        return;
+    if (desk_.platform.disk.Dir(next.path).empty())
+        return tell("Fichier non trouvé /abandon", Icon::stop);
+    if (loading_.length_of(next.path) == 0)
+        throw Failure{failure_number::unplayable_file, next.path, "lecture impossible"};
+    mix_.leave_special_mix(next);
+    if (next.controls.progress.value == 0) // one that has moved doesn't start
+        hand_over(old);
+}
+
+// The next run ends the track where it was zapped.
 void Zapping::hand_over(Deck& old) {
+    std::optional<RowOnAir> ended = ends_record() ? row_on_air(desk_, old) : std::nullopt;
+    if (ended)
+        ended->record.set_fin_lecture(text_of(desk_.elapsed()));
+    choose_fade();
+    chain_.begin_overlap();
     old.controls.title.caption = std::string{waiting_title};
     Deck& next = desk_.deck(next_deck(old.number()));
     journal_.note(date_and_time(desk_.platform) + " ZAPPING sur ----> : " + next.path);
@@ -157,6 +158,19 @@ void Zapping::hand_over(Deck& old) {
         to_integer(Format(next.graph().get_CurrentPosition(), "0", DecimalMark::point), DecimalMark::point);
     desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
     desk_.window.Timer3.enable();
+    if (!ended)
+        return;
+    replace_row(desk_, *ended);
+    document_.charge_liste();
+}
+
+void Zapping::choose_fade() {
+    if (!is_list_mode() || !desk_.chain.mode_enchainement.is_false())
+        return;
+    if (desk_.window.Désactive_audio.checked)
+        mix_.Pas_demix_audio();
+    else
+        mix_.Active_audio_zapping_Click();
 }
 
 void Zapping::tell(const std::string& text, Icon icon) {

@@ -15,23 +15,29 @@ public:
     Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
             RecordReading& reading, ListDocument& document);
 
-    /// From the main deck, by key.
+    /// From the main deck, by key. A zap that is refused changes nothing.
     void zapping();
     void zap1() { zap(desk_.deck(1)); }
     void zap2() { zap(desk_.deck(2)); }
     void zap3() { zap(desk_.deck(3)); }
     void zap(Deck& old);
-    /// A zap button: the automatic zap in the list's reading modes, else the operator's.
+    /// The zap button of the main deck, any other does nothing: the automatic zap in the list's reading modes, else the
+    /// operator's.
     void press_zap(Deck& old);
 
 private:
     void zap_by_the_rules(Deck& old);
     [[nodiscard]] bool is_list_mode() const;
     void refuse_too_early();
-    void store_end_point(const Deck& old);
+    /// Whether a zap ends the row's record where it cuts its track.
+    [[nodiscard]] bool ends_record() const;
+    void take_row(bool by_draw);
+    [[nodiscard]] bool is_too_short();
     void zap_in_list(Deck& old);
+    void load_row(Deck& next);
     void zap_over_decks(Deck& old);
     void hand_over(Deck& old);
+    void choose_fade();
     void tell(const std::string& text, Icon icon);
 
     Desk& desk_;

@@ -122,6 +122,20 @@ TEST_F(ZapTest, KeepsItsPositionForLaterFades) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3}));
 }
 
+TEST_F(ZapTest, LeavesAStalePositionByWhichALaterFadeIsReleased) {
+    for (const int row : {1, 2, 3})
+        machine.add_track(track(row), 200);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of(track(1), "200"), record_of(track(2), "200", 100, 5.6), record_of(track(3), "200", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(50));
+    station.main_window.key_press(U'z');
+    machine.run_for(seconds(230));
+    const double begin = times_of(Kind::started).back().first;
+    EXPECT_NEAR(times_of(Kind::cut).back().first - begin, 6.0 + station.settings.mix_audio.value(), 0.05);
+}
+
 TEST_F(ZapTest, TwiceLeavesTwoDecksOnTheAir) {
     start_and_run(10);
     controls(1).zap.click();

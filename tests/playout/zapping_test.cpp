@@ -89,6 +89,131 @@ TEST_F(ZappingTest, OntoAFileThatCantBePlayedIsFollowedAtTheMixPointByTheRowBehi
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(3)});
 }
 
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedLeavesTheRecordsEnd) {
+    start_and_run(50);
+    const std::string before = machine.disk.bytes("C:\\Sonarelle\\essai.dfm");
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), before);
+}
+
+TEST_F(ZappingTest, ThatIsRefusedLeavesTheNextDecksSpecialMix) {
+    start_and_run(20);
+    machine.add_track("C:\\jingle.mp3", 60);
+    station.chain.chemin_lecture2 = "C:\\jingle.mp3";
+    controls(2).special_mix.click();
+    machine.run_for(seconds(2));
+    machine.dialogs.expect_box("secondes minimun", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.media.on_air().size(), 2U);
+    EXPECT_EQ(station.chain.lecteur_mix_special, 2);
+}
+
+TEST_F(ZappingTest, OntoAFileThatCantBePlayedLeavesTheNextDecksSpecialMix) {
+    start_and_run(40);
+    machine.add_track("C:\\jingle.mp3", 60);
+    station.chain.chemin_lecture2 = "C:\\jingle.mp3";
+    controls(2).special_mix.click();
+    machine.run_for(seconds(2));
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.media.on_air().size(), 2U);
+}
+
+TEST_F(ZappingTest, PassesOverARowOfLessThanASecond) {
+    start_and_run(40);
+    machine.media.set_length(track(2), 0.9);
+    station.list_window.Image2.click();
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ZappingTest, SwitchesTheLoadStepsTickOff) {
+    start_and_run(50);
+    station.main_window.coche4.set_value(1);
+    station.list_window.Image2.click();
+    EXPECT_EQ(station.main_window.coche4.value(), 0);
+}
+
+TEST_F(ZappingTest, ByTheButtonOfADeckThatIsNotTheMainOneDoesNothing) {
+    start_and_run(50);
+    machine.add_track("C:\\annonce.mp3", 60);
+    open_on(3, "C:\\annonce.mp3");
+    controls(3).zap.enabled = true;
+    controls(3).zap.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ZappingTest, ByTheButtonBeforeALostDriveLeavesTheLoadStepOn) {
+    open_tracks({200, 200});
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(5));
+    station.main_window.coche4.set_value(1);
+    machine.disk.Kill(track(2));
+    machine.disk.refuse("C:\\Musique", failure_number::device_unavailable);
+    machine.dialogs.default_answers();
+    controls(1).zap.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+    EXPECT_EQ(station.main_window.coche4.value(), 1);
+}
+
+TEST_F(ZappingTest, OfAFileOpenedBeforeAnyRowHasPlayedGoesOver) {
+    open_tracks({200, 200});
+    station.list_window.Option3.click();
+    station.main_window.coche3.click();
+    machine.add_track("C:\\main.mp3", 100);
+    open_on(1, "C:\\main.mp3");
+    controls(1).play.click();
+    machine.run_for(seconds(40));
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(machine.media.on_air().back(), track(1));
+}
+
+TEST_F(ZappingTest, OverDecksOntoOneThatHasMovedLeavesTheTrackOnTheAir) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    machine.run_for(seconds(5));
+    controls(2).progress.value = 7;
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+    EXPECT_NE(controls(1).title.caption.get(), " - En attente");
+}
+
+TEST_F(ZappingTest, OverDecksOntoASpecialMixStartsItsFile) {
+    open_on_all({100, 60, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    controls(2).special_mix.click();
+    machine.run_for(seconds(5));
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {5, 2}}));
+    EXPECT_EQ(station.chain.lecteur_mix_special, 0);
+}
+
+TEST_F(ZappingTest, OverDecksOntoAFileThatCantBePlayedLeavesTheTrackOnTheAir) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    machine.run_for(seconds(5));
+    machine.media.set_unplayable(track(2));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+    EXPECT_NE(controls(1).title.caption.get(), " - En attente");
+}
+
+TEST_F(ZappingTest, IsAcceptedAtThirtyOneSecondsWhateverTheLongestJingleIs) {
+    start_and_run(31);
+    station.settings.valeur_max_jingles = 45;
+    station.list_window.Image2.click();
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {31, 2}}));
+}
+
 TEST_F(ZappingTest, WithoutAMainDeckSaysSo) {
     machine.dialogs.expect_box("Aucune lecture en cours", Answer::ok);
     station.list_window.Image2.click();

@@ -235,4 +235,18 @@ std::string_view mid(std::string_view text, std::size_t start, std::size_t count
     return left(text.substr(bytes_of_characters(text, start - 1)), count);
 }
 
+bool is_control(char32_t code_point) {
+    return code_point < 0x20 || (code_point >= 0x7F && code_point < 0xA0);
+}
+
+std::string printable(std::string_view text) {
+    std::string shown;
+    shown.reserve(text.size());
+    while (!text.empty()) {
+        const char32_t c = take_character(text);
+        shown += is_control(c) ? "·" : character(c);
+    }
+    return shown;
+}
+
 } // namespace sonarelle

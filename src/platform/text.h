@@ -46,4 +46,10 @@ char32_t take_character(std::string_view& text);
 /// UTF-8 of one code point.
 [[nodiscard]] std::string character(char32_t code_point);
 
+[[nodiscard]] bool is_control(char32_t code_point);
+
+/// Text as a terminal or a journal may show it on one line: a control character becomes `·`, a byte that isn't UTF-8
+/// `�`.
+[[nodiscard]] std::string printable(std::string_view text);
+
 } // namespace sonarelle

@@ -19,7 +19,8 @@ constexpr std::string_view journal_file = "journal.doc";
 bool Journal::append_line() {
     return ErrorIndicator{}.skip([this] {
         enter_program_folder(desk_.platform);
-        desk_.platform.disk.append(journal_file, to_windows_1252(desk_.chain.ligne_journal) + "\r\n");
+        // An entry is one line, whatever a file is called.
+        desk_.platform.disk.append(journal_file, to_windows_1252(printable(desk_.chain.ligne_journal)) + "\r\n");
     });
 }
 

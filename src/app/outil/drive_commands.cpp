@@ -1,9 +1,9 @@
 #include <array>
-#include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "app/common/machine.h"
 #include "app/outil/commands.h"
+#include "app/outil/printable.h"
 
 namespace sonarelle {
 
@@ -15,9 +15,9 @@ void print_drives(const Call& call, const DriveTable& drives) {
     for (const auto& [drive, folder] : drives.entries()) {
         const std::string shown = folder.empty() ? "/" : folder;
         if (call.arguments.has(json_option.name))
-            call.out << nlohmann::ordered_json{{"lecteur", drive}, {"dossier", shown}} << '\n';
+            call.out << json_line({{"lecteur", drive}, {"dossier", shown}}) << '\n';
         else
-            call.out << drive << '\t' << shown << '\n';
+            call.out << printable(drive) << '\t' << printable(shown) << '\n';
     }
 }
 

@@ -56,7 +56,7 @@ void compute_mixes(const Call& call) {
                 line["fin"] = seconds;
             line["mix_courant"] = mix.overlap;
             line["prechargement"] = mix.lead;
-            lines += line.dump() + "\n";
+            lines += json_line(line) + "\n";
         } catch (const Failure& failure) {
             throw Failure{failure.number, printable_word(end), failure.description};
         }

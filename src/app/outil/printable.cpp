@@ -1,29 +1,32 @@
 #include "app/outil/printable.h"
 
-#include "platform/text.h"
-
 namespace sonarelle {
 
 namespace {
 
-bool is_control(char32_t c) {
-    return c < 0x20 || (c >= 0x7F && c < 0xA0);
+/// A control character as JSON writes it.
+std::string escaped(char32_t control) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    return std::string{"\\u00"} + digits[control >> 4U] + digits[control & 0xFU];
 }
 
 } // namespace
 
-std::string printable(std::string_view text) {
-    std::string shown;
-    shown.reserve(text.size());
-    while (!text.empty()) {
-        const char32_t c = take_character(text);
-        shown += is_control(c) ? "·" : character(c);
-    }
-    return shown;
-}
-
 std::string printable_word(std::string_view word) {
     return trim(word).empty() ? "« »" : printable(word);
+}
+
+std::string json_line(const nlohmann::ordered_json& value) {
+    const std::string text = value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    if (text.find_first_of("\x7F\xC2") == std::string::npos)
+        return text;
+    std::string line;
+    line.reserve(text.size());
+    for (std::string_view rest = text; !rest.empty();) {
+        const char32_t c = take_character(rest);
+        line += is_control(c) ? escaped(c) : character(c);
+    }
+    return line;
 }
 
 } // namespace sonarelle

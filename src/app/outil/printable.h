@@ -1,14 +1,18 @@
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 
+#include "platform/text.h"
+
 namespace sonarelle {
 
-/// Text as a terminal may show it on one line: a control character becomes `·`, a byte that isn't UTF-8 `�`.
-[[nodiscard]] std::string printable(std::string_view text);
-
-/// The same of a word; `« »` where nothing would be seen of it.
+/// A word as a terminal may show it; `« »` where nothing would be seen of it.
 [[nodiscard]] std::string printable_word(std::string_view word);
+
+/// JSON on one line, which a terminal may show too: control characters beyond ASCII, which some obey, are escaped.
+/// A byte that isn't UTF-8 becomes `\ufffd`.
+[[nodiscard]] std::string json_line(const nlohmann::ordered_json& value);
 
 } // namespace sonarelle

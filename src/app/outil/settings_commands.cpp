@@ -1,9 +1,9 @@
 #include <array>
-#include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "app/common/machine.h"
 #include "app/outil/commands.h"
+#include "app/outil/printable.h"
 #include "configuration/settings_store.h"
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -14,12 +14,10 @@ namespace {
 
 void print_setting(const Call& call, const Setting& setting) {
     if (call.arguments.has(json_option.name))
-        call.out << nlohmann::ordered_json{{"section", setting.section},
-                                           {"cle", setting.key},
-                                           {"valeur", setting.value}}
-                 << '\n';
+        call.out << json_line({{"section", setting.section}, {"cle", setting.key}, {"valeur", setting.value}}) << '\n';
     else
-        call.out << setting.section << '\t' << setting.key << '\t' << setting.value << '\n';
+        call.out << printable(setting.section) << '\t' << printable(setting.key) << '\t' << printable(setting.value)
+                 << '\n';
 }
 
 void list(const Call& call) {
@@ -36,7 +34,7 @@ void read(const Call& call) {
     Machine machine{call.options};
     for (const Setting& setting : machine.settings().all(settings_application))
         if (equal_ignoring_case(setting.section, section) && equal_ignoring_case(setting.key, key)) {
-            call.out << setting.value << '\n';
+            call.out << printable(setting.value) << '\n';
             return;
         }
     throw Failure{failure_number::wrong_call, section + " " + key, "cette clé n'a pas de valeur"};

@@ -68,14 +68,14 @@ void measure_files(const Call& call) {
     const auto tell = [&](const std::string& file) {
         const Measure measure = measuring.measure(file);
         if (json)
-            call.out << json_of(measure).dump() << '\n';
+            call.out << json_line(json_of(measure)) << '\n';
         else
             call.out << measure.title_text << "  " << Format(measure.seconds, "0.00", DecimalMark::point) << " s  "
                      << printable(file) << '\n';
     };
     const auto tell_refused = [&](const std::string& file, const Failure& failure) {
         if (json)
-            call.out << Json{{"fichier", file}, {"erreur", failure.description}}.dump() << '\n';
+            call.out << json_line({{"fichier", file}, {"erreur", failure.description}}) << '\n';
     };
     if (!for_each_file(files, tell, tell_refused))
         throw AlreadyTold{};

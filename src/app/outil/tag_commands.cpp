@@ -79,7 +79,7 @@ void print_fields(std::ostream& out, const Json& fields, const std::string& inde
 
 void print(const Call& call, const std::string& file, const Json& fields) {
     if (call.arguments.has(json_option.name)) {
-        call.out << fields.dump() << '\n';
+        call.out << json_line(fields) << '\n';
         return;
     }
     call.out << printable(file) << '\n';

@@ -19,6 +19,7 @@ namespace sonarelle {
 namespace {
 
 constexpr const char* input_name = "entrée standard";
+constexpr std::size_t longest_input = 1 << 29; // two million rows
 
 void check_extension(const std::string& file, std::string_view extension) {
     if (extension_of(file) != extension)
@@ -31,6 +32,8 @@ std::string standard_input(std::istream& in) {
     for (std::array<char, 16384> block{}; in;) {
         in.read(block.data(), block.size());
         text.append(block.data(), static_cast<std::size_t>(in.gcount()));
+        if (text.size() > longest_input)
+            throw Failure{failure_number::wrong_call, input_name, "plus d'un demi-milliard d'octets"};
     }
     if (in.bad())
         throw Failure{failure_number::device_fault, input_name, "lecture impossible"};
@@ -51,11 +54,11 @@ void print_json(RecordReader<Record>& reader, const std::string& file, std::ostr
     const Json head{{"fichier", file},
                     {"taille", reader.count() * static_cast<std::int64_t>(Record::size) + reader.rest()},
                     {"reste", reader.rest()}};
-    std::string text = head.dump();
+    std::string text = json_line(head);
     text.pop_back();
     out << text << ",\"enregistrements\":[";
     for_each_record(reader, [&out](const Record& record, std::int64_t number) {
-        out << (number == 1 ? "" : ",") << json_of(record, number).dump();
+        out << (number == 1 ? "" : ",") << json_line(json_of(record, number));
     });
     out << "]}\n";
 }
@@ -102,7 +105,7 @@ void write(const Call& call) {
     call.arguments.expect_at_most(1);
     check_extension(file, "dfm");
     Machine machine{call.options};
-    const Json list = Json::parse(standard_input(call.in), nullptr, false);
+    const ReadJson list = ReadJson::parse(standard_input(call.in), nullptr, false);
     if (list.is_discarded())
         throw Failure{failure_number::wrong_call, input_name, "ce n'est pas du JSON"};
     const auto records = records_of(list);
@@ -169,7 +172,7 @@ void verify(const Call& call) {
         const FileState state = state_of(disk, path);
         missing += state == FileState::missing || state == FileState::folder_missing ? 1 : 0;
         if (json)
-            call.out << Json{{"numero", number}, {"chemin", path}, {"etat", word_of(state)}}.dump() << '\n';
+            call.out << json_line({{"numero", number}, {"chemin", path}, {"etat", word_of(state)}}) << '\n';
         else
             call.out << number << "  " << word_of(state) << "  " << printable(path) << '\n';
     });

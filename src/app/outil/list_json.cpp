@@ -43,7 +43,7 @@ Json json_with_start(const Record& record, std::int64_t number, Json start) {
 /// One record of the JSON, with the failures of its fields naming it.
 class RecordOfJson {
 public:
-    RecordOfJson(const Json& object, std::size_t number) : object_{object}, number_{number} {
+    RecordOfJson(const ReadJson& object, std::size_t number) : object_{object}, number_{number} {
         if (!object.is_object())
             refuse("n'est pas un objet");
     }
@@ -68,7 +68,7 @@ private:
         refuse("le champ « " + std::string{key} + " » " + reason);
     }
 
-    [[nodiscard]] const Json& field(const char* key) const {
+    [[nodiscard]] const ReadJson& field(const char* key) const {
         const auto found = object_.find(key);
         if (found == object_.end())
             refuse_field(key, "manque");
@@ -76,7 +76,7 @@ private:
     }
 
     [[nodiscard]] std::string text(const char* key) const {
-        const Json& value = field(key);
+        const ReadJson& value = field(key);
         if (!value.is_string())
             refuse_field(key, "n'est pas un texte");
         const auto& result = value.get_ref<const std::string&>();
@@ -87,7 +87,7 @@ private:
 
     /// A record of an old list has none.
     [[nodiscard]] double start() const {
-        const Json& value = field(start_key);
+        const ReadJson& value = field(start_key);
         if (value.is_null())
             return start_of_old_lists;
         if (value.is_number())
@@ -101,7 +101,7 @@ private:
     }
 
     [[nodiscard]] std::int16_t volume() const {
-        const Json& value = field(volume_key);
+        const ReadJson& value = field(volume_key);
         // The parser keeps what is not negative as an unsigned number, which a comparison with a signed one would wrap.
         if (value.is_number_unsigned() && value.get<std::uint64_t>() <= INT16_MAX)
             return value.get<std::int16_t>();
@@ -111,7 +111,7 @@ private:
         return value.get<std::int16_t>();
     }
 
-    const Json& object_;
+    const ReadJson& object_;
     std::size_t number_;
 };
 
@@ -125,8 +125,8 @@ Json json_of(const enreg_rfm& record, std::int64_t number) {
     return json_with_start(record, number, nullptr);
 }
 
-std::vector<enreg_liste> records_of(const Json& list) {
-    const Json* records = &list;
+std::vector<enreg_liste> records_of(const ReadJson& list) {
+    const ReadJson* records = &list;
     if (list.is_object())
         records = list.contains(records_key) ? &list[records_key] : nullptr;
     if (records == nullptr || !records->is_array())

@@ -20,13 +20,13 @@ DriveTable parsed(const std::string& json, const std::string& file) {
 
 void change_saved_table(const std::string& file, const std::function<void(DriveTable&)>& change) {
     const SharedFileLock lock{file};
-    const auto old = read_shared_file(file);
     DriveTable table;
     bool is_damaged = false;
     try {
-        if (old)
-            table = parsed(*old, file);
-    } catch (const Failure&) {
+        table = load_drive_table(file);
+    } catch (const Failure& failure) {
+        if (failure.number != failure_number::device_fault)
+            throw;
         is_damaged = true;
     }
     change(table);

@@ -17,4 +17,8 @@ struct HostFolders {
 /// the first write into it, so that looking leaves nothing behind.
 [[nodiscard]] HostFolders host_folders(const std::optional<std::string>& folder);
 
+/// A folder of this user alone among the temporary ones, the same at each call, for a station whose own can't be had.
+/// @throws Failure 75 when there is none.
+[[nodiscard]] std::string spare_folder();
+
 } // namespace sonarelle

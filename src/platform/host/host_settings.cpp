@@ -24,12 +24,13 @@ void HostSettings::SaveSetting(std::string_view application, std::string_view se
 
 void HostSettings::save_all(std::string_view application, std::span<const Setting> settings) {
     const SharedFileLock lock{file_};
-    const auto old = read_shared_file(file_);
     SettingsText text;
     bool damaged = false;
     try {
-        text = old ? SettingsText::parsed(*old) : SettingsText{};
-    } catch (const Failure&) {
+        text = read();
+    } catch (const Failure& failure) {
+        if (failure.number != failure_number::device_fault)
+            throw;
         damaged = true;
     }
     bool changed = damaged;

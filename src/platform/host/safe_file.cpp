@@ -4,6 +4,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -25,11 +26,22 @@ constexpr std::size_t buffer_size = 256 * 1024;
 constexpr int slots_looked_at = 4;
 constexpr const char* access_list = "system.posix_acl_access";
 
+/// Whether someone else may have put a link into a folder like /tmp, to have a file of ours overwritten.
+bool is_planted(const std::filesystem::path& link) {
+    const std::string folder = link.has_parent_path() ? link.parent_path().string() : ".";
+    struct stat place {};
+    struct stat planted {};
+    if (::stat(folder.c_str(), &place) != 0 || ::lstat(link.c_str(), &planted) != 0)
+        return false;
+    const bool is_shared = (place.st_mode & S_ISVTX) != 0 && (place.st_mode & S_IWOTH) != 0;
+    return is_shared && planted.st_uid != ::geteuid() && planted.st_uid != place.st_uid;
+}
+
 /// The file that a chain of symbolic links ends at, be it there or not.
 std::filesystem::path end_of_links(std::filesystem::path path, const std::string& source) {
     std::error_code error;
     for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
-        if (links == 40)
+        if (links == 40 || is_planted(path))
             throw Failure{failure_number::path_access, source};
         path = path.parent_path() / std::filesystem::read_symlink(path, error);
     }
@@ -87,8 +99,8 @@ std::string hidden_name(std::string_view name, int slot) {
 SafeFile::SafeFile(std::string path, std::string source) : source_{std::move(source)} {
     const std::filesystem::path target = end_of_links(std::move(path), source_);
     name_ = target.filename();
-    const std::string folder = target.has_parent_path() ? target.parent_path().string() : ".";
-    folder_ = FileHandle{::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)};
+    folder_path_ = target.has_parent_path() ? target.parent_path().string() : ".";
+    folder_ = FileHandle{::open(folder_path_.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)};
     if (!folder_.is_open() && (errno == ENOENT || errno == ENOTDIR))
         throw Failure{failure_number::path_not_found, source_};
     if (!folder_.is_open())

@@ -33,6 +33,9 @@ public:
     /// Gives the new file these rights instead of the old one's.
     void set_mode(mode_t mode) { mode_ = mode; }
 
+    /// The path of the file that is written, for who writes it by another way; it is there until the commit.
+    [[nodiscard]] std::string hidden_path() const { return folder_path_ + "/" + hidden_; }
+
     /// Flushes the new file to the disk and puts it in the old one's place.
     void commit();
 
@@ -52,6 +55,7 @@ private:
     [[noreturn]] void fail();
 
     std::string source_;
+    std::string folder_path_;
     std::string name_;   // of the file in its folder
     std::string hidden_; // empty when there is no hidden file (any more)
     FileHandle folder_;

@@ -8,30 +8,19 @@
 
 namespace sonarelle {
 
-namespace {
-
-std::string_view name_of(const std::pair<std::string, std::string>& entry) {
-    return entry.first;
-}
-template <typename Named>
-std::string_view name_of(const Named& entry) {
-    return entry.name;
+template <typename Value>
+Value& SettingsText::Named<Value>::operator[](std::string_view name) {
+    const auto [place, is_new] = places_.try_emplace(lower_case(name), entries_.size());
+    if (is_new)
+        entries_.emplace_back(std::string{name}, Value{});
+    return entries_[place->second].second;
 }
 
-template <typename Entries>
-auto find_named(Entries& entries, std::string_view name) {
-    return std::ranges::find_if(entries,
-                                [name](const auto& entry) { return equal_ignoring_case(name_of(entry), name); });
+template <typename Value>
+const Value* SettingsText::Named<Value>::find(std::string_view name) const {
+    const auto place = places_.find(lower_case(name));
+    return place == places_.end() ? nullptr : &entries_[place->second].second;
 }
-
-/// The entry of this name, added where there is none.
-template <typename Entry>
-Entry& named(std::vector<Entry>& entries, std::string_view name) {
-    const auto found = find_named(entries, name);
-    return found != entries.end() ? *found : entries.emplace_back(Entry{std::string{name}, {}});
-}
-
-} // namespace
 
 /// Takes the JSON as it is read: three names deep there are texts, and nothing else is anywhere.
 class SettingsText::Reader : public nlohmann::json_sax<nlohmann::json> {
@@ -60,9 +49,9 @@ public:
     bool key(string_t& name) override {
         names_.back() = name;
         if (names_.size() == 1)
-            named(into_.applications_, name);
+            static_cast<void>(into_.applications_[name]);
         if (names_.size() == 2)
-            named(named(into_.applications_, names_[0]).sections, name);
+            static_cast<void>(into_.applications_[names_[0]][name]);
         return true;
     }
 
@@ -114,13 +103,18 @@ SettingsText SettingsText::parsed(std::string_view json) {
 }
 
 std::string SettingsText::json() const {
-    auto root = nlohmann::ordered_json::object();
-    for (const Application& application : applications_) {
-        auto& sections = root[application.name] = nlohmann::ordered_json::object();
-        for (const Section& section : application.sections) {
-            auto& values = sections[section.name] = nlohmann::ordered_json::object();
-            for (const auto& [key, value] : section.values)
-                values[key] = value;
+    using Object = nlohmann::ordered_json;
+    // The names of a group differ already, so nobody looks for the one that is added.
+    const auto add = [](Object& group, const std::string& name, Object value) -> Object& {
+        return group.get_ref<Object::object_t&>().emplace_back(name, std::move(value)).second;
+    };
+    auto root = Object::object();
+    for (const auto& [application, sections] : applications_) {
+        auto& in_application = add(root, application, Object::object());
+        for (const auto& [section, values] : sections) {
+            auto& in_section = add(in_application, section, Object::object());
+            for (const auto& [key, value] : values)
+                add(in_section, key, value);
         }
     }
     try {
@@ -132,33 +126,27 @@ std::string SettingsText::json() const {
 
 const std::string* SettingsText::value(std::string_view application, std::string_view section,
                                        std::string_view key) const {
-    const auto in_application = find_named(applications_, application);
-    if (in_application == applications_.end())
-        return nullptr;
-    const auto in_section = find_named(in_application->sections, section);
-    if (in_section == in_application->sections.end())
-        return nullptr;
-    const auto found = find_named(in_section->values, key);
-    return found == in_section->values.end() ? nullptr : &found->second;
+    const Application* sections = applications_.find(application);
+    const Section* values = sections != nullptr ? sections->find(section) : nullptr;
+    return values != nullptr ? values->find(key) : nullptr;
 }
 
 bool SettingsText::set(std::string_view application, const Setting& setting) {
     const std::string* old = value(application, setting.section, setting.key);
     if (old != nullptr && *old == setting.value)
         return false;
-    named(named(named(applications_, application).sections, setting.section).values, setting.key).second =
-        setting.value;
+    applications_[application][setting.section][setting.key] = setting.value;
     return true;
 }
 
 std::vector<Setting> SettingsText::all(std::string_view application) const {
     std::vector<Setting> result;
-    const auto found = find_named(applications_, application);
-    if (found == applications_.end())
+    const Application* sections = applications_.find(application);
+    if (sections == nullptr)
         return result;
-    for (const Section& section : found->sections)
-        for (const auto& [key, value] : section.values)
-            result.push_back({section.name, key, value});
+    for (const auto& [section, values] : *sections)
+        for (const auto& [key, value] : values)
+            result.push_back({section, key, value});
     std::ranges::stable_sort(result, {}, [](const Setting& setting) { return lower_case(setting.section); });
     return result;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -32,19 +34,27 @@ public:
     friend bool operator==(const SettingsText&, const SettingsText&) = default;
 
 private:
-    struct Section {
-        std::string name;
-        std::vector<std::pair<std::string, std::string>> values;
-        friend bool operator==(const Section&, const Section&) = default;
+    /// Values by name, in the order of their first writing.
+    template <typename Value>
+    class Named {
+    public:
+        /// The value of a name, added where there is none.
+        Value& operator[](std::string_view name);
+        /// The value, or null when there is none.
+        [[nodiscard]] const Value* find(std::string_view name) const;
+        [[nodiscard]] auto begin() const { return entries_.begin(); }
+        [[nodiscard]] auto end() const { return entries_.end(); }
+        friend bool operator==(const Named&, const Named&) = default;
+
+    private:
+        std::vector<std::pair<std::string, Value>> entries_;
+        std::unordered_map<std::string, std::size_t> places_; // by the name in lower case
     };
-    struct Application {
-        std::string name;
-        std::vector<Section> sections;
-        friend bool operator==(const Application&, const Application&) = default;
-    };
+    using Section = Named<std::string>;
+    using Application = Named<Section>;
     class Reader;
 
-    std::vector<Application> applications_;
+    Named<Application> applications_;
 };
 
 } // namespace sonarelle

@@ -17,6 +17,9 @@ namespace sonarelle {
 
 namespace {
 
+// Settings and tables have some KB; what is far from that was put there by mistake or in bad will.
+constexpr std::size_t largest_file = 16 << 20;
+
 std::string lock_name(const std::filesystem::path& path) {
     return path.parent_path() / ("." + path.stem().string() + ".verrou");
 }
@@ -30,6 +33,23 @@ void make_folder_of(const std::string& path) {
         throw Failure{failure_of_errno(error.value(), Access::writing), path};
 }
 
+/// A lock is only ever made or found, never followed to where a link points; another user's needs no right to write.
+FileHandle open_lock(const std::string& name) {
+    constexpr int flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    FileHandle file{::open(name.c_str(), O_RDWR | O_CREAT | flags, 0666)};
+    if (!file.is_open() && (errno == EACCES || errno == EPERM))
+        file = FileHandle{::open(name.c_str(), O_RDONLY | flags)};
+    return file;
+}
+
+void check_is_plain(const FileHandle& file, const std::string& path) {
+    struct stat facts {};
+    if (::fstat(file.get(), &facts) != 0)
+        throw_errno(Access::writing, path);
+    if (!S_ISREG(facts.st_mode))
+        throw Failure{failure_number::device_fault, path, "Ce n'est pas un fichier ordinaire"};
+}
+
 } // namespace
 
 std::optional<std::string> read_shared_file(const std::string& path) {
@@ -38,6 +58,7 @@ std::optional<std::string> read_shared_file(const std::string& path) {
         return std::nullopt;
     if (!file.is_open())
         throw_errno(Access::writing, path);
+    check_is_plain(file, path);
     std::string text;
     std::array<char, 16384> block{};
     for (;;) {
@@ -48,12 +69,14 @@ std::optional<std::string> read_shared_file(const std::string& path) {
             text.append(block.data(), static_cast<std::size_t>(count));
         else if (errno != EINTR)
             throw_errno(Access::writing, path);
+        if (text.size() > largest_file)
+            throw Failure{failure_number::device_fault, path, "Ce fichier est bien trop grand"};
     }
 }
 
 SharedFileLock::SharedFileLock(const std::string& path) {
     make_folder_of(path);
-    file_ = FileHandle{::open(lock_name(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)};
+    file_ = open_lock(lock_name(path));
     if (!file_.is_open())
         throw_errno(Access::writing, path);
     wait_for_lock(file_, path);
@@ -74,6 +97,25 @@ void set_aside(const std::string& path) {
             throw_errno(Access::writing, path);
         return;
     }
+}
+
+std::optional<Failure> set_aside_if_damaged(const std::string& path, const std::function<void()>& check) {
+    const auto fault_of = [&]() -> std::optional<Failure> {
+        try {
+            check();
+            return std::nullopt;
+        } catch (const Failure& failure) {
+            return failure;
+        }
+    };
+    auto fault = fault_of();
+    if (fault && fault->number == failure_number::device_fault)
+        ErrorIndicator{}.skip([&] {
+            const SharedFileLock lock{path};
+            if (fault_of()) // another program may have mended it
+                set_aside(path);
+        });
+    return fault;
 }
 
 } // namespace sonarelle

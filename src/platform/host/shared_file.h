@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/failure.h"
 #include "platform/host/file_handle.h"
 
 namespace sonarelle {
@@ -12,7 +13,8 @@ namespace sonarelle {
 /// A small text file of this machine that several programs write, each whole. Failures name the file: 75 without
 /// rights, 57 for a disk's fault, 61 on a full disk.
 
-/// The whole text; nothing when there is no such file.
+/// The whole text; nothing when there is no such file. @throws Failure 57 too for what is no plain file, or has more
+/// than 16 MB.
 [[nodiscard]] std::optional<std::string> read_shared_file(const std::string& path);
 
 /// While it lives, other programs that change the same file wait. Makes the file's folder where it is missing.
@@ -30,5 +32,8 @@ void write_shared_file(const std::string& path, std::string_view text);
 
 /// Renames a file that can't be read to the first free of `x.abime`, `x.abime-2`…, for the operator to look at.
 void set_aside(const std::string& path);
+
+/// Sets a file aside that `check` finds damaged (Failure 57), where its folder lets it. Returns what `check` threw.
+[[nodiscard]] std::optional<Failure> set_aside_if_damaged(const std::string& path, const std::function<void()>& check);
 
 } // namespace sonarelle

@@ -68,9 +68,9 @@ class PacedByTheClock(Air):
     def test_ticks_as_the_rehearsal_does(self):
         self.make_list(6, 6)
         words = ["--duree", "00:00:08", "--reglage", "Mix=3", "--reglage", "valeur_max_jingles=2",
-                 "--reglage", "Valeur_vitesse_timer=2000"]
+                 "--reglage", "Valeur_vitesse_timer=700"]
         rehearsed = self.times(self.rehearse(*words), "depart")
-        self.assertEqual(rehearsed, [0, 6])
+        self.assertEqual(rehearsed, [0, 5.6])
         aired = self.events_of(self.call("antenne", self.list, "--sortie", "aucune", *words))
         self.assertEqual(self.times(aired, "depart"), rehearsed)
 

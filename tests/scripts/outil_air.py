@@ -4,6 +4,7 @@ import array
 import json
 import math
 import os
+import signal
 import struct
 import subprocess
 import tempfile
@@ -36,7 +37,7 @@ def one_sided_period(side):
 
 
 def record(path, end, start=0.0, volume=100):
-    return RECORD.pack(path.encode("cp1252").ljust(200), str(end).encode().ljust(100), b"Rock".ljust(100), volume, start,
+    return RECORD.pack(path.encode("cp1252", "surrogateescape").ljust(200), str(end).encode().ljust(100), b"Rock".ljust(100), volume, start,
                        b"00:01:40")
 
 
@@ -93,6 +94,12 @@ class Chaining(Air):
                                   "chemin": self.station_path(file), "fin": "100"})
         self.assertEqual(started, {"t": 0.0, "evenement": "depart", "lecteur": 1, "index": 1,
                                    "chemin": self.station_path(file), "mix_courant": 6, "prechargement": 7})
+
+    def test_escapes_control_characters_that_terminals_obey(self):
+        odd = write_wav(self.folder / "c\u009d0;o\u007f.wav", 100)
+        self.list.write_bytes(record(self.station_path(odd).replace("\u009d", "\udc9d"), 100))
+        said = self.call("repetition", self.list, "--sans-son", "--duree", "00:00:01")
+        self.assertIn("c\\u009d0;o\\u007f.wav", said)
 
     def test_writes_times_with_three_decimals(self):
         self.make_list(100, 100)
@@ -300,14 +307,140 @@ class Picture(Air):
 
     def test_that_cannot_be_written_is_named(self):
         self.make_list(100, 100)
-        self.call("repetition", self.list, "--sans-son", "--image", self.folder / "absent/a.svg", status=1)
+        said = self.call("repetition", self.list, "--sans-son", "--image", self.folder / "absent/a.svg", status=1)
         self.assertIn("absent/a.svg", self.error)
+        self.assertEqual(said, "")
+
+
+class Outputs(Air):
+    """What a rehearsal writes never takes the place of what it reads, nor of anything when it fails."""
+
+    def refuse(self, *words):
+        self.assertEqual(self.call("repetition", self.list, "--duree", "00:00:03", *words, status=1), "")
+        self.assertEqual(self.error.count("\n"), 1, self.error)
+
+    def test_are_not_the_list(self):
+        self.make_list(20, 20)
+        before = self.list.read_bytes()
+        for words in (["--rendu", self.list], ["--sans-son", "--image", self.list]):
+            self.refuse(*words)
+            self.assertIn(f"{self.list} : ce fichier est la liste", self.error)
+            self.assertEqual(self.list.read_bytes(), before)
+
+    def test_are_not_the_list_under_another_name(self):
+        self.make_list(20, 20)
+        before = self.list.read_bytes()
+        os.link(self.list, self.folder / "autre.wav")
+        self.refuse("--rendu", self.folder / "autre.wav")
+        self.assertEqual(self.list.read_bytes(), before)
+
+    def test_are_no_track_of_the_list(self):
+        track = self.make_list(20, 20)[1]
+        before = track.read_bytes()
+        for words in (["--rendu", track], ["--sans-son", "--image", track]):
+            self.refuse(*words)
+            self.assertIn(f"{track} : ce fichier est un titre de la liste", self.error)
+            self.assertEqual(track.read_bytes(), before)
+
+    def test_are_not_one_and_the_same(self):
+        self.make_list(20, 20)
+        self.refuse("--rendu", self.folder / "x.wav", "--image", self.folder / "./x.wav")
+        self.assertFalse((self.folder / "x.wav").exists())
+
+    def test_leave_what_is_there_when_the_run_is_refused(self):
+        self.list.write_bytes(b"")
+        kept = self.folder / "keep.wav"
+        kept.write_text("précieux")
+        self.refuse("--rendu", kept)
+        self.assertEqual(kept.read_text(), "précieux")
+
+    def test_are_plain_files(self):
+        self.make_list(20, 20)
+        pipe = self.folder / "tuyau"
+        os.mkfifo(pipe)
+        for words in (["--rendu", pipe], ["--sans-son", "--image", pipe], ["--sans-son", "--gestes", pipe],
+                      ["--sans-son", "--gestes", "/dev/zero"], ["--sans-son", "--gestes", self.folder]):
+            self.refuse(*words)
+            self.assertIn(str(words[-1]), self.error)
+
+    def test_are_no_longer_than_a_wav_file_holds(self):
+        self.make_list(20, 20)
+        self.call("repetition", self.list, "--rendu", self.folder / "a.wav", "--duree", "06:13:00", status=1)
+        self.assertIn("a.wav : un fichier WAV ne tient pas plus de 6 h 12 min", self.error)
+        self.assertFalse((self.folder / "a.wav").exists())
+
+
+class EndingEarly(Air):
+    """A run that is interrupted, or whose reader ends, leaves nothing behind."""
+
+    def setUp(self):
+        super().setUp()
+        self.make_list(100, 100)
+        self.temporary = self.folder / "temporaire"
+        self.temporary.mkdir()
+        self.environment = {**os.environ, "TMPDIR": str(self.temporary)}
+
+    def start(self, *words):
+        run = subprocess.Popen(self.words("repetition", self.list, "--duree", "99:00:00", *words),
+                               env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.addCleanup(run.wait)
+        self.addCleanup(run.kill)
+        self.addCleanup(run.stderr.close)
+        self.addCleanup(run.stdout.close)
+        return run
+
+    def test_by_a_reader_that_ends(self):
+        run = self.start("--sans-son")
+        run.stdout.readline()
+        run.stdout.close()
+        self.assertEqual(run.wait(), 1)
+        self.assertEqual(run.stderr.read().decode(), "sonarelle-outil : sortie standard : écriture impossible\n")
+        self.assertEqual(list(self.temporary.iterdir()), [])
+
+    def test_by_a_signal(self):
+        rendering = self.folder / "air.wav"
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            run = subprocess.Popen(self.words("repetition", self.list, "--duree", "06:00:00", "--rendu", rendering),
+                                   env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+            run.stdout.readline()
+            run.send_signal(number)
+            error = run.communicate()[1].decode()
+            self.assertEqual(run.returncode, 1)
+            self.assertIn("répétition interrompue", error)
+            self.assertEqual(list(self.temporary.iterdir()), [])
+            self.assertEqual(sorted(path.name for path in self.folder.iterdir()),
+                             ["1.wav", "2.wav", "liste.dfm", "temporaire"])
+
+    def test_by_a_kill_leaves_a_folder_that_the_next_run_sweeps(self):
+        run = self.start("--sans-son")
+        run.stdout.readline()
+        run.kill()
+        run.wait()
+        left, = self.temporary.iterdir()
+        old = 1_000_000_000
+        os.utime(left, (old, old))
+        subprocess.run(self.words("repetition", self.list, "--sans-son", "--duree", "00:00:01"), env=self.environment,
+                       capture_output=True, check=True)
+        self.assertEqual(list(self.temporary.iterdir()), [])
+
+    def test_in_no_temporary_folder_names_it(self):
+        self.environment["TMPDIR"] = str(self.folder / "absent")
+        run = self.start("--sans-son")
+        self.assertEqual(run.wait(), 1)
+        self.assertIn(f"{self.folder}/absent : Chemin d'accès introuvable", run.stderr.read().decode())
 
 
 class Words(Air):
+    def test_of_a_length_may_have_four_digits_of_hours(self):
+        self.make_list(100, 100)
+        self.assertEqual(self.rehearse("--sans-son", "--duree", "0100:00:00")[-1]["t"], 360000)
+        self.assertEqual(self.rehearse("--sans-son", "--duree", "100:00:00")[-1]["t"], 360000)
+
     def test_that_are_wrong(self):
         self.make_list(100)
         for words in ([], [""], [self.list, "x"], [self.list, "--duree", "10"], [self.list, "--duree", "0a:00:00"],
+                      [self.list, "--duree", "10000:00:00"], [self.list, "--duree", "00:60:00"],
+                      [self.list, "--duree", "00:00:60"], [self.list, "--duree", "1:00:00"],
                       [self.list, "--mode", "vite"], [self.list, "--graine", "x"], [self.list, "--reglage", "Mix"],
                       [self.list, "--reglage", "Inconnu=1"], [self.list, "--xyz"], [self.list, "--duree"],
                       [self.list, "--rendu", "a.wav", "--sans-son"]):

@@ -37,9 +37,28 @@ class Tool(unittest.TestCase):
 
 
 class Words(Tool):
-    def test_answer_status_2_with_the_usage_when_they_are_unknown(self):
-        self.call("danser", status=2)
-        self.assertIn("liste voir", self.error)
+    def test_that_are_unknown_are_named_and_help_is_shown_the_way_to(self):
+        self.run_words("danser", status=2)
+        self.assertEqual(self.error, "sonarelle-outil : commande inconnue : danser\n"
+                                     "Usage : sonarelle-outil COMMANDE... (sonarelle-outil --aide les montre toutes)\n")
+
+    def test_that_are_wrong_show_the_usage_of_their_command_alone(self):
+        self.call("calcul", "heure", status=2)
+        self.assertEqual(self.error, "sonarelle-outil : il manque : SECONDES\n"
+                                     "Usage : sonarelle-outil calcul heure SECONDES...\n")
+
+    def test_that_are_cut_short_show_the_commands_that_begin_with_them(self):
+        self.run_words("calcul", status=2)
+        self.assertEqual([line.split()[2:5] for line in self.error.splitlines()[1:]],
+                         [["sonarelle-outil", "calcul", word] for word in ("heure", "duree", "mix")])
+
+    def test_ask_for_help_on_all_or_on_one(self):
+        self.assertIn("sonarelle-outil liste voir FICHIER", self.run_words("--aide"))
+        for words in (("calcul", "heure", "--aide"), ("--aide", "calcul", "heure")):
+            said = self.run_words(*words)
+            self.assertIn("sonarelle-outil calcul heure SECONDES...\n", said)
+            self.assertNotIn("calcul duree", said)
+        self.run_words("danser", "--aide", status=2)
 
     def test_answer_status_2_without_a_command(self):
         self.assertEqual(subprocess.run([TOOL], capture_output=True, check=False).returncode, 2)
@@ -104,6 +123,39 @@ class SettingsWords(Tool):
     def test_write_and_read_a_value(self):
         self.call("reglages", "ecrire", "Config", "Nom_antenne_fm", "Radio Été")
         self.assertEqual(self.call("reglages", "lire", "config", "NOM_ANTENNE_FM"), "Radio Été\n")
+
+    def test_show_no_control_characters(self):
+        self.call("reglages", "ecrire", "Essai", "k\x1b[31m", "v\x1b]0;x\x07\nfaux\u009d")
+        self.assertEqual(self.call("reglages"), "Essai\tk·[31m\tv·]0;x··faux·\n")
+        self.assertEqual(self.call("reglages", "lire", "Essai", "k\x1b[31m"), "v·]0;x··faux·\n")
+        said = self.call("reglages", "--json")
+        self.assertIn("faux\\u009d", said)
+        self.assertEqual(json.loads(said)["valeur"], "v\x1b]0;x\x07\nfaux\u009d")
+
+    def test_name_a_file_that_is_no_plain_one(self):
+        self.station.mkdir()
+        (self.station / "reglages.json").symlink_to("/dev/zero")
+        self.call("reglages", status=1)
+        self.assertIn("reglages.json : Ce n'est pas un fichier ordinaire", self.error)
+
+    def test_name_a_file_that_is_far_too_long(self):
+        self.station.mkdir()
+        with open(self.station / "reglages.json", "wb") as file:
+            file.truncate(1 << 30)
+        self.call("reglages", status=1)
+        self.assertIn("trop grand", self.error)
+
+    def test_of_many_keys_are_found_by_any_case(self):
+        self.station.mkdir()
+        keys = {f"Cle{number}": str(number) for number in range(60000)}
+        (self.station / "reglages.json").write_text(json.dumps({"Sonarelle V6": {"Essai": keys}}))
+        self.assertEqual(self.call("reglages", "lire", "essai", "CLE59999"), "59999\n")
+
+    def test_are_locked_by_no_link_to_elsewhere(self):
+        self.station.mkdir()
+        (self.station / ".reglages.verrou").symlink_to(self.station / "ailleurs")
+        self.call("reglages", "ecrire", "Config", "Mix", "6", status=1)
+        self.assertFalse((self.station / "ailleurs").exists())
 
     def test_refuse_a_key_without_a_value(self):
         self.call("reglages", "lire", "Config", "Mix", status=1)
@@ -172,6 +224,19 @@ class Drives(Tool):
     def damage_the_table(self):
         self.station.mkdir()
         (self.station / "lecteurs.json").write_text("{ abîmé")
+
+    def test_show_no_control_characters(self):
+        self.call("lecteurs", "D", "/srv/\x1b[31m\nE\t/faux")
+        self.assertEqual(self.call("lecteurs"), "C\t/\nD\t/srv/·[31m·E·/faux\n")
+
+    def test_whose_folder_is_no_utf_8_are_shown_all_the_same(self):
+        self.station.mkdir()
+        odd = os.path.join(os.fsencode(self.station), b"x\xe9")
+        os.mkdir(odd)
+        run = subprocess.run([TOOL, "lecteurs", "--lecteur", "D=y", "--json", "--dossier", str(self.station)], cwd=odd,
+                             capture_output=True, check=False)
+        self.assertEqual(run.returncode, 0, run.stderr.decode())
+        self.assertTrue(json.loads(run.stdout.splitlines()[-1])["dossier"].endswith("x\ufffd/y"))
 
     def test_of_a_damaged_table_are_named_by_its_file(self):
         self.damage_the_table()

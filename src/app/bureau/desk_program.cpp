@@ -26,7 +26,7 @@ ScreenSize screen_size() {
 
 /// A picture that can't be put in its place is missed where it is shown, by name.
 std::string filled_program_folder(Machine& machine) {
-    std::string folder = machine.make_program_folder();
+    std::string folder = machine.program_folder();
     if (const auto supplied = supplied_files())
         ErrorIndicator{}.skip([&] { fill_program_folder(*supplied, machine.folders().program); });
     return folder;
@@ -40,8 +40,8 @@ std::string quoted(const std::string& path) {
 } // namespace
 
 DeskProgram::DeskProgram(Machine& machine, const std::string& file)
-    : machine_{machine}, command_line_{quoted(
-                             file.empty() ? file : station_path_of(machine.drives(), absolute_machine_path(file)))},
+    : machine_{machine}, told_{machine.make_ready(Machine::EmptyStore::is_first_start)},
+      command_line_{quoted(file.empty() ? file : station_path_of(machine.drives(), absolute_machine_path(file)))},
       program_folder_{filled_program_folder(machine)}, live_{machine.drives(), std::random_device{}()},
       dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }}, station_{platform()},
       pictures_{[this](const std::string& name) { return picture_path(name); }},
@@ -123,6 +123,8 @@ void DeskProgram::run() {
                       [this](OutputState state) { tell_output(state); });
     // Ending ends a loop that turns already, so the station begins inside it.
     QTimer::singleShot(0, [this] { run_event([this] { station_.desk_wiring.startup.enter_program(command_line_); }); });
+    for (const std::string& sentence : told_)
+        QTimer::singleShot(0, [this, sentence] { run_event([this, sentence] { tell_fault(sentence); }); });
     QApplication::exec();
 }
 

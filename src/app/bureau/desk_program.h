@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "app/bureau/sound_probe.h"
 #include "app/common/live_machine.h"
@@ -20,7 +21,7 @@ namespace sonarelle {
 class DeskProgram {
 public:
     /// `file`, a path of this machine as typed, or empty, is what the station opens and plays.
-    /// @throws Failure for a file that no drive reaches, and for a folder that can't be made.
+    /// @throws Failure for a file that no drive reaches, and as Machine::make_ready.
     DeskProgram(Machine& machine, const std::string& file);
     ~DeskProgram();
     DeskProgram(const DeskProgram&) = delete;
@@ -48,6 +49,7 @@ private:
     void tell_output(OutputState state);
 
     Machine& machine_;
+    std::vector<std::string> told_; // by the start, for the operator
     std::string command_line_;
     std::string program_folder_;
     LiveMachine live_;

@@ -1,6 +1,6 @@
 #include <QApplication>
+#include <QMessageBox>
 #include <QTranslator>
-#include <csignal>
 #include <iostream>
 #include <span>
 
@@ -8,7 +8,9 @@
 #include "app/bureau/french.h"
 #include "app/common/arguments.h"
 #include "app/common/common_options.h"
+#include "app/common/quiet_signals.h"
 #include "platform/failure.h"
+#include "platform/text.h"
 
 namespace sonarelle {
 
@@ -28,8 +30,13 @@ int run(std::span<char* const> words) {
 }
 
 int refuse(std::string_view sentence, int status) {
-    std::cerr << "sonarelle : " << sentence << '\n';
+    std::cerr << "sonarelle : " << printable(sentence) << '\n';
     return status;
+}
+
+/// Who starts the desk from a menu sees no terminal.
+void show_refusal(std::string_view sentence) {
+    QMessageBox::critical(nullptr, "Sonarelle", QString::fromUtf8(sentence.data(), qsizetype(sentence.size())));
 }
 
 } // namespace
@@ -37,7 +44,7 @@ int refuse(std::string_view sentence, int status) {
 } // namespace sonarelle
 
 int main(int count, char** words) {
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is then a failure like a full disk
+    sonarelle::take_failures_for_signals();
     QApplication application{count, words};
     QApplication::setApplicationName("Sonarelle");
     QApplication::setQuitOnLastWindowClosed(false); // the station has one way out
@@ -47,10 +54,12 @@ int main(int count, char** words) {
     try {
         return sonarelle::run({words + 1, static_cast<std::size_t>(count - 1)});
     } catch (const sonarelle::WrongWords& wrong) {
-        return sonarelle::refuse(std::string{wrong.what()} +
-                                     "\nUsage : sonarelle [FICHIER] [--dossier DOSSIER] [--lecteur LETTRE=DOSSIER]...",
-                                 sonarelle::wrong_words);
+        const int status = sonarelle::refuse(wrong.what(), sonarelle::wrong_words);
+        std::cerr << "Usage : sonarelle [FICHIER] [--dossier DOSSIER] [--lecteur LETTRE=DOSSIER]...\n";
+        return status;
     } catch (const std::exception& failure) {
-        return sonarelle::refuse(failure.what(), sonarelle::refused);
+        const int status = sonarelle::refuse(failure.what(), sonarelle::refused);
+        sonarelle::show_refusal(failure.what());
+        return status;
     }
 }

@@ -3,6 +3,7 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
@@ -12,6 +13,8 @@
 namespace sonarelle {
 
 namespace {
+
+constexpr std::array end_signals{SIGINT, SIGTERM, SIGHUP};
 
 // A signal's handler can reach nothing else.
 int wake_descriptor = -1;
@@ -36,13 +39,15 @@ SignalWatch::SignalWatch(std::function<void()> on_signal) : notifier_{open_descr
         [[maybe_unused]] const auto count = ::read(wake_descriptor, &ignored, sizeof ignored);
         on_signal();
     });
-    for (const int signal : {SIGINT, SIGTERM})
-        std::signal(signal, wake);
+    for (const int signal : end_signals)
+        if (std::signal(signal, wake) == SIG_IGN && signal == SIGHUP)
+            std::signal(signal, SIG_IGN);
 }
 
 SignalWatch::~SignalWatch() {
-    for (const int signal : {SIGINT, SIGTERM})
-        std::signal(signal, SIG_DFL);
+    for (const int signal : end_signals)
+        if (std::signal(signal, SIG_DFL) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
     notifier_.setEnabled(false);
     ::close(wake_descriptor);
 }

@@ -5,7 +5,8 @@
 
 namespace sonarelle {
 
-/// Tells of SIGINT and SIGTERM in the windows' loop. One at a time in a process.
+/// Tells of SIGINT, SIGTERM and SIGHUP in the windows' loop. A SIGHUP that the caller ignores (nohup) stays ignored.
+/// One at a time in a process.
 class SignalWatch {
 public:
     explicit SignalWatch(std::function<void()> on_signal);

@@ -1,7 +1,5 @@
 #include "app/common/machine.h"
 
-#include <filesystem>
-
 #include <utility>
 
 #include "platform/failure.h"
@@ -12,15 +10,19 @@
 namespace sonarelle {
 
 Machine::Machine(CommonOptions options)
-    : options_{std::move(options)}, folders_{host_folders(options_.folder)}, settings_{folders_.settings} {}
+    : options_{std::move(options)}, folders_{host_folders(options_.folder)}, settings_{std::make_unique<HostSettings>(
+                                                                                 folders_.settings)} {}
 
 const DriveTable& Machine::drives() {
-    if (!drives_) {
-        drives_ = load_drive_table(folders_.drive_table);
-        for (const CommonOptions::Drive& drive : options_.drives)
-            drives_->set(drive.name, absolute_machine_path(drive.folder));
-    }
+    if (!drives_)
+        drives_ = with_drives_of_the_call(load_drive_table(folders_.drive_table));
     return *drives_;
+}
+
+DriveTable Machine::with_drives_of_the_call(DriveTable table) const {
+    for (const CommonOptions::Drive& drive : options_.drives)
+        table.set(drive.name, absolute_machine_path(drive.folder));
+    return table;
 }
 
 std::unique_ptr<RecordFile> Machine::open(const std::string& file) {
@@ -35,14 +37,6 @@ std::unique_ptr<FileReplacement> Machine::replace(const std::string& file) {
 
 std::string Machine::program_folder() {
     return station_path_of(drives(), folders_.program);
-}
-
-std::string Machine::make_program_folder() {
-    std::error_code error;
-    std::filesystem::create_directories(folders_.program, error);
-    if (error)
-        throw Failure{failure_number::path_access, folders_.program};
-    return program_folder();
 }
 
 void Machine::set_drive(const std::string& drive, const std::string& folder) {

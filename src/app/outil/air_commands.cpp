@@ -1,3 +1,5 @@
+#include <fcntl.h>
+
 #include <array>
 #include <fstream>
 #include <ostream>
@@ -8,6 +10,7 @@
 #include "app/outil/rehearsal.h"
 #include "configuration/station_settings.h"
 #include "platform/failure.h"
+#include "platform/host/machine_files.h"
 
 namespace sonarelle {
 
@@ -24,9 +27,8 @@ std::vector<Gesture> gestures_of(const Arguments& arguments, const DriveTable& d
     if (!arguments.has(gestures_option.name))
         return {};
     const std::string file = arguments.value(gestures_option.name, "");
+    static_cast<void>(open_plain(file, O_RDONLY, Access::reading, file)); // a pipe would be waited for
     std::ifstream in{file};
-    if (!in)
-        throw Failure{failure_number::file_not_found, file};
     return read_gestures(in, file, drives);
 }
 
@@ -55,10 +57,11 @@ void go_on_air(const Call& call) {
     if (call.arguments.has(output_option.name))
         live.output = call.arguments.value(output_option.name, "");
     live.shows_journal = call.arguments.has(journal_option.name);
+    live.told = machine.make_ready(Machine::EmptyStore::is_filled);
     live.drives = machine.drives();
-    live.program_folder = machine.make_program_folder();
+    live.program_folder = machine.program_folder();
     static_cast<void>(machine.open(live.programme.list));
-    run_on_air(live, machine.settings(), call.out);
+    run_on_air(live, machine.settings());
 }
 
 constexpr std::array rehearsal_options{length_option,    mode_option,   seed_option,     setting_option,

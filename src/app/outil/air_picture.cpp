@@ -1,7 +1,6 @@
 #include "app/outil/air_picture.h"
 
 #include <algorithm>
-#include <fstream>
 #include <locale>
 #include <sstream>
 
@@ -104,8 +103,8 @@ void AirPicture::advance(Frames now, Frames next) {
     }
 }
 
-void AirPicture::save(const std::string& file, Frames length) const {
-    std::ofstream out{file, std::ios::binary};
+std::string AirPicture::svg(Frames length) const {
+    std::ostringstream out;
     const Scale scale{length};
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << number(width + 2 * margin) << ' '
         << number(decks * lane_height + 2 * margin) << "\" font-family=\"sans-serif\" font-size=\"12\">\n"
@@ -121,8 +120,7 @@ void AirPicture::save(const std::string& file, Frames length) const {
         out << "<text x=\"14\" y=\"" << number(lane_top(deck) + bar_height / 2 + 4) << "\" fill=\"#9aa0a8\">" << deck
             << "</text>\n";
     out << "</svg>\n";
-    if (!out.flush())
-        throw Failure{failure_number::path_access, file};
+    return out.str();
 }
 
 /// A label stands on bars that have room for it.

@@ -23,8 +23,7 @@ public:
     void advance(Frames now, Frames next);
     void add_silence(Frames from, Frames span) { silences_.push_back({from, from + span}); }
 
-    /// As SVG. @throws Failure 75 when the file can't be written.
-    void save(const std::string& file, Frames length) const;
+    [[nodiscard]] std::string svg(Frames length) const;
 
 private:
     struct Stretch {

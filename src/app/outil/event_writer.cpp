@@ -1,7 +1,6 @@
 #include "app/outil/event_writer.h"
 
-#include <ostream>
-
+#include "app/outil/printable.h"
 #include "platform/numbers.h"
 
 namespace sonarelle {
@@ -27,15 +26,23 @@ std::string answer_text(const Question& question) {
     }
 }
 
+std::string line_of(Frames time, std::string_view event, const EventWriter::Json& fields) {
+    const std::string head = "{\"t\":" + seconds_text(time) + ",\"evenement\":\"" + std::string{event} + '"';
+    return head + (fields.empty() ? "}" : ',' + json_line(fields).substr(1)) + '\n';
+}
+
 } // namespace
 
 void EventWriter::line(Frames at, std::string_view event, const Json& fields) {
-    out_ << "{\"t\":" << seconds_text(at - origin_) << ",\"evenement\":\"" << event << '"';
-    if (!fields.empty())
-        out_ << ',' << std::string_view{fields.dump()}.substr(1);
-    else
-        out_ << '}';
-    out_ << '\n' << std::flush;
+    give(at, line_of(at - origin_, event, fields));
+}
+
+void EventWriter::give(Frames at, std::string line) {
+    const std::string told = std::to_string(lost_) + (lost_ > 1 ? " lignes perdues" : " ligne perdue");
+    if (lost_ > 0 && sink_(line_of(at - origin_, "avertissement", Json{{"texte", told + " : personne ne lisait"}})))
+        lost_ = 0;
+    if (!sink_(std::move(line)))
+        ++lost_;
 }
 
 void EventWriter::write(Frames at, const OnAirEvent& event) {
@@ -83,10 +90,9 @@ void EventWriter::write_silence(Frames at) {
 }
 
 void EventWriter::write_account(Frames at) {
-    out_ << "{\"t\":" << seconds_text(at - origin_) << ",\"evenement\":\"bilan\",\"departs\":" << starts_
-         << ",\"silence_total\":" << seconds_text(silence_)
-         << ",\"charge_max_ms\":" << Format(longest_load_ms_, "0.0", DecimalMark::point) << "}\n"
-         << std::flush;
+    give(at, "{\"t\":" + seconds_text(at - origin_) + ",\"evenement\":\"bilan\",\"departs\":" +
+                 std::to_string(starts_) + ",\"silence_total\":" + seconds_text(silence_) +
+                 ",\"charge_max_ms\":" + Format(longest_load_ms_, "0.0", DecimalMark::point) + "}\n");
 }
 
 } // namespace sonarelle

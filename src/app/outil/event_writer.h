@@ -1,10 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <iosfwd>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/simulated/simulated_dialogs.h"
 #include "platform/units.h"
@@ -17,7 +17,11 @@ class EventWriter {
 public:
     using Json = nlohmann::ordered_json;
 
-    explicit EventWriter(std::ostream& out) : out_{out} {}
+    /// Takes a line with its end of line; false when it was lost.
+    using Sink = std::function<bool(std::string)>;
+
+    /// Where lines are lost, the next one that isn't stands behind a warning that says how many.
+    explicit EventWriter(Sink sink) : sink_{std::move(sink)} {}
 
     /// What comes is told in seconds from here; at first from the station's own beginning.
     void count_from(Frames origin) { origin_ = origin; }
@@ -37,8 +41,10 @@ public:
 
 private:
     void line(Frames at, std::string_view event, const Json& fields);
+    void give(Frames at, std::string line);
 
-    std::ostream& out_;
+    Sink sink_;
+    int lost_ = 0;
     Frames origin_;
     int starts_ = 0;
     Frames silence_;

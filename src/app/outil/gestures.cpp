@@ -149,6 +149,8 @@ std::vector<Gesture> read_gestures(std::istream& in, const std::string& source, 
             throw Failure{failure.number, source + ", ligne " + std::to_string(number), failure.what()};
         }
     }
+    if (in.bad())
+        throw Failure{failure_number::device_fault, source, "lecture impossible"};
     return gestures;
 }
 

@@ -1,17 +1,18 @@
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
-#include <csignal>
 #include <exception>
 #include <iostream>
 #include <new>
 #include <string>
+#include <system_error>
 #include <vector>
 
+#include "app/common/quiet_signals.h"
 #include "app/outil/commands.h"
+#include "app/outil/output_failure.h"
 #include "app/outil/printable.h"
 #include "platform/failure.h"
 
@@ -23,8 +24,6 @@ constexpr int done = 0;
 constexpr int refused = 1;
 constexpr int wrong_words = 2;
 
-constexpr const char* output_name = "sortie standard";
-
 std::vector<Command> all_commands() {
     std::vector<Command> commands;
     for (const auto& group : {list_commands(), sound_commands(), tag_commands(), computing_commands(), mix_commands(),
@@ -33,12 +32,18 @@ std::vector<Command> all_commands() {
     return commands;
 }
 
-void print_usage(std::ostream& out) {
+std::string usage_of(const Command& command) {
+    return "sonarelle-outil " + std::string{command.words} + (command.usage.empty() ? "" : " ") +
+           std::string{command.usage} + '\n';
+}
+
+void print_usage(std::ostream& out, std::span<const Command> commands) {
     out << "Usage :\n";
-    for (const Command& command : all_commands())
-        out << "  sonarelle-outil " << command.words << (command.usage.empty() ? "" : " ") << command.usage << '\n';
-    out << "Partout : [--lecteur LETTRE=DOSSIER]... [--dossier DOSSIER], après le mot de la commande\n";
-    out << "Derrière un -- seul, un mot peut commencer par --\n";
+    for (const Command& command : commands)
+        out << "  " << usage_of(command);
+    out << "Partout : [--lecteur LETTRE=DOSSIER]... [--dossier DOSSIER], après le mot de la commande\n"
+        << "Derrière un -- seul, un mot peut commencer par --\n"
+        << "sonarelle-outil --aide montre toutes les commandes, COMMANDE --aide l'une d'elles\n";
 }
 
 std::vector<std::string_view> parts_of(std::string_view words) {
@@ -64,21 +69,33 @@ const Command* find_command(std::span<const Command> commands, std::span<char* c
     return best;
 }
 
-int run(std::span<char* const> line) {
-    const std::vector<Command> commands = all_commands();
-    std::size_t length = 0;
-    const Command* command = find_command(commands, line, length);
-    if (command == nullptr)
-        throw WrongWords{line.empty() ? "aucune commande" : "commande inconnue : " + std::string{line.front()}};
+void run(const Command& command, std::span<char* const> words) {
     std::vector<Option> options{drive_option, folder_option};
-    options.insert(options.end(), command->options.begin(), command->options.end());
-    const Arguments arguments{line.subspan(length), options};
+    options.insert(options.end(), command.options.begin(), command.options.end());
+    const Arguments arguments{words, options};
     const CommonOptions common = common_options(arguments);
-    command->run({arguments, common, std::cin, std::cout});
+    command.run({arguments, common, std::cin, std::cout});
     if (!std::cout.flush())
-        throw errno == ENOSPC ? Failure{failure_number::disk_full, output_name}
-                              : Failure{failure_number::device_fault, output_name, "écriture impossible"};
-    return done;
+        throw output_failure();
+}
+
+/// The commands that a line can mean: the one whose words it begins with, or those of its first word, or none.
+std::vector<Command> meant_commands(std::span<char* const> line) {
+    std::vector<Command> commands = all_commands();
+    std::size_t length = 0;
+    if (const Command* command = find_command(commands, line, length))
+        return {*command};
+    std::erase_if(commands, [line](const Command& command) {
+        return line.empty() || parts_of(command.words).front() != line.front();
+    });
+    return commands;
+}
+
+constexpr std::string_view help_word = "--aide";
+
+bool asks_for_help(std::span<char* const> line) {
+    const auto end = std::ranges::find(line, std::string_view{"--"});
+    return std::find(line.begin(), end, help_word) != end;
 }
 
 /// Where a caller closed one of the three, the next file opened would get its number, and be read or written for it.
@@ -89,9 +106,48 @@ void hold_standard_files() {
             static_cast<void>(::open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY));
 }
 
+/// A terminal that stands still must not hold up the program's end.
 int refuse(std::string_view sentence) {
-    std::cerr << "sonarelle-outil : " << printable(sentence) << '\n';
+    pollfd place{STDERR_FILENO, POLLOUT, 0};
+    if (::poll(&place, 1, 1000) == 1)
+        std::cerr << "sonarelle-outil : " << printable(sentence) << '\n';
     return refused;
+}
+
+int refuse_words(std::string_view sentence, std::span<const Command> meant) {
+    refuse(sentence);
+    for (const Command& command : meant)
+        std::cerr << "Usage : " << usage_of(command);
+    if (meant.empty())
+        std::cerr << "Usage : sonarelle-outil COMMANDE... (sonarelle-outil --aide les montre toutes)\n";
+    return wrong_words;
+}
+
+int help(std::span<char* const> line) {
+    std::vector<char*> words{line.begin(), line.end()};
+    std::erase_if(words, [](const char* word) { return word == help_word; });
+    const std::vector<Command> commands = words.empty() ? all_commands() : meant_commands(words);
+    if (commands.empty())
+        return refuse_words("commande inconnue : " + std::string{words.front()}, {});
+    print_usage(std::cout, commands);
+    return std::cout.flush() ? done : refuse(output_failure().what());
+}
+
+int run(std::span<char* const> line) {
+    if (asks_for_help(line))
+        return help(line);
+    const std::vector<Command> commands = all_commands();
+    std::size_t length = 0;
+    const Command* command = find_command(commands, line, length);
+    if (command == nullptr)
+        return refuse_words(line.empty() ? "aucune commande" : "commande inconnue : " + std::string{line.front()},
+                            meant_commands(line));
+    try {
+        run(*command, line.subspan(length));
+        return done;
+    } catch (const WrongWords& wrong) {
+        return refuse_words(wrong.what(), {command, 1});
+    }
 }
 
 } // namespace
@@ -100,19 +156,17 @@ int refuse(std::string_view sentence) {
 
 int main(int count, char** words) {
     std::ios::sync_with_stdio(false);
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may grow no more is then a failure like a full disk
+    sonarelle::take_failures_for_signals();
     sonarelle::hold_standard_files();
     try {
         return sonarelle::run({words + 1, static_cast<std::size_t>(count - 1)});
-    } catch (const sonarelle::WrongWords& wrong) {
-        sonarelle::refuse(wrong.what());
-        sonarelle::print_usage(std::cerr);
-        return sonarelle::wrong_words;
     } catch (const sonarelle::AlreadyTold&) {
         std::cout.flush();
         return sonarelle::refused;
     } catch (const sonarelle::Failure& failure) {
         return sonarelle::refuse(failure.what());
+    } catch (const std::system_error& fault) {
+        return sonarelle::refuse(sonarelle::sentence_of_errno(fault.code().value()));
     } catch (const std::bad_alloc&) {
         return sonarelle::refuse("mémoire insuffisante");
     } catch (const std::exception& fault) {

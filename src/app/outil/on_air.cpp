@@ -1,15 +1,17 @@
 #include "app/outil/on_air.h"
 
-#include <atomic>
+#include <unistd.h>
+
 #include <chrono>
-#include <csignal>
 #include <memory>
-#include <ostream>
 #include <span>
 
 #include "app/common/live_machine.h"
 #include "app/outil/deck_watch.h"
+#include "app/outil/end_signals.h"
 #include "app/outil/event_writer.h"
+#include "app/outil/line_output.h"
+#include "app/outil/printable.h"
 #include "app/outil/silence_watch.h"
 #include "configuration/settings_store.h"
 #include "platform/audio/tap_reader.h"
@@ -23,36 +25,11 @@ namespace sonarelle {
 
 namespace {
 
-// A signal's handler can reach nothing else.
-std::atomic<LiveDriver*> driver_to_stop{nullptr};
-
-void stop_on_signal(int) {
-    if (LiveDriver* driver = driver_to_stop.load())
-        driver->stop();
-}
-
-class StopOnSignals {
-public:
-    explicit StopOnSignals(LiveDriver& driver) {
-        driver_to_stop = &driver;
-        std::signal(SIGINT, stop_on_signal);
-        std::signal(SIGTERM, stop_on_signal);
-    }
-    ~StopOnSignals() {
-        std::signal(SIGINT, SIG_DFL);
-        std::signal(SIGTERM, SIG_DFL);
-        driver_to_stop = nullptr;
-    }
-    StopOnSignals(const StopOnSignals&) = delete;
-    StopOnSignals& operator=(const StopOnSignals&) = delete;
-};
-
 /// A station on this machine's sound, disk and settings.
 class LiveStation {
 public:
-    LiveStation(const LiveProgramme& live, HostSettings& settings, std::ostream& out)
-        : live_{live}, out_{out}, machine_{live.drives, live.programme.seed}, settings_{settings}, events_{out} {
-        write_first_settings();
+    LiveStation(const LiveProgramme& live, HostSettings& settings)
+        : live_{live}, machine_{live.drives, live.programme.seed}, settings_{settings} {
         station_ =
             std::make_unique<Station>(machine_.platform(settings_, dialogs_, machine_.shell(), live.program_folder));
         watch_ = std::make_unique<DeckWatch>(station_->desk);
@@ -61,10 +38,13 @@ public:
         for (const Setting& setting : live.programme.settings)
             apply(setting);
         station_->main_window.Active_journal.click();
+        for (const std::string& sentence : live.told)
+            tell(sentence);
     }
 
-    void run() {
-        const StopOnSignals stop{machine_.driver()};
+    /// How many lines nobody read.
+    int run() {
+        const EndSignals signals{[this] { machine_.driver().stop(); }};
         // Frame 0 of the programme is that of the list: the card finds sound as soon as it is open.
         machine_.scheduler().run_event(Frames{},
                                        [this] { start(station_path_of(live_.drives, live_.programme.list)); });
@@ -73,20 +53,25 @@ public:
         machine_.driver().run();
         if (!ended_) // by a signal
             machine_.driver().run_event([this] { end(); });
+        return lines_.lost();
     }
 
 private:
-    void tell_output(OutputState state) {
-        station_->journal.note(date_and_time(station_->desk.platform) + " " + state_text(state));
+    void tell(const std::string& sentence) {
+        note(sentence);
         if (!live_.shows_journal)
-            events_.write_warning(now(), state_text(state));
+            events_.write_warning(now(), sentence);
     }
 
-    /// An empty store gets its first values, so that the next start is none of those.
-    void write_first_settings() {
-        const SettingsStore store{settings_, live_.program_folder, DecimalMark::point};
-        if (settings_.all(settings_application).empty())
-            store.write_column(&SettingRow::first);
+    void note(const std::string& sentence) {
+        station_->journal.note(date_and_time(station_->desk.platform) + " " + sentence);
+    }
+
+    void tell_output(OutputState state) {
+        tell(state_text(state));
+        const std::string& chosen = live_.output.value_or("");
+        if (state == OutputState::playing && !chosen.empty() && machine_.output()->playing_on() == "")
+            tell("sortie : la carte « " + chosen + " » est introuvable, la carte par défaut la remplace");
     }
 
     /// For this run alone: the store keeps what it has.
@@ -104,7 +89,7 @@ private:
     void connect() {
         dialogs_.default_answers();
         if (live_.shows_journal) {
-            station_->journal.on_line = [this](const std::string& line) { out_ << line << std::endl; };
+            station_->journal.on_line = [this](const std::string& line) { lines_.write(printable(line) + '\n'); };
         } else {
             dialogs_.on_answered = [this](const Question& question) {
                 if (question.kind == QuestionKind::box || question.kind == QuestionKind::input)
@@ -119,16 +104,15 @@ private:
         machine_.media().on_opened = [this](std::chrono::nanoseconds time) {
             events_.add_load(std::chrono::duration<double, std::milli>{time}.count());
         };
-        machine_.media().on_trouble = [this](const SoundReport& report) {
-            station_->journal.note(date_and_time(station_->desk.platform) + " " + trouble_text(report));
-        };
+        machine_.media().on_trouble = [this](const SoundReport& report) { note(trouble_text(report)); };
         look_.set_interval(100);
         look_.on_tick = [this] { look(); };
     }
 
     void start(const std::string& list) {
         begins_at(now());
-        start_programme(*station_, dialogs_, live_.programme, list);
+        open_programme(*station_, dialogs_, live_.programme, list);
+        start_programme(*station_, live_.programme);
         length_ = live_.programme.length.value_or(length_of_list(*station_));
         look_.enable();
     }
@@ -150,6 +134,8 @@ private:
         look_.disable();
         listen();
         silence_.end();
+        if (const int lost = lines_.lost())
+            note("sortie standard : " + std::to_string(lost) + " lignes que personne n'a lues");
         station_->list_run.Image3_Click();
         if (!live_.shows_journal)
             events_.write_account(now());
@@ -175,10 +161,10 @@ private:
     }
 
     const LiveProgramme& live_;
-    std::ostream& out_;
     LiveMachine machine_;
     HostSettings& settings_;
-    EventWriter events_;
+    LineOutput lines_{STDOUT_FILENO};
+    EventWriter events_{[this](std::string line) { return lines_.write(std::move(line)); }};
     SilenceWatch silence_;
     TapReader heard_{machine_.bus().taps()}; // from the bus's first frame on
     SimulatedDialogs dialogs_{machine_.clock()};
@@ -192,8 +178,9 @@ private:
 
 } // namespace
 
-void run_on_air(const LiveProgramme& live, HostSettings& settings, std::ostream& out) {
-    LiveStation{live, settings, out}.run();
+void run_on_air(const LiveProgramme& live, HostSettings& settings) {
+    if (LiveStation{live, settings}.run() > 0)
+        throw Failure{failure_number::device_fault, "sortie standard", "des lignes n'ont pas été lues"};
 }
 
 } // namespace sonarelle

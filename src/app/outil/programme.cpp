@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 
-#include "configuration/settings_vocabulary.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/simulated/simulated_dialogs.h"
@@ -39,15 +38,6 @@ ReadingMode mode_of(const std::string& word) {
     return found->mode;
 }
 
-Setting setting_of(const std::string& words) {
-    const auto equals = words.find('=');
-    const std::string key = words.substr(0, equals);
-    for (const SettingRow& row : settings_vocabulary())
-        if (equals != std::string::npos && equal_ignoring_case(row.key, key))
-            return {std::string{row.section}, std::string{row.key}, words.substr(equals + 1)};
-    throw WrongWords{"--reglage attend CLE=VALEUR, avec une clé connue : " + words};
-}
-
 void load_decks(Station& station) {
     station.main_window.coche2.click();
     const auto entries = station.list_window.deck_loads();
@@ -63,13 +53,14 @@ void load_decks(Station& station) {
 } // namespace
 
 Frames length_of(const std::string& text) {
-    const bool formed = text.size() == 8 && text[2] == ':' && text[5] == ':';
-    if (!formed)
-        throw WrongWords{"une durée s'écrit HH:MM:SS : " + text};
-    const auto field = [&text](std::size_t place) {
-        return whole_number<unsigned>(std::string_view{text}.substr(place, 2), "durée");
+    const std::size_t hours = std::min(text.find(':'), text.size());
+    const bool formed = hours >= 2 && hours <= 4 && text.size() == hours + 6 && text[hours + 3] == ':';
+    const auto field = [&text](std::size_t place, std::size_t digits) {
+        return whole_number<unsigned>(std::string_view{text}.substr(place, digits), "durée");
     };
-    return seconds(std::int64_t{field(0)} * 3600 + field(3) * 60 + field(6));
+    if (!formed || field(hours + 1, 2) > 59 || field(hours + 4, 2) > 59)
+        throw WrongWords{"une durée s'écrit HH:MM:SS, les heures avec quatre chiffres au plus : " + text};
+    return seconds(std::int64_t{field(0, hours)} * 3600 + field(hours + 1, 2) * 60 + field(hours + 4, 2));
 }
 
 Programme programme_of(const Arguments& arguments) {
@@ -86,20 +77,15 @@ Programme programme_of(const Arguments& arguments) {
     return programme;
 }
 
-std::vector<Setting> changed_settings(const Arguments& arguments) {
-    std::vector<Setting> settings;
-    for (const std::string& words : arguments.values(setting_option.name))
-        settings.push_back(setting_of(words));
-    return settings;
-}
-
-void start_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list) {
+void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list) {
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
-    RowTable& rows = station.list_window.ListView1;
-    if (rows.count() == 0)
+    if (station.list_window.ListView1.count() == 0)
         throw Failure{failure_number::file_not_found, programme.list, "aucun enregistrement à passer"};
-    rows.select(1);
+}
+
+void start_programme(Station& station, const Programme& programme) {
+    station.list_window.ListView1.select(1);
     if (programme.mode == ReadingMode::decks)
         return load_decks(station);
     (programme.mode == ReadingMode::list ? station.list_window.Option3 : station.list_window.Option4).click();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/common/arguments.h"
+#include "app/outil/changed_settings.h"
 #include "platform/settings.h"
 #include "platform/units.h"
 #include "station/station.h"
@@ -29,21 +30,19 @@ struct Programme {
 inline constexpr Option length_option{"--duree", true};
 inline constexpr Option mode_option{"--mode", true};
 inline constexpr Option seed_option{"--graine", true};
-inline constexpr Option setting_option{"--reglage", true};
 
 /// @throws WrongWords for a word that isn't one of these, Failure for a list of another kind.
 [[nodiscard]] Programme programme_of(const Arguments& arguments);
 
-/// What `--reglage CLE=VALEUR` changes. @throws WrongWords for a key that there isn't.
-[[nodiscard]] std::vector<Setting> changed_settings(const Arguments& arguments);
-
-/// HH:MM:SS. @throws WrongWords.
+/// HH:MM:SS, with two to four digits of hours. @throws WrongWords.
 [[nodiscard]] Frames length_of(const std::string& text);
 
-/// Opens the programme's list, which the station finds at this path of its own, as the operator does, chooses the
-/// reading mode and presses play.
+/// Opens the programme's list, which the station finds at this path of its own, as the operator does.
 /// @throws Failure for a list without rows.
-void start_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list);
+void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list);
+
+/// Chooses the reading mode and presses play.
+void start_programme(Station& station, const Programme& programme);
 
 /// The sum of the end points of a loaded list.
 [[nodiscard]] Frames length_of_list(Station& station);

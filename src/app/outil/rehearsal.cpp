@@ -1,20 +1,23 @@
 #include "app/outil/rehearsal.h"
 
-#include <filesystem>
+#include <atomic>
 #include <memory>
+#include <optional>
 #include <ostream>
 
 #include "app/outil/air_picture.h"
 #include "app/outil/deck_watch.h"
+#include "app/outil/end_signals.h"
 #include "app/outil/event_writer.h"
+#include "app/outil/output_failure.h"
 #include "app/outil/progress.h"
+#include "app/outil/rehearsal_outputs.h"
 #include "app/outil/silence_watch.h"
 #include "app/outil/working_folder.h"
 #include "configuration/settings_store.h"
 #include "platform/audio/silent_media.h"
 #include "platform/audio/sound_media.h"
 #include "platform/audio/virtual_renderer.h"
-#include "platform/audio/wav_file_output.h"
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
 #include "platform/random.h"
@@ -22,6 +25,7 @@
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
 #include "platform/simulated/virtual_time.h"
+#include "playlist/list_rows.h"
 
 namespace sonarelle {
 
@@ -31,7 +35,7 @@ namespace {
 class RehearsedStation {
 public:
     RehearsedStation(const Rehearsal& rehearsal, std::ostream& out)
-        : rehearsal_{rehearsal}, folder_{rehearsal.drives}, disk_{folder_.drives()}, events_{out} {
+        : rehearsal_{rehearsal}, out_{out}, folder_{rehearsal.drives}, disk_{folder_.drives()} {
         make_media();
         fill_settings();
         const std::string list = folder_.copy(rehearsal.programme.list);
@@ -43,21 +47,21 @@ public:
         station_->create_main_window();
         if (station_->settings.premier_lancement.is_true())
             throw Failure{failure_number::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
-        time_.event([&] { start_programme(*station_, dialogs_, rehearsal_.programme, list); });
+        time_.event([&] { open_programme(*station_, dialogs_, rehearsal_.programme, list); });
+        open_outputs();
+        time_.event([&] { start_programme(*station_, rehearsal_.programme); });
     }
 
     void run() {
         for (const Gesture& gesture : rehearsal_.gestures)
             time_.at(gesture.at, [this, &gesture] { gesture.act(*station_, dialogs_); });
-        const Frames length = rehearsal_.programme.length.value_or(length_of_list(*station_));
-        progress_.emplace("répétition", length.count());
-        time_.run_until(length);
+        progress_.emplace("répétition", length_.count());
+        time_.run_until(length_);
         progress_.reset();
         silence_.end();
-        if (rendering_)
-            rendering_->close();
+        outputs_->finish_rendering();
         if (rehearsal_.picture)
-            picture_->save(*rehearsal_.picture, length);
+            outputs_->write_picture(picture_->svg(length_));
         events_.write_account(time_.now());
     }
 
@@ -69,15 +73,42 @@ private:
             media_ = std::make_unique<SilentMedia>(time_, files, resolve);
             return;
         }
-        if (rehearsal_.rendering)
-            rendering_ = std::make_unique<WavFileOutput>(*rehearsal_.rendering);
         auto sound = std::make_unique<SoundMedia>(time_, bus_, files, resolve, Decoding::inline_with_rendering);
         renderer_ = std::make_unique<VirtualRenderer>(bus_, *sound, [this](std::span<const float> frames) {
             silence_.take(frames);
-            if (rendering_)
-                rendering_->write(frames);
+            if (outputs_)
+                outputs_->render(frames);
         });
         media_ = std::move(sound);
+    }
+
+    /// The list, loaded by then, says which files are to be spared.
+    void open_outputs() {
+        length_ = rehearsal_.programme.length.value_or(length_of_list(*station_));
+        const OutputGuard guard{rehearsal_.rendering, rehearsal_.picture};
+        guard.check(rehearsal_.programme.list, "la liste");
+        const RowTable& rows = station_->list_window.ListView1;
+        for (int row = 1; guard.has_something_to_lose() && row <= rows.count(); ++row) {
+            std::string track;
+            ErrorIndicator{}.skip([&] { track = disk_.machine_path(rows.sub_item(row, list_column::path)); });
+            if (!track.empty())
+                guard.check(track, "un titre de la liste");
+        }
+        outputs_.emplace(rehearsal_.rendering, rehearsal_.picture, length_);
+    }
+
+    bool write(const std::string& line) {
+        if (!(out_ << line << std::flush) && !unwritten_)
+            unwritten_ = output_failure();
+        return true;
+    }
+
+    /// Who interrupts a run, or reads no more of it, doesn't wait for its end.
+    void check_is_wanted() const {
+        if (interrupted_)
+            throw Failure{failure_number::wrong_call, rehearsal_.programme.list, "répétition interrompue"};
+        if (unwritten_)
+            throw Failure{*unwritten_};
     }
 
     /// What the store doesn't have comes from the factory.
@@ -111,6 +142,7 @@ private:
     }
 
     void follow_until(Frames frame) {
+        check_is_wanted();
         if (progress_)
             progress_->reach(frame.count());
         watch_->advance(time_.now(), frame);
@@ -132,6 +164,10 @@ private:
     }
 
     const Rehearsal& rehearsal_;
+    std::ostream& out_;
+    std::optional<Failure> unwritten_;
+    std::atomic<bool> interrupted_{false};
+    EndSignals signals_{[this] { interrupted_ = true; }};
     WorkingFolder folder_;
     Scheduler scheduler_;
     VirtualTime time_{scheduler_};
@@ -140,16 +176,17 @@ private:
     SimulatedDialogs dialogs_{time_};
     SimulatedShell shell_;
     Random random_{rehearsal_.programme.seed};
-    EventWriter events_;
+    EventWriter events_{[this](const std::string& line) { return write(line); }};
     SilenceWatch silence_;
     std::optional<Progress> progress_;
-    std::unique_ptr<WavFileOutput> rendering_;
+    std::optional<RehearsalOutputs> outputs_;
     ProgrammeBus bus_;
     std::unique_ptr<Media> media_;
     std::unique_ptr<VirtualRenderer> renderer_;
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
     std::unique_ptr<AirPicture> picture_;
+    Frames length_;
     Frames silent_from_;
 };
 

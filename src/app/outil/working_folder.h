@@ -3,11 +3,12 @@
 #include <string>
 
 #include "platform/drive_table.h"
+#include "platform/host/file_handle.h"
 
 namespace sonarelle {
 
 /// A program's folder for one rehearsal, on a drive of its own that the user's table doesn't have. It goes with the
-/// object.
+/// object; what a killed rehearsal left behind goes with the next one.
 class WorkingFolder {
 public:
     explicit WorkingFolder(const DriveTable& user_drives);
@@ -20,11 +21,12 @@ public:
     [[nodiscard]] std::string station_path() const { return drive_ + ":\\"; }
 
     /// Copies a file of this machine into the folder and returns the copy's name, in the station's form.
-    /// @throws Failure 53 for a file that isn't there.
+    /// @throws Failure 53 for a file that isn't there, 61, naming the folder, on a full disk.
     [[nodiscard]] std::string copy(const std::string& file) const;
 
 private:
     std::string folder_;
+    FileHandle lock_;
     std::string drive_;
     DriveTable drives_;
 };

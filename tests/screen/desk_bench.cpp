@@ -77,7 +77,7 @@ DeskBench::DeskBench() {
 DeskBench::~DeskBench() = default;
 
 void DeskBench::settings_of_a_second_start() {
-    const SettingsStore store{machine_->settings(), machine_->make_program_folder(), DecimalMark::point};
+    const SettingsStore store{machine_->settings(), machine_->program_folder(), DecimalMark::point};
     store.write_column(&SettingRow::first);
 }
 

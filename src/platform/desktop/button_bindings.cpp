@@ -31,23 +31,20 @@ QString ButtonBinding::caption() const {
     return plain_caption(button_.caption);
 }
 
-// What a button is told for the pointer over it and for being down shows as its share of the dark face.
+// Lighter under the pointer, darker while it is down, and at any time with an ink that reads on it.
 StudioButton::Face ButtonBinding::face() const {
-    const QColor ink = to_qt(button_.fore_colour, studio::text);
-    StudioButton::Face face;
-    face.ground = face_of(button_.back_colour);
-    face.ink = ink;
-    face.ground_over = mixed(face.ground, Qt::white, 0.10);
-    face.ground_down = mixed(face.ground, Qt::black, 0.35);
-    face.ink_over = face.ink_down = ink;
+    const Plate rest = plate_of(button_.fore_colour, button_.back_colour);
+    Plate over = rest;
+    Plate down = rest;
     if (button_.kind() == ControlKind::graphic_button) {
         const auto& graphic = static_cast<const GraphicButton&>(button_);
-        face.ground_over = mixed(face_of(graphic.back_colour_over), Qt::white, 0.10);
-        face.ground_down = mixed(face_of(graphic.back_colour_down), Qt::black, 0.35);
-        face.ink_over = to_qt(graphic.fore_colour_over, studio::text);
-        face.ink_down = to_qt(graphic.fore_colour_down, studio::text);
+        over = plate_of(graphic.fore_colour_over, graphic.back_colour_over);
+        down = plate_of(graphic.fore_colour_down, graphic.back_colour_down);
     }
-    return face;
+    over.ground = mixed(over.ground, Qt::white, 0.10);
+    down.ground = mixed(down.ground, Qt::black, 0.35);
+    return {rest.ground, legible(rest.ink, rest.ground), over.ground, legible(over.ink, over.ground),
+            down.ground, legible(down.ink, down.ground)};
 }
 
 ImageBinding::ImageBinding(Image& image, StudioButton& widget, const DesktopServices& services)

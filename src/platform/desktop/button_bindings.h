@@ -54,7 +54,8 @@ private:
     QGroupBox& box_;
 };
 
-/// Pictures that move and pictures that don't; where the file is neither, what the widget shows by itself stays.
+/// Pictures that move and pictures that don't; where the file is neither, the GIF of its name beside it, and without
+/// one the banner that comes with the program.
 class MovieBinding : public Binding {
 public:
     MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& services);

@@ -32,7 +32,7 @@ QPalette studio_palette() {
     palette.setColor(QPalette::Highlight, QColor{0x2f, 0x4d, 0x80});
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, studio::focus);
-    const QColor faded{0x70, 0x76, 0x7f};
+    const QColor faded = studio::faded;
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faded);
     return palette;
@@ -56,8 +56,12 @@ double contrast(const QColor& a, const QColor& b) {
 
 QColor readable_on(const QColor& ground) {
     const QColor light = Qt::white;
-    const QColor dark{0x0f, 0x0f, 0x0f};
+    const QColor dark = Qt::black;
     return contrast(light, ground) >= contrast(dark, ground) ? light : dark;
+}
+
+QColor legible(const QColor& ink, const QColor& ground) {
+    return contrast(ink, ground) >= readable ? ink : readable_on(ground);
 }
 
 QColor mixed(const QColor& a, const QColor& b, double share) {
@@ -65,8 +69,12 @@ QColor mixed(const QColor& a, const QColor& b, double share) {
     return QColor{part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
 }
 
-QColor face_of(Colour told) {
-    return is_desktop_colour(told) ? studio::face : mixed(studio::panel, to_qt(told, studio::face), 0.14);
+QColor ground_for(Colour ink, Colour ground, const QColor& of_studio) {
+    if (is_desktop_colour(ground))
+        return of_studio;
+    const QColor told = to_qt(ground, of_studio);
+    const bool carries = contrast(to_qt(ink, studio::text), told) >= readable;
+    return carries ? told : mixed(of_studio, told, 0.12);
 }
 
 } // namespace sonarelle

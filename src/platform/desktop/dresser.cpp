@@ -1,8 +1,12 @@
 #include "platform/desktop/dresser.h"
 
+#include <QBoxLayout>
+
 #include "platform/desktop/button_bindings.h"
 #include "platform/desktop/choice_bindings.h"
+#include "platform/desktop/panel.h"
 #include "platform/desktop/range_bindings.h"
+#include "platform/desktop/studio_style.h"
 #include "platform/desktop/text_bindings.h"
 
 namespace sonarelle {

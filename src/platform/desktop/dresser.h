@@ -6,6 +6,7 @@
 #include "platform/desktop/studio_button.h"
 #include "platform/desktop/window_view.h"
 
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;

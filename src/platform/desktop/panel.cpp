@@ -7,21 +7,34 @@
 
 namespace sonarelle {
 
-Panel::Panel(QWidget* parent) : QWidget{parent} {
+Panel::Panel(QWidget* parent) : QWidget{parent}, plate_{studio::panel} {
     setMouseTracking(true);
+    tell_ground();
+}
+
+void Panel::set_plate(const QColor& plate) {
+    plate_ = plate;
+    tell_ground();
+}
+
+void Panel::tell_ground() {
+    QPalette told = palette();
+    told.setColor(QPalette::Window, accent_ == Accent::air ? mixed(plate_, studio::air, 0.10) : plate_);
+    setPalette(told);
 }
 
 void Panel::set_accent(Accent accent) {
     if (accent == accent_)
         return;
     accent_ = accent;
+    tell_ground();
     update();
 }
 
 void Panel::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor plate = accent_ == Accent::air ? mixed(studio::panel, studio::air, 0.10) : studio::panel;
+    QColor plate = palette().color(QPalette::Window);
     plate.setAlphaF(0.94F);
     painter.setBrush(plate);
     painter.setPen(

@@ -15,12 +15,17 @@ public:
 
     void set_accent(Accent accent);
     [[nodiscard]] Accent accent() const { return accent_; }
+    /// The plate's colour at rest. The parts on it find what they stand on as their palette's window colour.
+    void set_plate(const QColor& plate);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void tell_ground();
+
     Accent accent_ = Accent::none;
+    QColor plate_;
 };
 
 /// A lamp: lit in its colour, or dark.

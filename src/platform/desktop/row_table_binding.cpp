@@ -107,7 +107,8 @@ void RowTableBinding::dress_header(QHeaderView& header) {
 }
 
 void RowTableBinding::show_state() {
-    model_.set_ground(to_qt(table_.back_colour, studio::groove));
+    const QColor ground = field_ground(table_);
+    model_.set_colours(ground, legible(to_qt(table_.fore_colour, readable_on(ground)), ground));
 }
 
 void RowTableBinding::paint(QPalette& palette) const {

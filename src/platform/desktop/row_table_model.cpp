@@ -16,7 +16,7 @@ bool is_number(const std::string& text) {
 } // namespace
 
 RowTableModel::RowTableModel(RowTable& table, UpdateQueue& updates)
-    : table_{table}, updates_{updates}, count_{table.count()}, ground_{studio::groove} {
+    : table_{table}, updates_{updates}, count_{table.count()}, ground_{studio::groove}, ink_{studio::text} {
     table_.observe_rows(this);
 }
 
@@ -41,6 +41,8 @@ QVariant RowTableModel::data(const QModelIndex& index, int role) const {
         return to_qt(text);
     case Qt::BackgroundRole:
         return background(row);
+    case Qt::ForegroundRole:
+        return ink_of(row);
     case Qt::TextAlignmentRole:
         return static_cast<int>((is_number(text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::FontRole: {
@@ -130,6 +132,11 @@ void RowTableModel::apply_change() {
         endResetModel();
         selection_waits_ = true;
     }
+}
+
+void RowTableModel::set_colours(const QColor& ground, const QColor& ink) {
+    ground_ = ground;
+    ink_ = ink;
 }
 
 void RowTableModel::set_marks(const RowMarks& marks) {

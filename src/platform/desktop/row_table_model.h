@@ -35,7 +35,8 @@ public:
     void show_value() override;
     /// Paints the marked rows anew if they are others.
     void set_marks(const RowMarks& marks);
-    void set_ground(const QColor& ground) { ground_ = ground; }
+    /// Of the rows that no mark colours.
+    void set_colours(const QColor& ground, const QColor& ink);
 
     std::function<void(int row, const std::string& text)> on_edited;
     /// The table's selected row, and one that must be seen; row 0 for none.
@@ -55,6 +56,7 @@ private:
     void apply_change();
     void repaint_row(int row);
     [[nodiscard]] QVariant background(int row) const;
+    [[nodiscard]] QVariant ink_of(int row) const;
 
     RowTable& table_;
     UpdateQueue& updates_;
@@ -65,6 +67,7 @@ private:
     int shown_row_ = 0;
     RowMarks marks_;
     QColor ground_;
+    QColor ink_;
 };
 
 } // namespace sonarelle

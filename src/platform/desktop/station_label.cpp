@@ -1,6 +1,7 @@
 #include "platform/desktop/station_label.h"
 
 #include <QApplication>
+#include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -67,16 +68,40 @@ int StationLabel::heightForWidth(int width) const {
     return QFontMetrics{font()}.boundingRect(room, Qt::TextWordWrap, text_).height() + 8;
 }
 
-void StationLabel::paintEvent(QPaintEvent*) {
-    QPainter painter{this};
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor ink = palette().color(QPalette::WindowText);
+void StationLabel::enterEvent(QEnterEvent* event) {
+    QWidget::enterEvent(event);
+    update();
+}
+
+void StationLabel::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    update();
+}
+
+// A framed text lies on a plate of its own, which is lighter under the pointer and darker while it is pressed.
+QColor StationLabel::ground() const {
+    const QColor around = palette().color(QPalette::Window);
+    if (!style_.framed)
+        return around;
+    if (down_)
+        return mixed(around, Qt::black, 0.35);
+    return mixed(around, readable_on(around), underMouse() && isEnabled() ? 0.18 : 0.08);
+}
+
+QColor StationLabel::ink() const {
+    const QColor told = palette().color(QPalette::WindowText);
+    const QColor below = ground();
+    return isEnabled() ? legible(style_.quiet ? mixed(told, below, 0.25) : told, below) : told;
+}
+
+void StationLabel::paint_frame(QPainter& painter) const {
+    const QPen focus{studio::focus, 2};
     if (style_.framed) {
-        painter.setPen(hasFocus() ? QPen{studio::focus, 2} : QPen{studio::edge, 1});
-        painter.setBrush(underMouse() && isEnabled() ? studio::edge : studio::face);
+        painter.setPen(hasFocus() ? focus : QPen{studio::edge, 1});
+        painter.setBrush(ground());
         painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 6, 6);
     } else if (hasFocus()) {
-        painter.setPen(QPen{studio::focus, 2});
+        painter.setPen(focus);
         painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 3, 3);
     }
     if (style_.quiet)
@@ -117,11 +142,15 @@ void StationLabel::paint_in_cells(QPainter& painter, const QRect& area) const {
 // The background of the window takes the presses on a text that is no button.
 void StationLabel::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(pressable_ && event->button() == Qt::LeftButton);
+    down_ = event->isAccepted();
+    update();
 }
 
 void StationLabel::mouseReleaseEvent(QMouseEvent* event) {
     const bool pressed = pressable_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
     event->setAccepted(pressed);
+    down_ = false;
+    update();
     if (pressed && on_press)
         on_press();
 }

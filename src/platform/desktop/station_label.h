@@ -38,17 +38,22 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] int margin() const { return style_.framed ? 8 : 2; }
+    [[nodiscard]] QColor ground() const;
+    [[nodiscard]] QColor ink() const;
+    void paint_frame(QPainter& painter) const;
     void paint_in_cells(QPainter& painter, const QRect& area) const;
 
     Style style_;
     QString text_;
     bool pressable_ = false;
+    bool down_ = false;
 };
 
 } // namespace sonarelle

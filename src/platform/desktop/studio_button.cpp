@@ -122,8 +122,8 @@ void StudioButton::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const bool over = is_under_pointer();
     QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
-    if (has_picture() && !over && !isDown())
-        ground = studio::face;
+    if (has_picture()) // whose signs are light
+        ground = mixed(studio::face, isDown() ? Qt::black : Qt::white, isDown() ? 0.35 : over ? 0.10 : 0);
     QColor ink = isDown() ? face_.ink_down : over ? face_.ink_over : face_.ink;
     if (!isEnabled())
         painter.setOpacity(0.38);
@@ -137,11 +137,11 @@ void StudioButton::paintEvent(QPaintEvent*) {
 
 void StudioButton::paint_face(QPainter& painter, QColor ground) const {
     const QRectF area = QRectF{rect()}.adjusted(1, 1, -1, -1);
-    const bool lit = isEnabled() && accent_ != Accent::none;
-    if (lit)
-        ground = mixed(ground, colour_of(accent_), 0.32);
+    const bool is_lit = isEnabled() && accent_ != Accent::none;
+    if (is_lit)
+        ground = lit(ground);
     painter.setBrush(has_face() ? QBrush{ground} : QBrush{Qt::NoBrush});
-    painter.setPen(!has_face() ? QPen{Qt::NoPen} : QPen{lit ? colour_of(accent_) : studio::edge, 1});
+    painter.setPen(!has_face() ? QPen{Qt::NoPen} : QPen{is_lit ? colour_of(accent_) : studio::edge, 1});
     painter.drawRoundedRect(area, 5, 5);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);

@@ -45,6 +45,7 @@ private:
     [[nodiscard]] bool has_picture() const { return !pictures_.rest.isNull(); }
     [[nodiscard]] bool is_under_pointer() const { return isEnabled() && underMouse(); }
     [[nodiscard]] const QPixmap& shown_picture() const;
+    [[nodiscard]] QColor lit(const QColor& ground) const;
     void paint_face(QPainter& painter, QColor ground) const;
     void paint_content(QPainter& painter, const QColor& ink) const;
     QRect paint_picture(QPainter& painter, const QRect& area) const;

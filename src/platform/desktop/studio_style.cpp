@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <QWidget>
 
 #include "platform/desktop/colours.h"
 
@@ -26,6 +27,14 @@ void StudioStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         draw_focus(*painter, option->rect);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void StudioStyle::drawItemText(QPainter* painter, const QRect& area, int flags, const QPalette& palette, bool enabled,
+                               const QString& text, QPalette::ColorRole role) const {
+    QPalette shown = palette;
+    if (enabled && role == QPalette::WindowText)
+        shown.setColor(role, legible(palette.color(role), palette.color(QPalette::Window)));
+    QProxyStyle::drawItemText(painter, area, flags, shown, enabled, text, role);
 }
 
 void StudioStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

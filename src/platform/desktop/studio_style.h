@@ -9,8 +9,12 @@ class StudioStyle : public QProxyStyle {
 public:
     StudioStyle() : QProxyStyle{"Fusion"} {}
 
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    /// Text on the window takes an ink that reads on what it stands on.
+    void drawItemText(QPainter* painter, const QRect& area, int flags, const QPalette& palette, bool enabled,
+                      const QString& text, QPalette::ColorRole role) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 };

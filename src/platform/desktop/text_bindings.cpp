@@ -7,9 +7,13 @@
 
 namespace sonarelle {
 
+QColor field_ground(const Control& control) {
+    return ground_for(control.fore_colour, control.back_colour, studio::groove);
+}
+
 void paint_text_field(QPalette& palette, const Control& control) {
-    const QColor ground = to_qt(control.back_colour, studio::groove);
-    const QColor ink = to_qt(control.fore_colour, readable_on(ground));
+    const QColor ground = field_ground(control);
+    const QColor ink = legible(to_qt(control.fore_colour, readable_on(ground)), ground);
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         palette.setColor(group, QPalette::Base, ground);
         palette.setColor(group, QPalette::Button, ground);

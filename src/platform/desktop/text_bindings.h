@@ -51,7 +51,9 @@ private:
     QTextEdit& edit_;
 };
 
-/// Ink and ground of what holds text: the told ones, and where they are the desktop's, the studio's.
+/// Ground of what holds text: the told one where its ink reads on it; the studio's, with a breath of it, elsewhere.
+[[nodiscard]] QColor field_ground(const Control& control);
+/// That ground, and an ink that reads on it.
 void paint_text_field(QPalette& palette, const Control& control);
 
 /// Text of a told colour on a told ground is read more easily when it is bold and not small.

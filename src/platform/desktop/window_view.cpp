@@ -80,6 +80,7 @@ void WindowView::show_value() {
                                             : Qt::ArrowCursor);
     show_place();
     show_state();
+    ground_.show(window_, services_.pictures, *content_);
     update();
     showing_ = false;
 }
@@ -265,14 +266,10 @@ void WindowView::mouseMoveEvent(QMouseEvent*) {
 
 void WindowView::paintEvent(QPaintEvent*) {
     QPainter painter{this};
-    painter.fillRect(rect(), to_qt(window_.back_colour, studio::ground));
-    if (window_.picture.get().empty())
-        return;
-    const QPixmap picture = services_.pictures.picture(window_.picture);
-    if (picture.isNull())
-        painter.fillRect(rect(), studio::ground);
+    if (ground_.picture().isNull())
+        painter.fillRect(rect(), ground_.colour());
     else
-        painter.drawPixmap(rect(), picture);
+        painter.drawPixmap(rect(), ground_.picture());
 }
 
 } // namespace sonarelle

@@ -6,6 +6,7 @@
 
 #include "platform/desktop/binding.h"
 #include "platform/desktop/menu_bindings.h"
+#include "platform/desktop/window_ground.h"
 #include "platform/window.h"
 
 class QVBoxLayout;

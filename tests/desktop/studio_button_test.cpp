@@ -1,0 +1,162 @@
+// Buttons that are drawn, as pixels: their faces, their accents, and the lamps.
+#include "platform/desktop/studio_button.h"
+
+#include <QTest>
+
+#include "desktop/desktop_bench.h"
+#include "desktop/pixels.h"
+#include "desktop/station_views.h"
+#include "platform/desktop/button_bindings.h"
+#include "platform/desktop/panel.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::array accents{Accent::none, Accent::air, Accent::next, Accent::trouble};
+
+class StudioButtons : public DesktopBench {
+protected:
+    StudioButtons() {
+        QFont font = button.font();
+        font.setPixelSize(20);
+        font.setBold(true);
+        button.setFont(font);
+        button.setText("Stopper");
+        button.setGeometry(10, 10, 140, 40);
+        panel.resize(160, 60);
+        panel.show();
+    }
+    [[nodiscard]] QImage shown() { return seen_in_window(button); }
+    [[nodiscard]] QColor ground() { return ground_in(shown()); }
+
+    Panel panel;
+    StudioButton button{&panel};
+};
+
+/// A button's binding under the station's colours.
+class ToldButtons : public StudioButtons {
+protected:
+    void tell(const Theme& theme) {
+        control.fore_colour = theme.text_of_buttons;
+        control.back_colour = theme.window;
+        control.fore_colour_over = theme.text_of_buttons;
+        control.fore_colour_down = theme.text_of_buttons;
+        control.back_colour_over = theme.ground_of_list;
+        control.back_colour_down = theme.ground_of_list;
+        settle();
+    }
+
+    GraphicButton control{window, "AnyButton1", "Stopper"};
+    ButtonBinding binding{control, button, services};
+};
+
+} // namespace
+
+TEST_F(StudioButtons, CaptionReadsAtRestUnderThePointerAndDown) {
+    EXPECT_GE(contrast_in(shown()), readable);
+    point_at(button);
+    EXPECT_GE(contrast_in(shown()), readable);
+    button.setDown(true);
+    EXPECT_GE(contrast_in(shown()), readable);
+}
+
+TEST_F(StudioButtons, FaceTellsRestPointerAndPressApart) {
+    button.set_face({Qt::darkBlue, Qt::white, Qt::darkGreen, Qt::white, Qt::darkRed, Qt::white});
+    EXPECT_EQ(ground(), QColor(Qt::darkBlue));
+    point_at(button);
+    EXPECT_EQ(ground(), QColor(Qt::darkGreen));
+    button.setDown(true);
+    EXPECT_EQ(ground(), QColor(Qt::darkRed));
+    button.setDown(false);
+    leave(button);
+    EXPECT_EQ(ground(), QColor(Qt::darkBlue));
+}
+
+TEST_F(StudioButtons, AccentLightsTheFaceInItsColour) {
+    const QColor plain = ground();
+    for (const Accent accent : accents) {
+        button.set_accent(accent);
+        const bool lit = accent != Accent::none;
+        EXPECT_TRUE(is_near(ground(), lit ? mixed(plain, colour_of(accent), 0.32) : plain, 3));
+        EXPECT_GE(contrast_in(shown()), readable);
+    }
+}
+
+TEST_F(StudioButtons, AccentOfAButtonThatCantBeReachedIsDark) {
+    button.setEnabled(false);
+    const QImage rest = shown();
+    button.set_accent(Accent::next);
+    EXPECT_EQ(shown(), rest);
+}
+
+TEST_F(StudioButtons, EachAccentHasItsColour) {
+    EXPECT_EQ(colour_of(Accent::air), studio::air);
+    EXPECT_EQ(colour_of(Accent::next), studio::next);
+    EXPECT_EQ(colour_of(Accent::trouble), studio::trouble);
+    EXPECT_EQ(colour_of(Accent::none), studio::edge);
+}
+
+TEST_F(StudioButtons, OneThatCantBeReachedIsFainter) {
+    const double before = contrast_in(shown());
+    button.setEnabled(false);
+    EXPECT_LT(contrast_in(shown()), before - 3);
+    const QImage rest = shown();
+    point_at(button);
+    EXPECT_EQ(shown(), rest);
+}
+
+TEST_F(StudioButtons, SymbolStandsForTheCaption) {
+    const QImage caption = shown();
+    button.set_symbol("■");
+    const QImage symbol = shown();
+    EXPECT_NE(symbol, caption);
+    button.setText("Autre chose");
+    EXPECT_EQ(shown(), symbol);
+}
+
+TEST_F(StudioButtons, FocusIsSeen) {
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    button.clearFocus();
+    EXPECT_EQ(count_of(shown(), studio::focus), 0);
+    button.setFocus();
+    EXPECT_GT(count_of(shown(), studio::focus), 100);
+}
+
+TEST_F(StudioButtons, LampIsARingWhileItIsDark) {
+    button.set_look(ButtonLook::lamp);
+    const QRect middle{68, 18, 4, 4};
+    EXPECT_EQ(count_of(shown().copy(middle), ground()), 16);
+    EXPECT_NE(ink_in(shown()), ground());
+}
+
+TEST_F(StudioButtons, LampGlowsInItsColour) {
+    button.set_look(ButtonLook::lamp);
+    button.set_accent(Accent::air);
+    EXPECT_EQ(count_of(shown().copy(66, 16, 8, 8), studio::air), 64);
+    button.set_accent(Accent::none);
+    EXPECT_EQ(count_of(shown(), studio::air), 0);
+}
+
+TEST_F(ToldButtons, CaptionReadsInEveryTheme) {
+    for (const Theme& theme : themes) {
+        tell(theme);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name;
+        point_at(button);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name << ", pointer";
+        button.setDown(true);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name << ", down";
+        button.setDown(false);
+        leave(button);
+    }
+}
+
+TEST_F(ToldButtons, GroundThatCarriesItsInkIsTaken) {
+    control.fore_colour = 0x000000;
+    control.back_colour = 0x80FFFF;
+    settle();
+    EXPECT_EQ(ground(), QColor(0xff, 0xff, 0x80));
+}
+
+} // namespace sonarelle

@@ -71,6 +71,15 @@ void paint_graphic_button(GraphicButton& button, const StationSettings& settings
     button.fore_colour_over = settings.coul_text_bouton;
 }
 
+/// What the labels' colour becomes under the pointer, no byte beyond its greatest value.
+Colour under_pointer(Colour colour) {
+    constexpr Colour greatest = 0xff;
+    Colour sum = 0;
+    for (const int shift : {0, 8, 16})
+        sum += std::min((colour >> shift & greatest) + (hover_step >> shift & greatest), greatest) << shift;
+    return is_desktop_colour(colour) ? colour : sum;
+}
+
 } // namespace
 
 void paint(Window& window, const StationSettings& settings, ButtonColour buttons) {
@@ -97,7 +106,7 @@ void paint_station_window(Window& window, const StationSettings& settings) {
 void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings) {
     const std::vector<Label*> buttons{labels.begin(), labels.end()};
     for (Label* label : buttons)
-        label->on_mouse_move = [label, &settings] { label->fore_colour = settings.coul_label + hover_step; };
+        label->on_mouse_move = [label, &settings] { label->fore_colour = under_pointer(settings.coul_label); };
     window.on_mouse_move = [buttons, &settings] {
         for (Label* label : buttons)
             label->fore_colour = settings.coul_label;

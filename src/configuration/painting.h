@@ -17,7 +17,7 @@ void paint(Window& window, const StationSettings& settings, ButtonColour buttons
 /// The same for a window of the station, by its name. A window that keeps the desktop's colours is left alone.
 void paint_station_window(Window& window, const StationSettings& settings);
 
-/// What is added to the colour of the labels while the pointer is over one that acts as a button.
+/// What is added, byte by byte, to the colour of the labels while the pointer is over one that acts as a button.
 inline constexpr Colour hover_step = 18000;
 
 /// Labels that act as buttons change their colour under the pointer, and get it back when it moves over the window.

@@ -44,6 +44,11 @@ using Colour = std::int32_t;
 inline constexpr Colour desktop_text = static_cast<Colour>(0x80000012);
 inline constexpr Colour desktop_face = static_cast<Colour>(0x8000000F);
 
+/// Whether a colour is one of the desktop's, which has no bytes to reckon with.
+[[nodiscard]] constexpr bool is_desktop_colour(Colour colour) {
+    return colour < 0;
+}
+
 enum class ControlKind {
     window,
     label,

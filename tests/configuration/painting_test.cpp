@@ -109,4 +109,28 @@ TEST_F(PaintingTest, HoverFollowsTheLabelColourInForce) {
     EXPECT_EQ(second.fore_colour.get(), 100);
 }
 
+TEST_F(PaintingTest, HoverCarriesNoByteIntoTheNext) {
+    Label label{window, "Label1"};
+    connect_hover(window, std::array{&label}, settings);
+    settings.coul_label = 0xFF80F0;
+    label.mouse_move();
+    EXPECT_EQ(label.fore_colour.get(), 0xFFC6FF);
+}
+
+TEST_F(PaintingTest, HoverLeavesWhiteWhite) {
+    Label label{window, "Label1"};
+    connect_hover(window, std::array{&label}, settings);
+    settings.coul_label = 0xFFFFFF;
+    label.mouse_move();
+    EXPECT_EQ(label.fore_colour.get(), 0xFFFFFF);
+}
+
+TEST_F(PaintingTest, HoverLeavesAColourOfTheDesktop) {
+    Label label{window, "Label1"};
+    connect_hover(window, std::array{&label}, settings);
+    settings.coul_label = desktop_text;
+    label.mouse_move();
+    EXPECT_EQ(label.fore_colour.get(), desktop_text);
+}
+
 } // namespace sonarelle

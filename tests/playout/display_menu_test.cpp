@@ -218,11 +218,13 @@ TEST_F(MenuBar, IsRepresentedByLabelsThatOpenItsMenus) {
 }
 
 TEST_F(MenuBar, LabelsChangeTheirColourUnderThePointer) {
-    window.Label15.mouse_move();
-    EXPECT_EQ(window.Label15.fore_colour.get(), 16777215 + 18000);
-    EXPECT_EQ(window.Label16.fore_colour.get(), 16777215);
+    station.settings.coul_label = 0x101010;
     window.mouse_move();
-    EXPECT_EQ(window.Label15.fore_colour.get(), 16777215);
+    window.Label15.mouse_move();
+    EXPECT_EQ(window.Label15.fore_colour.get(), 0x101010 + 18000);
+    EXPECT_EQ(window.Label16.fore_colour.get(), 0x101010);
+    window.mouse_move();
+    EXPECT_EQ(window.Label15.fore_colour.get(), 0x101010);
 }
 
 TEST_F(DisplayMenuTest, OpensAtThePointerByTheRightButtonAndByItsKeys) {

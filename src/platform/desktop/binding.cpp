@@ -60,6 +60,8 @@ void Binding::paint(QPalette& palette) const {
 bool Binding::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Enter && control_.on_mouse_move)
         run([this] { control_.mouse_move(); });
+    if (event->type() == QEvent::Leave && control_.on_mouse_move && on_left)
+        on_left();
     return QObject::eventFilter(object, event);
 }
 

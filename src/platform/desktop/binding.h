@@ -31,6 +31,9 @@ public:
     /// Files for the control may be dropped on this widget, too.
     void take_drops_on(QWidget& widget);
 
+    /// The pointer has left a part that heard of it.
+    std::function<void()> on_left;
+
     /// Called after each update, for what a window shows beside the control itself.
     std::function<void()> on_shown;
 

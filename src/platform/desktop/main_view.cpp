@@ -72,6 +72,7 @@ void MainView::build_rows(const SoundReading& sound) {
 // They stand for the menu bar while it is hidden.
 QWidget* MainView::menu_labels() {
     auto* line = new QWidget;
+    line->setMouseTracking(true); // or the window would hear of no moves between the labels
     auto* row = new QHBoxLayout{line};
     row->setContentsMargins(0, 0, 0, 0);
     for (Label* label : window_.menu_labels())

@@ -260,6 +260,11 @@ void WindowView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void WindowView::mouseMoveEvent(QMouseEvent*) {
+    pointer_moved();
+}
+
+// A part that the pointer leaves gives it back to the window, though what lies beside it may hear of no moves.
+void WindowView::pointer_moved() {
     if (window_.on_mouse_move)
         services_.run_event([this] { window_.mouse_move(); });
 }

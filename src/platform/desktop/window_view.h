@@ -36,6 +36,7 @@ public:
     template <typename Kind>
     Kind& keep(std::unique_ptr<Kind> binding) {
         Kind& kept = *binding;
+        kept.on_left = [this] { pointer_moved(); };
         bindings_.push_back(std::move(binding));
         return kept;
     }
@@ -65,6 +66,7 @@ private:
     void keep_place();
     void keep_size();
     void watch_keys();
+    void pointer_moved();
     void pass_characters(const QString& text);
     void activated();
     [[nodiscard]] bool accepts_text() const;

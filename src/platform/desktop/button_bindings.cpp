@@ -56,6 +56,11 @@ void ImageBinding::show_state() {
     face_.set_pictures(services().pictures.faces(image_.picture));
 }
 
+LampBinding::LampBinding(Image& image, StudioButton& widget, const DesktopServices& services)
+    : Binding{image, widget, services} {
+    connect(&widget, &QAbstractButton::clicked, this, [this, &image] { run([&image] { image.click(); }); });
+}
+
 FrameBinding::FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services)
     : Binding{frame, widget, services}, frame_{frame}, box_{widget} {}
 

@@ -41,6 +41,15 @@ private:
     StudioButton& face_;
 };
 
+/// A picture that stands beside an option and chooses it. It is shown as the option's lamp, which somebody else lights.
+class LampBinding : public Binding {
+public:
+    LampBinding(Image& image, StudioButton& widget, const DesktopServices& services);
+
+protected:
+    void show_state() override {}
+};
+
 class FrameBinding : public Binding {
 public:
     FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services);

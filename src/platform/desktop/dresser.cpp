@@ -11,6 +11,12 @@
 
 namespace sonarelle {
 
+namespace {
+
+constexpr QSize lamp_size{26, 26};
+
+} // namespace
+
 StationLabel* Dresser::label(Label& label, const StationLabel::Style& style) {
     auto* widget = new StationLabel{style, parent()};
     view_.keep(std::make_unique<LabelBinding>(label, *widget, services()));
@@ -49,6 +55,21 @@ StudioButton* Dresser::image(Image& image, const QString& symbol, Accent accent)
     widget->set_accent(accent);
     view_.keep(std::make_unique<ImageBinding>(image, *widget, services()));
     return widget;
+}
+
+QBoxLayout* Dresser::mode(Image& lamp, OptionButton& chosen) {
+    auto* light = new StudioButton{parent()};
+    light->set_look(ButtonLook::lamp);
+    light->setFixedSize(lamp_size);
+    light->setFocusPolicy(Qt::NoFocus); // the keyboard has the option
+    view_.keep(std::make_unique<LampBinding>(lamp, *light, services()));
+    auto* words = option(chosen);
+    words->setProperty(lamp_stands_beside, true);
+    view_.binding_of(chosen)->on_shown = [light, words, &chosen] {
+        light->set_accent(chosen.value() ? Accent::air : Accent::none);
+        light->setAccessibleName(words->text());
+    };
+    return row_of({light, words, nullptr});
 }
 
 QSlider* Dresser::slider(Slider& slider, Qt::Orientation orientation) {

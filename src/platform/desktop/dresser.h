@@ -33,6 +33,8 @@ public:
     StudioButton* button(Button& button, const QString& symbol = {}, Accent accent = Accent::none);
     /// A picture; until its file is there, a symbol or a word.
     StudioButton* image(Image& image, const QString& symbol = {}, Accent accent = Accent::none);
+    /// An option with its picture for a lamp: one indicator, lit while the option is chosen. Both can be pressed.
+    QBoxLayout* mode(Image& lamp, OptionButton& option);
     QSlider* slider(Slider& slider, Qt::Orientation orientation);
     ProgressStrip* progress(ProgressBar& bar);
     QComboBox* combo_box(ComboBox& box);

@@ -88,7 +88,7 @@ QWidget* ListView::side_column() {
                                                                  {&window_.Image11, &window_.Option3},
                                                                  {&window_.Image12, &window_.Option4}}};
     for (const auto& [picture, option] : modes)
-        column->addLayout(row_of({lamp(*picture), dresser_.option(*option), nullptr}));
+        column->addLayout(dresser_.mode(*picture, *option));
     heading("INSERTION");
     column->addLayout(row_of({lamp(window_.Image13), dresser_.label(window_.Label14, bold_text)}));
     column->addLayout(row_of({lamp(window_.Image14), dresser_.label(window_.Label15, bold_text)}));

@@ -106,14 +106,8 @@ QLayout* MainView::lower_row(const SoundReading& sound) {
 Panel* MainView::chain_panel() {
     auto* panel = new Panel{&content()};
     auto* column = column_in(panel, "ENCHAÎNEMENT");
-    const auto lamp = [this](Image& image) {
-        auto* button = dresser_.image(image, "●");
-        button->set_look(ButtonLook::lamp);
-        button->setFixedSize(26, 26);
-        return button;
-    };
-    auto* decks = row_of({lamp(window_.Image12), dresser_.option(window_.coche2), nullptr});
-    auto* list = row_of({lamp(window_.Image13), dresser_.option(window_.coche3), nullptr});
+    auto* decks = dresser_.mode(window_.Image12, window_.coche2);
+    auto* list = dresser_.mode(window_.Image13, window_.coche3);
     decks->addWidget(dresser_.image(window_.Image17, "Top horaire"));
     list->addWidget(dresser_.check_box(window_.coche4));
     auto* overlap = dresser_.text_box(window_.Text1);

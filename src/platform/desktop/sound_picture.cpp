@@ -67,7 +67,7 @@ void SoundPictureView::paint_wave(QPainter& painter) {
     for (int column = 0; column < columns; ++column) {
         const auto frame = static_cast<std::size_t>(column) * (wave_frames - 1) / static_cast<std::size_t>(columns - 1);
         const double sample = static_cast<double>(frames_[2 * frame] + frames_[2 * frame + 1]) / 2;
-        line << QPointF{2.0 * column, height() / 2.0 * (1 - std::clamp(sample * 1.2, -1.0, 1.0))};
+        line << QPointF{2.0 * column, (height() - 1) / 2.0 * (1 - std::clamp(sample * 1.2, -1.0, 1.0))};
     }
     painter.setPen(QPen{studio::air, 1});
     painter.drawPolyline(line);

@@ -128,11 +128,16 @@ void StudioButton::paintEvent(QPaintEvent*) {
     if (!isEnabled())
         painter.setOpacity(0.38);
     else if (accent_ != Accent::none)
-        ink = Qt::white;
-    if (look_ == ButtonLook::lamp) // one without a picture yet is dark
-        ink = studio::edge;
+        ink = readable_on(lit(ground));
     paint_face(painter, ground);
-    paint_content(painter, ink);
+    if (look_ == ButtonLook::lamp && !has_picture())
+        paint_lamp(painter);
+    else
+        paint_content(painter, ink);
+}
+
+QColor StudioButton::lit(const QColor& ground) const {
+    return mixed(ground, colour_of(accent_), 0.32);
 }
 
 void StudioButton::paint_face(QPainter& painter, QColor ground) const {
@@ -148,6 +153,23 @@ void StudioButton::paint_face(QPainter& painter, QColor ground) const {
         painter.setPen(QPen{studio::focus, 2});
         painter.drawRoundedRect(area, 5, 5);
     }
+}
+
+// Dark it is a ring, so that its colour isn't all that tells it from a lit one.
+void StudioButton::paint_lamp(QPainter& painter) const {
+    const bool is_lit = accent_ != Accent::none;
+    const QPointF centre = QRectF{rect()}.center();
+    painter.setPen(Qt::NoPen);
+    if (is_lit) {
+        painter.setBrush(mixed(studio::groove, colour_of(accent_), 0.35));
+        painter.drawEllipse(centre, 9, 9);
+        painter.setBrush(colour_of(accent_));
+    } else {
+        const QColor ring = is_under_pointer() ? studio::text : studio::quiet;
+        painter.setPen(QPen{legible(ring, palette().color(QPalette::Window)), 1.5});
+        painter.setBrush(Qt::NoBrush);
+    }
+    painter.drawEllipse(centre, 6, 6);
 }
 
 void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {

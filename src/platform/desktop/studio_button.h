@@ -47,6 +47,7 @@ private:
     [[nodiscard]] const QPixmap& shown_picture() const;
     [[nodiscard]] QColor lit(const QColor& ground) const;
     void paint_face(QPainter& painter, QColor ground) const;
+    void paint_lamp(QPainter& painter) const;
     void paint_content(QPainter& painter, const QColor& ink) const;
     QRect paint_picture(QPainter& painter, const QRect& area) const;
 

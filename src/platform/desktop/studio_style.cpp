@@ -19,10 +19,21 @@ void draw_focus(QPainter& painter, const QRect& area) {
     painter.restore();
 }
 
+bool has_lamp(const QWidget* widget) {
+    return widget != nullptr && widget->property(lamp_stands_beside).toBool();
+}
+
 } // namespace
+
+int StudioStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    const bool is_mark = metric == PM_ExclusiveIndicatorWidth || metric == PM_ExclusiveIndicatorHeight;
+    return is_mark && has_lamp(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+}
 
 void StudioStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
+    if (element == PE_IndicatorRadioButton && has_lamp(widget))
+        return;
     if (element == PE_FrameFocusRect)
         draw_focus(*painter, option->rect);
     else

@@ -4,6 +4,9 @@
 
 namespace sonarelle {
 
+/// A property of an option: a lamp stands beside it and shows whether it is chosen, so it draws no mark of its own.
+inline constexpr const char* lamp_stands_beside = "lamp_stands_beside";
+
 /// The toolkit's plain style, with the keyboard's focus drawn as on the studio's own buttons.
 class StudioStyle : public QProxyStyle {
 public:

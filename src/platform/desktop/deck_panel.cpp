@@ -58,7 +58,8 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     auto* left = new QVBoxLayout;
     left->setSpacing(5);
     left->addLayout(heading(number));
-    left->addWidget(dresser.label(controls.title, {.pixels = 19, .bold = true, .characters = 16}));
+    title_ = dresser.title(controls.title, {.pixels = 19, .bold = true, .characters = 16});
+    left->addWidget(title_);
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);
     left->addWidget(progress_);

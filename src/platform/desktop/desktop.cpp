@@ -104,6 +104,7 @@ void Desktop::connect_readings() {
 
 // The clock goes on and the air is told as it is, whatever the chain does.
 void Desktop::show_second() {
+    clock_ = to_qt(time_text(desk_.platform));
     show_decks();
     main_->show_clock(to_qt(time_text(desk_.platform)));
     second_.start(1000 - QTime::currentTime().msec());
@@ -122,12 +123,15 @@ void Desktop::show_decks() {
 
 void Desktop::show_air() {
     const QString next = to_qt(name_to_come(desk_));
+    const QString title = to_qt(name_on_air(desk_));
+    const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
     main_->show_air({.role = main_role(desk_),
                      .deck = desk_.chain.lecteur_en_cours.value(),
-                     .title = to_qt(name_on_air(desk_)),
-                     .left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss"),
+                     .title = title,
+                     .left = left,
                      .next = next.isEmpty() ? next : "Ensuite : " + next,
                      .silence = {}});
+    list_->show_air({.title = title, .left = left, .clock = clock_});
 }
 
 void Desktop::show_list() {

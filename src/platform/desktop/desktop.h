@@ -64,6 +64,7 @@ private:
     MainView* main_ = nullptr;
     ListView* list_ = nullptr;
     QTimer second_;
+    QString clock_; ///< Of the second that is shown, in both windows.
     OutputChoice outputs_;
     std::unique_ptr<QMenu> output_menu_;
 };

@@ -38,17 +38,18 @@ QLayout* ListView::header() {
     auto* panel = new Panel{&content()};
     auto* row = new QHBoxLayout{panel};
     row->setContentsMargins(14, 6, 14, 6);
-    auto* title = dresser_.label(window_.Label2, {.pixels = 20, .bold = true, .characters = 20});
+    title_ = dresser_.label(window_.Label2, {.pixels = 20, .bold = true, .characters = 20});
     auto* list = dresser_.label(window_.Label25, {.pixels = 13, .quiet = true, .characters = 20});
-    auto* remaining = dresser_.label(
+    remaining_ = dresser_.label(
         window_.Label4, {.pixels = 50, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
-    remaining->setAccessibleName("Temps restant");
-    auto* clock =
+    clock_ =
         dresser_.label(window_.Label13,
                        {.pixels = 20, .digits = true, .characters = 9, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    row->addLayout(column_of({title, list}, 2), 1);
-    row->addWidget(remaining);
-    row->addWidget(clock, 1);
+    for (const Label* label : {&window_.Label2, &window_.Label4, &window_.Label13})
+        binding_of(*label)->on_shown = [this] { tell_air(); };
+    row->addLayout(column_of({title_, list}, 2), 1);
+    row->addWidget(remaining_);
+    row->addWidget(clock_, 1);
     return column_of({panel});
 }
 

@@ -8,6 +8,13 @@
 
 namespace sonarelle {
 
+/// What the list window tells of the air.
+struct ListAir {
+    QString title; ///< Empty while nothing is on.
+    QString left;  ///< Time to the end of play.
+    QString clock; ///< Time of day.
+};
+
 /// The list window: the rows, what is on and how long it lasts, the list's buttons.
 class ListView : public WindowView {
 public:
@@ -18,6 +25,7 @@ public:
 private:
     void build_rows();
     [[nodiscard]] QLayout* header();
+    void tell_air();
     [[nodiscard]] QLayout* table_row();
     [[nodiscard]] QWidget* side_column();
     [[nodiscard]] StudioButton* lamp(Image& image);
@@ -29,6 +37,10 @@ private:
 
     Liste_son& window_;
     Dresser dresser_{*this};
+    ListAir air_;
+    StationLabel* title_ = nullptr;
+    StationLabel* remaining_ = nullptr;
+    StationLabel* clock_ = nullptr;
     RowTableBinding* rows_ = nullptr;
     QMenu* all_entries_ = nullptr;
 };

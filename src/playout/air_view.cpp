@@ -95,6 +95,11 @@ int seconds_left(Desk& desk) {
     return std::max(0, left);
 }
 
+std::string name_heard(const Desk& desk, const Deck& deck) {
+    const DeckRole role = role_of(desk, deck);
+    return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
+}
+
 std::string name_to_come(Desk& desk) {
     if (!is_on(main_role(desk)) || desk.is_manual())
         return {};

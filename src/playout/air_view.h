@@ -37,6 +37,9 @@ enum class DeckRole {
 /// Whole seconds from now to the end of play of what is on the air; 0 for nothing.
 [[nodiscard]] int seconds_left(Desk& desk);
 
+/// The name of what is heard on a deck, or paused on the main one, without its ending; empty for nothing.
+[[nodiscard]] std::string name_heard(const Desk& desk, const Deck& deck);
+
 /// The name of the file that follows the main deck's, without its ending. Empty when nothing follows by itself, or a
 /// draw has yet to choose.
 [[nodiscard]] std::string name_to_come(Desk& desk);

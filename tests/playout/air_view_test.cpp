@@ -96,6 +96,22 @@ TEST_F(AirView, KeepsNameAndTimeInAPause) {
     EXPECT_EQ(seconds_left(station.desk), 150);
 }
 
+TEST_F(AirView, NamesEachDeckThatIsHeard) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(196));
+    EXPECT_EQ(name_heard(station.desk, station.desk.deck(1)), "titre 1");
+    EXPECT_EQ(name_heard(station.desk, station.desk.deck(2)), "titre 2");
+    EXPECT_EQ(name_heard(station.desk, station.desk.deck(3)), "");
+}
+
+TEST_F(AirView, LoadedDeckIsNotHeard) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(190));
+    EXPECT_EQ(name_heard(station.desk, station.desk.deck(2)), "");
+}
+
 TEST_F(AirView, NothingIsOnTheAirBehindTheEndOfTheFile) {
     open_on_all({20, 60, 60});
     station.main_window.a_mode_manuel.click();

@@ -6,6 +6,7 @@
 #include "platform/desktop/colours.h"
 #include "platform/desktop/progress_strip.h"
 #include "platform/desktop/qt_text.h"
+#include "platform/desktop/title_label.h"
 
 namespace sonarelle {
 
@@ -172,6 +173,7 @@ void DeckPanel::show_look(const DeckLook& look) {
     play_->set_accent(on_air ? Accent::air : Accent::none);
     zap_->set_accent(on_air ? Accent::next : Accent::none);
     state_->set_text(word);
+    title_->set_heard(look.heard);
     progress_->set_fill(lamp == Accent::air ? studio::air : studio::next);
     const double whole = controls_.progress.maximum;
     const auto share = [&](std::optional<double> second) -> std::optional<double> {

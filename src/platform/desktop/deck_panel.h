@@ -12,6 +12,7 @@ namespace sonarelle {
 /// What is seen of a deck, beside what its controls say.
 struct DeckLook {
     DeckRole role = DeckRole::empty;
+    QString heard;                   ///< The name of the file that is heard; empty for none.
     std::optional<double> mix_point; ///< Seconds.
     std::optional<double> end_point; ///< Seconds.
 };
@@ -33,6 +34,7 @@ private:
     WindowView& view_;
     DeckControls& controls_;
     Lamp* lamp_;
+    TitleLabel* title_ = nullptr;
     StationLabel* state_;
     StationLabel* elapsed_;
     StudioButton* play_ = nullptr;

@@ -112,7 +112,10 @@ void Desktop::show_second() {
 
 void Desktop::show_decks() {
     for (Deck& deck : desk_.decks) {
-        DeckLook look{.role = role_of(desk_, deck), .mix_point = std::nullopt, .end_point = seconds_of(deck)};
+        DeckLook look{.role = role_of(desk_, deck),
+                      .heard = to_qt(name_heard(desk_, deck)),
+                      .mix_point = std::nullopt,
+                      .end_point = seconds_of(deck)};
         if (look.end_point)
             look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
         main_->show_look(deck.number(), look);

@@ -8,6 +8,7 @@
 #include "platform/desktop/range_bindings.h"
 #include "platform/desktop/studio_style.h"
 #include "platform/desktop/text_bindings.h"
+#include "platform/desktop/title_label.h"
 
 namespace sonarelle {
 
@@ -19,6 +20,12 @@ constexpr QSize lamp_size{26, 26};
 
 StationLabel* Dresser::label(Label& label, const StationLabel::Style& style) {
     auto* widget = new StationLabel{style, parent()};
+    view_.keep(std::make_unique<LabelBinding>(label, *widget, services()));
+    return widget;
+}
+
+TitleLabel* Dresser::title(Label& label, const StationLabel::Style& style) {
+    auto* widget = new TitleLabel{style, parent()};
     view_.keep(std::make_unique<LabelBinding>(label, *widget, services()));
     return widget;
 }

@@ -20,6 +20,7 @@ class QTextEdit;
 namespace sonarelle {
 
 class ProgressStrip;
+class TitleLabel;
 
 /// Makes the widget of a control and binds the two. The widget belongs to the window's content until it is laid out.
 class Dresser {
@@ -27,6 +28,8 @@ public:
     explicit Dresser(WindowView& view) : view_{view} {}
 
     StationLabel* label(Label& label, const StationLabel::Style& style = {});
+    /// A title that the station may turn.
+    TitleLabel* title(Label& label, const StationLabel::Style& style);
     QLineEdit* text_box(TextBox& box);
     QCheckBox* check_box(CheckBox& box);
     QRadioButton* option(OptionButton& option);

@@ -104,10 +104,17 @@ void StationLabel::paint_frame(QPainter& painter) const {
         painter.setPen(focus);
         painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 3, 3);
     }
-    if (style_.quiet)
-        ink.setAlphaF(0.75F);
-    painter.setPen(ink);
-    const QRect area = rect().adjusted(margin(), 0, -margin(), 0);
+}
+
+void StationLabel::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint_frame(painter);
+    painter.setPen(ink());
+    paint_text(painter, rect().adjusted(margin(), 0, -margin(), 0));
+}
+
+void StationLabel::paint_text(QPainter& painter, const QRect& area) const {
     if (style_.wrapped)
         painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextWordWrap, text_);
     else if (style_.digits)

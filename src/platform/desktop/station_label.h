@@ -23,7 +23,7 @@ public:
     explicit StationLabel(QWidget* parent = nullptr) : StationLabel{Style{}, parent} {}
     explicit StationLabel(const Style& style, QWidget* parent = nullptr);
 
-    void set_text(const QString& text);
+    virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
     void set_style(const Style& style);
     /// Makes it a button for mouse and keyboard.
@@ -37,6 +37,9 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
+    /// Draws the text into the room that the frame leaves, in the painter's pen.
+    virtual void paint_text(QPainter& painter, const QRect& area) const;
+    [[nodiscard]] int margin() const { return style_.framed ? 8 : 2; }
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;

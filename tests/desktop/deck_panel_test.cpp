@@ -1,0 +1,191 @@
+// What is seen of a deck: its lamp, its frame, its word, its marks and the buttons that matter to the air.
+#include "platform/desktop/deck_panel.h"
+
+#include "desktop/station_views.h"
+#include "platform/desktop/title_label.h"
+
+namespace sonarelle {
+
+namespace {
+
+class DeckPanels : public StationViews {
+protected:
+    DeckPanels() {
+        deck().progress.maximum = 100;
+        deck().progress.value = 50;
+        show_windows();
+    }
+    void show(DeckRole role) {
+        main_view().show_look(1, {.role = role, .heard = {}, .mix_point = 60.0, .end_point = 90.0});
+        settle();
+    }
+    [[nodiscard]] DeckControls& deck() { return station.main_window.deck(1); }
+    [[nodiscard]] QWidget& widget(const Control& control) { return part(main_view(), control.name()); }
+    [[nodiscard]] DeckPanel& panel() { return *dynamic_cast<DeckPanel*>(widget(deck().title).parentWidget()); }
+    [[nodiscard]] QColor lamp() {
+        for (QWidget* child : panel().findChildren<QWidget*>())
+            if (auto* found = dynamic_cast<Lamp*>(child))
+                return seen_in_window(*found).pixelColor(7, 7);
+        return {};
+    }
+    [[nodiscard]] bool says(const QString& word) {
+        const auto labels = panel().findChildren<StationLabel*>();
+        return std::ranges::any_of(labels, [&](const StationLabel* label) { return label->text() == word; });
+    }
+    /// The colour of the bar at a second of a hundred.
+    [[nodiscard]] QColor bar_at(int second) {
+        QWidget& bar = widget(deck().progress);
+        return seen_in_window(bar).pixelColor(second * bar.width() / 100, bar.height() / 2);
+    }
+    [[nodiscard]] QColor face(const Control& control) { return ground_in(seen_in_window(widget(control))); }
+    [[nodiscard]] static bool is_green(const QColor& colour) {
+        return colour.green() > colour.red() + 15 && colour.green() > colour.blue() + 10;
+    }
+    [[nodiscard]] static bool is_amber(const QColor& colour) {
+        return colour.red() > colour.blue() + 20 && colour.red() > colour.green();
+    }
+};
+
+} // namespace
+
+TEST_F(DeckPanels, LampSaysWhatTheDeckIsToTheAir) {
+    const std::array<std::pair<DeckRole, QColor>, 6> lamps{{{DeckRole::empty, studio::edge},
+                                                            {DeckRole::loaded, studio::next},
+                                                            {DeckRole::heard, studio::air},
+                                                            {DeckRole::on_air, studio::air},
+                                                            {DeckRole::paused, studio::next},
+                                                            {DeckRole::ended, studio::edge}}};
+    for (const auto& [role, colour] : lamps) {
+        show(role);
+        EXPECT_TRUE(is_near(lamp(), colour)) << static_cast<int>(role) << lamp().name().toStdString();
+    }
+}
+
+TEST_F(DeckPanels, WordSaysWhatTheDeckIsToTheAir) {
+    const std::array<std::pair<DeckRole, const char*>, 4> words{{{DeckRole::loaded, "chargé"},
+                                                                 {DeckRole::heard, "en lecture"},
+                                                                 {DeckRole::on_air, "à l'antenne"},
+                                                                 {DeckRole::paused, "en pause"}}};
+    for (const auto& [role, word] : words) {
+        show(role);
+        for (const auto& [other, of_other] : words)
+            EXPECT_EQ(says(of_other), other == role) << word << " / " << of_other;
+    }
+    show(DeckRole::ended);
+    EXPECT_FALSE(says("en pause"));
+}
+
+TEST_F(DeckPanels, FrameIsLitForTheAirAndForWhatComes) {
+    const std::array<std::pair<DeckRole, Accent>, 6> frames{{{DeckRole::empty, Accent::none},
+                                                             {DeckRole::loaded, Accent::next},
+                                                             {DeckRole::heard, Accent::none},
+                                                             {DeckRole::on_air, Accent::air},
+                                                             {DeckRole::paused, Accent::air},
+                                                             {DeckRole::ended, Accent::none}}};
+    for (const auto& [role, accent] : frames) {
+        show(role);
+        EXPECT_EQ(panel().accent(), accent) << static_cast<int>(role);
+        const QColor edge = seen_in_window(panel()).pixelColor(1, panel().height() / 2);
+        EXPECT_TRUE(accent == Accent::none || is_near(edge, colour_of(accent), 40)) << edge.name().toStdString();
+    }
+}
+
+TEST_F(DeckPanels, PlateIsGreenishOnTheAirOnly) {
+    show(DeckRole::loaded);
+    EXPECT_FALSE(is_green(ground_in(seen_in_window(panel()))));
+    show(DeckRole::on_air);
+    EXPECT_TRUE(is_green(ground_in(seen_in_window(panel()))));
+    show(DeckRole::ended);
+    EXPECT_FALSE(is_green(ground_in(seen_in_window(panel()))));
+}
+
+TEST_F(DeckPanels, PlayAndZapAreLitOnTheAirOnly) {
+    deck().play.enabled = true;
+    deck().zap.enabled = true;
+    settle();
+    for (const DeckRole role :
+         {DeckRole::empty, DeckRole::loaded, DeckRole::heard, DeckRole::paused, DeckRole::ended}) {
+        show(role);
+        EXPECT_FALSE(is_green(face(deck().play))) << static_cast<int>(role);
+        EXPECT_FALSE(is_amber(face(deck().zap))) << static_cast<int>(role);
+    }
+    show(DeckRole::on_air);
+    EXPECT_TRUE(is_green(face(deck().play)));
+    EXPECT_TRUE(is_amber(face(deck().zap)));
+    EXPECT_FALSE(is_green(face(deck().stop)));
+}
+
+TEST_F(DeckPanels, BarIsGreenWhileTheDeckSoundsAndAmberOtherwise) {
+    show(DeckRole::on_air);
+    EXPECT_TRUE(is_near(bar_at(25), studio::air));
+    show(DeckRole::heard);
+    EXPECT_TRUE(is_near(bar_at(25), studio::air));
+    show(DeckRole::paused);
+    EXPECT_TRUE(is_near(bar_at(25), studio::next));
+}
+
+TEST_F(DeckPanels, MarksStandAtTheMixAndAtTheEnd) {
+    show(DeckRole::on_air);
+    EXPECT_TRUE(is_near(bar_at(60), studio::next));
+    EXPECT_TRUE(is_near(bar_at(90), studio::trouble));
+    EXPECT_TRUE(is_near(bar_at(75), studio::groove));
+}
+
+TEST_F(DeckPanels, DeckWithoutAFileHasNoMarks) {
+    show(DeckRole::empty);
+    EXPECT_TRUE(is_near(bar_at(60), studio::groove));
+    EXPECT_TRUE(is_near(bar_at(90), studio::groove));
+}
+
+TEST_F(DeckPanels, BarWithoutALengthHasNoMarks) {
+    deck().progress.maximum = 0;
+    settle();
+    show(DeckRole::on_air);
+    EXPECT_EQ(count_of(seen_in_window(widget(deck().progress)), studio::next), 0);
+}
+
+TEST_F(DeckPanels, ElapsedSecondsFollowTheBar) {
+    deck().progress.value = 73;
+    settle();
+    EXPECT_TRUE(says("73"));
+    deck().progress.value = 74;
+    settle();
+    EXPECT_TRUE(says("74"));
+    EXPECT_FALSE(says("73"));
+}
+
+TEST_F(DeckPanels, TitleIsTheNameOfWhatIsHeard) {
+    deck().title.caption = "Jingle la suite - ";
+    main_view().show_look(1, {.role = DeckRole::on_air, .heard = "La rue", .mix_point = {}, .end_point = {}});
+    settle();
+    EXPECT_EQ(dynamic_cast<TitleLabel&>(widget(deck().title)).shown(), "La rue");
+    main_view().show_look(1, {.role = DeckRole::ended, .heard = {}, .mix_point = {}, .end_point = {}});
+    EXPECT_EQ(dynamic_cast<TitleLabel&>(widget(deck().title)).shown(), "Jingle la suite - ");
+}
+
+TEST_F(DeckPanels, EachDeckHasItsOwnPanel) {
+    main_view().show_look(2, {.role = DeckRole::on_air, .heard = {}, .mix_point = {}, .end_point = {}});
+    settle();
+    auto* second = dynamic_cast<DeckPanel*>(widget(station.main_window.deck(2).title).parentWidget());
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->accent(), Accent::air);
+    EXPECT_EQ(panel().accent(), Accent::none);
+}
+
+TEST_F(DeckPanels, PressesReachTheirButtons) {
+    std::vector<std::string> pressed;
+    for (Button* button : std::initializer_list<Button*>{
+             &deck().open, &deck().play, &deck().stop, &deck().pause, &deck().back, &deck().forward, &deck().zap,
+             &deck().special_mix, &deck().louder, &deck().quieter, &deck().keep_volume}) {
+        button->enabled = true;
+        button->visible = true;
+        button->on_click = [&pressed, button] { pressed.push_back(button->name()); };
+        settle();
+        dynamic_cast<QAbstractButton&>(widget(*button)).click();
+        ASSERT_FALSE(pressed.empty());
+        EXPECT_EQ(pressed.back(), button->name());
+    }
+    EXPECT_EQ(pressed.size(), 11U);
+}
+
+} // namespace sonarelle

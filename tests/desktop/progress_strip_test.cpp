@@ -1,0 +1,146 @@
+// A deck's bar: how far the sound is, where the next one begins and where this one ends.
+#include "platform/desktop/progress_strip.h"
+
+#include <QTest>
+
+#include "desktop/desktop_bench.h"
+#include "desktop/pixels.h"
+
+namespace sonarelle {
+
+namespace {
+
+class Strip : public DesktopBench {
+protected:
+    Strip() {
+        strip.resize(200, 20);
+        strip.show();
+    }
+    /// The colour in the middle of the bar at a share of its width.
+    [[nodiscard]] QColor at(double share) { return seen(strip).pixelColor(static_cast<int>(share * 200), 10); }
+    [[nodiscard]] bool has_mark(double share, const QColor& colour) { return is_near(at(share), colour); }
+
+    ProgressStrip strip;
+};
+
+} // namespace
+
+TEST_F(Strip, IsFilledAsFarAsTheSoundIs) {
+    strip.set_share(0.5);
+    EXPECT_TRUE(is_near(at(0.25), studio::air));
+    EXPECT_TRUE(is_near(at(0.48), studio::air));
+    EXPECT_TRUE(is_near(at(0.52), studio::groove));
+    EXPECT_TRUE(is_near(at(0.75), studio::groove));
+}
+
+TEST_F(Strip, IsEmptyAtFirst) {
+    EXPECT_TRUE(is_near(at(0.02), studio::groove));
+}
+
+TEST_F(Strip, ShareStaysBetweenNothingAndTheWhole) {
+    strip.set_share(1.5);
+    EXPECT_EQ(strip.share(), 1);
+    strip.set_share(-0.5);
+    EXPECT_EQ(strip.share(), 0);
+}
+
+TEST_F(Strip, FillTakesAnotherColour) {
+    strip.set_share(0.5);
+    strip.set_fill(studio::next);
+    EXPECT_TRUE(is_near(at(0.25), studio::next));
+}
+
+TEST_F(Strip, MarksStandWhereTheNextBeginsAndThisEnds) {
+    strip.set_marks(0.6, 0.9);
+    EXPECT_TRUE(has_mark(0.6, studio::next));
+    EXPECT_TRUE(has_mark(0.9, studio::trouble));
+    EXPECT_TRUE(has_mark(0.75, studio::groove));
+}
+
+TEST_F(Strip, MarkOfTheNextMovesAlone) {
+    strip.set_marks(0.6, 0.9);
+    strip.set_marks(0.4, 0.9);
+    EXPECT_TRUE(has_mark(0.4, studio::next));
+    EXPECT_TRUE(has_mark(0.6, studio::groove));
+    EXPECT_TRUE(has_mark(0.9, studio::trouble));
+}
+
+TEST_F(Strip, MarkOfTheEndMovesAlone) {
+    strip.set_marks(0.4, 0.9);
+    strip.set_marks(0.4, 0.7);
+    EXPECT_TRUE(has_mark(0.4, studio::next));
+    EXPECT_TRUE(has_mark(0.7, studio::trouble));
+    EXPECT_TRUE(has_mark(0.9, studio::groove));
+}
+
+TEST_F(Strip, MarksGo) {
+    strip.set_marks(0.4, 0.9);
+    strip.set_marks({}, {});
+    EXPECT_TRUE(has_mark(0.4, studio::groove));
+    EXPECT_TRUE(has_mark(0.9, studio::groove));
+}
+
+TEST_F(Strip, MarkBesideTheBarIsNotDrawn) {
+    strip.set_marks(-0.1, 1.1);
+    EXPECT_EQ(count_of(seen(strip), studio::next), 0);
+    EXPECT_EQ(count_of(seen(strip), studio::trouble), 0);
+}
+
+TEST_F(Strip, MarksAtBothEndsAreSeenWhole) {
+    strip.set_marks(0.0, 1.0);
+    EXPECT_GE(count_of(seen(strip), studio::next), 2 * 18);
+    EXPECT_GE(count_of(seen(strip), studio::trouble), 2 * 18);
+}
+
+TEST_F(Strip, EachChangeIsPaintedAtOnce) {
+    struct Counting : ProgressStrip {
+        void paintEvent(QPaintEvent* event) override {
+            ++painted;
+            ProgressStrip::paintEvent(event);
+        }
+        int painted = 0;
+    } counted;
+    counted.show();
+    const auto is_painted_after = [&](const std::function<void()>& change) {
+        QTest::qWait(20);
+        const int before = counted.painted;
+        change();
+        QTest::qWait(50);
+        return counted.painted > before;
+    };
+    EXPECT_TRUE(is_painted_after([&] { counted.set_share(0.3); }));
+    EXPECT_FALSE(is_painted_after([&] { counted.set_share(0.3); }));
+    EXPECT_TRUE(is_painted_after([&] { counted.set_marks(0.5, 0.9); }));
+    EXPECT_TRUE(is_painted_after([&] { counted.set_marks(0.4, 0.9); }));
+    EXPECT_TRUE(is_painted_after([&] { counted.set_marks(0.4, 0.8); }));
+    EXPECT_FALSE(is_painted_after([&] { counted.set_marks(0.4, 0.8); }));
+    EXPECT_TRUE(is_painted_after([&] { counted.set_text("Mixage"); }));
+    EXPECT_TRUE(is_painted_after([&] { counted.set_fill(studio::next); }));
+}
+
+TEST_F(Strip, TextIsWrittenOverTheBarAndReads) {
+    const QImage bare = seen(strip);
+    strip.set_text("Mixage spécial en cours (40 S)");
+    EXPECT_NE(seen(strip), bare);
+    EXPECT_GE(contrast_in(seen(strip)), readable);
+    strip.set_share(1);
+    EXPECT_GE(contrast_in(seen(strip)), readable);
+}
+
+TEST_F(Strip, PressAndMoveTellTheirPlace) {
+    std::vector<double> places;
+    strip.on_press = [&](double share) { places.push_back(share); };
+    strip.on_move = [&](double share) { places.push_back(share); };
+    QTest::mousePress(&strip, Qt::LeftButton, {}, {50, 10});
+    QTest::mouseMove(&strip, {150, 10});
+    QTest::mousePress(&strip, Qt::RightButton, {}, {100, 10});
+    EXPECT_EQ(places, (std::vector{0.25, 0.75}));
+}
+
+TEST_F(Strip, PressThatNobodyWantsGoesToWhatLiesBehind) {
+    QMouseEvent press{QEvent::MouseButtonPress, QPointF{50, 10}, QPointF{50, 10}, Qt::LeftButton, Qt::LeftButton, {}};
+    QCoreApplication::sendEvent(&strip, &press);
+    EXPECT_FALSE(press.isAccepted());
+}
+
+} // namespace sonarelle

@@ -1,0 +1,126 @@
+// The title of a deck, which the station turns by a character twice a second.
+#include "platform/desktop/title_label.h"
+
+#include <QTest>
+
+#include "desktop/desktop_bench.h"
+#include "desktop/pixels.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// What the station makes of a title at each tick.
+QString turned(const QString& title) {
+    const qsizetype kept = title.size() % 2 == 0 ? title.size() : title.size() - 1;
+    return title.right(kept) + title.left(1);
+}
+
+class Titles : public DesktopBench {
+protected:
+    void show(int width) {
+        label.resize(width, 30);
+        label.show();
+    }
+    void turn(int times) {
+        for (int i = 0; i < times; ++i)
+            label.set_text(turned(label.text()));
+    }
+
+    TitleLabel label{{.pixels = 19, .bold = true}};
+};
+
+} // namespace
+
+TEST(TurnedTitle, IsTheTitleAsItStood) {
+    for (const QString& title : {QString{"Pluie de juin - "}, QString{"Matin - "}, QString{"impair"}, QString{"a"}}) {
+        TurnedTitle known;
+        EXPECT_FALSE(known.take(title));
+        QString text = title;
+        for (int i = 0; i < 60; ++i) {
+            text = turned(text);
+            EXPECT_TRUE(known.take(text)) << text.toStdString();
+            EXPECT_EQ(known.still(), title);
+        }
+    }
+}
+
+TEST(TurnedTitle, IsForgottenForAnotherOne) {
+    TurnedTitle known;
+    static_cast<void>(known.take("Matin - "));
+    EXPECT_FALSE(known.take("Soir - "));
+    EXPECT_EQ(known.still(), "Soir - ");
+    EXPECT_FALSE(known.take(""));
+    EXPECT_EQ(known.still(), "");
+}
+
+TEST_F(Titles, OneThatFitsStandsStill) {
+    show(400);
+    label.set_text("Pluie de juin - ");
+    const QImage before = seen(label);
+    turn(5);
+    EXPECT_EQ(seen(label), before);
+    EXPECT_FALSE(label.is_turning());
+}
+
+TEST_F(Titles, StationsTextIsKeptBesideWhatIsPainted) {
+    show(400);
+    label.set_text("abc");
+    turn(1);
+    EXPECT_EQ(label.text(), "bca");
+}
+
+TEST_F(Titles, OneThatIsCutTurnsWithTheStation) {
+    show(90);
+    label.set_text("Un titre bien trop long - ");
+    EXPECT_FALSE(label.is_turning());
+    const QImage before = seen(label);
+    turn(1);
+    EXPECT_TRUE(label.is_turning());
+    QTRY_VERIFY_WITH_TIMEOUT(seen(label) != before, 5000);
+}
+
+TEST_F(Titles, AnotherOneStandsAtItsBeginning) {
+    show(90);
+    label.set_text("Un titre bien trop long - ");
+    turn(3);
+    label.set_text("Un autre titre, trop long lui aussi - ");
+    EXPECT_FALSE(label.is_turning());
+    TitleLabel fresh{{.pixels = 19, .bold = true}};
+    fresh.resize(90, 30);
+    fresh.set_text("Un autre titre, trop long lui aussi - ");
+    EXPECT_EQ(seen(label), seen(fresh));
+}
+
+TEST_F(Titles, OneThatTheStationTurnsNoMoreComesToRest) {
+    show(90);
+    label.set_text("Un titre bien trop long - ");
+    const QImage still = seen(label);
+    turn(1);
+    QTRY_VERIFY_WITH_TIMEOUT(!label.is_turning(), 10000);
+    EXPECT_EQ(seen(label), still);
+}
+
+TEST_F(Titles, NameOfWhatIsHeardStandsBeforeTheStationsTitle) {
+    show(400);
+    label.set_text("Jingle la suite - ");
+    label.set_heard("La rue des tilleuls");
+    EXPECT_EQ(label.shown(), "La rue des tilleuls");
+    const QImage heard = seen(label);
+    turn(3);
+    EXPECT_EQ(seen(label), heard);
+    label.set_heard({});
+    EXPECT_EQ(label.shown(), "Jingle la suite - ");
+    EXPECT_NE(seen(label), heard);
+}
+
+TEST_F(Titles, LongNameOfWhatIsHeardTurnsWithTheStation) {
+    show(90);
+    label.set_text("Un titre ... - ");
+    label.set_heard("Un titre bien trop long");
+    EXPECT_FALSE(label.is_turning());
+    turn(1);
+    EXPECT_TRUE(label.is_turning());
+}
+
+} // namespace sonarelle

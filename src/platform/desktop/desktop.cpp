@@ -134,6 +134,7 @@ void Desktop::show_air() {
                      .left = left,
                      .next = next.isEmpty() ? next : "Ensuite : " + next,
                      .silence = {}});
+    main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});
 }
 

@@ -53,6 +53,22 @@ QLayout* ListView::header() {
     return column_of({panel});
 }
 
+void ListView::show_air(const ListAir& air) {
+    air_ = air;
+    tell_air();
+}
+
+// From the load on the station's own labels speak of the track to come, and their clock waits for the chain's tick; the
+// operator reads what is on the air, in both windows the same.
+void ListView::tell_air() {
+    title_->set_text(air_.title.isEmpty() ? to_qt(window_.Label2.caption.get()) : air_.title);
+    remaining_->set_text(air_.left);
+    remaining_->setAccessibleName("Temps restant");
+    clock_->set_text(air_.clock);
+    if (windowTitle() != title())
+        setWindowTitle(title());
+}
+
 QLayout* ListView::table_row() {
     auto* table = dresser_.table(window_.ListView1);
     rows_ = static_cast<RowTableBinding*>(binding_of(window_.ListView1));
@@ -63,6 +79,10 @@ QLayout* ListView::table_row() {
     row->addWidget(table, 1);
     row->addWidget(side_column());
     return row;
+}
+
+QString ListView::title() const {
+    return air_.title.isEmpty() ? WindowView::title() : air_.title;
 }
 
 StudioButton* ListView::lamp(Image& image) {

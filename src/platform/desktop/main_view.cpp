@@ -186,6 +186,16 @@ QWidget* MainView::status_line() {
     return line;
 }
 
+void MainView::show_title(const QString& title) {
+    air_title_ = title;
+    if (windowTitle() != this->title())
+        setWindowTitle(this->title());
+}
+
+QString MainView::title() const {
+    return air_title_.isEmpty() ? WindowView::title() : air_title_;
+}
+
 void MainView::show_output(const QString& text, bool is_trouble) {
     output_->set_style(is_trouble ? trouble : status);
     output_->setPalette({});

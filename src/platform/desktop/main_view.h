@@ -17,8 +17,13 @@ public:
     void show_air(const AirLook& look) { header_->show_air(look); }
     void show_clock(const QString& time) { header_->show_clock(time); }
     void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
+    /// What the window's frame names: the station and what is on the air. Empty: the window's own caption.
+    void show_title(const QString& title);
     void show_output(const QString& text, bool is_trouble);
     void show_played(const QString& text) { played_->set_text(text); }
+
+protected:
+    [[nodiscard]] QString title() const override;
 
 private:
     void build_rows(const SoundReading& sound);
@@ -35,6 +40,7 @@ private:
     Dresser dresser_{*this};
     AirHeader* header_ = nullptr;
     std::array<DeckPanel*, 3> decks_{};
+    QString air_title_;
     StationLabel* output_ = nullptr;
     StationLabel* played_ = nullptr;
 };

@@ -72,9 +72,13 @@ bool WindowView::is_bound(const Control& control) const {
     return binding_of(control) != nullptr;
 }
 
+QString WindowView::title() const {
+    return to_qt(window_.caption);
+}
+
 void WindowView::show_value() {
     showing_ = true;
-    setWindowTitle(to_qt(window_.caption));
+    setWindowTitle(title());
     setCursor(window_.mouse_pointer == 11   ? Qt::WaitCursor
               : window_.mouse_pointer == 13 ? Qt::BusyCursor
                                             : Qt::ArrowCursor);

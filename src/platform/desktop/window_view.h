@@ -45,6 +45,8 @@ public:
     [[nodiscard]] Binding* binding_of(const Control& control) const;
 
 protected:
+    /// The title on the window's frame: its caption, where a view knows nothing truer.
+    [[nodiscard]] virtual QString title() const;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;

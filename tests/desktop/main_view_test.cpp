@@ -1,0 +1,178 @@
+// The main window: its modes, its status line, its menus and what stands for them.
+#include "platform/desktop/main_view.h"
+
+#include <QMenuBar>
+#include <QTest>
+
+#include "desktop/station_views.h"
+
+namespace sonarelle {
+
+namespace {
+
+class MainWindow : public StationViews {
+protected:
+    MainWindow() { show_windows(); }
+
+    [[nodiscard]] Antenne_FM& main() { return station.main_window; }
+    [[nodiscard]] StationLabel& label(const std::string& name) { return part<StationLabel>(main_view(), name); }
+    [[nodiscard]] bool lamp_is_lit(const Image& lamp) {
+        return count_of(seen_in_window(part(main_view(), lamp.name())), studio::air) > 40;
+    }
+    /// A text of the view that stands anywhere in the window.
+    [[nodiscard]] bool says(const QString& text) {
+        const auto labels = main_view().findChildren<StationLabel*>();
+        return std::ranges::any_of(labels, [&](const StationLabel* shown) { return shown->text() == text; });
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindow, ChainHasOneIndicatorThatFollowsItsOption) {
+    main().coche2.show_value(true);
+    settle();
+    EXPECT_TRUE(lamp_is_lit(main().Image12));
+    EXPECT_FALSE(lamp_is_lit(main().Image13));
+    main().coche3.show_value(true);
+    settle();
+    EXPECT_FALSE(lamp_is_lit(main().Image12));
+    EXPECT_TRUE(lamp_is_lit(main().Image13));
+}
+
+TEST_F(MainWindow, OptionDrawsNoMarkBesideItsLamp) {
+    auto& option = part<QRadioButton>(main_view(), "coche3");
+    const QImage clear = seen_in_window(option);
+    main().coche3.show_value(true);
+    settle();
+    EXPECT_EQ(seen_in_window(option), clear);
+}
+
+TEST_F(MainWindow, PictureOfAChainCantContradictIt) {
+    main().coche3.show_value(true);
+    settle();
+    main().Image12.picture = std::string{lamp_on_picture};
+    main().Image13.picture = "";
+    settle();
+    EXPECT_TRUE(lamp_is_lit(main().Image13));
+    EXPECT_FALSE(lamp_is_lit(main().Image12));
+}
+
+TEST_F(MainWindow, LampAndWordsOfAChainBothChooseIt) {
+    int lamp_presses = 0;
+    int word_presses = 0;
+    main().Image13.on_click = [&] { ++lamp_presses; };
+    main().coche3.on_click = [&] { ++word_presses; };
+    QTest::mouseClick(&part(main_view(), "Image13"), Qt::LeftButton);
+    part<QRadioButton>(main_view(), "coche3").click();
+    EXPECT_EQ(lamp_presses, 1);
+    EXPECT_EQ(word_presses, 1);
+}
+
+TEST_F(MainWindow, OutputIsTold) {
+    desktop->show_output("sortie : la carte son joue", false);
+    EXPECT_EQ(label("output").text(), "sortie : la carte son joue");
+    const QColor calm = ink_in(seen_in_window(label("output")));
+    desktop->show_output("sortie : aucune carte son", true);
+    settle();
+    const QColor trouble = ink_in(seen_in_window(label("output")));
+    EXPECT_GT(trouble.red(), trouble.green() + 40);
+    desktop->show_output("sortie : la carte son joue", false);
+    settle();
+    EXPECT_EQ(ink_in(seen_in_window(label("output"))), calm);
+}
+
+TEST_F(MainWindow, FilesPlayedAreCounted) {
+    station.chain.nb_fichiers_ecoutes = 41;
+    main().deck(1).title.caption = "Titre";
+    settle();
+    EXPECT_TRUE(says("Nombre de fichiers lus : 41"));
+}
+
+TEST_F(MainWindow, DecksAreToldAgainWhenTheOverlapChanges) {
+    main().deck(1).progress.maximum = 100;
+    station.settings.mix_courant = 10;
+    main().deck(1).counter.caption = "90";
+    main().deck(1).title.caption = "titre";
+    station.desk.deck(1).path = "C:\\titre.mp3";
+    settle();
+    auto& bar = part(main_view(), main().deck(1).progress.name());
+    const auto at = [&](int second) {
+        return seen_in_window(bar).pixelColor(second * bar.width() / 100, bar.height() / 2);
+    };
+    EXPECT_TRUE(is_near(at(80), studio::next)) << at(80).name().toStdString();
+    station.settings.mix_courant = 30;
+    main().Text1.set_text("30");
+    settle();
+    EXPECT_TRUE(is_near(at(60), studio::next));
+    EXPECT_TRUE(is_near(at(90), studio::trouble));
+}
+
+TEST_F(MainWindow, FrameNamesWhatIsOnTheAir) {
+    main().caption = "Sonarelle : le mixage";
+    settle();
+    EXPECT_EQ(main_view().windowTitle(), "Sonarelle : le mixage");
+    main_view().show_title("Sonarelle : Matin");
+    main().caption = "Sonarelle : un autre";
+    updates.flush(); // and no second passes, which would tell the air anew
+    EXPECT_EQ(main_view().windowTitle(), "Sonarelle : Matin");
+    main_view().show_title({});
+    EXPECT_EQ(main_view().windowTitle(), "Sonarelle : un autre");
+}
+
+TEST_F(MainWindow, LabelsStandForTheMenuBarAndOpenItsMenus) {
+    EXPECT_TRUE(main_view().menu_bar().isVisible());
+    main().click();
+    settle();
+    EXPECT_FALSE(main_view().menu_bar().isVisible());
+    EXPECT_TRUE(label("Label12").isVisible());
+    QTest::mouseClick(&label("Label12"), Qt::LeftButton);
+    settle();
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    menu->close();
+}
+
+TEST_F(MainWindow, PointerOverBareGroundGivesTheLabelsTheirColourBack) {
+    station.settings.coul_label = 0x808080;
+    main().click();
+    settle();
+    main().Label15.mouse_move();
+    ASSERT_NE(main().Label15.fore_colour.get(), 0x808080);
+    QTest::mouseMove(&main_view(), {3, main_view().height() / 2});
+    QMouseEvent move{QEvent::MouseMove, QPointF{3, 300}, QPointF{3, 300}, Qt::NoButton, Qt::NoButton, {}};
+    QCoreApplication::sendEvent(&main_view(), &move);
+    EXPECT_EQ(main().Label15.fore_colour.get(), 0x808080);
+}
+
+TEST_F(MainWindow, PointerThatLeavesALabelGivesItsColourBack) {
+    station.settings.coul_label = 0x808080;
+    main().click();
+    settle();
+    point_at(label("Label15"));
+    ASSERT_NE(main().Label15.fore_colour.get(), 0x808080);
+    leave(label("Label15"));
+    EXPECT_EQ(main().Label15.fore_colour.get(), 0x808080);
+}
+
+TEST_F(MainWindow, SlidersAreTurnedSoThatFullIsAtTheTop) {
+    auto& slider = part<QSlider>(main_view(), main().deck(1).slider.name());
+    EXPECT_TRUE(slider.invertedAppearance());
+    EXPECT_TRUE(slider.invertedControls());
+    EXPECT_EQ(slider.orientation(), Qt::Vertical);
+}
+
+TEST_F(MainWindow, NoControlIsMissing) {
+    for (const Control* control : main().controls())
+        EXPECT_TRUE(control->kind() == ControlKind::menu_item || main_view().is_bound(*control)) << control->name();
+}
+
+TEST_F(MainWindow, NothingStandsOutsideOfItAtItsLeastSize) {
+    main_view().resize(main_view().minimumSize());
+    settle();
+    for (const QWidget* child : main_view().content().findChildren<QWidget*>()) {
+        const bool is_inside = main_view().rect().contains(QRect{child->mapTo(&main_view(), QPoint{}), child->size()});
+        EXPECT_TRUE(!child->isVisible() || is_inside) << child->objectName().toStdString();
+    }
+}
+
+} // namespace sonarelle

@@ -114,6 +114,8 @@ void DeskProgram::connect() {
     desktop_.offer_outputs({[this] { return live_.output()->device_names(); },
                             [this] { return live_.output()->chosen(); },
                             [this](const std::string& name) { choose_output(name); }});
+    desktop_.mark_missing({[this](const std::string& path) { return presence_.is_missing(path); },
+                           [this] { return presence_.has_news(); }});
     live_.media().on_trouble = [this](const SoundReport& report) { note(trouble_text(report)); };
 }
 

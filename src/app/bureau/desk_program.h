@@ -13,6 +13,7 @@
 #include "platform/desktop/picture_store.h"
 #include "platform/desktop/pulse.h"
 #include "platform/desktop/update_queue.h"
+#include "platform/host/file_presence.h"
 #include "station/station.h"
 
 namespace sonarelle {
@@ -59,6 +60,7 @@ private:
     UpdateQueue updates_;
     PictureStore pictures_;
     DesktopServices services_;
+    FilePresence presence_{machine_.drives()};
     SoundProbe probe_{live_.bus().taps()};
     Desktop desktop_;
     Pulse pulse_;

@@ -106,8 +106,16 @@ void Desktop::connect_readings() {
 void Desktop::show_second() {
     clock_ = to_qt(time_text(desk_.platform));
     show_decks();
-    main_->show_clock(to_qt(time_text(desk_.platform)));
+    main_->show_clock(clock_);
+    show_missing();
     second_.start(1000 - QTime::currentTime().msec());
+}
+
+// An old answer is asked for anew when its row is painted, which may not happen for hours by itself.
+void Desktop::show_missing() {
+    const bool is_time = QTime::currentTime().second() % 15 == 0;
+    if (missing_.has_news && (missing_.has_news() || is_time))
+        list_->rows().repaint_all();
 }
 
 void Desktop::show_decks() {
@@ -142,12 +150,18 @@ void Desktop::show_list() {
     const bool on = desk_.has_main_deck() && desk_.chain.mode_enchainement.is_true();
     const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
     const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() : 0;
-    list_->show_marks({.playing = playing, .next = next});
+    list_->rows().set_marks({.playing = playing, .next = next});
 }
 
 void Desktop::show_output(const std::string& text, bool is_trouble) {
     if (main_ != nullptr)
         main_->show_output(to_qt(text), is_trouble);
+}
+
+void Desktop::mark_missing(MissingFiles files) {
+    missing_ = std::move(files);
+    if (list_ != nullptr)
+        list_->rows().is_missing = missing_.is_missing;
 }
 
 void Desktop::offer_outputs(OutputChoice choice) {

@@ -28,6 +28,13 @@ struct OutputChoice {
     std::function<void(const std::string&)> choose;
 };
 
+/// The rows' files that are not there.
+struct MissingFiles {
+    std::function<bool(const std::string& path)> is_missing;
+    /// Whether an answer has changed since this was last asked.
+    std::function<bool()> has_news;
+};
+
 /// Gives the application the studio's look: style, palette, type. Once, before the first window.
 void dress_application();
 
@@ -48,6 +55,8 @@ public:
     void show_output(const std::string& text, bool is_trouble);
     /// Hangs "Sortie audio" into the option menu.
     void offer_outputs(OutputChoice choice);
+    /// Marks the rows of missing files in the list, while they can be seen.
+    void mark_missing(MissingFiles files);
 
 private:
     void connect_readings();
@@ -56,6 +65,7 @@ private:
     void show_decks();
     void show_air();
     void show_list();
+    void show_missing();
     void fill_outputs();
 
     Desk& desk_;
@@ -66,6 +76,7 @@ private:
     QTimer second_;
     QString clock_; ///< Of the second that is shown, in both windows.
     OutputChoice outputs_;
+    MissingFiles missing_;
     std::unique_ptr<QMenu> output_menu_;
 };
 

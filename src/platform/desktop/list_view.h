@@ -20,7 +20,11 @@ class ListView : public WindowView {
 public:
     ListView(Liste_son& window, const DesktopServices& services);
 
-    void show_marks(const RowMarks& marks) { rows_->model().set_marks(marks); }
+    [[nodiscard]] RowTableModel& rows() { return rows_->model(); }
+    void show_air(const ListAir& air);
+
+protected:
+    [[nodiscard]] QString title() const override;
 
 private:
     void build_rows();

@@ -1,7 +1,5 @@
 #include "platform/desktop/row_table_model.h"
 
-#include <QFont>
-
 #include "platform/desktop/colours.h"
 #include "platform/desktop/qt_text.h"
 
@@ -45,13 +43,8 @@ QVariant RowTableModel::data(const QModelIndex& index, int role) const {
         return ink_of(row);
     case Qt::TextAlignmentRole:
         return static_cast<int>((is_number(text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    case Qt::FontRole: {
-        QFont font;
-        font.setBold(row == marks_.playing);
-        if (is_number(text))
-            font.setFamily("DejaVu Sans"); // figures of one width
-        return font;
-    }
+    case Qt::FontRole:
+        return font_of(row, text);
     default:
         return {};
     }
@@ -62,7 +55,28 @@ QVariant RowTableModel::background(int row) const {
         return mixed(ground_, studio::air, 0.55);
     if (row == marks_.next)
         return mixed(ground_, studio::next, 0.50);
+    if (lacks_file(row))
+        return mixed(ground_, studio::trouble, 0.45);
     return {};
+}
+
+bool RowTableModel::lacks_file(int row) const {
+    return row != marks_.playing && is_missing && is_missing(table_.text(row));
+}
+
+// A missing file is struck out as well, so that its colour doesn't speak alone.
+QFont RowTableModel::font_of(int row, const std::string& text) const {
+    QFont font;
+    font.setBold(row == marks_.playing);
+    font.setStrikeOut(lacks_file(row));
+    if (is_number(text))
+        font.setFamily("DejaVu Sans"); // figures of one width
+    return font;
+}
+
+QVariant RowTableModel::ink_of(int row) const {
+    const QVariant ground = background(row);
+    return ground.isValid() ? QVariant{legible(ink_, ground.value<QColor>())} : QVariant{};
 }
 
 QVariant RowTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -145,6 +159,11 @@ void RowTableModel::set_marks(const RowMarks& marks) {
     const RowMarks old = std::exchange(marks_, marks);
     for (const int row : {old.playing, old.next, marks.playing, marks.next})
         repaint_row(row);
+}
+
+void RowTableModel::repaint_all() {
+    if (count_ > 0)
+        emit dataChanged(index(0, 0), index(count_ - 1, columnCount() - 1));
 }
 
 void RowTableModel::repaint_row(int row) {

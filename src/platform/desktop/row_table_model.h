@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QFont>
 #include <functional>
 
 #include "platform/desktop/update_queue.h"
@@ -38,6 +39,11 @@ public:
     /// Of the rows that no mark colours.
     void set_colours(const QColor& ground, const QColor& ink);
 
+    /// Paints all rows anew: what `is_missing` says of them has changed.
+    void repaint_all();
+
+    /// Whether the file of a row's first cell isn't there; asked of the rows that are painted. Null: all are there.
+    std::function<bool(const std::string& path)> is_missing;
     std::function<void(int row, const std::string& text)> on_edited;
     /// The table's selected row, and one that must be seen; row 0 for none.
     std::function<void(int row)> on_selected;
@@ -55,6 +61,8 @@ private:
     void note(Change change, int row);
     void apply_change();
     void repaint_row(int row);
+    [[nodiscard]] bool lacks_file(int row) const;
+    [[nodiscard]] QFont font_of(int row, const std::string& text) const;
     [[nodiscard]] QVariant background(int row) const;
     [[nodiscard]] QVariant ink_of(int row) const;
 

@@ -1,6 +1,9 @@
 #include "platform/desktop/button_bindings.h"
 
+#include <QImageReader>
 #include <QMovie>
+#include <algorithm>
+#include <array>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/picture_store.h"
@@ -11,6 +14,20 @@ namespace sonarelle {
 namespace {
 
 const std::string resting_picture = "bandeau.gif"; // while there is no movie
+
+/// The quiet one of the same name: what stands in for a movie that can't be shown.
+std::string picture_beside(const std::string& movie) {
+    return movie.substr(0, movie.rfind('.')) + ".gif";
+}
+
+struct Plate {
+    QColor ground;
+    QColor ink;
+};
+
+Plate plate_of(Colour ink, Colour ground) {
+    return {ground_for(ink, ground, studio::face), to_qt(ink, studio::text)};
+}
 
 } // namespace
 
@@ -78,28 +95,40 @@ MovieBinding::MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& 
 MovieBinding::~MovieBinding() = default;
 
 void MovieBinding::show_state() {
-    const QString wanted = services().pictures.path(movie_.movie);
-    const QString file = wanted.isEmpty() ? services().pictures.path(resting_picture) : wanted;
-    if (!file.isEmpty() && file != shown_)
-        load(file);
+    if (const std::string& wanted = movie_.movie; shown_ != wanted || !has_picture_) {
+        shown_ = wanted;
+        has_picture_ = std::ranges::any_of(std::array{wanted, picture_beside(wanted), resting_picture},
+                                           [this](const std::string& name) { return load(name); });
+    }
     if (film_ && film_->state() != (movie_.playing ? QMovie::Running : QMovie::NotRunning))
         movie_.playing ? film_->start() : film_->stop();
 }
 
-void MovieBinding::load(const QString& file) {
-    shown_ = file;
+bool MovieBinding::load(const std::string& name) {
+    const QString file = services().pictures.path(name);
+    if (file.isEmpty())
+        return false;
     auto film = std::make_unique<QMovie>(file);
-    if (film->isValid()) {
-        film_ = std::move(film);
-        label_.setMovie(film_.get());
-        connect(film_.get(), &QMovie::finished, this, [this] {
-            if (movie_.loop)
-                film_->start();
-        });
-    } else if (const QPixmap picture{file}; !picture.isNull()) {
-        film_.reset();
-        label_.setPixmap(picture);
+    if (film->isValid() && QImageReader{file}.supportsAnimation()) {
+        show_film(std::move(film));
+        return true;
     }
+    const QPixmap picture{file};
+    if (picture.isNull())
+        return false;
+    label_.setPixmap(picture);
+    film_.reset();
+    return true;
+}
+
+void MovieBinding::show_film(std::unique_ptr<QMovie> film) {
+    film->jumpToFrame(0); // which is seen until it is played
+    label_.setMovie(film.get());
+    film_ = std::move(film);
+    connect(film_.get(), &QMovie::finished, this, [this] {
+        if (movie_.loop)
+            film_->start();
+    });
 }
 
 } // namespace sonarelle

@@ -74,11 +74,14 @@ protected:
     void show_state() override;
 
 private:
-    void load(const QString& file);
+    /// False where the file can't be shown.
+    bool load(const std::string& name);
+    void show_film(std::unique_ptr<QMovie> film);
 
     Movie& movie_;
     QLabel& label_;
-    QString shown_;
+    std::string shown_;
+    bool has_picture_ = false;
     std::unique_ptr<QMovie> film_;
 };
 

@@ -34,6 +34,12 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
     return form_view(window, services);
 }
 
+/// A window that has no place of its own on the screen.
+bool opens_over_the_desk(const Window& window) {
+    return dynamic_cast<const Antenne_FM*>(&window) == nullptr && dynamic_cast<const Liste_son*>(&window) == nullptr &&
+           dynamic_cast<const mini_lecteur*>(&window) == nullptr && dynamic_cast<const Chargement*>(&window) == nullptr;
+}
+
 // Nothing for what is no number yet.
 std::optional<double> seconds_of(Deck& deck) {
     bool is_number = false;
@@ -62,6 +68,9 @@ Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopS
         if (auto* list = dynamic_cast<ListView*>(views_.back().get()))
             list_ = list;
     }
+    for (const auto& view : views_)
+        if (main_ != nullptr && opens_over_the_desk(view->window_value()))
+            view->open_over(*main_);
     connect_readings();
 }
 

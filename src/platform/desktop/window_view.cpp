@@ -124,6 +124,8 @@ void WindowView::show_state() {
                        : state == WindowState::maximised ? Qt::WindowMaximized
                                                          : Qt::WindowNoState);
     const bool is_new = isVisible() != window_.visible;
+    if (is_new && window_.visible)
+        place_over_owner();
     if (is_new)
         setVisible(window_.visible);
     // One that was on view already doesn't come before a box that waits for its answer.
@@ -131,6 +133,17 @@ void WindowView::show_state() {
     if (window_.visible && state != WindowState::minimised &&
         (is_new || (is_called && QApplication::activeModalWidget() == nullptr)))
         raise();
+}
+
+void WindowView::place_over_owner() {
+    if (owner_.isNull() || !owner_->isVisible())
+        return;
+    create();
+    windowHandle()->setTransientParent(owner_->windowHandle());
+    if (was_placed_)
+        return;
+    const QRect below = owner_->geometry();
+    move(below.center().x() - width() / 2, on_screen(below.top() + below.height() / 3));
 }
 
 void WindowView::showEvent(QShowEvent* event) {

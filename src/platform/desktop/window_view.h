@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -31,6 +32,9 @@ public:
     [[nodiscard]] QMenuBar& menu_bar() { return *bar_; }
     /// Below the menu bar: where the window's parts are laid out.
     [[nodiscard]] QWidget& content() { return *content_; }
+
+    /// From now on it comes up over another window, below that one's header, and stays before it.
+    void open_over(QWidget& owner) { owner_ = &owner; }
 
     /// Keeps a binding for as long as the window lives.
     template <typename Kind>
@@ -65,6 +69,7 @@ private:
     void show_place();
     [[nodiscard]] int on_screen(int top) const;
     void show_state();
+    void place_over_owner();
     void keep_place();
     void keep_size();
     void watch_keys();
@@ -78,6 +83,8 @@ private:
     QWidget* content_;
     QMenuBar* bar_;
     MenuBindings menus_;
+    WindowGround ground_;
+    QPointer<QWidget> owner_;
     std::vector<std::unique_ptr<Binding>> bindings_;
     bool showing_ = false;
     bool watches_keys_ = false;

@@ -2,6 +2,7 @@
 #include "platform/desktop/air_header.h"
 
 #include "desktop/desktop_bench.h"
+#include "desktop/pixels.h"
 #include "platform/desktop/colours.h"
 #include "platform/desktop/main_view.h"
 #include "platform/scheduler.h"
@@ -131,6 +132,23 @@ TEST_F(AirHeaderTest, MovesNothingBelowItInAlarm) {
     EXPECT_EQ(header().geometry(), before);
     lose_the_card();
     EXPECT_EQ(header().geometry(), before);
+}
+
+TEST_F(AirHeaderTest, SaysWhichDeckIsHeardWhileTheMainOneIsSilent) {
+    view.show_air(
+        {.role = DeckRole::heard, .deck = 3, .title = "Matin", .left = "00:00:03", .next = {}, .silence = {}});
+    settle();
+    EXPECT_EQ(label("air_state").text(), "● EN LECTURE — Play 3");
+    const QColor ink = ink_in(seen_in_window(label("air_state")));
+    EXPECT_GT(ink.green(), ink.red() + 40);
+}
+
+TEST_F(AirHeaderTest, WordsReadOnRedWhateverTheWindowsGround) {
+    main_window.back_colour = 0xFFFFFF; // white, which carries black
+    main_window.Label7.fore_colour = 0x000000;
+    be_silent_for("00:02");
+    for (const char* name : {"air_state", "air_silence"})
+        EXPECT_GE(contrast_in(seen_in_window(label(name))), 4.2) << name;
 }
 
 } // namespace sonarelle

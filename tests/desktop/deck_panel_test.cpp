@@ -16,20 +16,14 @@ protected:
         show_windows();
     }
     void show(DeckRole role) {
-        main_view().show_look(1, {.role = role, .heard = {}, .mix_point = 60.0, .end_point = 90.0});
-        settle();
+        main_view().show_look(1, {.role = role, .heard = {}, .elapsed = {}, .mix_point = 60.0, .end_point = 90.0});
     }
     [[nodiscard]] DeckControls& deck() { return station.main_window.deck(1); }
     [[nodiscard]] QWidget& widget(const Control& control) { return part(main_view(), control.name()); }
     [[nodiscard]] DeckPanel& panel() { return *dynamic_cast<DeckPanel*>(widget(deck().title).parentWidget()); }
-    [[nodiscard]] QColor lamp() {
-        for (QWidget* child : panel().findChildren<QWidget*>())
-            if (auto* found = dynamic_cast<Lamp*>(child))
-                return seen_in_window(*found).pixelColor(7, 7);
-        return {};
-    }
+    [[nodiscard]] QColor lamp() { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(7, 7); }
     [[nodiscard]] bool says(const QString& word) {
-        const auto labels = panel().findChildren<StationLabel*>();
+        const auto labels = parts_of<StationLabel>(panel());
         return std::ranges::any_of(labels, [&](const StationLabel* label) { return label->text() == word; });
     }
     /// The colour of the bar at a second of a hundred.
@@ -39,7 +33,7 @@ protected:
     }
     [[nodiscard]] QColor face(const Control& control) { return ground_in(seen_in_window(widget(control))); }
     [[nodiscard]] static bool is_green(const QColor& colour) {
-        return colour.green() > colour.red() + 15 && colour.green() > colour.blue() + 10;
+        return colour.green() > colour.red() + 12 && colour.green() > colour.blue() + 3;
     }
     [[nodiscard]] static bool is_amber(const QColor& colour) {
         return colour.red() > colour.blue() + 20 && colour.red() > colour.green();
@@ -156,16 +150,23 @@ TEST_F(DeckPanels, ElapsedSecondsFollowTheBar) {
 
 TEST_F(DeckPanels, TitleIsTheNameOfWhatIsHeard) {
     deck().title.caption = "Jingle la suite - ";
-    main_view().show_look(1, {.role = DeckRole::on_air, .heard = "La rue", .mix_point = {}, .end_point = {}});
     settle();
-    EXPECT_EQ(dynamic_cast<TitleLabel&>(widget(deck().title)).shown(), "La rue");
-    main_view().show_look(1, {.role = DeckRole::ended, .heard = {}, .mix_point = {}, .end_point = {}});
-    EXPECT_EQ(dynamic_cast<TitleLabel&>(widget(deck().title)).shown(), "Jingle la suite - ");
+    main_view().show_look(
+        1, {.role = DeckRole::on_air, .heard = "La rue", .elapsed = {}, .mix_point = {}, .end_point = {}});
+    EXPECT_EQ(part<TitleLabel>(main_view(), deck().title.name()).shown(), "La rue");
+    main_view().show_look(1, {.role = DeckRole::ended, .heard = {}, .elapsed = {}, .mix_point = {}, .end_point = {}});
+    EXPECT_EQ(part<TitleLabel>(main_view(), deck().title.name()).shown(), "Jingle la suite - ");
+}
+
+TEST_F(DeckPanels, TrueSecondStandsWhereTheBarRests) {
+    main_view().show_look(1, {.role = DeckRole::on_air, .heard = {}, .elapsed = 75, .mix_point = {}, .end_point = {}});
+    EXPECT_TRUE(says("75"));
+    EXPECT_TRUE(is_near(bar_at(70), studio::air));
+    EXPECT_TRUE(is_near(bar_at(80), studio::groove));
 }
 
 TEST_F(DeckPanels, EachDeckHasItsOwnPanel) {
-    main_view().show_look(2, {.role = DeckRole::on_air, .heard = {}, .mix_point = {}, .end_point = {}});
-    settle();
+    main_view().show_look(2, {.role = DeckRole::on_air, .heard = {}, .elapsed = {}, .mix_point = {}, .end_point = {}});
     auto* second = dynamic_cast<DeckPanel*>(widget(station.main_window.deck(2).title).parentWidget());
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(second->accent(), Accent::air);
@@ -181,7 +182,7 @@ TEST_F(DeckPanels, PressesReachTheirButtons) {
         button->visible = true;
         button->on_click = [&pressed, button] { pressed.push_back(button->name()); };
         settle();
-        dynamic_cast<QAbstractButton&>(widget(*button)).click();
+        part<QAbstractButton>(main_view(), button->name()).click();
         ASSERT_FALSE(pressed.empty());
         EXPECT_EQ(pressed.back(), button->name());
     }

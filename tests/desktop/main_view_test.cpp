@@ -21,7 +21,7 @@ protected:
     }
     /// A text of the view that stands anywhere in the window.
     [[nodiscard]] bool says(const QString& text) {
-        const auto labels = main_view().findChildren<StationLabel*>();
+        const auto labels = parts_of<StationLabel>(main_view());
         return std::ranges::any_of(labels, [&](const StationLabel* shown) { return shown->text() == text; });
     }
 };

@@ -80,8 +80,18 @@ protected:
     /// The widget of a control, or of a part of the view that has a name.
     template <typename Kind = QWidget>
     [[nodiscard]] static Kind& part(QWidget& view, const std::string& name) {
-        return *view.findChild<Kind*>(QString::fromStdString(name));
+        return dynamic_cast<Kind&>(*view.findChild<QWidget*>(QString::fromStdString(name)));
     }
+    /// All parts of a kind, which needn't be known to Qt.
+    template <typename Kind>
+    [[nodiscard]] static std::vector<Kind*> parts_of(QWidget& view) {
+        std::vector<Kind*> parts;
+        for (QWidget* child : view.findChildren<QWidget*>())
+            if (auto* found = dynamic_cast<Kind*>(child))
+                parts.push_back(found);
+        return parts;
+    }
+
     SimulatedPlatform machine;
     Station station{machine.platform};
     std::optional<Desktop> desktop;

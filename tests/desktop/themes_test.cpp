@@ -28,7 +28,7 @@ protected:
     template <typename Kind>
     void expect_readable(QWidget& view) {
         const QImage picture = seen(view);
-        for (Kind* part : view.findChildren<Kind*>()) {
+        for (Kind* part : parts_of<Kind>(view)) {
             const QImage shown = picture.copy(QRect{part->mapTo(&view, QPoint{}), part->size()});
             const bool has_text = ink_in(shown) != ground_in(shown);
             const bool is_told = part->isVisible() && part->isEnabled() && has_text;

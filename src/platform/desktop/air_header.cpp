@@ -107,6 +107,8 @@ void AirHeader::show_heading() {
         return heading_->set_text("● À L'ANTENNE" + play);
     case DeckRole::paused:
         return heading_->set_text("EN PAUSE" + play);
+    case DeckRole::heard:
+        return heading_->set_text("● EN LECTURE" + play);
     default:
         return heading_->set_text("EN ATTENTE");
     }
@@ -126,15 +128,18 @@ void AirHeader::show_alarm() {
     card_gone_->setVisible(card_lost_ && !silent);
     banner_->setVisible(!alarms());
     setAccessibleName(silent ? silence_->text() : card_lost_ ? card_gone_->text() : QString{});
+    QPalette told; // what the texts stand on
+    if (alarms())
+        told.setColor(QPalette::Window, alarm_ground);
+    setPalette(told);
     colour_labels();
     update();
 }
 
 void AirHeader::colour_labels() {
     const auto ink = [this](const QColor& at_rest) { return alarms() ? QColor{Qt::white} : ink_of(at_rest); };
-    const QColor state = look_.role == DeckRole::on_air   ? studio::air
-                         : look_.role == DeckRole::paused ? studio::next
-                                                          : studio::text;
+    const bool is_heard = look_.role == DeckRole::on_air || look_.role == DeckRole::heard;
+    const QColor state = is_heard ? studio::air : look_.role == DeckRole::paused ? studio::next : studio::text;
     colour(*heading_, ink(state));
     colour(*next_, ink(studio::next));
     for (StationLabel* label : {title_, remaining_, silence_, card_gone_, clock_})

@@ -12,7 +12,7 @@ struct Antenne_FM;
 
 /// What is read of the air at a glance.
 struct AirLook {
-    DeckRole role = DeckRole::empty; ///< The main deck's.
+    DeckRole role = DeckRole::empty; ///< That of the deck that the air is told by.
     int deck = 0;                    ///< Its number.
     QString title;
     QString left; ///< Time to the end of play.

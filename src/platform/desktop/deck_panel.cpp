@@ -181,6 +181,10 @@ void DeckPanel::show_look(const DeckLook& look) {
         return shown ? std::optional{*second / whole} : std::nullopt;
     };
     progress_->set_marks(share(look.mix_point), share(look.end_point));
+    if (look.elapsed && whole > 0) {
+        progress_->set_share(*look.elapsed / whole);
+        elapsed_->set_text(QString::number(*look.elapsed));
+    }
 }
 
 } // namespace sonarelle

@@ -13,6 +13,7 @@ namespace sonarelle {
 struct DeckLook {
     DeckRole role = DeckRole::empty;
     QString heard;                   ///< The name of the file that is heard; empty for none.
+    std::optional<int> elapsed;      ///< Second of the file, where the deck's bar doesn't follow it.
     std::optional<double> mix_point; ///< Seconds.
     std::optional<double> end_point; ///< Seconds.
 };

@@ -14,6 +14,7 @@
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/qt_text.h"
 #include "platform/desktop/studio_style.h"
+#include "platform/failure.h"
 #include "playout/air_view.h"
 
 namespace sonarelle {
@@ -131,8 +132,11 @@ void Desktop::show_decks() {
     for (Deck& deck : desk_.decks) {
         DeckLook look{.role = role_of(desk_, deck),
                       .heard = to_qt(name_heard(desk_, deck)),
+                      .elapsed = std::nullopt,
                       .mix_point = std::nullopt,
                       .end_point = seconds_of(deck)};
+        if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
+            ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
         if (look.end_point)
             look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
         main_->show_look(deck.number(), look);
@@ -142,17 +146,24 @@ void Desktop::show_decks() {
 }
 
 void Desktop::show_air() {
-    const QString next = to_qt(name_to_come(desk_));
+    const Deck* deck = deck_on_air(desk_);
     const QString title = to_qt(name_on_air(desk_));
     const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
-    main_->show_air({.role = main_role(desk_),
-                     .deck = desk_.chain.lecteur_en_cours.value(),
+    main_->show_air({.role = air_role(desk_),
+                     .deck = deck == nullptr ? 0 : deck->number(),
                      .title = title,
                      .left = left,
-                     .next = next.isEmpty() ? next : "Ensuite : " + next,
+                     .next = what_follows(),
                      .silence = {}});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});
+}
+
+QString Desktop::what_follows() {
+    if (waits_for_special_mix(desk_))
+        return "chaîne suspendue : mixage spécial";
+    const QString next = to_qt(name_to_come(desk_));
+    return next.isEmpty() ? next : "Ensuite : " + next;
 }
 
 void Desktop::show_list() {

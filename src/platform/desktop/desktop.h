@@ -64,6 +64,7 @@ private:
     void show_second();
     void show_decks();
     void show_air();
+    [[nodiscard]] QString what_follows();
     void show_list();
     void show_missing();
     void fill_outputs();

@@ -1,0 +1,132 @@
+// Both windows tell one truth of the air, while a list runs.
+#include "desktop/station_views.h"
+#include "platform/desktop/progress_strip.h"
+#include "platform/desktop/title_label.h"
+#include "playlist/enreg_liste.h"
+
+namespace sonarelle {
+
+namespace {
+
+class AirOnDesk : public StationViews {
+protected:
+    AirOnDesk() { show_windows(); }
+
+    /// A list of tracks of 100 s that begin at a second of their files, on the air from its first row.
+    void play_list(double start = 0) {
+        std::string bytes;
+        for (const char* name : {"un", "deux", "trois"}) {
+            const std::string path = "C:\\Musique\\" + std::string{name} + ".mp3";
+            machine.add_track(path, 100);
+            enreg_liste record;
+            record.set_chemin(path);
+            record.set_fin_lecture("100.00");
+            record.set_volume(100);
+            record.set_debut_lecture(start);
+            record.set_duree_piste("00:01:40");
+            bytes.append(reinterpret_cast<const char*>(record.bytes().data()), enreg_liste::size);
+        }
+        machine.disk.put_file("C:\\Sonarelle\\essai.dfm", bytes);
+        machine.dialogs.expect_open("C:\\Sonarelle\\essai.dfm");
+        list().A_liste.click();
+        list().ListView1.select(1);
+        list().Option3.click();
+        list().Image1.click();
+    }
+    void run_for(int whole_seconds) {
+        machine.run_for(seconds(whole_seconds));
+        settle();
+    }
+    [[nodiscard]] Liste_son& list() { return station.list_window; }
+    [[nodiscard]] std::string desk_says(const char* name) {
+        return part<StationLabel>(main_view(), name).text().toStdString();
+    }
+    [[nodiscard]] std::string list_says(const Label& label) {
+        return part<StationLabel>(list_view(), label.name()).text().toStdString();
+    }
+    [[nodiscard]] std::string title_of(int deck) {
+        const std::string name = station.main_window.deck(deck).title.name();
+        return part<TitleLabel>(main_view(), name).shown().toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(AirOnDesk, OneTitleAndOneRemainderWhileTheNextTrackIsLoaded) {
+    play_list();
+    run_for(90);
+    EXPECT_EQ(desk_says("air_title"), "un");
+    EXPECT_EQ(list_says(list().Label2), "un");
+    EXPECT_EQ(desk_says("remaining"), "00:00:10");
+    EXPECT_EQ(list_says(list().Label4), "00:00:10");
+}
+
+TEST_F(AirOnDesk, OneRemainderForATrackThatBeginsLate) {
+    play_list(20);
+    run_for(30);
+    EXPECT_EQ(desk_says("remaining"), "00:00:50");
+    EXPECT_EQ(list_says(list().Label4), "00:00:50");
+}
+
+TEST_F(AirOnDesk, FramesNameWhatIsOnTheAir) {
+    play_list();
+    run_for(90);
+    EXPECT_EQ(main_view().windowTitle().toStdString(), station.settings.nom_radio + " : un");
+    EXPECT_EQ(list_view().windowTitle().toStdString(), "un");
+}
+
+TEST_F(AirOnDesk, DecksNameWhatIsHeardOnThem) {
+    play_list();
+    run_for(97);
+    EXPECT_EQ(title_of(1), "un");
+    EXPECT_EQ(title_of(2), "deux");
+}
+
+TEST_F(AirOnDesk, SpecialMixIsToldAndTheAirGoesOnBelowIt) {
+    play_list();
+    machine.add_track("C:\\Musique\\jingle.mp3", 60);
+    machine.dialogs.expect_open("C:\\Musique\\jingle.mp3");
+    run_for(20);
+    station.main_window.deck(3).open.click();
+    station.main_window.deck(3).special_mix.click();
+    run_for(20);
+    ASSERT_TRUE(waits_for_special_mix(station.desk));
+    EXPECT_EQ(desk_says("air_next"), "chaîne suspendue : mixage spécial");
+    EXPECT_EQ(desk_says("air_title"), "un");
+    EXPECT_EQ(desk_says("remaining"), "00:01:00");
+    EXPECT_EQ(main_view().windowTitle().toStdString(), station.settings.nom_radio + " : un");
+    const auto& bar = part<ProgressStrip>(main_view(), station.main_window.deck(1).progress.name());
+    EXPECT_NEAR(bar.share(), 0.40, 0.011);
+}
+
+TEST_F(AirOnDesk, SoundThatGoesOnAfterAStopIsTold) {
+    play_list();
+    run_for(97);
+    station.main_window.deck(2).stop.click();
+    settle();
+    EXPECT_EQ(desk_says("air_state"), "● EN LECTURE — Play 1");
+    EXPECT_EQ(desk_says("air_title"), "un");
+    EXPECT_EQ(desk_says("remaining"), "00:00:03");
+}
+
+TEST_F(AirOnDesk, DeskAtRestTellsNothing) {
+    run_for(5);
+    EXPECT_EQ(desk_says("air_state"), "EN ATTENTE");
+    EXPECT_EQ(desk_says("air_title"), "");
+    EXPECT_EQ(desk_says("remaining"), "00:00:00");
+    EXPECT_EQ(list_says(list().Label4), "00:00:00");
+}
+
+TEST_F(AirOnDesk, RowsFollowTheAir) {
+    play_list();
+    run_for(90);
+    const auto ground = [this](int row) {
+        return list_view().rows().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
+    };
+    EXPECT_GT(ground(1).green(), ground(1).red() + 20);
+    EXPECT_GT(ground(2).red(), ground(2).blue() + 20);
+    run_for(10);
+    EXPECT_GT(ground(2).green(), ground(2).red() + 20);
+}
+
+} // namespace sonarelle

@@ -34,7 +34,10 @@ MenuItemBinding::MenuItemBinding(MenuItem& item, QWidget& window, const DesktopS
         });
     } else {
         action_ = new QAction{this};
-        connect(action_, &QAction::triggered, this, [this] { services_.run_event([this] { item_.click(); }); });
+        connect(action_, &QAction::triggered, this, [this] {
+            services_.run_event([this] { item_.click(); });
+            services_.updates.mark(*this); // the press turned the mark, which is the station's
+        });
     }
     action_->setObjectName(to_qt(item.name()));
     // A shortcut works while the menu bar is hidden, too.

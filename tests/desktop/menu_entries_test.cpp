@@ -1,0 +1,94 @@
+// What an entry of a menu shows of the station's.
+#include <QMenu>
+
+#include "desktop/desktop_bench.h"
+#include "desktop/pixels.h"
+#include "platform/desktop/window_view.h"
+
+namespace sonarelle {
+
+namespace {
+
+struct Carte : Window {
+    Carte() : Window{"carte"} {
+        menu_bar = {&Liste};
+        Liste.hang({{&Lire, &Trier, &Vider}});
+        Trier.hang({{&Nom}});
+    }
+
+    MenuItem Liste{*this, "Liste", "Liste"};
+    MenuItem Lire{*this, "Lire", "Lire", "F6"};
+    MenuItem Trier{*this, "Trier", "Trier"};
+    MenuItem Nom{*this, "Nom", "Par nom"};
+    MenuItem Vider{*this, "Vider", "Vider"};
+};
+
+class MenuEntries : public DesktopBench {
+protected:
+    [[nodiscard]] QAction& shown(MenuItem& item) { return view.menus().action(item); }
+
+    Carte carte;
+    WindowView view{carte, services, {300, 200}};
+};
+
+} // namespace
+
+TEST_F(MenuEntries, HiddenOneIsGoneAndComesBack) {
+    carte.Lire.visible = false;
+    settle();
+    EXPECT_FALSE(shown(carte.Lire).isVisible());
+    carte.Lire.visible = true;
+    settle();
+    EXPECT_TRUE(shown(carte.Lire).isVisible());
+}
+
+TEST_F(MenuEntries, MarkGoesAgain) {
+    carte.Lire.checked = true;
+    settle();
+    carte.Lire.checked = false;
+    settle();
+    EXPECT_FALSE(shown(carte.Lire).isChecked());
+}
+
+TEST_F(MenuEntries, PressLeavesTheMarkToTheStation) {
+    carte.Lire.checked = true;
+    settle();
+    shown(carte.Lire).trigger();
+    settle();
+    EXPECT_TRUE(shown(carte.Lire).isChecked());
+}
+
+TEST_F(MenuEntries, CaptionAndHintFollow) {
+    carte.Vider.caption = "Vider la liste";
+    carte.Vider.hint = "Toutes les lignes";
+    settle();
+    EXPECT_EQ(shown(carte.Vider).text(), "Vider la liste");
+    EXPECT_EQ(shown(carte.Vider).toolTip(), "Toutes les lignes");
+}
+
+TEST_F(MenuEntries, MenuInAMenuHangsThere) {
+    ASSERT_NE(view.menus().menu(carte.Trier), nullptr);
+    EXPECT_EQ(view.menus().menu(carte.Trier)->actions().front(), &shown(carte.Nom));
+    EXPECT_EQ(view.menus().menu(carte.Liste)->actions()[1], &shown(carte.Trier));
+    EXPECT_EQ(view.menus().menu(carte.Lire), nullptr);
+}
+
+TEST_F(MenuEntries, OneThatCantBeReachedDoesNothing) {
+    int clicks = 0;
+    carte.Lire.on_click = [&] { ++clicks; };
+    carte.Lire.enabled = false;
+    settle();
+    shown(carte.Lire).trigger();
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(MenuEntries, WordsReadOnTheirMenu) {
+    carte.show();
+    settle();
+    QMenu& menu = *view.menus().menu(carte.Liste);
+    menu.popup({0, 0});
+    EXPECT_GE(contrast_in(seen(menu)), readable);
+    menu.close();
+}
+
+} // namespace sonarelle

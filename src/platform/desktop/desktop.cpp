@@ -169,7 +169,9 @@ QString Desktop::what_follows() {
 void Desktop::show_list() {
     const bool on = desk_.has_main_deck() && desk_.chain.mode_enchainement.is_true();
     const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
-    const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() : 0;
+    // In list order the chain adds 1 to its row when it starts it.
+    const int step = desk_.chain.ordre_aleatoire.is_true() ? 0 : 1;
+    const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() + step : 0;
     list_->rows().set_marks({.playing = playing, .next = next});
 }
 

@@ -2,6 +2,8 @@
 """The words `mesure`, `liste ajouter` and `sorties` of sonarelle-outil, on real sound files."""
 import json
 import os
+import resource
+import shutil
 import struct
 import subprocess
 import tempfile
@@ -136,9 +138,57 @@ class Appending(Tool):
         self.call("liste", "ajouter", self.list, self.wav("a.wav", 2.6), self.wav("b.wav", 2.4))
         self.assertEqual([row["fin_lecture"] for row in self.rows()], ["3.00", "2.00"])
 
-    def test_gives_the_shortest_sound_one_second(self):
-        self.call("liste", "ajouter", self.list, self.wav("a.wav", 0.2))
-        self.assertEqual(self.rows()[0]["fin_lecture"], "1.00")
+    def test_skips_what_is_shorter_than_a_second(self):
+        self.call("liste", "ajouter", self.list, self.wav("a.wav", 0.99), self.wav("b.wav", 1.0), status=1)
+        self.assertEqual([row["fin_lecture"] for row in self.rows()], ["1.00"])
+        self.assertIn("a.wav : le fichier dure moins d'une seconde", self.error)
+
+    def test_makes_no_list_for_no_row(self):
+        self.call("liste", "ajouter", self.list, self.folder / "absent.wav", status=1)
+        self.assertFalse(self.list.exists())
+
+    def test_at_once_by_several_programs_loses_no_row(self):
+        files = [self.wav(f"{number}.wav", 1) for number in range(3)]
+        runs = [subprocess.Popen([TOOL, "liste", "ajouter", str(self.list), *map(str, files), "--dossier",
+                                  str(self.folder / "station")]) for _ in range(6)]
+        self.assertEqual([run.wait() for run in runs], [0] * 6)
+        self.assertEqual(sorted(row["chemin"] for row in self.rows()), sorted(6 * list(map(self.station_path, files))))
+
+    def test_refuses_a_list_whose_end_would_be_lost(self):
+        self.list.write_bytes(b"x" * (RECORD.size + 9))
+        self.call("liste", "ajouter", self.list, self.wav("a.wav"), status=1)
+        self.assertIn("seraient perdus", self.error)
+        self.assertEqual(self.list.stat().st_size, RECORD.size + 9)
+
+    def test_walks_more_nested_folders_than_files_can_be_open(self):
+        folder = self.folder / "musique"
+        for _ in range(60):
+            folder = folder / "d"
+        folder.mkdir(parents=True)
+        (self.folder / "musique/a.wav").write_bytes(self.wav("a.wav", 1).read_bytes())
+        (folder / "z.wav").write_bytes((self.folder / "a.wav").read_bytes())
+        run = subprocess.run([TOOL, "liste", "ajouter", str(self.list), str(self.folder / "musique"), "--dossier",
+                              str(self.folder / "station")], capture_output=True, check=False,
+                             preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NOFILE, (40, 40)))
+        self.assertEqual((run.returncode, run.stderr), (0, b""))
+        self.assertEqual([row["chemin"][-5:] for row in self.rows()], ["a.wav", "z.wav"])
+
+    @unittest.skipIf(os.getuid() == 0 and not shutil.which("setpriv"), "the administrator reads everything")
+    def test_names_a_folder_that_it_may_not_read(self):
+        private = self.folder / "prive"
+        private.mkdir(mode=0)
+        os.chmod(self.folder, 0o777)
+        as_another = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"] if os.getuid() == 0 else []
+        run = subprocess.run([*as_another, TOOL, "liste", "ajouter", str(self.list), str(private), "--dossier",
+                              str(self.folder / "station")], capture_output=True, check=False)
+        self.assertEqual(run.returncode, 1)
+        self.assertIn(f"{private} : ", run.stderr.decode())
+        self.assertFalse(self.list.exists())
+
+    def test_refuses_a_list_that_is_a_link_to_itself(self):
+        self.list.symlink_to(self.list)
+        self.call("liste", "ajouter", self.list, self.wav("a.wav"), status=1)
+        self.assertIn(f"{self.list} : Erreur d'accès", self.error)
 
     def test_takes_the_genre_from_the_tag(self):
         file = write_mp3(self.folder / "a.mp3", 2)

@@ -32,6 +32,8 @@ struct Command {
 inline constexpr Option json_option{"--json", false};
 
 [[nodiscard]] std::span<const Command> list_commands();
+[[nodiscard]] std::span<const Command> append_commands();
+[[nodiscard]] std::span<const Command> conversion_commands();
 [[nodiscard]] std::span<const Command> computing_commands();
 [[nodiscard]] std::span<const Command> mix_commands();
 [[nodiscard]] std::span<const Command> tag_commands();

@@ -26,8 +26,9 @@ constexpr int wrong_words = 2;
 
 std::vector<Command> all_commands() {
     std::vector<Command> commands;
-    for (const auto& group : {list_commands(), sound_commands(), tag_commands(), computing_commands(), mix_commands(),
-                              air_commands(), settings_commands(), drive_commands()})
+    for (const auto& group :
+         {list_commands(), append_commands(), conversion_commands(), sound_commands(), tag_commands(),
+          computing_commands(), mix_commands(), air_commands(), settings_commands(), drive_commands()})
         commands.insert(commands.end(), group.begin(), group.end());
     return commands;
 }

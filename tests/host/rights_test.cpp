@@ -137,4 +137,33 @@ TEST(Rights, SettingsInAFolderThatMayNotBeMadeAreRefusedByName) {
     EXPECT_EQ(failure_without_rights(named), 75);
 }
 
+TEST(Rights, LockOfAnotherUserShutsNobodyOutOfSharedSettings) {
+    DiskBench bench;
+    const std::string file = bench.folder.path("commun/reglages.json");
+    bench.folder.put_folder("commun");
+    HostSettings{file}.SaveSetting("Sonarelle V6", "Config", "Mix", "6");
+    bench.folder.set_rights("commun", 0777);
+    bench.folder.set_rights("commun/reglages.json", 0666);
+    bench.folder.set_rights("commun/.reglages.verrou", 0644);
+
+    EXPECT_EQ(failure_without_rights([&] { HostSettings{file}.SaveSetting("Sonarelle V6", "Config", "Mix", "7"); }), 0);
+}
+
+TEST(Rights, LinkThatSomeoneElseLeftInASharedFolderIsNotWrittenThrough) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "a link of another user's can't be made";
+    DiskBench bench;
+    bench.folder.put("cible.txt", "kept");
+    bench.folder.put_folder("tous");
+    bench.folder.set_rights("tous", 01777);
+    ASSERT_EQ(failure_without_rights([&] {
+                  if (::symlink("../cible.txt", bench.folder.path("tous/liste.dfm").c_str()) != 0)
+                      throw Failure{failure_number::path_access};
+              }),
+              0);
+
+    EXPECT_EQ(failure_of([&] { bench.save("D:\\tous\\liste.dfm", "new"); }), 75);
+    EXPECT_EQ(bench.folder.bytes("cible.txt"), "kept");
+}
+
 } // namespace sonarelle::test

@@ -116,6 +116,12 @@ TEST(Text, AnyCodePointIsWrittenAndReadBack) {
     }
 }
 
+TEST(Text, ShowsControlCharactersAsPointsAndBrokenBytesAsSuch) {
+    EXPECT_EQ(printable("a\nb\x1B[31m\x7F\u009D\xFF"
+                        "é"),
+              "a·b·[31m··\uFFFDé");
+}
+
 } // namespace
 
 } // namespace sonarelle

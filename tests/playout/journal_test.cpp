@@ -37,6 +37,13 @@ TEST_F(JournalTest, WritesALineForWhoeverAsksAlsoWhileItIsOff) {
                               "cution de Sonarelle\r\n");
 }
 
+TEST_F(JournalTest, WritesAnEntryOnOneLineWhateverAFileIsCalled) {
+    station.chain.ligne_journal = "Lecture de C:\\a\r\n05/01/2026 - 06:00:00 faux\x1B.mp3";
+    station.journal.journal();
+    EXPECT_EQ(journal_text(), "Lecture de C:\\a\xB7\xB7"
+                              "05/01/2026 - 06:00:00 faux\xB7.mp3\r\n");
+}
+
 TEST_F(JournalTest, OfTheListWindowTellsTheOperatorThatItCantBeWritten) {
     station.main_window.Active_journal.click();
     machine.disk.refuse("C:\\Sonarelle\\journal.doc", 70);

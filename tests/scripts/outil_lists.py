@@ -9,6 +9,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -291,6 +292,21 @@ class Converting(Tool):
     def test_refuses_a_missing_list_and_writes_nothing(self):
         self.call("liste", "convertir", self.folder / "absente.rfm", self.file("b.dfm"), status=1)
         self.assertFalse(self.file("b.dfm").exists())
+
+
+class MeanwhileWritten(Tool):
+    def test_lists_are_not_written_over(self):
+        path = self.file("a.dfm", record())
+        run = subprocess.Popen([TOOL, "liste", "ecrire", str(path), "--dossier", str(self.folder / "station")],
+                               stdin=subprocess.PIPE, stderr=subprocess.PIPE)
+        while not any(file.name.startswith(".a.dfm") for file in self.folder.iterdir()):
+            self.assertIsNone(run.poll())
+            time.sleep(0.01)
+        path.write_bytes(record() * 2)
+        error = run.communicate(b"[]")[1].decode()
+        self.assertEqual(run.returncode, 1)
+        self.assertIn("a.dfm : un autre programme a changé ce fichier entre-temps", error)
+        self.assertEqual(path.read_bytes(), record() * 2)
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 #include "app/common/machine.h"
 #include "app/outil/commands.h"
 #include "app/outil/list_json.h"
+#include "app/outil/list_target.h"
 #include "app/outil/printable.h"
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
@@ -105,35 +106,13 @@ void write(const Call& call) {
     call.arguments.expect_at_most(1);
     check_extension(file, "dfm");
     Machine machine{call.options};
+    ListTarget written{machine, file};
     const ReadJson list = ReadJson::parse(standard_input(call.in), nullptr, false);
     if (list.is_discarded())
         throw Failure{failure_number::wrong_call, input_name, "ce n'est pas du JSON"};
-    const auto records = records_of(list);
-    const auto written = machine.replace(file);
-    for (const enreg_liste& record : records)
-        written->write(record.bytes());
-    written->commit();
-}
-
-/// As the list window reads an old list and its save dialog writes the rows.
-void convert(const Call& call) {
-    const std::string& old_file = call.arguments.filled_word(0, "VIEUX.rfm");
-    const std::string& new_file = call.arguments.filled_word(1, "NEUF.dfm");
-    call.arguments.expect_at_most(2);
-    check_extension(old_file, "rfm");
-    check_extension(new_file, "dfm");
-    Machine machine{call.options};
-    LegacyListReader reader{machine.open(old_file)};
-    const auto written = machine.replace(new_file);
-    for_each_record(reader, [&written](const enreg_rfm& old_record, std::int64_t) {
-        RowTable::Row row = row_of(old_record, DecimalMark::point);
-        if (row[list_column::duration].empty())
-            row[list_column::duration] = unknown_duration;
-        enreg_liste record;
-        fill_record(record, row, DecimalMark::point, [](auto&& statement) { statement(); });
-        written->write(record.bytes());
-    });
-    written->commit();
+    for (const enreg_liste& record : records_of(list))
+        written.write(record.bytes());
+    written.commit();
 }
 
 std::string_view word_of(FileState state) {
@@ -153,7 +132,8 @@ std::string_view word_of(FileState state) {
 /// What can't be looked at, for want of rights, can't be played either.
 FileState state_of(Disk& disk, const std::string& path) {
     FileState state = FileState::missing;
-    ErrorIndicator{}.skip([&] { state = look_for_file(disk, path).state; });
+    if (!path.empty())
+        ErrorIndicator{}.skip([&] { state = look_for_file(disk, path).state; });
     return state;
 }
 
@@ -186,7 +166,6 @@ constexpr std::array json_options{json_option};
 constexpr std::array commands{
     Command{"liste voir", "FICHIER [--json]", json_options, view},
     Command{"liste ecrire", "FICHIER.dfm  (le JSON de « liste voir » sur l'entrée standard)", {}, write},
-    Command{"liste convertir", "VIEUX.rfm NEUF.dfm", {}, convert},
     Command{"liste verifier", "FICHIER.dfm [--json]", json_options, verify},
 };
 

@@ -1,4 +1,7 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
 
 #include "screen/desk_bench.h"
 
@@ -73,6 +76,26 @@ TEST_F(StartAndEnd, TheCrossOfTheMainWindowAsks) {
         key("alt+F4");
         wait_for_box();
         EXPECT_EQ(box(), "Confirmer la fermeture de Sonarelle");
+    });
+}
+
+TEST_F(StartAndEnd, AClosedTerminalEndsWithoutAsking) {
+    settings_of_a_second_start();
+    operate("", [this] {
+        wait_for_the_keyboard();
+        ::kill(::getpid(), SIGHUP);
+        until("the end", [this] { return has_ended(); });
+    });
+}
+
+TEST_F(StartAndEnd, ADamagedDriveTableIsToldAndTheListIsOnTheAirBehindIt) {
+    settings_of_a_second_start();
+    const std::string list = list_of(2, 40);
+    folder().put("config/sonarelle/lecteurs.json", "{\"D\":5}");
+    operate(list, [this] {
+        wait_for_box();
+        EXPECT_NE(box().find("Table des lecteurs abîmée"), std::string::npos);
+        eventually("the first track", [this] { return station().main_window.Label5.caption.get() == "2"; });
     });
 }
 

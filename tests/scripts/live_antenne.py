@@ -114,10 +114,10 @@ class OnTheAir(unittest.TestCase):
         with wave.open(str(rendering), "rb") as sound:
             return self.events(run.stdout), array.array("h", sound.readframes(sound.getnframes()))
 
-    def go_on_air(self, length):
+    def go_on_air(self, length, *words):
         self.said = self.folder / "dit.txt"
         with open(self.said, "wb") as output:
-            air = subprocess.Popen(self.words("antenne", length), env=self.server.environment, stdout=output,
+            air = subprocess.Popen([*self.words("antenne", length), *words], env=self.server.environment, stdout=output,
                                    stderr=subprocess.PIPE)
         self.addCleanup(air.wait)
         self.addCleanup(air.kill)
@@ -195,6 +195,13 @@ class OnTheAir(unittest.TestCase):
         self.assertEqual(self.chain(self.events(self.said.read_bytes())), self.chain(rehearsed))
         silence = next(i for i, sample in enumerate(self.recorded()) if sample != 0) // 2
         self.assertLess(silence, 5 * RATE, "sound comes back within 5 s of what the new server plays")
+
+    def test_tells_that_the_chosen_card_is_not_there(self):
+        self.expect_done(self.go_on_air(3, "--sortie", "carte inexistante"))
+        warnings = [event["texte"] for event in self.events(self.said.read_bytes())
+                    if event["evenement"] == "avertissement"]
+        self.assertIn("sortie : la carte « carte inexistante » est introuvable, la carte par défaut la remplace",
+                      warnings)
 
 
 if __name__ == "__main__":

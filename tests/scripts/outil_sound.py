@@ -126,6 +126,15 @@ class Measuring(Tool):
         self.call("mesure", "", status=2)
 
 
+class Odd(Tool):
+    def test_files_are_named_for_what_they_are(self):
+        pipe = self.folder / "tuyau.mp3"
+        os.mkfifo(pipe)
+        for odd in (pipe, self.folder, "/dev/zero"):
+            self.call("mesure", odd, status=1)
+            self.assertEqual(self.error, f"sonarelle-outil : {odd} : ce n'est pas un fichier ordinaire\n")
+
+
 class Appending(Tool):
     def test_makes_a_row_as_the_file_manager_does(self):
         file = self.wav("a.wav", 100.2)

@@ -57,6 +57,9 @@ class Verifying(unittest.TestCase):
     def test_tells_a_drive_without_a_folder_as_absent(self):
         self.assertEqual(self.states("Q:\\a.mp3"), ["absent"])
 
+    def test_tells_a_row_without_a_path_as_absent(self):
+        self.assertEqual(self.states(""), ["absent"])
+
     def test_does_not_look_on_the_network(self):
         self.assertEqual(self.states("\\\\serveur\\partage\\a.mp3"), ["reseau"])
 

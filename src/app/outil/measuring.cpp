@@ -1,6 +1,7 @@
 #include "app/outil/measuring.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 
 #include "metadata/TypeTagV1.h"
@@ -11,6 +12,18 @@
 
 namespace sonarelle {
 
+namespace {
+
+/// A pipe or a device is no file without a sound, but one that nobody should open.
+void check_is_plain(const std::string& file) {
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw Failure{failure_number::path_access, file, "ce n'est pas un fichier ordinaire"};
+}
+
+} // namespace
+
 Measuring::Measuring(Machine& machine)
     : machine_{machine}, disk_{machine.drives()}, opener_{std::make_shared<MachineFiles>(), DiskPatience{}} {}
 
@@ -18,6 +31,7 @@ Measure Measuring::measure(const std::string& file) {
     Measure measure;
     measure.file = file;
     measure.station_path = station_path_of(machine_.drives(), file);
+    check_is_plain(file);
     try {
         PreparedFile prepared = opener_.open(absolute_machine_path(file));
         measure.seconds = prepared.seconds;

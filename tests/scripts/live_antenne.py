@@ -197,7 +197,7 @@ class OnTheAir(unittest.TestCase):
         self.assertLess(silence, 5 * RATE, "sound comes back within 5 s of what the new server plays")
 
     def test_tells_that_the_chosen_card_is_not_there(self):
-        self.expect_done(self.go_on_air(3, "--sortie", "carte inexistante"))
+        self.expect_done(self.go_on_air(10, "--sortie", "carte inexistante"))
         warnings = [event["texte"] for event in self.events(self.said.read_bytes())
                     if event["evenement"] == "avertissement"]
         self.assertIn("sortie : la carte « carte inexistante » est introuvable, la carte par défaut la remplace",

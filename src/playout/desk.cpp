@@ -1,5 +1,7 @@
 #include "playout/desk.h"
 
+#include <algorithm>
+
 #include "configuration/settings_store.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -8,6 +10,8 @@
 namespace sonarelle {
 
 namespace {
+
+constexpr int most_files_named = 10; // in one warning
 
 std::string digits(int number, std::size_t width) {
     std::string text = std::to_string(number);
@@ -36,6 +40,20 @@ void Desk::write_warning(const std::string& lines) {
 
 void Desk::warn(const std::string& lines) {
     write_warning(lines);
+    warning.show();
+}
+
+void Desk::warn_of_file(const std::string& heading, const std::string& path, const std::string& last_line) {
+    const std::string head = heading + "\n";
+    const std::string foot = "\n" + last_line;
+    const std::string shown = warning.Label1.caption;
+    std::string paths = path;
+    if (warning.visible && shown.starts_with(head) && shown.ends_with(foot))
+        paths = shown.substr(head.size(), shown.size() - head.size() - foot.size()) + "\n" + path;
+    while (std::ranges::count(paths, '\n') >= most_files_named)
+        paths.erase(0, paths.find('\n') + 1);
+    write_warning(head + path + foot); // who listens elsewhere has heard of the others
+    warning.Label1.caption = head + paths + foot;
     warning.show();
 }
 

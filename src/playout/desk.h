@@ -47,6 +47,8 @@ struct Desk {
     void show_on_small_player(const std::string& name);
     /// Shows lines in the warning window without waiting for the operator.
     void warn(const std::string& lines);
+    /// The same of a file that is missing. The names of others that the operator hasn't read yet stay with it.
+    void warn_of_file(const std::string& heading, const std::string& path, const std::string& last_line);
     /// Writes them into it, for who shows it.
     void write_warning(const std::string& lines);
     void report(const OnAirEvent& event) const {

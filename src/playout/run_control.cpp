@@ -159,7 +159,7 @@ void RunControl::remove_row() {
 }
 
 void RunControl::report_missing(const std::string& heading, const std::string& last_line) {
-    desk_.warn(heading + "\n" + desk_.list.chemin_fichier + "\n" + last_line);
+    desk_.warn_of_file(heading, desk_.list.chemin_fichier, last_line);
 }
 
 void RunControl::Mettre_en_pause(const std::function<void(Deck&)>& press_pause) {

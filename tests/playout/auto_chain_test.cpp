@@ -96,6 +96,30 @@ TEST_F(AutoChainTest, RemovesARowWhoseFileIsMissing) {
                   "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
 
+TEST_F(AutoChainTest, NamesAllMissingFilesOfALoadInOneWarning) {
+    open_tracks({100, 100, 100, 100});
+    machine.disk.Kill(track(2));
+    machine.disk.Kill(track(3));
+    start_list();
+    machine.run_for(seconds(90));
+    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+              "Recherche de fichier valide \n" + track(2) + "\n" + track(3) +
+                  "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+}
+
+TEST_F(AutoChainTest, WarningThatWasReadLeavesTheNextOneAlone) {
+    open_tracks({100, 100, 100, 100});
+    machine.disk.Kill(track(2));
+    start_list();
+    machine.run_for(seconds(90));
+    station.warning_window.AnyButton1.click();
+    machine.disk.Kill(track(4));
+    machine.run_for(seconds(95));
+    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+              "Recherche de fichier valide \n" + track(4) +
+                  "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+}
+
 TEST_F(AutoChainTest, RemovesARowWhoseFileCannotBePlayed) {
     open_tracks({100, 100, 100});
     machine.media.set_unplayable(track(2));

@@ -117,7 +117,7 @@ TEST(BrokenFile, AWavWhoseHeadLiesHasTheLengthOfWhatItHolds) {
     SoundBench bench;
     auto bytes = bytes_of(bench.folder.counting_wav("a.wav", 2));
     const std::uint32_t lie = 0x7FFFFFF0;
-    std::memcpy(bytes.data() + 40, &lie, sizeof lie);
+    std::memcpy(bytes.data() + 76, &lie, sizeof lie);
     const auto graph = bench.graph(bench.folder.file("lie.wav", bytes));
     EXPECT_DOUBLE_EQ(graph->get_Duration(), 2.0);
 }
@@ -125,7 +125,7 @@ TEST(BrokenFile, AWavWhoseHeadLiesHasTheLengthOfWhatItHolds) {
 TEST(BrokenFile, AWavOfZeroChannelsIsUnplayable) {
     SoundBench bench;
     auto bytes = bytes_of(bench.folder.counting_wav("a.wav", 1));
-    bytes[22] = 0;
+    bytes[58] = 0;
     EXPECT_EQ(open_failure(bench, bench.folder.file("zero.wav", bytes)), 1001);
 }
 

@@ -363,12 +363,6 @@ class Outputs(Air):
             self.refuse(*words)
             self.assertIn(str(words[-1]), self.error)
 
-    def test_are_no_longer_than_a_wav_file_holds(self):
-        self.make_list(20, 20)
-        self.call("repetition", self.list, "--rendu", self.folder / "a.wav", "--duree", "06:13:00", status=1)
-        self.assertIn("a.wav : un fichier WAV ne tient pas plus de 6 h 12 min", self.error)
-        self.assertFalse((self.folder / "a.wav").exists())
-
 
 class EndingEarly(Air):
     """A run that is interrupted, or whose reader ends, leaves nothing behind."""

@@ -94,7 +94,7 @@ private:
             if (!track.empty())
                 guard.check(track, "un titre de la liste");
         }
-        outputs_.emplace(rehearsal_.rendering, rehearsal_.picture, length_);
+        outputs_.emplace(rehearsal_.rendering, rehearsal_.picture);
     }
 
     bool write(const std::string& line) {

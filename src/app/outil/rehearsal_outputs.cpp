@@ -1,18 +1,13 @@
 #include "app/outil/rehearsal_outputs.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
-#include <limits>
 
 #include "platform/failure.h"
 
 namespace sonarelle {
 
 namespace {
-
-constexpr std::int64_t bytes_a_frame = 4;
-constexpr std::int64_t bytes_of_heads = 4096; // more than a WAV file has
 
 bool are_one_file(const std::string& a, const std::string& b) {
     std::error_code error;
@@ -21,19 +16,13 @@ bool are_one_file(const std::string& a, const std::string& b) {
     return std::filesystem::weakly_canonical(a, error) == std::filesystem::weakly_canonical(b, error);
 }
 
-void check_length(const std::string& rendering, Frames length) {
-    if (length.count() > (std::numeric_limits<std::uint32_t>::max() - bytes_of_heads) / bytes_a_frame)
-        throw Failure{failure_number::wrong_call, rendering, "un fichier WAV ne tient pas plus de 6 h 12 min"};
-}
-
 } // namespace
 
 RehearsalOutputs::RehearsalOutputs(const std::optional<std::string>& rendering,
-                                   const std::optional<std::string>& picture, Frames length) {
+                                   const std::optional<std::string>& picture) {
     if (rendering && picture && are_one_file(*rendering, *picture))
         throw Failure{failure_number::wrong_call, *picture, "--rendu et --image désignent le même fichier"};
     if (rendering) {
-        check_length(*rendering, length);
         rendering_file_.emplace(*rendering, *rendering);
         rendering_.emplace(rendering_file_->hidden_path());
     }

@@ -8,7 +8,6 @@
 
 #include "platform/audio/wav_file_output.h"
 #include "platform/host/safe_file.h"
-#include "platform/units.h"
 
 namespace sonarelle {
 
@@ -17,10 +16,8 @@ namespace sonarelle {
 class RehearsalOutputs {
 public:
     /// Paths of this machine; what isn't wanted is nothing.
-    /// @throws Failure 75 for a file that can't be written, 5 when both are one file or the rendering of this length is
-    /// longer than a WAV file holds.
-    RehearsalOutputs(const std::optional<std::string>& rendering, const std::optional<std::string>& picture,
-                     Frames length);
+    /// @throws Failure 75 for a file that can't be written, 5 when both are one file.
+    RehearsalOutputs(const std::optional<std::string>& rendering, const std::optional<std::string>& picture);
 
     void render(std::span<const float> frames);
     /// Puts the rendering in its place.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <fstream>
 #include <span>
@@ -8,7 +9,12 @@
 
 namespace sonarelle {
 
-/// Writes the programme into a WAV file of 48 kHz, stereo, 16 bit.
+/// What stands before so many bytes of sound of 48 kHz, stereo, 16 bit: WAV, or RF64 from 4 GiB on, in the same room.
+using WavHead = std::array<char, 80>;
+[[nodiscard]] WavHead wav_head(std::uint64_t data_bytes);
+
+/// Writes the programme into a WAV file of 48 kHz, stereo, 16 bit; one that grows beyond 4 GiB (6 h 12 min) becomes
+/// RF64.
 class WavFileOutput {
 public:
     /// @throws Failure 75 when the file can't be created.
@@ -17,7 +23,7 @@ public:
     WavFileOutput(const WavFileOutput&) = delete;
     WavFileOutput& operator=(const WavFileOutput&) = delete;
 
-    /// Two floats a frame, of which 1 is full scale; what is beyond is cut.
+    /// Two floats a frame, of which 1 is full scale; what is beyond is cut. None is greater than 64.
     /// @throws Failure 61 when the disk takes no more.
     void write(std::span<const float> frames);
 
@@ -32,7 +38,7 @@ private:
     std::string path_;
     std::ofstream file_;
     std::vector<std::int16_t> samples_;
-    std::uint32_t data_bytes_ = 0;
+    std::uint64_t data_bytes_ = 0;
 };
 
 } // namespace sonarelle

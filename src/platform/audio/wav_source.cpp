@@ -54,9 +54,11 @@ std::optional<WavLayout> read_layout(RecordFile& file) {
     std::array<std::byte, 512> head_bytes{};
     const std::size_t got = file.read(0, head_bytes);
     const auto* head = reinterpret_cast<const std::uint8_t*>(head_bytes.data());
-    if (got < 12 || std::memcmp(head, "RIFF", 4) != 0 || std::memcmp(head + 8, "WAVE", 4) != 0)
+    const bool is_long = got >= 12 && std::memcmp(head, "RF64", 4) == 0;
+    if (got < 12 || (!is_long && std::memcmp(head, "RIFF", 4) != 0) || std::memcmp(head + 8, "WAVE", 4) != 0)
         return std::nullopt;
     WavLayout layout;
+    std::int64_t long_data_bytes = 0;
     bool has_format = false;
     std::int64_t at = 12;
     for (int chunks = 0; chunks < 1000 && at + 8 <= file.length(); ++chunks) {
@@ -68,11 +70,14 @@ std::optional<WavLayout> read_layout(RecordFile& file) {
         const std::int64_t size = number(chunk + 4, 4);
         if (std::memcmp(chunk, "fmt ", 4) == 0)
             has_format = read_format(chunk + 8, std::min(here - 8, static_cast<std::size_t>(size)), layout);
+        if (is_long && std::memcmp(chunk, "ds64", 4) == 0 && here >= 24)
+            long_data_bytes = std::int64_t{number(chunk + 20, 4)} << 32 | number(chunk + 16, 4);
         if (std::memcmp(chunk, "data", 4) == 0) {
             const std::int64_t held = file.length() - at - 8;
             // Writers that could not go back leave the size at nothing or at its greatest.
+            const std::int64_t announced = size == UINT32_MAX ? long_data_bytes : size;
             layout.data_at = at + 8;
-            layout.data_bytes = size == 0 ? held : std::min(size, held);
+            layout.data_bytes = announced <= 0 ? held : std::min(announced, held);
             return has_format ? std::optional{layout} : std::nullopt;
         }
         at += 8 + size + size % 2;

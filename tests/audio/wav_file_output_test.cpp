@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/audio/wav_file_output.h"
+#include "sound_bench.h"
+
+namespace sonarelle {
+namespace {
+
+std::vector<std::int16_t> samples_of(const std::string& path) {
+    std::vector<std::int16_t> samples((std::filesystem::file_size(path) - WavHead{}.size()) / 2);
+    std::ifstream file{path, std::ios::binary};
+    file.seekg(WavHead{}.size());
+    file.read(reinterpret_cast<char*>(samples.data()), static_cast<std::streamsize>(2 * samples.size()));
+    return samples;
+}
+
+std::vector<std::int16_t> written(const std::vector<float>& frames) {
+    const SoundFolder folder;
+    WavFileOutput output{folder.path("a.wav")};
+    output.write(frames);
+    output.close();
+    return samples_of(folder.path("a.wav"));
+}
+
+TEST(WavFileOutput, RoundsEverySampleToTheNearestWholeNumberAndTheEvenOneOfTwo) {
+    std::vector<float> frames;
+    for (int quarter = -4 * 32768; quarter <= 4 * 32767; ++quarter)
+        frames.push_back(static_cast<float>(quarter) / 4 / 32768.0F);
+    const auto samples = written(frames);
+    ASSERT_EQ(samples.size(), frames.size());
+    for (std::size_t sample = 0; sample < frames.size(); ++sample)
+        ASSERT_EQ(samples[sample], std::lrint(frames[sample] * 32768.0F)) << frames[sample];
+}
+
+TEST(WavFileOutput, CutsWhatIsBeyondFullScale) {
+    EXPECT_EQ(written({1.0F, -1.0F, 1.5F, -1.5F, 64.0F, -64.0F}),
+              (std::vector<std::int16_t>{32767, -32768, 32767, -32768, 32767, -32768}));
+}
+
+TEST(WavFileOutput, GoesOnFromBlockToBlock) {
+    const SoundFolder folder;
+    WavFileOutput output{folder.path("a.wav")};
+    const std::vector<float> block(2 * 7, 0.25F);
+    output.write(block);
+    output.write(block);
+    output.close();
+    EXPECT_EQ(samples_of(folder.path("a.wav")), std::vector<std::int16_t>(2 * 14, 8192));
+    EXPECT_EQ(decoded(folder.path("a.wav")).size(), 2U * 14);
+}
+
+// Sparse: nothing of it takes room on the disk.
+std::string long_file(const SoundFolder& folder, std::uint64_t data_bytes) {
+    const WavHead head = wav_head(data_bytes);
+    const std::string path = folder.file("long.wav", head);
+    std::filesystem::resize_file(path, head.size() + data_bytes);
+    return path;
+}
+
+TEST(WavHead, OfMoreThanFourGigabytesTellsTheWholeLength) {
+    const SoundFolder folder;
+    constexpr std::uint64_t data_bytes = 5ULL * 48000 * 4 * 3600 * 24; // five days
+    const auto decoder = decoder_of(long_file(folder, data_bytes));
+    EXPECT_DOUBLE_EQ(decoder->duration(), 5.0 * 3600 * 24);
+}
+
+TEST(WavHead, OfMoreThanFourGigabytesIsUnderstoodByOthers) {
+    const SoundFolder folder;
+    const std::string path = long_file(folder, 48000ULL * 4 * 3600 * 10);
+    const std::string asked =
+        "ffprobe -v error -show_entries format=duration -of csv=p=0 '" + path + "' > '" + folder.path("said") + "'";
+    ASSERT_EQ(std::system(asked.c_str()), 0);
+    double seconds_said = 0;
+    std::ifstream{folder.path("said")} >> seconds_said;
+    EXPECT_DOUBLE_EQ(seconds_said, 36000.0);
+}
+
+TEST(WavHead, CutRf64HasTheLengthOfWhatItHolds) {
+    const SoundFolder folder;
+    const std::string path = folder.file("cut.wav", wav_head(48000ULL * 4 * 3600 * 10));
+    std::filesystem::resize_file(path, WavHead{}.size() + 48000 * 4 * 3);
+    EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 3.0);
+}
+
+TEST(WavHead, StaysTheShortOneUpToFourGigabytes) {
+    const std::uint64_t most = (UINT32_MAX - 1 - 72) / 4 * 4;
+    EXPECT_EQ(std::memcmp(wav_head(most).data(), "RIFF", 4), 0);
+    EXPECT_EQ(std::memcmp(wav_head(most + 4).data(), "RF64", 4), 0);
+}
+
+} // namespace
+} // namespace sonarelle

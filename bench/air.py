@@ -12,6 +12,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 TOOL = ROOT / "build/bin/sonarelle-outil"
+PLAIN = ROOT / "build/release/bench/plain_render_bench"
 MUSIC = ROOT / "build/bench/music"
 RUNS = 5
 
@@ -64,6 +65,19 @@ def rehearsal_against_ffmpeg(files):
           f"ffmpeg decoding the same {theirs[0]:.2f} s; ratio {ours[0] / theirs[0]:.2f}")
 
 
+def rendering_against_plain_ffmpeg(files):
+    """In turn, so that whatever else the machine does falls on both; needs `cmake --build --preset bench`."""
+    with tempfile.TemporaryDirectory() as folder:
+        path, air = make_list(folder, files), Path(folder) / "air"
+        length = 54 * len(files) + 6  # of a minute each, with overlaps of six seconds
+        words = [TOOL, "repetition", path, "--rendu", air, "--dossier", folder, "--duree",
+                 f"{length // 3600:02}:{length // 60 % 60:02}:{length % 60:02}"]
+        pairs = [(run(words)[0], run([PLAIN, air, *files])[0]) for _ in range(RUNS)]
+    ours, theirs = (statistics.median(column) for column in zip(*pairs))
+    ratio = statistics.median(mine / other for mine, other in pairs)
+    print(f"rendering of 60 tracks: {ours:.2f} s of CPU; FFmpeg's libraries in one process {theirs:.2f} s; ratio {ratio:.2f}")
+
+
 def day_without_sound(files):
     with tempfile.TemporaryDirectory() as folder:
         path = make_list(folder, files)
@@ -106,6 +120,7 @@ def first_sound(files):
 def main():
     files = make_music()
     rehearsal_against_ffmpeg(files)
+    rendering_against_plain_ffmpeg(files)
     day_without_sound(files)
     live_cost(files)
     first_sound(files)

@@ -2,23 +2,38 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace sonarelle {
 
+namespace {
+
+// In lanes that don't wait for each other, left and right in turn.
+std::array<float, 2> peaks_of(std::span<const float> frames) {
+    std::array<float, 8> lanes{};
+    std::size_t at = 0;
+    for (; at + lanes.size() <= frames.size(); at += lanes.size())
+        for (std::size_t lane = 0; lane < lanes.size(); ++lane)
+            lanes[lane] = std::max(lanes[lane], std::abs(frames[at + lane]));
+    for (; at < frames.size(); ++at)
+        lanes[at % 2] = std::max(lanes[at % 2], std::abs(frames[at]));
+    return {std::max({lanes[0], lanes[2], lanes[4], lanes[6]}), std::max({lanes[1], lanes[3], lanes[5], lanes[7]})};
+}
+
+} // namespace
+
 void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
-    std::array<float, 2> peak{};
-    auto place = static_cast<std::size_t>(at.count());
-    writing_.store(static_cast<std::int64_t>(place + frames.size() / 2), std::memory_order_relaxed);
-    for (std::size_t frame = 0; frame + 1 < frames.size(); frame += 2, ++place) {
-        for (std::size_t channel = 0; channel < 2; ++channel)
-            peak[channel] = std::max(peak[channel], std::abs(frames[frame + channel]));
-        frames_[place % kept_frames].store(packed(frames[frame], frames[frame + 1]), std::memory_order_release);
-    }
+    const std::size_t count = frames.size() / 2;
+    const auto begin = static_cast<std::size_t>(at.count());
+    writing_.store(static_cast<std::int64_t>(begin + count), std::memory_order_relaxed);
+    for (std::size_t frame = 0; frame < count; ++frame)
+        frames_[(begin + frame) % kept_frames].store(packed(&frames[2 * frame]), std::memory_order_release);
+    const auto peak = peaks_of(frames);
     // A reader's reset between the two is lost: the meter then shows an old peak once more.
     for (std::size_t channel = 0; channel < 2; ++channel)
         if (peak[channel] > peak_[channel].load(std::memory_order_relaxed))
             peak_[channel].store(peak[channel], std::memory_order_relaxed);
-    end_.store(static_cast<std::int64_t>(place), std::memory_order_release);
+    end_.store(static_cast<std::int64_t>(begin + count), std::memory_order_release);
 }
 
 Level BusTaps::level() {
@@ -52,8 +67,7 @@ BusTaps::Piece BusTaps::copy_from(Frames from, std::span<float> frames) const {
 void BusTaps::copy(std::size_t begin, std::span<float> frames) const {
     for (std::size_t frame = 0; frame < frames.size() / 2; ++frame) {
         const std::uint64_t both = frames_[(begin + frame) % kept_frames].load(std::memory_order_acquire);
-        frames[2 * frame] = std::bit_cast<float>(static_cast<std::uint32_t>(both >> 32));
-        frames[2 * frame + 1] = std::bit_cast<float>(static_cast<std::uint32_t>(both));
+        std::memcpy(&frames[2 * frame], &both, sizeof both);
     }
 }
 

@@ -2,8 +2,8 @@
 
 #include <array>
 #include <atomic>
-#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <span>
 
 #include "platform/units.h"
@@ -38,8 +38,11 @@ public:
     [[nodiscard]] Frames end() const { return Frames{end_.load(std::memory_order_acquire)}; }
 
 private:
-    static std::uint64_t packed(float left, float right) {
-        return std::uint64_t{std::bit_cast<std::uint32_t>(left)} << 32 | std::bit_cast<std::uint32_t>(right);
+    /// Both samples of a frame as one number, in the order of memory.
+    static std::uint64_t packed(const float* frame) {
+        std::uint64_t both = 0;
+        std::memcpy(&both, frame, sizeof both);
+        return both;
     }
     void copy(std::size_t begin, std::span<float> frames) const;
 

@@ -2,23 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <numeric>
 
 #include "platform/audio/ffmpeg_handles.h"
+#include "platform/audio/sample_loops.h"
 
 namespace sonarelle {
-
-namespace {
-
-constexpr float loudest = 64.0F; // above any music by 36 dB; damaged floats can be anything
-
-// Comparisons with what is no number are false, so that becomes silence too.
-float cleaned(float sample) {
-    return std::abs(sample) <= loudest ? sample : 0.0F;
-}
-
-} // namespace
 
 /// Brings any rate to 48 kHz. The ratio is that of two whole numbers, `up` frames out for `down` samples in, so the
 /// filter's phase comes round, and a restart at a multiple of `down` continues as if there had been none.
@@ -75,10 +64,11 @@ public:
     std::size_t take(std::span<float> out) {
         const std::size_t count = std::min(out.size() / 2, ready());
         const float* from = frames_.data() + begin_ * static_cast<std::size_t>(channels_);
-        for (std::size_t frame = 0; frame < count; ++frame) {
-            out[2 * frame] = cleaned(channels_ == 2 ? from[2 * frame] : from[frame]);
-            out[2 * frame + 1] = cleaned(channels_ == 2 ? from[2 * frame + 1] : from[frame]);
-        }
+        if (channels_ == 2)
+            copy_cleaned(from, 2 * count, out.data());
+        else
+            for (std::size_t frame = 0; frame < count; ++frame)
+                out[2 * frame] = out[2 * frame + 1] = cleaned(from[frame]);
         begin_ += count;
         return count;
     }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <span>
 
+#include "platform/audio/sample_loops.h"
 #include "platform/units.h"
 
 namespace sonarelle {
@@ -39,8 +40,7 @@ public:
             out[at] += samples[at] * gain;
             out[at + 1] += samples[at + 1] * gain;
         }
-        for (; at < samples.size(); ++at)
-            out[at] += samples[at] * to_;
+        add_with_gain(samples.data() + at, samples.size() - at, to_, out + at);
     }
 
     /// Goes on over frames that are silent.

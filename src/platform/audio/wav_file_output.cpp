@@ -1,10 +1,9 @@
 #include "platform/audio/wav_file_output.h"
 
-#include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstring>
 
+#include "platform/audio/sample_loops.h"
 #include "platform/failure.h"
 #include "platform/units.h"
 
@@ -90,9 +89,7 @@ WavFileOutput::~WavFileOutput() {
 
 void WavFileOutput::write(std::span<const float> frames) {
     samples_.resize(frames.size());
-    std::ranges::transform(frames, samples_.begin(), [](float sample) {
-        return static_cast<std::int16_t>(std::lrint(std::clamp(sample * 32768.0F, -32768.0F, 32767.0F)));
-    });
+    to_16_bits(frames.data(), frames.size(), samples_.data());
     file_.write(reinterpret_cast<const char*>(samples_.data()),
                 static_cast<std::streamsize>(samples_.size() * sample_bytes));
     data_bytes_ += samples_.size() * sample_bytes;

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+
+namespace sonarelle {
+
+// The loops over every sample of the programme, each with a part in groups of a fixed size, which the compiler makes
+// into a few steps. The places that a loop reads and writes don't overlap.
+
+inline constexpr std::size_t samples_at_once = 16;
+[[nodiscard]] constexpr std::size_t in_groups(std::size_t count) {
+    return count - count % samples_at_once;
+}
+
+inline void add_with_gain(const float* __restrict from, std::size_t count, float gain, float* __restrict to) noexcept {
+    std::size_t at = 0;
+    for (; at < in_groups(count); at += samples_at_once)
+        for (std::size_t lane = 0; lane < samples_at_once; ++lane)
+            to[at + lane] += from[at + lane] * gain;
+    for (; at < count; ++at)
+        to[at] += from[at] * gain;
+}
+
+/// What is no number or beyond all music becomes silence: damaged floats can be anything.
+[[nodiscard]] inline float cleaned(float sample) {
+    constexpr float loudest = 64.0F; // 36 dB above full
+    return std::abs(sample) <= loudest ? sample : 0.0F;
+}
+
+inline void copy_cleaned(const float* __restrict from, std::size_t count, float* __restrict to) noexcept {
+    std::size_t at = 0;
+    for (; at < in_groups(count); at += samples_at_once)
+        for (std::size_t lane = 0; lane < samples_at_once; ++lane)
+            to[at + lane] = cleaned(from[at + lane]);
+    for (; at < count; ++at)
+        to[at] = cleaned(from[at]);
+}
+
+/// To the nearest whole number, the even one of two, where 1 is full scale; what is beyond is cut. For cleaned samples.
+[[nodiscard]] inline std::int16_t to_16_bits(float sample) {
+    constexpr float lowest_bits_are_ones = 0x1.8p23F; // of a float so great
+    const std::int32_t whole = std::bit_cast<std::int32_t>(sample * 32768.0F + lowest_bits_are_ones) -
+                               std::bit_cast<std::int32_t>(lowest_bits_are_ones);
+    return static_cast<std::int16_t>(std::min(std::max(whole, -32768), 32767));
+}
+
+inline void to_16_bits(const float* __restrict from, std::size_t count, std::int16_t* __restrict to) noexcept {
+    std::size_t at = 0;
+    for (; at < in_groups(count); at += samples_at_once)
+        for (std::size_t lane = 0; lane < samples_at_once; ++lane)
+            to[at + lane] = to_16_bits(from[at + lane]);
+    for (; at < count; ++at)
+        to[at] = to_16_bits(from[at]);
+}
+
+} // namespace sonarelle

@@ -28,6 +28,7 @@ private:
     void play() {
         for (auto due = std::chrono::steady_clock::now(); !stopping_; due += block_time) {
             std::this_thread::sleep_until(due);
+            due += std::chrono::milliseconds{card_->falls_behind.exchange(0)};
             if (card_->dead || card_->hanging)
                 continue;
             card_->pull_block(pull_);
@@ -69,6 +70,8 @@ std::vector<std::string> FakeDevices::names() {
 
 std::unique_ptr<OutputDevice> FakeDevices::open(const std::string& name, PullFrames pull) {
     const auto place = cards_.find(name);
+    if (place != cards_.end())
+        ++place->second->asked_for;
     if (place == cards_.end() || place->second->absent)
         throw Failure{failure_number::device_unavailable, name};
     ++place->second->opened;

@@ -22,8 +22,10 @@ public:
     std::atomic<bool> absent{false};  ///< It can't be opened.
     std::atomic<bool> dead{false};    ///< It stops pulling and says that it has gone.
     std::atomic<bool> hanging{false}; ///< It stops pulling and says nothing.
+    std::atomic<int> asked_for{0};    ///< How often it was to be opened.
     std::atomic<int> opened{0};
-    std::atomic<int> open{0}; ///< How often it is open now.
+    std::atomic<int> falls_behind{0}; ///< Milliseconds that its sound comes late, once and for good: a gap.
+    std::atomic<int> open{0};         ///< How often it is open now.
 
     void pull_block(const PullFrames& pull);
     /// By frames of the bus; silence where the card got nothing.

@@ -24,8 +24,9 @@ public:
     /// On the default card, or on the one of this name; `studio` is the card « Studio ».
     void go_on_air(const std::string& name = "") {
         auto devices = std::make_unique<FakeDevices>(FakeDevices::Cards{{"", card}, {"Studio", studio}});
-        output = std::make_unique<LiveOutput>(bus, std::move(devices), name,
-                                              [this](OutputState state) { last_state = state; });
+        output = std::make_unique<LiveOutput>(
+            bus, std::move(devices), name, [this](OutputState state) { last_state = state; },
+            [this](OutputGaps gaps) { lost_in_gaps = gaps.lost.count(); });
     }
     /// Lives until a condition holds; the test's own limit of time is the only one.
     void live_until(const std::function<bool()>& condition) {
@@ -49,6 +50,7 @@ public:
 
     SoundFolder folder;
     std::atomic<OutputState> last_state{OutputState::opening};
+    std::atomic<std::int64_t> lost_in_gaps{0}; ///< Frames, as last told.
     std::vector<SoundReport> reports;
     Scheduler scheduler;
     ProgrammeBus bus;

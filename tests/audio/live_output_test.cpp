@@ -78,6 +78,16 @@ TEST(LiveOutput, ARunningGraphIsWhereTheClockSaysAfterALoss) {
     EXPECT_EQ(heard[heard.size() - 2], counted(last - begin.count()));
 }
 
+TEST(LiveOutput, TellsTheGapsOfADevice) {
+    LiveBench live;
+    live.go_on_air();
+    live.live_for(seconds(3));
+    live.card->falls_behind = 60;
+    live.live_until([&] { return live.lost_in_gaps > 0; });
+    EXPECT_GE(live.lost_in_gaps, milliseconds(50).count());
+    EXPECT_EQ(live.output->state(), OutputState::playing);
+}
+
 TEST(LiveOutput, TheLossOfADeviceDoesNotMoveTheTicks) {
     LiveBench live;
     Timer timer{"Timer1", 1, live.scheduler};

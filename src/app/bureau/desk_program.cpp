@@ -121,8 +121,9 @@ void DeskProgram::connect() {
 
 void DeskProgram::run() {
     const SignalWatch watch{[this] { run_event([this] { station_.desk_wiring.shutdown.quit_confirmed(); }); }};
-    live_.open_output(load_output_choice(machine_.folders().output_choice),
-                      [this](OutputState state) { tell_output(state); });
+    live_.open_output(
+        load_output_choice(machine_.folders().output_choice), [this](OutputState state) { tell_output(state); },
+        [this](OutputGaps gaps) { tell_gaps(gaps); });
     // Ending ends a loop that turns already, so the station begins inside it.
     QTimer::singleShot(0, [this] { run_event([this] { station_.desk_wiring.startup.enter_program(command_line_); }); });
     for (const std::string& sentence : told_)
@@ -133,6 +134,11 @@ void DeskProgram::run() {
 void DeskProgram::tell_output(OutputState state) {
     note(state_text(state));
     desktop_.show_output(state_text(state), state != OutputState::playing);
+}
+
+void DeskProgram::tell_gaps(OutputGaps gaps) {
+    note(gaps_text(gaps));
+    desktop_.show_output(gaps_text(gaps), false);
 }
 
 void DeskProgram::choose_output(const std::string& name) {

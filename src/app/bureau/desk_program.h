@@ -48,6 +48,7 @@ private:
     void connect();
     void choose_output(const std::string& name);
     void tell_output(OutputState state);
+    void tell_gaps(OutputGaps gaps);
 
     Machine& machine_;
     std::vector<std::string> told_; // by the start, for the operator

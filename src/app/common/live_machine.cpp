@@ -24,17 +24,25 @@ Platform LiveMachine::platform(Settings& settings, Dialogs& dialogs, Shell& shel
     return {clock_, scheduler_, disk_, settings, dialogs, media_, random_, shell, program_folder, DecimalMark::point};
 }
 
-void LiveMachine::open_output(const OutputName& name, std::function<void(OutputState)> on_change) {
+void LiveMachine::open_output(const OutputName& name, std::function<void(OutputState)> on_change,
+                              std::function<void(OutputGaps)> on_gaps) {
     auto devices = name ? std::make_unique<SdlDevices>() : nullptr;
-    output_ = std::make_unique<LiveOutput>(bus_, std::move(devices), name.value_or(""),
-                                           [this, on_change = std::move(on_change)](OutputState state) {
-                                               driver_.post([on_change, state] { on_change(state); });
-                                           });
+    output_ = std::make_unique<LiveOutput>(
+        bus_, std::move(devices), name.value_or(""),
+        [this, on_change = std::move(on_change)](OutputState state) {
+            driver_.post([on_change, state] { on_change(state); });
+        },
+        [this, on_gaps = std::move(on_gaps)](OutputGaps gaps) { driver_.post([on_gaps, gaps] { on_gaps(gaps); }); });
 }
 
 std::string state_text(OutputState state) {
     return state == OutputState::playing ? "sortie : la carte son joue"
                                          : "sortie : aucune carte son, cadence de l'horloge";
+}
+
+std::string gaps_text(OutputGaps gaps) {
+    return "sortie : son arrivé trop tard " + std::to_string(gaps.count) + " fois, " +
+           Format(in_seconds(gaps.lost), "0.00", DecimalMark::point) + " s de silence depuis le lancement";
 }
 
 std::string trouble_text(const SoundReport& report) {

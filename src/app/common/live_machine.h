@@ -37,8 +37,9 @@ public:
     [[nodiscard]] Platform platform(Settings& settings, Dialogs& dialogs, Shell& shell,
                                     const std::string& program_folder);
 
-    /// From here on the bus is pulled. `on_change` is called on the window thread.
-    void open_output(const OutputName& name, std::function<void(OutputState)> on_change);
+    /// From here on the bus is pulled. Both are called on the window thread; the gaps are all since the start.
+    void open_output(const OutputName& name, std::function<void(OutputState)> on_change,
+                     std::function<void(OutputGaps)> on_gaps);
     /// Null before `open_output`.
     [[nodiscard]] LiveOutput* output() { return output_.get(); }
 
@@ -65,6 +66,9 @@ private:
 
 /// What the journal says of the output.
 [[nodiscard]] std::string state_text(OutputState state);
+
+/// What the journal and the desk say of the gaps since the start.
+[[nodiscard]] std::string gaps_text(OutputGaps gaps);
 
 /// What the journal says of a file that starved or broke.
 [[nodiscard]] std::string trouble_text(const SoundReport& report);

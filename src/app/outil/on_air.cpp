@@ -49,7 +49,9 @@ public:
         machine_.scheduler().run_event(Frames{},
                                        [this] { start(station_path_of(live_.drives, live_.programme.list)); });
         const OutputName output = live_.output == "aucune" ? OutputName{} : live_.output.value_or("");
-        machine_.open_output(output, [this](OutputState state) { tell_output(state); });
+        machine_.open_output(
+            output, [this](OutputState state) { tell_output(state); },
+            [this](OutputGaps gaps) { tell(gaps_text(gaps)); });
         machine_.driver().run();
         if (!ended_) // by a signal
             machine_.driver().run_event([this] { end(); });

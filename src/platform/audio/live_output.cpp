@@ -11,11 +11,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds watch_every = 50ms;
-constexpr std::chrono::milliseconds longest_silence =
-    150ms;                                               // of a device with short blocks, until the clock takes over
-constexpr std::chrono::milliseconds settles_in = 1000ms; // a server that has just been opened takes some blocks
+constexpr std::chrono::milliseconds watch_every = 25ms;
+// Until the clock takes over, within 250 ms: a device plays on for a while from what it has.
+constexpr std::chrono::milliseconds longest_silence = 200ms;
+constexpr std::chrono::milliseconds settles_in = 1000ms;      // a server that has just been opened takes some blocks
 constexpr std::chrono::milliseconds settling_silence = 500ms; // at once, and then none for a while
+constexpr std::chrono::seconds gaps_told_every = 60s;
 constexpr std::chrono::milliseconds first_try_takes = 2000ms;
 constexpr std::chrono::milliseconds leave_takes = 1000ms;
 constexpr std::size_t paced_frames = 1024;
@@ -24,9 +25,10 @@ constexpr std::chrono::nanoseconds paced_time{1'000'000'000LL * paced_frames / f
 } // namespace
 
 LiveOutput::LiveOutput(ProgrammeBus& bus, std::unique_ptr<OutputDevices> devices, std::string device_name,
-                       std::function<void(OutputState)> on_change)
+                       std::function<void(OutputState)> on_change, std::function<void(OutputGaps)> on_gaps)
     : shared_{std::make_shared<OutputShared>(bus)} {
     shared_->on_change = std::move(on_change);
+    shared_->on_gaps = std::move(on_gaps);
     choose(std::move(device_name));
     if (devices != nullptr)
         keeper_ = std::thread{[shared = shared_, owned = std::move(devices)]() mutable {
@@ -105,11 +107,13 @@ void LiveOutput::watch_pulls(OutputShared& shared) {
     auto last_pull = Clock::now();
     int on_air = shared.on_air;
     auto settled_at = last_pull + settles_in;
+    auto gaps_told_at = last_pull - gaps_told_every;
     std::chrono::milliseconds patience = settling_silence;
     while (shared.sleep_for(watch_every) && shared.device_open && Clock::now() - last_pull < patience) {
         if (const int now_on_air = shared.on_air; now_on_air != on_air) {
             on_air = now_on_air;
             settled_at = Clock::now() + settles_in;
+            shared.gate.gaps().restart();
         }
         const auto least = Clock::now() < settled_at ? settling_silence : longest_silence;
         patience = std::max(least, watch_every + 2 * shared.gate.block_time());
@@ -117,8 +121,10 @@ void LiveOutput::watch_pulls(OutputShared& shared) {
         if (now_asked == asked)
             continue;
         asked = now_asked;
-        last_pull = Clock::now();
+        last_pull = shared.gate.last_asked();
         shared.set_state(OutputState::playing);
+        if (last_pull >= gaps_told_at + gaps_told_every && shared.tell_gaps())
+            gaps_told_at = last_pull;
     }
     const bool stopped_in_order = !shared.sleep_for(0ms);
     if (!stopped_in_order)

@@ -24,9 +24,10 @@ namespace sonarelle {
 /// pacer sees to it that someone pulls, and never waits for the keeper.
 class LiveOutput {
 public:
-    /// `devices` null: paced from the beginning. `on_change` is called on one of the two threads.
+    /// `devices` null: paced from the beginning. `on_change` is called on one of the two threads; so is `on_gaps`, with
+    /// all gaps since the start: at the first ones, and then once a minute while there are more.
     LiveOutput(ProgrammeBus& bus, std::unique_ptr<OutputDevices> devices, std::string device_name,
-               std::function<void(OutputState)> on_change);
+               std::function<void(OutputState)> on_change, std::function<void(OutputGaps)> on_gaps = nullptr);
     /// Nobody pulls the bus any more. A keeper that hangs is left behind with what it holds.
     ~LiveOutput();
     LiveOutput(const LiveOutput&) = delete;

@@ -27,6 +27,8 @@ struct OutputShared {
     /// The same, and a choice wakes it.
     bool sleep_until_choice(std::chrono::milliseconds time);
     void set_state(OutputState next);
+    /// True when there were new ones.
+    bool tell_gaps();
 
     PullGate gate;
     std::atomic<OutputState> state{OutputState::opening};
@@ -34,7 +36,9 @@ struct OutputShared {
     std::atomic<bool> device_open{false}; ///< It is on the air and stays until it is closed.
     std::atomic<bool> first_try_over{false};
     std::atomic<bool> keeper_ended{false};
-    std::function<void(OutputState)> on_change; ///< By the pacer alone.
+    std::function<void(OutputState)> on_change; ///< By the pacer alone, and so are the gaps.
+    std::function<void(OutputGaps)> on_gaps;
+    int gaps_told = 0;
 
     Mutex mutex;
     Condition wake;

@@ -6,13 +6,19 @@
 namespace sonarelle {
 
 void PullGate::pull_by_device(float* out, std::size_t frames) noexcept {
+    const auto now = std::chrono::steady_clock::now();
     bool rendered = false;
     if (!busy_.exchange(true, std::memory_order_acquire)) {
         rendered = render_if(Turn::device, out, frames);
+        if (rendered)
+            gaps_.asked(Frames{asked()}, now);
         busy_.store(false, std::memory_order_release);
     }
-    if (!rendered)
+    if (!rendered) {
         std::fill_n(out, 2 * frames, 0.0F);
+        gaps_.restart();
+    }
+    last_asked_.store(now, std::memory_order_relaxed);
     asked_.fetch_add(static_cast<std::int64_t>(frames), std::memory_order_release);
 }
 

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 
+#include "platform/audio/gap_watch.h"
 #include "platform/audio/programme_bus.h"
 
 namespace sonarelle {
@@ -30,6 +31,13 @@ public:
     /// How many frames devices have asked for, with those that stayed silent.
     [[nodiscard]] std::int64_t asked() const noexcept { return asked_.load(std::memory_order_acquire); }
 
+    /// When one last asked.
+    [[nodiscard]] std::chrono::steady_clock::time_point last_asked() const noexcept {
+        return last_asked_.load(std::memory_order_relaxed);
+    }
+    /// Of the device that has the turn.
+    [[nodiscard]] GapWatch& gaps() noexcept { return gaps_; }
+
     /// Of the greatest block so far.
     [[nodiscard]] std::chrono::milliseconds block_time() const noexcept {
         return std::chrono::milliseconds{bus_->greatest_block().count() / frames_per_millisecond};
@@ -43,6 +51,8 @@ private:
     std::atomic<Turn> turn_{Turn::nobody};
     std::atomic<bool> busy_{false};
     std::atomic<std::int64_t> asked_{0};
+    std::atomic<std::chrono::steady_clock::time_point> last_asked_{};
+    GapWatch gaps_;
 };
 
 } // namespace sonarelle

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "platform/audio/gap_watch.h"
+
+namespace sonarelle {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A card that asks for blocks at its pace.
+class PacedCard {
+public:
+    static constexpr Frames block{2048};
+
+    void ask_for(Frames span, std::chrono::nanoseconds lateness = 0ns) {
+        for (const Frames end = asked_ + span; asked_ < end; asked_ += block) {
+            watch.asked(asked_, due_ + lateness);
+            due_ += std::chrono::nanoseconds{block.count() * 62500 / 3 + drift};
+        }
+    }
+    void fall_behind(std::chrono::milliseconds time) { due_ += time; }
+
+    GapWatch watch;
+    std::int64_t drift = 0; ///< Nanoseconds a block.
+
+private:
+    Frames asked_;
+    GapWatch::Instant due_{1h};
+};
+
+TEST(GapWatch, FindsNoneInASteadyPace) {
+    PacedCard card;
+    card.ask_for(seconds(20));
+    EXPECT_EQ(card.watch.gaps().count, 0);
+}
+
+TEST(GapWatch, FindsAGapWithItsLength) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    card.fall_behind(30ms);
+    card.ask_for(seconds(8));
+    EXPECT_EQ(card.watch.gaps().count, 1);
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(30));
+}
+
+TEST(GapWatch, AddsGapsUp) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    for (int gap = 0; gap < 3; ++gap) {
+        card.fall_behind(10ms);
+        card.ask_for(seconds(6));
+    }
+    EXPECT_EQ(card.watch.gaps().count, 3);
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(30));
+}
+
+TEST(GapWatch, TakesALateThreadForNoGap) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    for (int hold = 0; hold < 3; ++hold) {
+        card.ask_for(seconds(3), 40ms); // longer than a span, shorter than two
+        card.ask_for(seconds(3));
+    }
+    EXPECT_EQ(card.watch.gaps().count, 0);
+}
+
+TEST(GapWatch, TakesASlowClockForNoGap) {
+    PacedCard card;
+    card.drift = 42'667'000 / 2000; // half a thousandth
+    card.ask_for(seconds(60));
+    EXPECT_EQ(card.watch.gaps().count, 0);
+}
+
+TEST(GapWatch, BeginsAnewWithAnotherCard) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    card.fall_behind(100ms);
+    card.watch.restart();
+    card.ask_for(seconds(8));
+    EXPECT_EQ(card.watch.gaps().count, 0);
+    card.fall_behind(20ms);
+    card.ask_for(seconds(8));
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(20));
+}
+
+} // namespace
+} // namespace sonarelle

@@ -96,6 +96,16 @@ TEST_F(ChosenOutput, TheDefaultDeviceTakesOverWhenTheChosenOneDiesAndGivesBack) 
     EXPECT_TRUE(gets_the_programme(*live.studio));
 }
 
+TEST_F(ChosenOutput, TheDefaultDeviceIsOpenedAtOnceWhenTheChosenOneDies) {
+    live.go_on_air("Studio");
+    wait_until_it_plays_on("Studio");
+    const int asked_for = live.studio->asked_for;
+    live.studio->absent = true;
+    live.studio->dead = true;
+    live.live_until([&] { return live.output->playing_on() == ""; });
+    EXPECT_EQ(live.studio->asked_for, asked_for) << "the one that has just gone isn't tried before";
+}
+
 TEST_F(ChosenOutput, AChosenDeviceThatHangsTakesNothingAway) {
     live.studio->hanging = true;
     live.go_on_air();

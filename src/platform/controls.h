@@ -35,6 +35,8 @@ public:
     Property<std::string> caption;
     Property<std::string> picture{*this, {}};
     std::function<void()> on_click;
+    /// While it is true the space bar doesn't press it; the return key does.
+    std::function<bool()> refuses_space;
 
 protected:
     Button(Window& parent, ControlKind kind, std::string name, std::string text)
@@ -227,6 +229,7 @@ public:
 
     Property<std::vector<std::string>> items{*this, {}};
     Property<int> selected{*this, -1};
+    bool takes_typing = true; ///< Otherwise it is a chooser, whose text the station writes.
     std::function<void()> on_change;
     std::function<void()> on_click;
     std::function<void(char32_t)> on_key_press;

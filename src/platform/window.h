@@ -54,6 +54,8 @@ public:
     /// He pressed its background once, twice, or with the right button.
     void click() const { raise(on_click); }
     void double_click() const { raise(on_double_click); }
+    /// He asked for the menu bar, which was hidden.
+    void call_menus() const { raise(on_menus_called); }
     void right_click() const { raise(on_right_click); }
     /// It has come to the front, and can be seen.
     void activate() const { raise(on_activate); }
@@ -80,6 +82,7 @@ public:
     std::function<void(char32_t)> on_key_press;
     std::function<void()> on_click;
     std::function<void()> on_double_click;
+    std::function<void()> on_menus_called;
     std::function<void()> on_right_click;
     std::function<void()> on_activate;
     std::function<void()> on_move;

@@ -14,8 +14,10 @@ Antenne_FM::Antenne_FM(Scheduler& scheduler)
     Image17.hint = "Top horaire";
     for (Label* label : menu_labels())
         label->visible = false;
-    for (ComboBox* box : {&Combo1, &Combo2})
+    for (ComboBox* box : {&Combo1, &Combo2}) {
         box->hint = "Appuyer sur barre d'espacement puis sélection du lecteur";
+        box->takes_typing = false;
+    }
     banner.width = Twips{475 * 15};
     banner.height = Twips{40 * 15};
     for (Timer* timer : {&Timer1, &Timer8, &Timer9})

@@ -117,7 +117,7 @@ void DeskWiring::connect_windows() {
     window.Quitter_.on_click = [this] { shutdown.Quitter__Click(); };
     window.on_unload_request = [this] { shutdown.Form_QueryUnload(); };
     window.on_click = [this] { display_menu.hide_menus(); };
-    window.on_double_click = [this] { display_menu.show_menus(); };
+    window.on_double_click = window.on_menus_called = [this] { display_menu.show_menus(); };
     window.on_right_click = [&window] { window.popup(window.affiche); };
     window.on_reduce = [this] { display_menu.a_mini_Click(); };
     window.on_move = [this] { display_menu.Aligne_liste_son(); };

@@ -4,6 +4,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/scheduler.h"
+#include "playout/air_view.h"
 
 namespace sonarelle {
 
@@ -236,6 +237,9 @@ void Station::connect_deck(Deck& deck) {
     controls.louder.on_click = [this, &deck] { deck_volume.step(deck, -1); };
     controls.quieter.on_click = [this, &deck] { deck_volume.step(deck, 1); };
     controls.scroll_timer.on_tick = [&deck] { DeckVolume::scroll_title(deck); };
+    // A hand that falls on the largest key doesn't silence the station.
+    controls.open.refuses_space =
+        controls.stop.refuses_space = [this, &deck] { return role_of(desk, deck) == DeckRole::on_air; };
 }
 
 // A list that looks for its next track gives up when the operator stops the one that plays.

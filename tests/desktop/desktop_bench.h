@@ -14,10 +14,10 @@
 
 namespace sonarelle {
 
-/// An application without a screen. Every event that comes through the door is counted.
-class DesktopBench : public testing::Test {
-protected:
-    DesktopBench() { dress_application(); }
+/// An application without a screen, and what its windows share. Every event that comes through the door is counted.
+class OffscreenDesktop {
+public:
+    OffscreenDesktop() { dress_application(); }
 
     /// What the windows' loop does between two events.
     void settle() {
@@ -37,7 +37,7 @@ private:
     char* words_[2] = {name_.data(), nullptr};
     QApplication application_{count_, words_};
 
-protected:
+public:
     int events = 0;
     UpdateQueue updates;
     PictureStore pictures{[](const std::string& name) { return name; }};
@@ -46,6 +46,11 @@ protected:
                                  event();
                              },
                              updates, pictures};
+};
+
+/// A window of the test's own, without a screen.
+class DesktopBench : public testing::Test, protected OffscreenDesktop {
+protected:
     Window window{"feuille"};
 };
 

@@ -44,11 +44,20 @@ void Binding::show_value() {
     paint(palette);
     if (palette != widget_->palette())
         widget_->setPalette(palette);
+    if (!control_.is_reachable())
+        give_keyboard_back();
     widget_->setEnabled(control_.enabled);
     widget_->setVisible(control_.visible);
     showing_ = false;
     if (on_shown)
         on_shown();
+}
+
+// The toolkit would hand it on to the next part, and the space bar with it.
+void Binding::give_keyboard_back() {
+    const QWidget* focus = widget_->window()->focusWidget();
+    if (focus != nullptr && (focus == widget_ || widget_->isAncestorOf(focus)))
+        widget_->window()->setFocus();
 }
 
 void Binding::paint(QPalette& palette) const {

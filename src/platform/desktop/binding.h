@@ -52,6 +52,8 @@ protected:
     }
     [[nodiscard]] const DesktopServices& services() const { return services_; }
     bool eventFilter(QObject* object, QEvent* event) override;
+    /// To the window, whose keys are commands; does nothing where the part hasn't the keyboard.
+    void give_keyboard_back();
 
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }

@@ -1,6 +1,7 @@
 #include "platform/desktop/button_bindings.h"
 
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QMovie>
 #include <algorithm>
 #include <array>
@@ -62,6 +63,15 @@ StudioButton::Face ButtonBinding::face() const {
     down.ground = mixed(down.ground, Qt::black, 0.35);
     return {rest.ground, legible(rest.ink, rest.ground), over.ground, legible(over.ink, over.ground),
             down.ground, legible(down.ink, down.ground)};
+}
+
+bool ButtonBinding::eventFilter(QObject* object, QEvent* event) {
+    const bool is_key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    const bool is_space = is_key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
+    if (!is_space || !button_.refuses_space || !button_.refuses_space())
+        return Binding::eventFilter(object, event);
+    face_.setDown(false); // it may have been pressed while it was free
+    return true;
 }
 
 ImageBinding::ImageBinding(Image& image, StudioButton& widget, const DesktopServices& services)

@@ -20,6 +20,7 @@ public:
 protected:
     void show_state() override;
     [[nodiscard]] QString caption() const override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     [[nodiscard]] StudioButton::Face face() const;

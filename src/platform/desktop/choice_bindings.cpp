@@ -23,6 +23,7 @@ void paint_indicator(QPalette& palette) {
 
 CheckBoxBinding::CheckBoxBinding(CheckBox& box, QCheckBox& widget, const DesktopServices& services)
     : Binding{box, widget, services}, box_{box}, check_{widget} {
+    check_.setFocusPolicy(Qt::TabFocus);
     // The value is the control's: what the click made of it comes back by the update.
     connect(&check_, &QCheckBox::clicked, this, [this] {
         run([this] { box_.click(); });
@@ -46,6 +47,7 @@ QString CheckBoxBinding::caption() const {
 
 OptionBinding::OptionBinding(OptionButton& option, QRadioButton& widget, const DesktopServices& services)
     : Binding{option, widget, services}, option_{option}, radio_{widget} {
+    radio_.setFocusPolicy(Qt::TabFocus);
     // Which one is chosen is the group's business, which may choose none.
     radio_.setAutoExclusive(false);
     connect(&radio_, &QRadioButton::clicked, this, [this] {
@@ -71,14 +73,26 @@ QString OptionBinding::caption() const {
 ComboBoxBinding::ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services)
     : Binding{box, widget, services}, box_{box}, combo_{widget} {
     embolden(combo_);
+    combo_.setFocusPolicy(box.takes_typing ? Qt::StrongFocus : Qt::TabFocus);
+    if (box.takes_typing)
+        take_typing();
+    connect(&combo_, &QComboBox::activated, this, [this](int index) { choose(index); });
+}
+
+void ComboBoxBinding::take_typing() {
     combo_.setEditable(true);
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.setCompleter(nullptr);
-    combo_.setFocusPolicy(Qt::StrongFocus);
     combo_.lineEdit()->installEventFilter(this);
     connect(combo_.lineEdit(), &QLineEdit::textEdited, this,
             [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
-    connect(&combo_, &QComboBox::activated, this, [this](int index) { run([&] { box_.choose(index); }); });
+}
+
+// After a choice the letters are the window's commands again.
+void ComboBoxBinding::choose(int index) {
+    run([&] { box_.choose(index); });
+    if (!box_.takes_typing)
+        give_keyboard_back();
 }
 
 void ComboBoxBinding::show_state() {
@@ -88,31 +102,52 @@ void ComboBoxBinding::show_state() {
         for (const std::string& item : shown_items_)
             combo_.addItem(to_qt(item));
     }
+    const QString text = to_qt(box_.text());
+    if (!box_.takes_typing)
+        return show_choice(text);
     if (combo_.currentIndex() != box_.selected)
         combo_.setCurrentIndex(box_.selected);
-    const QString text = to_qt(box_.text());
     if (combo_.currentText() != text)
         combo_.setEditText(text);
 }
 
-void ComboBoxBinding::paint(QPalette& palette) const {
-    paint_text_field(palette, control());
+// A text that isn't the chosen entry's stands in the box like one.
+void ComboBoxBinding::show_choice(const QString& text) {
+    combo_.setPlaceholderText(text);
+    const int shown = combo_.itemText(box_.selected) == text ? box_.selected.get() : -1;
+    if (combo_.currentIndex() != shown)
+        combo_.setCurrentIndex(shown);
 }
 
-// A key that the station answers itself isn't typed as well.
+void ComboBoxBinding::paint(QPalette& palette) const {
+    paint_text_field(palette, control());
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::PlaceholderText, palette.color(group, QPalette::Text));
+}
+
 bool ComboBoxBinding::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::Wheel && !combo_.hasFocus()) {
+    if (event->type() == QEvent::Wheel && (!combo_.hasFocus() || !box_.takes_typing)) {
         event->ignore();
         return true;
     }
-    if (event->type() == QEvent::KeyPress && box_.on_key_press) {
-        const QString text = static_cast<QKeyEvent*>(event)->text();
-        for (const char32_t character : text.toUcs4())
-            run([&] { box_.key_press(character); });
-        if (text == " ")
-            return true;
-    }
+    if (event->type() == QEvent::KeyPress && answer_key(*static_cast<QKeyEvent*>(event)))
+        return true;
     return Binding::eventFilter(object, event);
+}
+
+// A key that the station answers itself isn't typed as well, and in a chooser no letter looks for an entry.
+bool ComboBoxBinding::answer_key(const QKeyEvent& key) {
+    for (const char32_t character : key.text().toUcs4())
+        run([&] { box_.key_press(character); });
+    const bool is_space = key.key() == Qt::Key_Space;
+    if (box_.takes_typing)
+        return is_space && box_.on_key_press;
+    if (is_space)
+        give_keyboard_back();
+    const bool is_arrow = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+    if (is_arrow)
+        combo_.showPopup();
+    return is_arrow || (!key.text().isEmpty() && key.text()[0].isPrint());
 }
 
 ListBoxBinding::ListBoxBinding(ListBox& box, QListWidget& widget, const DesktopServices& services)

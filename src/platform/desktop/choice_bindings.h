@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QRadioButton>
 
@@ -38,7 +39,8 @@ private:
     QRadioButton& radio_;
 };
 
-/// The wheel over a box that has no focus scrolls what it lies on.
+/// The wheel over a box that has no focus scrolls what it lies on. A chooser gives the keyboard back to its window
+/// after each choice.
 class ComboBoxBinding : public Binding {
 public:
     ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services);
@@ -49,6 +51,11 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void take_typing();
+    void choose(int index);
+    void show_choice(const QString& text);
+    bool answer_key(const QKeyEvent& key);
+
     ComboBox& box_;
     QComboBox& combo_;
     std::vector<std::string> shown_items_;

@@ -54,6 +54,7 @@ TextBoxBinding::TextBoxBinding(TextBox& box, QLineEdit& widget, const DesktopSer
     embolden(line_);
     connect(&line_, &QLineEdit::textEdited, this,
             [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
+    connect(&line_, &QLineEdit::returnPressed, this, [this] { give_keyboard_back(); });
 }
 
 // Writing it again would move the cursor of who is typing.

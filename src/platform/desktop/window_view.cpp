@@ -1,5 +1,6 @@
 #include "platform/desktop/window_view.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -149,6 +150,9 @@ void WindowView::place_over_owner() {
 void WindowView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     watch_keys();
+    // Where keys are commands, none of them falls on a button that nobody went to.
+    if (window_.on_key_press && focusWidget() == nullptr)
+        setFocus();
     if (window_.topmost && windowHandle() != nullptr)
         windowHandle()->setFlag(Qt::WindowStaysOnTopHint, true);
     if (!event->spontaneous())
@@ -254,13 +258,27 @@ void WindowView::keep_size() {
     window_.height = twips(height());
 }
 
-// The menus are there without a mouse, too.
+// Buttons and menus are there without a mouse, too.
 void WindowView::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (presses && button != nullptr && !event->isAutoRepeat())
+        button->click();
+    else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
+        show_first_menu();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void WindowView::show_first_menu() {
     const auto menus = bar_->actions();
-    const auto first = std::ranges::find_if(menus, [](const QAction* menu) { return menu->isVisible(); });
-    if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::NoModifier || first == menus.end())
-        return QWidget::keyPressEvent(event);
-    bar_->setActiveAction(*first);
+    const auto first = [&] { return std::ranges::find_if(menus, &QAction::isVisible); };
+    if (first() == menus.end()) {
+        services_.run_event([this] { window_.call_menus(); });
+        services_.updates.flush();
+    }
+    if (first() != menus.end())
+        bar_->setActiveAction(*first());
 }
 
 void WindowView::mousePressEvent(QMouseEvent* event) {

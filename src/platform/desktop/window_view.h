@@ -76,6 +76,7 @@ private:
     void pointer_moved();
     void pass_characters(const QString& text);
     void activated();
+    void show_first_menu();
     [[nodiscard]] bool accepts_text() const;
 
     Window& window_;

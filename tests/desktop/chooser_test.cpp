@@ -1,0 +1,73 @@
+#include <QAbstractItemView>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "desktop/desktop_bench.h"
+#include "platform/desktop/choice_bindings.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// A box whose entries can be chosen and whose text can't be typed, with the keyboard.
+class ChooserBindings : public DesktopBench {
+protected:
+    ChooserBindings() {
+        box.items = {"un", "deux"};
+        settle();
+        widget.show();
+        QApplication::setActiveWindow(&widget);
+        widget.setFocus(Qt::TabFocusReason);
+    }
+
+    struct Chooser : ComboBox {
+        explicit Chooser(Window& parent) : ComboBox{parent, "c", "Favoris Sonarelle"} { takes_typing = false; }
+    };
+    Chooser box{window};
+    QComboBox widget;
+    ComboBoxBinding binding{box, widget, services};
+};
+
+} // namespace
+
+TEST_F(ChooserBindings, ShowsATextThatIsNoEntry) {
+    EXPECT_EQ(widget.placeholderText(), "Favoris Sonarelle");
+    EXPECT_EQ(widget.currentIndex(), -1);
+}
+
+TEST_F(ChooserBindings, ShowsTheChosenEntry) {
+    emit widget.activated(1);
+    settle();
+    EXPECT_EQ(widget.currentText(), "deux");
+}
+
+TEST_F(ChooserBindings, ChosenEntryCanBeChosenAgainUnderAnotherText) {
+    emit widget.activated(1);
+    box.set_text("Favoris Sonarelle");
+    settle();
+    EXPECT_EQ(widget.currentIndex(), -1);
+}
+
+TEST_F(ChooserBindings, LooksForNoEntryByALetter) {
+    QTest::keyClick(&widget, Qt::Key_D);
+    settle();
+    EXPECT_EQ(widget.currentIndex(), -1);
+    EXPECT_EQ(box.selected, -1);
+}
+
+TEST_F(ChooserBindings, OpensItsListByAnArrow) {
+    int clicks = 0;
+    box.on_click = [&] { ++clicks; };
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_TRUE(widget.view()->isVisible());
+    EXPECT_EQ(clicks, 0);
+    widget.hidePopup();
+}
+
+TEST_F(ChooserBindings, WheelChoosesNothing) {
+    QWheelEvent turn{{5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false};
+    QCoreApplication::sendEvent(&widget, &turn);
+    EXPECT_EQ(box.selected, -1);
+}
+
+} // namespace sonarelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/numbers.h"
@@ -28,7 +29,7 @@ struct Platform {
     Shell& shell;
     std::string program_folder; ///< Where the pictures and the default list lie, in the station's form of paths.
     DecimalMark decimal_mark = DecimalMark::point;
-    ScreenSize screen = {};
+    std::function<ScreenArea()> screen = [] { return ScreenArea{}; }; ///< As it is when it is asked.
 };
 
 } // namespace sonarelle

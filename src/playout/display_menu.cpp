@@ -57,24 +57,26 @@ void DisplayMenu::affiche_toujour_Click() {
 }
 
 void DisplayMenu::place(Twips left, Twips top) {
-    desk_.window.left = left;
-    desk_.window.top = top;
+    const ScreenArea screen = desk_.platform.screen();
+    desk_.window.left = screen.left + left;
+    desk_.window.top = screen.top + top;
 }
 
-Twips DisplayMenu::centred_left() const {
-    return Twips{(desk_.platform.screen.width - desk_.window.width.get()).count() / 2};
+Twips DisplayMenu::room_beside() const {
+    return desk_.platform.screen().width - desk_.window.width.get();
 }
 
 void DisplayMenu::A_centre_lecteur_Click() {
-    place(centred_left(), Twips{(desk_.platform.screen.height - desk_.window.height.get()).count() / 2});
+    const Twips room_below = desk_.platform.screen().height - desk_.window.height.get();
+    place(Twips{room_beside().count() / 2}, Twips{room_below.count() / 2});
 }
 
 void DisplayMenu::A_centre_lecteur_haut_Click() {
-    place(centred_left(), Twips{});
+    place(Twips{room_beside().count() / 2}, Twips{});
 }
 
 void DisplayMenu::a_droite_haut_Click() {
-    place(desk_.platform.screen.width - desk_.window.width.get(), Twips{});
+    place(room_beside(), Twips{});
 }
 
 void DisplayMenu::a_gauche_haut_Click() {
@@ -96,7 +98,8 @@ void DisplayMenu::Aligner_liste_Click() {
 
 void DisplayMenu::liste_pleine_largeur_Click() {
     list_follows_ = false;
-    place_list_below(Twips{}, desk_.platform.screen.width);
+    const ScreenArea screen = desk_.platform.screen();
+    place_list_below(screen.left, screen.width);
 }
 
 // A list that isn't on view keeps the place that was stored for it.
@@ -118,10 +121,11 @@ void DisplayMenu::uncover_main_window() {
 // A list that would stand below the screen's lower edge covers the main window's foot instead.
 void DisplayMenu::place_list_below(Twips left, Twips width) {
     Liste_son& list = desk_.list_window;
-    const Twips lowest = desk_.platform.screen.height - list.height.get();
+    const ScreenArea screen = desk_.platform.screen();
+    const Twips lowest = screen.top + screen.height - list.height.get();
     list.left = left;
     list.width = width;
-    list.top = std::max(Twips{}, std::min(desk_.window.top.get() + desk_.window.height.get(), lowest));
+    list.top = std::max(screen.top, std::min(desk_.window.top.get() + desk_.window.height.get(), lowest));
 }
 
 void DisplayMenu::a_mini_Click() {

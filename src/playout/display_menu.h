@@ -48,7 +48,9 @@ private:
     void show_main_window(WindowState state);
     void place(Twips left, Twips top);
     void place_list_below(Twips left, Twips width);
-    [[nodiscard]] Twips centred_left() const;
+    void change_height(Twips from, Twips to);
+    /// What the main window leaves of the screen's width.
+    [[nodiscard]] Twips room_beside() const;
 
     Desk& desk_;
     bool cote_haut_ = false;

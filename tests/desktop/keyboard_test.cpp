@@ -36,6 +36,7 @@ protected:
     [[nodiscard]] int transitions() { return station.chain.nb_fichiers_ecoutes.value(); }
     [[nodiscard]] bool sounds(int deck) { return station.desk.deck(deck).sounds(); }
     QWidget& focus(const Control& control) {
+        take_keyboard();
         QWidget& widget = part(control);
         widget.setFocus(Qt::TabFocusReason);
         EXPECT_TRUE(widget.hasFocus());

@@ -13,6 +13,51 @@ protected:
 
 } // namespace
 
+TEST_F(WindowPlaces, RightOfTheScreenIsNotTaken) {
+    window.show();
+    settle();
+    window.left = Twips{15 * 5000};
+    settle();
+    EXPECT_EQ(view.x() + view.frameGeometry().width(), view.screen()->availableGeometry().right() + 1);
+    EXPECT_EQ(window.left.get(), Twips{15 * view.x()});
+}
+
+TEST_F(WindowPlaces, PartlyRightOfTheScreenIsNotTaken) {
+    window.show();
+    settle();
+    const int right = view.screen()->availableGeometry().right();
+    window.left = Twips{15 * (right - 100)};
+    settle();
+    EXPECT_EQ(view.x() + view.frameGeometry().width(), right + 1);
+}
+
+TEST_F(WindowPlaces, LeftOfTheScreenIsNotTaken) {
+    window.left = Twips{-15 * 200};
+    window.show();
+    settle();
+    EXPECT_EQ(view.x(), view.screen()->availableGeometry().left());
+}
+
+TEST_F(WindowPlaces, AboveTheScreenIsNotTaken) {
+    window.show();
+    settle();
+    window.top = Twips{-15 * 200};
+    settle();
+    EXPECT_EQ(view.y(), view.screen()->availableGeometry().top());
+}
+
+TEST_F(WindowPlaces, ThatTheOperatorChoseBeyondTheScreenIsHis) {
+    window.show();
+    settle();
+    view.move(-50, 40);
+    settle();
+    const QPoint chosen = view.pos();
+    ASSERT_LT(chosen.x(), 0);
+    window.caption = "Radio Port";
+    settle();
+    EXPECT_EQ(view.pos(), chosen);
+}
+
 TEST_F(WindowPlaces, BelowTheScreenIsNotTaken) {
     window.show();
     settle();

@@ -119,6 +119,18 @@ TEST_F(Places, OfTheMainWindowAreTheMiddleAndTheUpperEdgeOfTheScreen) {
     expect_place(0, 0);
 }
 
+TEST_F(Places, AreThoseThatABarOfTheDesktopLeavesFree) {
+    machine.screen = {.left = Twips{600}, .top = Twips{450}, .width = Twips{14000}, .height = Twips{10185}};
+    window.width = Twips{9000};
+    window.height = Twips{7185};
+    window.a_gauche_haut.click();
+    expect_place(600, 450);
+    window.a_droite_haut.click();
+    expect_place(5600, 450);
+    window.A_centre_lecteur.click();
+    expect_place(3100, 1950);
+}
+
 TEST_F(Places, OfTheKeyOfTheSquareAreTheTwoUpperCornersInTurn) {
     window.width = Twips{9360};
     window.key_press(U'²');

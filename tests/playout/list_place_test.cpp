@@ -29,7 +29,7 @@ protected:
 TEST_F(ListPlace, StaysOnTheScreenWhenTheMainWindowGoesDown) {
     list.show();
     window.top = Twips{6000};
-    EXPECT_EQ(list.top.get(), station.desk.platform.screen.height - Twips{4000});
+    EXPECT_EQ(list.top.get(), station.desk.platform.screen().height - Twips{4000});
 }
 
 TEST_F(ListPlace, GoesBelowTheMainWindowThatItWouldHide) {

@@ -19,9 +19,9 @@ namespace {
 
 constexpr int twips_of_pixel = 15;
 
-ScreenSize screen_size() {
-    const QSize pixels = QGuiApplication::primaryScreen()->availableSize();
-    return {Twips{pixels.width() * twips_of_pixel}, Twips{pixels.height() * twips_of_pixel}};
+ScreenArea area_of(const QRect& pixels) {
+    const auto twips = [](int length) { return Twips{length * twips_of_pixel}; };
+    return {twips(pixels.left()), twips(pixels.top()), twips(pixels.width()), twips(pixels.height())};
 }
 
 /// A picture that can't be put in its place is missed where it is shown, by name.
@@ -61,7 +61,9 @@ DeskProgram::~DeskProgram() = default;
 
 Platform DeskProgram::platform() {
     Platform platform = live_.platform(machine_.settings(), dialogs_, shell_, program_folder_);
-    platform.screen = screen_size();
+    platform.screen = [this] {
+        return area_of(desktop_.widget_of(station_.main_window)->screen()->availableGeometry());
+    };
     return platform;
 }
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -30,12 +31,17 @@ Twips twips(int length) {
 }
 
 // A window that has just come doesn't know its own frame yet, but those of one desktop are alike.
-int frame_height() {
-    int height = 0;
+QSize frame_size() {
+    QSize frame{0, 0};
     for (const QWidget* top : QApplication::topLevelWidgets())
         if (dynamic_cast<const WindowView*>(top) != nullptr && top->isVisible())
-            height = std::max(height, top->frameGeometry().height() - top->height());
-    return height;
+            frame = frame.expandedTo(top->frameGeometry().size() - top->size());
+    return frame;
+}
+
+// The place of a length that begins here, brought within the room as far as it fits.
+int within(int start, int length, int room_start, int room_length) {
+    return std::max(room_start, std::min(start, room_start + room_length - length));
 }
 
 } // namespace
@@ -102,17 +108,36 @@ void WindowView::show_place() {
     const QPoint place{pixels(window_.left), pixels(window_.top)};
     const bool is_given = window_.left.is_given() || window_.top.is_given();
     if (is_given && (!was_placed_ || place != pos())) {
-        window_.top = twips(on_screen(place.y()));
-        move(place.x(), pixels(window_.top));
+        const QPoint shown = on_screen(place);
+        window_.left = twips(shown.x());
+        window_.top = twips(shown.y());
+        move(shown);
+        awaits_frame_ = frame_size().isNull();
     }
     was_placed_ = was_placed_ || is_given;
 }
 
-// Where the station would put a window's foot below the screen, the window goes up: the station knows of no frames, and
-// of a window that has not been seen not how large it must be.
-int WindowView::on_screen(int top) const {
-    const int lowest = screen()->availableGeometry().bottom() + 1 - height() - frame_height();
-    return std::min(top, std::max(0, lowest));
+// What the station would put beyond the screen comes back: the station knows of no frames, of a window that has not
+// been seen not how large it must be, and nothing of a screen that is gone since the place was stored.
+QPoint WindowView::on_screen(QPoint place) const {
+    const QSize whole = size() + frame_size();
+    const QRect room = screen_at({place, whole}).availableGeometry();
+    return {within(place.x(), whole.width(), room.x(), room.width()),
+            within(place.y(), whole.height(), room.y(), room.height())};
+}
+
+// The one that shows most of it.
+const QScreen& WindowView::screen_at(const QRect& area) const {
+    const QScreen* best = screen();
+    int most = 0;
+    for (const QScreen* each : QGuiApplication::screens()) {
+        const QSize seen = each->geometry().intersected(area).size();
+        if (seen.width() * seen.height() > most) {
+            most = seen.width() * seen.height();
+            best = each;
+        }
+    }
+    return *best;
 }
 
 // The flag goes to the native window: Qt would take the widget off the screen and put it back.
@@ -144,7 +169,8 @@ void WindowView::place_over_owner() {
     if (was_placed_)
         return;
     const QRect below = owner_->geometry();
-    move(below.center().x() - width() / 2, on_screen(below.top() + below.height() / 3));
+    const QPoint place{below.center().x() - width() / 2, below.top() + below.height() / 3};
+    move(place.x(), on_screen(place).y());
 }
 
 void WindowView::showEvent(QShowEvent* event) {
@@ -161,8 +187,17 @@ void WindowView::showEvent(QShowEvent* event) {
 
 // Not every screen has someone who makes a window active, so being shown counts too.
 void WindowView::activated() {
+    make_room_for_frame();
     if (window_.on_activate && isVisible())
         services_.run_event([this] { window_.activate(); });
+}
+
+// The first window to come was placed before anyone knew how thick frames are.
+void WindowView::make_room_for_frame() {
+    if (!awaits_frame_ || frameGeometry() == geometry())
+        return;
+    awaits_frame_ = false;
+    move(on_screen(pos()));
 }
 
 // Characters reach the window before the part that has the focus, each once: on the way into the native window.

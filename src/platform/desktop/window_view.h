@@ -67,7 +67,8 @@ protected:
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
     void show_place();
-    [[nodiscard]] int on_screen(int top) const;
+    [[nodiscard]] QPoint on_screen(QPoint place) const;
+    [[nodiscard]] const QScreen& screen_at(const QRect& area) const;
     void show_state();
     void place_over_owner();
     void keep_place();
@@ -76,6 +77,7 @@ private:
     void pointer_moved();
     void pass_characters(const QString& text);
     void activated();
+    void make_room_for_frame();
     void show_first_menu();
     [[nodiscard]] bool accepts_text() const;
 
@@ -90,7 +92,8 @@ private:
     bool showing_ = false;
     bool watches_keys_ = false;
     bool was_placed_ = false;
-    int shows_ = 0; ///< How many of the window's were answered.
+    bool awaits_frame_ = false; ///< It was placed while no window had a frame.
+    int shows_ = 0;             ///< How many of the window's were answered.
 };
 
 } // namespace sonarelle

@@ -35,6 +35,7 @@ struct SimulatedPlatform {
     SimulatedMedia media{time, disk};
     Random random;
     SimulatedShell shell;
+    ScreenArea screen;
     Platform platform;
 };
 

@@ -149,7 +149,7 @@ void DisplayMenu::hide_menus() {
     for (Label* label : desk_.window.menu_labels())
         label->visible = true;
     desk_.warning.hide();
-    desk_.window.height = height_without_menus;
+    change_height(height_with_menus, height_without_menus);
 }
 
 void DisplayMenu::show_menus() {
@@ -157,7 +157,13 @@ void DisplayMenu::show_menus() {
         menu->visible = true;
     for (Label* label : desk_.window.menu_labels())
         label->visible = false;
-    desk_.window.height = height_with_menus;
+    change_height(height_without_menus, height_with_menus);
+}
+
+// A size that the operator gave is his.
+void DisplayMenu::change_height(Twips from, Twips to) {
+    if (desk_.window.height.get() == from)
+        desk_.window.height = to;
 }
 
 } // namespace sonarelle

@@ -211,6 +211,21 @@ TEST_F(MenuBar, IsHiddenByAPressOnTheWindow) {
     EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
 }
 
+TEST_F(MenuBar, LeavesTheSizeThatTheOperatorGave) {
+    window.height = Twips{10800};
+    window.click();
+    EXPECT_EQ(window.height.get(), Twips{10800});
+    window.double_click();
+    EXPECT_EQ(window.height.get(), Twips{10800});
+}
+
+TEST_F(MenuBar, ComesBackWhenItIsCalled) {
+    window.click();
+    window.call_menus();
+    EXPECT_TRUE(window.Fichier.visible);
+    EXPECT_FALSE(window.Label12.visible);
+}
+
 TEST_F(MenuBar, ComesBackByADoublePress) {
     window.click();
     window.double_click();

@@ -48,6 +48,8 @@ void DisplayMenu::affiche_tout_Click() {
     choose_view(desk_.window.affiche_tout);
     desk_.window.Aligner_liste.enabled = true;
     show_main_window(WindowState::normal);
+    if (desk_.list_window.state == WindowState::minimised)
+        desk_.list_window.state = WindowState::normal;
     desk_.list_window.show();
 }
 

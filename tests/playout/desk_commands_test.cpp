@@ -120,6 +120,11 @@ TEST_F(VisualEffect, IsHiddenAndTakesNoMoreSound) {
     EXPECT_EQ(stored("Effet visuel"), "Non");
 }
 
+TEST_F(VisualEffect, IsMarkedAsTheOscilloscopeThatItIsFromTheStart) {
+    EXPECT_TRUE(window.A_affichage1.checked);
+    EXPECT_FALSE(window.A_affichage2.checked);
+}
+
 TEST_F(VisualEffect, IsAnOscilloscopeOrASpectrum) {
     window.A_affichage2.click();
     EXPECT_EQ(window.sound_display.Affichage.get(), SoundPicture::spectrum);

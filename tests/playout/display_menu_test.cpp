@@ -80,6 +80,19 @@ TEST_F(Views, OfAllShowsBothWindows) {
     EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
 }
 
+TEST_F(Views, OfAllBringAMinimisedListBack) {
+    list.show();
+    list.state = WindowState::minimised;
+    window.affiche_tout.click();
+    EXPECT_EQ(list.state.get(), WindowState::normal);
+}
+
+TEST_F(Views, OfAllLeaveAMaximisedListAsItIs) {
+    list.state = WindowState::maximised;
+    window.affiche_tout.click();
+    EXPECT_EQ(list.state.get(), WindowState::maximised);
+}
+
 TEST_F(Views, AlwaysOnTopKeepsTheMainWindowThereUntilAnotherIsChosen) {
     window.hide();
     window.affiche_toujour.click();

@@ -11,7 +11,8 @@ namespace sonarelle {
 
 DesktopFileDialog::DesktopFileDialog(const PathForms& paths, QWidget* parent) : QFileDialog{parent}, paths_{paths} {
     setObjectName("FileDialog");
-    setOption(QFileDialog::DontUseNativeDialog); // a native one can't be kept open over a name that is refused
+    setOption(QFileDialog::DontUseNativeDialog);  // a native one can't be kept open over a name that is refused
+    setOption(QFileDialog::DontConfirmOverwrite); // the station asks itself
 }
 
 void DesktopFileDialog::begin_at(const std::string& folder, const std::string& file) {

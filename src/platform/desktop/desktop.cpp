@@ -13,6 +13,7 @@
 #include "platform/desktop/main_view.h"
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/qt_text.h"
+#include "platform/desktop/small_player_view.h"
 #include "platform/desktop/studio_style.h"
 #include "platform/failure.h"
 #include "playout/air_view.h"
@@ -27,7 +28,7 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
     if (auto* list = dynamic_cast<Liste_son*>(&window))
         return std::make_unique<ListView>(*list, services);
     if (auto* player = dynamic_cast<mini_lecteur*>(&window))
-        return small_player_view(*player, services);
+        return std::make_unique<SmallPlayerView>(*player, services);
     if (auto* splash = dynamic_cast<Chargement*>(&window))
         return splash_view(*splash, services);
     if (auto* properties = dynamic_cast<Propriete*>(&window))
@@ -68,6 +69,8 @@ Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopS
             main_ = main;
         if (auto* list = dynamic_cast<ListView*>(views_.back().get()))
             list_ = list;
+        if (auto* player = dynamic_cast<SmallPlayerView*>(views_.back().get()))
+            player_ = player;
     }
     for (const auto& view : views_)
         if (main_ != nullptr && opens_over_the_desk(view->window_value()))
@@ -97,14 +100,14 @@ void Desktop::watch(Control& control, std::function<void()> show) {
 
 // What is told in one window and read at a glance in the other.
 void Desktop::connect_readings() {
-    if (main_ == nullptr || list_ == nullptr)
+    if (main_ == nullptr || list_ == nullptr || player_ == nullptr)
         return;
     watch(desk_.list_window.Label4, [this] { show_list(); });
     watch(desk_.list_window.Label1, [this] { show_list(); });
     watch(desk_.window.Text1, [this] { show_decks(); });
     for (DeckControls& deck : desk_.window.decks)
         for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
-                                                                &deck.playing_mark, &deck.play})
+                                                                &deck.playing_mark, &deck.play, &deck.pause})
             watch(*control, [this] { show_decks(); });
     QObject::connect(&second_, &QTimer::timeout, &second_, [this] { show_second(); });
     second_.setSingleShot(true);
@@ -157,6 +160,7 @@ void Desktop::show_air() {
                      .silence = {}});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});
+    player_->show_air(air_role(desk_), title);
 }
 
 QString Desktop::what_follows() {

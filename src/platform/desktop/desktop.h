@@ -18,6 +18,7 @@ namespace sonarelle {
 
 class ListView;
 class MainView;
+class SmallPlayerView;
 class WindowView;
 
 /// The sound outputs that the operator may choose from, as the option menu offers them. The empty name is the default
@@ -74,6 +75,7 @@ private:
     std::vector<std::unique_ptr<WindowView>> views_;
     MainView* main_ = nullptr;
     ListView* list_ = nullptr;
+    SmallPlayerView* player_ = nullptr;
     QTimer second_;
     QString clock_; ///< Of the second that is shown, in both windows.
     OutputChoice outputs_;

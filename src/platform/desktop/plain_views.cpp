@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "accessories/chargement.h"
-#include "accessories/mini_lecteur.h"
 #include "accessories/propriete.h"
 #include "platform/desktop/panel.h"
 #include "platform/desktop/progress_strip.h"
@@ -73,31 +72,6 @@ std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& ser
     view->setMinimumSize(form->sizeHint().expandedTo(least_form).boundedTo(greatest_form));
     view->resize(view->minimumSize());
     view->watch(*area);
-    return view;
-}
-
-std::unique_ptr<WindowView> small_player_view(mini_lecteur& window, const DesktopServices& services) {
-    auto view = std::make_unique<WindowView>(window, services, QSize{420, 74});
-    Dresser dresser{*view};
-    const std::array<std::pair<GraphicButton*, const char*>, 7> buttons{{{&window.Command6, "◀◀"},
-                                                                         {&window.Command1, "▶"},
-                                                                         {&window.Command3, "■"},
-                                                                         {&window.Command7, "▶▶"},
-                                                                         {&window.Command2, "⇥"},
-                                                                         {&window.Command4, "☰"},
-                                                                         {&window.Command5, "✕"}}};
-    auto* panel = new Panel;
-    auto* row = new QHBoxLayout{panel};
-    auto* seconds = dresser.label(
-        window.label1,
-        {.pixels = 28, .bold = true, .digits = true, .characters = 4, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    row->addWidget(seconds);
-    for (const auto& [button, symbol] : buttons)
-        row->addWidget(dresser.button(*button, symbol), 1);
-    auto* column = new QVBoxLayout{&view->content()};
-    column->setContentsMargins(6, 6, 6, 6);
-    column->addWidget(panel);
-    add_rest(dresser, *column);
     return view;
 }
 

@@ -6,13 +6,9 @@ namespace sonarelle {
 
 struct Chargement;
 struct Propriete;
-struct mini_lecteur;
 
 /// A window shown as a form of its parts.
 [[nodiscard]] std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services);
-
-/// The small player: seven buttons in a row and the remaining seconds.
-[[nodiscard]] std::unique_ptr<WindowView> small_player_view(mini_lecteur& window, const DesktopServices& services);
 
 /// The splash: its picture alone.
 [[nodiscard]] std::unique_ptr<WindowView> splash_view(Chargement& window, const DesktopServices& services);

@@ -1,0 +1,102 @@
+// The small player on the screen: what it says, and its keys.
+#include "desktop/whole_desk_bench.h"
+#include "platform/desktop/station_label.h"
+
+namespace sonarelle {
+
+namespace {
+
+class PlayerOnView : public WholeDesk {
+protected:
+    PlayerOnView() {
+        window.a_mini.click();
+        settle();
+        take_keyboard(&view());
+    }
+
+    void play() {
+        for (const int deck : {1, 2}) {
+            const std::string path = "C:\\Musique\\titre " + std::to_string(deck) + ".mp3";
+            machine.add_track(path, 100);
+            machine.dialogs.expect_open(path);
+            window.deck(deck).open.click();
+        }
+        window.deck(1).play.click();
+        machine.run_for(seconds(30));
+        settle();
+    }
+    static Frames seconds(int count) { return Frames{std::int64_t{count} * 48000}; }
+    [[nodiscard]] QWidget& view() { return widget_of(station.small_player); }
+    [[nodiscard]] StationLabel& label(const char* name) { return *view().findChild<StationLabel*>(name); }
+    void press(Qt::Key code, const QString& text) {
+        key(view(), code, text);
+        settle();
+    }
+    QWidget& focus(const Control& control) {
+        auto& widget = *view().findChild<QWidget*>(QString::fromStdString(control.name()));
+        widget.setFocus(Qt::TabFocusReason);
+        return widget;
+    }
+    [[nodiscard]] bool sounds() { return station.desk.deck(1).sounds(); }
+};
+
+} // namespace
+
+TEST_F(PlayerOnView, SaysThatItIsOnTheAirAndWhatPlays) {
+    play();
+    EXPECT_EQ(label("player_state").text(), "● À L'ANTENNE");
+    EXPECT_EQ(label("player_title").text(), "titre 1");
+}
+
+TEST_F(PlayerOnView, SaysThatTheDeckIsPaused) {
+    play();
+    press(Qt::Key_P, "p");
+    EXPECT_EQ(label("player_state").text(), "II EN PAUSE");
+}
+
+TEST_F(PlayerOnView, ShowsNoSecondsOfADeckThatHasStopped) {
+    play();
+    EXPECT_TRUE(label("label1").isVisible());
+    press(Qt::Key_Space, " ");
+    EXPECT_EQ(label("player_state").text(), "■ EN ATTENTE");
+    EXPECT_FALSE(label("label1").isVisible());
+}
+
+TEST_F(PlayerOnView, HasTheKeyboardItself) {
+    EXPECT_EQ(view().focusWidget(), &view());
+}
+
+TEST_F(PlayerOnView, SpaceBarStopsWhateverButtonHasTheKeyboard) {
+    play();
+    focus(station.small_player.Command7);
+    press(Qt::Key_Space, " ");
+    EXPECT_FALSE(sounds());
+}
+
+TEST_F(PlayerOnView, ReturnPressesTheButtonThatHasTheKeyboard) {
+    play();
+    press(Qt::Key_Space, " ");
+    focus(station.small_player.Command1);
+    press(Qt::Key_Return, "\r");
+    EXPECT_TRUE(sounds());
+}
+
+TEST_F(PlayerOnView, TakesEachLetterOfItsKeysInBothCases) {
+    QString seen;
+    station.small_player.on_key_press = [&](char32_t c) { seen += QString::fromUcs4(&c, 1); };
+    const QString letters = "sSzZlLqQpPfFaAoO";
+    for (const QChar c : letters)
+        press(QTest::asciiToKey(c.toLatin1()), c);
+    press(Qt::Key_Escape, "\x1b");
+    EXPECT_EQ(seen, letters + "\x1b");
+}
+
+TEST_F(PlayerOnView, OpensTheMainWindowsMenuWhileThatIsHidden) {
+    press(Qt::Key_O, "o");
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), "Option_");
+    menu->close();
+}
+
+} // namespace sonarelle

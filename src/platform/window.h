@@ -61,10 +61,10 @@ public:
     void activate() const { raise(on_activate); }
     /// He reduced it; a `state` that the station sets is none of his doing.
     void reduce() const { raise(on_reduce); }
-    /// Shows a menu at the pointer.
-    void popup(MenuItem& menu) {
+    /// Shows a menu under one of its parts, or at the pointer.
+    void popup(MenuItem& menu, const Control* under = nullptr) {
         if (on_popup)
-            on_popup(menu);
+            on_popup(menu, under);
     }
 
     Property<std::string> caption{*this, {}};
@@ -88,7 +88,7 @@ public:
     std::function<void()> on_move;
     std::function<void()> on_reduce;
     std::function<void()> on_unload_request;
-    std::function<void(MenuItem&)> on_popup;
+    std::function<void(MenuItem&, const Control* under)> on_popup;
 
 private:
     friend class Control;

@@ -74,12 +74,12 @@ void QuickLoad::choose(const Box& box) {
     desk_.list.index_destinataire = box.box.selected + 1;
     record_.lire();
     chosen_ = desk_.destination;
-    desk_.window.popup(box.menu);
+    desk_.window.popup(box.menu, &box.box);
 }
 
 void QuickLoad::press_key(const Box& box, char32_t key) {
     if (key == U' ')
-        desk_.window.popup(box.menu);
+        desk_.window.popup(box.menu, &box.box);
 }
 
 // The chain reads rows of its own while the menu waits for the operator.

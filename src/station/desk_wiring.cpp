@@ -129,7 +129,9 @@ void DeskWiring::connect_menu_labels() {
     Antenne_FM& window = station_.main_window;
     const auto labels = window.menu_labels();
     for (std::size_t place = 0; place < window.menu_bar.size(); ++place)
-        labels[place]->on_click = [&window, menu = window.menu_bar[place]] { window.popup(*menu); };
+        labels[place]->on_click = [&window, menu = window.menu_bar[place], label = labels[place]] {
+            window.popup(*menu, label);
+        };
     window.Label19.on_click = [this] { shutdown.Quitter__Click(); };
     connect_hover(window, labels, station_.settings);
     const std::array about_labels{&station_.about_window.site};

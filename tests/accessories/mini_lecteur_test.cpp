@@ -219,7 +219,7 @@ TEST_F(SmallPlayerKeys, OfQuittingAskFirst) {
 
 TEST_F(SmallPlayerKeys, OpenTheMenusOfTheMainWindow) {
     std::vector<std::string> opened;
-    window.on_popup = [&](MenuItem& menu) { opened.push_back(menu.name()); };
+    window.on_popup = [&](MenuItem& menu, const Control*) { opened.push_back(menu.name()); };
     for (const char32_t key : {U'a', U'A', U'o', U'O'})
         player.key_press(key);
     EXPECT_THAT(opened, ElementsAre("affiche", "affiche", "Option_", "Option_"));

@@ -367,7 +367,7 @@ TEST_F(Windows, PassKeysWhenTheyPreviewThem) {
 TEST_F(Windows, PassTheMenuThatTheyPopUp) {
     MenuItem menu{window, "Load_Pl"};
     MenuItem* shown = nullptr;
-    window.on_popup = [&](MenuItem& item) { shown = &item; };
+    window.on_popup = [&](MenuItem& item, const Control*) { shown = &item; };
     window.popup(menu);
     EXPECT_EQ(shown, &menu);
 }

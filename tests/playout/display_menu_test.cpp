@@ -13,7 +13,7 @@ class DisplayMenuTest : public DeskBench {
 protected:
     DisplayMenuTest() {
         start();
-        window.on_popup = [this](MenuItem& menu) { opened.push_back(menu.name()); };
+        window.on_popup = [this](MenuItem& menu, const Control*) { opened.push_back(menu.name()); };
     }
 
     [[nodiscard]] std::vector<std::string> checked_views() {
@@ -295,6 +295,14 @@ TEST_F(DisplayMenuTest, TheSmallPlayerTakesThePlaceOfAReducedMainWindow) {
     window.reduce();
     EXPECT_TRUE(station.small_player.visible);
     EXPECT_FALSE(window.visible);
+}
+
+TEST_F(DisplayMenuTest, KeysOfTheFilesPressTheirEntry) {
+    int presses = 0;
+    window.A_gere.on_click = [&] { ++presses; };
+    window.key_press(U'f');
+    window.key_press(U'F');
+    EXPECT_EQ(presses, 2);
 }
 
 TEST_F(DisplayMenuTest, F2OpensTheListWindow) {

@@ -15,7 +15,7 @@ constexpr std::string_view favourites = "C:\\Listes\\favoris.dfm";
 class QuickLoadTest : public ChainBench {
 protected:
     QuickLoadTest() {
-        window.on_popup = [this](MenuItem& menu) { opened.push_back(menu.name()); };
+        window.on_popup = [this](MenuItem& menu, const Control*) { opened.push_back(menu.name()); };
     }
 
     void put_list(std::string_view path, int tracks) {

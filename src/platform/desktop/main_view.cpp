@@ -11,8 +11,11 @@
 #include "platform/desktop/button_bindings.h"
 #include "platform/desktop/colours.h"
 #include "platform/desktop/level_meter.h"
+#include "platform/desktop/mnemonics.h"
+#include "platform/desktop/qt_text.h"
 #include "platform/desktop/remaining_parts.h"
 #include "platform/desktop/sound_picture.h"
+#include "platform/desktop/text_bindings.h"
 
 namespace sonarelle {
 
@@ -22,7 +25,8 @@ constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 
 constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
 constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
 constexpr StationLabel::Style trouble{.pixels = 14, .bold = true, .characters = 24};
-constexpr StationLabel::Style menu_word{.pixels = 13, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
+constexpr StationLabel::Style menu_word{
+    .pixels = 13, .framed = true, .underlined = true, .characters = 8, .alignment = Qt::AlignCenter};
 
 StationLabel* text_label(const StationLabel::Style& style, const QString& text = {}) {
     auto* label = new StationLabel{style};
@@ -69,14 +73,20 @@ void MainView::build_rows(const SoundReading& sound) {
     rows->addWidget(foot);
 }
 
-// They stand for the menu bar while it is hidden.
+// They stand for the menu bar while it is hidden, and answer to the same letters.
 QWidget* MainView::menu_labels() {
     auto* line = new QWidget;
     line->setMouseTracking(true); // or the window would hear of no moves between the labels
     auto* row = new QHBoxLayout{line};
     row->setContentsMargins(0, 0, 0, 0);
-    for (Label* label : window_.menu_labels())
+    QStringList captions;
+    for (const Label* label : window_.menu_labels())
+        captions += to_qt(label->caption);
+    const QStringList marked = with_mnemonics(captions);
+    for (qsizetype place = 0; Label * label : window_.menu_labels()) {
         row->addWidget(dresser_.label(*label, menu_word));
+        static_cast<LabelBinding*>(binding_of(*label))->set_access(marked[place++]);
+    }
     row->addStretch(1);
     return line;
 }

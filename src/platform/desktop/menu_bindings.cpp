@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/desktop/colours.h"
+#include "platform/desktop/mnemonics.h"
 #include "platform/desktop/qt_text.h"
 
 namespace sonarelle {
@@ -67,7 +68,7 @@ void MenuItemBinding::show_value() {
 
 MenuBindings::MenuBindings(Window& window, QWidget& widget, const DesktopServices& services)
     : window_{window}, widget_{widget}, services_{services} {
-    window_.on_popup = [this](MenuItem& item) { popup(item); };
+    window_.on_popup = [this](MenuItem& item, const Control* under) { popup(item, under); };
     for (Control* control : window.controls())
         if (control->kind() == ControlKind::menu_item)
             static_cast<void>(entry(static_cast<MenuItem&>(*control)));
@@ -104,13 +105,21 @@ void MenuBindings::fill(QMenuBar& bar) {
 }
 
 void MenuBindings::show_bar(QMenuBar& bar) const {
+    QStringList captions;
+    for (const MenuItem* item : window_.menu_bar)
+        captions += to_qt(item->caption);
+    const QStringList marked = with_mnemonics(captions);
+    for (qsizetype place = 0; place < marked.size(); ++place)
+        bar.actions()[place]->setText(marked[place]);
     bar.setVisible(std::ranges::any_of(window_.menu_bar, [](const MenuItem* item) { return item->visible.get(); }));
 }
 
 // Opens without waiting: the handler that asked for it goes on.
-void MenuBindings::popup(MenuItem& item) {
+void MenuBindings::popup(MenuItem& item, const Control* under) {
+    const auto* part = under == nullptr ? nullptr : widget_.findChild<QWidget*>(to_qt(under->name()));
+    const bool is_seen = part != nullptr && part->isVisible();
     if (QMenu* menu = entry(item).menu())
-        menu->popup(QCursor::pos());
+        menu->popup(is_seen ? part->mapToGlobal(part->rect().bottomLeft()) : QCursor::pos());
 }
 
 } // namespace sonarelle

@@ -47,7 +47,7 @@ public:
 
     /// The bar goes while all its menus are hidden.
     void fill(QMenuBar& bar);
-    void popup(MenuItem& item);
+    void popup(MenuItem& item, const Control* under = nullptr);
     /// The entry's action, for a tool button or a shortcut.
     [[nodiscard]] QAction& action(MenuItem& item);
     [[nodiscard]] QMenu* menu(MenuItem& item) { return entry(item).menu(); }

@@ -120,8 +120,13 @@ void StationLabel::paint_text(QPainter& painter, const QRect& area) const {
     else if (style_.digits)
         paint_in_cells(painter, area);
     else
-        painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine,
-                         fontMetrics().elidedText(text_, Qt::ElideRight, area.width()));
+        paint_line(painter, area);
+}
+
+void StationLabel::paint_line(QPainter& painter, const QRect& area) const {
+    const int marks = style_.underlined ? Qt::TextShowMnemonic : 0;
+    painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine | marks,
+                     fontMetrics().elidedText(text_, Qt::ElideRight, area.width(), marks));
 }
 
 // Digits in cells of the widest one, so that nothing jumps when a second passes.

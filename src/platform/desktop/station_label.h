@@ -12,11 +12,12 @@ public:
     struct Style {
         int pixels = 14; ///< At the system's usual text size; grows with it.
         bool bold = false;
-        bool quiet = false;   ///< A heading or an aside.
-        bool digits = false;  ///< In cells of one width.
-        bool framed = false;  ///< Drawn as a button.
-        bool wrapped = false; ///< As many lines as it takes.
-        int characters = 12;  ///< The width that it asks for.
+        bool quiet = false;      ///< A heading or an aside.
+        bool digits = false;     ///< In cells of one width.
+        bool framed = false;     ///< Drawn as a button.
+        bool underlined = false; ///< The letter behind a mark in the text.
+        bool wrapped = false;    ///< As many lines as it takes.
+        int characters = 12;     ///< The width that it asks for.
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
 
@@ -51,6 +52,7 @@ private:
     [[nodiscard]] QColor ground() const;
     [[nodiscard]] QColor ink() const;
     void paint_frame(QPainter& painter) const;
+    void paint_line(QPainter& painter, const QRect& area) const;
     void paint_in_cells(QPainter& painter, const QRect& area) const;
 
     Style style_;

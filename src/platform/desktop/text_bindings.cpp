@@ -39,10 +39,16 @@ LabelBinding::LabelBinding(Label& label, StationLabel& widget, const DesktopServ
     connect(access_, &QShortcut::activated, this, [this] { run([this] { label_.click(); }); });
 }
 
+void LabelBinding::set_access(const QString& marked_caption) {
+    marked_ = marked_caption;
+    services().updates.mark(*this);
+}
+
 void LabelBinding::show_state() {
-    text_.set_text(caption());
+    const QString marked = marked_.isEmpty() ? to_qt(label_.caption) : marked_;
+    text_.set_text(marked_.isEmpty() ? caption() : marked_);
     if (access_ != nullptr)
-        access_->setKey(access_keys(label_.caption));
+        access_->setKey(access_keys(from_qt(marked)));
 }
 
 QString LabelBinding::caption() const {

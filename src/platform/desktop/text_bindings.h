@@ -15,6 +15,9 @@ class LabelBinding : public Binding {
 public:
     LabelBinding(Label& label, StationLabel& widget, const DesktopServices& services);
 
+    /// The caption with a mark before the letter that calls it with Alt, where the station's has none.
+    void set_access(const QString& marked_caption);
+
 protected:
     void show_state() override;
     [[nodiscard]] QString caption() const override;
@@ -22,6 +25,7 @@ protected:
 private:
     Label& label_;
     StationLabel& text_;
+    QString marked_;
     QShortcut* access_ = nullptr; ///< The widget's; null for a text that is no button.
 };
 

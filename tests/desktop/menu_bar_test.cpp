@@ -67,6 +67,16 @@ TEST_F(BarOfTheDesk, ComesBackByF10WithItsFirstMenuOpen) {
     EXPECT_EQ(open_menu(), "Fichier");
 }
 
+// The hand that goes over to another program by Alt and Tab.
+TEST_F(BarOfTheDesk, TakesNoLetterByAltAlone) {
+    std::u32string seen;
+    window.on_key_press = [&](char32_t c) { seen += c; };
+    key(Qt::Key_Alt);
+    type(u"p");
+    EXPECT_EQ(seen, U"p");
+    EXPECT_EQ(open_menu(), "");
+}
+
 TEST_F(BarOfTheDesk, MenuOfAWordThatStandsForItOpensUnderTheWord) {
     press_ground();
     QWidget& word = part(window.Label14);

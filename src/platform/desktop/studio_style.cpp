@@ -55,4 +55,10 @@ void StudioStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         draw_focus(*painter, option->rect);
 }
 
+// Alt alone, as on the way to another program, would give the letters to the menu bar.
+int StudioStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const {
+    return hint == SH_MenuBar_AltKeyNavigation ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 } // namespace sonarelle

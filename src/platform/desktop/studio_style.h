@@ -20,6 +20,8 @@ public:
                       const QString& text, QPalette::ColorRole role) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* data) const override;
 };
 
 } // namespace sonarelle

@@ -237,4 +237,31 @@ TEST_F(FileOfOneSecond, AndLessFailsInAListLoad) {
     EXPECT_FALSE(station.chain.file_too_short);
 }
 
+TEST_F(DeckOpening, ReadiesItsOwnDeckAndNoOtherBesideTheMainOne) {
+    play_list_for(5);
+    open_on(3, song);
+    EXPECT_TRUE(controls(3).play.enabled);
+    EXPECT_TRUE(controls(3).zap.enabled);
+    EXPECT_FALSE(controls(2).play.enabled);
+    EXPECT_FALSE(controls(1).open.enabled);
+    EXPECT_TRUE(controls(2).open.enabled);
+}
+
+TEST_F(DeckOpening, AfterARowLeavesNoEndOfIt) {
+    play_list_for(5);
+    rows().select(2);
+    station.list_window.char2.click();
+    open_on(2, song);
+    EXPECT_EQ(station.desk.deck(2).fin_piste, "");
+    EXPECT_FALSE(station.desk.deck(2).volume_piste);
+}
+
+TEST_F(DeckOpening, ShowsTheRecordOfARowThatIsLoadedByHand) {
+    play_list_for(5);
+    rows().select(3);
+    station.list_window.char3.click();
+    EXPECT_EQ(controls(3).title.caption.get(), "00:01:40 ( titre 3 )");
+    EXPECT_EQ(station.main_window.Text2.text(), track(3));
+}
+
 } // namespace sonarelle

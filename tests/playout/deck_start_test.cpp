@@ -126,4 +126,93 @@ TEST_F(DeckStartTest, ZapButtonOfTheMainDeckIsOnBehindTheOverlapAndTheOtherOff) 
     EXPECT_FALSE(controls(1).zap.enabled);
 }
 
+TEST_F(DeckStartTest, TakesPlayAndZapFromTheOtherDecks) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(94));
+    for (const int other : {1, 3}) {
+        EXPECT_FALSE(controls(other).play.enabled);
+        EXPECT_FALSE(controls(other).zap.enabled);
+        EXPECT_TRUE(controls(other).open.enabled || other == 3);
+    }
+    EXPECT_TRUE(controls(2).play.enabled);
+    EXPECT_TRUE(controls(2).zap.enabled);
+    EXPECT_FALSE(controls(2).open.enabled);
+}
+
+TEST_F(DeckStartTest, ByHandLeavesTheOtherDecksTheirButtonsInManualMode) {
+    open_on_all({100, 100, 100});
+    station.main_window.a_mode_manuel.click();
+    controls(1).play.click();
+    EXPECT_TRUE(controls(2).play.enabled);
+    EXPECT_TRUE(controls(3).play.enabled);
+}
+
+TEST_F(DeckStartTest, ByHandLeavesTheOtherDecksTheirSoundInManualMode) {
+    open_on_all({100, 100, 100});
+    station.main_window.a_mode_manuel.click();
+    controls(2).play.click();
+    controls(1).play.click();
+    EXPECT_EQ(machine.media.on_air(), (std::vector<std::string>{track(2), track(1)}));
+}
+
+TEST_F(DeckStartTest, TurnsItsTitleAndNoOtherOnesInAChain) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(94));
+    EXPECT_TRUE(controls(2).scroll_timer.enabled());
+    EXPECT_FALSE(controls(1).scroll_timer.enabled());
+}
+
+TEST_F(DeckStartTest, MarksTheMainDeckAlone) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(94));
+    EXPECT_FALSE(controls(1).playing_mark.visible);
+    EXPECT_TRUE(controls(2).playing_mark.visible);
+}
+
+TEST_F(DeckStartTest, CountsItsMixPointFromItsOwnBeginning) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(milliseconds(40500));
+    controls(1).zap.click();
+    machine.run_for(seconds(95));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {40.5, 2}, {134.5, 3}}));
+}
+
+TEST_F(DeckStartTest, FillsTheMarkersOfARunOnce) {
+    open_tracks({100, 100, 100});
+    start_list();
+    station.list.index_en_cours = 2;
+    machine.add_track("C:\\main.mp3", 100);
+    open_on(2, "C:\\main.mp3");
+    controls(2).play.click();
+    EXPECT_EQ(station.chain.index_debut_aleatoire, 2);
+    EXPECT_EQ(station.chain.index_debut_aleatoire1, 2);
+    station.list.index_en_cours = 3;
+    controls(2).play.click();
+    EXPECT_EQ(station.chain.index_debut_aleatoire, 2);
+}
+
+TEST_F(DeckStartTest, NamesTheTrackOnTheSmallPlayerAndTheListWindow) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(94));
+    EXPECT_EQ(station.small_player.caption.get(), "titre 2");
+    EXPECT_EQ(station.list_window.Label2.caption.get(), "titre 2");
+    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+}
+
+TEST_F(DeckStartTest, WithoutAFadeCutsTheTrackBefore) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    station.main_window.Désactive_audio.click();
+    machine.run_for(seconds(50));
+    controls(2).play.enabled = true;
+    controls(2).play.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(2)});
+}
+
 } // namespace sonarelle

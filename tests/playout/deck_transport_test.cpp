@@ -236,4 +236,71 @@ TEST_F(DeckTransportTest, UnloadOfTheFadingDeckEndsItsSound) {
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
 }
 
+TEST_F(DeckTransportTest, StopClearsTheMarkersOfTheRun) {
+    play_list_for(20);
+    station.chain.index_debut_aleatoire = station.chain.index_debut_aleatoire1 = 4;
+    controls(1).stop.click();
+    EXPECT_EQ(station.chain.index_debut_aleatoire, 0);
+    EXPECT_EQ(station.chain.index_debut_aleatoire1, 0);
+}
+
+TEST_F(DeckTransportTest, StopOfAPausedDeckEndsItsPausesSign) {
+    play_list_for(20);
+    controls(1).pause.click();
+    controls(1).stop.click();
+    EXPECT_EQ(controls(1).pause.caption.get(), "II");
+}
+
+TEST_F(DeckTransportTest, StopInTheChainOverDecksNamesTheDeck) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(2).play.click();
+    controls(2).stop.click();
+    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play 2");
+}
+
+TEST_F(DeckTransportTest, StopFreesTheOpenButtonAndTheListsClock) {
+    play_list_for(196);
+    station.list_window.Label13.enabled = false;
+    controls(2).stop.click();
+    EXPECT_TRUE(controls(2).open.enabled);
+    EXPECT_TRUE(station.list_window.Label13.enabled);
+}
+
+TEST_F(DeckTransportTest, StopOfAListPutsItsTimerOnAndUnchecksTheChainsFadeRule) {
+    play_list_for(20);
+    station.main_window.Active_audio_jingles.click();
+    station.main_window.Timer4.disable();
+    controls(1).stop.click();
+    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_FALSE(station.main_window.Active_audio_jingles.checked);
+}
+
+TEST_F(DeckTransportTest, PauseFreesThePlayButtonAndResumeTakesItBack) {
+    play_list_for(20);
+    controls(1).play.enabled = false;
+    controls(1).pause.click();
+    EXPECT_TRUE(controls(1).play.enabled);
+    controls(1).pause.click();
+    EXPECT_FALSE(controls(1).play.enabled);
+}
+
+TEST_F(DeckTransportTest, PauseGivesTheSliderOfTheStartBack) {
+    play_list_for(20);
+    controls(1).slider.set_value(6);
+    controls(1).pause.click();
+    EXPECT_EQ(controls(1).slider.value(), 0);
+}
+
+TEST_F(DeckTransportTest, UnloadClosesAPicturesWindow) {
+    machine.add_track("C:\\film.wmv", 60);
+    machine.media.set_video("C:\\film.wmv");
+    open_on(1, "C:\\film.wmv");
+    controls(1).play.click();
+    controls(1).stop.click();
+    station.chain.lecteur_en_cours = 2;
+    station.main_window.A_décharge_1.click();
+    EXPECT_EQ(machine.media.graphs(), 0U);
+}
+
 } // namespace sonarelle

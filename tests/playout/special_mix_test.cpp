@@ -214,4 +214,75 @@ TEST_F(SpecialMixTest, LoadLeadIsShownInTheHintOfItsSwitch) {
     EXPECT_FALSE(window.Timer1.enabled());
 }
 
+TEST_F(SpecialMixTest, PauseOfItsDeckGivesTheTrackItsVolumeAndResumeLowersItAgain) {
+    play_list_with_jingle_on(2);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(1));
+    controls(2).pause.click();
+    EXPECT_EQ(controls(1).slider.value(), 0);
+    controls(2).pause.click();
+    EXPECT_EQ(controls(1).slider.value(), 2);
+}
+
+TEST_F(SpecialMixTest, ReadiesThePauseOfItsDeck) {
+    play_list_with_jingle_on(2);
+    controls(2).pause.enabled = false;
+    controls(2).special_mix.click();
+    EXPECT_TRUE(controls(2).pause.enabled);
+}
+
+TEST_F(SpecialMixTest, TakesAOneOffListeningBack) {
+    play_list_with_jingle_on(2);
+    station.chain.ecoute_demandee = true;
+    controls(2).special_mix.click();
+    EXPECT_TRUE(station.chain.ecoute_demandee.is_false());
+}
+
+TEST_F(SpecialMixTest, ShowsTheStationsBanner) {
+    play_list_with_jingle_on(2);
+    controls(2).special_mix.click();
+    EXPECT_EQ(window.Label7.caption.get(), "- - " + station.settings.nom_radio + " - -");
+}
+
+TEST_F(SpecialMixTest, BarShowsHowFarItIs) {
+    play_list_with_jingle_on(2);
+    machine.media.set_length("C:\\jingle.mp3", 20);
+    controls(2).special_mix.click();
+    machine.run_for(seconds(4));
+    EXPECT_EQ(controls(2).progress.maximum, 20);
+    EXPECT_EQ(controls(2).progress.value, 4);
+}
+
+TEST_F(SpecialMixTest, RuleOfTheChainWithoutAMixIsTakenBackAtTheNextTick) {
+    play_list_with_jingle_on(2);
+    window.Active_audio_jingles.click();
+    machine.run_for(seconds(1));
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_EQ(window.Label10.caption.get(), "Chargement rapide");
+}
+
+TEST_F(SpecialMixTest, RuleOfTheChainWithoutAMixBecomesTheFadeOnZapOverDecks) {
+    open_on_all({100, 60, 100});
+    window.coche2.click();
+    controls(1).play.click();
+    window.Active_audio_jingles.click();
+    machine.run_for(seconds(1));
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_TRUE(window.Active_audio_zapping.checked);
+}
+
+TEST_F(SpecialMixTest, OfTheMainDeckDoesNothing) {
+    play_list_with_jingle_on(2);
+    controls(1).special_mix.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+}
+
+TEST_F(SpecialMixTest, OneUnderTheAirLowersByTheStationsSteps) {
+    play_list_with_jingle_on(2);
+    station.settings.mix_audio_attenuation = 5;
+    controls(2).special_mix.click();
+    EXPECT_EQ(controls(1).slider.value(), 5);
+}
+
 } // namespace sonarelle

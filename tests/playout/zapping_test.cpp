@@ -244,4 +244,56 @@ TEST_F(ZappingTest, FromAFileThatBelongsToNoRowLeavesTheEndsOfTheList) {
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), before);
 }
 
+TEST_F(ZappingTest, ShowsTheRowInTheListAndJournalsIt) {
+    station.main_window.Active_journal.click();
+    start_and_run(50);
+    station.list_window.Image2.click();
+    EXPECT_EQ(rows().selected(), 2);
+    EXPECT_EQ(station.chain.element_en_cours, 2);
+    EXPECT_NE(journal_text().find(" ZAPPING sur ----> : " + track(2)), std::string::npos);
+}
+
+TEST_F(ZappingTest, ThatIsRefusedReadiesTheListsImages) {
+    start_and_run(20);
+    station.list_window.Image1.enabled = false;
+    machine.dialogs.expect_box("secondes minimun", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_TRUE(station.list_window.Image1.enabled);
+    EXPECT_TRUE(station.list_window.Image2.enabled);
+}
+
+TEST_F(ZappingTest, TellsTheLoadOnceBehindTheLoadStep) {
+    start_and_run(190);
+    station.list_window.Image2.click();
+    EXPECT_EQ(times_of(Kind::loaded).size(), 2U);
+}
+
+TEST_F(ZappingTest, OverDecksOntoAFileThatIsGoneSaysSo) {
+    open_on_all({100, 100, 100});
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    machine.run_for(seconds(5));
+    machine.disk.Kill(track(2));
+    machine.dialogs.expect_box("Fichier non trouvé /abandon", Answer::ok);
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
+TEST_F(ZappingTest, ByTheButtonInManualModeDoesNothing) {
+    open_on_all({100, 100, 100});
+    station.main_window.a_mode_manuel.click();
+    controls(1).play.click();
+    controls(1).zap.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
+}
+
+TEST_F(ZappingTest, ThatLeavesAShorterRecordThanItsTrackIsToldToTheListsRows) {
+    start_and_run(50);
+    station.list_window.Image2.click();
+    machine.run_for(seconds(10));
+    EXPECT_EQ(station.list.ligne_en_lecture, 2);
+    EXPECT_EQ(rows().sub_item(2, 2), "200.00");
+}
+
 } // namespace sonarelle

@@ -37,8 +37,8 @@ void DeckLoading::load_record(Deck& deck) {
         return;
     }
     take_record(deck);
-    DestinationRecord& record = desk_.destination;
-    deck.volume_piste = attenuation_of_percent(record.dest_volume.value()).value_or(record.dest_volume.value());
+    if (const int percent = desk_.destination.dest_volume.value(); percent > 0) // 0 is none that was ever set
+        deck.volume_piste = attenuation_of_percent(percent);
     desk_.chain.nom_fichier_source = deck.path;
     nom_du_fich();
     ErrorIndicator errors;

@@ -150,7 +150,7 @@ void MixEngine::start_special_mix(Deck& deck) {
     desk_.window.Label7.caption = desk_.station_banner();
     deck.mix_en_cours = 1;
     deck.controls.special_mix.enabled = false;
-    warn_of_long_mix(deck);
+    ErrorIndicator{}.skip([&] { warn_of_long_mix(deck); });
 }
 
 void MixEngine::warn_of_long_mix(const Deck& deck) {

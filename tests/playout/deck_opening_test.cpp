@@ -159,6 +159,18 @@ TEST_F(DeckOpening, StartsAsLoudAsItsSliderShowsWhateverRecordWasRead) {
     EXPECT_EQ(controls(3).slider.value(), 3);
 }
 
+TEST_F(DeckOpening, RecordOfAQuickLoadHasItsVolumeInPercent) {
+    play_list_for(5);
+    for (const auto& [percent, attenuation] : {std::pair{50, -2000}, std::pair{100, 0}, std::pair{0, 0}}) {
+        station.destination.dest_chemin = song;
+        station.destination.dest_volume = percent;
+        station.deck_loading.charge_3();
+        controls(3).play.enabled = true;
+        controls(3).play.click();
+        EXPECT_EQ(station.desk.deck(3).graph().get_Volume(), Millibel{attenuation}) << percent;
+    }
+}
+
 TEST_F(DeckOpening, IsNamedByItsOwnDeckWhileTheListRuns) {
     play_list_for(90);
     open_on(3, song);

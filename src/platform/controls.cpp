@@ -18,13 +18,15 @@ void OptionButton::show_value(bool chosen) {
     if (chosen)
         for (OptionButton* other : group_.options_)
             if (other != this)
-                other->value_ = false;
+                other->show_value(false);
     value_ = chosen;
+    in_force_ = false;
 }
 
 void OptionButton::set_value(bool chosen) {
-    const bool before = value_;
+    const bool before = in_force_;
     show_value(chosen);
+    in_force_ = chosen;
     if (chosen && !before)
         raise(on_click);
 }

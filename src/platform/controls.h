@@ -138,7 +138,7 @@ public:
     [[nodiscard]] bool value() const { return value_; }
     /// Choosing it clears the others of its group, and raises its click; clearing raises nothing.
     void set_value(bool chosen);
-    /// Chooses it for the eye alone.
+    /// Chooses it for the eye alone: it isn't in force, and choosing it raises its click.
     void show_value(bool chosen);
     void click() {
         if (is_reachable())
@@ -151,6 +151,7 @@ public:
 private:
     OptionGroup& group_;
     Property<bool> value_{*this, false};
+    bool in_force_ = false;
 };
 
 class Slider : public Control {

@@ -160,6 +160,18 @@ TEST_F(Options, ShownItRaisesNothingAndClearsTheOthers) {
     EXPECT_FALSE(one.value());
 }
 
+TEST_F(Options, ShownItIsNotInForceAndAClickRaisesItsClick) {
+    OptionGroup group;
+    OptionButton option{window, group, "option"};
+    int clicks = 0;
+    option.on_click = [&clicks] { ++clicks; };
+    option.show_value(true);
+    option.click();
+    EXPECT_EQ(clicks, 1);
+    option.click();
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(Options, OneThatIsGoneLeavesItsGroup) {
     OptionGroup group;
     OptionButton one{window, group, "Option1"};

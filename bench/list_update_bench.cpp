@@ -87,6 +87,7 @@ class OneByOne final : public Media {
 public:
     explicit OneByOne(Media& media) : media_{media} {}
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override { return media_.create_graph(); }
+    [[nodiscard]] ProgrammeSilence silence() const override { return media_.silence(); }
 
 private:
     Media& media_;

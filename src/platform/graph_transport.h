@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "platform/media.h"
 #include "platform/units.h"
 
@@ -27,6 +29,12 @@ public:
     [[nodiscard]] double position(Frames now) const {
         const Frames at = frame(now);
         return at < end() ? in_seconds(at) : duration_;
+    }
+
+    /// When it has run since its last command, up to now; its end is the last frame.
+    [[nodiscard]] RunningSpans::Span running_span(Frames now) const {
+        const bool runs = state_ == MediaState::running && position_ < end();
+        return {since_, runs ? std::min(now, since_ + (end() - position_)) : since_};
     }
 
     void run(Frames now) { change(MediaState::running, now); }

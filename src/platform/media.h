@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/lengths_ahead.h"
+#include "platform/programme_silence.h"
 #include "platform/units.h"
 
 namespace sonarelle {
@@ -52,6 +53,9 @@ public:
 
     /// An empty graph. Dropping the last reference to it stops and frees it.
     [[nodiscard]] virtual std::shared_ptr<MediaGraph> create_graph() = 0;
+
+    /// When the graphs together were silent. Cheap; may be asked several times a second.
+    [[nodiscard]] virtual ProgrammeSilence silence() const = 0;
 
     /// Measures many files ahead of the one who wants their lengths; must not outlive the media. At first: each by a
     /// graph, when its length is taken.

@@ -61,6 +61,34 @@ TEST(ProgrammeBus, CountsTheFramesThatItHasMade) {
     EXPECT_EQ(*std::max_element(out.begin(), out.end()), 0.0F);
 }
 
+TEST(ProgrammeBus, IsSilentFromItsLastLoudFrameOn) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->Run();
+    bench.run_for(seconds(1));
+    EXPECT_EQ(bench.bus.silence().since, bench.bus.silence().known);
+    bench.run_for(seconds(4));
+    EXPECT_NEAR(in_seconds(bench.bus.silence().since), 1, 0.001);
+    EXPECT_EQ(bench.bus.silence().known, seconds(5));
+}
+
+TEST(ProgrammeBus, TellsWhereALongSilenceEnded) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
+    bench.time.at(seconds(3), [&] { graph->Run(); });
+    bench.run_for(seconds(4));
+    EXPECT_NEAR(in_seconds(bench.bus.silence().until), 3, 0.011); // behind the ramp of the start
+}
+
+TEST(ProgrammeBus, TakesSoundBelowMinusSixtyDecibelsForSilence) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
+    graph->put_Volume(Millibel{-9000});
+    graph->Run();
+    bench.run_for(seconds(3));
+    EXPECT_LT(bench.bus.silence().since, milliseconds(11)); // the ramp of the volume
+}
+
 TEST(Limiter, PassesWhatStaysBelowOneDecibelBitForBit) {
     Limiter limiter;
     std::vector<float> frames;

@@ -216,6 +216,42 @@ TEST_F(GraphLog, LeavesOutWhatAnEmptyGraphDidNotDo) {
     EXPECT_THAT(media.log(), IsEmpty());
 }
 
+TEST_F(GraphTime, MediaAreSilentWhileNoGraphRuns) {
+    graph->RenderFile(track);
+    time.run_for(seconds(5));
+    graph->Run();
+    time.run_for(seconds(10));
+    EXPECT_EQ(media.silence().since, media.silence().known);
+    EXPECT_EQ(media.silence().until, seconds(5));
+    graph->Stop();
+    time.run_for(seconds(3));
+    EXPECT_EQ(media.silence().since, seconds(15));
+}
+
+TEST_F(GraphTime, MediaAreSilentBehindTheEndOfAFile) {
+    graph->RenderFile(track);
+    graph->Run();
+    time.run_for(seconds(210));
+    EXPECT_EQ(media.silence().since, seconds(200));
+}
+
+TEST_F(GraphTime, MediaAreSilentFromWhereAGraphIsDropped) {
+    graph->RenderFile(track);
+    graph->Run();
+    time.run_for(seconds(7));
+    graph.reset();
+    time.run_for(seconds(7));
+    EXPECT_EQ(media.silence().since, seconds(7));
+}
+
+TEST_F(GraphTime, AQuietFileIsSilence) {
+    media.set_quiet(track);
+    graph->RenderFile(track);
+    graph->Run();
+    time.run_for(seconds(7));
+    EXPECT_EQ(media.silence().since, Frames{});
+}
+
 } // namespace
 
 } // namespace sonarelle

@@ -1,6 +1,7 @@
 #include "platform/audio/programme_bus.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace sonarelle {
 
@@ -89,7 +90,26 @@ void ProgrammeBus::mix(std::span<float> out) noexcept {
         voice->add_to(out, real_time_.position);
     real_time_.limiter.apply(out);
     taps_.take(out, real_time_.position);
+    note_sound(out);
     real_time_.position += Frames{static_cast<std::int64_t>(out.size() / 2)};
+}
+
+// Looked for from the end: while there is sound, the first look finds it.
+void ProgrammeBus::note_sound(std::span<const float> out) noexcept {
+    const auto sounds = [](float sample) { return std::fabs(sample) >= silence_level; };
+    const auto last = std::find_if(out.rbegin(), out.rend(), sounds);
+    if (last == out.rend())
+        return;
+    const std::int64_t begin = real_time_.position.count();
+    if (begin - silent_since_.load(std::memory_order_relaxed) >= silence_told_after.count())
+        silent_until_.store(begin + (std::ranges::find_if(out, sounds) - out.begin()) / 2, std::memory_order_relaxed);
+    silent_since_.store(begin + (out.rend() - last + 1) / 2, std::memory_order_relaxed);
+}
+
+ProgrammeSilence ProgrammeBus::silence() const {
+    const Frames known = rendered(); // whose block has been noted by then
+    return {Frames{silent_since_.load(std::memory_order_relaxed)},
+            Frames{silent_until_.load(std::memory_order_relaxed)}, known};
 }
 
 void ProgrammeBus::unlist_done_voices() noexcept {

@@ -7,6 +7,7 @@
 #include "platform/audio/command_queue.h"
 #include "platform/audio/limiter.h"
 #include "platform/audio/retired.h"
+#include "platform/programme_silence.h"
 #include "platform/units.h"
 
 namespace sonarelle {
@@ -31,6 +32,8 @@ public:
     /// The greatest block asked for so far.
     [[nodiscard]] Frames greatest_block() const { return Frames{greatest_block_.load(std::memory_order_relaxed)}; }
     [[nodiscard]] BusTaps& taps() { return taps_; }
+    /// When what it made was silent.
+    [[nodiscard]] ProgrammeSilence silence() const;
 
     // From the window thread.
 
@@ -53,6 +56,7 @@ private:
     void obey_due_commands() noexcept;
     void list(Voice& voice) noexcept;
     void mix(std::span<float> out) noexcept;
+    void note_sound(std::span<const float> out) noexcept;
     void unlist_done_voices() noexcept;
 
     CommandQueue commands_;
@@ -61,6 +65,8 @@ private:
     std::atomic<std::int64_t> rendered_{0};
     std::atomic<std::int64_t> greatest_block_{0};
     std::atomic<std::int64_t> late_{0};
+    std::atomic<std::int64_t> silent_since_{0};
+    std::atomic<std::int64_t> silent_until_{0};
     RealTime real_time_;
 };
 

@@ -4,12 +4,15 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/audio/file_opener.h"
 #include "platform/clock.h"
 #include "platform/media.h"
 
 namespace sonarelle {
+
+class SilentGraph;
 
 /// Graphs that take the length of their files and make no sound: for rehearsals of which only the seconds are wanted.
 /// Outlives its graphs. From the window thread.
@@ -22,6 +25,7 @@ public:
         : clock_{clock}, opener_{std::move(files), DiskPatience{}}, resolve_{std::move(resolve)} {}
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
+    [[nodiscard]] ProgrammeSilence silence() const override;
     [[nodiscard]] std::unique_ptr<LengthsAhead> measure_ahead() override;
 
 private:
@@ -30,6 +34,8 @@ private:
     Clock& clock_;
     FileOpener opener_;
     Resolve resolve_;
+    std::vector<const SilentGraph*> graphs_;
+    RunningSpans spans_; // of commands that are over
 };
 
 } // namespace sonarelle

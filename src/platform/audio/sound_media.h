@@ -39,6 +39,7 @@ public:
     SoundMedia& operator=(const SoundMedia&) = delete;
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
+    [[nodiscard]] ProgrammeSilence silence() const override { return bus_.silence(); }
     [[nodiscard]] std::unique_ptr<LengthsAhead> measure_ahead() override;
 
     /// Frees what the bus has let go of, ends threads whose graphs are gone, and reports troubles. To be called now and

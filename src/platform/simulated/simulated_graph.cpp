@@ -11,11 +11,13 @@ SimulatedGraph::SimulatedGraph(SimulatedMedia& media, int number) : media_{media
 }
 
 SimulatedGraph::~SimulatedGraph() {
+    close_span();
     std::erase(media_.graphs_, this);
     log(MediaAction::dropped);
 }
 
 void SimulatedGraph::RenderFile(std::string_view path) {
+    close_span();
     file_ = media_.open(path);
     path_ = path;
     transport_.open(file_.seconds);
@@ -25,6 +27,7 @@ void SimulatedGraph::RenderFile(std::string_view path) {
 void SimulatedGraph::Run() {
     if (is_empty())
         return;
+    close_span();
     transport_.run(now());
     log(MediaAction::run);
 }
@@ -32,6 +35,7 @@ void SimulatedGraph::Run() {
 void SimulatedGraph::Pause() {
     if (is_empty())
         return;
+    close_span();
     transport_.pause(now());
     log(MediaAction::paused);
 }
@@ -39,6 +43,7 @@ void SimulatedGraph::Pause() {
 void SimulatedGraph::Stop() {
     if (is_empty())
         return;
+    close_span();
     transport_.stop(now());
     log(MediaAction::stopped);
 }
@@ -48,6 +53,7 @@ double SimulatedGraph::get_CurrentPosition() const {
 }
 
 void SimulatedGraph::put_CurrentPosition(double position) {
+    close_span();
     transport_.put_position(position, now());
     log(MediaAction::position, position);
 }
@@ -66,6 +72,15 @@ void SimulatedGraph::put_Caption(std::string_view caption) {
 
 bool SimulatedGraph::is_heard() const {
     return transport_.state() == MediaState::running && transport_.frame(now()) < transport_.end();
+}
+
+RunningSpans::Span SimulatedGraph::sounding_span() const {
+    const RunningSpans::Span span = transport_.running_span(now());
+    return file_.silent || file_.quiet ? RunningSpans::Span{span.from, span.from} : span;
+}
+
+void SimulatedGraph::close_span() {
+    media_.spans_.add(sounding_span());
 }
 
 Frames SimulatedGraph::now() const {

@@ -33,10 +33,13 @@ public:
 
     [[nodiscard]] const std::string& path() const { return path_; }
     [[nodiscard]] bool is_heard() const;
+    /// When it has sounded since its last command.
+    [[nodiscard]] RunningSpans::Span sounding_span() const;
 
 private:
     [[nodiscard]] bool is_empty() const { return path_.empty(); }
     [[nodiscard]] Frames now() const;
+    void close_span();
     void log(MediaAction action, double value = 0, std::string_view text = {});
 
     SimulatedMedia& media_;

@@ -22,6 +22,13 @@ std::vector<std::string> SimulatedMedia::on_air() const {
     return paths;
 }
 
+ProgrammeSilence SimulatedMedia::silence() const {
+    RunningSpans spans = spans_;
+    for (const SimulatedGraph* graph : graphs_)
+        spans.add(graph->sounding_span());
+    return spans.at(clock_.now());
+}
+
 SimulatedMedia::File& SimulatedMedia::facts_of(std::string_view path) {
     return files_[lower_case(disk_.absolute(path))];
 }

@@ -34,12 +34,15 @@ public:
     SimulatedMedia(Clock& clock, Disk& disk) : clock_{clock}, disk_{disk} {}
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
+    [[nodiscard]] ProgrammeSilence silence() const override;
 
     void set_length(std::string_view path, double seconds) { facts_of(path).seconds = seconds; }
     /// The file has pictures.
     void set_video(std::string_view path) { facts_of(path).video = true; }
     /// The file has no sound: its volume can't be set.
     void set_silent(std::string_view path) { facts_of(path).silent = true; }
+    /// The file sounds below -60 dBFS.
+    void set_quiet(std::string_view path) { facts_of(path).quiet = true; }
     void set_unplayable(std::string_view path) { facts_of(path).seconds = -1; }
 
     /// All commands, in order.
@@ -58,6 +61,7 @@ private:
         double seconds = -1; ///< Below 0: can't be played.
         bool video = false;
         bool silent = false;
+        bool quiet = false;
     };
 
     File& facts_of(std::string_view path);
@@ -70,6 +74,7 @@ private:
     std::map<std::string, File> files_; // absolute path in lower case
     std::vector<MediaCommand> log_;
     std::vector<const SimulatedGraph*> graphs_;
+    RunningSpans spans_; // of commands that are over
     int created_ = 0;
 };
 

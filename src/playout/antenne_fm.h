@@ -65,6 +65,8 @@ struct Antenne_FM : MainMenus {
     Timer Timer8; ///< Insertion of jingles by draw.
     Timer Timer9; ///< Insertion of list items by draw.
 
+    /// What the chain lives on.
+    [[nodiscard]] std::array<Timer*, 4> chain_timers() { return {&Timer1, &Timer2, &Timer3, &Timer4}; }
     /// What stands for the menus, in the order of the menu bar; the last one quits.
     [[nodiscard]] std::array<Label*, 8> menu_labels() {
         return {&Label12, &Label13, &Label14, &Label15, &Label16, &Label17, &Label18, &Label19};

@@ -27,10 +27,7 @@ void ChainModes::a_mode_manuel_Click() {
     desk_.chain.ordre_aleatoire = false;
     desk_.window.Timer2.disable();
     desk_.window.Timer4.disable();
-    desk_.window.coche2.set_value(true);
-    // Choosing the decks' chain may have put it back to automatic: by hand is what was asked for.
-    check_only(desk_.window.chain_modes(), desk_.window.a_mode_manuel);
-    desk_.window.Timer2.disable();
+    desk_.window.coche2.set_value(true); // which, by hand, chooses no chain
     desk_.window.coche2.caption = "Mix Manuel";
     for (Deck& deck : desk_.decks) {
         deck.controls.play.enabled = true;
@@ -38,6 +35,7 @@ void ChainModes::a_mode_manuel_Click() {
     }
     set_special_mixes(false);
     desk_.chain.lecteur_en_cours = 0;
+    desk_.set_air(AirState::off);
 }
 
 void ChainModes::a_mode_auto_Click() {
@@ -70,6 +68,7 @@ void ChainModes::switch_chain(bool from_list) {
         desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     desk_.window.Timer4.set_enabled(from_list);
     desk_.window.Timer1.enable();
+    desk_.show_list_start();
 }
 
 void ChainModes::set_special_mixes(bool enabled) {
@@ -94,7 +93,10 @@ void ChainModes::A_a_zapping_Click() {
     desk_.list_window.A_a_zapping.checked = desk_.chain.mode_enchainement.is_true();
 }
 
+// By hand it stands for the manual mode.
 void ChainModes::coche2_Click() {
+    if (desk_.is_manual())
+        return;
     a_mode_auto_Click();
     desk_.list.index_en_cours = 1;
     desk_.chain.mode_enchainement = false;
@@ -146,6 +148,7 @@ void ChainModes::Option1_Click() {
     desk_.chain.preecoute_active = false;
     desk_.window.Timer2.enable();
     desk_.window.Timer4.disable();
+    desk_.show_list_start();
     mix_.Active_audio_zapping_Click();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
     if (desk_.has_main_deck())
@@ -171,6 +174,7 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
     desk_.chain.mode_enchainement = true;
     desk_.window.Timer4.enable();
     desk_.window.Timer2.disable();
+    desk_.show_list_start();
     mix_.Active_audio_Click();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
     desk_.list_window.Label3.caption = std::string{empty_counter};
@@ -226,6 +230,7 @@ void ChainModes::Image13_Click() {
     desk_.window.Timer1.enable();
     desk_.window.Timer2.disable();
     desk_.chain.mode_enchainement = true;
+    desk_.show_list_start();
 }
 
 } // namespace sonarelle

@@ -1,11 +1,19 @@
 #pragma once
 
-#include <array>
+#include <optional>
 #include <string>
 
 #include "platform/numbers.h"
+#include "platform/units.h"
 
 namespace sonarelle {
+
+/// Whether the air is to sound.
+enum class AirState {
+    off,   ///< Nothing was started yet, or the operator has stopped it.
+    on,    ///< A deck was started, and the chain follows.
+    failed ///< A fault has stopped the chain, or its start.
+};
 
 /// What the routines of the decks and of the chain share.
 struct ChainState {
@@ -56,6 +64,10 @@ struct ChainState {
     Integer lecteur_mix_special; ///< The deck of the special mix; 0 for none.
     Integer compteur_aleatoire;  ///< Tracks started since the last jingle.
     Integer compteur_aleatoire1;
+
+    AirState air = AirState::off;
+    Frames air_since;                   ///< When it left `off`.
+    std::optional<Frames> silent_since; ///< Begin of the silence that is told now.
 
     Flag journal_actif;
     std::string ligne_journal;

@@ -15,6 +15,8 @@ void DeckTransport::stop(Deck& deck) {
     deck.controls.special_mix.enabled = true;
     if (deck.path.empty())
         return;
+    if (desk_.chain.lecteur_en_cours == deck.number())
+        desk_.set_air(AirState::off);
     deck.controls.title.caption = std::string{waiting_title};
     start_.clear_display(deck);
     desk_.window.Timer3.disable();
@@ -55,6 +57,8 @@ void DeckTransport::toggle_pause(Deck& deck) {
         volume_.vol_pour_stop();
     } else {
         deck.graph().Run();
+        if (desk_.chain.lecteur_en_cours == deck.number())
+            desk_.set_air(AirState::on); // it may have been stopped
         if (deck.mix_en_cours != 0)
             volume_.vol_pour_mix_spc();
     }

@@ -45,7 +45,7 @@ void DeckVolume::show(Deck& deck) {
 }
 
 void DeckVolume::apply_record(Deck& deck) {
-    if (desk_.window.coche2.value() || !deck.has_graph())
+    if (desk_.mixes_titles() || !deck.has_graph())
         return;
     const int attenuation = desk_.destination.dest_volume.value();
     ErrorIndicator errors;
@@ -58,7 +58,7 @@ void DeckVolume::apply_record(Deck& deck) {
 }
 
 void DeckVolume::apply_start(Deck& deck) {
-    if (!deck.volume_piste || desk_.window.coche2.value())
+    if (!deck.volume_piste || desk_.mixes_titles())
         return adjust(deck);
     desk_.destination.dest_volume = *deck.volume_piste;
     apply_record(deck);

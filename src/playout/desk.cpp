@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
+#include "platform/text.h"
 
 namespace sonarelle {
 
@@ -24,6 +25,32 @@ Deck& Desk::main_deck() {
     if (!has_main_deck())
         throw Failure{failure_number::no_object, "lecteur en cours"};
     return deck(chain.lecteur_en_cours.value());
+}
+
+const Deck& Desk::main_deck() const {
+    if (!has_main_deck())
+        throw Failure{failure_number::no_object, "lecteur en cours"};
+    return decks[static_cast<std::size_t>(chain.lecteur_en_cours.value() - 1)];
+}
+
+void Desk::set_air(AirState state) {
+    if (chain.air == AirState::off)
+        chain.air_since = platform.clock.now();
+    chain.air = state;
+    show_list_start();
+}
+
+void Desk::show_list_start() const {
+    const bool runs = list_runs();
+    list_window.Image1.enabled = !runs;
+    list_window.lect_liste.enabled = !runs;
+}
+
+bool Desk::list_runs() const {
+    const int row = list.ligne_en_lecture.value();
+    const bool chained = chain.mode_enchainement.is_true() && window.Timer4.enabled();
+    return chain.air == AirState::on && chained && has_main_deck() && row >= 1 && row <= row_count() &&
+           equal_ignoring_case(list_window.ListView1.text(row), main_deck().path);
 }
 
 void Desk::show_on_small_player(const std::string& name) {

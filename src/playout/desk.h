@@ -36,8 +36,11 @@ struct Desk {
     [[nodiscard]] bool has_main_deck() const { return chain.lecteur_en_cours >= 1 && chain.lecteur_en_cours <= 3; }
     /// @throws Failure 91 without one.
     [[nodiscard]] Deck& main_deck();
+    [[nodiscard]] const Deck& main_deck() const;
 
     [[nodiscard]] bool is_manual() const { return window.a_mode_manuel.checked; }
+    /// The chain over decks is chosen. A hard stop of the list shows it without choosing it.
+    [[nodiscard]] bool mixes_titles() const { return window.coche2.value() && !chain.mode_enchainement.is_true(); }
     /// The elapsed second of the main deck, as the label has it. @throws Failure 13 for a text that is no number.
     [[nodiscard]] Integer elapsed() const { return to_integer(window.Label5.caption.get(), platform.decimal_mark); }
     [[nodiscard]] int row_count() const { return list_window.ListView1.count(); }
@@ -55,6 +58,12 @@ struct Desk {
         if (on_event)
             on_event(event);
     }
+    /// Keeps whether the air is to sound, and whether a list can be started.
+    void set_air(AirState state);
+    /// The main deck plays a row of the list, and the list chain follows.
+    [[nodiscard]] bool list_runs() const;
+    /// The list can be started while it doesn't run.
+    void show_list_start() const;
     /// Reports that a deck holds the current row's file.
     void report_loaded(const Deck& deck) const;
     /// An information box under the station's title.

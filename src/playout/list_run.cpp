@@ -13,6 +13,8 @@ ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTranspo
       reading_{reading}, save_dialog_{save_dialog}, document_{document} {}
 
 void ListRun::Image1_Click() {
+    if (desk_.row_count() == 0)
+        return desk_.inform("La liste est vide");
     desk_.list_window.Image1.picture = std::string{lamp_on_picture};
     ErrorIndicator{}.skip([this] { start_selected_row(); });
 }
@@ -25,7 +27,7 @@ void ListRun::start_selected_row() {
     desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
-    for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2, &desk_.list_window.Image1})
+    for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2})
         button->enabled = true;
     reading_.lire_enreg_destinataire();
     if (is_on_air() && !can_be_played(desk_.destination.dest_chemin)) {
@@ -44,9 +46,6 @@ void ListRun::start_row(Integer row) {
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
-    // A fault may have put the chain off. In the mode of the full length no load puts it on again.
-    if (desk_.chain.mode_enchainement.is_true())
-        desk_.window.Timer4.enable();
     desk_.report_loaded(desk_.deck(1));
     stop_other_decks();
     run_.lect_liste();
@@ -58,7 +57,8 @@ bool ListRun::is_on_air() const {
 
 // On a graph of its own: a row that can't be played leaves the air as it is.
 bool ListRun::can_be_played(const std::string& path) const {
-    return ErrorIndicator{}.skip([&] { desk_.platform.media.create_graph()->RenderFile(path); });
+    const auto graph = desk_.platform.media.create_graph();
+    return ErrorIndicator{}.skip([&] { graph->RenderFile(path); }) && graph->get_Duration() >= shortest_good_file;
 }
 
 // The list begins on the first deck alone.
@@ -90,6 +90,7 @@ void ListRun::Image3_Click() {
     for (Deck& deck : desk_.decks)
         transport_.stop(deck);
     desk_.chain.lecteur_en_cours = 0;
+    desk_.set_air(AirState::off);
     desk_.list_window.Label3.caption = "Liste";
     desk_.list_window.Label12.caption = "Zapping autorisé";
     document_.a_mettre_Enabled();

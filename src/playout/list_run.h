@@ -23,11 +23,13 @@ public:
     /// Shows the row that plays.
     void Image4_Click();
 
+    /// Whether a file opens and has something to play.
+    [[nodiscard]] bool can_be_played(const std::string& path) const;
+
 private:
     void start_selected_row();
     void start_row(Integer row);
     [[nodiscard]] bool is_on_air() const;
-    [[nodiscard]] bool can_be_played(const std::string& path) const;
     void stop_other_decks();
     void select_a_row();
     void choose_a_reading_mode();

@@ -2,20 +2,35 @@
 
 #include <string>
 
+#include "platform/units.h"
+
 namespace sonarelle {
 
 /// What happened on the air, for whoever follows a run.
 struct OnAirEvent {
-    enum class Kind { loaded, started, fade_began, cut, inserted, removed, stopped };
+    enum class Kind {
+        loaded,
+        started,
+        fade_began,
+        cut,
+        inserted,
+        removed,
+        stopped,
+        silence,      ///< For 2 s, while a chain was to play.
+        silence_over, ///< After `span`.
+        resumed       ///< The list was taken up again after a fault, and `span` of silence.
+    };
 
     Kind kind = Kind::started;
     int deck = 0;
     int row = 0;
-    std::string path;
-    std::string end; ///< End point of a loaded deck, seconds as text.
-    int overlap = 0; ///< Seconds, of a started deck.
+    std::string path = {};
+    std::string end = {}; ///< End point of a loaded deck, seconds as text.
+    int overlap = 0;      ///< Seconds, of a started deck.
     int load_lead = 0;
-    std::string text; ///< Why a list was stopped.
+    std::string text = {}; ///< Why a list was stopped.
+    Frames span = {};
+    Frames ago = {}; ///< How long before now it was.
 };
 
 } // namespace sonarelle

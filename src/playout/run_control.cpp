@@ -13,8 +13,13 @@ RunControl::RunControl(Desk& desk, DeckLoading& loading, DeckStart& start, DeckV
                                                                                                         document} {}
 
 void RunControl::lect_liste() {
+    if (desk_.row_count() == 0)
+        return desk_.inform("La liste est vide");
     if (desk_.chain.chemin_lecture.empty())
         return;
+    // A fault may have put the chain off. In the mode of the full length no load puts it on again.
+    if (desk_.chain.mode_enchainement.is_true())
+        desk_.window.Timer4.enable();
     desk_.deck(1).controls.zap.enabled = true;
     desk_.window.coche3.set_value(true);
     desk_.chain.lecteur_en_cours = 1;
@@ -28,12 +33,13 @@ void RunControl::Start_liste() {
     try {
         start_first_deck();
     } catch (const Failure&) {
+        desk_.set_air(AirState::failed);
         report_failed_start(desk_.chain.chemin_lecture);
     }
 }
 
 void RunControl::report_failed_start(const std::string& path) {
-    desk_.list_window.Image1.enabled = true;
+    desk_.show_list_start();
     desk_.list_window.Label1.caption = "Non trouvé";
     desk_.warn("Recherche de fichier\nDemarrage liste\n" + path +
                "\n / format / lecture impossible  \nabandon lecture liste");
@@ -83,6 +89,7 @@ void RunControl::show_first_deck(Deck& deck) {
     desk_.window.Label7.caption = desk_.station_banner();
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == 1;
+    desk_.set_air(AirState::on);
     desk_.report({OnAirEvent::Kind::started,
                   1,
                   desk_.list.index_en_cours.value(),
@@ -103,7 +110,10 @@ void RunControl::write_start(const std::string& path) {
 }
 
 void RunControl::stoppe_liste(const std::string& reason) {
-    desk_.window.Timer2.disable();
+    for (Timer* timer : desk_.window.chain_timers())
+        timer->disable();
+    if (end_walks)
+        end_walks();
     journal_.note(desk_.chain.ligne_journal); // in a list an empty line, which sets the run off
     desk_.chain.ligne_journal.clear();
     for (Deck& deck : desk_.decks)
@@ -113,7 +123,8 @@ void RunControl::stoppe_liste(const std::string& reason) {
     desk_.window.Label5.caption = "0";
     desk_.window.Label7.caption = "Play en attente";
     desk_.window.Label10.caption = "Chargement rapide";
-    desk_.report({OnAirEvent::Kind::stopped, 0, 0, {}, {}, 0, 0, reason});
+    desk_.set_air(AirState::failed);
+    desk_.report({.kind = OnAirEvent::Kind::stopped, .text = reason});
 }
 
 void RunControl::stoppe_list() {
@@ -129,15 +140,15 @@ void RunControl::detecte_fichier_liste() {
     desk_.window.Text2.set_text(path);
     if (is_network_path(path))
         return;
+    const std::string folder{folder_of_path(path)};
+    const std::string name{name_of_path(path)};
     desk_.platform.disk.ChDrive(path);
+    desk_.platform.disk.ChDir(folder);
     if (desk_.platform.disk.Dir(path).empty()) {
         remove_row();
         path.clear();
         return;
     }
-    const std::string folder{folder_of_path(path)};
-    const std::string name{name_of_path(path)};
-    desk_.platform.disk.ChDir(folder);
     if (equal_ignoring_case(desk_.platform.disk.Dir(join_path(folder, name)), name)) {
         path = join_path(folder, name);
         return;

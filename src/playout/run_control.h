@@ -23,13 +23,16 @@ public:
     /// Warns that a list can't start with this file.
     void report_failed_start(const std::string& path);
 
-    /// The hard stop of the chain. The deck that plays goes on.
+    /// The hard stop of the chain by a fault: none of its timers and walks goes on. The deck that plays does.
     void stoppe_liste(const std::string& reason);
+    /// Ends the chain's walks over the rows.
+    std::function<void()> end_walks;
     /// The soft stop, before a deck is loaded by hand from a quick load list.
     void stoppe_list();
 
-    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row without a file is removed.
-    /// @throws Failure 68 for a drive that isn't there.
+    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row whose folder is there and
+    /// doesn't hold it is removed.
+    /// @throws Failure when its drive or folder doesn't answer: 68, 76 and others.
     void detecte_fichier_liste();
 
     /// Removes the current row, whose file can't be played, saves the list and says so.

@@ -73,7 +73,7 @@ void Zapping::refuse_too_early() {
     tell("Action mpossible avec l'option :\nMode enchainement auto liste prédéfini\ndu menu Option\n" +
              text_of(desk_.settings.valeur_max_jingles) + " secondes minimun sont demandées",
          Icon::warning);
-    desk_.list_window.Image1.enabled = true;
+    desk_.show_list_start();
     desk_.list_window.Image2.enabled = true;
     desk_.list_window.Label12.caption = "Zapping autorisé";
 }

@@ -59,6 +59,20 @@ TEST_F(ChainModesTest, ManualPutsTheChainOff) {
     EXPECT_EQ(station.chain.lecteur_en_cours, 0);
 }
 
+TEST_F(ChainModesTest, ManualLeavesTheTickAndTheRowOfTheListAlone) {
+    window.Active_journal.click();
+    std::vector<std::string> lines;
+    station.journal.on_line = [&lines](const std::string& line) { lines.push_back(line); };
+    open_on_all({100, 100, 100});
+    window.a_mode_predefini.click();
+    window.Timer1.disable();
+    station.list.index_en_cours = 5;
+    window.a_mode_manuel.click();
+    EXPECT_FALSE(window.Timer1.enabled());
+    EXPECT_EQ(station.list.index_en_cours, 5);
+    EXPECT_TRUE(lines.empty());
+}
+
 TEST_F(ChainModesTest, ManualFreesTheDecksAndBarsTheSpecialMixes) {
     open_on_all({100, 100, 100});
     for (DeckControls& deck : window.decks) {

@@ -1,5 +1,7 @@
 #include "playout/run_control.h"
 
+#include <functional>
+
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -16,6 +18,16 @@ protected:
         station.list.chemin_fichier = path;
         station.run_control.detecte_fichier_liste();
         return station.list.chemin_fichier;
+    }
+    void play_a_file_by_hand() {
+        machine.add_track("C:\\main.mp3", 100);
+        open_on(2, "C:\\main.mp3");
+        controls(2).play.click();
+        machine.run_for(seconds(10));
+    }
+    [[nodiscard]] bool list_can_be_started() {
+        EXPECT_EQ(station.list_window.Image1.enabled, station.list_window.lect_liste.enabled);
+        return station.list_window.Image1.enabled;
     }
     [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
 };
@@ -78,6 +90,7 @@ TEST_F(RunControlTest, ListStartMakesTheFirstDeckTheMainOne) {
 }
 
 TEST_F(RunControlTest, ListStartWithoutAFileDoesNothing) {
+    open_tracks({100});
     station.run_control.lect_liste();
     EXPECT_EQ(station.chain.lecteur_en_cours, 0);
     EXPECT_FALSE(station.main_window.coche3.value());
@@ -150,28 +163,102 @@ TEST_F(RunControlTest, ListStartedInTheDecksModePlaysItsRowAlone) {
     EXPECT_EQ(rows_started(), std::vector<int>{1});
 }
 
-TEST_F(RunControlTest, ListStartedAgainIsHeardAlone) {
+TEST_F(RunControlTest, ListStartedOverAFileThatPlaysIsHeardAlone) {
     open_tracks({100, 100, 100});
-    start_list();
-    machine.run_for(seconds(97));
+    play_a_file_by_hand();
     rows().select(3);
-    station.list_window.Image1.click();
+    start_list();
     EXPECT_EQ(machine.media.on_air(), Paths{track(3)});
     EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
 }
 
 TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedLeavesTheTrackOnTheAir) {
     open_tracks({100, 100, 100});
-    start_list();
-    machine.run_for(seconds(20));
+    play_a_file_by_hand();
     machine.media.set_unplayable(track(3));
     rows().select(3);
-    station.list_window.Image1.click();
-    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+    start_list();
+    EXPECT_EQ(machine.media.on_air(), Paths{"C:\\main.mp3"});
     EXPECT_EQ(warning(), "Recherche de fichier\nDemarrage liste\n" + track(3) +
                              "\n / format / lecture impossible  \nabandon lecture liste");
-    machine.run_for(seconds(75));
-    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(RunControlTest, RunningListCannotBeStartedAgain) {
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(20));
+    EXPECT_FALSE(list_can_be_started());
+    station.list_window.Image1.click();
+    station.list_window.lect_liste.click();
+    EXPECT_EQ(rows_started(), std::vector<int>{1});
+    machine.run_for(seconds(90));
+    EXPECT_FALSE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, StoppedListCanBeStartedAgain) {
+    open_tracks({100, 100});
+    start_list();
+    station.list_window.Image3.click();
+    EXPECT_TRUE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, ListCanBeStartedAgainOnceItsDeckIsStopped) {
+    open_tracks({100, 100});
+    start_list();
+    controls(1).stop.click();
+    EXPECT_TRUE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, ListCanBeStartedAgainOnceAFaultHasStoppedIt) {
+    open_tracks({100, 100});
+    start_list();
+    station.run_control.stoppe_liste("essai");
+    EXPECT_TRUE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, ListCanBeStartedAgainOnceTitlesAreMixed) {
+    open_tracks({100, 100});
+    start_list();
+    station.main_window.coche2.click();
+    EXPECT_TRUE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, ListStaysDisabledWhereAZapIsRefused) {
+    open_tracks({100, 100});
+    start_list();
+    machine.run_for(seconds(5));
+    machine.dialogs.default_answers();
+    station.main_window.key_press(U'z');
+    EXPECT_FALSE(list_can_be_started());
+}
+
+TEST_F(RunControlTest, EmptyListSaysSoAndPlaysNothing) {
+    machine.add_track("C:\\main.mp3", 100);
+    open_on(1, "C:\\main.mp3");
+    for (const auto& start : {std::function{[this] { station.list_window.Image1.click(); }},
+                              std::function{[this] { station.list_window.lect_liste.click(); }}}) {
+        machine.dialogs.expect_box("La liste est vide", Answer::ok);
+        start();
+        EXPECT_TRUE(machine.media.on_air().empty());
+    }
+}
+
+TEST_F(RunControlTest, HardStopEndsTheSearchForARow) {
+    open_tracks({100});
+    start_list();
+    machine.run_for(seconds(96));
+    ASSERT_TRUE(station.auto_chain.looks_for_a_row());
+    station.run_control.stoppe_liste("essai");
+    EXPECT_FALSE(station.auto_chain.looks_for_a_row());
+}
+
+TEST_F(RunControlTest, QuickLoadBehindAHardStopGoesOverToTheDecks) {
+    open_tracks({100, 100});
+    start_list();
+    station.run_control.stoppe_liste("essai");
+    station.run_control.stoppe_list();
+    EXPECT_TRUE(station.main_window.Timer2.enabled());
+    EXPECT_TRUE(station.chain.mode_enchainement.is_false());
 }
 
 TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedSaysSo) {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <set>
+#include <string>
+#include <string_view>
+
 #include "playlist/record_reading.h"
 #include "playout/deck_loading.h"
 #include "playout/deck_start.h"
@@ -11,6 +15,14 @@
 #include "playout/run_control.h"
 
 namespace sonarelle {
+
+/// Why a row is passed over and stays in the list, for the journal.
+namespace passed_over {
+inline constexpr std::string_view silent_disk = " Le disque ne répond pas";
+inline constexpr std::string_view no_folder = " Dossier absent, gardé dans la liste";
+inline constexpr std::string_view too_short = " Plus court qu'une seconde";
+inline constexpr std::string_view unplayable = " Lecture impossible, gardé dans la liste";
+} // namespace passed_over
 
 /// Keeps sound on the air without a hand on the desk: loads the next row some seconds before it is needed, starts it
 /// some seconds before the main deck's end, and releases the old deck. One class for the ticks of `Timer1` to `Timer4`.
@@ -44,11 +56,16 @@ public:
     /// Whether the load step has put the current row on that deck already.
     [[nodiscard]] bool is_loaded(const Deck& next) const;
     /// A new track overlaps the old one from now on.
-    void begin_overlap() { faded_deck_ = 0; }
+    void begin_overlap() {
+        faded_deck_ = 0;
+        passed_over_.clear();
+    }
 
-    /// Whether the current row's file is there. A row whose disk doesn't answer is passed over and kept.
-    /// @throws Failure when its drive or folder is gone.
+    /// Whether the current row's file is there. A row whose drive or folder doesn't answer is passed over and kept.
     [[nodiscard]] bool is_found();
+
+    /// Whether a row to follow the track on the air is being looked for.
+    [[nodiscard]] bool looks_for_a_row() const { return mix_walk_.under_way(); }
 
     /// Ends the walks that look for a row.
     void cancel_walks();
@@ -59,11 +76,19 @@ private:
     [[nodiscard]] bool loads_ahead() const;
     void load_step();
     bool try_to_load_next();
-    /// The current row's file on the next deck, when it is there and can be played.
-    [[nodiscard]] bool load_if_playable();
+    /// Whether the current row's file is there, as far as can be seen; and its load onto the next deck. A row that
+    /// fails is removed or passed over.
+    [[nodiscard]] bool is_file_there();
+    [[nodiscard]] bool load_row();
+    /// Of a file: its folder answers.
+    [[nodiscard]] bool is_folder_there(const std::string& path);
+    /// Its folder answers and doesn't hold it.
+    [[nodiscard]] bool is_missing(const std::string& path);
+    [[nodiscard]] std::string_view why_not_loaded() const;
     void loaded();
     void drop_invalid_row();
-    void pass_over_row(RowWalk& walk);
+    /// Keeps the current row, and journals once a track why it isn't taken.
+    void pass_over_row(RowWalk& walk, std::string_view why);
     void stop_after_load_error();
     void leave_load_step();
 
@@ -93,13 +118,15 @@ private:
     void show_deck_progress(Deck& deck);
     void manual_display();
     [[nodiscard]] bool is_due(Deck& deck, Integer point);
+    /// The bar is full, or the deck has nothing left to play.
+    [[nodiscard]] static bool has_played_out(const Deck& deck);
     void play_ring(int deck);
 
     void overlap_tick();
     void release(Deck& main, Deck& old);
     void fade(Deck& old);
-    [[nodiscard]] Trap trap_of(Timer& timer, const std::string& name);
-    void stop_after_failure(Timer& timer, const std::string& name, const Failure& failure);
+    [[nodiscard]] Trap trap_of(const std::string& name);
+    void stop_after_failure(const std::string& name, const Failure& failure);
 
     Desk& desk_;
     DeckLoading& loading_;
@@ -111,6 +138,7 @@ private:
     RowWalk load_walk_;
     RowWalk mix_walk_;
     RandomOrder random_order_;
+    std::set<std::string> passed_over_; // since the last start
     FirstLook first_look_ = FirstLook::next_row;
     int faded_deck_ = 0; // the deck whose fade has begun and is reported
 };

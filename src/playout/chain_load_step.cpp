@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
@@ -60,7 +62,7 @@ void AutoChain::load_step() {
         return;
     chain.point_chargement = chain.duree_lecteur - (desk_.settings.mix_courant + desk_.settings.prechargement);
     if (!desk_.has_main_deck() || waits_for_special_mix(desk_) || load_walk_.under_way() ||
-        chain.point_chargement != desk_.elapsed())
+        chain.point_chargement != desk_.elapsed() || is_loaded(desk_.deck(next_deck(chain.lecteur_en_cours.value()))))
         return leave_load_step();
     desk_.warning.hide();
     const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
@@ -79,7 +81,7 @@ void AutoChain::leave_load_step() {
 /// Looks at the next row; true when it was loaded, or the list was stopped.
 bool AutoChain::try_to_load_next() {
     ChainState& chain = desk_.chain;
-    chain.erreur_chargement = chain.file_too_short = false;
+    chain.erreur_chargement = false;
     if (chain.ordre_aleatoire.is_false()) {
         chain.choix_prepare = false;
         take_next_row();
@@ -97,15 +99,10 @@ bool AutoChain::try_to_load_next() {
     reading_.lire_enreg_destinataire();
     chain.chargement_fait = true;
     try {
-        if (load_if_playable()) {
-            loaded();
-            return true;
-        }
-        if (chain.is_row_passed_over())
-            pass_over_row(load_walk_);
-        else
-            drop_invalid_row();
-        return false;
+        if (!is_file_there() || !load_row())
+            return false;
+        loaded();
+        return true;
     } catch (const ListStopped&) {
         stop_after_load_error();
         return true;
@@ -133,30 +130,59 @@ bool AutoChain::take_drawn_row() {
     return true;
 }
 
-bool AutoChain::load_if_playable() {
+bool AutoChain::is_file_there() {
     const std::string& path = desk_.list.chemin_fichier;
     if (is_network_path(path)) {
         journal_.note(date_and_time(desk_.platform) +
                       " Pas de vérification d'existence de fichier (fichier sur le réseau)");
-    } else {
-        const std::string folder{folder_of_path(path)};
-        ErrorIndicator errors;
-        errors.skip([&] { desk_.platform.disk.ChDrive(path); });
-        errors.skip([&] { desk_.platform.disk.ChDir(folder); });
-        if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
-            throw ListStopped{};
-        std::string found;
-        errors.clear();
-        errors.skip([&] { found = desk_.platform.disk.Dir(path); });
-        desk_.chain.disk_did_not_answer = errors.number() == failure_number::device_fault;
-        if (errors.is_set() && !desk_.chain.disk_did_not_answer)
-            throw Failure{errors.number(), path};
-        if (!equal_ignoring_case(trim(found), trim(name_of_path(path))))
-            return false;
+        return true;
     }
+    ErrorIndicator errors;
+    errors.skip([&] { desk_.platform.disk.ChDrive(path); });
+    errors.skip([&] { desk_.platform.disk.ChDir(folder_of_path(path)); });
+    if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
+        throw ListStopped{};
+    std::string found;
+    errors.clear();
+    errors.skip([&] { found = desk_.platform.disk.Dir(path); });
+    if (errors.is_set() && errors.number() != failure_number::device_fault)
+        throw Failure{errors.number(), path};
+    const bool there = equal_ignoring_case(trim(found), trim(name_of_path(path)));
+    if (errors.is_set())
+        pass_over_row(load_walk_, passed_over::silent_disk);
+    else if (!there)
+        drop_invalid_row();
+    return there;
+}
+
+bool AutoChain::load_row() {
     desk_.window.Timer1.disable();
     loading_.load_from_list(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
-    return !desk_.chain.erreur_chargement.is_true();
+    if (!desk_.chain.erreur_chargement.is_true())
+        return true;
+    if (!desk_.chain.is_row_passed_over() && is_missing(desk_.list.chemin_fichier))
+        drop_invalid_row();
+    else
+        pass_over_row(load_walk_, why_not_loaded());
+    return false;
+}
+
+bool AutoChain::is_folder_there(const std::string& path) {
+    bool there = false;
+    ErrorIndicator{}.skip([&] { there = desk_.platform.disk.facts(folder_of_path(path)).is_folder; });
+    return there;
+}
+
+bool AutoChain::is_missing(const std::string& path) {
+    std::string found = path;
+    ErrorIndicator{}.skip([&] { found = desk_.platform.disk.Dir(path); });
+    return found.empty() && is_folder_there(path);
+}
+
+std::string_view AutoChain::why_not_loaded() const {
+    return desk_.chain.disk_did_not_answer ? passed_over::silent_disk
+           : desk_.chain.file_too_short    ? passed_over::too_short
+                                           : passed_over::unplayable;
 }
 
 // In list order the chain adds 1 again when it starts the track.
@@ -167,13 +193,15 @@ void AutoChain::loaded() {
     desk_.chain.duree_lecteur = 0;
 }
 
-/// The row of a disk that doesn't answer, or whose file was cut off, may be sound again tomorrow: it stays in the list.
-void AutoChain::pass_over_row(RowWalk& walk) {
-    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
-                  (desk_.chain.file_too_short ? " Plus court qu'une seconde" : " Le disque ne répond pas"));
+/// Tomorrow the row may be sound again, so it stays in the list. A disk that is waited for ends the walk's turn.
+void AutoChain::pass_over_row(RowWalk& walk, std::string_view why) {
+    const std::string& path = desk_.list.chemin_fichier;
+    if (passed_over_.insert(path).second)
+        journal_.note(date_and_time(desk_.platform) + " fichier : " + path + std::string{why});
     desk_.chain.chargement_fait = false;
     desk_.chain.choix_prepare = false;
-    walk.rest();
+    if (why == passed_over::silent_disk)
+        walk.rest();
 }
 
 void AutoChain::drop_invalid_row() {

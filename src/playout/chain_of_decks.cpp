@@ -14,7 +14,7 @@ AutoChain::AutoChain(Desk& desk, DeckLoading& loading, DeckStart& start, MixEngi
 void AutoChain::Timer2_tick() {
     if (desk_.chain.chaine_suspendue.is_true() || desk_.chain.mode_enchainement.is_true())
         return;
-    trap_of(desk_.window.Timer2, "T2")([this] { deck_tick(); });
+    trap_of("T2")([this] { deck_tick(); });
 }
 
 void AutoChain::deck_tick() {
@@ -38,7 +38,7 @@ void AutoChain::deck_tick() {
         deck.controls.zap.enabled = true;
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
     // A file that is shorter than its overlap has no mix point: its end is what the next one follows.
-    if (point <= 0 && deck.controls.progress.percent() != 100)
+    if (point <= 0 && !has_played_out(deck))
         return;
     if (!desk_.window.coche2.value())
         return manual_display();
@@ -60,7 +60,11 @@ void AutoChain::show_deck_progress(Deck& deck) {
 }
 
 bool AutoChain::is_due(Deck& deck, Integer point) {
-    return deck.controls.progress.percent() == 100 || desk_.elapsed() == point;
+    return has_played_out(deck) || desk_.elapsed() == point;
+}
+
+bool AutoChain::has_played_out(const Deck& deck) {
+    return deck.controls.progress.percent() == 100 || deck.is_at_its_end();
 }
 
 // An overlap of 0 sets the next deck going too, and so on round the ring until a start sets another overlap. A turn

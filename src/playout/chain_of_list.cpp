@@ -7,12 +7,12 @@ namespace sonarelle {
 
 void AutoChain::Timer4_tick() {
     if (desk_.window.Active_audio_jingles.checked) {
-        trap_of(desk_.window.Timer4, "T4")([this] { special_mix_tick(); });
+        trap_of("T4")([this] { special_mix_tick(); });
         return;
     }
     if (desk_.chain.chaine_suspendue.is_true() || mix_walk_.under_way())
         return;
-    trap_of(desk_.window.Timer4, "T4")([this] { list_tick(); });
+    trap_of("T4")([this] { list_tick(); });
 }
 
 // The chain stands still, and the desk goes on showing where the track on the air is.
@@ -34,7 +34,7 @@ void AutoChain::list_tick() {
     show_list_progress(deck, point);
     // On the first deck alone the insertion of list items keeps the net at the file's end out of play.
     const bool has_net = deck.number() != 1 || !desk_.settings.valide_fichier_aleatoire1.is_true();
-    if (has_net && deck.controls.progress.percent() == 100) {
+    if (has_net && has_played_out(deck)) {
         if (desk_.chain.ordre_aleatoire.is_false())
             return follow_at_once(deck, FirstLook::next_row);
         if (desk_.chain.ordre_aleatoire.is_true() && !desk_.chain.jingles_aleatoires.is_true())
@@ -81,7 +81,7 @@ void AutoChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
         return list_chain && desk_.chain.lecteur_en_cours == deck.number();
     };
     mix_walk_.start(
-        std::move(step), [this] { return desk_.row_count(); }, wanted, trap_of(desk_.window.Timer4, "T4"));
+        std::move(step), [this] { return desk_.row_count(); }, wanted, trap_of("T4"));
 }
 
 bool AutoChain::try_to_follow(Deck& deck) {
@@ -104,10 +104,8 @@ bool AutoChain::is_found() {
     try {
         run_.detecte_fichier_liste();
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::device_fault)
-            throw;
-        desk_.chain.file_too_short = false;
-        pass_over_row(mix_walk_);
+        pass_over_row(mix_walk_, failure.number == failure_number::device_fault ? passed_over::silent_disk
+                                                                                : passed_over::no_folder);
         return false;
     }
     return !desk_.list.chemin_fichier.empty();
@@ -131,7 +129,11 @@ bool AutoChain::load_behind(Deck& old) {
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);
     if (desk_.chain.is_row_passed_over()) {
-        pass_over_row(mix_walk_);
+        pass_over_row(mix_walk_, why_not_loaded());
+        return false;
+    }
+    if (desk_.chain.erreur_chargement.is_true() && !is_folder_there(next.path)) {
+        pass_over_row(mix_walk_, passed_over::no_folder);
         return false;
     }
     if (!told && !desk_.chain.erreur_chargement.is_true())
@@ -219,19 +221,17 @@ void AutoChain::cancel_walks() {
     mix_walk_.cancel();
 }
 
-AutoChain::Trap AutoChain::trap_of(Timer& timer, const std::string& name) {
-    return [this, &timer, name](const std::function<void()>& statement) {
+AutoChain::Trap AutoChain::trap_of(const std::string& name) {
+    return [this, name](const std::function<void()>& statement) {
         try {
             statement();
         } catch (const Failure& failure) {
-            stop_after_failure(timer, name, failure);
+            stop_after_failure(name, failure);
         }
     };
 }
 
-void AutoChain::stop_after_failure(Timer& timer, const std::string& name, const Failure& failure) {
-    cancel_walks();
-    timer.disable();
+void AutoChain::stop_after_failure(const std::string& name, const Failure& failure) {
     run_.stoppe_liste(failure.what());
     desk_.warn("ATTENTION ERREUR ! " + name + "\nFICHIER NON TROUVEE , NON AUDIO ou " + failure.what() +
                "\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\nRevoir la sélection");

@@ -38,6 +38,10 @@ bool Deck::sounds() const {
            graph_->get_CurrentPosition() < graph_->get_Duration();
 }
 
+bool Deck::is_at_its_end() const {
+    return has_graph() && graph_->GetState() == MediaState::running && !sounds();
+}
+
 void Deck::create_graph() {
     tell_that_graph_leaves();
     close_video();

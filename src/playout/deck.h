@@ -47,6 +47,8 @@ public:
     [[nodiscard]] MediaGraph& graph() const;
     /// Whether it runs and isn't at its end: a graph that has come to its end goes on running.
     [[nodiscard]] bool sounds() const;
+    /// Whether it runs on and has nothing left to play.
+    [[nodiscard]] bool is_at_its_end() const;
     /// Drops the graph; a video window stays until `close_video`.
     void drop_graph();
 

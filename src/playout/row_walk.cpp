@@ -5,6 +5,12 @@
 
 namespace sonarelle {
 
+namespace {
+
+constexpr int longest_turn = 400; // rows; their disk may have to say of each that it isn't there
+
+} // namespace
+
 RowWalk::RowWalk(std::string name, Scheduler& scheduler) : pause_{std::move(name), 0, scheduler} {
     pause_.set_interval(100);
     pause_.on_tick = [this] { take_a_later_turn(); };
@@ -44,7 +50,7 @@ void RowWalk::take_a_turn() {
 // The step is kept alive by the copy: what it starts may cancel the walk.
 void RowWalk::walk_round() {
     const Step step = step_;
-    const int rows = std::max(1, turn_());
+    const int rows = std::clamp(turn_(), 1, longest_turn);
     rests_ = false;
     for (int row = 0; row < rows && step_ && !rests_; ++row) {
         begins_turn_ = row == 0;

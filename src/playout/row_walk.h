@@ -7,8 +7,8 @@
 
 namespace sonarelle {
 
-/// A walk over the rows in search of the next track. When a full turn finds none, it lets the station go on and takes
-/// another turn 100 ms later: a row that is added meanwhile is found, and nothing is held up.
+/// A walk over the rows in search of the next track. When a full turn, or 400 rows of it, finds none, it lets the
+/// station go on and takes another turn 100 ms later: a row that is added meanwhile is found, and nothing is held up.
 class RowWalk {
 public:
     RowWalk(std::string name, Scheduler& scheduler);

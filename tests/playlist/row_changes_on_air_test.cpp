@@ -37,7 +37,7 @@ TEST_F(StartChangeOnAir, ChangesTheChosenRowAlthoughTheChainSelectsAnother) {
 
 TEST_F(StartChangeOnAir, FollowsTheChosenRowWhenTheChainTakesOneOut) {
     open_tracks({60, 60, 60});
-    machine.media.set_unplayable(track(2));
+    machine.disk.Kill(track(2));
     start_list();
     machine.run_for(seconds(40));
     change_start_slowly(3);
@@ -46,7 +46,7 @@ TEST_F(StartChangeOnAir, FollowsTheChosenRowWhenTheChainTakesOneOut) {
 
 TEST_F(StartChangeOnAir, ChangesNoOtherRowWhenTheChosenOneIsTakenOut) {
     open_tracks({60, 60, 60});
-    machine.media.set_unplayable(track(2));
+    machine.disk.Kill(track(2));
     start_list();
     machine.run_for(seconds(40));
     machine.dialogs.expect_input("9", seconds(20));

@@ -120,13 +120,16 @@ TEST_F(AutoChainTest, WarningThatWasReadLeavesTheNextOneAlone) {
                   "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
 
-TEST_F(AutoChainTest, RemovesARowWhoseFileCannotBePlayed) {
+TEST_F(AutoChainTest, PassesARowOverWhoseFileCannotBePlayedAndKeepsIt) {
+    station.main_window.Active_journal.click();
     open_tracks({100, 100, 100});
     machine.media.set_unplayable(track(2));
     start_list();
     machine.run_for(seconds(100));
-    EXPECT_EQ(rows().count(), 2);
+    EXPECT_EQ(rows().count(), 3);
     EXPECT_EQ(machine.media.on_air().back(), track(3));
+    EXPECT_NE(journal_text().find(" fichier : " + track(2) + " Lecture impossible, gard\xE9 dans la liste"),
+              std::string::npos);
 }
 
 TEST_F(AutoChainTest, OfAListOfOneRowPlaysOutAndLeavesTheStationAlive) {

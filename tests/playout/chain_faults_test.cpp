@@ -1,4 +1,5 @@
 // What goes wrong on the air, and what the chain makes of it.
+#include "playlist/list_rows.h"
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -12,6 +13,28 @@ class ChainFaultsTest : public ChainBench {
 protected:
     [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
+    /// Three rows, the second of which lies in a folder that isn't there; the first one plays 100 s.
+    void open_list_behind_a_lost_folder() {
+        machine.add_track(track(1), 100);
+        machine.add_track(track(3), 100);
+        open_list("C:\\Sonarelle\\essai.dfm",
+                  {record_of(track(1), "100", 100, 0.0), record_of("C:\\Parti\\b.mp3", "100", 100, 0.0),
+                   record_of(track(3), "100", 100, 0.0)});
+        rows().select(1);
+        start_list();
+    }
+    /// The first track ends 4 s before its overlap begins; items of the list are to be inserted.
+    void open_list_that_ends_before_its_overlap() {
+        station.settings.veille_antenne = 0;
+        machine.add_track(track(1), 20);
+        machine.add_track(track(2), 100);
+        open_list("C:\\Sonarelle\\essai.dfm",
+                  {record_of(track(1), "2", 100, 0.0), record_of(track(2), "100", 100, 0.0)});
+        rows().select(1);
+        start_list();
+        station.settings.mix_courant = 6;
+        station.settings.valide_fichier_aleatoire1 = true;
+    }
 };
 
 } // namespace
@@ -26,25 +49,58 @@ TEST_F(ChainFaultsTest, ListWhoseNextDriveIsGoneIsStoppedAtTheLoad) {
     start_list();
     machine.disk.remove_drive("E");
     play_for(88);
-    EXPECT_EQ(station.main_window.Label7.caption.get().substr(0, 6), "Play 1");
+    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play en attente");
     EXPECT_TRUE(station.main_window.coche2.value());
-    EXPECT_EQ(station.main_window.Label5.caption.get(), "88");
+    EXPECT_EQ(station.main_window.Label5.caption.get(), "0");
     EXPECT_EQ(rows().count(), 3);
     EXPECT_NE(journal_text().find(" Erreur au chargement de fichier...liste stopp\xE9"
                                   "e\r\n"),
               std::string::npos);
 }
 
-TEST_F(ChainFaultsTest, DriveThatIsStillGoneAtTheMixPointEndsTheChain) {
-    open_tracks({100});
-    rows().append({"E:\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
-    station.list_document.sauve_tout();
-    rows().select(1);
-    start_list();
-    play_for(95);
-    EXPECT_FALSE(station.main_window.Timer4.enabled());
-    EXPECT_EQ(warning().substr(0, 21), "ATTENTION ERREUR ! T4");
+TEST_F(ChainFaultsTest, StopOfTheLoadLeavesNoTimerOfTheChainOn) {
+    open_list_behind_a_lost_folder();
+    play_for(88);
+    for (const Timer* timer : station.main_window.chain_timers())
+        EXPECT_FALSE(timer->enabled()) << timer->name();
+}
+
+TEST_F(ChainFaultsTest, StoppedListIsStillStoppedAtTheMixPoint) {
+    open_list_behind_a_lost_folder();
+    play_for(99);
+    EXPECT_EQ(rows_started(), std::vector<int>{1});
+    EXPECT_EQ(rows().count(), 3);
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+}
+
+TEST_F(ChainFaultsTest, FileThatIsOpenedByHandBehindTheStopIsNotOverwritten) {
+    open_list_behind_a_lost_folder();
+    play_for(88);
+    machine.add_track("C:\\a.mp3", 30);
+    open_on(2, "C:\\a.mp3");
+    play_for(11);
+    EXPECT_EQ(station.chain.chemin_lecture2, "C:\\a.mp3");
+}
+
+TEST_F(ChainFaultsTest, RecordsVolumeIsAppliedToWhatIsStartedByHandBehindTheStop) {
+    open_list_behind_a_lost_folder();
+    play_for(88);
+    rows().set_sub_item(3, list_column::volume, "50");
+    station.list_document.sauve_tout();
+    rows().select(3);
+    station.list_window.char2.click();
+    station.main_window.lire_2.click();
+    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+}
+
+TEST_F(ChainFaultsTest, MixingTheTitlesBehindTheStopChainsTheDecks) {
+    open_list_behind_a_lost_folder();
+    play_for(88);
+    station.main_window.coche2.click();
+    machine.add_track("C:\\a.mp3", 30);
+    open_on(2, "C:\\a.mp3");
+    play_for(10);
+    EXPECT_EQ(machine.media.on_air().back(), "C:\\a.mp3");
 }
 
 TEST_F(ChainFaultsTest, ListWhoseNextFolderIsGoneIsStoppedAtTheLoad) {
@@ -53,8 +109,9 @@ TEST_F(ChainFaultsTest, ListWhoseNextFolderIsGoneIsStoppedAtTheLoad) {
     station.list_document.sauve_tout();
     rows().select(1);
     start_list();
-    play_for(88);
+    play_for(99);
     EXPECT_EQ(times_of(Kind::stopped), (Times{{87, 0}}));
+    EXPECT_EQ(rows().count(), 2);
 }
 
 TEST_F(ChainFaultsTest, WarningNamesTheKeyThatHelps) {
@@ -100,16 +157,57 @@ TEST_F(ChainFaultsTest, FaultOfTheFadeLeavesTheListRunning) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3}));
 }
 
-TEST_F(ChainFaultsTest, ZapButtonBeforeALostDriveSaysSo) {
-    open_tracks({100});
-    rows().append({"E:\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+TEST_F(ChainFaultsTest, ZapButtonPassesARowOverWhoseFolderIsGone) {
+    open_list_behind_a_lost_folder();
+    play_for(40);
+    controls(1).zap.click();
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, ZapKeyPassesARowOverWhoseFolderIsGone) {
+    open_list_behind_a_lost_folder();
+    play_for(40);
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, ItemTooShortForALoadStepPassesARowOverWhoseDriveIsGone) {
+    open_tracks({3, 100, 100});
+    machine.disk.put_file("E:\\a.mp3");
+    rows().set_text(2, "E:\\a.mp3");
     station.list_document.sauve_tout();
     rows().select(1);
     start_list();
+    machine.disk.remove_drive("E");
     play_for(5);
-    machine.dialogs.expect_box("E:\\a.mp3", Answer::ok);
-    controls(1).zap.click();
-    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, FolderThatComesBackFindsAllItsRowsInTheList) {
+    station.main_window.Active_journal.click();
+    open_tracks({3, 3, 3, 100});
+    start_list();
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    play_for(8);
+    EXPECT_EQ(rows().count(), 4);
+    machine.disk.heal("C:\\Musique");
+    play_for(2);
+    EXPECT_EQ(machine.media.on_air().size(), 1U);
+}
+
+TEST_F(ChainFaultsTest, RowWhoseFolderIsGoneIsJournalledOnceATrack) {
+    station.main_window.Active_journal.click();
+    open_tracks({3, 100});
+    start_list();
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    play_for(8);
+    const std::string line = " fichier : " + track(2) + " Dossier absent, gard\xE9 dans la liste\r\n";
+    const std::string text = journal_text();
+    ASSERT_NE(text.find(line), std::string::npos);
+    EXPECT_EQ(text.find(line, text.find(line) + 1), std::string::npos);
 }
 
 TEST_F(ChainFaultsTest, LoadStepThatFailedIsTriedAgainInTheNextTrack) {
@@ -150,8 +248,32 @@ TEST_F(ChainFaultsTest, NetworkPathIsNotLookedFor) {
               std::string::npos);
 }
 
-TEST_F(ChainFaultsTest, RowWhoseNetworkFileIsMissingIsRemoved) {
+TEST_F(ChainFaultsTest, RowWhoseShareDoesNotAnswerIsPassedOverAndStaysInTheList) {
     open_tracks({100, 100});
+    rows().append({"\\\\serveur\\son\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    rows().select(2);
+    start_list();
+    play_for(95);
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_EQ(machine.media.on_air().back(), track(1));
+}
+
+TEST_F(ChainFaultsTest, ShareThatDoesNotAnswerBehindAShortItemIsPassedOver) {
+    open_tracks({3, 100, 100});
+    rows().set_text(2, "\\\\serveur\\son\\a.mp3");
+    station.list_document.sauve_tout();
+    rows().select(1);
+    start_list();
+    play_for(5);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ChainFaultsTest, RowWhoseNetworkFileIsMissingOnItsShareIsRemoved) {
+    open_tracks({100, 100});
+    machine.disk.add_drive("\\\\serveur\\son");
+    machine.disk.put_file("\\\\serveur\\son\\autre.mp3");
     rows().append({"\\\\serveur\\son\\a.mp3", "0.10", "100.00", "Rock", "100", ""});
     station.list_document.sauve_tout();
     rows().select(2);
@@ -172,14 +294,14 @@ TEST_F(ChainFaultsTest, LastRowThatCannotBePlayedStopsTheList) {
     EXPECT_FALSE(times_of(Kind::stopped).empty());
 }
 
-TEST_F(ChainFaultsTest, FileBelowOneSecondInAListStandsStill) {
+TEST_F(ChainFaultsTest, FirstRowOfLessThanASecondIsFollowedAtItsEnd) {
     machine.add_track("C:\\court.mp3", 0.9);
     machine.add_track("C:\\b.mp3", 100);
     open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\court.mp3", "0.40", 100, 0.0), record_of("C:\\b.mp3")});
     rows().select(1);
     start_list();
-    play_for(60);
-    EXPECT_EQ(times_of(Kind::started).size(), 1U);
+    play_for(3);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
 TEST_F(ChainFaultsTest, RowThatEndsAtZeroIsFollowedAtTheEndOfItsFile) {
@@ -207,10 +329,96 @@ TEST_F(ChainFaultsTest, InsertionOfItemsTakesTheNetOffTheFirstDeck) {
     open_tracks({100, 100, 100});
     start_list();
     station.settings.valide_fichier_aleatoire1 = true;
+    station.settings.veille_antenne = 0;
     play_for(85);
     controls(1).forward.click();
     play_for(60);
     EXPECT_EQ(times_of(Kind::started).size(), 1U);
+}
+
+TEST_F(ChainFaultsTest, InsertionOfItemsLeavesATrackWithoutAMixPointOnTheFirstDeckUnfollowed) {
+    open_list_that_ends_before_its_overlap();
+    play_for(60);
+    EXPECT_EQ(rows_started(), std::vector<int>{1});
+}
+
+TEST_F(ChainFaultsTest, TrackThatEndsBeforeItsOverlapIsFollowedAtTheEndOfItsFile) {
+    open_list_that_ends_before_its_overlap();
+    station.settings.valide_fichier_aleatoire1 = false;
+    play_for(21);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 2}}));
+}
+
+TEST_F(ChainFaultsTest, InsertionOfItemsLeavesTheNetToTheThirdDeck) {
+    open_tracks({100, 100, 100, 100});
+    start_list();
+    play_for(190);
+    ASSERT_EQ(station.chain.lecteur_en_cours, 3);
+    station.settings.valide_fichier_aleatoire1 = true;
+    play_for(85);
+    controls(3).forward.click();
+    play_for(5);
+    EXPECT_EQ(times_of(Kind::started).back().second, 1);
+}
+
+TEST_F(ChainFaultsTest, TrackTooShortForALoadStepIsFollowedWithoutOne) {
+    open_tracks({10, 100});
+    station.settings.mix_courant = station.settings.mix_defaut = 2;
+    start_list();
+    controls(1).counter.caption = "5";
+    station.settings.prechargement = 7; // the load point lies before the begin
+    play_for(3);
+    EXPECT_TRUE(times_of(Kind::loaded).size() == 1);
+    play_for(3);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(ChainFaultsTest, WarningOfTheLastLoadIsHiddenAtTheNext) {
+    open_tracks({40, 40, 40, 40});
+    machine.disk.Kill(track(2));
+    start_list();
+    play_for(30);
+    ASSERT_TRUE(station.warning_window.visible);
+    play_for(34);
+    EXPECT_FALSE(station.warning_window.visible);
+}
+
+TEST_F(ChainFaultsTest, RemovedRowIsNoLoadedRow) {
+    open_tracks({100, 3});
+    start_list();
+    play_for(50);
+    machine.disk.Kill(track(2));
+    play_for(40);
+    EXPECT_EQ(rows().count(), 1);
+    EXPECT_FALSE(station.chain.chargement_fait.is_true());
+}
+
+TEST_F(ChainFaultsTest, RemovedRowBehindTheOneThatPlaysLeavesTheMark) {
+    open_tracks({100, 100, 100});
+    machine.disk.Kill(track(2));
+    start_list();
+    play_for(90);
+    ASSERT_EQ(rows().count(), 2);
+    EXPECT_EQ(station.list.ligne_en_lecture, 1);
+}
+
+TEST_F(ChainFaultsTest, RowThatPlaysLosesItsFileAndKeepsItsMark) {
+    open_tracks({100, 100});
+    start_list();
+    station.run_control.remove_row();
+    EXPECT_EQ(station.list.ligne_en_lecture, 1);
+}
+
+TEST_F(ChainFaultsTest, PausedInItsLoadSecondTheRowIsLoadedOnce) {
+    open_tracks({100, 100});
+    start_list();
+    play_for(87);
+    ASSERT_EQ(times_of(Kind::loaded).size(), 2U);
+    controls(1).pause.click();
+    machine.run_for(milliseconds(14900));
+    controls(1).pause.click();
+    play_for(5);
+    EXPECT_EQ(times_of(Kind::loaded).size(), 2U);
 }
 
 TEST_F(ChainFaultsTest, InsertionOfItemsLeavesTheNetToTheSecondDeck) {
@@ -379,6 +587,21 @@ TEST_F(ChainFaultsTest, ListThatStartsAgainInTheFullLengthIsChainedAgain) {
     station.list_window.Image1.click();
     play_for(95);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 4}));
+}
+
+TEST_F(ChainFaultsTest, ListThatTheMenuStartsAgainInTheFullLengthIsChainedAgain) {
+    open_tracks({3, 100, 100, 100});
+    machine.media.set_unplayable(track(2));
+    station.list_window.Option4.click();
+    station.list_window.Image1.click();
+    play_for(5);
+    ASSERT_FALSE(station.main_window.Timer4.enabled());
+    station.list.chemin_fichier = track(3);
+    station.list.index_en_cours = 3;
+    station.deck_loading.load_from_list(station.desk.deck(1));
+    station.list_window.lect_liste.click();
+    play_for(95);
+    EXPECT_EQ(machine.media.on_air().back(), track(4));
 }
 
 } // namespace sonarelle

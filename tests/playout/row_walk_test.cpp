@@ -69,4 +69,18 @@ TEST_F(RowWalkTest, ForTheMixLeavesTheDeckThatTheOperatorPlaysOnTheAir) {
     EXPECT_EQ(machine.media.on_air(), Paths{std::string{by_hand}});
 }
 
+TEST_F(RowWalkTest, LooksAtFourHundredRowsAndLetsTheStationGoOn) {
+    station.main_window.Active_journal.click();
+    machine.add_track(track(1), 3);
+    std::vector<enreg_liste> records{record_of(track(1), "3", 100, 0.0)};
+    for (int row = 2; row <= 900; ++row)
+        records.push_back(record_of("C:\\Parti\\" + std::to_string(row) + ".mp3"));
+    open_list("C:\\Sonarelle\\essai.dfm", records);
+    rows().select(1);
+    start_list();
+    machine.run_for(seconds(2));
+    EXPECT_NE(journal_text().find("\\400.mp3 Dossier absent"), std::string::npos);
+    EXPECT_EQ(journal_text().find("\\402.mp3 Dossier absent"), std::string::npos);
+}
+
 } // namespace sonarelle

@@ -95,6 +95,7 @@ void SettingsLoad::read_chain_values() {
     kept_.mix_audio_vitesse = read_chain_value("Mix_audio_vitesse");
     kept_.mix_audio_attenuation = read_chain_value("Mix_audio_attenuation");
     read_chain_value("valeur_max_jingles");
+    read_chain_value("Veille_antenne");
 }
 
 void SettingsLoad::read_positions() {

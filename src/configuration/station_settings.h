@@ -28,6 +28,7 @@ struct StationSettings {
     Integer mix_defaut;            ///< Overlap of a normal track, seconds.
     Integer prechargement;         ///< Load lead in force before the mix point, seconds.
     Integer prechargement_defaut;
+    Integer veille_antenne = 5;   ///< Seconds of silence after which a list that a fault stopped is taken up; 0: never.
     Integer valeur_vitesse_timer; ///< Interval of the chain's timers, milliseconds.
 
     std::string logo_fond;    ///< Picture of the main window.

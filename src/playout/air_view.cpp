@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 
@@ -98,6 +99,14 @@ int seconds_left(Desk& desk) {
 std::string name_heard(const Desk& desk, const Deck& deck) {
     const DeckRole role = role_of(desk, deck);
     return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
+}
+
+std::string silence_text(const Desk& desk) {
+    if (!desk.chain.silent_since)
+        return {};
+    const std::int64_t whole = (desk.platform.clock.now() - *desk.chain.silent_since).count() / frame_rate;
+    const auto two_digits = [](std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+    return two_digits(whole / 60) + ":" + two_digits(whole % 60);
 }
 
 std::string name_to_come(Desk& desk) {

@@ -40,6 +40,9 @@ enum class DeckRole {
 /// The name of what is heard on a deck, or paused on the main one, without its ending; empty for nothing.
 [[nodiscard]] std::string name_heard(const Desk& desk, const Deck& deck);
 
+/// How long a silence that is told has lasted, as mm:ss; empty for none.
+[[nodiscard]] std::string silence_text(const Desk& desk);
+
 /// The name of the file that follows the main deck's, without its ending. Empty when nothing follows by itself, or a
 /// draw has yet to choose.
 [[nodiscard]] std::string name_to_come(Desk& desk);

@@ -39,6 +39,7 @@ Station::Station(const Platform& platform)
       chain_modes{desk, mix_engine, journal}, list_run{desk,           auto_chain,       deck_loading,
                                                        deck_transport, journal,          run_control,
                                                        record_reading, list_save_dialog, list_document},
+      list_rescue{desk, auto_chain, list_run, journal}, air_watch{desk, journal, list_rescue},
       row_to_deck{platform_,
                   list,
                   destination,
@@ -49,6 +50,7 @@ Station::Station(const Platform& platform)
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, file_measure, journal},
       track_properties{platform_,   settings,          list,           chain,         destination,
                        list_window, properties_window, record_reading, list_document, list_maintenance.guard} {
+    run_control.end_walks = [this] { auto_chain.cancel_walks(); };
     connect_list_window();
     connect_reading_modes();
     connect_timers();
@@ -122,8 +124,8 @@ void Station::connect_timers() {
 
 void Station::connect_chain_choices() {
     deck_start.choose_chain_over_decks = [this] {
-        main_window.coche2.show_value(true);
-        chain_modes.coche2_Click();
+        main_window.coche2.show_value(true); // whose click is raised, also where it is chosen already
+        main_window.coche2.set_value(true);
     };
     main_window.coche2.on_click = [this] { chain_modes.coche2_Click(); };
     main_window.coche3.on_click = [this] { chain_modes.coche3_Click(); };

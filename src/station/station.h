@@ -21,6 +21,7 @@
 #include "playlist/record_reading.h"
 #include "playlist/row_to_deck.h"
 #include "playlist/working_records.h"
+#include "playout/air_watch.h"
 #include "playout/antenne_fm.h"
 #include "playout/auto_chain.h"
 #include "playout/chain_modes.h"
@@ -32,6 +33,7 @@
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
 #include "playout/journal.h"
+#include "playout/list_rescue.h"
 #include "playout/list_run.h"
 #include "playout/mix_engine.h"
 #include "playout/run_control.h"
@@ -112,6 +114,8 @@ public:
     Zapping zapping;
     ChainModes chain_modes;
     ListRun list_run;
+    ListRescue list_rescue;
+    AirWatch air_watch;
     RowToDeck row_to_deck;
     ListMaintenance list_maintenance;
     TrackProperties track_properties;

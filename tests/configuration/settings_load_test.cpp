@@ -51,6 +51,7 @@ constexpr std::array damages{
     Damage{config, "Mix_audio_vitesse", colours_only},
     Damage{config, "Mix_audio_attenuation", colours_only},
     Damage{config, "valeur_max_jingles", forgotten},
+    Damage{config, "Veille_antenne", forgotten},
     Damage{config, "Mix", colours_only},
     Damage{config, "Préchargement", colours_only},
     Damage{config, "Valeur_vitesse_timer", colours_only},
@@ -192,6 +193,20 @@ TEST_F(SettingsLoadTest, ReadsAnEmptyFadeTimeAs13) {
     set(config, "Mix_audio", "");
     load();
     EXPECT_EQ(station.settings.mix_audio, 13);
+}
+
+TEST_F(SettingsLoadTest, WatchesOverTheAirForFiveSecondsWhereTheStoreDoesNotSay) {
+    fill_store();
+    machine.settings.SaveSetting(settings_application, config, "Veille_antenne", "");
+    load();
+    EXPECT_EQ(station.settings.veille_antenne, 5);
+}
+
+TEST_F(SettingsLoadTest, WatchesOverTheAirAsLongAsTheStoreSays) {
+    fill_store();
+    set(config, "Veille_antenne", "0");
+    load();
+    EXPECT_EQ(station.settings.veille_antenne, 0);
 }
 
 TEST_F(SettingsLoadTest, FindsTheSameKeyInAnyCase) {

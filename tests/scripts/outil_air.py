@@ -58,6 +58,13 @@ class Air(unittest.TestCase):
                                        for file, end in zip(files, ends, strict=True)))
         return files
 
+    def make_list_with_a_lost_folder(self):
+        """Three rows, the second of which lies in a folder that isn't there."""
+        files = self.make_list(40, 40, 40)
+        second = self.folder / "parti" / files[1].name
+        self.list.write_bytes(b"".join(record(self.station_path(file), 40) for file in (files[0], second, files[2])))
+        return files
+
     def words(self, *words):
         return [TOOL, *map(str, words), "--dossier", str(self.folder / "station")]
 
@@ -168,7 +175,22 @@ class Chaining(Air):
         write_wav(self.make_list(100, 100)[0], 100, period=bytes([128]))
         events = self.rehearse("--duree", "00:02:00")
         self.assertEqual(self.times(events, "silence"), [2])
+        self.assertEqual(self.times(events, "fin_silence", "duree"), [(94, 94.0)])
         self.assertEqual(events[-1]["silence_total"], 94.0)
+
+    def test_takes_the_list_up_again_behind_a_fault(self):
+        files = self.make_list_with_a_lost_folder()
+        events = self.rehearse("--duree", "00:01:30", "--reglage", "Veille_antenne=4")
+        self.assertEqual(self.times(events, "arret"), [27])
+        self.assertEqual(self.times(events, "silence"), [42])
+        self.assertEqual(self.times(events, "reprise", "index", "chemin", "apres"),
+                         [(44, 3, self.station_path(files[2]), 4.0)])
+        self.assertEqual(self.times(events, "fin_silence", "duree"), [(44, 4.0)])
+
+    def test_stays_silent_behind_a_fault_where_the_setting_says_so(self):
+        self.make_list_with_a_lost_folder()
+        events = self.rehearse("--duree", "00:01:30", "--reglage", "Veille_antenne=0")
+        self.assertEqual(self.times(events, "reprise"), [])
 
     def test_never_changes_the_list(self):
         self.make_list(100, 100, 100)[1].unlink()
@@ -229,7 +251,7 @@ class Hands(Air):
 
     def test_pause_and_resume_a_deck(self):
         events = self.rehearse_gestures("10 pause 1\n20 pause 1\n", "--duree", "00:02:00")
-        self.assertEqual(self.times(events, "silence"), [12])
+        self.assertEqual(self.times(events, "silence"), [], "the operator has asked for it")
         self.assertEqual(self.times(events, "depart"), [0, 104])
         self.assertEqual(events[-1]["silence_total"], 10.0)
 
@@ -239,7 +261,7 @@ class Hands(Air):
 
     def test_stop_a_deck(self):
         events = self.rehearse_gestures("10 stop 1\n", "--duree", "00:00:30")
-        self.assertEqual(self.times(events, "silence"), [12])
+        self.assertEqual(self.times(events, "silence"), [], "the operator has asked for it")
         self.assertEqual(events[-1]["silence_total"], 20.0)
 
     def test_load_a_deck_and_play_it(self):

@@ -1,5 +1,7 @@
 #include "app/outil/event_writer.h"
 
+#include <cmath>
+
 #include "app/outil/printable.h"
 #include "platform/numbers.h"
 
@@ -9,6 +11,10 @@ namespace {
 
 std::string seconds_text(Frames time) {
     return Format(in_seconds(time), "0.000", DecimalMark::point);
+}
+
+double rounded_seconds(Frames span) {
+    return std::round(in_seconds(span) * 1000) / 1000;
 }
 
 std::string answer_text(const Question& question) {
@@ -45,7 +51,8 @@ void EventWriter::give(Frames at, std::string line) {
         ++lost_;
 }
 
-void EventWriter::write(Frames at, const OnAirEvent& event) {
+void EventWriter::write(Frames now, const OnAirEvent& event) {
+    const Frames at = now - event.ago;
     using Kind = OnAirEvent::Kind;
     const Json deck{{"lecteur", event.deck}};
     Json track = deck;
@@ -70,6 +77,15 @@ void EventWriter::write(Frames at, const OnAirEvent& event) {
         return line(at, "retire", row);
     case Kind::stopped:
         return line(at, "arret", Json{{"texte", event.text}});
+    case Kind::silence:
+        return line(at, "silence", Json::object());
+    case Kind::silence_over:
+        return line(at, "fin_silence", Json{{"duree", rounded_seconds(event.span)}});
+    case Kind::resumed: {
+        Json resumed = row;
+        resumed["apres"] = rounded_seconds(event.span);
+        return line(at, "reprise", resumed);
+    }
     }
 }
 
@@ -83,10 +99,6 @@ void EventWriter::write_warning(Frames at, const std::string& text) {
 
 void EventWriter::write_end_of_file(Frames at, int deck) {
     line(at, "fin_fichier", Json{{"lecteur", deck}});
-}
-
-void EventWriter::write_silence(Frames at) {
-    line(at, "silence", Json::object());
 }
 
 void EventWriter::write_account(Frames at) {

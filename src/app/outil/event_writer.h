@@ -26,12 +26,10 @@ public:
     /// What comes is told in seconds from here; at first from the station's own beginning.
     void count_from(Frames origin) { origin_ = origin; }
 
-    void write(Frames at, const OnAirEvent& event);
+    void write(Frames now, const OnAirEvent& event);
     void write(Frames at, const Question& question);
     void write_warning(Frames at, const std::string& text);
     void write_end_of_file(Frames at, int deck);
-    /// The air has been silent for 2 s.
-    void write_silence(Frames at);
     /// Adds to the account.
     void add_silence(Frames span) { silence_ += span; }
     void add_load(double milliseconds) { longest_load_ms_ = std::max(longest_load_ms_, milliseconds); }

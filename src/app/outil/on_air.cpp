@@ -100,9 +100,8 @@ private:
             station_->desk.on_event = [this](const OnAirEvent& event) { tell(event); };
             station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(now(), text); };
             watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
-            silence_.on_two_seconds = [this](Frames at) { events_.write_silence(at); };
         }
-        silence_.on_silence_over = [this](Frames span) { events_.add_silence(span); };
+        silence_.on_silence_over = [this](Frames, Frames span) { events_.add_silence(span); };
         machine_.media().on_opened = [this](std::chrono::nanoseconds time) {
             events_.add_load(std::chrono::duration<double, std::milli>{time}.count());
         };

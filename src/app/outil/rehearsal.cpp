@@ -130,13 +130,9 @@ private:
         };
         station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(time_.now(), text); };
         watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
-        silence_.on_two_seconds = [this](Frames at) {
-            events_.write_silence(at);
-            silent_from_ = at - seconds(2);
-        };
-        silence_.on_silence_over = [this](Frames span) {
+        silence_.on_silence_over = [this](Frames from, Frames span) {
             events_.add_silence(span);
-            picture_->add_silence(silent_from_, span);
+            picture_->add_silence(from, span);
         };
         time_.before_instant = [this](Frames frame) { follow_until(frame); };
     }
@@ -187,7 +183,6 @@ private:
     std::unique_ptr<DeckWatch> watch_;
     std::unique_ptr<AirPicture> picture_;
     Frames length_;
-    Frames silent_from_;
 };
 
 } // namespace

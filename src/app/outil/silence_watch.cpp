@@ -5,29 +5,16 @@
 
 namespace sonarelle {
 
-namespace {
-
-constexpr Frames told_after = seconds(2);
-constexpr float threshold = 0.001F; // -60 dBFS
-
-} // namespace
-
 void SilenceWatch::silent(Frames from, Frames to) {
     if (!since_)
         since_ = from;
     until_ = to;
-    if (told_ || until_ - *since_ < told_after)
-        return;
-    told_ = true;
-    if (on_two_seconds)
-        on_two_seconds(*since_ + told_after);
 }
 
 void SilenceWatch::sounding() {
-    if (since_ && told_ && on_silence_over)
-        on_silence_over(until_ - *since_);
+    if (since_ && until_ - *since_ >= silence_told_after && on_silence_over)
+        on_silence_over(*since_, until_ - *since_);
     since_.reset();
-    told_ = false;
 }
 
 void SilenceWatch::skip(Frames span) {
@@ -38,7 +25,7 @@ void SilenceWatch::skip(Frames span) {
 }
 
 void SilenceWatch::take(std::span<const float> frames) {
-    const auto is_quiet = [](float sample) { return std::fabs(sample) < threshold; };
+    const auto is_quiet = [](float sample) { return std::fabs(sample) < silence_level; };
     while (!frames.empty()) {
         const auto loud = std::ranges::find_if_not(frames, is_quiet);
         const std::size_t quiet = static_cast<std::size_t>(loud - frames.begin()) / 2;

@@ -4,16 +4,14 @@
 #include <optional>
 #include <span>
 
-#include "platform/units.h"
+#include "platform/programme_silence.h"
 
 namespace sonarelle {
 
-/// Tells how long the air is silent: 2 s of it are told as soon as they are over, and every silence of 2 s and more is
-/// counted whole.
+/// Counts how long the air is silent: every silence of 2 s and more, whole.
 class SilenceWatch {
 public:
-    std::function<void(Frames)> on_two_seconds;
-    std::function<void(Frames)> on_silence_over; ///< With its length.
+    std::function<void(Frames from, Frames span)> on_silence_over;
 
     /// The air was silent, or not, from one frame to another; spans come in order.
     void silent(Frames from, Frames to);
@@ -31,7 +29,6 @@ private:
     std::optional<Frames> since_;
     Frames until_;
     Frames taken_;
-    bool told_ = false;
 };
 
 } // namespace sonarelle

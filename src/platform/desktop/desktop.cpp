@@ -157,7 +157,7 @@ void Desktop::show_air() {
                      .title = title,
                      .left = left,
                      .next = what_follows(),
-                     .silence = {}});
+                     .silence = to_qt(silence_text(desk_))});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});
     player_->show_air(air_role(desk_), title);

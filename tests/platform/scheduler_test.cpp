@@ -196,6 +196,17 @@ TEST_F(SchedulerWait, AnOperatorsEventComesMeanwhile) {
     EXPECT_THAT(lines, ElementsAre("event@1300", "back@1300"));
 }
 
+TEST_F(SchedulerWait, ATickThatIsDueOnTheFrameOfTheReturnIsNotLeftOut) {
+    bool first = true;
+    add(1, 1000).on_tick = [&] {
+        write("in");
+        if (std::exchange(first, false))
+            scheduler.run_until(scheduler.now() + seconds(1));
+    };
+    scheduler.run_until(seconds(2));
+    EXPECT_THAT(lines, ElementsAre("in@1000", "in@2000"));
+}
+
 TEST_F(SchedulerWait, ATimerThatWasSwitchedOffMeanwhileStaysOff) {
     Timer& one = add(1, 1000);
     one.on_tick = [&] {

@@ -88,6 +88,12 @@ TEST_F(ChainOfDecksTest, OverlapOfNothingRunsTheRingWithinOneTick) {
     EXPECT_EQ(machine.media.on_air().back(), track(3));
 }
 
+TEST_F(ChainOfDecksTest, OverlapOfNothingOnAllDecksGoesRoundTheRingOnce) {
+    start_decks({1, 1, 1});
+    machine.run_for(seconds(1));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {1, 2}, {1, 3}, {1, 1}}));
+}
+
 TEST_F(ChainOfDecksTest, OverlapOfNothingOnAllDecksHoldsNothingUp) {
     start_decks({1, 1, 1});
     machine.run_for(seconds(30));

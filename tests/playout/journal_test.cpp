@@ -135,12 +135,28 @@ TEST_F(JournalTest, PurgeDeletesItAndSaysSo) {
     EXPECT_FALSE(is_written());
 }
 
+TEST_F(JournalTest, PurgeFindsItInTheProgramFolderWhateverTheCurrentOne) {
+    machine.disk.put_file("C:\\Sonarelle\\journal.doc", "x");
+    machine.disk.put_folder("C:\\Musique");
+    machine.disk.ChDir("C:\\Musique");
+    machine.dialogs.expect_box("Ok journal supprimé", Answer::ok);
+    station.main_window.A_purger_journal.click();
+    EXPECT_FALSE(is_written());
+}
+
 TEST_F(JournalTest, PurgeWithoutAFileSaysNothing) {
     station.main_window.A_purger_journal.click();
     EXPECT_TRUE(machine.dialogs.asked().empty());
 }
 
 TEST_F(JournalTest, OpensInTheTextEditor) {
+    station.main_window.A_ouvre_journal.click();
+    EXPECT_EQ(machine.shell.started, (std::vector<SimulatedShell::Start>{{"Write", "C:\\Sonarelle\\journal.doc"}}));
+}
+
+TEST_F(JournalTest, OpensInTheTextEditorWhateverTheCurrentFolder) {
+    machine.disk.put_folder("C:\\Musique");
+    machine.disk.ChDir("C:\\Musique");
     station.main_window.A_ouvre_journal.click();
     EXPECT_EQ(machine.shell.started, (std::vector<SimulatedShell::Start>{{"Write", "C:\\Sonarelle\\journal.doc"}}));
 }

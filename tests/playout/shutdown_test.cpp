@@ -123,6 +123,14 @@ TEST_F(ShutdownTest, AJournalThatIsKeptEndsWithTheClosing) {
     EXPECT_THAT(journal_text(), testing::EndsWith("\r\n05/01/2026 - 06:01:01 Fermeture de Sonarelle\r\n"));
 }
 
+TEST_F(ShutdownTest, TheClosingIsWrittenWithTheJournalOff) {
+    check_only(window.journal_choices(), window.Active_journal); // so that the file is kept
+    ASSERT_FALSE(station.chain.journal_actif.is_true());
+    expect_question(Answer::yes);
+    window.Quitter_.click();
+    EXPECT_THAT(journal_text(), testing::EndsWith(" Fermeture de Sonarelle\r\n"));
+}
+
 TEST_F(ShutdownTest, ByTheMenuStoresTheMainWindowsPlaceWhenItIsConfirmed) {
     window.left = Twips{4500};
     window.top = Twips{150};

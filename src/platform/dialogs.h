@@ -56,8 +56,8 @@ public:
     virtual ~Dialogs() = default;
 
     virtual Answer MsgBox(const MessageBox& box) = 0;
-    /// The text that was entered; empty after a cancel.
-    [[nodiscard]] virtual std::string InputBox(const InputBox& box) = 0;
+    /// The text that was entered; nothing after a cancel.
+    [[nodiscard]] virtual std::optional<std::string> InputBox(const InputBox& box) = 0;
     /// A name that Windows-1252 can't hold, or that no drive reaches, is refused to the operator inside the dialog.
     [[nodiscard]] virtual ChosenFile open_file(const FileDialog& dialog) = 0;
     [[nodiscard]] virtual ChosenFile save_file(const FileDialog& dialog) = 0;

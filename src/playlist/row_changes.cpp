@@ -120,7 +120,8 @@ std::string RowChanges::ask(const ListActionRow& action, const std::string& firs
     std::string prompt{action.input_prompt};
     if (action.tells_first_row)
         prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(window_.ListView1.count()) + ")";
-    return platform_.dialogs.InputBox({prompt, std::string{action.input_title}, std::string{action.input_preset}});
+    return platform_.dialogs.InputBox({prompt, std::string{action.input_title}, std::string{action.input_preset}})
+        .value_or("");
 }
 
 RowTable::Row RowChanges::first_row() {

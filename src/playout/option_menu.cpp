@@ -35,9 +35,10 @@ const PathEditor& editor_of(StationPath which) {
 void OptionMenu::nom_radio_Click() {
     std::string& name = desk_.settings.nom_radio;
     const std::string preset = name.empty() ? std::string{nameless} : name;
-    name = desk_.platform.dialogs.InputBox({" Nom de votre Radio ", "Saisie d'un nouveau nom", preset});
-    if (name.empty())
-        name = nameless;
+    const auto entered = desk_.platform.dialogs.InputBox({" Nom de votre Radio ", "Saisie d'un nouveau nom", preset});
+    if (!entered)
+        return;
+    name = entered->empty() ? nameless : *entered;
     desk_.remember("Nom_antenne_fm", name);
     desk_.window.caption = name;
     desk_.window.Quitter_.caption = "Quitter " + name + " (Q)";
@@ -63,8 +64,10 @@ void OptionMenu::define(StationPath which) {
     if (open_chooser)
         return open_chooser(which);
     const PathEditor& editor = editor_of(which);
-    store_path(which, desk_.platform.dialogs.InputBox(
-                          {std::string{editor.caption}, std::string{editor.title}, desk_.settings.*editor.variable}));
+    store_path(which,
+               desk_.platform.dialogs
+                   .InputBox({std::string{editor.caption}, std::string{editor.title}, desk_.settings.*editor.variable})
+                   .value_or(""));
 }
 
 void OptionMenu::store_path(StationPath which, const std::string& path) {

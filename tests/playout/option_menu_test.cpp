@@ -33,10 +33,20 @@ TEST_F(StationName, IsStoredAndShown) {
 }
 
 TEST_F(StationName, ThatIsEmptyBecomesTheDefaultOne) {
-    machine.dialogs.expect_cancel();
+    enter("");
     window.nom_radio.click();
     EXPECT_EQ(stored("Nom_antenne_fm"), "Antenne_FM");
     EXPECT_EQ(station.settings.nom_radio, "Antenne_FM");
+}
+
+TEST_F(StationName, StaysAfterACancel) {
+    enter("Radio Port");
+    window.nom_radio.click();
+    machine.dialogs.expect_cancel();
+    window.nom_radio.click();
+    EXPECT_EQ(stored("Nom_antenne_fm"), "Radio Port");
+    EXPECT_EQ(station.settings.nom_radio, "Radio Port");
+    EXPECT_EQ(window.caption.get(), "Radio Port");
 }
 
 TEST_F(StationName, ThatWasEmptyIsOfferedAsTheDefaultOne) {

@@ -85,14 +85,14 @@ Answer DesktopDialogs::MsgBox(const MessageBox& box) {
     return rows.back().answer;
 }
 
-std::string DesktopDialogs::InputBox(const sonarelle::InputBox& box) {
+std::optional<std::string> DesktopDialogs::InputBox(const sonarelle::InputBox& box) {
     QInputDialog dialog{QApplication::activeWindow()};
     dialog.setObjectName("InputBox");
     dialog.setWindowTitle(to_qt(box.title));
     dialog.setLabelText(to_qt(box.prompt));
     dialog.setTextValue(to_qt(box.preset));
     dialog.resize(dialog.sizeHint().expandedTo({least_input_width, 0}));
-    return dialog.exec() == QDialog::Accepted ? from_qt(dialog.textValue()) : std::string{};
+    return dialog.exec() == QDialog::Accepted ? std::optional{from_qt(dialog.textValue())} : std::nullopt;
 }
 
 ChosenFile DesktopDialogs::open_file(const FileDialog& dialog) {

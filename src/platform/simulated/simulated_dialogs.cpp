@@ -105,10 +105,11 @@ Answer SimulatedDialogs::MsgBox(const MessageBox& box) {
     return ask(std::move(question)).button;
 }
 
-std::string SimulatedDialogs::InputBox(const sonarelle::InputBox& box) {
+std::optional<std::string> SimulatedDialogs::InputBox(const sonarelle::InputBox& box) {
     Question question = question_of(QuestionKind::input, box.title, box.prompt);
     question.preset = box.preset;
-    return ask(std::move(question)).entered;
+    Question answered = ask(std::move(question));
+    return answered.cancelled ? std::nullopt : std::optional{std::move(answered.entered)};
 }
 
 ChosenFile SimulatedDialogs::open_file(const FileDialog& dialog) {

@@ -51,7 +51,7 @@ public:
     explicit SimulatedDialogs(Clock& clock) : clock_{clock} {}
 
     Answer MsgBox(const MessageBox& box) override;
-    [[nodiscard]] std::string InputBox(const sonarelle::InputBox& box) override;
+    [[nodiscard]] std::optional<std::string> InputBox(const sonarelle::InputBox& box) override;
     [[nodiscard]] ChosenFile open_file(const FileDialog& dialog) override;
     [[nodiscard]] ChosenFile save_file(const FileDialog& dialog) override;
     [[nodiscard]] std::optional<std::int32_t> choose_colour(std::int32_t preset) override;

@@ -37,15 +37,25 @@ void LegacyList::append_old_list(const std::string& name) {
 }
 
 // After a cancel the dialog's pattern runs on as the name, which opens nothing; it must not wait as the name of the
-// next try, or the dialog would never come again.
+// next try, or the dialog would never come again. Records of another size read as old ones are rubbish in the rows.
 std::string LegacyList::name_of_old_list() {
-    if (!list_.nom_sauvegarde.empty())
+    if (extension_of(list_.nom_sauvegarde) == "rfm")
         return list_.nom_sauvegarde;
     const ChosenFile chosen = platform_.dialogs.open_file(
         {"Ouvrir un fichier liste", settings_.chemin_programme, "*.rfm", "fichier (*.rfm)|*.rfm"});
-    if (!chosen.cancelled)
-        list_.nom_sauvegarde = chosen.file_name;
+    if (chosen.cancelled)
+        return chosen.file_name;
+    if (extension_of(chosen.file_name) != "rfm" && !wants_to_read(chosen.file_name))
+        return {};
+    list_.nom_sauvegarde = chosen.file_name;
     return chosen.file_name;
+}
+
+bool LegacyList::wants_to_read(const std::string& name) const {
+    const MessageBox question{name +
+                                  "\nn'est pas une liste .rfm : ses lignes seront illisibles.\nL'ouvrir quand mème ?",
+                              std::string{application_title}, Buttons::yes_no, Icon::warning, 2};
+    return platform_.dialogs.MsgBox(question) == Answer::yes;
 }
 
 } // namespace sonarelle

@@ -21,6 +21,7 @@ public:
 
 private:
     [[nodiscard]] std::string name_of_old_list();
+    [[nodiscard]] bool wants_to_read(const std::string& name) const;
     void append_old_list(const std::string& name);
 
     const Platform& platform_;

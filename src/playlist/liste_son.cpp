@@ -20,6 +20,7 @@ Liste_son::Liste_son() : Window{"Liste_son"}, ListView1{*this, "ListView1", list
     A_sauve.checked = true;
     modifier_chemin_non.checked = true;
     coller.enabled = false;
+    Convertion.hang({{&A_Copen_rfm, &A_Convertir_dfm}});
     Image1.hint = "lecture liste";
     Image2.hint = "Zapper rapidement sur le fichier suvant (Z)";
     Image3.hint = "Stopper tous les lecteurs";

@@ -111,6 +111,38 @@ TEST_F(LegacyListTest, EnablesWhatNeedsAList) {
     EXPECT_TRUE(station.list_window.prechar.enabled);
 }
 
+TEST_F(LegacyListTest, AsksForTheFileWhenAListOfTheNewFormIsLoaded) {
+    open_list("C:\\Listes\\matin.dfm", {record_of("a")});
+    machine.dialogs.expect_cancel();
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(machine.dialogs.last().text, "*.rfm");
+    EXPECT_EQ(rows().count(), 1);
+}
+
+TEST_F(LegacyListTest, OfAnotherNameIsReadOnlyAfterAQuestionThatNamesIt) {
+    machine.disk.put_file("C:\\Listes\\matin.dfm", bytes_of(record_of("a")));
+    machine.dialogs.expect_open("C:\\Listes\\matin.dfm");
+    machine.dialogs.expect_box("C:\\Listes\\matin.dfm", Answer::no);
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(machine.dialogs.last().default_button, 2);
+    EXPECT_EQ(rows().count(), 0);
+    EXPECT_EQ(station.list.nom_sauvegarde, "");
+}
+
+TEST_F(LegacyListTest, OfAnotherNameIsReadWhenTheOperatorWantsIt) {
+    machine.disk.put_file("C:\\Listes\\vieux.old", old_record("a"));
+    machine.dialogs.expect_open("C:\\Listes\\vieux.old");
+    machine.dialogs.expect_box("C:\\Listes\\vieux.old", Answer::yes);
+    machine.dialogs.expect_cancel();
+    station.list_window.A_Copen_rfm.click();
+    EXPECT_EQ(rows().count(), 1);
+}
+
+TEST_F(LegacyListTest, StandsInTheMenuOfTheConversions) {
+    const auto& entries = station.list_window.Convertion.entries();
+    EXPECT_EQ(entries, (std::vector{&station.list_window.A_Copen_rfm, &station.list_window.A_Convertir_dfm}));
+}
+
 TEST_F(LegacyListTest, TakesTheSaveNameThatIsWaiting) {
     machine.disk.put_file(old_list, old_record("a"));
     station.list.nom_sauvegarde = old_list;
@@ -122,6 +154,7 @@ TEST_F(LegacyListTest, TakesTheSaveNameThatIsWaiting) {
 TEST_F(LegacyListTest, IsMisreadWhenItIsOneOfTheNewForm) {
     machine.disk.put_file("C:\\Listes\\matin.dfm", bytes_of({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")}));
     machine.dialogs.expect_open("C:\\Listes\\matin.dfm");
+    machine.dialogs.expect_box("C:\\Listes\\matin.dfm", Answer::yes);
     machine.dialogs.expect_cancel();
     station.list_window.A_Copen_rfm.click();
     EXPECT_EQ(rows().text(1), "C:\\a.mp3");

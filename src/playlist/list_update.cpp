@@ -115,8 +115,7 @@ void ListUpdate::a_mettre_a_jour_liste() {
 bool ListUpdate::may_begin(bool after_drop) {
     if (window_.ListView1.count() == 0)
         return false;
-    if (!after_drop)
-        verification_.test_all_rows();
+    removed_ = after_drop ? 0 : verification_.test_all_rows();
     return list_.maj_liste_en_cours.is_true();
 }
 
@@ -176,7 +175,9 @@ std::optional<MeasuredLength> ListUpdate::wait_for(LengthsAhead& lengths, const 
 }
 
 void ListUpdate::offer_saving(const std::string& short_name) {
-    if (platform_.dialogs.MsgBox({"Sauvegarder la liste ?", short_name, Buttons::yes_no, Icon::question}) ==
+    const std::string removed =
+        removed_ == 0 ? "" : "Eléments supprimés de la liste : " + std::to_string(removed_) + "\n\n";
+    if (platform_.dialogs.MsgBox({removed + "Sauvegarder la liste ?", short_name, Buttons::yes_no, Icon::question}) ==
         Answer::yes)
         save_dialog_.A_enreg_sous();
 }

@@ -61,6 +61,7 @@ private:
     RowReading& reading_;
     FileMeasure& measure_;
     ListVerification& verification_;
+    int removed_ = 0; // rows whose files the test before the update didn't find
 };
 
 } // namespace sonarelle

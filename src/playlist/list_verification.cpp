@@ -21,32 +21,33 @@ void ListVerification::prechar() {
     if (!guard_.allows(ListAction::prechar))
         return;
     const ListWork work{guard_, window_};
-    test_all_rows();
+    static_cast<void>(test_all_rows());
 }
 
-void ListVerification::test_all_rows() {
+int ListVerification::test_all_rows() {
+    Tally tally;
     if (window_.ListView1.count() == 0)
-        return;
+        return tally.removed;
     progress_.begin(window_.ListView1.count(), progress_.Label1.caption);
     try {
-        close(go_over_rows());
+        go_over_rows(tally);
+        close(tally);
     } catch (const Failure& failure) {
         progress_.end();
         list_.maj_liste_en_cours = false;
         tell_failure(failure);
     }
+    return tally.removed;
 }
 
 // A row that goes lets the next one take its number. A row that the disk gives no answer about stays.
-ListVerification::Tally ListVerification::go_over_rows() {
-    Tally tally;
+void ListVerification::go_over_rows(Tally& tally) {
     const auto save_what_went = [&] {
         if (tally.removed > 0)
             document_.sauve_tout();
     };
     try {
-        bool goes_on = true;
-        for (int row = 1; goes_on && row <= window_.ListView1.count() && !progress_.is_cancelled();) {
+        for (int row = 1; !tally.stopped && row <= window_.ListView1.count() && !progress_.is_cancelled();) {
             const FileFinding finding = test(row);
             const bool there = finding.state == FileState::present || finding.state == FileState::on_network;
             const std::string path = list_.chemin_test;
@@ -61,7 +62,7 @@ ListVerification::Tally ListVerification::go_over_rows() {
             ++tally.removed;
             row = reading_.follow(row, [&] {
                 save_for_the_air();
-                goes_on = wants_to_go_on(path);
+                tally.stopped = !list_.maj_liste_en_cours.is_true() && !wants_to_go_on(path);
             });
         }
     } catch (const Failure&) {
@@ -69,7 +70,6 @@ ListVerification::Tally ListVerification::go_over_rows() {
         throw;
     }
     save_what_went();
-    return tally;
 }
 
 FileFinding ListVerification::test(int row) {
@@ -90,7 +90,7 @@ void ListVerification::drop_row(int row, const FileFinding& finding) {
     window_.ListView1.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;
-    if (is_on_the_air() && list_.index_en_cours.value() > row)
+    if (is_on_the_air() && list_.index_en_cours.value() >= row) // the chain goes on with the row that takes its number
         list_.index_en_cours -= 1;
 }
 
@@ -106,7 +106,7 @@ bool ListVerification::wants_to_go_on(const std::string& what) {
     return platform_.dialogs.MsgBox(question) == Answer::yes;
 }
 
-// The update goes on by itself, so it gets no box but the one that ends it.
+// The update goes on by itself, so it gets no box but the one that ends it. Who has stopped the test knows it.
 void ListVerification::close(const Tally& tally) {
     const bool cancelled = progress_.is_cancelled();
     const bool for_update = list_.maj_liste_en_cours.is_true();
@@ -114,6 +114,8 @@ void ListVerification::close(const Tally& tally) {
         list_.maj_liste_en_cours = false;
     if (cancelled)
         return;
+    if (tally.stopped && tally.found > 0)
+        return progress_.end();
     if (for_update && tally.found > 0) {
         progress_.Label1.caption = "Validation des fichiers terminé avec succés ";
         return;

@@ -27,16 +27,18 @@ public:
     void prechar();
     /// Tests the selected row.
     void prechar_fich();
-    /// Tests every row for the update of the list, which it stops, by `maj_liste_en_cours`, when no file was found.
-    void test_all_rows();
+    /// Tests every row. For the update of the list it asks nothing, and stops it, by `maj_liste_en_cours`, when no file
+    /// was found. Gives the number of rows that went.
+    int test_all_rows();
 
 private:
     struct Tally {
         int found = 0;
         int removed = 0;
+        bool stopped = false; ///< By the operator's No.
     };
 
-    [[nodiscard]] Tally go_over_rows();
+    void go_over_rows(Tally& tally);
     [[nodiscard]] FileFinding test(int row);
     void drop_row(int row, const FileFinding& finding);
     void save_for_the_air();

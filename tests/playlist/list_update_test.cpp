@@ -148,15 +148,20 @@ TEST_F(ListUpdateTest, OfAnEmptyTableEndsAtOnce) {
 TEST_F(ListUpdateTest, TakesOutMissingFilesFirst) {
     put_songs({"C:\\b.mp3"}, 30);
     open_rows({"C:\\a.mp3", "C:\\b.mp3"});
-    machine.dialogs.expect_box("C:\\a.mp3 Non trouvé ", Answer::yes);
     update();
     EXPECT_THAT(saved_paths(), ElementsAre("C:\\b.mp3"));
     EXPECT_EQ(rows().sub_item(1, list_column::end), "30.00");
 }
 
+TEST_F(ListUpdateTest, TellsAtItsEndHowManyRowsWent) {
+    put_songs({"C:\\b.mp3"}, 30);
+    open_rows({"C:\\a.mp3", "C:\\b.mp3", "C:\\c.mp3"});
+    update();
+    EXPECT_EQ(machine.dialogs.last().text, "Eléments supprimés de la liste : 2\n\nSauvegarder la liste ?");
+}
+
 TEST_F(ListUpdateTest, EndsWhenNoFileWasFound) {
     open_rows({"C:\\a.mp3"});
-    machine.dialogs.expect_box("C:\\a.mp3 Non trouvé ", Answer::yes);
     machine.dialogs.expect_box("Aucun fichier de trouvé !", Answer::ok);
     list().a_mettre_a_jour_liste.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::warning);

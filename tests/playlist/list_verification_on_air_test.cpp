@@ -67,6 +67,43 @@ TEST_F(ListVerificationOnAir, LeavesNoTrackOutOfTheRun) {
     EXPECT_THAT(paths_started(), ElementsAre(track(2), track(3), track(4)));
 }
 
+TEST_F(ListVerificationOnAir, ThatTakesOutTheRowThatPlaysGoesOnWithTheNextOne) {
+    open_tracks({60, 60, 60, 60});
+    rows().select(2);
+    start_list();
+    machine.run_for(seconds(10));
+    test_without(2, {});
+    machine.run_for(seconds(130));
+    EXPECT_THAT(paths_started(), ElementsAre(track(2), track(3), track(4)));
+}
+
+TEST_F(ListVerificationOnAir, ThatTakesOutTheFirstRowWhileItPlaysGoesOnWithTheNextOne) {
+    open_tracks({60, 60, 60});
+    start_list();
+    machine.run_for(seconds(10));
+    test_without(1, {});
+    machine.run_for(seconds(120));
+    EXPECT_THAT(paths_started(), ElementsAre(track(1), track(2), track(3)));
+}
+
+TEST_F(ListVerificationOnAir, KeepsTheNumberOfTheRowThatPlaysWhereThatRowWent) {
+    open_tracks({60, 60, 60});
+    rows().select(2);
+    start_list();
+    machine.run_for(seconds(10));
+    test_without(2, {});
+    EXPECT_EQ(station.list.ligne_en_lecture, 2);
+}
+
+TEST_F(ListVerificationOnAir, FollowsTheRowThatPlaysWhereAnEarlierOneWent) {
+    open_tracks({60, 60, 60});
+    rows().select(2);
+    start_list();
+    machine.run_for(seconds(10));
+    test_without(1, {});
+    EXPECT_EQ(station.list.ligne_en_lecture, 1);
+}
+
 TEST_F(ListVerificationOnAir, BeginsTheListAnewBehindALastRowThatWent) {
     open_tracks({60, 60, 60});
     rows().select(3);

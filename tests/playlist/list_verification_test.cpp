@@ -139,6 +139,15 @@ TEST_F(ListVerificationTest, StopsAtNoAndKeepsWhatWasTakenOut) {
     EXPECT_THAT(saved_paths(), ElementsAre("C:\\d.mp3", "C:\\e.mp3"));
 }
 
+TEST_F(ListVerificationTest, ThatWasStoppedDoesNotSpeakOfSuccess) {
+    put_songs({"C:\\a.mp3", "C:\\c.mp3"});
+    open_rows({"C:\\a.mp3", "C:\\b.mp3", "C:\\c.mp3"});
+    expect_removal("C:\\b.mp3", Answer::no);
+    list().prechar.click();
+    EXPECT_THAT(saved_paths(), ElementsAre("C:\\a.mp3", "C:\\c.mp3"));
+    EXPECT_FALSE(window().visible);
+}
+
 TEST_F(ListVerificationTest, SaysWhenNoFileWasFound) {
     open_rows({"C:\\a.mp3"});
     expect_removal("C:\\a.mp3");

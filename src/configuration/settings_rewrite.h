@@ -7,24 +7,31 @@
 
 namespace sonarelle {
 
-/// The two routines that rewrite the whole store. Both end the process: the values are read again at the next start.
+/// The two routines that rewrite the whole store. The values are read at the next start.
 class SettingsRewrite {
 public:
-    SettingsRewrite(const Platform& platform, StationSettings& settings, std::function<void()> end_process);
+    /// What ends the program: at once, or as the operator does once he has confirmed it.
+    struct Ends {
+        std::function<void()> at_once;
+        std::function<void()> confirmed;
+    };
 
-    /// Writes the values of a first start.
+    SettingsRewrite(const Platform& platform, StationSettings& settings, Ends ends);
+
+    /// Writes the values of a first start and ends the program; in a first start itself without a word.
     void A_purger_registre_Click();
-    /// Returns to the factory values.
+    /// Writes the factory values, but for the banner. The station goes on as it is until it ends.
     void A_revenir_couleur_Click();
 
 private:
-    void rewrite(SettingsStore::Value column);
+    [[nodiscard]] bool wants_to_purge();
+    void write(SettingsStore::Value column);
     void tell(const std::string& text);
 
     const Platform& platform_;
     StationSettings& settings_;
     SettingsStore store_;
-    std::function<void()> end_process_;
+    Ends ends_;
 };
 
 } // namespace sonarelle

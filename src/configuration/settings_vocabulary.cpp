@@ -40,7 +40,7 @@ constexpr std::array vocabulary{
     SettingRow{config,   "Logo_liste",                    Form::path,     nullopt, "{chemin}Liste_Sonarine1.jpg", "{chemin}Liste_Sonarine1.jpg", "{chemin}Liste_Sonarine1.jpg", &S::logo_liste},
     SettingRow{config,   "Logo_fichier",                  Form::path,     nullopt, "{chemin}Menu_fichier_noir.gif", "{chemin}Menu_fichier_noir.gif", "{chemin}Menu_fichier_noir.gif", &S::logo_fichier},
     SettingRow{config,   "logo",                          Form::path,     nullopt, "{chemin}Logo_liste1.gif", "{chemin}Logo_liste1.gif", "{chemin}Logo_liste1.gif", &S::logo},
-    SettingRow{config,   "banniere",                      Form::path,     nullopt, "{chemin}bandeau.swf",   "{chemin}bandeau_Flash.swf", "{chemin}bandeau_Flash.swf", &S::banniere},
+    SettingRow{config,   "banniere",                      Form::path,     nullopt, "{chemin}bandeau.swf",   "{chemin}bandeau_Flash.swf", nullopt,               &S::banniere},
     SettingRow{config,   "Effet visuel",                  Form::flag,     nullopt, "Non",                   "Non",                   "Non",                   &S::effet_visuel},
     SettingRow{config,   "Montrer curseur",               Form::flag,     nullopt, "Non",                   "Non",                   "Non",                   no_variable},
     SettingRow{config,   "Load_combo1",                   Form::path,     nullopt, "",                      "",                      "",                      &S::load_combo1},

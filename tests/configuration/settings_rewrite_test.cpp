@@ -1,5 +1,7 @@
 #include "configuration/settings_rewrite.h"
 
+#include <gmock/gmock.h>
+
 #include "support/station_bench.h"
 
 namespace sonarelle {
@@ -12,7 +14,8 @@ protected:
         return machine.settings.GetSetting(settings_application, section, key, "(absent)");
     }
     void purge() {
-        machine.dialogs.expect_box(Answer::ok);
+        machine.dialogs.expect_box("Continuer ?", Answer::yes);
+        machine.dialogs.expect_box("Purge éffectué", Answer::ok);
         station.main_window.A_purger_registre.click();
     }
     void return_to_factory() {
@@ -47,6 +50,32 @@ TEST_F(SettingsRewriteTest, PurgeEndsTheProgram) {
     EXPECT_TRUE(station.ended());
 }
 
+TEST_F(SettingsRewriteTest, PurgeAsksFirst) {
+    machine.dialogs.expect_box("Continuer ?", Answer::no);
+    station.main_window.A_purger_registre.click();
+    EXPECT_EQ(machine.dialogs.last().default_button, 2);
+    EXPECT_TRUE(machine.settings.all(settings_application).empty());
+    EXPECT_FALSE(station.ended());
+}
+
+TEST_F(SettingsRewriteTest, PurgeClosesTheJournal) {
+    station.main_window.Active_journal.click();
+    purge();
+    EXPECT_THAT(machine.disk.bytes("C:\\Sonarelle\\journal.doc"), testing::HasSubstr(" Fermeture de Sonarelle"));
+}
+
+TEST_F(SettingsRewriteTest, PurgeDiscardsAJournalThatIsNotKept) {
+    station.main_window.Active_journal1.click();
+    purge();
+    EXPECT_FALSE(machine.disk.exists("C:\\Sonarelle\\journal.doc"));
+}
+
+TEST_F(SettingsRewriteTest, PurgeKeepsTheMainWindowsPlace) {
+    station.main_window.left = Twips{1200};
+    purge();
+    EXPECT_EQ(stored("Position", "Position_gauche"), "1200");
+}
+
 TEST_F(SettingsRewriteTest, PurgeOfAFirstStartSaysNothing) {
     station.settings.premier_lancement = true;
     station.main_window.A_purger_registre.click();
@@ -60,7 +89,28 @@ TEST_F(SettingsRewriteTest, FactoryReturnBringsBackTheLongFade) {
     EXPECT_EQ(stored("Config", "Mix_audio"), "13");
     EXPECT_EQ(stored("Config", "Mix_audio_vitesse"), "40");
     EXPECT_EQ(stored("Config", "Mix_audio_attenuation"), "3");
-    EXPECT_EQ(station.settings.mix_audio, 13);
+}
+
+TEST_F(SettingsRewriteTest, FactoryReturnLeavesTheRunningStationAsItIs) {
+    station.settings.nom_radio = "Radio Port";
+    station.settings.mix_audio = 20;
+    return_to_factory();
+    EXPECT_EQ(station.settings.nom_radio, "Radio Port");
+    EXPECT_EQ(station.settings.mix_audio, 20);
+    EXPECT_FALSE(station.ended());
+}
+
+TEST_F(SettingsRewriteTest, FactoryReturnKeepsTheBanner) {
+    station.settings.banniere = "C:\\ma.swf";
+    return_to_factory();
+    EXPECT_EQ(stored("Config", "banniere"), "C:\\ma.swf");
+    EXPECT_EQ(station.settings.banniere, "C:\\ma.swf");
+}
+
+TEST_F(SettingsRewriteTest, FactoryReturnTakesTheStationsOwnListPictureAtOnce) {
+    station.settings.logo = "C:\\ma.gif";
+    return_to_factory();
+    EXPECT_EQ(station.settings.logo, "C:\\Sonarelle\\Logo_liste1.gif");
 }
 
 TEST_F(SettingsRewriteTest, FactoryReturnLeavesTheInsertionsAlone) {
@@ -74,7 +124,6 @@ TEST_F(SettingsRewriteTest, FactoryReturnLeavesTheInsertionsAlone) {
 TEST_F(SettingsRewriteTest, FactoryReturnTellsThatARestartIsNeeded) {
     return_to_factory();
     EXPECT_EQ(machine.dialogs.last().text, "Pour prendre effet..le redémarrage de Sonarelle est nécessaire ");
-    EXPECT_TRUE(station.ended());
 }
 
 TEST_F(SettingsRewriteTest, KeepsTheButtonColourInMemoryApartFromTheStore) {
@@ -83,8 +132,8 @@ TEST_F(SettingsRewriteTest, KeepsTheButtonColourInMemoryApartFromTheStore) {
     EXPECT_EQ(stored("Couleur_liste", "coul_bouton"), "10461087");
 }
 
-TEST_F(SettingsRewriteTest, SetsTheColoursInMemory) {
-    return_to_factory();
+TEST_F(SettingsRewriteTest, PurgeSetsTheColoursInMemory) {
+    purge();
     EXPECT_EQ(station.settings.coul_texte_liste, 0x0F0F0F);
     EXPECT_EQ(station.settings.coul_text_bouton, static_cast<Colour>(0x80000012U));
     EXPECT_EQ(station.settings.coul_label, 0xFFFFFF);

@@ -59,7 +59,8 @@ public:
             record.set_volume(100);
             list.write(record);
         }
-        list.commit();
+        if (!list.commit_over(std::nullopt))
+            throw std::runtime_error{"another list is there"};
     }
     ~Collection() { std::filesystem::remove_all(folder_); }
     Collection(const Collection&) = delete;

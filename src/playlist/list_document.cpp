@@ -7,6 +7,7 @@
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
+#include "platform/scheduler.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
@@ -117,6 +118,7 @@ void ListDocument::append_records(const std::string& path) {
         reader.read(number, record);
         window_.ListView1.append(row_of(record, platform_.decimal_mark));
     }
+    default_.saw(path, reader.facts());
 }
 
 template void ListDocument::append_records<enreg_liste>(const std::string& path);
@@ -126,6 +128,7 @@ void ListDocument::announce_list() {
     offer_deletion();
     window_.Label1.caption = "Lecture en attente .. Nb : " + std::to_string(window_.ListView1.count());
     window_.caption = "Fichier liste : " + list_.fichier_liste;
+    show_file_in_use();
 }
 
 void ListDocument::offer_deletion() {
@@ -141,28 +144,27 @@ void ListDocument::select_current_row() {
 void ListDocument::sauve_tout() {
     ErrorIndicator errors;
     errors.skip([this] { enter_program_folder(platform_); });
-    list_.nom_fichier = default_list;
-    list_.fichier_liste = default_list;
-    window_.Text2.set_text(std::string{default_list});
-    const bool empty = window_.ListView1.count() == 0;
-    if (!empty)
+    if (window_.ListView1.count() > 0)
         window_.ListView1.select(1);
     try {
-        write_rows();
+        default_.save([this](ListWriter& writer) { write_rows(writer); });
     } catch (const Failure& failure) {
         report(failure);
     }
+    list_.nom_fichier = list_.fichier_liste = default_.name();
+    window_.Text2.set_text(default_.name());
     if (list_.ligne_en_lecture == 0)
         list_.ligne_en_lecture = 1;
     errors.skip([this] { select_current_row(); });
     a_mettre_Enabled();
     window_.caption = "Fichier liste ( Modification : " + list_.fichier_liste + " )";
+    show_file_in_use();
+    tell_notice();
 }
 
 // The record is reused from row to row and not cleared: a cell that can't be converted repeats the value of the row
 // before. The file is replaced whole, so a full disk leaves the old list.
-void ListDocument::write_rows() {
-    ListWriter writer{platform_.disk, list_path(platform_, list_.fichier_liste)};
+void ListDocument::write_rows(ListWriter& writer) {
     enreg_liste record;
     ErrorIndicator errors;
     for (int row = 1; row <= window_.ListView1.count(); ++row) {
@@ -172,7 +174,24 @@ void ListDocument::write_rows() {
                     [&errors](auto&& statement) { errors.skip(statement); });
         writer.write(record);
     }
-    writer.commit();
+}
+
+void ListDocument::claim_default_list() {
+    default_.claim();
+    tell_notice();
+}
+
+void ListDocument::tell_notice() {
+    const std::string notice = default_.take_notice();
+    if (!notice.empty() && tell)
+        tell(notice);
+}
+
+void ListDocument::show_file_in_use() {
+    const std::string_view loaded = name_of_path(list_.nom_sauvegarde);
+    const bool holds_changes = list_.fichier_liste == default_.name() && !loaded.empty() && loaded != default_.name();
+    window_.Label25.caption = "Dans fichier " + list_.fichier_liste +
+                              (holds_changes ? " (" + std::string{loaded} + " : modifications non enregistrées)" : "");
 }
 
 void ListDocument::fill_empty_cells(int row) {
@@ -213,7 +232,10 @@ void ListDocument::run_load(const std::function<void()>& statements) {
     }
 }
 
+// A box would hold up the tick that takes a row out, and the air with it.
 void ListDocument::report(const Failure& failure) {
+    if (tell && platform_.scheduler.in_tick())
+        return tell(failure.what());
     platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
 }
 

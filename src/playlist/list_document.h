@@ -5,6 +5,7 @@
 
 #include "configuration/station_settings.h"
 #include "platform/platform.h"
+#include "playlist/default_list.h"
 #include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 
@@ -26,13 +27,22 @@ public:
     void open_list(const std::string& name);
     /// Appends the rows of `liste.dfm` in the program's folder.
     void A_liste_anciene();
-    /// Writes all rows to `liste.dfm` in the program's folder, whatever list was loaded. Empty cells get their
+    /// Writes all rows to `liste.dfm` in the program's folder, whatever list was loaded, or to a list of this station's
+    /// own where that one is another program's. Empty cells get their
     /// defaults. A cell that can't be converted gives its record the value of the record before.
     void sauve_tout();
 
     void A_sauve();
     void a_Ne_pas_Sauve();
     void a_mettre_Enabled();
+
+    /// Makes the list of the changes this station's own, and tells when another program is on the air with it.
+    void claim_default_list();
+    [[nodiscard]] DefaultList& default_list_file() { return default_; }
+    /// Names the file whose records the chain reads, and a list whose changes it has in its stead.
+    void show_file_in_use();
+    /// Tells the operator without holding up who calls.
+    std::function<void(const std::string& text)> tell;
 
     /// Takes the drive and the file's name from the name in `Text2`.
     void recup_nom();
@@ -50,7 +60,8 @@ private:
     void offer_deletion();
     void append_chosen_list(const std::string& name);
     void fill_empty_cells(int row);
-    void write_rows();
+    void write_rows(ListWriter& writer);
+    void tell_notice();
     void select_current_row();
     void report(const Failure& failure);
 
@@ -58,6 +69,7 @@ private:
     StationSettings& settings_;
     ListState& list_;
     Liste_son& window_;
+    DefaultList default_{platform_};
 };
 
 } // namespace sonarelle

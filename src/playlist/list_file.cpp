@@ -24,22 +24,39 @@ void copy_bytes(RecordFile& source, FileReplacement& target, std::int64_t from, 
     }
 }
 
+/// Another program may have moved the rows since the record was read.
+void check_track(RecordFile& list, std::int64_t number, const enreg_liste& record) {
+    enreg_liste there;
+    constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
+    if (list.read((number - 1) * size, there.bytes()) == enreg_liste::size &&
+        there.trimmed_chemin() != record.trimmed_chemin())
+        throw Failure{failure_number::wrong_record_number, std::to_string(number),
+                      "Un autre programme a modifié cette liste"};
+}
+
+/// False when another program has written the list meanwhile.
+bool try_to_replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
+    const auto old = disk.open(path);
+    constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
+    const std::int64_t begin = (number - 1) * size;
+    if (number < 1 || number > old->length() / size + 1)
+        throw Failure{failure_number::wrong_record_number, std::to_string(number)};
+    check_track(*old, number, record);
+    const auto changed = disk.replace(path);
+    copy_bytes(*old, *changed, 0, begin);
+    changed->write(record.bytes());
+    copy_bytes(*old, *changed, begin + size, old->length());
+    return changed->commit_over(old->facts()).has_value();
+}
+
 } // namespace
 
 void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
     if (extension_of(path) == "rfm")
         throw Failure{failure_number::wrong_file_name, std::string{path},
                       "Sauvegarder dans format .dfm avant traitement !"};
-    const auto old = disk.open(path);
-    constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
-    const std::int64_t begin = (number - 1) * size;
-    if (number < 1 || number > old->length() / size + 1)
-        throw Failure{failure_number::wrong_record_number, std::to_string(number)};
-    const auto changed = disk.replace(path);
-    copy_bytes(*old, *changed, 0, begin);
-    changed->write(record.bytes());
-    copy_bytes(*old, *changed, begin + size, old->length());
-    changed->commit();
+    while (!try_to_replace_record(disk, path, number, record)) {
+    }
 }
 
 } // namespace sonarelle

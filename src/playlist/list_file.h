@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,21 +46,25 @@ private:
 using ListReader = RecordReader<enreg_liste>;
 using LegacyListReader = RecordReader<enreg_rfm>;
 
-/// A list that is written whole. Until `commit`, the old list stands.
+/// A list that is written whole. Until `commit_over`, the old list stands.
 class ListWriter {
 public:
     ListWriter(Disk& disk, std::string_view path) : file_{disk.replace(path)} {}
 
     void write(const enreg_liste& record) { file_->write(record.bytes()); }
-    void commit() { file_->commit(); }
+    /// @see FileReplacement::commit_over
+    [[nodiscard]] std::optional<FileFacts> commit_over(const std::optional<FileFacts>& seen) {
+        return file_->commit_over(seen);
+    }
 
 private:
     std::unique_ptr<FileReplacement> file_;
 };
 
 /// Puts one record in the place of another, and leaves the rest of the file as it is. A number one behind the last
-/// record adds it.
-/// @throws Failure 63 for any other number; 52 for an old list, which is never written.
+/// record adds it. What other programs change meanwhile stays.
+/// @throws Failure 63 for any other number, and where another track stands there; 52 for an old list, which is never
+/// written.
 void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record);
 
 } // namespace sonarelle

@@ -55,9 +55,11 @@ void ListSaveDialog::ask_and_save() {
     list_.fichier_liste = lower_case(chosen.file_name);
     window_.Text2.set_text(list_.fichier_liste);
     document_.recup_nom();
+    const auto old_list = document_.default_list_file().state_of(list_.fichier_liste);
     if (!may_overwrite())
         return;
-    write_rows();
+    document_.default_list_file().save_as(list_.fichier_liste, old_list,
+                                          [this](ListWriter& writer) { write_rows(writer); });
     announce_saved();
 }
 
@@ -76,14 +78,12 @@ bool ListSaveDialog::may_overwrite() const {
     return platform_.dialogs.MsgBox(question) == Answer::yes;
 }
 
-void ListSaveDialog::write_rows() {
-    ListWriter writer{platform_.disk, list_.fichier_liste};
+void ListSaveDialog::write_rows(ListWriter& writer) {
     enreg_liste record;
     for (int row = 1; row <= window_.ListView1.count(); ++row) {
         write_row(row, record);
         writer.write(record);
     }
-    writer.commit();
 }
 
 void ListSaveDialog::write_row(int row, enreg_liste& record) {
@@ -103,6 +103,7 @@ void ListSaveDialog::announce_saved() {
     document_.A_sauve();
     window_.A_ecoute.enabled = true;
     window_.caption = "Fichier liste : " + list_.fichier_liste;
+    document_.show_file_in_use();
 }
 
 } // namespace sonarelle

@@ -21,7 +21,7 @@ private:
     void ask_and_save();
     [[nodiscard]] bool may_overwrite() const;
     void detecte_extention(const std::string& name);
-    void write_rows();
+    void write_rows(ListWriter& writer);
     void write_row(int row, enreg_liste& record);
     void announce_saved();
 

@@ -24,7 +24,7 @@ void ListRun::start_selected_row() {
     const Integer row = desk_.list_window.ListView1.selected();
     const Integer row_before = desk_.list.index_en_cours;
     desk_.list.index_en_cours = desk_.list.index_destinataire = row;
-    desk_.list_window.Label25.caption = "Dans fichier " + desk_.list.fichier_liste;
+    document_.show_file_in_use();
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
     for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2})

@@ -82,6 +82,8 @@ void Startup::activate_splash() {
     initialise();
     if (create())
         window_.show();
+    if (!settings_.premier_lancement.is_true())
+        parts_.document.claim_default_list();
     parts_.splash.mouse_pointer = 0;
     parts_.splash.hide();
 }

@@ -78,6 +78,7 @@ std::vector<Window*> Station::windows() {
 }
 
 void Station::connect_list_window() {
+    list_document.tell = [this](const std::string& text) { desk.warn(text); };
     list_window.A_liste.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_Charge.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_liste_anciene.on_click = [this] { list_document.A_liste_anciene(); };

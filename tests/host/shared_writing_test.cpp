@@ -134,6 +134,13 @@ TEST(HostClaim, EndsWithTheProgram) {
     EXPECT_NE(bench.disk.claim(list), nullptr);
 }
 
+TEST(HostClaim, LeavesNothingBehind) {
+    DiskBench bench;
+    (void)bench.disk.claim(list);
+
+    EXPECT_THAT(bench.folder.names(), testing::IsEmpty());
+}
+
 TEST(HostClaim, IsRefusedInAFolderThatCanNotBeWritten) {
     DiskBench bench;
     bench.folder.put_folder("Fermé");

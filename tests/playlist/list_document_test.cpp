@@ -153,6 +153,16 @@ TEST_F(ListDocumentTest, IsCalledByThePatternAfterACancelledDialog) {
     EXPECT_EQ(station.list.fichier_liste, "*.dfm");
 }
 
+TEST_F(ListDocumentTest, ReadsBackARowNumberThatStandsForADuration) {
+    open_list(matin, {record_of("a", "200.00", 100, 0.1, "Rock", ""), record_of("b", "200.00", 100, 0.1, "Rock", "")});
+    station.list_document.sauve_tout();
+    station.list_document.charge_liste();
+    EXPECT_EQ(rows().sub_item(2, list_column::duration), "2");
+    station.list.index_destinataire = 2;
+    station.record_reading.lire_enreg_destinataire();
+    EXPECT_EQ(station.destination.dest_duree, "2       ");
+}
+
 TEST_F(ListDocumentTest, SaysNothingOfACancelledDialog) {
     machine.dialogs.expect_cancel();
     station.list_window.A_liste.click();

@@ -98,8 +98,8 @@ TEST_F(ListFile, LeavesTheRecordAloneWhenItReadsBehindTheEnd) {
 
 TEST_F(ListFile, ReplacesOneRecordAndKeepsTheRest) {
     machine.disk.put_file(list, bytes_of({record_of("a"), record_of("b"), record_of("c")}) + "reste");
-    replace_record(machine.disk, list, 2, record_of("neuf"));
-    EXPECT_EQ(machine.disk.bytes(list), bytes_of({record_of("a"), record_of("neuf"), record_of("c")}) + "reste");
+    replace_record(machine.disk, list, 2, record_of("b", "30.00"));
+    EXPECT_EQ(machine.disk.bytes(list), bytes_of({record_of("a"), record_of("b", "30.00"), record_of("c")}) + "reste");
 }
 
 TEST_F(ListFile, AddsARecordBehindTheLastOne) {

@@ -29,13 +29,35 @@ private:
     SafeFile file_;
 };
 
+/// Its hidden file goes with it, while its lock is still held: who has opened it meanwhile finds that its name is gone.
 class HostClaim : public FileClaim {
 public:
-    explicit HostClaim(FileHandle file) : file_{std::move(file)} {}
+    HostClaim(FileHandle file, std::string name) : file_{std::move(file)}, name_{std::move(name)} {}
+    ~HostClaim() override { ::unlink(name_.c_str()); }
 
 private:
     FileHandle file_;
+    std::string name_;
 };
+
+/// Another user's lock file can be locked without the right to write into it.
+FileHandle open_lock_file(const std::string& name, const std::string& source) {
+    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    FileHandle file{::open(name.c_str(), O_RDWR | O_CREAT | flags, 0666)};
+    const int refusal = errno;
+    if (!file.is_open() && refusal == EACCES)
+        file = FileHandle{::open(name.c_str(), O_RDONLY | flags)};
+    if (!file.is_open())
+        throw Failure{failure_of_errno(refusal, Access::writing), source};
+    return file;
+}
+
+bool has_name(const FileHandle& file, const std::string& name) {
+    struct stat by_name {};
+    struct stat by_handle {};
+    return ::lstat(name.c_str(), &by_name) == 0 && ::fstat(file.get(), &by_handle) == 0 &&
+           facts_of(by_name).serial == facts_of(by_handle).serial;
+}
 
 std::string claim_name(const std::string& path) {
     const auto name = path.rfind('/') + 1;
@@ -62,19 +84,15 @@ std::unique_ptr<FileReplacement> replace_machine_file(const std::string& path, c
     return std::make_unique<HostReplacement>(path, source);
 }
 
-// Another user's lock file can be locked without the right to write into it.
 std::unique_ptr<FileClaim> claim_machine_file(const std::string& path, const std::string& source) {
     const std::string name = claim_name(path);
-    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    FileHandle file{::open(name.c_str(), O_RDWR | O_CREAT | flags, 0666)};
-    const int refusal = errno;
-    if (!file.is_open() && refusal == EACCES)
-        file = FileHandle{::open(name.c_str(), O_RDONLY | flags)};
-    if (!file.is_open())
-        throw Failure{failure_of_errno(refusal, Access::writing), source};
-    if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-        return nullptr;
-    return std::make_unique<HostClaim>(std::move(file));
+    for (;;) {
+        FileHandle file = open_lock_file(name, source);
+        if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+            return nullptr;
+        if (has_name(file, name))
+            return std::make_unique<HostClaim>(std::move(file), name);
+    }
 }
 
 FileFacts facts_of(const struct stat& facts) {

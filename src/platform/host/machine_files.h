@@ -27,8 +27,7 @@ struct OpenFile {
 /// @throws Failure 76 without its folder, 75 when it can't be written.
 [[nodiscard]] std::unique_ptr<FileReplacement> replace_machine_file(const std::string& path, const std::string& source);
 
-/// Null when another program has it. A claim is a lock on a hidden file beside, which stays: to remove it would let two
-/// programs have it.
+/// Null when another program has it. A claim is a lock on a hidden file beside.
 /// @throws Failure 76 without its folder, 75 when nothing can be written there.
 [[nodiscard]] std::unique_ptr<FileClaim> claim_machine_file(const std::string& path, const std::string& source);
 

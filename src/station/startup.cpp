@@ -199,9 +199,22 @@ void Startup::act_on_command_line() {
     détecte_ext();
     if (parts_.desk.chain.extension_fichier != "dfm")
         return play_on_small_player();
+    if (!is_there(ligne_commande_))
+        return;
     parts_.modes.Image13_Click();
     parts_.document.open_list(ligne_commande_);
     parts_.list_run.Image1_Click();
+}
+
+// Opening a name that isn't there would make an empty list of it.
+bool Startup::is_there(const std::string& list) {
+    try {
+        static_cast<void>(platform_.disk.facts(list));
+        return true;
+    } catch (const Failure& failure) {
+        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::warning});
+        return false;
+    }
 }
 
 void Startup::détecte_ext() {

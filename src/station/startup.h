@@ -67,6 +67,7 @@ private:
     void store_program_folder();
     void act_on_command_line();
     void détecte_ext();
+    [[nodiscard]] bool is_there(const std::string& list);
     void play_on_small_player();
     void report(const Failure& failure);
 

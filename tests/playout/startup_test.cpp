@@ -36,6 +36,7 @@ protected:
 using FirstStart = StartupTest;
 using Splash = StartupTest;
 using CommandLine = StartupTest;
+using SecondDesk = StartupTest;
 
 } // namespace
 
@@ -73,6 +74,40 @@ TEST_F(FirstStart, IsFollowedByOneThatReachesTheMainWindow) {
     EXPECT_EQ(second.settings.mix_audio, 10);
     EXPECT_EQ(second.settings.mix_audio_vitesse, 35);
     EXPECT_EQ(second.settings.mix_audio_attenuation, 2);
+}
+
+TEST_F(CommandLine, OfAListThatIsNotThereNamesItAndMakesNone) {
+    fill_store();
+    machine.dialogs.expect_box("C:\\Listes\\non.dfm", Answer::ok);
+    station.start("\"C:\\Listes\\non.dfm\"");
+    EXPECT_FALSE(machine.disk.exists("C:\\Listes\\non.dfm"));
+    EXPECT_EQ(station.list.fichier_liste, "");
+    EXPECT_TRUE(window.visible);
+}
+
+TEST_F(SecondDesk, SaysThatSonarelleIsOnTheAir) {
+    start();
+    Station second{machine.platform};
+    second.start("");
+    EXPECT_TRUE(second.warning_window.visible);
+    EXPECT_THAT(second.warning_window.Label1.caption.get(), StartsWith("Sonarelle est déjà à l'antenne"));
+}
+
+TEST_F(SecondDesk, HasNothingToSayBehindOneThatHasEnded) {
+    {
+        Station first{machine.platform};
+        fill_store();
+        first.start("");
+    }
+    start();
+    EXPECT_FALSE(station.warning_window.visible);
+}
+
+TEST_F(SecondDesk, GoesOnTheAirWhereNothingCanBeClaimed) {
+    machine.disk.refuse("C:\\Sonarelle\\liste.dfm", failure_number::path_access);
+    start();
+    EXPECT_TRUE(window.visible);
+    EXPECT_FALSE(station.warning_window.visible);
 }
 
 TEST_F(Splash, HasTheProgramsPictureAndGoesWhenTheMainWindowIsThere) {

@@ -79,6 +79,12 @@ bool DefaultList::is_own(std::string_view path) const {
     return equal_ignoring_case(platform_.disk.absolute(path), platform_.disk.absolute(this->path()));
 }
 
+bool DefaultList::is_anothers(std::string_view path) const {
+    return name_ != default_list &&
+           equal_ignoring_case(platform_.disk.absolute(path),
+                               platform_.disk.absolute(join_path(platform_.program_folder, default_list)));
+}
+
 std::optional<FileFacts> DefaultList::state_of(const std::string& path) const {
     try {
         return platform_.disk.facts(path);

@@ -28,6 +28,9 @@ public:
     /// claimed keeps no list from the air.
     void claim();
 
+    /// Whether this is `liste.dfm` and another program works on it.
+    [[nodiscard]] bool is_anothers(std::string_view path) const;
+
     /// The rows were read from this file.
     void saw(std::string_view path, const FileFacts& facts);
 

@@ -87,7 +87,7 @@ void ListDocument::append_chosen_list(const std::string& name) {
     recup_nom();
     append_records<enreg_liste>(list_.fichier_liste);
     announce_list();
-    if (merge)
+    if (merge || default_.is_anothers(list_.fichier_liste)) // whose rows come and go without a word
         sauve_tout();
     a_mettre_Enabled();
     window_.mouse_pointer = 0;

@@ -82,7 +82,6 @@ void DeskWiring::connect_desk_commands() {
 
 void DeskWiring::connect_option_menu() {
     Antenne_FM& window = station_.main_window;
-    window.pre_char.on_click = [this] { station_.options_window.show(); };
     window.nom_radio.on_click = [this] { option_menu.nom_radio_Click(); };
     window.A_def_jingles.on_click = [this] { option_menu.A_def_jingles_Click(); };
     window.A_def_musique.on_click = [this] { option_menu.A_def_musique_Click(); };
@@ -141,15 +140,21 @@ void DeskWiring::connect_menu_labels() {
     connect_hover(station_.update_window, update_labels, station_.settings);
 }
 
-// An entry whose window isn't built yet says so; the window's own wiring takes the entry over.
+// What isn't built yet says so when it is chosen; its own wiring takes the entry over.
 void DeskWiring::answer_for_missing_windows() {
-    Antenne_FM& window = station_.main_window;
     const auto answer = [this] { station_.desk.inform("Cette fenètre n'est pas encore disponible"); };
-    for (MenuItem* entry : {&window.A_gere, &window.ecoute, &window.a_assosiation, &window.Afficher_C_aleatoire})
-        if (!entry->on_click)
-            entry->on_click = answer;
-    if (!window.Image17.on_click)
-        window.Image17.on_click = answer;
+    for (Window* window : station_.windows())
+        for (Control* control : window->controls()) {
+            if (control->kind() != ControlKind::menu_item)
+                continue;
+            auto& entry = static_cast<MenuItem&>(*control);
+            if (!entry.on_click && !entry.on_open && entry.entries().empty())
+                entry.on_click = answer;
+        }
+    Liste_son& list = station_.list_window;
+    for (Image* image : {&station_.main_window.Image17, &list.Image13, &list.Image14})
+        if (!image->on_click)
+            image->on_click = answer;
 }
 
 void DeskWiring::paint_windows() {

@@ -97,6 +97,7 @@ TEST_F(TwoPrograms, OfTwoDesksTheSecondLeavesTheFirstOnesList) {
     open_default_list(station);
     Station second{machine.platform};
     open_default_list(second);
+    EXPECT_EQ(second.list.fichier_liste, "liste-2.dfm");
     change_volume(second, "40");
     EXPECT_EQ(volume_in(default_path), 100);
     EXPECT_EQ(volume_in(own_path), 40);

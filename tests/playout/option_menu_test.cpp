@@ -113,9 +113,4 @@ TEST_F(Banner, IsPlayedAnewOnDemand) {
     EXPECT_TRUE(window.banner.playing);
 }
 
-TEST_F(OptionMenuTest, OpensTheOptions) {
-    window.pre_char.click();
-    EXPECT_TRUE(station.options_window.visible);
-}
-
 } // namespace sonarelle

@@ -16,7 +16,8 @@ QList<qsizetype> letters_of(const QString& caption) {
     for (qsizetype place = 0; place < caption.size(); ++place)
         if (is_plain_letter(caption[place]))
             places.append(place);
-    std::ranges::stable_partition(places, [&](auto place) { return place == 0 || !caption[place - 1].isLetter(); });
+    const auto begins_a_word = [&](auto place) { return place == 0 || !caption[place - 1].isLetter(); };
+    std::stable_partition(places.begin(), places.end(), begins_a_word);
     return places;
 }
 

@@ -253,12 +253,11 @@ TEST_F(ZappingTest, ShowsTheRowInTheListAndJournalsIt) {
     EXPECT_NE(journal_text().find(" ZAPPING sur ----> : " + track(2)), std::string::npos);
 }
 
-TEST_F(ZappingTest, ThatIsRefusedReadiesTheListsImages) {
+TEST_F(ZappingTest, ThatIsRefusedReadiesTheNextZapAndNoStartOfTheRunningList) {
     start_and_run(20);
-    station.list_window.Image1.enabled = false;
     machine.dialogs.expect_box("secondes minimun", Answer::ok);
     station.list_window.Image2.click();
-    EXPECT_TRUE(station.list_window.Image1.enabled);
+    EXPECT_FALSE(station.list_window.Image1.enabled);
     EXPECT_TRUE(station.list_window.Image2.enabled);
 }
 

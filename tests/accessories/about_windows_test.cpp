@@ -121,10 +121,11 @@ TEST_F(AboutWindowsTest, WithoutAProgramForAddressesDoNothing) {
 }
 
 TEST_F(AboutWindowsTest, HighlightAnAddressUnderThePointer) {
+    station.settings.coul_label = 0x404040;
     update.mail.mouse_move();
-    EXPECT_EQ(update.mail.fore_colour.get(), 16777215 + 18000);
+    EXPECT_EQ(update.mail.fore_colour.get(), 0x404040 + 18000);
     update.mouse_move();
-    EXPECT_EQ(update.mail.fore_colour.get(), 16777215);
+    EXPECT_EQ(update.mail.fore_colour.get(), 0x404040);
 }
 
 } // namespace sonarelle

@@ -79,7 +79,7 @@ TEST_F(ScriptedDialog, AnInputBoxGivesTheEnteredText) {
 
 TEST_F(ScriptedDialog, ACancelledInputBoxGivesNothing) {
     dialogs.expect_cancel();
-    EXPECT_EQ(dialogs.InputBox({"Entrez le nom", "Dossier", "Nouveau_dossier"}), "");
+    EXPECT_EQ(dialogs.InputBox({"Entrez le nom", "Dossier", "Nouveau_dossier"}), std::nullopt);
     EXPECT_TRUE(dialogs.last().cancelled);
 }
 
@@ -236,7 +236,7 @@ TEST_F(DefaultAnswers, ABoxGetsItsDefaultButton) {
 TEST_F(DefaultAnswers, AllOthersAreCancelled) {
     Window window{"err_form"};
     dialogs.default_answers();
-    EXPECT_EQ(dialogs.InputBox({"", "", "Nouveau"}), "");
+    EXPECT_EQ(dialogs.InputBox({"", "", "Nouveau"}), std::nullopt);
     EXPECT_TRUE(dialogs.open_file(open_list).cancelled);
     EXPECT_TRUE(dialogs.save_file(open_list).cancelled);
     EXPECT_EQ(dialogs.choose_colour(7), std::nullopt);

@@ -66,6 +66,12 @@ std::string make_folder() {
     return pattern;
 }
 
+/// Where the station of the run works: the lock of the folder around it is the run's, that of this one is for those who
+/// write in it.
+std::string station_folder(const std::string& folder) {
+    return folder + "/station";
+}
+
 std::string free_letter(const DriveTable& drives) {
     for (char letter = 'Z'; letter > 'A'; --letter)
         if (!drives.entries().contains(std::string(1, letter)))
@@ -77,7 +83,10 @@ std::string free_letter(const DriveTable& drives) {
 
 WorkingFolder::WorkingFolder(const DriveTable& user_drives)
     : folder_{make_folder()}, lock_{locked_folder(folder_)}, drive_{free_letter(user_drives)}, drives_{user_drives} {
-    drives_.set(drive_, folder_);
+    const std::string inner = station_folder(folder_);
+    if (::mkdir(inner.c_str(), 0700) != 0)
+        throw_errno(Access::writing, inner);
+    drives_.set(drive_, inner);
 }
 
 WorkingFolder::~WorkingFolder() {
@@ -87,7 +96,7 @@ WorkingFolder::~WorkingFolder() {
 
 std::string WorkingFolder::copy(const std::string& file) const {
     std::error_code error;
-    std::filesystem::copy_file(file, folder_ + "/programme.dfm", error);
+    std::filesystem::copy_file(file, station_folder(folder_) + "/programme.dfm", error);
     if (error == std::errc::no_such_file_or_directory)
         throw Failure{failure_number::file_not_found, file};
     if (error == std::errc::no_space_on_device)

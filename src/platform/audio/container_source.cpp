@@ -45,7 +45,8 @@ public:
     ContainerSource(std::unique_ptr<RecordFile> file, const std::string& path)
         : file_{std::move(file), path}, stream_{file_.stream(AVMEDIA_TYPE_AUDIO)},
           packet_{allocated(av_packet_alloc())}, has_pictures_{has_film(file_)} {
-        if (stream_ == nullptr && has_pictures_)
+        // Any bytes look like pictures to one codec or another; a film that lasts tells for how long.
+        if (stream_ == nullptr && has_pictures_ && file_.format().duration > 0)
             return;
         if (stream_ == nullptr || !start() || codec_->rate() < 1000 || codec_->rate() > 1'000'000)
             throw Failure{failure_number::unplayable_file, path};
@@ -76,6 +77,8 @@ public:
     }
 
     [[nodiscard]] PlanarBlock read() override {
+        if (stream_ == nullptr)
+            return {};
         for (;;) {
             PlanarBlock block = ahead_.samples > 0 ? std::exchange(ahead_, {}) : decode();
             if (block.samples == 0)

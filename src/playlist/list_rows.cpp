@@ -1,6 +1,7 @@
 #include "playlist/list_rows.h"
 
 #include "platform/disk.h"
+#include "platform/failure.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -31,6 +32,13 @@ RowTable::Row row_of(const enreg_rfm& record, DecimalMark mark) {
 RowTable::Row row_of(const DestinationRecord& record, DecimalMark mark) {
     return {record.dest_chemin, Format(record.dest_debut, start_pattern, mark), end_cell(record.dest_fin, mark),
             record.dest_genre,  text_of(record.dest_volume_pourcent),           std::string{trim(record.dest_duree)}};
+}
+
+enreg_liste record_of_cells(const RowTable::Row& row, DecimalMark mark) {
+    enreg_liste record;
+    ErrorIndicator cells;
+    fill_record(record, row, mark, [&cells](auto&& statement) { cells.skip(statement); });
+    return record;
 }
 
 void enter_program_folder(const Platform& platform) {

@@ -48,6 +48,9 @@ void fill_record(enreg_liste& record, const RowTable::Row& row, DecimalMark mark
     statement([&] { record.set_duree_piste(row[list_column::duration]); });
 }
 
+/// The record of a row. A cell that can't be converted leaves its field empty.
+[[nodiscard]] enreg_liste record_of_cells(const RowTable::Row& row, DecimalMark mark);
+
 /// Makes the program's drive and folder the current ones, in which relative names resolve.
 void enter_program_folder(const Platform& platform);
 

@@ -11,17 +11,25 @@
 namespace sonarelle {
 
 RecordReading::RecordReading(const Platform& platform, ListState& list, DestinationRecord& destination,
-                             DraggedRecord& dragged, std::function<void()> warn_of_null_volume)
-    : platform_{platform}, list_{list}, destination_{destination}, dragged_{dragged}, warn_of_null_volume_{std::move(
-                                                                                          warn_of_null_volume)} {}
+                             DraggedRecord& dragged, const RowTable& rows, std::function<void()> warn_of_null_volume)
+    : platform_{platform}, list_{list}, destination_{destination}, dragged_{dragged}, rows_{rows},
+      warn_of_null_volume_{std::move(warn_of_null_volume)} {}
 
 void RecordReading::lire_enreg_destinataire() {
+    fill_destination(&RecordReading::record_of_file);
+}
+
+void RecordReading::read_for_the_air() {
+    fill_destination(&RecordReading::record_of_row);
+}
+
+void RecordReading::fill_destination(enreg_liste (RecordReading::*record_of)(int number) const) {
     if (list_.fichier_liste.empty())
         return;
     if (list_.index_destinataire == 0)
         list_.index_destinataire = 1;
-    ErrorIndicator{}.skip([this] {
-        take_texts(record_of_file(list_.index_destinataire.value()));
+    ErrorIndicator{}.skip([&] {
+        take_texts((this->*record_of)(list_.index_destinataire.value()));
         if (destination_.dest_volume == 0)
             check_null_volume();
         take_volume();
@@ -39,6 +47,16 @@ enreg_liste RecordReading::record_of_file(int number) const {
     enreg_liste record;
     ListReader{platform_.disk, list_path(platform_, list_.fichier_liste)}.read(number, record);
     return record;
+}
+
+enreg_liste RecordReading::record_of_row(int number) const {
+    if (number > rows_.count())
+        return record_of_file(number);
+    const RowTable::Row& shown = rows_.row(number);
+    enreg_liste record;
+    const bool is_read = ErrorIndicator{}.skip([&] { record = record_of_file(number); });
+    const bool is_shown = is_read && record.trimmed_chemin() == shown[list_column::path];
+    return is_shown ? record : record_of_cells(shown, platform_.decimal_mark);
 }
 
 void RecordReading::take(const enreg_liste& record) {

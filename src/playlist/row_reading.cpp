@@ -10,12 +10,8 @@ namespace sonarelle {
 
 void RowReading::read(int row) {
     const RowTable::Row& shown = window_.ListView1.row(row);
-    if (!reading_.read_record(row) || destination_.dest_chemin != shown[list_column::path]) {
-        enreg_liste record;
-        ErrorIndicator cells;
-        fill_record(record, shown, platform_.decimal_mark, [&cells](auto&& statement) { cells.skip(statement); });
-        reading_.take(record);
-    }
+    if (!reading_.read_record(row) || destination_.dest_chemin != shown[list_column::path])
+        reading_.take(record_of_cells(shown, platform_.decimal_mark));
     null_volume_ |= destination_.dest_volume_pourcent == 0;
 }
 

@@ -96,7 +96,7 @@ bool AutoChain::try_to_load_next() {
         return false;
     desk_.window.Timer1.disable();
     desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.lire_enreg_destinataire();
+    reading_.read_for_the_air();
     chain.chargement_fait = true;
     try {
         if (!is_file_there() || !load_row())

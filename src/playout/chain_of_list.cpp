@@ -123,7 +123,7 @@ bool AutoChain::load_behind(Deck& old) {
     load_walk_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.lire_enreg_destinataire();
+    reading_.read_for_the_air();
     Deck& next = desk_.deck(next_deck(old.number()));
     const bool told = is_loaded(next);
     desk_.chain.erreur_chargement = false;

@@ -29,7 +29,7 @@ void ListRun::start_selected_row() {
         return save_dialog_.A_enreg_sous();
     for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2})
         button->enabled = true;
-    reading_.lire_enreg_destinataire();
+    reading_.read_for_the_air();
     if (is_on_air() && !can_be_played(desk_.destination.dest_chemin)) {
         desk_.list.index_en_cours = row_before;
         return run_.report_failed_start(desk_.destination.dest_chemin);

@@ -120,7 +120,7 @@ bool Zapping::is_too_short() {
 void Zapping::load_row(Deck& next) {
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.lire_enreg_destinataire();
+    reading_.read_for_the_air();
     const bool told = chain_.is_loaded(next);
     desk_.chain.erreur_chargement = false;
     loading_.load_from_list(next);

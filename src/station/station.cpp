@@ -24,7 +24,7 @@ Station::Station(const Platform& platform)
                                               Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
       settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
-      record_reading{platform_, list, destination, dragged, [this] { warn_of_null_volume(); }},
+      record_reading{platform_, list, destination, dragged, list_window.ListView1, [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,

@@ -54,6 +54,34 @@ void ListDocument::charge_liste() {
     });
 }
 
+void ListDocument::show_changed_record(int number) {
+    RowTable& shown = window_.ListView1;
+    const std::vector<RowTable::Row> rows = rows_of_file();
+    const int count = static_cast<int>(rows.size());
+    const auto row_of_file = [&rows](int row) -> const RowTable::Row& {
+        return rows[static_cast<std::size_t>(row - 1)];
+    };
+    const auto is_shown = [&](int row) { return row_of_file(row)[list_column::path] == shown.text(row); };
+    bool is_list = count == shown.count();
+    for (int row = 1; is_list && row <= count; ++row)
+        is_list = is_shown(row);
+    if (is_list || shown.count() == 0)
+        charge_liste();
+    else if (number <= std::min(count, shown.count()) && is_shown(number))
+        shown.replace(number, row_of_file(number));
+}
+
+std::vector<RowTable::Row> ListDocument::rows_of_file() const {
+    ListReader reader{platform_.disk, list_path(platform_, list_.fichier_liste)};
+    std::vector<RowTable::Row> rows;
+    enreg_liste record;
+    for (std::int64_t number = 1; number <= reader.count(); ++number) {
+        reader.read(number, record);
+        rows.push_back(row_of(record, platform_.decimal_mark));
+    }
+    return rows;
+}
+
 void ListDocument::A_liste_Click() {
     run_load([this] {
         const ChosenFile chosen = platform_.dialogs.open_file(

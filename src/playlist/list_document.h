@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "configuration/station_settings.h"
 #include "platform/platform.h"
@@ -21,6 +22,9 @@ public:
 
     /// Replaces all rows by the content of `fichier_liste` and selects row `index_en_cours`.
     void charge_liste();
+    /// Shows a record that was changed in the file. The whole list is read anew where the file holds the rows that are
+    /// shown; where they have gone another way, as after a save that wasn't wanted, only this row changes.
+    void show_changed_record(int number);
     /// Asks for a list and appends its rows. Rows that were there before make it a merge, which is saved at once.
     void A_liste_Click();
     /// The same with a list that was named already.
@@ -56,6 +60,7 @@ public:
     void run_load(const std::function<void()>& statements);
 
 private:
+    [[nodiscard]] std::vector<RowTable::Row> rows_of_file() const;
     void take_list_name(const std::string& name);
     void offer_deletion();
     void append_chosen_list(const std::string& name);

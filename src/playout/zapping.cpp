@@ -161,7 +161,7 @@ void Zapping::hand_over(Deck& old) {
     if (!ended)
         return;
     replace_row(desk_, *ended);
-    document_.charge_liste();
+    document_.show_changed_record(ended->number);
 }
 
 void Zapping::choose_fade() {

@@ -1,4 +1,5 @@
 // What an operator's hands do beside the air, and what follows on it.
+#include "playlist/list_rows.h"
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -48,6 +49,25 @@ TEST_F(AirUnderHands, TracksBehindARefusedSaveEndWhereTheirRowsSay) {
     refuse_to_save_over({record_of(track(7), "30.00"), record_of(track(8), "30.00"), record_of(track(9), "30.00")});
     machine.run_for(seconds(200));
     EXPECT_EQ(times_of(Kind::started), (Starts{{0, 1}, {94, 2}, {188, 3}}));
+}
+
+TEST_F(AirUnderHands, ZapBehindARefusedSaveLeavesTheRowsAsTheyAre) {
+    open_tracks({100, 100, 100});
+    start_list();
+    refuse_to_save_over({record_of(track(1)), record_of(track(9))});
+    machine.run_for(seconds(40));
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_EQ(rows().text(2), track(2));
+}
+
+TEST_F(AirUnderHands, ZapBehindARefusedSaveShowsTheEndThatItHasWritten) {
+    open_tracks({100, 100, 100});
+    start_list();
+    refuse_to_save_over({record_of(track(1)), record_of(track(9))});
+    machine.run_for(seconds(40));
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(rows().sub_item(1, list_column::end), "40.00");
 }
 
 } // namespace sonarelle

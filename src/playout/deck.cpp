@@ -42,6 +42,10 @@ bool Deck::is_at_its_end() const {
     return has_graph() && graph_->GetState() == MediaState::running && !sounds();
 }
 
+bool Deck::rests() const {
+    return !has_graph() || (graph_->GetState() != MediaState::running && !pause_lecteur.is_true());
+}
+
 void Deck::create_graph() {
     tell_that_graph_leaves();
     close_video();

@@ -52,6 +52,9 @@ public:
     /// Drops the graph; a video window stays until `close_video`.
     void drop_graph();
 
+    /// Whether nothing is under way on it: it neither runs nor is paused.
+    [[nodiscard]] bool rests() const;
+
     /// Takes the video window of the graph and names it.
     void open_video(std::string_view caption);
     void close_video() { video_.reset(); }

@@ -173,8 +173,10 @@ void DeckLoading::charge_lire(const std::string& path) {
 }
 
 void DeckLoading::open_by_hand(Deck& deck) {
-    if (may_be_cut(deck))
-        open(deck);
+    if (!may_be_cut(deck))
+        return;
+    open(deck);
+    desk_.show_list_start();
 }
 
 bool DeckLoading::may_be_cut(const Deck& deck) {

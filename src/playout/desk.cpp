@@ -49,8 +49,8 @@ void Desk::show_list_start() const {
 bool Desk::list_runs() const {
     const int row = list.ligne_en_lecture.value();
     const bool chained = chain.mode_enchainement.is_true() && window.Timer4.enabled();
-    return chain.air == AirState::on && chained && has_main_deck() && row >= 1 && row <= row_count() &&
-           equal_ignoring_case(list_window.ListView1.text(row), main_deck().path);
+    return chain.air == AirState::on && chained && has_main_deck() && !main_deck().rests() && row >= 1 &&
+           row <= row_count() && equal_ignoring_case(list_window.ListView1.text(row), main_deck().path);
 }
 
 void Desk::show_on_small_player(const std::string& name) {

@@ -43,6 +43,17 @@ TEST_F(AirUnderHands, ListStartsAtTheChosenRowBehindAListDialogThatWasLeft) {
     EXPECT_EQ(machine.media.on_air(), std::vector{track(3)});
 }
 
+TEST_F(AirUnderHands, ListCanBeStartedWhereAnOpenHasCutIt) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(10));
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
+    machine.dialogs.expect_cancel();
+    controls(1).open.click();
+    station.list_window.Image1.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector{track(1)});
+}
+
 TEST_F(AirUnderHands, TracksBehindARefusedSaveEndWhereTheirRowsSay) {
     open_tracks({100, 100, 100});
     start_list();

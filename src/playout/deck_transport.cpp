@@ -57,8 +57,8 @@ void DeckTransport::toggle_pause(Deck& deck) {
         volume_.vol_pour_stop();
     } else {
         deck.graph().Run();
-        if (desk_.chain.lecteur_en_cours == deck.number())
-            desk_.set_air(AirState::on); // it may have been stopped
+        if (desk_.chain.lecteur_en_cours == deck.number() && desk_.chain.air == AirState::off)
+            desk_.set_air(AirState::on);
         if (deck.mix_en_cours != 0)
             volume_.vol_pour_mix_spc();
     }

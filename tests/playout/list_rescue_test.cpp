@@ -45,6 +45,15 @@ TEST_F(ListRescueTest, TakesTheListUpFiveSecondsBehindTheTrackThatTheLoadStopLef
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
+TEST_F(ListRescueTest, TakesTheListUpThoughTheTrackThatWasLeftWasPaused) {
+    stop_by_a_lost_folder();
+    controls(1).pause.click();
+    play_for(3);
+    controls(1).pause.click();
+    play_for(30);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {48, 1}}));
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
     stop_by_a_lost_folder();
     play_for(60);

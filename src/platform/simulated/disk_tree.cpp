@@ -42,8 +42,13 @@ void DiskTree::add_drive(std::string_view drive) {
     folder_in(drives_, drive_of(drive));
 }
 
-void DiskTree::remove_drive(std::string_view drive) {
-    drives_.erase(lower_case(drive_of(drive)));
+std::unique_ptr<DiskEntry> DiskTree::take_drive(std::string_view drive) {
+    auto taken = drives_.extract(lower_case(drive_of(drive)));
+    return taken ? std::move(taken.mapped()) : nullptr;
+}
+
+void DiskTree::put_drive(std::string_view drive, std::unique_ptr<DiskEntry> entry) {
+    drives_[lower_case(drive_of(drive))] = std::move(entry);
 }
 
 bool DiskTree::has_drive(std::string_view drive) const {

@@ -70,7 +70,10 @@ struct DiskPlace {
 class DiskTree {
 public:
     void add_drive(std::string_view drive);
-    void remove_drive(std::string_view drive);
+    void remove_drive(std::string_view drive) { (void)take_drive(drive); }
+    /// Takes it out with all that it holds. Nothing when there is no such drive.
+    std::unique_ptr<DiskEntry> take_drive(std::string_view drive);
+    void put_drive(std::string_view drive, std::unique_ptr<DiskEntry> entry);
     [[nodiscard]] bool has_drive(std::string_view drive) const;
 
     /// @throws Failure 68 without such a drive, 76 without such a folder.

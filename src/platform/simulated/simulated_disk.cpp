@@ -243,6 +243,15 @@ void SimulatedDisk::put_file(std::string_view path, std::string_view bytes) {
     file.content->modified = time_of_change();
 }
 
+void SimulatedDisk::unplug(std::string_view drive) {
+    unplugged_[std::string{drive}] = tree_.take_drive(drive);
+}
+
+void SimulatedDisk::plug_again(std::string_view drive) {
+    if (auto taken = unplugged_.extract(std::string{drive}); taken && taken.mapped())
+        tree_.put_drive(drive, std::move(taken.mapped()));
+}
+
 void SimulatedDisk::put_folder(std::string_view path) {
     (void)tree_.make_folders(absolute(path));
 }

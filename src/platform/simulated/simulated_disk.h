@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -52,6 +54,9 @@ public:
     void add_drive(std::string_view drive) { tree_.add_drive(drive); }
     /// Unplugs it, with all that it holds.
     void remove_drive(std::string_view drive) { tree_.remove_drive(drive); }
+    /// Unplugs it until `plug_again`.
+    void unplug(std::string_view drive);
+    void plug_again(std::string_view drive);
     /// Puts a file there, in the place of another if need be; makes its folders and its drive.
     void put_file(std::string_view path, std::string_view bytes = {});
     void put_folder(std::string_view path);
@@ -94,6 +99,7 @@ private:
     Clock& clock_;
     DiskSpace space_;
     DiskTree tree_;
+    std::map<std::string, std::unique_ptr<DiskEntry>, std::less<>> unplugged_; // by name
     DiskFaults faults_;
     WorkingFolders working_;
     std::vector<std::string> found_; // what Dir() has still to give, the next one last

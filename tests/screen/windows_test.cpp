@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <sstream>
 
 #include "configuration/settings_vocabulary.h"
@@ -121,9 +122,19 @@ TEST_F(WindowsOnScreen, InTheScreensCornerItComesBackThere) {
     });
 }
 
-TEST_F(WindowsOnScreen, TheSmallestMainWindowLosesNoControl) {
+/// With a card that plays: the loss of one is told in the banner's place.
+class WindowsWithACard : public WindowsOnScreen {
+protected:
+    WindowsWithACard() { ::setenv("SDL_AUDIODRIVER", "dummy", 1); }
+    ~WindowsWithACard() override { ::unsetenv("SDL_AUDIODRIVER"); }
+    WindowsWithACard(const WindowsWithACard&) = delete;
+    WindowsWithACard& operator=(const WindowsWithACard&) = delete;
+};
+
+TEST_F(WindowsWithACard, TheSmallestMainWindowLosesNoControl) {
     operate("", [this] {
         see_main_window();
+        eventually("the card", [this] { return main_widget()->findChild<QWidget*>("banner")->isVisible(); });
         operators_event([this] {
             station().main_window.aa_montrer_curseur.click();
             make_small(*main_widget());

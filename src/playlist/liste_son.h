@@ -83,6 +83,8 @@ struct Liste_son : Window {
     MenuItem modifier_chemin{*this, "modifier_chemin", "Modifier le chemin sur la liste"};
     MenuItem modifier_chemin_non{*this, "modifier_chemin_non", "Ne pas modifier directement , le chemin sur la liste"};
 
+    /// Whether the reading mode is one of the list's.
+    [[nodiscard]] bool reads_the_list() const { return Option2.value() || Option3.value() || Option4.value(); }
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
     /// What lists in a fixed order offer: lists to open and to convert, and the pre-listen.

@@ -17,8 +17,8 @@ void RunControl::lect_liste() {
         return desk_.inform("La liste est vide");
     if (desk_.chain.chemin_lecture.empty())
         return;
-    // A fault may have put the chain off. In the mode of the full length no load puts it on again.
-    if (desk_.chain.mode_enchainement.is_true())
+    // A fault may have put the chain off. In the mode of the full length, and without fades, no load puts it on again.
+    if (desk_.chain.mode_enchainement.is_true() || desk_.list_window.reads_the_list())
         desk_.window.Timer4.enable();
     desk_.deck(1).controls.zap.enabled = true;
     desk_.window.coche3.set_value(true);

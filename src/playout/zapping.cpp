@@ -34,18 +34,13 @@ void Zapping::zapping() {
 void Zapping::press_zap(Deck& old) {
     if (desk_.is_manual() || desk_.chain.lecteur_en_cours != old.number())
         return;
-    if (!is_list_mode())
+    if (!desk_.list_window.reads_the_list())
         return zap(old);
     try {
         chain_.automatic_zap(old);
     } catch (const Failure& failure) {
         tell(lines_of(failure), Icon::none);
     }
-}
-
-bool Zapping::is_list_mode() const {
-    const Liste_son& list = desk_.list_window;
-    return list.Option2.value() || list.Option3.value() || list.Option4.value();
 }
 
 void Zapping::zap(Deck& old) {
@@ -66,7 +61,7 @@ void Zapping::zap_by_the_rules(Deck& old) {
 }
 
 bool Zapping::ends_record() const {
-    return is_list_mode() && desk_.chain.mode_enchainement.is_true();
+    return desk_.list_window.reads_the_list() && desk_.chain.mode_enchainement.is_true();
 }
 
 void Zapping::refuse_too_early() {
@@ -165,7 +160,7 @@ void Zapping::hand_over(Deck& old) {
 }
 
 void Zapping::choose_fade() {
-    if (!is_list_mode() || !desk_.chain.mode_enchainement.is_false())
+    if (!desk_.list_window.reads_the_list() || !desk_.chain.mode_enchainement.is_false())
         return;
     if (desk_.window.Désactive_audio.checked)
         mix_.Pas_demix_audio();

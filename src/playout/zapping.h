@@ -27,7 +27,6 @@ public:
 
 private:
     void zap_by_the_rules(Deck& old);
-    [[nodiscard]] bool is_list_mode() const;
     void refuse_too_early();
     /// Whether a zap ends the row's record where it cuts its track.
     [[nodiscard]] bool ends_record() const;

@@ -60,6 +60,14 @@ TEST_F(ListRescueTest, GoesOnWithTheChain) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 1}));
 }
 
+TEST_F(ListRescueTest, GoesOnWithTheChainWithoutFadesToo) {
+    open_list_with_a_lost_folder();
+    start_list();
+    station.main_window.Désactive_audio.click();
+    play_for(88);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 1}));
+}
+
 TEST_F(ListRescueTest, KeepsTheRowOfTheLostFolder) {
     stop_by_a_lost_folder();
     play_for(60);

@@ -114,9 +114,10 @@ void AutoChain::take_next_row() {
     take_current_row();
 }
 
-// Behind the last row the list begins anew; it may have become shorter meanwhile.
+// Behind the last row the list begins anew; it may have become shorter meanwhile. Before the first row stands a list
+// whose first row was loaded in list order.
 void AutoChain::take_current_row() {
-    if (desk_.list.index_en_cours.value() > desk_.row_count())
+    if (desk_.list.index_en_cours < 1 || desk_.list.index_en_cours.value() > desk_.row_count())
         desk_.list.index_en_cours = 1;
     desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
 }

@@ -53,6 +53,16 @@ TEST_F(RandomChainTest, FollowsAShortItemByTheRowThatTheLoadStepDrew) {
     EXPECT_EQ(rows_started(), rows_loaded());
 }
 
+TEST_F(RandomChainTest, ChosenBehindTheLoadOfTheFirstRowIsFollowedByThatRow) {
+    open_tracks({20, 20, 20});
+    rows().select(3);
+    start_list();
+    machine.run_for(seconds(16));
+    station.list_window.Option2.click();
+    machine.run_for(seconds(4));
+    EXPECT_EQ(rows_started(), (std::vector<int>{3, 1}));
+}
+
 TEST_F(RandomChainTest, FollowsAnItemTooShortForALoadStepByTheNextRow) {
     open_tracks({3, 3, 100});
     start_at_random();

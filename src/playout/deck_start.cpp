@@ -125,7 +125,9 @@ void DeckStart::show_main_deck(Deck& deck) {
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
     desk_.window.Label7.caption = desk_.station_banner();
-    desk_.set_air(AirState::on);
+    // What is started by hand behind a fault is followed by nothing yet.
+    if (desk_.chain.air != AirState::failed || desk_.window.Timer2.enabled() || desk_.window.Timer4.enabled())
+        desk_.set_air(AirState::on);
     desk_.report({OnAirEvent::Kind::started,
                   deck.number(),
                   desk_.list.index_en_cours.value(),

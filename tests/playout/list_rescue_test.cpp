@@ -54,6 +54,17 @@ TEST_F(ListRescueTest, TakesTheListUpThoughTheTrackThatWasLeftWasPaused) {
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {48, 1}}));
 }
 
+TEST_F(ListRescueTest, TakesTheListUpBehindATrackThatWasStartedByHandToo) {
+    open_list_with_a_lost_folder();
+    station.list_window.Option4.click();
+    station.list_window.Image1.click();
+    play_for(28);
+    controls(1).zap.click();
+    station.main_window.Désactive_audio.click();
+    play_for(50);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {28, 2}, {73, 1}}));
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
     stop_by_a_lost_folder();
     play_for(60);

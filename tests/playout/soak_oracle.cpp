@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <unordered_set>
+#include <utility>
 
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -95,6 +96,19 @@ void SoakOracle::follow(const OnAirEvent& event) {
 void SoakOracle::listen() {
     if (failed_)
         return;
+    look_at_chain();
+    const std::string_view own = own_silence();
+    silence_ = world_.is_heard() || !own.empty() ? Frames{} : silence_ + milliseconds(listening_period);
+    wished_silence_ = world_.is_heard() || own.empty() ? Frames{} : wished_silence_ + milliseconds(listening_period);
+    if (wished_silence_ == longest_silence)
+        ++silences_[std::string{own}];
+    if (silence_ > longest_silence)
+        judge_silence();
+    if (++half_seconds_ % half_seconds_between_row_checks == 0)
+        check_rows();
+}
+
+void SoakOracle::look_at_chain() {
     const bool list_is_on = world_.station.chain.mode_enchainement.is_true();
     if (list_was_on_ && !list_is_on && !in_hand_)
         fail("the list chain was left by no hand");
@@ -106,15 +120,6 @@ void SoakOracle::listen() {
     // A deck that is started by hand is no chain yet.
     if (world_.main_sounds() && (window.Timer2.enabled() || window.Timer4.enabled()))
         stopped_by_fault_ = false;
-    const std::string_view own = own_silence();
-    silence_ = world_.is_heard() || !own.empty() ? Frames{} : silence_ + milliseconds(listening_period);
-    wished_silence_ = world_.is_heard() || own.empty() ? Frames{} : wished_silence_ + milliseconds(listening_period);
-    if (wished_silence_ == longest_silence)
-        ++silences_[std::string{own}];
-    if (silence_ > longest_silence)
-        judge_silence();
-    if (++half_seconds_ % half_seconds_between_row_checks == 0)
-        check_rows();
 }
 
 void SoakOracle::judge_silence() {

@@ -38,6 +38,7 @@ public:
 private:
     void listen();
     void follow(const OnAirEvent& event);
+    void look_at_chain();
     void judge_silence();
     void count_message(const std::string& text);
     [[nodiscard]] bool is_of_a_place_to_pass_over(const std::string& text) const;

@@ -153,35 +153,45 @@ std::string SoakWorld::recipe() const {
 }
 
 std::string SoakWorld::state() {
-    const Antenne_FM& window = station.main_window;
-    const Liste_son& list = station.list_window;
-    std::string text = "main deck " + std::to_string(main_deck()) + ", row " + text_of(station.list.index_en_cours) +
-                       " of " + std::to_string(rows().count()) + ", elapsed " + window.Label5.caption.get() + ", " +
-                       window.Label7.caption.get() + ", " + window.Label10.caption.get();
-    text += std::string{"\n    coche2 "} + (window.coche2.value() ? "1" : "0") + " coche3 " +
-            (window.coche3.value() ? "1" : "0") + " coche4 " + std::to_string(window.coche4.value()) + " options ";
-    for (const OptionButton* option : {&list.Option1, &list.Option2, &list.Option3, &list.Option4})
-        text += option->value() ? "1" : "0";
-    text += " mode " + std::to_string(station.chain.mode_enchainement.is_true() ? 1 : 0) + " suspended " +
-            std::to_string(station.chain.chaine_suspendue.is_true() ? 1 : 0) + " special mix " +
-            (window.Active_audio_jingles.checked ? "on " : "off ") + text_of(station.chain.lecteur_mix_special);
-    for (const Timer* timer : {&window.Timer1, &window.Timer2, &window.Timer3, &window.Timer4})
-        text += " " + timer->name() + (timer->enabled() ? " on" : " off") + "/" + text_of(timer->interval());
+    std::string text = chain_state();
     for (const MusicPlace& place : places)
         if (place.gone)
             text += "\n    gone: " + place.folder;
-    for (int number = 1; number <= 3; ++number) {
-        Deck& d = deck(number);
-        text += "\n    deck " + std::to_string(number) +
-                (d.sounds()      ? " sounds "
-                 : d.has_graph() ? " rests "
-                                 : " bare ") +
-                d.path + " bar " + std::to_string(d.controls.progress.value) + "/" +
-                std::to_string(d.controls.progress.maximum) + " end " + d.controls.counter.caption.get() +
-                (d.pause_lecteur.is_true() ? " paused" : "");
-        if (d.has_graph())
-            text += " at " + std::to_string(d.graph().get_CurrentPosition());
-    }
+    for (int number = 1; number <= 3; ++number)
+        text += "\n    deck " + std::to_string(number) + deck_state(number);
+    return text;
+}
+
+std::string SoakWorld::chain_state() {
+    const Antenne_FM& window = station.main_window;
+    const Liste_son& list = station.list_window;
+    const auto bit = [](bool on) { return on ? "1" : "0"; };
+    std::string text = "main deck " + std::to_string(main_deck()) + ", row " + text_of(station.list.index_en_cours) +
+                       " of " + std::to_string(rows().count()) + ", elapsed " + window.Label5.caption.get() + ", " +
+                       window.Label7.caption.get() + ", " + window.Label10.caption.get();
+    text += std::string{"\n    coche2 "} + bit(window.coche2.value()) + " coche3 " + bit(window.coche3.value()) +
+            " coche4 " + std::to_string(window.coche4.value()) + " options ";
+    for (const OptionButton* option : {&list.Option1, &list.Option2, &list.Option3, &list.Option4})
+        text += bit(option->value());
+    text += std::string{" list chain "} + bit(station.chain.mode_enchainement.is_true()) + " special mix on deck " +
+            text_of(station.chain.lecteur_mix_special);
+    for (const Timer* timer : {&window.Timer1, &window.Timer2, &window.Timer3, &window.Timer4})
+        text += " " + timer->name() + (timer->enabled() ? " on" : " off");
+    return text;
+}
+
+std::string SoakWorld::deck_state(int number) {
+    const Deck& shown = deck(number);
+    const ProgressBar& bar = shown.controls.progress;
+    std::string text = (shown.sounds()      ? " sounds "
+                        : shown.has_graph() ? " rests "
+                                            : " bare ") +
+                       shown.path + ", bar " + std::to_string(bar.value) + "/" + std::to_string(bar.maximum) +
+                       ", end " + shown.controls.counter.caption.get();
+    if (shown.pause_lecteur.is_true())
+        text += ", paused";
+    if (shown.has_graph())
+        text += ", at " + std::to_string(shown.graph().get_CurrentPosition());
     return text;
 }
 

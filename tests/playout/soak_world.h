@@ -50,7 +50,7 @@ public:
     /// What the operator did last, and when, for a failure's recipe.
     void note(const std::string& gesture);
     [[nodiscard]] std::string recipe() const;
-    /// What the desk shows.
+    /// What the desk shows, for the recipe.
     [[nodiscard]] std::string state();
 
     SimulatedPlatform machine;
@@ -69,6 +69,8 @@ private:
     [[nodiscard]] double any_length();
     void add_track(const std::string& path, double length);
     [[nodiscard]] enreg_liste make_track(int number);
+    [[nodiscard]] std::string chain_state();
+    [[nodiscard]] std::string deck_state(int number);
 
     std::mt19937 random_;
     std::map<std::string, double> lengths_; // of what can be played, by path

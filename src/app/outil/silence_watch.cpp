@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace sonarelle {
 
@@ -25,23 +26,29 @@ void SilenceWatch::skip(Frames span) {
 }
 
 void SilenceWatch::take(std::span<const float> frames) {
-    const auto is_quiet = [](float sample) { return std::fabs(sample) < silence_level; };
+    constexpr auto piece = static_cast<std::size_t>(2 * frame_rate); // a second of both channels
     while (!frames.empty()) {
-        const auto loud = std::ranges::find_if_not(frames, is_quiet);
-        const std::size_t quiet = static_cast<std::size_t>(loud - frames.begin()) / 2;
-        const Frames end = taken_ + Frames{static_cast<std::int64_t>(quiet)};
-        if (quiet > 0)
-            silent(taken_, end);
-        taken_ = end;
-        frames = frames.subspan(quiet * 2);
-        if (frames.empty())
-            return;
-        sounding();
-        const auto next_quiet = std::ranges::find_if(frames, is_quiet);
-        const auto loud_frames = std::max<std::size_t>(1, static_cast<std::size_t>(next_quiet - frames.begin()) / 2);
-        taken_ += Frames{static_cast<std::int64_t>(loud_frames)};
-        frames = frames.subspan(loud_frames * 2);
+        const std::size_t count = std::min(piece, frames.size());
+        take_piece(frames.first(count));
+        frames = frames.subspan(count);
     }
+}
+
+// A silence that begins and ends within a piece is too short to count: what matters are the piece's ends, and while
+// there is sound the first look finds it.
+void SilenceWatch::take_piece(std::span<const float> frames) {
+    const auto sounds = [](float sample) { return std::fabs(sample) >= silence_level; };
+    const auto in_frames = [](auto samples) { return Frames{static_cast<std::int64_t>(samples) / 2}; };
+    const Frames begin = std::exchange(taken_, taken_ + in_frames(frames.size()));
+    const auto last = std::find_if(frames.rbegin(), frames.rend(), sounds);
+    if (last == frames.rend())
+        return silent(begin, taken_);
+    if (since_)
+        silent(begin, begin + in_frames(std::ranges::find_if(frames, sounds) - frames.begin()));
+    sounding();
+    const Frames quiet = begin + in_frames(frames.rend() - last + 1);
+    if (quiet < taken_)
+        silent(quiet, taken_);
 }
 
 } // namespace sonarelle

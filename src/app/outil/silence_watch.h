@@ -26,6 +26,8 @@ public:
     void end() { sounding(); }
 
 private:
+    void take_piece(std::span<const float> frames);
+
     std::optional<Frames> since_;
     Frames until_;
     Frames taken_;

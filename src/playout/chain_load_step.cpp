@@ -139,10 +139,13 @@ bool AutoChain::is_file_there() {
         return true;
     }
     ErrorIndicator errors;
-    errors.skip([&] { desk_.platform.disk.ChDrive(path); });
-    errors.skip([&] { desk_.platform.disk.ChDir(folder_of_path(path)); });
-    if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
-        throw ListStopped{};
+    const auto enter_folder = [&] {
+        errors.skip([&] { desk_.platform.disk.ChDrive(path); });
+        errors.skip([&] { desk_.platform.disk.ChDir(folder_of_path(path)); });
+        if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
+            throw ListStopped{};
+    };
+    enter_folder();
     std::string found;
     errors.clear();
     errors.skip([&] { found = desk_.platform.disk.Dir(path); });
@@ -151,8 +154,10 @@ bool AutoChain::is_file_there() {
     const bool there = equal_ignoring_case(trim(found), trim(name_of_path(path)));
     if (errors.is_set())
         pass_over_row(load_walk_, passed_over::silent_disk);
-    else if (!there)
+    else if (!there) {
+        enter_folder(); // it may have gone between the two looks
         drop_invalid_row();
+    }
     return there;
 }
 

@@ -111,7 +111,9 @@ void AutoChain::overlap_tick() {
     const Integer limit = desk_.chain.position_zap + desk_.settings.mix_audio;
     if (desk_.window.Active_audio_zapping.checked || desk_.window.Active_audio.checked)
         fade(old);
-    if (desk_.elapsed() == limit)
+    // Nothing follows a stopped chain's last track: at its end the old one would go on in its place.
+    const bool is_last = desk_.chain.air == AirState::failed && main.is_at_its_end();
+    if (desk_.elapsed() == limit || is_last)
         release(main, old);
 }
 

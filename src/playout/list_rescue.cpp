@@ -36,7 +36,16 @@ bool ListRescue::is_needed() const {
 
 bool ListRescue::stands_still() const {
     return desk_.chain.mode_enchainement.is_true() && desk_.has_main_deck() && desk_.main_deck().is_at_its_end() &&
-           !chain_.looks_for_a_row();
+           (!chain_.looks_for_a_row() || has_another_file());
+}
+
+// A list of one file only waits for another one.
+bool ListRescue::has_another_file() const {
+    const RowTable& rows = desk_.list_window.ListView1;
+    for (int row = 1; row <= rows.count(); ++row)
+        if (rows.text(row) != desk_.chain.chemin_precedent)
+            return true;
+    return false;
 }
 
 void ListRescue::try_next_row(Frames silent_for) {

@@ -10,8 +10,9 @@
 
 namespace sonarelle {
 
-/// Takes the list up again when a fault has ended the air: the chain was stopped by one, or stands still behind a track
-/// that has come to its end. What the operator stops, pauses or runs by hand is his.
+/// Takes the list up again when a fault has ended the air: the chain was stopped by one, or stands still, or searches
+/// in vain, behind a track that has come to its end. What the operator stops,
+/// pauses or runs by hand is his.
 class ListRescue {
 public:
     ListRescue(Desk& desk, AutoChain& chain, ListRun& run, Journal& journal)
@@ -26,6 +27,7 @@ public:
 private:
     [[nodiscard]] bool is_needed() const;
     [[nodiscard]] bool stands_still() const;
+    [[nodiscard]] bool has_another_file() const;
     void try_next_row(Frames silent_for);
     [[nodiscard]] int next_row_that_opens();
     void start(int row);

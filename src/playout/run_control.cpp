@@ -50,6 +50,7 @@ void RunControl::start_first_deck() {
     deck.controls.play.enabled = true;
     deck.controls.zap.enabled = true;
     desk_.chain.lecteur_en_cours = 1;
+    desk_.chain.chargement_fait = desk_.chain.choix_prepare = false; // what a run before has loaded is not this one's
     deck.graph().RenderFile(deck.path);
     deck.graph().put_CurrentPosition(deck.debut_piste);
     volume_.apply_start(deck);
@@ -111,7 +112,7 @@ void RunControl::write_start(const std::string& path) {
 
 void RunControl::stoppe_liste(const std::string& reason) {
     for (Timer* timer : desk_.window.chain_timers())
-        timer->disable();
+        timer->set_enabled(timer == &desk_.window.Timer3 && is_overlap_under_way());
     if (end_walks)
         end_walks();
     journal_.note(desk_.chain.ligne_journal); // in a list an empty line, which sets the run off
@@ -125,6 +126,11 @@ void RunControl::stoppe_liste(const std::string& reason) {
     desk_.window.Label10.caption = "Chargement rapide";
     desk_.set_air(AirState::failed);
     desk_.report({.kind = OnAirEvent::Kind::stopped, .text = reason});
+}
+
+bool RunControl::is_overlap_under_way() {
+    return desk_.window.Timer3.enabled() && desk_.has_main_deck() &&
+           desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())).sounds();
 }
 
 void RunControl::stoppe_list() {
@@ -145,6 +151,7 @@ void RunControl::detecte_fichier_liste() {
     desk_.platform.disk.ChDrive(path);
     desk_.platform.disk.ChDir(folder);
     if (desk_.platform.disk.Dir(path).empty()) {
+        desk_.platform.disk.ChDir(folder); // it may have gone between the two looks
         remove_row();
         path.clear();
         return;

@@ -23,7 +23,8 @@ public:
     /// Warns that a list can't start with this file.
     void report_failed_start(const std::string& path);
 
-    /// The hard stop of the chain by a fault: none of its timers and walks goes on. The deck that plays does.
+    /// The hard stop of the chain by a fault: none of its timers and walks goes on. The deck that plays does, and an
+    /// overlap that has begun comes to its end.
     void stoppe_liste(const std::string& reason);
     /// Ends the chain's walks over the rows.
     std::function<void()> end_walks;
@@ -41,6 +42,7 @@ public:
     void Mettre_en_pause(const std::function<void(Deck&)>& press_pause);
 
 private:
+    [[nodiscard]] bool is_overlap_under_way();
     void start_first_deck();
     void show_first_deck(Deck& deck);
     void write_start(const std::string& path);

@@ -65,6 +65,27 @@ TEST_F(ListRescueTest, TakesTheListUpBehindATrackThatWasStartedByHandToo) {
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {28, 2}, {73, 1}}));
 }
 
+TEST_F(ListRescueTest, TakesTheListUpWhereTheChainSearchesInVain) {
+    machine.add_track(track(1), 3);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "3", 100, 0.0), record_of(lost, "40", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    play_for(12);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {8, 1}}));
+}
+
+TEST_F(ListRescueTest, TakesTheListUpBehindAnOverlapThatTheStopFellInto) {
+    machine.add_track(track(1), 300);
+    machine.add_track(track(2), 8);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "40", 100, 0.0), record_of(track(2), "8", 100, 0.0),
+                                           record_of(lost, "40", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    play_for(60);
+    ASSERT_EQ(times_of(Kind::stopped).size(), 1U);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 1}));
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
     stop_by_a_lost_folder();
     play_for(60);

@@ -82,13 +82,16 @@ void Zapping::zap_in_list(Deck& old) {
         take_row(std::exchange(by_draw, false));
     } while (!chain_.is_found() || is_too_short());
     // The track on the air goes on, with its load step, and its mix point takes the row behind.
-    if (loading_.length_of(desk_.list.chemin_fichier) == 0)
+    if (loading_.length_of(desk_.list.chemin_fichier) == 0) {
+        desk_.chain.choix_prepare = false; // in random order too
         throw Failure{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
+    }
+    const std::optional<RowOnAir> ended = record_to_end(old);
     chain_.cancel_walks();
     load_row(desk_.deck(next_deck(old.number())));
     desk_.window.coche4.set_value(0);
     desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
-    hand_over(old);
+    hand_over(old, ended);
     const int row = desk_.list.index_en_cours.value();
     desk_.list_window.ListView1.ensure_visible(row);
     desk_.list_window.ListView1.select(row);
@@ -108,7 +111,7 @@ bool Zapping::is_too_short() {
     if (length == 0 || length >= shortest_good_file)
         return false;
     journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
-                  " Plus court qu'une seconde");
+                  std::string{passed_over::too_short});
     return true;
 }
 
@@ -133,16 +136,21 @@ void Zapping::zap_over_decks(Deck& old) {
         return tell("Fichier non trouvé /abandon", Icon::stop);
     if (loading_.length_of(next.path) == 0)
         throw Failure{failure_number::unplayable_file, next.path, "lecture impossible"};
+    const std::optional<RowOnAir> ended = record_to_end(old);
     mix_.leave_special_mix(next);
     if (next.controls.progress.value == 0) // one that has moved doesn't start
-        hand_over(old);
+        hand_over(old, ended);
 }
 
-// The next run ends the track where it was zapped.
-void Zapping::hand_over(Deck& old) {
+// Read before anything changes: a list that can't be read refuses the zap.
+std::optional<RowOnAir> Zapping::record_to_end(const Deck& old) const {
     std::optional<RowOnAir> ended = ends_record() ? row_on_air(desk_, old) : std::nullopt;
     if (ended)
         ended->record.set_fin_lecture(text_of(desk_.elapsed()));
+    return ended;
+}
+
+void Zapping::hand_over(Deck& old, const std::optional<RowOnAir>& ended) {
     choose_fade();
     chain_.begin_overlap();
     old.controls.title.caption = std::string{waiting_title};

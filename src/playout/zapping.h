@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/dialogs.h"
 #include "playout/auto_chain.h"
 #include "playout/desk.h"
+#include "playout/row_on_air.h"
 
 namespace sonarelle {
 
@@ -35,7 +37,9 @@ private:
     void zap_in_list(Deck& old);
     void load_row(Deck& next);
     void zap_over_decks(Deck& old);
-    void hand_over(Deck& old);
+    /// The record of the row that plays, with the zap as its end; none where a zap ends no record.
+    [[nodiscard]] std::optional<RowOnAir> record_to_end(const Deck& old) const;
+    void hand_over(Deck& old, const std::optional<RowOnAir>& ended);
     void choose_fade();
     void tell(const std::string& text, Icon icon);
 

@@ -4,6 +4,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/failure.h"
+#include "platform/scheduler.h"
 #include "platform/text.h"
 
 namespace sonarelle {
@@ -107,7 +108,6 @@ void ChainModes::coche2_Click() {
 void ChainModes::coche3_Click() {
     try {
         desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix liste )";
-        read_overlap();
         desk_.window.Timer1.enable();
         desk_.window.Timer2.disable();
         desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
@@ -116,16 +116,24 @@ void ChainModes::coche3_Click() {
         desk_.window.Active_audio_zapping.enabled = true;
         desk_.chain.chaine_suspendue = false;
         desk_.window.coche4.set_value(1);
+        read_overlap();
     } catch (const Failure& failure) {
-        desk_.platform.dialogs.MsgBox(
-            {"Une erreur est apparue !\n - " + failure.source + " - " + failure.description + " - " +
-                 std::to_string(failure.number) +
-                 "\nC'est peut etre la premiere exécution du programme\n"
-                 "Vérifier et entrez toutes les valeurs dans le menu options du programme.\n"
-                 "Vérifier également vos paramètres régionaux si erreur type incompatible\n"
-                 "La séparation des décimales pour les nombres doit ètre un point\nEssayer a nouveau !",
-             std::string{application_title}, Buttons::ok, Icon::stop});
+        tell_failed_choice(failure);
     }
+}
+
+// The rescue chooses the list in a tick, behind which no box may hold up the air.
+void ChainModes::tell_failed_choice(const Failure& failure) {
+    const std::string text = "Une erreur est apparue !\n - " + failure.source + " - " + failure.description + " - " +
+                             std::to_string(failure.number) +
+                             "\nC'est peut etre la premiere exécution du programme\n"
+                             "Vérifier et entrez toutes les valeurs dans le menu options du programme.\n"
+                             "Vérifier également vos paramètres régionaux si erreur type incompatible\n"
+                             "La séparation des décimales pour les nombres doit ètre un point\nEssayer a nouveau !";
+    if (desk_.platform.scheduler.in_tick())
+        desk_.warn(text);
+    else
+        desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::stop});
 }
 
 void ChainModes::read_overlap() {

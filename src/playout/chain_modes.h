@@ -35,6 +35,7 @@ private:
     void clear_insertions();
     void show_end_point(const std::string& text);
     void read_overlap();
+    void tell_failed_choice(const Failure& failure);
     void switch_chain(bool from_list);
 
     Desk& desk_;

@@ -73,12 +73,12 @@ void AutoChain::follow_at_once(Deck& deck, FirstLook first) {
     walk_to_follow(deck, [this, &deck] { return try_to_follow(deck); });
 }
 
-// Once the operator has gone over to another deck, or to a chain without a list, a row that turns up would cut what he
-// plays.
+// Once the operator has paused, or gone over to another deck or to a chain without a list, a row that turns up would
+// cut what he does.
 void AutoChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
     const auto wanted = [this, &deck] {
         const bool list_chain = desk_.window.Timer4.enabled() || desk_.chain.mode_enchainement.is_true();
-        return list_chain && desk_.chain.lecteur_en_cours == deck.number();
+        return list_chain && desk_.chain.lecteur_en_cours == deck.number() && !deck.pause_lecteur.is_true();
     };
     mix_walk_.start(
         std::move(step), [this] { return desk_.row_count(); }, wanted, trap_of("T4"));

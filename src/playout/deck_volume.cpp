@@ -82,7 +82,7 @@ void DeckVolume::step(Deck& deck, int steps) {
 }
 
 void DeckVolume::keep_in_record(Deck& deck) {
-    if (desk_.window.coche2.value())
+    if (desk_.mixes_titles())
         return;
     if (!deck.controls.play.enabled)
         desk_.inform("le lecteur n'est pas encore validé ");

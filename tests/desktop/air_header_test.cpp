@@ -125,6 +125,18 @@ TEST_F(AirHeaderTest, HasRoomForItsAlarmsOnTheSmallestScreen) {
     expect_whole(label("remaining"));
 }
 
+TEST_F(AirHeaderTest, HasRoomForASuspendedChainOnTheSmallestScreen) {
+    view.show_air({.role = DeckRole::on_air,
+                   .deck = 1,
+                   .title = "Matin sur le port",
+                   .left = "00:02:10",
+                   .next = "chaîne suspendue : mixage spécial",
+                   .suspended = true,
+                   .silence = {}});
+    settle();
+    expect_whole(label("air_next"));
+}
+
 TEST_F(AirHeaderTest, MovesNothingBelowItInAlarm) {
     play();
     const QRect before = header().geometry();

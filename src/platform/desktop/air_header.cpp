@@ -126,7 +126,7 @@ void AirHeader::show_alarm() {
     silence_->setVisible(silent);
     remaining_->setVisible(!silent);
     card_gone_->setVisible(card_lost_ && !silent);
-    banner_->setVisible(!alarms());
+    banner_->setVisible(!alarms() && !look_.suspended);
     setAccessibleName(silent ? silence_->text() : card_lost_ ? card_gone_->text() : QString{});
     QPalette told; // what the texts stand on
     if (alarms())

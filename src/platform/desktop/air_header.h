@@ -17,7 +17,8 @@ struct AirLook {
     QString title;
     QString left; ///< Time to the end of play.
     QString next;
-    QString silence; ///< How long the air has been silent, mm:ss; empty while it is as it should be.
+    bool suspended = false; ///< The chain waits for a special mix, which `next` says in more words than usual.
+    QString silence;        ///< How long the air has been silent, mm:ss; empty while it is as it should be.
 
     friend bool operator==(const AirLook&, const AirLook&) = default;
 };

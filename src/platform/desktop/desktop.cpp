@@ -157,6 +157,7 @@ void Desktop::show_air() {
                      .title = title,
                      .left = left,
                      .next = what_follows(),
+                     .suspended = waits_for_special_mix(desk_),
                      .silence = to_qt(silence_text(desk_))});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});

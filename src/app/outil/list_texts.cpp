@@ -129,7 +129,7 @@ std::string csv_line(const CsvRow& row) {
         if (field.find_first_of(",;\"\r\n") != std::string::npos) {
             for (auto place = shown.find('"'); place != std::string::npos; place = shown.find('"', place + 2))
                 shown.insert(place, 1, '"');
-            shown = '"' + shown + '"';
+            shown.insert(0, 1, '"').push_back('"');
         }
         line += (line.empty() && &field == &row.front() ? "" : ",") + shown;
     }

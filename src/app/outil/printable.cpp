@@ -17,7 +17,7 @@ std::string printable_word(std::string_view word) {
 }
 
 std::string json_line(const nlohmann::ordered_json& value) {
-    const std::string text = value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    std::string text = value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
     if (text.find_first_of("\x7F\xC2") == std::string::npos)
         return text;
     std::string line;

@@ -42,7 +42,7 @@ bool is_own_folder(const std::string& folder) {
 
 std::string spare_folder() {
     const std::string temporary = variable("TMPDIR");
-    const std::string folder =
+    std::string folder =
         (temporary.starts_with('/') ? temporary : "/tmp") + "/station-sonarelle-" + std::to_string(::geteuid());
     static_cast<void>(::mkdir(folder.c_str(), 0700));
     if (!is_own_folder(folder))

@@ -171,6 +171,16 @@ TEST_F(DeckVolumeTest, KeepVolumeBehindTheLoadStepStillWritesTheRowThatPlays) {
     EXPECT_EQ(record_in(list, 2).volume(), 100);
 }
 
+TEST_F(DeckVolumeTest, KeepVolumeBehindAHardStopStillWritesTheRowThatPlays) {
+    open_tracks({100, 100});
+    start_list();
+    station.run_control.stoppe_liste("");
+    controls(1).slider.set_value(5);
+    machine.dialogs.expect_box("Sauvegarde", Answer::ok);
+    controls(1).keep_volume.click();
+    EXPECT_EQ(record_in(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), 1).volume(), 75);
+}
+
 TEST_F(DeckVolumeTest, KeepVolumeInRandomOrderBehindTheLoadStepWritesTheRowThatPlays) {
     open_tracks({100, 100, 100, 100, 100});
     station.list_window.Option2.click();

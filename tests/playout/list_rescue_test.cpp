@@ -86,6 +86,14 @@ TEST_F(ListRescueTest, TakesTheListUpBehindAnOverlapThatTheStopFellInto) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 1}));
 }
 
+TEST_F(ListRescueTest, OpensNoBoxOverAnOverlapThatIsNoNumber) {
+    stop_by_a_lost_folder();
+    station.main_window.Text1.set_text("x");
+    play_for(30);
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {45, 1}}));
+    EXPECT_NE(station.warning_window.Label1.caption.get().find("Une erreur est apparue !"), std::string::npos);
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
     stop_by_a_lost_folder();
     play_for(60);

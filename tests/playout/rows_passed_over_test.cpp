@@ -91,6 +91,23 @@ TEST_F(RowsPassedOver, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnsw
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
+TEST_F(RowsPassedOver, FolderThatComesBackBehindAPauseStartsNothing) {
+    const std::string away = "E:\\a.mp3";
+    machine.disk.add_drive("E");
+    machine.add_track(track(1), 40);
+    machine.add_track(away, 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "40", 100, 0.0), record_of(away, "100", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    play_for(30);
+    machine.disk.unplug("E:");
+    play_for(5);
+    controls(1).pause.click();
+    machine.disk.plug_again("E:");
+    play_for(10);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1}));
+}
+
 namespace {
 
 // Row 2 lies on drive D, which stops answering.

@@ -104,6 +104,15 @@ TEST_F(AirWatchTest, CountsFromTheStartAndNotFromTheIdleTimeBeforeIt) {
     EXPECT_EQ(silences(), Seconds{60 + told_after});
 }
 
+TEST_F(AirWatchTest, CountsFromTheInstantOfAStartBetweenTwoOfItsLooks) {
+    open_tracks({30, 30});
+    machine.media.set_quiet(track(1));
+    machine.run_for(milliseconds(60'500));
+    start_list();
+    play_for(5);
+    EXPECT_EQ(silences(), Seconds{60.5 + told_after});
+}
+
 TEST_F(AirWatchTest, SaysNothingOfAStoppedList) {
     open_tracks({30, 30});
     start_list();
@@ -142,6 +151,18 @@ TEST_F(AirWatchTest, SaysNothingOfAPauseOnceItIsOver) {
     EXPECT_TRUE(silences().empty());
 }
 
+TEST_F(AirWatchTest, CountsSoundBelowTheLevelOfSilenceFromTheEndOfAPause) {
+    open_tracks({60, 60});
+    machine.media.set_quiet(track(1));
+    start_list();
+    play_for(1);
+    controls(1).pause.click();
+    play_for(20);
+    controls(1).pause.click();
+    play_for(5);
+    EXPECT_EQ(silences(), Seconds{21 + told_after});
+}
+
 TEST_F(AirWatchTest, TellsTheEndOfADeckThatWasStoppedAndRunAgain) {
     start_lonely_track(20);
     play_for(5);
@@ -158,6 +179,27 @@ TEST_F(AirWatchTest, SaysNothingOfTheManualMode) {
     controls(1).play.click();
     play_for(60);
     EXPECT_TRUE(silences().empty());
+}
+
+TEST_F(AirWatchTest, SaysNothingWhereTheManualModeLeftNothingOn) {
+    open_on_all({10, 10, 10});
+    controls(1).play.click();
+    play_for(2);
+    station.main_window.a_mode_manuel.click();
+    play_for(10);
+    station.main_window.a_mode_auto.click();
+    play_for(60);
+    EXPECT_TRUE(silences().empty());
+}
+
+TEST_F(AirWatchTest, TellsTheEndOfATrackThoughAnotherDeckWasStopped) {
+    start_lonely_track(20);
+    machine.add_track(track(2), 60);
+    open_on(2, track(2));
+    controls(2).stop.click();
+    station.list_window.Option3.click();
+    play_for(30);
+    EXPECT_EQ(silences(), Seconds{20 + told_after});
 }
 
 TEST_F(AirWatchTest, EndsTheAlarmWhenTheOperatorStopsTheList) {

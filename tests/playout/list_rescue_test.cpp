@@ -100,6 +100,22 @@ TEST_F(ListRescueTest, GoesOnWithTheChain) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 1}));
 }
 
+TEST_F(ListRescueTest, BeginsEachTimeWhereTheChainStood) {
+    stop_by_a_lost_folder();
+    play_for(120);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 1, 3}));
+}
+
+TEST_F(ListRescueTest, BeginsWhereTheChainStoodThoughAnotherRowWasTriedInVain) {
+    stop_by_a_lost_folder();
+    machine.media.set_unplayable(track(3));
+    rows().select(3);
+    station.list_window.Image1.click();
+    machine.add_track(lost, 40);
+    play_for(30);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChainWithoutFadesToo) {
     open_list_with_a_lost_folder();
     start_list();
@@ -212,6 +228,19 @@ TEST_F(ListRescueTest, ComesBehindAChainOverDecksThatAFaultStopped) {
     machine.disk.Kill("C:\\b.mp3");
     play_for(60);
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
+}
+
+TEST_F(ListRescueTest, GoesOnWithTheListBehindAChainOverDecks) {
+    open_tracks({40, 40});
+    machine.add_track("C:\\a.mp3", 30);
+    machine.add_track("C:\\b.mp3", 30);
+    open_on(1, "C:\\a.mp3");
+    open_on(2, "C:\\b.mp3");
+    station.main_window.coche2.click();
+    controls(1).play.click();
+    machine.disk.Kill("C:\\b.mp3");
+    play_for(100);
+    EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
 }
 
 TEST_F(ListRescueTest, ComesWhereNothingFollowsATrackWithoutAMixPoint) {

@@ -117,6 +117,23 @@ TEST_F(RunControlTest, ListStartCountsDownAndLoadsWhereTheRunBeforeWasStoppedBeh
     EXPECT_EQ(times_of(OnAirEvent::Kind::loaded).back(), (std::pair<double, int>{177, 2}));
 }
 
+TEST_F(RunControlTest, ListStartWithoutFadesPutsOnTheChainThatAFaultHasPutOff) {
+    const std::string lost = "C:\\Parti\\b.mp3";
+    station.settings.veille_antenne = 0;
+    machine.add_track(track(1), 40);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "40", 100, 0.0), record_of(lost, "40", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    station.main_window.Désactive_audio.click();
+    machine.run_for(seconds(60));
+    ASSERT_EQ(station.chain.air, AirState::failed);
+    machine.add_track(lost, 40);
+    rows().select(1);
+    station.list_window.Image1.click();
+    machine.run_for(seconds(45));
+    EXPECT_EQ(machine.media.on_air(), Paths{lost});
+}
+
 TEST_F(RunControlTest, PauseOfTheFirstTrackKeepsItsVolume) {
     machine.add_track(track(1), 100);
     open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100", 50)});

@@ -109,6 +109,21 @@ TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnRowsDiskNoLongerAnswersAtTheMixPoi
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 5 - drawn})); // of rows 2 and 3 the other one
 }
 
+TEST_F(RandomChainTest, DrawsAnewBehindARefusedZap) {
+    open_tracks(std::vector<int>(5, 100));
+    start_at_random();
+    machine.run_for(seconds(90));
+    for (int row = 1; row <= 5; ++row)
+        machine.media.set_unplayable(track(row));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.list_window.Image2.click();
+    for (int row = 1; row <= 5; ++row)
+        if (row != station.list.index_en_cours)
+            machine.media.set_length(track(row), 100);
+    machine.run_for(seconds(10));
+    EXPECT_EQ(rows_started().size(), 2U);
+}
+
 TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnFirstRowIsRemovedAtTheMixPoint) {
     open_tracks({100, 100});
     rows().select(2);

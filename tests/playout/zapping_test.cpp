@@ -49,6 +49,23 @@ TEST_F(ZappingTest, StoresTheEndPointInTheRecord) {
     EXPECT_EQ(rows().sub_item(1, 2), "50.00");
 }
 
+TEST_F(ZappingTest, StoresTheEndPointInTheLastRecordToo) {
+    open_tracks({200, 200, 200});
+    rows().select(3);
+    start_list();
+    machine.run_for(seconds(50));
+    station.list_window.Image2.click();
+    EXPECT_EQ(record_in(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), 3).trimmed_fin_lecture(), "50");
+}
+
+TEST_F(ZappingTest, LeavesARowThatNoLongerShowsItsRecord) {
+    start_and_run(50);
+    const RowTable::Row other{"C:\\autre.mp3", "0.00", "90.00", "Rock", "100", ""};
+    rows().replace(1, other);
+    station.list_window.Image2.click();
+    EXPECT_EQ(rows().row(1), other);
+}
+
 TEST_F(ZappingTest, FadesTheOldDeckAndReleasesIt) {
     start_and_run(50);
     station.list_window.Image2.click();

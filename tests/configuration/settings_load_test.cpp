@@ -240,6 +240,16 @@ TEST_F(SettingsLoadTest, SwitchesTheJinglesOn) {
     EXPECT_EQ(station.options_window.Text2.text(), "C:\\jingles.dfm");
 }
 
+TEST_F(SettingsLoadTest, SwitchesTheJinglesOffAgain) {
+    fill_store();
+    set(config, "valide_fichier_aleatoire", "true");
+    load();
+    ASSERT_TRUE(station.main_window.Timer8.enabled());
+    set(config, "valide_fichier_aleatoire", "false");
+    load();
+    EXPECT_FALSE(station.main_window.Timer8.enabled());
+}
+
 TEST_F(SettingsLoadTest, SwitchesTheListItemsOn) {
     fill_store();
     set(config, "valide_fichier_aleatoire1", "true");

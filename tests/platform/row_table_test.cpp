@@ -87,6 +87,13 @@ TEST_F(Rows, TheSelectionStaysOnItsRow) {
     EXPECT_EQ(table.text(table.selected()), "b");
 }
 
+TEST_F(Rows, TheSelectionStaysOnItsRowWhenOneComesInItsPlace) {
+    fill({"a", "b", "c"});
+    table.select(2);
+    table.insert(2, {"x"});
+    EXPECT_EQ(table.text(table.selected()), "b");
+}
+
 TEST_F(Rows, WhenTheSelectedRowGoesTheNextOneIsSelected) {
     fill({"a", "b", "c"});
     table.select(2);

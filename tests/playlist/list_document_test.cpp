@@ -176,6 +176,12 @@ TEST_F(ListDocumentTest, TakesBackItsNameWhenAnEmptyNameIsChosen) {
     EXPECT_EQ(station.list.fichier_liste, "matin.dfm");
 }
 
+TEST_F(ListDocumentTest, OfTheDefaultListWritesNothing) {
+    const std::string own = "C:\\Sonarelle\\liste.dfm";
+    open_list(own, {record_of("a")});
+    EXPECT_EQ(station.list_window.caption.get(), "Fichier liste : " + own);
+}
+
 TEST_F(ListDocumentTest, LoadsFromTheContextMenuAlike) {
     machine.disk.put_file(matin, bytes_of(record_of("a")));
     machine.dialogs.expect_open(matin);

@@ -58,6 +58,14 @@ TEST_F(LetterChange, TakesAnAnswerOfSeveralLettersAsItStands) {
     EXPECT_EQ(rows().text(2), "d::\\b.mp3");
 }
 
+TEST_F(LetterChange, OfAListThatWasEmptiedAsksNothing) {
+    open_two_rows();
+    rows().clear();
+    const std::size_t asked = machine.dialogs.asked().size();
+    list().Modifier_lettre_lecteur.click();
+    EXPECT_EQ(machine.dialogs.asked().size(), asked);
+}
+
 TEST_F(LetterChange, CutsAPathAtTheWidthOfTheRecord) {
     open_rows({"C:\\" + std::string(197, 'x')});
     expect_letter("dd");

@@ -107,6 +107,15 @@ TEST_F(AirHeaderTest, IsQuietOnceSoundIsBack) {
     EXPECT_TRUE(label("remaining").isVisible());
 }
 
+TEST_F(AirHeaderTest, WordsHaveTheirOwnInkAgainOnceSoundIsBack) {
+    play();
+    const QColor before = ink_in(seen_in_window(label("remaining")));
+    be_silent_for("00:02");
+    play();
+    settle();
+    EXPECT_EQ(ink_in(seen_in_window(label("remaining"))), before);
+}
+
 TEST_F(AirHeaderTest, IsReadableInAlarm) {
     play();
     lose_the_card();

@@ -33,6 +33,15 @@ protected:
         list().Option3.click();
         list().Image1.click();
     }
+    /// Which row of the list is marked as the next one.
+    [[nodiscard]] int amber_row() {
+        for (int row = 1; row <= list().ListView1.count(); ++row) {
+            const auto ground = list_view().rows().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
+            if (ground.red() > ground.blue() + 20)
+                return row;
+        }
+        return 0;
+    }
     void run_for(int whole_seconds) {
         machine.run_for(seconds(whole_seconds));
         settle();
@@ -127,6 +136,14 @@ TEST_F(AirOnDesk, RowsFollowTheAir) {
     EXPECT_GT(ground(2).red(), ground(2).blue() + 20);
     run_for(10);
     EXPECT_GT(ground(2).green(), ground(2).red() + 20);
+}
+
+TEST_F(AirOnDesk, DrawnRowIsTheNextOne) {
+    play_list();
+    list().Option2.click();
+    run_for(90);
+    ASSERT_NE(amber_row(), 0);
+    EXPECT_EQ(list().ListView1.text(amber_row()), station.desk.deck(2).path);
 }
 
 } // namespace sonarelle

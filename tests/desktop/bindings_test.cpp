@@ -242,6 +242,19 @@ TEST_F(ButtonBindings, PressIsTheControlsClick) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(ButtonBindings, ThatRefusesTheSpaceBarWhileItIsDownComesUpAgain) {
+    Button button{window, "b"};
+    bool refuses = false;
+    button.refuses_space = [&] { return refuses; };
+    StudioButton widget;
+    const ButtonBinding binding{button, widget, services};
+    settle();
+    QTest::keyPress(&widget, Qt::Key_Space);
+    refuses = true;
+    QTest::keyRelease(&widget, Qt::Key_Space);
+    EXPECT_FALSE(widget.isDown());
+}
+
 TEST_F(ImageBindings, PressIsTheControlsClick) {
     Image image{window, "i"};
     int clicks = 0;

@@ -117,6 +117,11 @@ TEST_F(ListWindow, LampAndWordsOfAModeBothChooseIt) {
     EXPECT_EQ(word_presses, 1);
 }
 
+TEST_F(ListWindow, LampOfAModeIsNoStopOfTheKeyboard) {
+    for (const Image* lamp : {&list().Image17, &list().Image9, &list().Image11, &list().Image12})
+        EXPECT_EQ(part(list_view(), lamp->name()).focusPolicy(), Qt::NoFocus) << lamp->name();
+}
+
 TEST_F(ListWindow, SwitchesShowTheirPictureAndTheirWord) {
     list().Label14.caption = "Jingle On";
     settle();

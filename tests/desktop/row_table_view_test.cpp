@@ -73,6 +73,16 @@ TEST_F(TableView, SelectionStaysOverANewTable) {
     EXPECT_EQ(widget.currentIndex().row(), 3);
 }
 
+TEST_F(TableView, SelectionStaysOverANewTableThatComesLater) {
+    fill(10);
+    table.select(4);
+    settle();
+    table.remove(9);
+    table.remove(8);
+    settle();
+    EXPECT_EQ(widget.currentIndex().row(), 3);
+}
+
 TEST_F(TableView, SelectionOfTheStationIsShownAndIsNoEvent) {
     fill(3);
     table.select(3);

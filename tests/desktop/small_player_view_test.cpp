@@ -62,6 +62,12 @@ TEST_F(PlayerOnView, ShowsNoSecondsOfADeckThatHasStopped) {
     EXPECT_FALSE(label("label1").isVisible());
 }
 
+TEST_F(PlayerOnView, ShowsTheSecondsOfADeckThatIsPaused) {
+    play();
+    press(Qt::Key_P, "p");
+    EXPECT_TRUE(label("label1").isVisible());
+}
+
 TEST_F(PlayerOnView, HasTheKeyboardItself) {
     EXPECT_EQ(view().focusWidget(), &view());
 }

@@ -96,6 +96,17 @@ TEST_F(StateOfAWindow, SizeOfTheStationIsTaken) {
     EXPECT_EQ(view.size(), QSize(640, 480));
 }
 
+TEST_F(StateOfAWindow, SizeOfTheStationWaitsWhileTheWindowIsMaximised) {
+    show();
+    view.showMaximized();
+    settle();
+    const QSize whole = view.size();
+    window.width = Twips{9600};
+    window.height = Twips{7200};
+    settle();
+    EXPECT_EQ(view.size(), whole);
+}
+
 TEST_F(StateOfAWindow, MovesOfThePointerAreTheWindows) {
     int moves = 0;
     window.on_mouse_move = [&] { ++moves; };

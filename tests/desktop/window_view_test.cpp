@@ -107,6 +107,16 @@ TEST_F(View, WhatIsTypedIntoAFieldIsForTheFieldAlone) {
     EXPECT_EQ(feuille.champ.text(), "2");
 }
 
+TEST_F(View, EscapeReachesTheWindowFromAFieldToo) {
+    std::u32string keys;
+    feuille.on_key_press = [&](char32_t key) { keys += key; };
+    QLineEdit* field = Dresser{view}.text_box(feuille.champ);
+    show();
+    field->setFocus();
+    type(Qt::Key_Escape, "\x1b");
+    EXPECT_EQ(keys, U"\x1b");
+}
+
 TEST_F(View, SpaceBarPressesTheButtonThatHasTheFocus) {
     int presses = 0;
     focus_button(presses);

@@ -36,6 +36,23 @@ TEST(Limiter, IsRuledByTheLouderChannelWhicheverItIs) {
     EXPECT_FLOAT_EQ(frames[1], -Limiter::ceiling);
 }
 
+TEST(Limiter, TellsTheGreatestOfEachChannelOfWhatItGives) {
+    auto frames = behind_a_peak(2.0F, -0.5F, 20);
+    const auto peaks = Limiter{}.apply(frames);
+    EXPECT_FLOAT_EQ(peaks[0], Limiter::ceiling);
+    EXPECT_FLOAT_EQ(peaks[1], Limiter::ceiling / 4);
+}
+
+TEST(Limiter, TellsAPeakInEveryPlaceOfABlockOfItsOwnChannel) {
+    for (std::size_t place = 0; place < 26; ++place) {
+        std::vector<float> frames(26, quiet);
+        frames[place] = -0.5F;
+        const auto peaks = Limiter{}.apply(frames);
+        EXPECT_EQ(peaks[place % 2], 0.5F) << place;
+        EXPECT_EQ(peaks[1 - place % 2], quiet) << place;
+    }
+}
+
 TEST(Limiter, ChangesNoShapeBelowTheCeilingOfALoudPlace) {
     Limiter limiter;
     std::vector<float> frames;

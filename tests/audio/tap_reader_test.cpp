@@ -23,7 +23,7 @@ class Sender {
 public:
     explicit Sender(BusTaps& taps) : taps_{taps} {}
     void send(std::size_t count) {
-        taps_.take(counting(sent, count), Frames{sent});
+        taps_.take(counting(sent, count), Level{}, Frames{sent});
         sent += static_cast<std::int64_t>(count);
     }
     std::int64_t sent = 0;

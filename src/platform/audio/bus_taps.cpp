@@ -1,38 +1,25 @@
 #include "platform/audio/bus_taps.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 
 namespace sonarelle {
 
-namespace {
-
-// In lanes that don't wait for each other, left and right in turn.
-std::array<float, 2> peaks_of(std::span<const float> frames) {
-    std::array<float, 8> lanes{};
-    std::size_t at = 0;
-    for (; at + lanes.size() <= frames.size(); at += lanes.size())
-        for (std::size_t lane = 0; lane < lanes.size(); ++lane)
-            lanes[lane] = std::max(lanes[lane], std::abs(frames[at + lane]));
-    for (; at < frames.size(); ++at)
-        lanes[at % 2] = std::max(lanes[at % 2], std::abs(frames[at]));
-    return {std::max({lanes[0], lanes[2], lanes[4], lanes[6]}), std::max({lanes[1], lanes[3], lanes[5], lanes[7]})};
-}
-
-} // namespace
-
-void BusTaps::take(std::span<const float> frames, Frames at) noexcept {
+void BusTaps::take(std::span<const float> frames, const Level& level, Frames at) noexcept {
     const std::size_t count = frames.size() / 2;
     const auto begin = static_cast<std::size_t>(at.count());
     writing_.store(static_cast<std::int64_t>(begin + count), std::memory_order_relaxed);
-    for (std::size_t frame = 0; frame < count; ++frame)
-        frames_[(begin + frame) % kept_frames].store(packed(&frames[2 * frame]), std::memory_order_release);
-    const auto peak = peaks_of(frames);
+    for (std::size_t frame = 0; frame < count;) {
+        const std::size_t place = (begin + frame) % kept_frames;
+        const std::size_t straight = std::min(count - frame, kept_frames - place);
+        for (std::size_t next = 0; next < straight; ++next)
+            frames_[place + next].store(packed(&frames[2 * (frame + next)]), std::memory_order_release);
+        frame += straight;
+    }
     // A reader's reset between the two is lost: the meter then shows an old peak once more.
     for (std::size_t channel = 0; channel < 2; ++channel)
-        if (peak[channel] > peak_[channel].load(std::memory_order_relaxed))
-            peak_[channel].store(peak[channel], std::memory_order_relaxed);
+        if (level.peak[channel] > peak_[channel].load(std::memory_order_relaxed))
+            peak_[channel].store(level.peak[channel], std::memory_order_relaxed);
     end_.store(static_cast<std::int64_t>(begin + count), std::memory_order_release);
 }
 

@@ -20,8 +20,8 @@ class BusTaps {
 public:
     static constexpr std::size_t kept_frames = 32768; ///< 683 ms.
 
-    /// From the callback. `at` is the bus frame of the first of these frames.
-    void take(std::span<const float> frames, Frames at) noexcept;
+    /// From the callback. `level` is that of these frames, `at` the bus frame of the first.
+    void take(std::span<const float> frames, const Level& level, Frames at) noexcept;
 
     [[nodiscard]] Level level();
     /// The newest frames, two floats each, oldest first; at most half of the kept ones.

@@ -1,8 +1,9 @@
 #include "platform/audio/limiter.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+
+#include "platform/audio/sample_loops.h"
 
 namespace sonarelle {
 
@@ -11,23 +12,14 @@ namespace {
 constexpr float recovery = 1.0F / 2400.0F; // of what is missing, each frame: a time constant of 50 ms
 constexpr float recovered = 0.9999F;
 
-// In lanes that don't wait for each other.
-float peak_of(std::span<const float> samples) {
-    std::array<float, 8> lanes{};
-    std::size_t at = 0;
-    for (; at + lanes.size() <= samples.size(); at += lanes.size())
-        for (std::size_t lane = 0; lane < lanes.size(); ++lane)
-            lanes[lane] = std::max(lanes[lane], std::abs(samples[at + lane]));
-    for (; at < samples.size(); ++at)
-        lanes[0] = std::max(lanes[0], std::abs(samples[at]));
-    return *std::ranges::max_element(lanes);
-}
-
 } // namespace
 
-void Limiter::apply(std::span<float> frames) noexcept {
-    if (gain_ < 1.0F || peak_of(frames) > ceiling)
-        reduce(frames);
+std::array<float, 2> Limiter::apply(std::span<float> frames) noexcept {
+    const auto peaks = peaks_of(frames.data(), frames.size());
+    if (gain_ == 1.0F && std::ranges::max(peaks) <= ceiling)
+        return peaks;
+    reduce(frames);
+    return peaks_of(frames.data(), frames.size());
 }
 
 void Limiter::reduce(std::span<float> frames) noexcept {

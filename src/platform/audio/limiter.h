@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 namespace sonarelle {
@@ -11,8 +12,8 @@ class Limiter {
 public:
     static constexpr float ceiling = 0.891250938F;
 
-    /// In place, two floats a frame.
-    void apply(std::span<float> frames) noexcept;
+    /// In place, two floats a frame. Returns what is the greatest of each channel then.
+    std::array<float, 2> apply(std::span<float> frames) noexcept;
 
 private:
     void reduce(std::span<float> frames) noexcept;

@@ -88,8 +88,8 @@ void ProgrammeBus::mix(std::span<float> out) noexcept {
     std::ranges::fill(out, 0.0F);
     for (Voice* voice = real_time_.first; voice != nullptr; voice = voice->next)
         voice->add_to(out, real_time_.position);
-    real_time_.limiter.apply(out);
-    taps_.take(out, real_time_.position);
+    const Level level{real_time_.limiter.apply(out)};
+    taps_.take(out, level, real_time_.position);
     note_sound(out);
     real_time_.position += Frames{static_cast<std::int64_t>(out.size() / 2)};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstddef>
@@ -38,6 +39,18 @@ inline void copy_cleaned(const float* __restrict from, std::size_t count, float*
             to[at + lane] = cleaned(from[at + lane]);
     for (; at < count; ++at)
         to[at] = cleaned(from[at]);
+}
+
+/// The greatest of each channel, of frames of two floats.
+[[nodiscard]] inline std::array<float, 2> peaks_of(const float* frames, std::size_t count) noexcept {
+    std::array<float, 8> lanes{}; // which don't wait for each other, left and right in turn
+    std::size_t at = 0;
+    for (; at + lanes.size() <= count; at += lanes.size())
+        for (std::size_t lane = 0; lane < lanes.size(); ++lane)
+            lanes[lane] = std::max(lanes[lane], std::abs(frames[at + lane]));
+    for (; at < count; ++at)
+        lanes[at % 2] = std::max(lanes[at % 2], std::abs(frames[at]));
+    return {std::max({lanes[0], lanes[2], lanes[4], lanes[6]}), std::max({lanes[1], lanes[3], lanes[5], lanes[7]})};
 }
 
 /// To the nearest whole number, the even one of two, where 1 is full scale; what is beyond is cut. For cleaned samples.

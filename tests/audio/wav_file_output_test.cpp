@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "platform/audio/wav_file_output.h"
+#include "platform/failure.h"
 #include "sound_bench.h"
 
 namespace sonarelle {
@@ -29,7 +30,7 @@ std::vector<std::int16_t> written(const std::vector<float>& frames) {
 
 TEST(WavFileOutput, RoundsEverySampleToTheNearestWholeNumberAndTheEvenOneOfTwo) {
     std::vector<float> frames;
-    for (int quarter = -4 * 32768; quarter <= 4 * 32767; ++quarter)
+    for (int quarter = -4 * 32767; quarter <= 4 * 32767; ++quarter)
         frames.push_back(static_cast<float>(quarter) / 4 / 32768.0F);
     const auto samples = written(frames);
     ASSERT_EQ(samples.size(), frames.size());
@@ -40,6 +41,46 @@ TEST(WavFileOutput, RoundsEverySampleToTheNearestWholeNumberAndTheEvenOneOfTwo) 
 TEST(WavFileOutput, CutsWhatIsBeyondFullScale) {
     EXPECT_EQ(written({1.0F, -1.0F, 1.5F, -1.5F, 64.0F, -64.0F}),
               (std::vector<std::int16_t>{32767, -32768, 32767, -32768, 32767, -32768}));
+}
+
+TEST(WavFileOutput, RoundsInABlockOfWhichAnotherSampleIsCut) {
+    const auto in_steps = [](float step) { return step / 32768.0F; };
+    EXPECT_EQ(written({2.0F, in_steps(0.5F), in_steps(1.5F), in_steps(-0.75F), in_steps(32767.5F), -1.0F}),
+              (std::vector<std::int16_t>{32767, 0, 2, -1, 32767, -32768}));
+}
+
+TEST(WavFileOutput, HasEverySampleOfBlocksOfAnyLengthInItsPlace) {
+    const SoundFolder folder;
+    WavFileOutput output{folder.path("a.wav")};
+    std::vector<std::int16_t> sent;
+    for (std::size_t block = 4; block < 100'000; block *= 3) {
+        std::vector<float> frames;
+        for (std::size_t sample = 0; sample < block; ++sample) {
+            sent.push_back(static_cast<std::int16_t>(sent.size() % 30'011));
+            frames.push_back(static_cast<float>(sent.back()) / 32768.0F);
+        }
+        output.write(frames);
+    }
+    output.close();
+    EXPECT_EQ(samples_of(folder.path("a.wav")), sent);
+    EXPECT_EQ(decoded(folder.path("a.wav")).size(), sent.size());
+}
+
+TEST(WavFileOutput, TellsThatTheDiskIsFullAtTheLatestWhenItCloses) {
+    WavFileOutput output{"/dev/full"};
+    ErrorIndicator errors;
+    errors.skip([&] {
+        output.write(std::vector<float>(2 * 7, 0.25F));
+        output.close();
+    });
+    EXPECT_EQ(errors.number(), failure_number::disk_full);
+}
+
+TEST(WavFileOutput, TellsThatTheDiskIsFullWhileItWrites) {
+    WavFileOutput output{"/dev/full"};
+    ErrorIndicator errors;
+    errors.skip([&] { output.write(std::vector<float>(2 * 48000, 0.25F)); });
+    EXPECT_EQ(errors.number(), failure_number::disk_full);
 }
 
 TEST(WavFileOutput, GoesOnFromBlockToBlock) {

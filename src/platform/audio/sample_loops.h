@@ -53,15 +53,21 @@ inline void copy_cleaned(const float* __restrict from, std::size_t count, float*
     return {std::max({lanes[0], lanes[2], lanes[4], lanes[6]}), std::max({lanes[1], lanes[3], lanes[5], lanes[7]})};
 }
 
-/// To the nearest whole number, the even one of two, where 1 is full scale; what is beyond is cut. For cleaned samples.
-[[nodiscard]] inline std::int16_t to_16_bits(float sample) {
+inline constexpr float full_scale = 32767.0F / 32768.0F; ///< The greatest of 16 bits.
+
+/// To the nearest whole number, the even one of two. Within full scale.
+[[nodiscard]] inline std::int16_t to_16_bits(float sample) noexcept {
     constexpr float lowest_bits_are_ones = 0x1.8p23F; // of a float so great
-    const std::int32_t whole = std::bit_cast<std::int32_t>(sample * 32768.0F + lowest_bits_are_ones) -
-                               std::bit_cast<std::int32_t>(lowest_bits_are_ones);
-    return static_cast<std::int16_t>(std::min(std::max(whole, -32768), 32767));
+    return static_cast<std::int16_t>(std::bit_cast<std::int32_t>(sample * 32768.0F + lowest_bits_are_ones));
 }
 
+/// What is beyond full scale is cut, which the programme, at -1 dBFS at most, never is.
 inline void to_16_bits(const float* __restrict from, std::size_t count, std::int16_t* __restrict to) noexcept {
+    if (std::ranges::max(peaks_of(from, count)) > full_scale) {
+        std::transform(from, from + count, to,
+                       [](float sample) { return to_16_bits(std::clamp(sample, -1.0F, full_scale)); });
+        return;
+    }
     std::size_t at = 0;
     for (; at < in_groups(count); at += samples_at_once)
         for (std::size_t lane = 0; lane < samples_at_once; ++lane)

@@ -1,5 +1,6 @@
 #include "platform/audio/wav_file_output.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr std::uint16_t channels = 2;
 constexpr std::uint16_t sample_bytes = 2;
+constexpr std::size_t gathered_samples = 16384; // 32 KiB, a few whole pages: smaller and greater pieces cost more
 
 class HeadWriter {
 public:
@@ -74,10 +76,13 @@ WavHead wav_head(std::uint64_t data_bytes) {
     return head.head();
 }
 
-WavFileOutput::WavFileOutput(const std::string& path) : path_{path}, file_{path, std::ios::binary | std::ios::trunc} {
+WavFileOutput::WavFileOutput(const std::string& path)
+    : path_{path}, file_{path, std::ios::binary | std::ios::trunc}, gathered_(gathered_samples) {
     if (!file_)
         throw Failure{failure_number::path_access, path};
-    write_head();
+    const WavHead head = wav_head(0);
+    std::memcpy(gathered_.data(), head.data(), head.size());
+    filled_ = head.size() / sample_bytes;
 }
 
 WavFileOutput::~WavFileOutput() {
@@ -88,31 +93,37 @@ WavFileOutput::~WavFileOutput() {
 }
 
 void WavFileOutput::write(std::span<const float> frames) {
-    samples_.resize(frames.size());
-    to_16_bits(frames.data(), frames.size(), samples_.data());
-    file_.write(reinterpret_cast<const char*>(samples_.data()),
-                static_cast<std::streamsize>(samples_.size() * sample_bytes));
-    data_bytes_ += samples_.size() * sample_bytes;
-    check();
+    data_bytes_ += frames.size() * sample_bytes;
+    while (!frames.empty()) {
+        const std::size_t count = std::min(frames.size(), gathered_.size() - filled_);
+        to_16_bits(frames.data(), count, gathered_.data() + filled_);
+        frames = frames.subspan(count);
+        filled_ += count;
+        if (filled_ == gathered_.size())
+            write_gathered();
+    }
 }
 
 void WavFileOutput::close() {
     if (!file_.is_open())
         return;
+    write_gathered();
+    const WavHead head = wav_head(data_bytes_);
     file_.seekp(0);
-    write_head();
+    file_.write(head.data(), head.size());
     file_.close();
+    check();
+}
+
+void WavFileOutput::write_gathered() {
+    file_.write(reinterpret_cast<const char*>(gathered_.data()), static_cast<std::streamsize>(filled_ * sample_bytes));
+    filled_ = 0;
     check();
 }
 
 void WavFileOutput::check() {
     if (!file_)
         throw Failure{failure_number::disk_full, path_};
-}
-
-void WavFileOutput::write_head() {
-    const WavHead head = wav_head(data_bytes_);
-    file_.write(head.data(), head.size());
 }
 
 } // namespace sonarelle

@@ -32,12 +32,13 @@ public:
     void close();
 
 private:
-    void write_head();
+    void write_gathered();
     void check();
 
     std::string path_;
     std::ofstream file_;
-    std::vector<std::int16_t> samples_;
+    std::vector<std::int16_t> gathered_; // what comes next in the file, its head first: the disk gets whole pages
+    std::size_t filled_ = 0;
     std::uint64_t data_bytes_ = 0;
 };
 

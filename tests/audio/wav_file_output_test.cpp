@@ -43,6 +43,11 @@ TEST(WavFileOutput, CutsWhatIsBeyondFullScale) {
               (std::vector<std::int16_t>{32767, -32768, 32767, -32768, 32767, -32768}));
 }
 
+TEST(WavFileOutput, CutsWhatIsBarelyBeyondFullScale) {
+    for (const float beyond : {1.0F, 32767.5F / 32768.0F, -32768.5F / 32768.0F, -1.0F})
+        EXPECT_EQ(written({0.0F, beyond}), (std::vector<std::int16_t>{0, std::int16_t(beyond > 0 ? 32767 : -32768)}));
+}
+
 TEST(WavFileOutput, RoundsInABlockOfWhichAnotherSampleIsCut) {
     const auto in_steps = [](float step) { return step / 32768.0F; };
     EXPECT_EQ(written({2.0F, in_steps(0.5F), in_steps(1.5F), in_steps(-0.75F), in_steps(32767.5F), -1.0F}),

@@ -144,6 +144,7 @@ int main(int count, char** words) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file{std::fopen(words[1], "wb"), &std::fclose};
     if (file == nullptr)
         return 1;
+    std::setvbuf(file.get(), nullptr, _IONBF, 0); // each block goes to the disk in one piece
     render(file.get(), {words + 2, words + count});
     return 0;
 }

@@ -9,21 +9,21 @@
 namespace sonarelle {
 
 RowToDeck::RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
-                     Liste_son& window, RecordReading& reading, std::function<void(int deck)> load_deck)
-    : platform_{platform}, list_{list}, destination_{destination}, chain_{chain}, window_{window}, reading_{reading},
-      load_deck_{std::move(load_deck)} {}
+                     Liste_son& window, RecordReading& reading, DeckDoors decks)
+    : platform_{platform}, list_{list},
+      destination_{destination}, chain_{chain}, window_{window}, reading_{reading}, decks_{std::move(decks)} {}
 
 // The record comes from the file, not from the row: the file is what the decks play from. A row beyond the station's
 // 16-bit numbers can't be sent.
 void RowToDeck::send(int deck) {
     ErrorIndicator{}.skip([&] {
         list_.index_destinataire = window_.ListView1.selected();
-        if (list_.fichier_liste.empty())
+        if (list_.fichier_liste.empty() || !decks_.may_be_loaded(deck))
             return;
         reading_.lire_enreg_destinataire();
         list_.chemin_fichier = destination_.dest_chemin;
         chain_.path_of_deck(deck) = trim(destination_.dest_chemin);
-        load_deck_(deck);
+        decks_.load(deck);
     });
 }
 

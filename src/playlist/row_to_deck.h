@@ -13,9 +13,13 @@ namespace sonarelle {
 /// Sends the selected row to a deck.
 class RowToDeck {
 public:
-    /// `load_deck` is the deck's door: it loads `chemin_fichier` on deck 1, 2 or 3 and adjusts its buttons.
+    /// The doors of deck 1, 2 or 3.
+    struct DeckDoors {
+        std::function<bool(int deck)> may_be_loaded; ///< May ask the operator.
+        std::function<void(int deck)> load;          ///< Loads `chemin_fichier` and adjusts the deck's buttons.
+    };
     RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
-              Liste_son& window, RecordReading& reading, std::function<void(int deck)> load_deck);
+              Liste_son& window, RecordReading& reading, DeckDoors decks);
 
     void Charg1_son() { send(1); }
     void charg2_son() { send(2); }
@@ -33,7 +37,7 @@ private:
     ChainState& chain_;
     Liste_son& window_;
     RecordReading& reading_;
-    std::function<void(int deck)> load_deck_;
+    DeckDoors decks_;
 };
 
 } // namespace sonarelle

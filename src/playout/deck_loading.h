@@ -24,6 +24,8 @@ public:
     void charge_3_F() { charge_3(); }
     /// The destination record's file, by hand.
     void load_record(Deck& deck);
+    /// Whether a hand may put another file on a deck: for one that sounds the operator is asked, No as default.
+    [[nodiscard]] bool may_be_cut(const Deck& deck);
 
     void charge_1_list() { load_from_list(desk_.deck(1)); }
     void charge_2_list() { load_from_list(desk_.deck(2)); }
@@ -69,7 +71,6 @@ private:
     void show_loaded(Deck& deck);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);
-    [[nodiscard]] bool may_be_cut(const Deck& deck);
     void open(Deck& deck);
     /// The file of a deck was dragged on it.
     [[nodiscard]] bool is_file_chosen() const;

@@ -84,6 +84,8 @@ void QuickLoad::press_key(const Box& box, char32_t key) {
 
 // The chain reads rows of its own while the menu waits for the operator.
 void QuickLoad::load(Deck& deck, const Box& box) {
+    if (!loading_.may_be_cut(deck))
+        return;
     run_.stoppe_list();
     if (chosen_)
         desk_.destination = *chosen_;

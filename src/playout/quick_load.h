@@ -32,7 +32,7 @@ public:
     void Combo1_KeyPress(char32_t key) { press_key(favourites(), key); }
     void Combo2_KeyPress(char32_t key) { press_key(jingles(), key); }
 
-    /// The chosen track goes on a deck.
+    /// The chosen track goes on a deck; on one that sounds after a question, whose No changes nothing.
     void load_favourite(Deck& deck) { load(deck, favourites()); }
     void load_jingle(Deck& deck) { load(deck, jingles()); }
 

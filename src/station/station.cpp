@@ -47,7 +47,8 @@ Station::Station(const Platform& platform)
                   chain,
                   list_window,
                   record_reading,
-                  [this](int deck) { load_row_on_deck(deck); }},
+                  {[this](int deck) { return deck_loading.may_be_cut(desk.deck(deck)); },
+                   [this](int deck) { load_row_on_deck(deck); }}},
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, file_measure, journal},
       track_properties{platform_,   settings,          list,           chain,         destination,
                        list_window, properties_window, record_reading, list_document, list_maintenance.guard} {

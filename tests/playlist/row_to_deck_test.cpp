@@ -14,7 +14,7 @@ protected:
                           station.chain,
                           station.list_window,
                           station.record_reading,
-                          [this](int deck) { loaded.push_back(deck); }};
+                          {[](int) { return true; }, [this](int deck) { loaded.push_back(deck); }}};
     std::vector<int> loaded;
 };
 

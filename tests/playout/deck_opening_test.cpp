@@ -77,6 +77,26 @@ TEST_F(DeckOpening, FileDroppedOnADeckThatSoundsIsTakenAfterAYes) {
     EXPECT_EQ(machine.dialogs.asked().size(), 2U);
 }
 
+TEST_F(DeckOpening, RowForADeckThatWentOnTheAirBehindItsMenuAsksFirst) {
+    play_list_for(80);
+    station.list_window.Load_Pl.open();
+    machine.run_for(seconds(25));
+    rows().select(3);
+    machine.dialogs.expect_box("titre 2 est à l'antenne", Answer::no);
+    station.list_window.char2.click();
+    EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
+    EXPECT_EQ(station.chain.chemin_lecture2, track(2));
+}
+
+TEST_F(DeckOpening, RowForADeckThatFadesIsTakenAfterAYes) {
+    play_list_for(98);
+    rows().select(3);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
+    station.list_window.char1.click();
+    EXPECT_EQ(station.chain.chemin_lecture, track(3));
+    EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
+}
+
 TEST_F(DeckOpening, ChoiceForADeckThatWentOnTheAirBehindItsDialogIsRefused) {
     play_list_for(80);
     machine.dialogs.expect_open(song, seconds(20));

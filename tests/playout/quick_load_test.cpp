@@ -179,6 +179,7 @@ TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
     choose_favourites(favourites);
     open_tracks({200, 200});
     start_list();
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
     window.Combo1.choose(0);
     window.lect1.click();
     station.list_window.Option3.click();
@@ -238,6 +239,38 @@ TEST_F(QuickLoadTest, ADeckGetsTheChosenItemThoughTheChainHasReadARowMeanwhile) 
     machine.run_for(seconds(9)); // over the load step
     window.lect3.click();
     EXPECT_EQ(station.chain.chemin_lecture3, "C:\\Musique\\favori.mp3");
+}
+
+TEST_F(QuickLoadTest, OnADeckThatSoundsAsksFirstAndANoChangesNothing) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    play_list_for(100);
+    window.Combo1.choose(0);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::no);
+    window.lect1.click();
+    EXPECT_EQ(machine.dialogs.last().default_button, 2);
+    machine.run_for(seconds(100));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(QuickLoadTest, OnADeckThatSoundsIsTakenAfterAYes) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    play_list_for(100);
+    window.Combo1.choose(0);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
+    window.lect1.click();
+    EXPECT_EQ(station.chain.chemin_lecture, "C:\\Musique\\favori.mp3");
+    EXPECT_TRUE(window.coche2.value());
+}
+
+TEST_F(QuickLoadTest, JingleOnADeckThatFadesAsksFirst) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    machine.dialogs.expect_open(favourites);
+    window.choose_jingles.click();
+    play_list_for(197);
+    window.Combo2.choose(0);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::no);
+    window.lect1_F.click();
+    EXPECT_EQ(machine.media.on_air(), (std::vector<std::string>{track(1), track(2)}));
 }
 
 TEST_F(QuickLoadTest, TheSpaceKeysMenuLoadsWhatWasChosenBefore) {

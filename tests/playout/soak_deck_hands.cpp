@@ -84,10 +84,10 @@ void SoakOperator::load_quickly() {
     if (box.items.get().empty())
         return;
     say((favourite ? "favourite on deck " : "jingle on deck ") + std::to_string(deck));
-    if (deck == world_.main_deck()) {
+    if (deck == world_.main_deck())
         oracle_.expect_cut();
-        dialogs().expect_box("est à l'antenne", Answer::yes);
-    }
+    if (world_.deck(deck).sounds())
+        dialogs().expect_box("est à l'antenne", world_.happens(50) ? Answer::yes : Answer::no);
     box.choose(world_.below(static_cast<int>(box.items.get().size())));
     const auto loads = favourite ? window().favourite_loads() : window().jingle_loads();
     loads[static_cast<std::size_t>(deck - 1)]->click();

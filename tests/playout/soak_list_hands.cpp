@@ -96,6 +96,8 @@ void SoakOperator::send_row_to_deck() {
     world_.rows().click(1 + world_.below(world_.rows().count()));
     say("row " + std::to_string(world_.rows().selected()) + " to deck " + std::to_string(deck));
     list().Load_Pl.open();
+    if (deck != world_.main_deck() && world_.deck(deck).sounds())
+        dialogs().expect_box("est à l'antenne", world_.happens(50) ? Answer::yes : Answer::no);
     list().deck_loads()[static_cast<std::size_t>(deck - 1)]->click();
 }
 

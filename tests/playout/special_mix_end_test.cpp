@@ -102,6 +102,7 @@ TEST_F(SpecialMixEnd, FileOpenedOnItsDeckEndsIt) {
 TEST_F(SpecialMixEnd, RowLoadedOnItsDeckEndsIt) {
     mix_on(2);
     rows().select(3);
+    machine.dialogs.expect_box("jingle est à l'antenne", Answer::yes);
     station.list_window.char2.click();
     expect_ended(2);
     EXPECT_FALSE(hears_jingle());

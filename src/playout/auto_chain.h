@@ -64,6 +64,9 @@ public:
     /// Whether the current row's file is there. A row whose drive or folder doesn't answer is passed over and kept.
     [[nodiscard]] bool is_found();
 
+    /// Journals once a track that the current row isn't taken.
+    void note_passed_over(std::string_view why);
+
     /// Whether a row to follow the track on the air is being looked for.
     [[nodiscard]] bool looks_for_a_row() const { return mix_walk_.under_way(); }
 

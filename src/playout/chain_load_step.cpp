@@ -201,13 +201,17 @@ void AutoChain::loaded() {
 
 /// Tomorrow the row may be sound again, so it stays in the list. A disk that is waited for ends the walk's turn.
 void AutoChain::pass_over_row(RowWalk& walk, std::string_view why) {
-    const std::string& path = desk_.list.chemin_fichier;
-    if (passed_over_.insert(path).second)
-        journal_.note(date_and_time(desk_.platform) + " fichier : " + path + std::string{why});
+    note_passed_over(why);
     desk_.chain.chargement_fait = false;
     desk_.chain.choix_prepare = false;
     if (why == passed_over::silent_disk)
         walk.rest();
+}
+
+void AutoChain::note_passed_over(std::string_view why) {
+    const std::string& path = desk_.list.chemin_fichier;
+    if (passed_over_.insert(path).second)
+        journal_.note(date_and_time(desk_.platform) + " fichier : " + path + std::string{why});
 }
 
 void AutoChain::drop_invalid_row() {

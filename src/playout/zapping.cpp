@@ -74,19 +74,19 @@ void Zapping::refuse_too_early() {
 }
 
 void Zapping::zap_in_list(Deck& old) {
-    bool by_draw = desk_.chain.ordre_aleatoire.is_true();
-    int rows_left = desk_.row_count();
-    do {
-        if (rows_left-- < 0)
-            return;
-        take_row(std::exchange(by_draw, false));
-    } while (!chain_.is_found() || is_too_short());
-    // The track on the air goes on, with its load step, and its mix point takes the row behind.
-    if (loading_.length_of(desk_.list.chemin_fichier) == 0) {
-        desk_.chain.choix_prepare = false; // in random order too
-        throw Failure{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
+    const Place before = place();
+    const std::optional<double> length = find_row();
+    if (!length)
+        return go_back_to(before);
+    if (*length == 0)
+        refuse_unplayable(before);
+    std::optional<RowOnAir> ended;
+    try {
+        ended = record_to_end(old);
+    } catch (const Failure&) {
+        go_back_to(before);
+        throw;
     }
-    const std::optional<RowOnAir> ended = record_to_end(old);
     chain_.cancel_walks();
     load_row(desk_.deck(next_deck(old.number())));
     desk_.window.coche4.set_value(0);
@@ -97,6 +97,50 @@ void Zapping::zap_in_list(Deck& old) {
     desk_.list_window.ListView1.select(row);
 }
 
+Zapping::Place Zapping::place() const {
+    return {desk_.list.index_en_cours, desk_.list.chemin_fichier, desk_.chain.choix_prepare,
+            desk_.chain.chargement_fait, desk_.row_count()};
+}
+
+// Where rows were removed on the way there is no place to go back to, and the next look draws anew.
+void Zapping::go_back_to(const Place& place) {
+    if (desk_.row_count() != place.rows) {
+        desk_.chain.choix_prepare = false;
+        return;
+    }
+    desk_.list.index_en_cours = place.row;
+    desk_.list.chemin_fichier = place.path;
+    desk_.chain.choix_prepare = place.choix_prepare;
+    desk_.chain.chargement_fait = place.chargement_fait;
+}
+
+// The track on the air goes on, with its load step. In list order its mix point and the next zap take the row behind,
+// or the operator would never get over this one; in random order a drawn row that can't be played is drawn anew.
+void Zapping::refuse_unplayable(const Place& before) {
+    const Failure refusal{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
+    const bool was_prepared = desk_.list.index_en_cours == before.row;
+    if (desk_.chain.ordre_aleatoire.is_true())
+        go_back_to(before);
+    if (was_prepared)
+        desk_.chain.choix_prepare = false;
+    throw refusal;
+}
+
+std::optional<double> Zapping::find_row() {
+    bool by_draw = desk_.chain.ordre_aleatoire.is_true();
+    const int rows = desk_.row_count();
+    for (int looked_at = 0; looked_at <= rows; ++looked_at) {
+        take_row(std::exchange(by_draw, false));
+        if (!chain_.is_found())
+            continue;
+        const double length = loading_.length_of(desk_.list.chemin_fichier);
+        if (length == 0 || length >= shortest_good_file)
+            return length;
+        chain_.note_passed_over(passed_over::too_short);
+    }
+    return std::nullopt;
+}
+
 void Zapping::take_row(bool by_draw) {
     if (!by_draw)
         return chain_.take_next_row();
@@ -104,15 +148,6 @@ void Zapping::take_row(bool by_draw) {
     const double rows = desk_.row_count();
     desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
     chain_.take_current_row();
-}
-
-bool Zapping::is_too_short() {
-    const double length = loading_.length_of(desk_.list.chemin_fichier);
-    if (length == 0 || length >= shortest_good_file)
-        return false;
-    journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
-                  std::string{passed_over::too_short});
-    return true;
 }
 
 void Zapping::load_row(Deck& next) {
@@ -142,7 +177,6 @@ void Zapping::zap_over_decks(Deck& old) {
         hand_over(old, ended);
 }
 
-// Read before anything changes: a list that can't be read refuses the zap.
 std::optional<RowOnAir> Zapping::record_to_end(const Deck& old) const {
     std::optional<RowOnAir> ended = ends_record() ? row_on_air(desk_, old) : std::nullopt;
     if (ended)

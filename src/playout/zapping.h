@@ -32,12 +32,25 @@ private:
     void refuse_too_early();
     /// Whether a zap ends the row's record where it cuts its track.
     [[nodiscard]] bool ends_record() const;
+    /// Where the chain stands in the list, and what it has made ready.
+    struct Place {
+        Integer row;
+        std::string path;
+        Flag choix_prepare, chargement_fait;
+        int rows = 0; ///< Of the list.
+    };
+    [[nodiscard]] Place place() const;
+    void go_back_to(const Place& place);
+    /// Steps to a row whose file is there and no shorter than a second; the seconds of the file, 0 for one that can't
+    /// be played. Nothing when there is no such row.
+    [[nodiscard]] std::optional<double> find_row();
     void take_row(bool by_draw);
-    [[nodiscard]] bool is_too_short();
     void zap_in_list(Deck& old);
+    [[noreturn]] void refuse_unplayable(const Place& before);
     void load_row(Deck& next);
     void zap_over_decks(Deck& old);
     /// The record of the row that plays, with the zap as its end; none where a zap ends no record.
+    /// @throws Failure when the list can't be read.
     [[nodiscard]] std::optional<RowOnAir> record_to_end(const Deck& old) const;
     void hand_over(Deck& old, const std::optional<RowOnAir>& ended);
     void choose_fade();

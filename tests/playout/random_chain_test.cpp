@@ -98,6 +98,37 @@ TEST_F(RandomChainTest, TellsTheLoadOfARowThatIsDrawnBehindTheLoadStep) {
     EXPECT_EQ(rows_loaded().back(), rows_started().back());
 }
 
+TEST_F(RandomChainTest, ZapThatIsRefusedLeavesTheRowThatTheLoadStepDrew) {
+    open_tracks(std::vector<int>(10, 100));
+    start_at_random();
+    machine.run_for(seconds(88));
+    ASSERT_EQ(rows_loaded().size(), 2U);
+    const int drawn = rows_loaded().back();
+    for (int row = 2; row <= 10; ++row)
+        if (row != drawn)
+            machine.media.set_unplayable(track(row));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.main_window.key_press(U'z');
+    machine.run_for(seconds(12));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, drawn}));
+}
+
+TEST_F(RandomChainTest, ZapThatIsRefusedBeforeTheLoadStepLeavesItsDraw) {
+    open_tracks(std::vector<int>(10, 100));
+    start_at_random();
+    machine.run_for(seconds(40));
+    for (int row = 2; row <= 10; ++row)
+        machine.media.set_unplayable(track(row));
+    machine.dialogs.expect_box("lecture impossible", Answer::ok);
+    station.main_window.key_press(U'z');
+    EXPECT_EQ(station.list.index_en_cours, 1);
+    for (int row = 2; row <= 10; ++row)
+        machine.add_track(track(row), 100);
+    machine.run_for(seconds(60));
+    EXPECT_EQ(rows_started().size(), 2U);
+    EXPECT_NE(rows_started().back(), 1);
+}
+
 TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnRowsDiskNoLongerAnswersAtTheMixPoint) {
     open_tracks({100, 100, 100});
     start_at_random();
@@ -109,19 +140,25 @@ TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnRowsDiskNoLongerAnswersAtTheMixPoi
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 5 - drawn})); // of rows 2 and 3 the other one
 }
 
-TEST_F(RandomChainTest, DrawsAnewBehindARefusedZap) {
+TEST_F(RandomChainTest, DrawsAnewBehindAZapThatRefusedTheDrawnRow) {
     open_tracks(std::vector<int>(5, 100));
     start_at_random();
     machine.run_for(seconds(90));
+    const int drawn = rows_loaded().back();
     for (int row = 1; row <= 5; ++row)
         machine.media.set_unplayable(track(row));
-    machine.dialogs.expect_box("lecture impossible", Answer::ok);
-    station.list_window.Image2.click();
+    std::string refused;
+    for (int zap = 0; zap < 100 && refused.find(track(drawn)) == std::string::npos; ++zap) {
+        machine.dialogs.expect_box("lecture impossible", Answer::ok);
+        station.list_window.Image2.click();
+        refused = machine.dialogs.last().text;
+    }
     for (int row = 1; row <= 5; ++row)
-        if (row != station.list.index_en_cours)
+        if (row != drawn)
             machine.media.set_length(track(row), 100);
     machine.run_for(seconds(10));
-    EXPECT_EQ(rows_started().size(), 2U);
+    ASSERT_EQ(rows_started().size(), 2U);
+    EXPECT_NE(rows_started().back(), drawn);
 }
 
 TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnFirstRowIsRemovedAtTheMixPoint) {

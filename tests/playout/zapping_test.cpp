@@ -1,5 +1,8 @@
 #include "playout/zapping.h"
 
+#include <algorithm>
+
+#include "platform/failure.h"
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -145,6 +148,75 @@ TEST_F(ZappingTest, PassesOverARowOfLessThanASecond) {
     station.list_window.Image2.click();
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
     EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(ZappingTest, OpensTheFileThatItTakesOnceBeforeItsLoad) {
+    start_and_run(40);
+    machine.media.clear_log();
+    station.list_window.Image2.click();
+    const auto opened = std::ranges::count_if(machine.media.log(), [](const MediaCommand& command) {
+        return command.action == MediaAction::rendered && command.path == track(2);
+    });
+    EXPECT_EQ(opened, 3); // to look at it, to load it, to start it
+}
+
+TEST_F(ZappingTest, JournalsARowOfLessThanASecondOnceATrack) {
+    station.main_window.Active_journal.click();
+    start_and_run(40);
+    machine.media.set_length(track(2), 0.9);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    for (int zap = 0; zap < 2; ++zap) {
+        machine.dialogs.expect_box("essai.dfm", Answer::ok);
+        station.list_window.Image2.click();
+    }
+    const std::string line = " fichier : " + track(2) + " Plus court qu'une seconde\r\n";
+    const std::string text = journal_text();
+    ASSERT_NE(text.find(line), std::string::npos);
+    EXPECT_EQ(text.find(line, text.find(line) + 1), std::string::npos);
+}
+
+TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheChainItsNextRow) {
+    start_and_run(40);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.dialogs.expect_box("essai.dfm", Answer::ok);
+    station.list_window.Image2.click();
+    machine.disk.heal("C:\\Sonarelle\\essai.dfm");
+    machine.run_for(seconds(160));
+    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {194, 2}}));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheNextDecksSpecialMix) {
+    start_and_run(40);
+    machine.add_track("C:\\jingle.mp3", 60);
+    station.chain.chemin_lecture2 = "C:\\jingle.mp3";
+    controls(2).special_mix.click();
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.dialogs.expect_box("essai.dfm", Answer::ok);
+    station.list_window.Image2.click();
+    EXPECT_EQ(machine.media.on_air(), (std::vector<std::string>{track(1), "C:\\jingle.mp3"}));
+    EXPECT_EQ(station.chain.lecteur_mix_special, 2);
+}
+
+TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheLoadedTrack) {
+    start_and_run(190);
+    ASSERT_EQ(station.chain.chemin_lecture2, track(2));
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.dialogs.expect_box("essai.dfm", Answer::ok);
+    station.list_window.Image2.click();
+    machine.disk.heal("C:\\Sonarelle\\essai.dfm");
+    machine.run_for(seconds(10));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(times_of(Kind::loaded).size(), 2U);
+}
+
+TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheChainItsNextRow) {
+    start_and_run(40);
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    station.list_window.Image2.click();
+    machine.disk.heal("C:\\Musique");
+    machine.run_for(seconds(160));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
 TEST_F(ZappingTest, SwitchesTheLoadStepsTickOff) {

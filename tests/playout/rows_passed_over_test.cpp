@@ -9,6 +9,18 @@ namespace {
 class RowsPassedOver : public ChainBench {
 protected:
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
+    /// Row 2 of three lies in a folder of its own; all play so long.
+    void play_list_over_another_folder(int length) {
+        for (const std::string& path : {track(1), elsewhere, track(3)})
+            machine.add_track(path, length);
+        const std::string end = std::to_string(length);
+        open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), end, 100, 0.0), record_of(elsewhere, end, 100, 0.0),
+                                               record_of(track(3), end, 100, 0.0)});
+        rows().select(1);
+        start_list();
+    }
+
+    const std::string elsewhere = "C:\\Ailleurs\\b.mp3";
 };
 
 } // namespace
@@ -106,6 +118,34 @@ TEST_F(RowsPassedOver, FolderThatComesBackBehindAPauseStartsNothing) {
     machine.disk.plug_again("E:");
     play_for(10);
     EXPECT_EQ(rows_started(), (std::vector<int>{1}));
+}
+
+TEST_F(RowsPassedOver, RowWhoseFolderGoesBetweenTwoLooksOfTheLoadStaysInTheList) {
+    play_list_over_another_folder(100);
+    machine.disk.remove_after_entering("C:\\Ailleurs");
+    play_for(88);
+    EXPECT_FALSE(machine.disk.exists("C:\\Ailleurs"));
+    EXPECT_EQ(times_of(OnAirEvent::Kind::stopped), (Times{{87, 0}}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(RowsPassedOver, RowWhoseFolderGoesBetweenTwoLooksOfTheMixStaysInTheList) {
+    play_list_over_another_folder(3);
+    machine.disk.remove_after_entering("C:\\Ailleurs");
+    play_for(3);
+    EXPECT_FALSE(machine.disk.exists("C:\\Ailleurs"));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(RowsPassedOver, RowWhoseFolderGoesBetweenTwoLooksOfAZapStaysInTheList) {
+    play_list_over_another_folder(100);
+    play_for(40);
+    machine.disk.remove_after_entering("C:\\Ailleurs");
+    station.main_window.key_press(U'z');
+    EXPECT_FALSE(machine.disk.exists("C:\\Ailleurs"));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
 }
 
 namespace {

@@ -1,5 +1,7 @@
 #include "platform/simulated/disk_faults.h"
 
+#include <utility>
+
 #include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -43,11 +45,16 @@ void DiskFaults::meet(std::string_view path, Clock& clock) const {
 }
 
 bool DiskFaults::take_vanishing(std::string_view path) {
+    return take(path, &Fault::vanishes);
+}
+
+bool DiskFaults::take_leaving(std::string_view folder) {
+    return take(folder, &Fault::leaves);
+}
+
+bool DiskFaults::take(std::string_view path, bool Fault::*mark) {
     const auto found = faults_.find(lower_case(path));
-    if (found == faults_.end() || !found->second.vanishes)
-        return false;
-    found->second.vanishes = false;
-    return true;
+    return found != faults_.end() && std::exchange(found->second.*mark, false);
 }
 
 void DiskFaults::check_read(std::string_view path, std::int64_t position, std::size_t count) const {

@@ -78,10 +78,12 @@ void SimulatedDisk::ChDir(std::string_view folder) {
     const std::string target = absolute(folder);
     check_path(target);
     faults_.meet(target, clock_);
-    const DiskEntry* entry = tree_.locate(target).entry;
-    if (entry == nullptr || !entry->is_folder())
+    const DiskPlace place = tree_.locate(target);
+    if (place.entry == nullptr || !place.entry->is_folder())
         fail(failure_number::path_not_found, target);
     working_.set_folder(target);
+    if (faults_.take_leaving(target))
+        (void)DiskTree::remove(place);
 }
 
 std::string SimulatedDisk::Dir(std::string_view pattern, FileAttributes attributes) {

@@ -76,6 +76,8 @@ public:
     void refuse(std::string_view path, int failure_number) { faults_.refuse(absolute(path), failure_number); }
     /// `Dir` and `facts` find the file; at the first other operation it is gone.
     void vanish_after_look(std::string_view path) { faults_.vanish(absolute(path)); }
+    /// The folder can be entered once, and is gone behind that with all that it holds.
+    void remove_after_entering(std::string_view folder) { faults_.leave(absolute(folder)); }
     /// A read of that byte, counted from 0, is Failure 57.
     void fail_read_at(std::string_view path, std::int64_t byte) { faults_.break_at(absolute(path), byte); }
     /// Every operation on the path lasts so long, while the clock's other timers run.

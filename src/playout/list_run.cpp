@@ -61,10 +61,11 @@ bool ListRun::can_be_played(const std::string& path) const {
     return ErrorIndicator{}.skip([&] { graph->RenderFile(path); }) && graph->get_Duration() >= shortest_good_file;
 }
 
-// The list begins on the first deck alone.
+// The list begins on the first deck alone, and what has played out elsewhere doesn't wait there with a file.
 void ListRun::stop_other_decks() {
+    desk_.chain.lecteur_en_cours = 1;
     for (Deck& deck : desk_.decks)
-        if (deck.number() != 1 && deck.sounds())
+        if (deck.number() != 1 && (deck.sounds() || deck.is_at_its_end()))
             transport_.stop(deck);
 }
 

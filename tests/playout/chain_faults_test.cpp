@@ -23,18 +23,6 @@ protected:
         rows().select(1);
         start_list();
     }
-    /// The first track ends 4 s before its overlap begins; items of the list are to be inserted.
-    void open_list_that_ends_before_its_overlap() {
-        station.settings.veille_antenne = 0;
-        machine.add_track(track(1), 20);
-        machine.add_track(track(2), 100);
-        open_list("C:\\Sonarelle\\essai.dfm",
-                  {record_of(track(1), "2", 100, 0.0), record_of(track(2), "100", 100, 0.0)});
-        rows().select(1);
-        start_list();
-        station.settings.mix_courant = 6;
-        station.settings.valide_fichier_aleatoire1 = true;
-    }
 };
 
 } // namespace
@@ -294,85 +282,6 @@ TEST_F(ChainFaultsTest, LastRowThatCannotBePlayedStopsTheList) {
     EXPECT_FALSE(times_of(Kind::stopped).empty());
 }
 
-TEST_F(ChainFaultsTest, FirstRowOfLessThanASecondIsFollowedAtItsEnd) {
-    machine.add_track("C:\\court.mp3", 0.9);
-    machine.add_track("C:\\b.mp3", 100);
-    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\court.mp3", "0.40", 100, 0.0), record_of("C:\\b.mp3")});
-    rows().select(1);
-    start_list();
-    play_for(3);
-    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
-}
-
-TEST_F(ChainFaultsTest, RowThatEndsAtZeroIsFollowedAtTheEndOfItsFile) {
-    machine.add_track("C:\\a.mp3", 20);
-    machine.add_track("C:\\b.mp3", 20);
-    open_list("C:\\Sonarelle\\essai.dfm",
-              {record_of("C:\\a.mp3", "0", 100, 0.0), record_of("C:\\b.mp3", "0", 100, 0.0)});
-    rows().select(1);
-    start_list();
-    play_for(30);
-    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 2}}));
-}
-
-TEST_F(ChainFaultsTest, ListOfTheSameFileOnlyPlaysOut) {
-    machine.add_track("C:\\a.mp3", 100);
-    open_list("C:\\Sonarelle\\essai.dfm", {record_of("C:\\a.mp3", "100"), record_of("C:\\a.mp3", "100")});
-    rows().select(1);
-    start_list();
-    play_for(200);
-    EXPECT_EQ(times_of(Kind::started).size(), 1U);
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
-}
-
-TEST_F(ChainFaultsTest, InsertionOfItemsTakesTheNetOffTheFirstDeck) {
-    open_tracks({100, 100, 100});
-    start_list();
-    station.settings.valide_fichier_aleatoire1 = true;
-    station.settings.veille_antenne = 0;
-    play_for(85);
-    controls(1).forward.click();
-    play_for(60);
-    EXPECT_EQ(times_of(Kind::started).size(), 1U);
-}
-
-TEST_F(ChainFaultsTest, InsertionOfItemsLeavesATrackWithoutAMixPointOnTheFirstDeckUnfollowed) {
-    open_list_that_ends_before_its_overlap();
-    play_for(60);
-    EXPECT_EQ(rows_started(), std::vector<int>{1});
-}
-
-TEST_F(ChainFaultsTest, TrackThatEndsBeforeItsOverlapIsFollowedAtTheEndOfItsFile) {
-    open_list_that_ends_before_its_overlap();
-    station.settings.valide_fichier_aleatoire1 = false;
-    play_for(21);
-    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 2}}));
-}
-
-TEST_F(ChainFaultsTest, InsertionOfItemsLeavesTheNetToTheThirdDeck) {
-    open_tracks({100, 100, 100, 100});
-    start_list();
-    play_for(190);
-    ASSERT_EQ(station.chain.lecteur_en_cours, 3);
-    station.settings.valide_fichier_aleatoire1 = true;
-    play_for(85);
-    controls(3).forward.click();
-    play_for(5);
-    EXPECT_EQ(times_of(Kind::started).back().second, 1);
-}
-
-TEST_F(ChainFaultsTest, TrackTooShortForALoadStepIsFollowedWithoutOne) {
-    open_tracks({10, 100});
-    station.settings.mix_courant = station.settings.mix_defaut = 2;
-    start_list();
-    controls(1).counter.caption = "5";
-    station.settings.prechargement = 7; // the load point lies before the begin
-    play_for(3);
-    EXPECT_TRUE(times_of(Kind::loaded).size() == 1);
-    play_for(3);
-    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
-}
-
 TEST_F(ChainFaultsTest, WarningOfTheLastLoadIsHiddenAtTheNext) {
     open_tracks({40, 40, 40, 40});
     machine.disk.Kill(track(2));
@@ -419,16 +328,6 @@ TEST_F(ChainFaultsTest, PausedInItsLoadSecondTheRowIsLoadedOnce) {
     controls(1).pause.click();
     play_for(5);
     EXPECT_EQ(times_of(Kind::loaded).size(), 2U);
-}
-
-TEST_F(ChainFaultsTest, InsertionOfItemsLeavesTheNetToTheSecondDeck) {
-    open_tracks({100, 100, 100});
-    start_list();
-    station.settings.valide_fichier_aleatoire1 = true;
-    play_for(180);
-    controls(2).forward.click();
-    play_for(5);
-    EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}, {184, 3}}));
 }
 
 TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/station_bench.h"
+
+namespace sonarelle {
+
+inline constexpr std::string_view music = "C:\\Musique\\été.mp3";
+
+/// A list of two rows, of which the second one's properties are opened.
+class PropertiesBench : public StationBench {
+protected:
+    PropertiesBench() {
+        machine.add_track(music, 200);
+        open_list("C:\\Sonarelle\\matin.dfm", {record_of("C:\\Musique\\autre.mp3"), record_of(music, "180.00", 80)});
+    }
+
+    /// Opens the properties of a row from the list's menu.
+    void open(int row = 2) {
+        rows().select(row);
+        station.list_window.a_modif.click();
+    }
+    void open_and_play() {
+        open();
+        window.play.click();
+    }
+    void run_for(int seconds) { machine.run_for(milliseconds(1000 * seconds)); }
+    [[nodiscard]] MediaCommand last_command() const { return machine.media.log().back(); }
+    [[nodiscard]] enreg_liste record(std::string_view file, std::size_t number) {
+        return record_in(machine.disk.bytes(file), number);
+    }
+    [[nodiscard]] std::vector<std::string> fields() const {
+        return {window.Text1.text(), window.Text2.text(), window.Text3.text(), window.Text4.text(),
+                window.Text5.text()};
+    }
+
+    Propriete& window = station.properties_window;
+};
+
+} // namespace sonarelle

@@ -33,6 +33,19 @@ TEST(FullDisk, SaveThatJustFitsIsDone) {
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), records);
 }
 
+TEST(FullDisk, SaveBeyondAFileSizeLimitNamesTheLimit) {
+    DiskBench bench;
+    const auto save = [&] {
+        try {
+            bench.save("D:\\liste.dfm", std::string(save_size, 'n'));
+        } catch (const Failure& failure) {
+            const bool is_named = failure.description.starts_with("Taille de fichier limitée");
+            throw Failure{is_named ? failure.number : 99};
+        }
+    };
+    EXPECT_EQ(failure_on_full_disk(10, save), 61);
+}
+
 TEST(FullDisk, LongSaveThatStopsInTheMiddleTakesNothingMore) {
     DiskBench bench;
     bench.folder.put("liste.dfm", "old");

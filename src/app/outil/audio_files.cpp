@@ -54,7 +54,7 @@ void AudioFiles::add_files_below(const std::string& top) {
                 folders.push_back(entry->path().string());
         }
         if (error) {
-            tell(Failure{failure_of_errno(error.value(), Access::reading), folder});
+            tell(failure_from(error.value(), Access::reading, folder));
             all_folders_read_ = false;
         }
     }

@@ -13,8 +13,9 @@ constexpr const char* output_name = "sortie standard";
 } // namespace
 
 Failure output_failure() {
-    return errno == ENOSPC ? Failure{failure_number::disk_full, output_name}
-                           : Failure{failure_number::device_fault, output_name, "écriture impossible"};
+    return errno == ENOSPC || errno == EFBIG
+               ? failure_from(errno, Access::writing, output_name)
+               : Failure{failure_number::device_fault, output_name, "écriture impossible"};
 }
 
 std::string sentence_of_errno(int error) {

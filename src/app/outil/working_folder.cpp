@@ -102,7 +102,7 @@ std::string WorkingFolder::copy(const std::string& file) const {
     if (error == std::errc::no_space_on_device)
         throw Failure{failure_number::disk_full, folder_};
     if (error)
-        throw Failure{failure_of_errno(error.value(), Access::reading), file};
+        throw failure_from(error.value(), Access::reading, file);
     return station_path() + "programme.dfm";
 }
 

@@ -30,13 +30,13 @@ void append_line(const OpenFile& file, std::string_view bytes, const std::string
         if (count >= 0) {
             done += static_cast<std::size_t>(count);
         } else if (errno != EINTR) {
-            const int number = failure_of_errno(errno, Access::writing);
+            const Failure failure = failure_from(errno, Access::writing, source);
             struct stat now {};
             const bool alone =
                 ::fstat(file.handle.get(), &now) == 0 && now.st_size == file.facts.st_size + static_cast<off_t>(done);
             if (alone && done > 0)
                 static_cast<void>(::ftruncate(file.handle.get(), file.facts.st_size) == 0);
-            throw Failure{number, source};
+            throw failure;
         }
     }
     if (::fdatasync(file.handle.get()) != 0)

@@ -4,8 +4,6 @@
 #include <array>
 #include <cerrno>
 
-#include "platform/failure.h"
-
 namespace sonarelle {
 
 namespace {
@@ -54,8 +52,15 @@ int failure_of_errno(int error, Access access) {
     return found == meanings.end() ? failure_number::device_fault : found->number;
 }
 
+Failure failure_from(int error, Access access, const std::string& source) {
+    const int number = failure_of_errno(error, access);
+    if (error == EFBIG) // by the system's or the user's limit, however empty the disk is
+        return Failure{number, source, "Taille de fichier limitée : le fichier ne peut pas grandir"};
+    return Failure{number, source};
+}
+
 void throw_errno(Access access, const std::string& source) {
-    throw Failure{failure_of_errno(errno, access), source};
+    throw failure_from(errno, access, source);
 }
 
 } // namespace sonarelle

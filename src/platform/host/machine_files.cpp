@@ -48,7 +48,7 @@ FileHandle open_lock_file(const std::string& name, const std::string& source) {
     if (!file.is_open() && refusal == EACCES)
         file = FileHandle{::open(name.c_str(), O_RDONLY | flags)};
     if (!file.is_open())
-        throw Failure{failure_of_errno(refusal, Access::writing), source};
+        throw failure_from(refusal, Access::writing, source);
     return file;
 }
 

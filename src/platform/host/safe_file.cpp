@@ -246,9 +246,9 @@ void SafeFile::drop() noexcept {
 }
 
 void SafeFile::fail() {
-    const int number = failure_of_errno(errno, Access::writing);
+    const Failure failure = failure_from(errno, Access::writing, source_);
     drop();
-    throw Failure{number, source_};
+    throw failure;
 }
 
 } // namespace sonarelle

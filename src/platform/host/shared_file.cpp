@@ -30,7 +30,7 @@ void make_folder_of(const std::string& path) {
     if (!folder.empty())
         std::filesystem::create_directories(folder, error);
     if (error)
-        throw Failure{failure_of_errno(error.value(), Access::writing), path};
+        throw failure_from(error.value(), Access::writing, path);
 }
 
 /// A lock is only ever made or found, never followed to where a link points; another user's needs no right to write.

@@ -8,6 +8,7 @@ namespace sonarelle {
 struct err_form : Window {
     err_form() : Window{"err_form"} {
         caption = "ATTENTION ERREUR";
+        default_button = &AnyButton1;
         AnyButton1.on_click = [this] { hide(); };
         on_unload_request = [this] { hide(); };
         on_key_press = [this](char32_t key) {

@@ -217,6 +217,18 @@ TEST_F(KeysOnScreen, SmallMShowsTheSmallPlayer) {
     });
 }
 
+TEST_F(KeysOnScreen, ReturnClosesTheWarningAndTheDeskHasTheKeysAgain) {
+    at_the_keyboard([this] {
+        operators_event([this] { station().desk.warn("Ce fichier est NON TROUVE !"); });
+        eventually("the warning", [this] { return is_active(station().warning_window); });
+        key("Return");
+        eventually("the desk",
+                   [this] { return is_active(station().main_window) && !is_on_screen(station().warning_window); });
+        key("m");
+        eventually("the small player", [this] { return is_on_screen(station().small_player); });
+    });
+}
+
 TEST_F(KeysOnScreen, CapitalIShowsTheSmallPlayer) {
     at_the_keyboard([this] {
         key("I");

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/controls.h"
 #include "platform/desktop/colours.h"
 #include "platform/desktop/picture_store.h"
 #include "platform/desktop/qt_text.h"
@@ -153,12 +154,20 @@ void WindowView::show_state() {
     if (is_new && window_.visible)
         place_over_owner();
     if (is_new)
-        setVisible(window_.visible);
+        change_visibility();
     // One that was on view already doesn't come before a box that waits for its answer.
     const bool is_called = std::exchange(shows_, window_.shows()) != window_.shows();
     if (window_.visible && state != WindowState::minimised &&
         (is_new || (is_called && QApplication::activeModalWidget() == nullptr)))
         raise();
+}
+
+// The keyboard goes back to the window that it came from.
+void WindowView::change_visibility() {
+    const bool had_keyboard = isActiveWindow();
+    setVisible(window_.visible);
+    if (had_keyboard && !window_.visible && !owner_.isNull() && owner_->isVisible())
+        owner_->activateWindow();
 }
 
 void WindowView::place_over_owner() {
@@ -295,14 +304,24 @@ void WindowView::keep_size() {
 
 // Buttons and menus are there without a mouse, too.
 void WindowView::keyPressEvent(QKeyEvent* event) {
-    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
     const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (presses && button != nullptr && !event->isAutoRepeat())
-        button->click();
-    else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
+    if (presses && !event->isAutoRepeat() && press_button())
+        return;
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
         show_first_menu();
     else
         QWidget::keyPressEvent(event);
+}
+
+// The one that has the focus, or the window's own.
+bool WindowView::press_button() {
+    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()))
+        button->click();
+    else if (window_.default_button != nullptr)
+        services_.run_event([this] { window_.default_button->click(); });
+    else
+        return false;
+    return true;
 }
 
 void WindowView::show_first_menu() {

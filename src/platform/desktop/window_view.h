@@ -70,6 +70,7 @@ private:
     [[nodiscard]] QPoint on_screen(QPoint place) const;
     [[nodiscard]] const QScreen& screen_at(const QRect& area) const;
     void show_state();
+    void change_visibility();
     void place_over_owner();
     void keep_place();
     void keep_size();
@@ -79,6 +80,7 @@ private:
     void activated();
     void make_room_for_frame();
     void show_first_menu();
+    [[nodiscard]] bool press_button();
     [[nodiscard]] bool accepts_text() const;
 
     Window& window_;

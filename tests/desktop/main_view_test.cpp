@@ -81,6 +81,20 @@ TEST_F(MainWindow, OutputIsTold) {
     EXPECT_EQ(ink_in(seen_in_window(label("output"))), calm);
 }
 
+TEST_F(MainWindow, StatusLineHasRoomForEachSentenceOfTheOutputOnTheSmallestScreen) {
+    main_view().resize(1000, 560);
+    station.chain.nb_fichiers_ecoutes = 32767;
+    main().Label7.caption = "Play 1 : liste mix a 3599";
+    const QString gaps = "sortie : son arrivé trop tard 12 fois, 3.20 s de silence depuis le lancement";
+    for (const auto& [text, is_trouble] :
+         {std::pair{QString{"sortie : aucune carte son, cadence de l'horloge"}, true}, {gaps, false}}) {
+        desktop->show_output(text.toStdString(), is_trouble);
+        settle();
+        const StationLabel& line = label("output");
+        EXPECT_LE(line.fontMetrics().horizontalAdvance(text), line.width() - 4) << text.toStdString();
+    }
+}
+
 TEST_F(MainWindow, FilesPlayedAreCounted) {
     station.chain.nb_fichiers_ecoutes = 41;
     main().deck(1).title.caption = "Titre";

@@ -1,5 +1,7 @@
 // Texts that are drawn, and those of them that act as buttons, as pixels.
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "desktop/desktop_bench.h"
@@ -181,6 +183,21 @@ TEST_F(Texts, TooLongOneEndsInDotsInsideItsRoom) {
     const QImage cut = seen_in_window(label);
     label.set_text("Un titre bien trop long pour la place qu'il a, et encore plus long");
     EXPECT_EQ(seen_in_window(label), cut);
+}
+
+TEST_F(Texts, TooLongOneIsToldWholeUnderThePointer) {
+    StationLabel& label = put({.pixels = 20}, "Un titre bien trop long pour la place qu'il a");
+    QHelpEvent rest{QEvent::ToolTip, QPoint{5, 5}, label.mapToGlobal(QPoint{5, 5})};
+    QCoreApplication::sendEvent(&label, &rest);
+    EXPECT_EQ(QToolTip::text(), label.text());
+    QToolTip::hideText();
+}
+
+TEST_F(Texts, OneThatIsSeenWholeIsNotToldAgain) {
+    StationLabel& label = put({.pixels = 20}, "Un titre");
+    QHelpEvent rest{QEvent::ToolTip, QPoint{5, 5}, label.mapToGlobal(QPoint{5, 5})};
+    QCoreApplication::sendEvent(&label, &rest);
+    EXPECT_EQ(QToolTip::text(), "");
 }
 
 TEST_F(Texts, WrappedOneTakesTheLinesThatItNeeds) {

@@ -191,8 +191,8 @@ QWidget* MainView::status_line() {
         text_label({.pixels = 12, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
     row->addWidget(dresser_.label(window_.Label7, status), 2);
     row->addWidget(elapsed);
-    row->addWidget(output_, 2);
-    row->addWidget(played_, 1);
+    row->addWidget(output_, 4);
+    row->addWidget(played_);
     return line;
 }
 

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QEnterEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "platform/desktop/colours.h"
@@ -66,6 +68,17 @@ QSize StationLabel::minimumSizeHint() const {
 int StationLabel::heightForWidth(int width) const {
     const QRect room{0, 0, width - 2 * margin(), 10000};
     return QFontMetrics{font()}.boundingRect(room, Qt::TextWordWrap, text_).height() + 8;
+}
+
+bool StationLabel::is_cut() const {
+    return !style_.wrapped && fontMetrics().horizontalAdvance(text_) > width() - 2 * margin();
+}
+
+bool StationLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !is_cut())
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_, this);
+    return true;
 }
 
 void StationLabel::enterEvent(QEnterEvent* event) {

@@ -24,6 +24,7 @@ public:
     explicit StationLabel(QWidget* parent = nullptr) : StationLabel{Style{}, parent} {}
     explicit StationLabel(const Style& style, QWidget* parent = nullptr);
 
+    /// What the label has no room for is told whole where the pointer rests on it.
     virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
     void set_style(const Style& style);
@@ -41,6 +42,7 @@ protected:
     /// Draws the text into the room that the frame leaves, in the painter's pen.
     virtual void paint_text(QPainter& painter, const QRect& area) const;
     [[nodiscard]] int margin() const { return style_.framed ? 8 : 2; }
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -49,6 +51,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    [[nodiscard]] bool is_cut() const;
     [[nodiscard]] QColor ground() const;
     [[nodiscard]] QColor ink() const;
     void paint_frame(QPainter& painter) const;

@@ -29,16 +29,24 @@ bool is_drawn(const Desk& desk) {
            desk.settings.valide_fichier_aleatoire1.is_true();
 }
 
+constexpr int rows_looked_at = 100; // each second
+
 /// The chain goes over rows of the file that is on the air already.
-std::string path_in_list_order(const Desk& desk) {
+std::string path_in_list_order(const Desk& desk, const IsMissing& is_missing) {
     const RowTable& rows = desk.list_window.ListView1;
     int row = desk.list.index_en_cours.value();
-    for (int looked_at = 0; looked_at < rows.count(); ++looked_at) {
+    std::string next;
+    for (int looked_at = 0; looked_at < std::min(rows.count(), rows_looked_at); ++looked_at) {
         row = row < rows.count() ? row + 1 : 1;
-        if (rows.text(row) != desk.chain.chemin_precedent)
-            return rows.text(row);
+        const std::string& path = rows.text(row);
+        if (path == desk.chain.chemin_precedent)
+            continue;
+        if (!is_missing(path))
+            return path;
+        if (next.empty())
+            next = path;
     }
-    return {};
+    return next;
 }
 
 } // namespace
@@ -109,15 +117,20 @@ std::string silence_text(const Desk& desk) {
     return two_digits(whole / 60) + ":" + two_digits(whole % 60);
 }
 
-std::string name_to_come(Desk& desk) {
-    if (!is_on(main_role(desk)) || desk.is_manual())
+bool is_stopped_by_a_fault(const Desk& desk) {
+    return desk.chain.air == AirState::failed && !desk.is_manual() && !desk.window.Timer2.enabled() &&
+           !desk.window.Timer4.enabled();
+}
+
+std::string path_to_come(Desk& desk, const IsMissing& is_missing) {
+    if (!is_on(main_role(desk)) || desk.is_manual() || is_stopped_by_a_fault(desk))
         return {};
     const Deck& next = desk.deck(next_deck(desk.chain.lecteur_en_cours.value()));
     const bool from_list = desk.chain.mode_enchainement.is_true();
     const bool prepared = !from_list || desk.chain.chargement_fait.is_true();
     if (prepared && role_of(desk, next) == DeckRole::loaded)
-        return name_without_ending(next.path);
-    return from_list && !is_drawn(desk) ? name_without_ending(path_in_list_order(desk)) : std::string{};
+        return next.path;
+    return from_list && !is_drawn(desk) ? path_in_list_order(desk, is_missing) : std::string{};
 }
 
 } // namespace sonarelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -43,8 +44,13 @@ enum class DeckRole {
 /// How long a silence that is told has lasted, as mm:ss; empty for none.
 [[nodiscard]] std::string silence_text(const Desk& desk);
 
-/// The name of the file that follows the main deck's, without its ending. Empty when nothing follows by itself, or a
+/// A fault has stopped the chain, and nothing follows what is on the air.
+[[nodiscard]] bool is_stopped_by_a_fault(const Desk& desk);
+
+using IsMissing = std::function<bool(const std::string& path)>;
+/// The file that follows the main deck's. The chain goes over rows whose file is missing, as far as `is_missing` knows;
+/// where it knows that of all that are near, this is the next one of them. Empty when nothing follows by itself, or a
 /// draw has yet to choose.
-[[nodiscard]] std::string name_to_come(Desk& desk);
+[[nodiscard]] std::string path_to_come(Desk& desk, const IsMissing& is_missing);
 
 } // namespace sonarelle

@@ -21,8 +21,13 @@ protected:
     }
 
     void be_silent_for(const QString& time) {
-        view.show_air(
-            {.role = DeckRole::ended, .deck = 1, .title = {}, .left = "00:00:00", .next = {}, .silence = time});
+        view.show_air({.role = DeckRole::ended,
+                       .deck = 1,
+                       .title = {},
+                       .left = "00:00:00",
+                       .next = {},
+                       .notice = {},
+                       .silence = time});
         settle();
     }
     void lose_the_card() {
@@ -35,6 +40,18 @@ protected:
                        .title = "Matin sur le port",
                        .left = "00:02:10",
                        .next = "Ensuite : Jingle bonjour",
+                       .notice = {},
+                       .silence = {}});
+        settle();
+    }
+
+    void notice(const char* text) {
+        view.show_air({.role = DeckRole::on_air,
+                       .deck = 1,
+                       .title = "Matin sur le port",
+                       .left = "00:02:10",
+                       .next = "Ensuite : rien",
+                       .notice = text,
                        .silence = {}});
         settle();
     }
@@ -88,15 +105,41 @@ TEST_F(AirHeaderTest, IsRedWithoutASoundCard) {
 TEST_F(AirHeaderTest, NamesTheLostCardBesideTheRemainingTime) {
     play();
     lose_the_card();
-    EXPECT_TRUE(label("card_gone").isVisible());
+    EXPECT_TRUE(label("air_notice").isVisible());
     EXPECT_TRUE(label("remaining").isVisible());
+}
+
+TEST_F(AirHeaderTest, TellsATroubleThatCantBeHeardYetInAmber) {
+    notice("LISTE STOPPÉE");
+    EXPECT_LT(red_share(), 0.01);
+    EXPECT_TRUE(label("remaining").isVisible());
+    const QImage seen = seen_in_window(label("air_notice"));
+    const QColor ink = ink_in(seen);
+    EXPECT_GT(ink.red(), ink.blue() + 80);
+    EXPECT_GT(ink.green(), ink.blue() + 40);
+    EXPECT_GE(contrast_in(seen), 4.2);
+}
+
+TEST_F(AirHeaderTest, HasRoomForItsNoticesOnTheSmallestScreen) {
+    for (const char* text : {"LISTE STOPPÉE", "ENCHAÎNEMENT STOPPÉ"}) {
+        notice(text);
+        expect_whole(label("air_notice"));
+        expect_whole(label("remaining"));
+    }
+}
+
+TEST_F(AirHeaderTest, TellsTheLostCardBeforeANotice) {
+    notice("LISTE STOPPÉE");
+    lose_the_card();
+    EXPECT_EQ(label("air_notice").text(), "CARTE SON PERDUE");
+    EXPECT_GT(red_share(), 0.6);
 }
 
 TEST_F(AirHeaderTest, TellsTheSilenceBeforeTheLostCard) {
     lose_the_card();
     be_silent_for("00:02");
     EXPECT_TRUE(label("air_silence").isVisible());
-    EXPECT_FALSE(label("card_gone").isVisible());
+    EXPECT_FALSE(label("air_notice").isVisible());
 }
 
 TEST_F(AirHeaderTest, IsQuietOnceSoundIsBack) {
@@ -130,7 +173,7 @@ TEST_F(AirHeaderTest, HasRoomForItsAlarmsOnTheSmallestScreen) {
     expect_whole(label("clock"));
     play();
     lose_the_card();
-    expect_whole(label("card_gone"));
+    expect_whole(label("air_notice"));
     expect_whole(label("remaining"));
 }
 
@@ -141,6 +184,7 @@ TEST_F(AirHeaderTest, HasRoomForASuspendedChainOnTheSmallestScreen) {
                    .left = "00:02:10",
                    .next = "chaîne suspendue : mixage spécial",
                    .suspended = true,
+                   .notice = {},
                    .silence = {}});
     settle();
     expect_whole(label("air_next"));
@@ -156,8 +200,13 @@ TEST_F(AirHeaderTest, MovesNothingBelowItInAlarm) {
 }
 
 TEST_F(AirHeaderTest, SaysWhichDeckIsHeardWhileTheMainOneIsSilent) {
-    view.show_air(
-        {.role = DeckRole::heard, .deck = 3, .title = "Matin", .left = "00:00:03", .next = {}, .silence = {}});
+    view.show_air({.role = DeckRole::heard,
+                   .deck = 3,
+                   .title = "Matin",
+                   .left = "00:00:03",
+                   .next = {},
+                   .notice = {},
+                   .silence = {}});
     settle();
     EXPECT_EQ(label("air_state").text(), "● EN LECTURE — Play 3");
     const QColor ink = ink_in(seen_in_window(label("air_state")));

@@ -2,6 +2,7 @@
 #include "desktop/station_views.h"
 #include "platform/desktop/progress_strip.h"
 #include "platform/desktop/title_label.h"
+#include "platform/failure.h"
 #include "playlist/enreg_liste.h"
 
 namespace sonarelle {
@@ -116,6 +117,44 @@ TEST_F(AirOnDesk, SoundThatGoesOnAfterAStopIsTold) {
     EXPECT_EQ(desk_says("air_state"), "● EN LECTURE — Play 1");
     EXPECT_EQ(desk_says("air_title"), "un");
     EXPECT_EQ(desk_says("remaining"), "00:00:03");
+}
+
+TEST_F(AirOnDesk, WhatFollowsIsTheFirstRowWhoseFileIsThere) {
+    desktop->mark_missing({[](const std::string& path) { return path == "C:\\Musique\\deux.mp3"; }, {}});
+    play_list();
+    run_for(1);
+    EXPECT_EQ(desk_says("air_next"), "Ensuite : trois");
+}
+
+TEST_F(AirOnDesk, WhatFollowsIsToldAsMissingWhereNoFileIsThere) {
+    desktop->mark_missing({[](const std::string&) { return true; }, {}});
+    play_list();
+    run_for(1);
+    EXPECT_EQ(desk_says("air_next"), "Ensuite : deux (fichier absent)");
+}
+
+TEST_F(AirOnDesk, ListThatAFaultHasStoppedIsToldWhileItsTrackPlaysOn) {
+    play_list();
+    run_for(50);
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    run_for(38);
+    EXPECT_EQ(desk_says("air_state"), "● À L'ANTENNE — Play 1");
+    EXPECT_EQ(desk_says("air_notice"), "LISTE STOPPÉE");
+    EXPECT_EQ(desk_says("air_next"), "Ensuite : rien");
+}
+
+TEST_F(AirOnDesk, DecksThatAFaultHasStoppedAreNoList) {
+    for (const int deck : {1, 2}) {
+        const std::string path = "C:\\Musique\\" + std::to_string(deck) + ".mp3";
+        machine.add_track(path, 100);
+        machine.dialogs.expect_open(path);
+        station.main_window.deck(deck).open.click();
+    }
+    station.main_window.coche2.click();
+    station.main_window.deck(1).play.click();
+    machine.disk.Kill("C:\\Musique\\2.mp3");
+    run_for(97);
+    EXPECT_EQ(desk_says("air_notice"), "ENCHAÎNEMENT STOPPÉ");
 }
 
 TEST_F(AirOnDesk, DeskAtRestTellsNothing) {

@@ -1,5 +1,8 @@
 #include "playout/air_view.h"
 
+#include <algorithm>
+
+#include "platform/failure.h"
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
@@ -8,13 +11,19 @@ namespace {
 
 class AirView : public ChainBench {
 protected:
-    [[nodiscard]] std::string to_come() { return name_to_come(station.desk); }
+    [[nodiscard]] std::string to_come() {
+        return name_without_ending(path_to_come(station.desk, [this](const std::string& path) {
+            return std::ranges::find(missing, path) != missing.end();
+        }));
+    }
     [[nodiscard]] std::vector<DeckRole> roles() {
         std::vector<DeckRole> roles;
         for (const Deck& deck : station.desk.decks)
             roles.push_back(role_of(station.desk, deck));
         return roles;
     }
+
+    std::vector<std::string> missing;
 };
 
 using Roles = std::vector<DeckRole>;
@@ -65,6 +74,67 @@ TEST_F(AirView, GoesOverRowsOfTheFileOnTheAir) {
     start_list();
     machine.run_for(seconds(1));
     EXPECT_EQ(to_come(), "b");
+}
+
+TEST_F(AirView, GoesOverRowsWhoseFileIsMissingAsTheChainDoes) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(1));
+    machine.disk.Kill(track(2));
+    missing = {track(2)};
+    EXPECT_EQ(to_come(), "titre 3");
+    machine.run_for(seconds(100));
+    EXPECT_EQ(name_on_air(station.desk), "titre 3");
+}
+
+TEST_F(AirView, NamesTheNextRowWhereAllFilesAreMissing) {
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.run_for(seconds(1));
+    missing = {track(2), track(3)};
+    EXPECT_EQ(to_come(), "titre 2");
+}
+
+TEST_F(AirView, NothingFollowsAListThatAFaultHasStopped) {
+    open_tracks({100, 100});
+    start_list();
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.run_for(seconds(88));
+    EXPECT_TRUE(is_stopped_by_a_fault(station.desk));
+    EXPECT_EQ(to_come(), "");
+}
+
+TEST_F(AirView, RescuedListIsStoppedNoMore) {
+    open_tracks({40, 40});
+    start_list();
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.run_for(seconds(28));
+    machine.disk.heal("C:\\Musique");
+    machine.run_for(seconds(20));
+    EXPECT_FALSE(is_stopped_by_a_fault(station.desk));
+    EXPECT_EQ(to_come(), "titre 1");
+}
+
+TEST_F(AirView, DecksChainedByHandBehindAFaultAreNoStoppedList) {
+    open_tracks({40, 40});
+    start_list();
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.run_for(seconds(28));
+    station.main_window.coche2.click();
+    EXPECT_FALSE(is_stopped_by_a_fault(station.desk));
+}
+
+TEST_F(AirView, DeckThatHasPlayedOutBehindAFaultIsEmptyOnceTheListIsTakenUp) {
+    open_tracks({40, 40, 40});
+    start_list();
+    machine.run_for(seconds(50));
+    ASSERT_EQ(station.chain.lecteur_en_cours, 2);
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.run_for(seconds(20));
+    machine.disk.heal("C:\\Musique");
+    machine.run_for(seconds(20));
+    ASSERT_EQ(station.chain.lecteur_en_cours, 1);
+    EXPECT_EQ(roles(), (Roles{DeckRole::on_air, DeckRole::empty, DeckRole::empty}));
 }
 
 TEST_F(AirView, NamesWhatIsHeardWhileTheNextTrackIsLoaded) {

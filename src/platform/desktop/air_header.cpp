@@ -40,7 +40,7 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
       remaining_{new StationLabel{
           {.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter}}},
       silence_{new StationLabel{{.pixels = 48, .bold = true, .digits = true, .characters = 18, .alignment = right}}},
-      card_gone_{new StationLabel{{.pixels = 32, .bold = true, .alignment = right}}},
+      notice_{new StationLabel{{.pixels = 32, .bold = true, .alignment = right}}},
       clock_{new StationLabel{{.pixels = 20, .digits = true, .characters = 8, .alignment = right}}}, banner_{
                                                                                                          new QWidget} {
     setMouseTracking(true);
@@ -51,8 +51,7 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
     QLabel* movie = dresser.movie(window.banner);
     movie->setParent(banner_);
     movie->setFixedSize(banner_size);
-    card_gone_->setFixedSize(banner_size);
-    card_gone_->set_text("CARTE SON PERDUE");
+    notice_->setFixedSize(banner_size);
     remaining_->set_text("00:00:00");
     auto* grid = new QGridLayout{this};
     grid->setContentsMargins(8, 0, 8, 0);
@@ -62,7 +61,7 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
     grid->addWidget(remaining_, 0, 1, 2, 1);
     grid->addWidget(clock_, 0, 2);
     grid->addWidget(banner_, 1, 2);
-    grid->addWidget(card_gone_, 1, 2);
+    grid->addWidget(notice_, 1, 2);
     grid->addWidget(silence_, 1, 1, 1, 2);
     grid->setColumnStretch(0, 1);
     show_alarm();
@@ -83,7 +82,7 @@ void AirHeader::name_labels() {
                                       {next_, "air_next"},
                                       {remaining_, "remaining"},
                                       {silence_, "air_silence"},
-                                      {card_gone_, "card_gone"},
+                                      {notice_, "air_notice"},
                                       {clock_, "clock"}})
         label->setObjectName(name);
     remaining_->setAccessibleName("Temps restant");
@@ -123,11 +122,13 @@ void AirHeader::show_card_lost(bool lost) {
 void AirHeader::show_alarm() {
     const bool silent = !look_.silence.isEmpty();
     silence_->set_text("SILENCE depuis " + look_.silence);
+    notice_->set_text(card_lost_ ? "CARTE SON PERDUE" : look_.notice);
+    const bool noticed = !notice_->text().isEmpty() && !silent;
     silence_->setVisible(silent);
     remaining_->setVisible(!silent);
-    card_gone_->setVisible(card_lost_ && !silent);
-    banner_->setVisible(!alarms() && !look_.suspended);
-    setAccessibleName(silent ? silence_->text() : card_lost_ ? card_gone_->text() : QString{});
+    notice_->setVisible(noticed);
+    banner_->setVisible(!silent && !noticed && !look_.suspended);
+    setAccessibleName(silent ? silence_->text() : notice_->text());
     QPalette told; // what the texts stand on
     if (alarms())
         told.setColor(QPalette::Window, alarm_ground);
@@ -142,7 +143,8 @@ void AirHeader::colour_labels() {
     const QColor state = is_heard ? studio::air : look_.role == DeckRole::paused ? studio::next : studio::text;
     colour(*heading_, ink(state));
     colour(*next_, ink(studio::next));
-    for (StationLabel* label : {title_, remaining_, silence_, card_gone_, clock_})
+    colour(*notice_, ink(studio::next));
+    for (StationLabel* label : {title_, remaining_, silence_, clock_})
         if (alarms())
             colour(*label, Qt::white);
         else

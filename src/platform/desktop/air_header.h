@@ -18,13 +18,14 @@ struct AirLook {
     QString left; ///< Time to the end of play.
     QString next;
     bool suspended = false; ///< The chain waits for a special mix, which `next` says in more words than usual.
+    QString notice;         ///< A trouble that leaves the air as it is; empty for none.
     QString silence;        ///< How long the air has been silent, mm:ss; empty while it is as it should be.
 
     friend bool operator==(const AirLook&, const AirLook&) = default;
 };
 
 /// The head of the main window: what is on the air, how long it lasts, what follows, and the time of day. It turns red
-/// when the air is silent or the sound card is gone.
+/// when the air is silent or the sound card is gone; a trouble that can't be heard yet stands there in amber.
 class AirHeader : public QWidget {
 public:
     AirHeader(Dresser& dresser, Antenne_FM& window);
@@ -48,8 +49,8 @@ private:
     StationLabel* title_;
     StationLabel* next_;
     StationLabel* remaining_;
-    StationLabel* silence_;   ///< In the place of the remaining time and of the banner.
-    StationLabel* card_gone_; ///< In the banner's place.
+    StationLabel* silence_; ///< In the place of the remaining time and of the banner.
+    StationLabel* notice_;  ///< A lost card, or what the look tells, in the banner's place.
     StationLabel* clock_;
     QWidget* banner_;
     AirLook look_;

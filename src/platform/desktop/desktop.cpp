@@ -158,6 +158,7 @@ void Desktop::show_air() {
                      .left = left,
                      .next = what_follows(),
                      .suspended = waits_for_special_mix(desk_),
+                     .notice = notice(),
                      .silence = to_qt(silence_text(desk_))});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->show_air({.title = title, .left = left, .clock = clock_});
@@ -167,8 +168,21 @@ void Desktop::show_air() {
 QString Desktop::what_follows() {
     if (waits_for_special_mix(desk_))
         return "chaîne suspendue : mixage spécial";
-    const QString next = to_qt(name_to_come(desk_));
-    return next.isEmpty() ? next : "Ensuite : " + next;
+    if (is_stopped_by_a_fault(desk_))
+        return "Ensuite : rien";
+    const auto is_missing = [this](const std::string& path) {
+        return missing_.is_missing && missing_.is_missing(path);
+    };
+    const std::string next = path_to_come(desk_, is_missing);
+    if (next.empty())
+        return {};
+    return "Ensuite : " + to_qt(name_without_ending(next)) + (is_missing(next) ? " (fichier absent)" : "");
+}
+
+QString Desktop::notice() const {
+    if (!is_stopped_by_a_fault(desk_))
+        return {};
+    return desk_.chain.mode_enchainement.is_true() ? "LISTE STOPPÉE" : "ENCHAÎNEMENT STOPPÉ";
 }
 
 void Desktop::show_list() {

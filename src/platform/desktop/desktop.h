@@ -66,6 +66,7 @@ private:
     void show_decks();
     void show_air();
     [[nodiscard]] QString what_follows();
+    [[nodiscard]] QString notice() const;
     void show_list();
     void show_missing();
     void fill_outputs();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/audio/limiter.h"
+#include "platform/audio/wav_file_output.h"
 #include "sound_bench.h"
 
 namespace sonarelle {
@@ -72,6 +73,30 @@ TEST(ProgrammeBus, IsSilentFromItsLastLoudFrameOn) {
     EXPECT_EQ(bench.bus.silence().known, seconds(5));
 }
 
+TEST(ProgrammeBus, IsSilentBehindTheLastFrameInWhichOneChannelSounded) {
+    for (const std::size_t channel : {0U, 1U}) {
+        SoundBench bench;
+        std::vector<float> frames(2 * 5000);
+        for (std::size_t frame = 0; frame < 4321; ++frame)
+            frames[2 * frame + channel] = 0.5F;
+        WavFileOutput file{bench.folder.path("a.wav")};
+        file.write(frames);
+        file.close();
+        const auto graph = bench.graph(bench.folder.path("a.wav"));
+        graph->Run();
+        bench.run_for(seconds(1));
+        EXPECT_EQ(bench.bus.silence().since, Frames{4321}) << channel;
+    }
+}
+
+TEST(ProgrammeBus, CountsASilenceOfJustTwoSecondsAsLong) {
+    SoundBench bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
+    bench.time.at(seconds(2), [&] { graph->Run(); });
+    bench.run_for(seconds(3));
+    EXPECT_GE(bench.bus.silence().until, seconds(2));
+}
+
 TEST(ProgrammeBus, TellsWhereALongSilenceEnded) {
     SoundBench bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
@@ -128,6 +153,14 @@ TEST(BusTaps, ShowPeakAndTheNewestFrames) {
     std::vector<float> newest(2 * 100);
     bench.bus.taps().newest(newest);
     EXPECT_TRUE(std::equal(newest.begin(), newest.end(), bench.heard.end() - 200));
+}
+
+TEST(BusTaps, KeepTheGreatestLevelOfEachChannelUntilItIsAskedFor) {
+    const auto taps = std::make_unique<BusTaps>();
+    const std::vector<float> frame(2);
+    for (const Level& level : {Level{{0.5F, 0.1F}}, Level{{0.2F, 0.3F}}, Level{{0.0F, 0.4F}}, Level{{0.1F, 0.2F}}})
+        taps->take(frame, level, taps->end());
+    EXPECT_EQ(taps->level().peak, (std::array{0.5F, 0.4F}));
 }
 
 } // namespace

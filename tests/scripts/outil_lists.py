@@ -246,7 +246,7 @@ class Writing(Tool):
         rows = json.dumps([self.row()] * 20)
         self.call_by_shell('exec "$@"', "liste", "ecrire", self.file("b.dfm"), input=rows.encode(), status=1,
                            preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (4096, 4096)))
-        self.assertIn("b.dfm : Disque plein", self.error)
+        self.assertIn("b.dfm : Taille de fichier limitée", self.error)
         self.assertEqual(self.file("b.dfm").read_bytes(), b"ancien")
 
     def test_refuses_a_start_that_is_no_number(self):

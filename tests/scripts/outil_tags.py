@@ -241,7 +241,7 @@ class FullDisk(Tool):
         path = self.file(data=data)
         for room in (100, 1000, len(data) - TAG_SIZE, len(data) - 1):
             self.write_with_room(path, room, status=1)
-            self.assertIn(f"{path} : le tag n'est pas écrit : Disque plein", self.error)
+            self.assertIn(f"{path} : le tag n'est pas écrit : Taille de fichier limitée", self.error)
             self.assertEqual(path.read_bytes(), data, room)
             self.assertEqual(sorted(entry.name for entry in self.folder.iterdir() if "a.mp3" in entry.name), ["a.mp3"])
 

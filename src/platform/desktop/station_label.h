@@ -6,6 +6,7 @@
 namespace sonarelle {
 
 /// A text that changes often and never moves what stands beside it: its size depends on its style alone.
+/// What it has no room for is told whole where the pointer rests on it.
 /// Digits stand in cells of one width where the style asks for it. It can be pressed, by mouse and keyboard.
 class StationLabel : public QWidget {
 public:
@@ -24,7 +25,6 @@ public:
     explicit StationLabel(QWidget* parent = nullptr) : StationLabel{Style{}, parent} {}
     explicit StationLabel(const Style& style, QWidget* parent = nullptr);
 
-    /// What the label has no room for is told whole where the pointer rests on it.
     virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
     void set_style(const Style& style);

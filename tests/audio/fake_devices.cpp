@@ -1,15 +1,10 @@
 #include "fake_devices.h"
 
-#include <chrono>
-
 #include "platform/failure.h"
 
 namespace sonarelle {
 
 namespace {
-
-constexpr std::size_t block_frames = 480;
-constexpr std::chrono::milliseconds block_time{10};
 
 class FakeDevice final : public OutputDevice {
 public:
@@ -26,12 +21,13 @@ public:
 
 private:
     void play() {
-        for (auto due = std::chrono::steady_clock::now(); !stopping_; due += block_time) {
+        for (auto due = std::chrono::steady_clock::now(); !stopping_; due += card_->burst_time()) {
             std::this_thread::sleep_until(due);
             due += std::chrono::milliseconds{card_->falls_behind.exchange(0)};
             if (card_->dead || card_->hanging)
                 continue;
-            card_->pull_block(pull_);
+            for (int block = 0; block < card_->blocks_at_once; ++block)
+                card_->pull_block(pull_);
         }
     }
 
@@ -43,12 +39,18 @@ private:
 
 } // namespace
 
+std::chrono::nanoseconds FakeCard::burst_time() const {
+    const std::int64_t frames = blocks_at_once * static_cast<std::int64_t>(block_frames.load());
+    return std::chrono::nanoseconds{frames * 62500 / 3}; // 1e9 / 48000
+}
+
 // The count has moved by exactly this block when the card had the turn.
 void FakeCard::pull_block(const PullFrames& pull) {
-    std::vector<float> block(2 * block_frames);
+    const std::size_t frames = block_frames;
+    std::vector<float> block(2 * frames);
     const Frames before = bus_.rendered();
-    pull(block.data(), block_frames);
-    if (bus_.rendered() != before + Frames{block_frames})
+    pull(block.data(), frames);
+    if (bus_.rendered() != before + Frames{static_cast<std::int64_t>(frames)})
         return;
     const std::lock_guard lock{mutex_};
     heard_.resize(2 * static_cast<std::size_t>(before.count()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -13,8 +14,8 @@
 
 namespace sonarelle {
 
-/// A sound card that pulls 10 ms every 10 ms on a thread of its own and keeps what it got, in its place by the bus's
-/// count; with switches for what cards do wrong.
+/// A sound card that pulls 10 ms every 10 ms, or greater blocks and several at once, on a thread of its own and keeps
+/// what it got, in its place by the bus's count; with switches for what cards do wrong.
 class FakeCard {
 public:
     explicit FakeCard(const ProgrammeBus& bus) : bus_{bus} {}
@@ -26,7 +27,10 @@ public:
     std::atomic<int> opened{0};
     std::atomic<int> falls_behind{0}; ///< Milliseconds that its sound comes late, once and for good: a gap.
     std::atomic<int> open{0};         ///< How often it is open now.
+    std::atomic<std::size_t> block_frames{480};
+    std::atomic<int> blocks_at_once{1};
 
+    [[nodiscard]] std::chrono::nanoseconds burst_time() const;
     void pull_block(const PullFrames& pull);
     /// By frames of the bus; silence where the card got nothing.
     [[nodiscard]] std::vector<float> heard() const;

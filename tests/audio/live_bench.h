@@ -25,7 +25,11 @@ public:
     void go_on_air(const std::string& name = "") {
         auto devices = std::make_unique<FakeDevices>(FakeDevices::Cards{{"", card}, {"Studio", studio}});
         output = std::make_unique<LiveOutput>(
-            bus, std::move(devices), name, [this](OutputState state) { last_state = state; },
+            bus, std::move(devices), name,
+            [this](OutputState state) {
+                last_state = state;
+                losses += state == OutputState::paced ? 1 : 0;
+            },
             [this](OutputGaps gaps) { lost_in_gaps = gaps.lost.count(); });
     }
     /// Lives until a condition holds; the test's own limit of time is the only one.
@@ -50,6 +54,7 @@ public:
 
     SoundFolder folder;
     std::atomic<OutputState> last_state{OutputState::opening};
+    std::atomic<int> losses{0};                ///< How often the clock took over.
     std::atomic<std::int64_t> lost_in_gaps{0}; ///< Frames, as last told.
     std::vector<SoundReport> reports;
     Scheduler scheduler;

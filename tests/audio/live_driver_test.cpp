@@ -10,9 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(LiveDriver, SoundsLikeTheRehearsalSampleForSample) {
+void expect_the_rehearsal(LiveBench& live) {
     SoundBench rehearsal;
-    LiveBench live;
     ThreeGraphs::make_files(rehearsal.folder);
     const ThreeGraphs rehearsed{rehearsal.scheduler, rehearsal.media, rehearsal.folder};
     rehearsal.run_for(ThreeGraphs::length);
@@ -25,6 +24,28 @@ TEST(LiveDriver, SoundsLikeTheRehearsalSampleForSample) {
     const auto heard = live.card->heard();
     for (std::size_t sample = 0; sample < rehearsal.heard.size(); ++sample)
         ASSERT_EQ(heard.at(sample), rehearsal.heard[sample]) << "at frame " << sample / 2;
+}
+
+TEST(LiveDriver, SoundsLikeTheRehearsalSampleForSample) {
+    LiveBench live;
+    expect_the_rehearsal(live);
+}
+
+TEST(LiveDriver, SoundsLikeTheRehearsalOnACardThatTakesSeveralBlocksAtOnce) {
+    LiveBench live;
+    live.card->block_frames = 2048;
+    live.card->blocks_at_once = 2;
+    expect_the_rehearsal(live);
+}
+
+TEST(LiveDriver, IsTheGreatestBurstAndOneBlockAhead) {
+    LiveBench live;
+    live.card->block_frames = 2048;
+    live.card->blocks_at_once = 3;
+    EXPECT_EQ(live.driver.lead(), milliseconds(50));
+    live.go_on_air();
+    live.live_for(seconds(1));
+    EXPECT_EQ(live.driver.lead(), Frames{4 * 2048});
 }
 
 TEST(LiveDriver, RunsEachTickOnItsDueFrameAheadOfTheBus) {

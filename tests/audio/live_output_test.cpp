@@ -46,6 +46,15 @@ TEST(LiveOutput, TheCountGoesOnWhileTheDeviceHangs) {
     EXPECT_EQ(live.card->opened, 1);
 }
 
+TEST(LiveOutput, ADeviceThatTakesAFifthOfASecondAtOnceHasNotStopped) {
+    LiveBench live;
+    live.card->block_frames = 2048;
+    live.card->blocks_at_once = 5;
+    live.go_on_air();
+    live.live_for(seconds(4));
+    EXPECT_EQ(live.losses, 0);
+}
+
 TEST(LiveOutput, ADeviceThatIsMissingAtFirstIsTakenWhenItComes) {
     LiveBench live;
     live.card->absent = true;

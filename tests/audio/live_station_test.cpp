@@ -6,8 +6,7 @@
 namespace sonarelle {
 namespace {
 
-TEST(LiveStation, HearsAZapWithinTheLeadAndOneBlock) {
-    LiveAirBench bench;
+void expect_a_zap_within_the_lead(LiveAirBench& bench) {
     bench.air.open_tracks(3, 200);
     bench.begin_in_option(1);
     bench.live.go_on_air();
@@ -18,6 +17,18 @@ TEST(LiveStation, HearsAZapWithinTheLeadAndOneBlock) {
     const Frames heard = first_on_the_right(bench.live.card->heard());
     EXPECT_EQ(heard, bench.air.starts().back());
     EXPECT_LE(heard, limit);
+}
+
+TEST(LiveStation, HearsAZapWithinTheLeadAndOneBlock) {
+    LiveAirBench bench;
+    expect_a_zap_within_the_lead(bench);
+}
+
+TEST(LiveStation, HearsAZapWithinTheLeadOnACardThatTakesSeveralBlocksAtOnce) {
+    LiveAirBench bench;
+    bench.live.card->block_frames = 2048;
+    bench.live.card->blocks_at_once = 3;
+    expect_a_zap_within_the_lead(bench);
 }
 
 TEST(LiveStation, HeldBeforeAMixPointStartsTheNextTrackAtItsEndAndTheRunGoesOnFromThere) {

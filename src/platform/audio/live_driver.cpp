@@ -37,7 +37,7 @@ LiveDriver::~LiveDriver() {
 }
 
 Frames LiveDriver::lead() const {
-    return std::max(least_lead, bus_.greatest_block() + bus_.greatest_block());
+    return std::max(least_lead, bus_.pull_reach());
 }
 
 std::chrono::nanoseconds LiveDriver::poll() {
@@ -93,7 +93,7 @@ void LiveDriver::wake() const noexcept {
 // The tick of a frame runs once the bus has rendered up to one lead before it.
 std::chrono::nanoseconds LiveDriver::time_until(Frames frame) {
     const auto now = std::chrono::steady_clock::now();
-    pace_.observe(bus_.rendered(), bus_.greatest_block(), now);
+    pace_.observe(bus_.rendered(), bus_.greatest_block(), bus_.pull_reach(), now);
     return std::max<std::chrono::nanoseconds>(pace_.when_rendered(frame - lead()) - now, shortest_sleep);
 }
 

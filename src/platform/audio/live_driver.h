@@ -28,7 +28,7 @@ public:
     LiveDriver(const LiveDriver&) = delete;
     LiveDriver& operator=(const LiveDriver&) = delete;
 
-    /// How far the station is ahead: 50 ms, or twice the greatest block that the output has asked for.
+    /// How far the station is ahead: 50 ms, or as far as the output's bursts reach.
     [[nodiscard]] Frames lead() const;
 
     /// Runs what is due and what was posted. Returns how long nothing will be due, as far as can be told now.

@@ -116,7 +116,7 @@ void LiveOutput::watch_pulls(OutputShared& shared) {
             shared.gate.gaps().restart();
         }
         const auto least = Clock::now() < settled_at ? settling_silence : longest_silence;
-        patience = std::max(least, watch_every + 2 * shared.gate.block_time());
+        patience = std::max(least, watch_every + shared.gate.reach_time());
         const std::int64_t now_asked = shared.gate.asked();
         if (now_asked == asked)
             continue;

@@ -7,20 +7,23 @@
 
 namespace sonarelle {
 
-/// Tells on the monotonic clock when the bus will have rendered a frame. The count jumps by whole blocks; the earliest
-/// moment at which a count was seen is the nearest to the truth, and is forgotten slowly, as clocks drift.
+/// Tells on the monotonic clock when the bus will have rendered a frame, rather too early than too late. The count
+/// jumps by whole blocks, and by several at once; the earliest moment at which a count was seen is the nearest to the
+/// truth, and is forgotten slowly, as clocks drift.
 class PaceEstimate {
 public:
     using Instant = std::chrono::steady_clock::time_point;
 
-    void observe(Frames rendered, Frames block, Instant now) {
+    /// `reach` is what the count may jump by at once.
+    void observe(Frames rendered, Frames block, Frames reach, Instant now) {
         const Instant begin = now - time_of(rendered);
-        const bool stalled = begin - begin_ > std::chrono::milliseconds{200};
-        if (!known_ || begin < begin_ || stalled)
+        const bool stalled = begin - begin_ > time_of(reach) + std::chrono::milliseconds{200};
+        if (!known_ || stalled)
             begin_ = begin;
         else
-            begin_ += (begin - begin_) / 64;
+            begin_ = std::min(begin, begin_ + (now - observed_) / 1000);
         known_ = true;
+        observed_ = now;
         rendered_ = rendered;
         block_ = std::max(block, Frames{1});
     }
@@ -37,6 +40,7 @@ private:
     }
 
     Instant begin_;
+    Instant observed_;
     Frames rendered_;
     Frames block_{1};
     bool known_ = false;

@@ -6,6 +6,7 @@
 #include "platform/audio/bus_taps.h"
 #include "platform/audio/command_queue.h"
 #include "platform/audio/limiter.h"
+#include "platform/audio/pull_bursts.h"
 #include "platform/audio/retired.h"
 #include "platform/programme_silence.h"
 #include "platform/units.h"
@@ -31,6 +32,13 @@ public:
     [[nodiscard]] Frames rendered() const { return Frames{rendered_.load(std::memory_order_acquire)}; }
     /// The greatest block asked for so far.
     [[nodiscard]] Frames greatest_block() const { return Frames{greatest_block_.load(std::memory_order_relaxed)}; }
+    /// How far the count may go before anyone can act again: by the output's greatest burst, and by one block more,
+    /// since what is sent in the midst of a block is heard from the next one on.
+    [[nodiscard]] Frames pull_reach() const {
+        return std::max(bursts_.greatest(), greatest_block()) + greatest_block();
+    }
+    /// For who pulls.
+    [[nodiscard]] PullBursts& bursts() { return bursts_; }
     [[nodiscard]] BusTaps& taps() { return taps_; }
     /// When what it made was silent.
     [[nodiscard]] ProgrammeSilence silence() const;
@@ -61,6 +69,7 @@ private:
 
     CommandQueue commands_;
     RetiredList retired_;
+    PullBursts bursts_;
     BusTaps taps_;
     std::atomic<std::int64_t> rendered_{0};
     std::atomic<std::int64_t> greatest_block_{0};

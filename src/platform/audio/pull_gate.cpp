@@ -9,7 +9,7 @@ void PullGate::pull_by_device(float* out, std::size_t frames) noexcept {
     const auto now = std::chrono::steady_clock::now();
     bool rendered = false;
     if (!busy_.exchange(true, std::memory_order_acquire)) {
-        rendered = render_if(Turn::device, out, frames);
+        rendered = render_if(Turn::device, out, frames, now);
         if (rendered)
             gaps_.asked(Frames{asked()}, now);
         busy_.store(false, std::memory_order_release);
@@ -24,7 +24,7 @@ void PullGate::pull_by_device(float* out, std::size_t frames) noexcept {
 
 void PullGate::pull_by_pacer(float* out, std::size_t frames) noexcept {
     enter();
-    render_if(Turn::pacer, out, frames);
+    render_if(Turn::pacer, out, frames, std::chrono::steady_clock::now());
     busy_.store(false, std::memory_order_release);
 }
 
@@ -38,9 +38,11 @@ void PullGate::enter() noexcept {
         std::this_thread::yield();
 }
 
-bool PullGate::render_if(Turn mine, float* out, std::size_t frames) noexcept {
+bool PullGate::render_if(Turn mine, float* out, std::size_t frames,
+                         std::chrono::steady_clock::time_point now) noexcept {
     if (turn() != mine)
         return false;
+    bus_->bursts().pulled(Frames{static_cast<std::int64_t>(frames)}, now);
     bus_->render(out, frames);
     return true;
 }

@@ -38,14 +38,14 @@ public:
     /// Of the device that has the turn.
     [[nodiscard]] GapWatch& gaps() noexcept { return gaps_; }
 
-    /// Of the greatest block so far.
-    [[nodiscard]] std::chrono::milliseconds block_time() const noexcept {
-        return std::chrono::milliseconds{bus_->greatest_block().count() / frames_per_millisecond};
+    /// How long the bus may rest behind a burst before the next one is late.
+    [[nodiscard]] std::chrono::milliseconds reach_time() const noexcept {
+        return std::chrono::milliseconds{bus_->pull_reach().count() / frames_per_millisecond};
     }
 
 private:
     void enter() noexcept;
-    bool render_if(Turn mine, float* out, std::size_t frames) noexcept;
+    bool render_if(Turn mine, float* out, std::size_t frames, std::chrono::steady_clock::time_point now) noexcept;
 
     ProgrammeBus* bus_;
     std::atomic<Turn> turn_{Turn::nobody};

@@ -14,6 +14,9 @@ namespace sonarelle {
 
 namespace {
 
+// One that never takes back what it has played: so a recording has all of it, from the first frame on.
+const std::string null_sink = "module-null-sink norewinds=1 format=float32le rate=48000 channels=2 sink_name=";
+
 pid_t run(const std::vector<std::string>& words, const std::string& output) {
     std::vector<char*> arguments;
     for (const std::string& word : words)
@@ -54,11 +57,10 @@ PulseServer::~PulseServer() {
 
 void PulseServer::start() {
     std::filesystem::remove(folder_ + "/native");
-    server_ =
-        run({"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--high-priority=no",
-             "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + folder_ + "/native", "-L",
-             "module-null-sink sink_name=air format=float32le rate=48000 channels=2"},
-            "/dev/null");
+    server_ = run(
+        {"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--high-priority=no", "-L",
+         "module-native-protocol-unix auth-anonymous=1 socket=" + folder_ + "/native", "-L", null_sink + "air"},
+        "/dev/null");
     wait_until_it_answers();
 }
 
@@ -86,8 +88,7 @@ void PulseServer::thaw() {
 
 void PulseServer::plug_in(const std::string& sink) const {
     const std::string command =
-        "pactl load-module module-null-sink format=float32le rate=48000 channels=2 sink_name=" + sink +
-        " sink_properties=device.description=" + sink + " >/dev/null 2>&1";
+        "pactl load-module " + null_sink + sink + " sink_properties=device.description=" + sink + " >/dev/null 2>&1";
     if (std::system(command.c_str()) != 0)
         throw std::runtime_error{"the sound server takes no more sinks"};
 }

@@ -15,7 +15,10 @@ namespace {
 
 class SoundCard : public testing::Test {
 protected:
-    SoundCard() { server.start(); }
+    SoundCard() {
+        SdlDevices::ask_for_large_buffers();
+        server.start();
+    }
 
     void go_on_air() {
         live.output = std::make_unique<LiveOutput>(live.bus, std::make_unique<SdlDevices>(), "",

@@ -10,7 +10,10 @@ namespace {
 
 class StationOnCard : public testing::Test {
 protected:
-    StationOnCard() { server.start(); }
+    StationOnCard() {
+        SdlDevices::ask_for_large_buffers();
+        server.start();
+    }
 
     static void go_on_air(LiveBench& live) {
         live.output = std::make_unique<LiveOutput>(live.bus, std::make_unique<SdlDevices>(), "",

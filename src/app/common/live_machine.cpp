@@ -18,7 +18,9 @@ LiveMachine::LiveMachine(DriveTable drives, std::uint64_t seed)
     : drives_{std::move(drives)}, disk_{drives_, std::make_shared<DiskPatience>(station_patience)},
       media_{clock_, bus_, std::make_shared<MachineFiles>(),
              [this](std::string_view path) { return disk_.machine_path(path); }, Decoding::by_threads},
-      random_{seed, clock_entropy} {}
+      random_{seed, clock_entropy} {
+    SdlDevices::ask_for_large_buffers();
+}
 
 Platform LiveMachine::platform(Settings& settings, Dialogs& dialogs, Shell& shell, const std::string& program_folder) {
     return {clock_, scheduler_, disk_, settings, dialogs, media_, random_, shell, program_folder, DecimalMark::point};

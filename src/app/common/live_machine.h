@@ -31,6 +31,7 @@ using OutputName = std::optional<std::string>;
 /// thread.
 class LiveMachine {
 public:
+    /// Before there are other threads.
     LiveMachine(DriveTable drives, std::uint64_t seed);
 
     /// The machine as a station sees it, with the boxes and settings of the program.

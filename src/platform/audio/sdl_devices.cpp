@@ -1,6 +1,7 @@
 #include "platform/audio/sdl_devices.h"
 
 #include <SDL2/SDL.h>
+#include <cstdlib>
 #include <dlfcn.h>
 
 #include "platform/failure.h"
@@ -62,6 +63,11 @@ private:
 };
 
 } // namespace
+
+// SDL asks for one block. PulseAudio's library, which PipeWire answers too, takes the length from here.
+void SdlDevices::ask_for_large_buffers() {
+    ::setenv("PULSE_LATENCY_MSEC", "150", 0);
+}
 
 SdlDevices::~SdlDevices() {
     if (connected_)

@@ -8,6 +8,10 @@ namespace sonarelle {
 /// drops and lists alike.
 class SdlDevices final : public OutputDevices {
 public:
+    /// Has a sound server hold some blocks ahead, so that a busy machine's threads may be late. What the operator's
+    /// environment says of it holds. It changes the environment: before there are other threads.
+    static void ask_for_large_buffers();
+
     SdlDevices() = default;
     ~SdlDevices() override;
     SdlDevices(const SdlDevices&) = delete;

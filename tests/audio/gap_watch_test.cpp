@@ -64,6 +64,17 @@ TEST(GapWatch, TakesALateThreadForNoGap) {
     EXPECT_EQ(card.watch.gaps().count, 0);
 }
 
+TEST(GapWatch, TakesBurstsForNoGap) {
+    for (const auto period : {50ms, 55ms, 80ms}) {
+        GapWatch watch;
+        Frames asked;
+        for (auto now = 0ms; now < 60s; now += period)
+            for (; asked + PacedCard::block <= milliseconds(now.count()); asked += PacedCard::block)
+                watch.asked(asked, GapWatch::Instant{1h} + now);
+        EXPECT_EQ(watch.gaps().count, 0) << period.count();
+    }
+}
+
 TEST(GapWatch, TakesASlowClockForNoGap) {
     PacedCard card;
     card.drift = 42'667'000 / 2000; // half a thousandth

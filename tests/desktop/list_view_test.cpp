@@ -162,6 +162,18 @@ TEST_F(ListWindow, MenuButtonOffersEveryEntryThatHangsUnderNoOther) {
     FAIL() << "no menu offers the loading of a list";
 }
 
+TEST_F(ListWindow, MenuButtonOffersNoEntryThatHangsUnderAnother) {
+    const auto buttons = parts_of<StudioButton>(list_view());
+    const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
+    ASSERT_NE(button, buttons.end());
+    (*button)->click();
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const MenuItem* hung : list().Convertion.entries())
+        EXPECT_FALSE(offers(*menu, QString::fromStdString(hung->caption))) << hung->name();
+    menu->close();
+}
+
 TEST_F(ListWindow, RowOnTheAirNextAndMissingAreTold) {
     rows_of_three();
     const auto ground = [this](int row) { return cell(row).data(Qt::BackgroundRole).value<QColor>(); };

@@ -1,5 +1,6 @@
 #include <QScrollBar>
 #include <QTest>
+#include <set>
 
 #include "desktop/desktop_bench.h"
 #include "platform/desktop/row_table_binding.h"
@@ -36,6 +37,19 @@ TEST_F(TableView, ChangedCellIsShown) {
     table.set_sub_item(2, 1, "4.20");
     settle();
     EXPECT_EQ(shown(2, 1), "4.20");
+}
+
+TEST_F(TableView, ChangedCellsOfTwoRowsAreBothShown) {
+    fill(3);
+    std::set<int> shown_anew;
+    QObject::connect(widget.model(), &QAbstractItemModel::modelReset, [&] { shown_anew = {1, 2, 3}; });
+    QObject::connect(widget.model(), &QAbstractItemModel::dataChanged,
+                     [&](const QModelIndex& first) { shown_anew.insert(first.row() + 1); });
+    table.set_sub_item(1, 1, "4.20");
+    table.set_sub_item(3, 1, "4.20");
+    settle();
+    EXPECT_TRUE(shown_anew.contains(1));
+    EXPECT_TRUE(shown_anew.contains(3));
 }
 
 TEST_F(TableView, InsertedRowPushesTheOthersDown) {

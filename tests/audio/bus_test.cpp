@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "platform/audio/gain.h"
 #include "platform/audio/limiter.h"
 #include "platform/audio/wav_file_output.h"
+#include "real_time_watch.h"
 #include "sound_bench.h"
 
 namespace sonarelle {
@@ -60,6 +62,79 @@ TEST(ProgrammeBus, CountsTheFramesThatItHasMade) {
     EXPECT_EQ(bus.rendered(), Frames{1300});
     EXPECT_EQ(bus.greatest_block(), Frames{1000});
     EXPECT_EQ(*std::max_element(out.begin(), out.end()), 0.0F);
+}
+
+TEST(ProgrammeBus, RemembersItsGreatestBlock) {
+    ProgrammeBus bus;
+    std::vector<float> out(2 * 1000);
+    bus.render(out.data(), 1000);
+    bus.render(out.data(), 300);
+    EXPECT_EQ(bus.greatest_block(), Frames{1000});
+}
+
+/// A bus with one voice, whose stream has the number of its frame in thousandths on the left.
+class OneVoice {
+public:
+    OneVoice() {
+        const auto room = stream_->room();
+        for (std::size_t sample = 0; sample < room.size(); ++sample)
+            room[sample] = 0.001F * static_cast<float>(sample / 2);
+        stream_->written(room.size() / 2);
+    }
+    void play(Frames at) {
+        bus.send({.kind = BusCommand::Kind::play, .at = at, .voice = voice_, .ticket = new StreamTicket{stream_}});
+        bus.housekeep();
+    }
+    void set_gain(float gain) {
+        bus.send({.kind = BusCommand::Kind::gain, .voice = voice_, .gain = gain});
+        bus.housekeep();
+    }
+    void drop(Frames at) {
+        bus.send({.kind = BusCommand::Kind::drop, .at = at, .voice = voice_});
+        bus.housekeep();
+    }
+    std::vector<float> render(std::size_t frames) {
+        std::vector<float> out(2 * frames);
+        bus.render(out.data(), frames);
+        return out;
+    }
+
+    ProgrammeBus bus;
+
+private:
+    std::shared_ptr<SampleStream> stream_ =
+        std::make_shared<SampleStream>(Frames{0}, Frames{1000}, std::size_t{1000}, std::make_shared<SoundTroubles>());
+    Voice* voice_ = new Voice; // the bus gives it back
+};
+
+TEST(ProgrammeBus, LosesTheBeginningOfWhatIsPlayedTooLate) {
+    OneVoice one;
+    (void)one.render(300);
+    one.play(Frames{100});
+    EXPECT_FLOAT_EQ(one.render(1)[0], 0.2F);
+    EXPECT_EQ(one.bus.late_commands(), 1);
+}
+
+TEST(ProgrammeBus, GivesAVoiceBackOnceItHasFaded) {
+    OneVoice one;
+    one.play(Frames{0});
+    (void)one.render(100);
+    one.drop(Frames{100});
+    (void)one.render(100);
+    one.bus.housekeep();
+    (void)one.render(ramp_frames);
+    RealTimeWatch::begin();
+    one.bus.housekeep();
+    EXPECT_EQ(RealTimeWatch::end().allocations, 1);
+}
+
+TEST(ProgrammeBus, TellsTheFrameOnWhichALongSilenceEnded) {
+    OneVoice one;
+    one.set_gain(0.002F); // under which frame 500 is the first one to sound
+    (void)one.render(100'000);
+    one.play(Frames{100'000});
+    (void)one.render(1000);
+    EXPECT_NEAR(static_cast<double>(one.bus.silence().until.count()), 100'500, 1);
 }
 
 TEST(ProgrammeBus, IsSilentFromItsLastLoudFrameOn) {

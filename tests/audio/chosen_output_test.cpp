@@ -137,6 +137,15 @@ TEST_F(ChosenOutput, AChoiceWhileNoDeviceIsThereCounts) {
     wait_until_it_plays_on("Studio");
 }
 
+TEST_F(ChosenOutput, ADeviceThatIsGoneIsSaidToPlayNoMore) {
+    live.go_on_air();
+    wait_until_it_plays_on("");
+    live.card->absent = true;
+    live.card->dead = true;
+    live.live_until([&] { return !live.output->playing_on().has_value(); });
+    EXPECT_EQ(live.output->chosen(), "");
+}
+
 TEST_F(ChosenOutput, DevicesAreToldByNameAsTheyComeAndGo) {
     live.go_on_air();
     live.live_until([&] { return live.output->device_names() == std::vector<std::string>{"Studio"}; });

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
+#include "platform/failure.h"
 #include "sound_bench.h"
 
 namespace sonarelle {
@@ -77,6 +80,77 @@ TEST(Decoder, PlaysMonoOnBothSides) {
     const auto whole = decoded(folder.encoded("mono.mp3", 1, "-ac 1"));
     for (std::size_t frame = 0; frame < whole.size() / 2; ++frame)
         ASSERT_EQ(whole[2 * frame], whole[2 * frame + 1]);
+}
+
+TEST(Decoder, DamageThatOnlyTheWarmingUpMeetsIsNoBreak) {
+    const SoundFolder folder;
+    const auto path = folder.encoded("a.mp3", 8, "-ar 48000 -b:a 128k");
+    std::fstream file{path, std::ios::binary | std::ios::in | std::ios::out};
+    file.seekp(64'000);
+    file.write(std::string(384, 'x').data(), 384);
+    file.close();
+    std::vector<float> out(2 * 4800);
+    const auto decoder = decoder_of(path);
+    decoder->seek(milliseconds(4060)); // the damage lies three frames before
+    ASSERT_EQ(decoder->read(out), 4800U);
+    EXPECT_EQ(decoder->breaks(), 0);
+}
+
+TEST(Decoder, WavWhoseWriterCouldNotGoBackLastsAsLongAsItsSound) {
+    const SoundFolder folder;
+    for (const std::string& size : {std::string(4, '\0'), std::string(4, '\xFF')}) {
+        const auto path = folder.counting_wav("a.wav", 1);
+        std::fstream file{path, std::ios::binary | std::ios::in | std::ios::out};
+        std::string head(100, '\0');
+        file.read(head.data(), std::ssize(head));
+        file.seekp(static_cast<std::streamoff>(head.find("data")) + 4);
+        file.write(size.data(), std::ssize(size));
+        file.close();
+        EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 1.0);
+    }
+}
+
+TEST(Decoder, MeasuringTheLengthCountsNoBreak) {
+    const SoundFolder folder;
+    const auto path = folder.encoded("a.flac", 12, "");
+    std::fstream file{path, std::ios::binary | std::ios::in | std::ios::out};
+    file.seekp(400'000);
+    file.write(std::string(4000, 'x').data(), 4000);
+    file.close();
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) * 9 / 10);
+    const auto decoder = decoder_of(path);
+    (void)decoder->duration();
+    EXPECT_EQ(decoder->breaks(), 0);
+}
+
+TEST(Decoder, DiskThatFailsIsNoEndOfTheFile) {
+    /// A file of which no more than the first bytes can be read.
+    struct FailingFile final : RecordFile {
+        explicit FailingFile(const std::string& path) : file{MachineFiles{}.open(path)} {}
+        [[nodiscard]] std::int64_t length() const override { return file->length(); }
+        std::size_t read(std::int64_t position, std::span<std::byte> into) override {
+            if (fails && position + static_cast<std::int64_t>(into.size()) > length() / 2)
+                throw Failure{failure_number::device_fault};
+            return file->read(position, into);
+        }
+        std::unique_ptr<RecordFile> file;
+        bool fails = false;
+    };
+    const SoundFolder folder;
+    const auto path = folder.encoded("a.wma", 12, "");
+    auto file = std::make_unique<FailingFile>(path);
+    bool& fails = file->fails;
+    Decoder decoder{open_sample_source(std::move(file), path)};
+    fails = true;
+    std::vector<float> all(2 * 48000 * 13);
+    EXPECT_THROW((void)decoder.read(all), Failure);
+}
+
+TEST(Decoder, TwoFramesOfAnMp3AreAFile) {
+    const SoundFolder folder;
+    const auto path = folder.encoded("a.mp3", 1, "-ar 48000 -b:a 128k -write_xing 0 -id3v2_version 0");
+    std::filesystem::resize_file(path, 2 * 384);
+    EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 2 * 0.024);
 }
 
 TEST(Decoder, GivesThePlainSamplesOfA48KhzWav) {

@@ -67,6 +67,14 @@ TEST(Spectrum, ShowsTheNewestOfMoreFrames) {
     EXPECT_EQ(bands_of(frames), std::vector<float>(bands, Spectrum::floor));
 }
 
+// Lines are 23.4 Hz apart: line 2 is at 46.9 Hz, line 3 at 70.3 Hz.
+TEST(Spectrum, BandsBetweenTwoLinesFallFromOneToTheOther) {
+    Spectrum spectrum{8, {.lowest = 48, .highest = 69}};
+    const auto levels = spectrum.bands_of(tone(2 * 48000.0 / Spectrum::window_frames, {1, 1}, Spectrum::window_frames));
+    EXPECT_TRUE(std::ranges::is_sorted(levels, std::ranges::greater{}));
+    EXPECT_GT(levels.front(), levels.back());
+}
+
 TEST(Spectrum, BandsGoFromTheLowestToTheHighest) {
     const Spectrum spectrum{2, {.lowest = 100, .highest = 10000}};
     EXPECT_NEAR(spectrum.centre(0), 316.2, 0.1);

@@ -160,6 +160,40 @@ TEST_F(VoiceOnAir, HaltedBeforeItWasHeardIsSilentAtOnce) {
     EXPECT_EQ(hear(10)[1], 0.0F);
 }
 
+TEST_F(VoiceOnAir, HaltedBeforeItWasHeardAgainIsSilentAtOnce) {
+    put(2000);
+    play(Frames{0});
+    (void)hear(100);
+    voice.halt(Frames{100});
+    (void)hear(480);
+    voice.play(nullptr, Frames{580}, Frames{100}, retired);
+    voice.halt(Frames{580});
+    EXPECT_EQ(hear(10)[1], 0.0F);
+}
+
+TEST_F(VoiceOnAir, HaltedTwiceWithinTenMillisecondsFadesBoth) {
+    put(2000);
+    play(Frames{0});
+    (void)hear(100);
+    voice.halt(Frames{100});
+    (void)hear(200);
+    voice.play(nullptr, Frames{300}, Frames{100}, retired);
+    (void)hear(40);
+    voice.halt(Frames{340});
+    EXPECT_NEAR(hear(1)[1], 239.0F / 480 + 479.0F / 480, 0.001F);
+}
+
+TEST_F(VoiceOnAir, TakesItsNextVolumeAtOnceBehindAHalt) {
+    put(2000);
+    play(Frames{0});
+    (void)hear(100);
+    voice.halt(Frames{100});
+    (void)hear(480);
+    voice.set_gain(0.5F);
+    voice.play(nullptr, Frames{580}, Frames{100}, retired);
+    EXPECT_EQ(hear(1)[1], 0.5F);
+}
+
 TEST_F(VoiceOnAir, DroppedIsDoneOnceItHasFaded) {
     put(1000);
     play(Frames{0});

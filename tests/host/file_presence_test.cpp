@@ -50,6 +50,17 @@ TEST_F(Presence, FileOfAFolderOrDriveThatIsGoneIsMissing) {
     EXPECT_TRUE(eventually([&] { return files.is_missing("X:\\titre.mp3"); }));
 }
 
+TEST_F(Presence, NewsLastsUntilItIsAskedFor) {
+    FilePresence files = presence();
+    ASSERT_TRUE(eventually([&] { return files.is_missing("M:\\absent.mp3"); }));
+    for (int again = 0; again < 20; ++again) { // each time the disk is asked anew, and answers as before
+        std::this_thread::sleep_for(std::chrono::milliseconds{15});
+        static_cast<void>(files.is_missing("M:\\absent.mp3"));
+    }
+    EXPECT_TRUE(files.has_news());
+    EXPECT_FALSE(files.has_news());
+}
+
 TEST_F(Presence, FileIsFoundIgnoringCase) {
     folder.put("Titre.MP3");
     FilePresence files = presence();

@@ -103,6 +103,24 @@ TEST_F(RowsPassedOver, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnsw
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
 
+TEST_F(RowsPassedOver, FolderThatGoesWhileTheLoadLooksForItsFileStopsTheListAndKeepsTheRow) {
+    const std::string path = "C:\\Parti\\b.mp3";
+    machine.add_track(track(1), 100);
+    machine.add_track(path, 100);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "100", 100, 0.0), record_of(path, "100", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    machine.disk.take(path, milliseconds(500));
+    machine.time.at(seconds(87) + milliseconds(200), [&] {
+        machine.disk.heal(path);
+        machine.disk.Kill(path);
+        machine.disk.RmDir("C:\\Parti");
+    });
+    play_for(90);
+    EXPECT_EQ(times_of(OnAirEvent::Kind::stopped).size(), 1U);
+    EXPECT_EQ(rows().count(), 2);
+}
+
 TEST_F(RowsPassedOver, FolderThatComesBackBehindAPauseStartsNothing) {
     const std::string away = "E:\\a.mp3";
     machine.disk.add_drive("E");

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "accessories/about_windows.h"
-#include "accessories/err_form.h"
 #include "playout/desk.h"
+#include "windows/err_form.h"
 
 namespace sonarelle {
 

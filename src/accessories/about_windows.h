@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "configuration/application.h"
+#include "platform/application.h"
 #include "platform/controls.h"
 
 namespace sonarelle {

@@ -5,17 +5,17 @@
 #include <string>
 
 #include "accessories/propriete.h"
-#include "configuration/station_settings.h"
 #include "platform/media.h"
 #include "platform/platform.h"
 #include "playlist/enreg_liste.h"
 #include "playlist/list_document.h"
 #include "playlist/list_guard.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
 #include "playlist/working_records.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

@@ -2,9 +2,9 @@
 
 #include <span>
 
-#include "configuration/station_settings.h"
 #include "platform/controls.h"
 #include "platform/window.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

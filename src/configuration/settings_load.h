@@ -3,14 +3,14 @@
 #include <functional>
 #include <string>
 
-#include "accessories/mini_lecteur.h"
 #include "configuration/form_options.h"
 #include "configuration/settings_store.h"
 #include "platform/failure.h"
 #include "platform/platform.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
-#include "playout/antenne_fm.h"
+#include "state/list_state.h"
+#include "windows/antenne_fm.h"
+#include "windows/mini_lecteur.h"
 
 namespace sonarelle {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "configuration/settings_vocabulary.h"
-#include "configuration/station_settings.h"
 #include "platform/settings.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "configuration/station_settings.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

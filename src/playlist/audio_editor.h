@@ -1,10 +1,10 @@
 #pragma once
 
-#include "configuration/station_settings.h"
 #include "platform/platform.h"
 #include "playlist/list_guard.h"
 #include "playlist/liste_son.h"
 #include "playlist/row_reading.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

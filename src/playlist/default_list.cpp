@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "configuration/application.h"
+#include "platform/application.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/text.h"

@@ -2,9 +2,9 @@
 
 #include "metadata/TypeTagV1.h"
 #include "metadata/genre_table.h"
+#include "platform/duration_text.h"
 #include "platform/failure.h"
 #include "platform/media.h"
-#include "playout/duration_text.h"
 
 namespace sonarelle {
 

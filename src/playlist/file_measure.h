@@ -4,8 +4,8 @@
 
 #include "platform/lengths_ahead.h"
 #include "platform/platform.h"
-#include "playlist/list_state.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "configuration/station_settings.h"
 #include "platform/platform.h"
 #include "playlist/default_list.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
+#include "state/list_state.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

@@ -1,9 +1,9 @@
 #include "playlist/list_guard.h"
 
-#include "configuration/station_settings.h"
 #include "platform/dialogs.h"
 #include "platform/paths.h"
 #include "playlist/list_rows.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

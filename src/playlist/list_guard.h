@@ -2,8 +2,8 @@
 
 #include "platform/platform.h"
 #include "playlist/list_actions.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

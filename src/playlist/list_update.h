@@ -4,18 +4,18 @@
 #include <optional>
 #include <string>
 
-#include "accessories/fsauve.h"
 #include "platform/lengths_ahead.h"
 #include "platform/platform.h"
 #include "playlist/file_measure.h"
+#include "playlist/fsauve.h"
 #include "playlist/list_document.h"
 #include "playlist/list_guard.h"
 #include "playlist/list_save_dialog.h"
-#include "playlist/list_state.h"
 #include "playlist/list_verification.h"
 #include "playlist/liste_son.h"
 #include "playlist/row_reading.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

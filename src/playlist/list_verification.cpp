@@ -1,5 +1,8 @@
 #include "playlist/list_verification.h"
 
+#include <utility>
+
+#include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 
@@ -13,9 +16,10 @@ constexpr std::string_view not_found = " Non trouvé ";
 
 ListVerification::ListVerification(const Platform& platform, ListState& list, ChainState& chain,
                                    DestinationRecord& destination, Liste_son& window, fsauve& progress,
-                                   ListDocument& document, ListGuard& guard, RowReading& reading, Journal& journal)
+                                   ListDocument& document, ListGuard& guard, RowReading& reading,
+                                   std::function<void(const std::string&)> note)
     : platform_{platform}, list_{list}, chain_{chain}, destination_{destination}, window_{window}, progress_{progress},
-      document_{document}, guard_{guard}, reading_{reading}, journal_{journal} {}
+      document_{document}, guard_{guard}, reading_{reading}, note_{std::move(note)} {}
 
 void ListVerification::prechar() {
     if (!guard_.allows(ListAction::prechar))
@@ -85,8 +89,8 @@ FileFinding ListVerification::test(int row) {
 
 void ListVerification::drop_row(int row, const FileFinding& finding) {
     const std::string when = " - " + date_text(platform_) + " " + time_text(platform_);
-    journal_.note(finding.state == FileState::folder_missing ? "Dossier manquant : " + finding.folder + when
-                                                             : "fichier manquant : " + list_.chemin_test + when);
+    note_(finding.state == FileState::folder_missing ? "Dossier manquant : " + finding.folder + when
+                                                     : "fichier manquant : " + list_.chemin_test + when);
     window_.ListView1.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;

@@ -1,18 +1,18 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
-#include "accessories/fsauve.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "playlist/file_existence.h"
+#include "playlist/fsauve.h"
 #include "playlist/list_document.h"
 #include "playlist/list_guard.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/row_reading.h"
-#include "playout/chain_state.h"
-#include "playout/journal.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 
@@ -21,7 +21,7 @@ class ListVerification {
 public:
     ListVerification(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
                      Liste_son& window, fsauve& progress, ListDocument& document, ListGuard& guard, RowReading& reading,
-                     Journal& journal);
+                     std::function<void(const std::string&)> note);
 
     /// Tests every row, as its own action.
     void prechar();
@@ -57,7 +57,7 @@ private:
     ListDocument& document_;
     ListGuard& guard_;
     RowReading& reading_;
-    Journal& journal_;
+    std::function<void(const std::string&)> note_; // a line of the journal
 };
 
 } // namespace sonarelle

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "playlist/list_document.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

@@ -6,8 +6,8 @@
 #include "platform/platform.h"
 #include "platform/row_table.h"
 #include "playlist/enreg_liste.h"
-#include "playlist/list_state.h"
 #include "playlist/working_records.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

@@ -7,10 +7,10 @@
 #include "platform/platform.h"
 #include "playlist/list_document.h"
 #include "playlist/list_guard.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/row_reading.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

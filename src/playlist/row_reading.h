@@ -3,11 +3,11 @@
 #include <functional>
 
 #include "platform/platform.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
 #include "playlist/working_records.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

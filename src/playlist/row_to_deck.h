@@ -3,10 +3,10 @@
 #include <functional>
 
 #include "platform/platform.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/calendar_text.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/scheduler.h"

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "playout/auto_chain.h"
 

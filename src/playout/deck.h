@@ -8,7 +8,7 @@
 
 #include "platform/media.h"
 #include "platform/numbers.h"
-#include "playout/deck_controls.h"
+#include "windows/deck_controls.h"
 
 namespace sonarelle {
 

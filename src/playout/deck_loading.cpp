@@ -3,12 +3,12 @@
 #include "configuration/settings_store.h"
 #include "platform/dialogs.h"
 #include "platform/disk.h"
+#include "platform/duration_text.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
 #include "playlist/volume_table.h"
 #include "playout/air_view.h"
-#include "playout/duration_text.h"
 #include "playout/mix_engine.h"
 
 namespace sonarelle {

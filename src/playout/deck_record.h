@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/platform.h"
-#include "playlist/list_state.h"
 #include "playlist/working_records.h"
-#include "playout/chain_state.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 

@@ -1,4 +1,5 @@
 #include "playout/deck_start.h"
+#include "platform/calendar_text.h"
 
 #include <cstdint>
 #include <utility>

@@ -14,11 +14,6 @@ namespace {
 
 constexpr int most_files_named = 10; // in one warning
 
-std::string digits(int number, std::size_t width) {
-    std::string text = std::to_string(number);
-    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
-}
-
 } // namespace
 
 Deck& Desk::main_deck() {
@@ -110,20 +105,6 @@ void Desk::remember(std::string_view key, std::string_view value) {
 
 std::string lines_of(const Failure& failure) {
     return failure.source.empty() ? failure.description : failure.description + "\n" + failure.source;
-}
-
-std::string date_text(const Platform& platform) {
-    const CalendarTime time = platform.clock.calendar();
-    return digits(time.day, 2) + "/" + digits(time.month, 2) + "/" + digits(time.year, 4);
-}
-
-std::string time_text(const Platform& platform) {
-    const CalendarTime time = platform.clock.calendar();
-    return digits(time.hour, 2) + ":" + digits(time.minute, 2) + ":" + digits(time.second, 2);
-}
-
-std::string date_and_time(const Platform& platform) {
-    return date_text(platform) + " - " + time_text(platform);
 }
 
 } // namespace sonarelle

@@ -3,17 +3,17 @@
 #include <array>
 #include <functional>
 
-#include "accessories/err_form.h"
-#include "accessories/mini_lecteur.h"
-#include "configuration/station_settings.h"
 #include "platform/platform.h"
-#include "playlist/list_state.h"
 #include "playlist/liste_son.h"
 #include "playlist/working_records.h"
-#include "playout/antenne_fm.h"
-#include "playout/chain_state.h"
 #include "playout/deck.h"
 #include "playout/on_air_event.h"
+#include "state/chain_state.h"
+#include "state/list_state.h"
+#include "state/station_settings.h"
+#include "windows/antenne_fm.h"
+#include "windows/err_form.h"
+#include "windows/mini_lecteur.h"
 
 namespace sonarelle {
 
@@ -78,11 +78,5 @@ inline constexpr std::string_view empty_title = "(Aucun fichier en cours)";
 
 /// What a box says of a failure: the sentence, and on a line of its own what it concerns.
 [[nodiscard]] std::string lines_of(const Failure& failure);
-
-/// The date as dd/mm/yyyy and the time as hh:mm:ss.
-[[nodiscard]] std::string date_text(const Platform& platform);
-[[nodiscard]] std::string time_text(const Platform& platform);
-/// Date, " - ", time: how a line of the journal begins.
-[[nodiscard]] std::string date_and_time(const Platform& platform);
 
 } // namespace sonarelle

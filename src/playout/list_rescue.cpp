@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/calendar_text.h"
 #include "platform/clock.h"
 
 namespace sonarelle {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/calendar_text.h"
 #include "platform/failure.h"
 
 namespace sonarelle {

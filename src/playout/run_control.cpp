@@ -1,5 +1,6 @@
 #include "playout/run_control.h"
 
+#include "platform/calendar_text.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/paths.h"

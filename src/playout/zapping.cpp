@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/calendar_text.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/random.h"

@@ -1,6 +1,7 @@
 #include "station/list_maintenance.h"
 
 #include "playout/desk.h"
+#include "playout/journal.h"
 
 namespace sonarelle {
 
@@ -8,8 +9,11 @@ ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& re
                                  ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal)
     : guard{desk.platform, desk.list, desk.list_window}, row_reading{desk.platform, desk.destination, desk.list_window,
                                                                      record_reading},
-      verification{desk.platform, desk.list, desk.chain, desk.destination, desk.list_window,
-                   progress,      document,  guard,      row_reading,      journal},
+      verification{desk.platform,    desk.list,
+                   desk.chain,       desk.destination,
+                   desk.list_window, progress,
+                   document,         guard,
+                   row_reading,      [&journal](const std::string& line) { journal.note(line); }},
       changes{desk.platform, desk.list, desk.chain, desk.destination, desk.list_window, document, guard, row_reading},
       update{desk.platform, desk.list,   desk.chain, desk.destination, desk.list_window, progress,
              document,      save_dialog, guard,      row_reading,      measure,          verification},

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "accessories/fsauve.h"
-#include "configuration/station_settings.h"
 #include "platform/platform.h"
 #include "playlist/audio_editor.h"
+#include "playlist/fsauve.h"
 #include "playlist/list_guard.h"
 #include "playlist/list_update.h"
 #include "playlist/list_verification.h"
 #include "playlist/path_editing.h"
 #include "playlist/row_changes.h"
 #include "playlist/row_reading.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 
 struct Desk;
+class Journal;
 
 /// The actions that go over the rows of the list, and their menu entries.
 class ListMaintenance {

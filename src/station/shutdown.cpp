@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "configuration/window_place.h"
+#include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "playlist/list_rows.h"
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "configuration/settings_store.h"
+#include "platform/calendar_text.h"
 #include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"

@@ -2,8 +2,8 @@
 #include <QVBoxLayout>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/dresser.h"
-#include "platform/desktop/qt_text.h"
+#include "desktop/dresser.h"
+#include "desktop/qt_text.h"
 
 namespace sonarelle {
 

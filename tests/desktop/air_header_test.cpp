@@ -1,10 +1,10 @@
 // The head of the main window, when the air is silent and when the sound card is gone.
-#include "platform/desktop/air_header.h"
+#include "desktop/air_header.h"
 
+#include "desktop/colours.h"
 #include "desktop/desktop_bench.h"
+#include "desktop/main_view.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/colours.h"
-#include "platform/desktop/main_view.h"
 #include "platform/scheduler.h"
 
 namespace sonarelle {

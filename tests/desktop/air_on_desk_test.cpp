@@ -1,7 +1,8 @@
 // Both windows tell one truth of the air, while a list runs.
+#include "desktop/progress_strip.h"
 #include "desktop/station_views.h"
-#include "platform/desktop/progress_strip.h"
-#include "platform/desktop/title_label.h"
+#include "desktop/progress_strip.h"
+#include "desktop/title_label.h"
 #include "platform/failure.h"
 #include "playlist/enreg_liste.h"
 

@@ -1,12 +1,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "desktop/button_bindings.h"
+#include "desktop/choice_bindings.h"
+#include "desktop/colours.h"
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/button_bindings.h"
-#include "platform/desktop/choice_bindings.h"
-#include "platform/desktop/colours.h"
-#include "platform/desktop/range_bindings.h"
-#include "platform/desktop/text_bindings.h"
+#include "desktop/range_bindings.h"
+#include "desktop/text_bindings.h"
 
 namespace sonarelle {
 

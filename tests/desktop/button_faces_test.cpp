@@ -1,8 +1,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "desktop/button_bindings.h"
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/button_bindings.h"
 
 namespace sonarelle {
 

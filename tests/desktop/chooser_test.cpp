@@ -2,8 +2,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include "desktop/choice_bindings.h"
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/choice_bindings.h"
 
 namespace sonarelle {
 

@@ -1,5 +1,5 @@
 // Which ink stands on which ground, where a station tells both.
-#include "platform/desktop/colours.h"
+#include "desktop/colours.h"
 
 #include <gtest/gtest.h>
 

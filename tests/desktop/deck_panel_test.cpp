@@ -1,8 +1,8 @@
 // What is seen of a deck: its lamp, its frame, its word, its marks and the buttons that matter to the air.
-#include "platform/desktop/deck_panel.h"
+#include "desktop/deck_panel.h"
 
 #include "desktop/station_views.h"
-#include "platform/desktop/title_label.h"
+#include "desktop/title_label.h"
 
 namespace sonarelle {
 

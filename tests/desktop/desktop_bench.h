@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 
+#include "desktop/desktop.h"
+#include "desktop/desktop_services.h"
+#include "desktop/picture_store.h"
+#include "desktop/update_queue.h"
 #include "platform/controls.h"
-#include "platform/desktop/desktop.h"
-#include "platform/desktop/desktop_services.h"
-#include "platform/desktop/picture_store.h"
-#include "platform/desktop/update_queue.h"
 
 namespace sonarelle {
 

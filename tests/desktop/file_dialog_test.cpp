@@ -3,7 +3,7 @@
 #include <QTimer>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/desktop_file_dialog.h"
+#include "desktop/desktop_file_dialog.h"
 
 namespace sonarelle {
 

@@ -5,8 +5,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "desktop/button_bindings.h"
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/button_bindings.h"
 #include "platform/failure.h"
 
 namespace sonarelle {

@@ -4,8 +4,8 @@
 #include <QRadioButton>
 #include <QSlider>
 
+#include "desktop/colours.h"
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/colours.h"
 
 namespace sonarelle {
 

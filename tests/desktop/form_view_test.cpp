@@ -1,7 +1,7 @@
 #include <QLineEdit>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/plain_views.h"
+#include "desktop/plain_views.h"
 
 namespace sonarelle {
 

@@ -2,7 +2,7 @@
 #include <QTimer>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/desktop_dialogs.h"
+#include "desktop/desktop_dialogs.h"
 
 namespace sonarelle {
 

@@ -1,5 +1,5 @@
 // The list window: what it tells of the air, its modes, its rows and their menu.
-#include "platform/desktop/list_view.h"
+#include "desktop/list_view.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>

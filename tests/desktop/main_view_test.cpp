@@ -1,5 +1,5 @@
 // The main window: its modes, its status line, its menus and what stands for them.
-#include "platform/desktop/main_view.h"
+#include "desktop/main_view.h"
 
 #include <QMenuBar>
 #include <QTest>

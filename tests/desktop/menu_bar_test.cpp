@@ -2,8 +2,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "desktop/mnemonics.h"
 #include "desktop/whole_desk_bench.h"
-#include "platform/desktop/mnemonics.h"
 
 namespace sonarelle {
 

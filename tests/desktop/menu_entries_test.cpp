@@ -3,7 +3,7 @@
 
 #include "desktop/desktop_bench.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/window_view.h"
 
 namespace sonarelle {
 

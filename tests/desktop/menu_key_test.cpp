@@ -2,7 +2,7 @@
 #include <QTest>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/window_view.h"
 
 namespace sonarelle {
 

@@ -3,10 +3,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "desktop/button_bindings.h"
 #include "desktop/desktop_bench.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/button_bindings.h"
-#include "platform/desktop/qt_text.h"
+#include "desktop/qt_text.h"
 
 namespace sonarelle {
 

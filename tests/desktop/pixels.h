@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <map>
 
-#include "platform/desktop/colours.h"
+#include "desktop/colours.h"
 
 namespace sonarelle {
 

@@ -1,6 +1,6 @@
 // Where windows come on the screen.
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/window_view.h"
 
 namespace sonarelle {
 

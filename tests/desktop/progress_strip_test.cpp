@@ -1,5 +1,5 @@
 // A deck's bar: how far the sound is, where the next one begins and where this one ends.
-#include "platform/desktop/progress_strip.h"
+#include "desktop/progress_strip.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 #include <set>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/row_table_binding.h"
+#include "desktop/row_table_binding.h"
 
 namespace sonarelle {
 

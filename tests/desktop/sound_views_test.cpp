@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "desktop/desktop_bench.h"
+#include "desktop/level_meter.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/level_meter.h"
-#include "platform/desktop/sound_picture.h"
+#include "desktop/sound_picture.h"
 
 namespace sonarelle {
 

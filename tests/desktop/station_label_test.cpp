@@ -5,11 +5,11 @@
 #include <QVBoxLayout>
 
 #include "desktop/desktop_bench.h"
+#include "desktop/panel.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/panel.h"
-#include "platform/desktop/station_label.h"
-#include "platform/desktop/text_bindings.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/station_label.h"
+#include "desktop/text_bindings.h"
+#include "desktop/window_view.h"
 
 namespace sonarelle {
 

@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "configuration/painting.h"
+#include "desktop/desktop.h"
 #include "desktop/desktop_bench.h"
+#include "desktop/list_view.h"
+#include "desktop/main_view.h"
 #include "desktop/pixels.h"
-#include "platform/desktop/desktop.h"
-#include "platform/desktop/list_view.h"
-#include "platform/desktop/main_view.h"
 #include "platform/simulated/simulated_platform.h"
 #include "platform/text.h"
 #include "station/station.h"

@@ -1,13 +1,13 @@
 // Buttons that are drawn, as pixels: their faces, their accents, and the lamps.
-#include "platform/desktop/studio_button.h"
+#include "desktop/studio_button.h"
 
 #include <QTest>
 
+#include "desktop/button_bindings.h"
 #include "desktop/desktop_bench.h"
+#include "desktop/panel.h"
 #include "desktop/pixels.h"
 #include "desktop/station_views.h"
-#include "platform/desktop/button_bindings.h"
-#include "platform/desktop/panel.h"
 
 namespace sonarelle {
 

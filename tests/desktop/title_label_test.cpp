@@ -1,5 +1,5 @@
 // The title of a deck, which the station turns by a character twice a second.
-#include "platform/desktop/title_label.h"
+#include "desktop/title_label.h"
 
 #include <QTest>
 

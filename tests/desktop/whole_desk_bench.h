@@ -4,7 +4,7 @@
 #include <QWindow>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/window_view.h"
 #include "playout/desk_bench.h"
 
 namespace sonarelle {

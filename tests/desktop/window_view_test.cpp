@@ -2,8 +2,8 @@
 #include <QWindow>
 
 #include "desktop/desktop_bench.h"
-#include "platform/desktop/dresser.h"
-#include "platform/desktop/window_view.h"
+#include "desktop/dresser.h"
+#include "desktop/window_view.h"
 
 namespace sonarelle {
 

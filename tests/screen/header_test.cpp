@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/desktop/station_label.h"
+#include "desktop/station_label.h"
 #include "screen/desk_bench.h"
 
 namespace sonarelle::test {

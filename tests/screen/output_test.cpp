@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "platform/desktop/station_label.h"
+#include "desktop/station_label.h"
 #include "screen/desk_bench.h"
 
 namespace sonarelle::test {

@@ -9,9 +9,6 @@ import sys
 import tempfile
 from pathlib import Path
 
-SUBSYSTEMS = {"playout", "playlist", "metadata", "configuration", "file_manager", "accessories"}
-PLATFORM = {"platform"}
-
 STANDARD = set("""
 algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts condition_variable
 coroutine deque exception execution filesystem forward_list fstream functional future initializer_list iomanip ios
@@ -29,25 +26,37 @@ POSIX = r"(sys|linux|net|netinet|arpa|scsi)/[\w./]+\.h|" + "|".join(
 JSON = r"nlohmann/[\w/]+\.hpp"
 FFMPEG = r"lib(avformat|avcodec|avutil|swresample|swscale)/\w+\.h"
 SDL = r"(SDL2/)?SDL\w*\.h"
-FLUIDSYNTH = r"fluidsynth\.h"
 QT = r"(Qt\w+/)?Q\w+"
 
-# Folder: the folders whose headers its files may include, and the libraries that it knows beside the standard one.
-RULES = {
-    "platform": (PLATFORM, []),
-    "platform/audio": (PLATFORM | {"platform/audio"}, [POSIX, FFMPEG, SDL, FLUIDSYNTH]),
-    "platform/host": (PLATFORM | {"platform/host"}, [POSIX, JSON]),
-    "platform/simulated": (PLATFORM | {"platform/simulated"}, []),
-    "platform/desktop": (PLATFORM | SUBSYSTEMS | {"platform/desktop"}, [QT]),
-    **{name: (PLATFORM | SUBSYSTEMS, []) for name in SUBSYSTEMS},
-    "station": (PLATFORM | SUBSYSTEMS | {"station"}, []),
+# The staircase, from the ground up. Each folder may include those named here, which all stand before it.
+STAIRS = {
+    "platform": [],
+    "state": ["platform"],
+    "windows": ["platform"],
+    "metadata": ["platform"],
+    "playlist": ["platform", "state", "metadata"],
+    "configuration": ["platform", "state", "windows", "playlist"],
+    "playout": ["platform", "state", "windows", "playlist", "configuration"],
+    "accessories": ["platform", "state", "windows", "playlist", "configuration", "playout"],
+    "station": ["platform", "state", "windows", "playlist", "configuration", "playout", "accessories"],
+    "platform/audio": ["platform"],
+    "platform/host": ["platform"],
+    "platform/simulated": ["platform"],
+    "desktop": ["platform", "windows", "playlist", "playout", "accessories"],
+    "app/common": ["platform", "configuration", "platform/audio", "platform/host"],
+    "app/outil": ["platform", "state", "metadata", "playlist", "configuration", "playout", "station", "platform/audio",
+                  "platform/host", "platform/simulated", "app/common"],
+    "app/bureau": ["platform", "station", "platform/audio", "platform/host", "desktop", "app/common"],
 }
 
-# The programs choose a platform and hand it in, so they see all of it; the command line has no windows.
-WIRING = PLATFORM | SUBSYSTEMS | {"station", "platform/audio", "platform/host", "platform/simulated"}
-RULES["app/common"] = (WIRING | {"app/common"}, [])
-RULES["app/outil"] = (WIRING | {"app/common", "app/outil"}, [POSIX, JSON])
-RULES["app/bureau"] = (WIRING | {"app/common", "app/bureau", "platform/desktop"}, [POSIX, QT])
+# The libraries that a folder knows beside the standard one.
+LIBRARIES = {
+    "platform/audio": [POSIX, FFMPEG, SDL],
+    "platform/host": [POSIX, JSON],
+    "desktop": [QT],
+    "app/outil": [POSIX, JSON],
+    "app/bureau": [POSIX, QT],
+}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>|(\S.*))', re.MULTILINE)
 COMMENT = re.compile(r"/\*.*?\*/", re.DOTALL)
@@ -72,7 +81,7 @@ def sources_of(src):
 
 def fault_of(src, folder, quoted, angled):
     """What is wrong with one #include of a file in that folder, or None."""
-    folders, libraries = RULES[folder]
+    folders, libraries = [folder, *STAIRS[folder]], LIBRARIES.get(folder, [])
     if angled is not None:
         known = angled in STANDARD or any(re.fullmatch(library, angled) for library in libraries)
         return None if known else f"<{angled}> is no header that {folder}/ may know"
@@ -89,7 +98,7 @@ def wrong_arrows(src):
     for path in sources_of(src):
         name = path.relative_to(src)
         folder = str(name.parent)
-        if folder not in RULES:
+        if folder not in STAIRS:
             faults.append(f"{name}: {folder}/ is no folder of the layout")
             continue
         for line, quoted, angled, _ in includes_of(path):
@@ -124,6 +133,14 @@ def cycles(src):
     return faults
 
 
+def broken_stairs():
+    """Each folder stands on those before it, so no circle of folders can come about."""
+    below = set()
+    for folder, known in STAIRS.items():
+        yield from (f"the staircase: {folder}/ stands below {name}/" for name in known if name not in below)
+        below.add(folder)
+
+
 def faults_of(src):
     return wrong_arrows(src) + cycles(src)
 
@@ -133,7 +150,7 @@ GOOD = {
     "platform/disk.h": "#pragma once\n#include <string>\n",
     "platform/host/files.h": '#pragma once\n#include "platform/disk.h"\n#include <nlohmann/json.hpp>\n#include <sys/stat.h>\n',
     "platform/audio/bus.h": '#pragma once\nextern "C" {\n#include <libavcodec/avcodec.h>\n}\n#include <SDL.h>\n',
-    "platform/desktop/view.h": '#pragma once\n#include "playlist/list.h"\n#include <QWidget>\n',
+    "desktop/view.h": '#pragma once\n#include "playlist/list.h"\n#include <QWidget>\n',
     "platform/simulated/disk.h": '#pragma once\n#include "platform/disk.h"\n',
     "playlist/list.h": '#pragma once\n#include "platform/disk.h"\n#include <cstdint>\n',
     "playout/deck.h": '#pragma once\n#include "playlist/list.h"\n// #include <QWidget>\n/*\n#include <SDL.h>\n*/\n',
@@ -148,6 +165,10 @@ TRIALS = [
     ("playout/a.cpp", "  #  include <SDL2/SDL.h>\n", False),
     ("playout/a.cpp", '#include "platform/simulated/disk.h"\n', False),
     ("playout/a.cpp", '#include "station/station.h"\n', False),
+    ("playlist/a.cpp", '#include "playout/deck.h"\n', False),
+    ("playout/a.cpp", '#include "desktop/view.h"\n', False),
+    ("desktop/a.cpp", '#include "playout/deck.h"\n', True),
+    ("desktop/a.cpp", '#include "station/station.h"\n', False),
     ("playout/a.cpp", '#include "deck.h"\n', False),
     ("playout/a.cpp", '#include "../playout/deck.h"\n', False),
     ("playout/a.cpp", "#include HEADER\n", False),
@@ -157,10 +178,10 @@ TRIALS = [
     ("platform/host/a.cpp", '#include "platform/audio/bus.h"\n', False),
     ("platform/audio/a.cpp", "#include <nlohmann/json.hpp>\n", False),
     ("platform/simulated/a.cpp", "#include <fcntl.h>\n", False),
-    ("platform/desktop/a.cpp", "#include <libavcodec/avcodec.h>\n", False),
+    ("desktop/a.cpp", "#include <libavcodec/avcodec.h>\n", False),
     ("station/a.cpp", '#include "platform/host/files.h"\n', False),
     ("station/a.cpp", '#include "app/outil/words.h"\n', False),
-    ("app/outil/a.cpp", '#include "platform/desktop/view.h"\n', False),
+    ("app/outil/a.cpp", '#include "desktop/view.h"\n', False),
     ("elsewhere/a.cpp", "#include <string>\n", False),
     ("playlist/list.h", '#include "playout/deck.h"\n', False),
     ("platform/disk.h", '#include "platform/disk.h"\n', False),
@@ -185,7 +206,7 @@ def failed_trials():
 
 def main():
     src = Path(__file__).resolve().parents[2] / "src"
-    faults = list(failed_trials()) + faults_of(src)
+    faults = [*failed_trials(), *broken_stairs(), *faults_of(src)]
     print(*faults, f"{len(sources_of(src))} files read, {len(faults)} faults", sep=os.linesep)
     return 1 if faults else 0
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/bureau/signal_watch.h"
+#include "platform/calendar_text.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/host/machine_paths.h"

@@ -2,10 +2,10 @@
 
 #include <vector>
 
+#include "desktop/sound_reading.h"
 #include "platform/audio/loudness.h"
 #include "platform/audio/spectrum.h"
 #include "platform/audio/tap_reader.h"
-#include "platform/desktop/sound_reading.h"
 
 namespace sonarelle {
 

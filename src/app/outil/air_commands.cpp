@@ -8,9 +8,9 @@
 #include "app/outil/commands.h"
 #include "app/outil/on_air.h"
 #include "app/outil/rehearsal.h"
-#include "configuration/station_settings.h"
 #include "platform/failure.h"
 #include "platform/host/machine_files.h"
+#include "state/station_settings.h"
 
 namespace sonarelle {
 

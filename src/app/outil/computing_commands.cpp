@@ -3,9 +3,9 @@
 
 #include "app/outil/commands.h"
 #include "app/outil/printable.h"
+#include "platform/duration_text.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
-#include "playout/duration_text.h"
 
 namespace sonarelle {
 

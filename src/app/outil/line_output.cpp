@@ -12,7 +12,7 @@
 #include <thread>
 #include <utility>
 
-#include "platform/audio/thread_annotations.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 

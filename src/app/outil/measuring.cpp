@@ -6,9 +6,9 @@
 
 #include "metadata/TypeTagV1.h"
 #include "metadata/genre_table.h"
+#include "platform/duration_text.h"
 #include "platform/failure.h"
 #include "platform/host/machine_paths.h"
-#include "playout/duration_text.h"
 
 namespace sonarelle {
 

@@ -15,6 +15,7 @@
 #include "app/outil/silence_watch.h"
 #include "configuration/settings_store.h"
 #include "platform/audio/tap_reader.h"
+#include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "platform/host/host_settings.h"
 #include "platform/host/machine_paths.h"

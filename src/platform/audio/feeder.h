@@ -8,7 +8,7 @@
 
 #include "platform/audio/decoder.h"
 #include "platform/audio/sample_stream.h"
-#include "platform/audio/thread_annotations.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 

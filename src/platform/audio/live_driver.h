@@ -8,8 +8,8 @@
 #include "platform/audio/live_clock.h"
 #include "platform/audio/pace_estimate.h"
 #include "platform/audio/programme_bus.h"
-#include "platform/audio/thread_annotations.h"
 #include "platform/scheduler.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 

@@ -5,7 +5,7 @@
 #include <exception>
 
 #include "platform/audio/sample_source.h"
-#include "platform/audio/thread_annotations.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 

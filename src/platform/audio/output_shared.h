@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/audio/pull_gate.h"
-#include "platform/audio/thread_annotations.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 

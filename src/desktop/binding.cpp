@@ -1,0 +1,77 @@
+#include "desktop/binding.h"
+
+#include <QEvent>
+
+#include "desktop/colours.h"
+#include "desktop/file_drops.h"
+#include "desktop/qt_text.h"
+
+namespace sonarelle {
+
+Binding::Binding(Control& control, QWidget& widget, const DesktopServices& services)
+    : control_{control}, widget_{&widget}, services_{services} {
+    widget.setObjectName(to_qt(control.name()));
+    widget.installEventFilter(this);
+    control.observe(this);
+    services.updates.mark(*this);
+    if (control.on_files_dropped)
+        drops_ = std::make_unique<FileDrops>(control, services);
+    take_drops_on(widget);
+}
+
+Binding::~Binding() {
+    services_.updates.forget(*this);
+    control_.observe(nullptr);
+}
+
+void Binding::take_drops_on(QWidget& widget) {
+    if (drops_ != nullptr)
+        drops_->take_on(widget);
+}
+
+void Binding::show_value() {
+    if (widget_.isNull())
+        return;
+    showing_ = true;
+    const QString hint = to_qt(control_.hint);
+    if (widget_->toolTip() != hint)
+        widget_->setToolTip(hint);
+    show_state();
+    const QString name = hint.isEmpty() ? caption() : hint;
+    if (widget_->accessibleName() != name)
+        widget_->setAccessibleName(name);
+    QPalette palette = widget_->palette();
+    paint(palette);
+    if (palette != widget_->palette())
+        widget_->setPalette(palette);
+    if (!control_.is_reachable())
+        give_keyboard_back();
+    widget_->setEnabled(control_.enabled);
+    widget_->setVisible(control_.visible);
+    showing_ = false;
+    if (on_shown)
+        on_shown();
+}
+
+// The toolkit would hand it on to the next part, and the space bar with it.
+void Binding::give_keyboard_back() {
+    const QWidget* focus = widget_->window()->focusWidget();
+    if (focus != nullptr && (focus == widget_ || widget_->isAncestorOf(focus)))
+        widget_->window()->setFocus();
+}
+
+void Binding::paint(QPalette& palette) const {
+    const QColor fore = to_qt(control_.fore_colour, studio::text);
+    palette.setColor(QPalette::Active, QPalette::WindowText, fore);
+    palette.setColor(QPalette::Inactive, QPalette::WindowText, fore);
+}
+
+bool Binding::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Enter && control_.on_mouse_move)
+        run([this] { control_.mouse_move(); });
+    if (event->type() == QEvent::Leave && control_.on_mouse_move && on_left)
+        on_left();
+    return QObject::eventFilter(object, event);
+}
+
+} // namespace sonarelle

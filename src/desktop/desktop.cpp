@@ -1,0 +1,238 @@
+#include "desktop/desktop.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QStyle>
+#include <QTime>
+#include <algorithm>
+
+#include "accessories/chargement.h"
+#include "accessories/propriete.h"
+#include "desktop/colours.h"
+#include "desktop/list_view.h"
+#include "desktop/main_view.h"
+#include "desktop/plain_views.h"
+#include "desktop/qt_text.h"
+#include "desktop/small_player_view.h"
+#include "desktop/studio_style.h"
+#include "platform/calendar_text.h"
+#include "platform/failure.h"
+#include "playout/air_view.h"
+
+namespace sonarelle {
+
+namespace {
+
+std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& services, const SoundReading& sound) {
+    if (auto* main = dynamic_cast<Antenne_FM*>(&window))
+        return std::make_unique<MainView>(*main, services, sound);
+    if (auto* list = dynamic_cast<Liste_son*>(&window))
+        return std::make_unique<ListView>(*list, services);
+    if (auto* player = dynamic_cast<mini_lecteur*>(&window))
+        return std::make_unique<SmallPlayerView>(*player, services);
+    if (auto* splash = dynamic_cast<Chargement*>(&window))
+        return splash_view(*splash, services);
+    if (auto* properties = dynamic_cast<Propriete*>(&window))
+        return properties_view(*properties, services);
+    return form_view(window, services);
+}
+
+/// A window that has no place of its own on the screen.
+bool opens_over_the_desk(const Window& window) {
+    return dynamic_cast<const Antenne_FM*>(&window) == nullptr && dynamic_cast<const Liste_son*>(&window) == nullptr &&
+           dynamic_cast<const mini_lecteur*>(&window) == nullptr && dynamic_cast<const Chargement*>(&window) == nullptr;
+}
+
+// Nothing for what is no number yet.
+std::optional<double> seconds_of(Deck& deck) {
+    bool is_number = false;
+    const double end = to_qt(deck.controls.counter.caption.get()).toDouble(&is_number);
+    return is_number && end > 0 ? std::optional{end} : std::nullopt;
+}
+
+} // namespace
+
+void dress_application() {
+    QApplication::setStyle(new StudioStyle); // which the application then owns
+    QApplication::setPalette(studio_palette());
+    QFont font = QApplication::font();
+    if (QFontDatabase::families().contains("Inter"))
+        font.setFamily("Inter");
+    QApplication::setFont(font);
+}
+
+Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopServices& services,
+                 const SoundReading& sound)
+    : desk_{desk}, services_{services} {
+    for (Window* window : windows) {
+        views_.push_back(view_of(*window, services, sound));
+        if (auto* main = dynamic_cast<MainView*>(views_.back().get()))
+            main_ = main;
+        if (auto* list = dynamic_cast<ListView*>(views_.back().get()))
+            list_ = list;
+        if (auto* player = dynamic_cast<SmallPlayerView*>(views_.back().get()))
+            player_ = player;
+    }
+    for (const auto& view : views_)
+        if (main_ != nullptr && opens_over_the_desk(view->window_value()))
+            view->open_over(*main_);
+    connect_readings();
+}
+
+Desktop::~Desktop() = default;
+
+QWidget* Desktop::widget_of(const Window& window) const {
+    const auto found = std::ranges::find_if(views_, [&](const auto& view) { return &view->window_value() == &window; });
+    return found == views_.end() ? nullptr : found->get();
+}
+
+void Desktop::watch(Control& control, std::function<void()> show) {
+    for (const auto& view : views_)
+        if (Binding* binding = view->binding_of(control)) {
+            const auto before = std::move(binding->on_shown);
+            binding->on_shown = [before, show = std::move(show)] {
+                if (before)
+                    before();
+                show();
+            };
+            return;
+        }
+}
+
+// What is told in one window and read at a glance in the other.
+void Desktop::connect_readings() {
+    if (main_ == nullptr || list_ == nullptr || player_ == nullptr)
+        return;
+    watch(desk_.list_window.Label4, [this] { show_list(); });
+    watch(desk_.list_window.Label1, [this] { show_list(); });
+    watch(desk_.window.Text1, [this] { show_decks(); });
+    for (DeckControls& deck : desk_.window.decks)
+        for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
+                                                                &deck.playing_mark, &deck.play, &deck.pause})
+            watch(*control, [this] { show_decks(); });
+    QObject::connect(&second_, &QTimer::timeout, &second_, [this] { show_second(); });
+    second_.setSingleShot(true);
+    second_.setTimerType(Qt::PreciseTimer);
+    show_second();
+}
+
+// The clock goes on and the air is told as it is, whatever the chain does.
+void Desktop::show_second() {
+    clock_ = to_qt(time_text(desk_.platform));
+    show_decks();
+    main_->show_clock(clock_);
+    show_missing();
+    second_.start(1000 - QTime::currentTime().msec());
+}
+
+// An old answer is asked for anew when its row is painted, which may not happen for hours by itself.
+void Desktop::show_missing() {
+    const bool is_time = QTime::currentTime().second() % 15 == 0;
+    if (missing_.has_news && (missing_.has_news() || is_time))
+        list_->rows().repaint_all();
+}
+
+void Desktop::show_decks() {
+    for (Deck& deck : desk_.decks) {
+        DeckLook look{.role = role_of(desk_, deck),
+                      .heard = to_qt(name_heard(desk_, deck)),
+                      .elapsed = std::nullopt,
+                      .mix_point = std::nullopt,
+                      .end_point = seconds_of(deck)};
+        if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
+            ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
+        if (look.end_point)
+            look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
+        main_->show_look(deck.number(), look);
+    }
+    main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
+    show_air();
+}
+
+void Desktop::show_air() {
+    const Deck* deck = deck_on_air(desk_);
+    const QString title = to_qt(name_on_air(desk_));
+    const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
+    main_->show_air({.role = air_role(desk_),
+                     .deck = deck == nullptr ? 0 : deck->number(),
+                     .title = title,
+                     .left = left,
+                     .next = what_follows(),
+                     .suspended = waits_for_special_mix(desk_),
+                     .notice = notice(),
+                     .silence = to_qt(silence_text(desk_))});
+    main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
+    list_->show_air({.title = title, .left = left, .clock = clock_});
+    player_->show_air(air_role(desk_), title);
+}
+
+QString Desktop::what_follows() {
+    if (waits_for_special_mix(desk_))
+        return "chaîne suspendue : mixage spécial";
+    if (is_stopped_by_a_fault(desk_))
+        return "Ensuite : rien";
+    const auto is_missing = [this](const std::string& path) {
+        return missing_.is_missing && missing_.is_missing(path);
+    };
+    const std::string next = path_to_come(desk_, is_missing);
+    if (next.empty())
+        return {};
+    return "Ensuite : " + to_qt(name_without_ending(next)) + (is_missing(next) ? " (fichier absent)" : "");
+}
+
+QString Desktop::notice() const {
+    if (!is_stopped_by_a_fault(desk_))
+        return {};
+    return desk_.chain.mode_enchainement.is_true() ? "LISTE STOPPÉE" : "ENCHAÎNEMENT STOPPÉ";
+}
+
+void Desktop::show_list() {
+    const bool on = desk_.has_main_deck() && desk_.chain.mode_enchainement.is_true();
+    const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
+    // In list order the chain adds 1 to its row when it starts it.
+    const int step = desk_.chain.ordre_aleatoire.is_true() ? 0 : 1;
+    const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() + step : 0;
+    list_->rows().set_marks({.playing = playing, .next = next});
+}
+
+void Desktop::show_output(const std::string& text, bool is_trouble) {
+    if (main_ != nullptr)
+        main_->show_output(to_qt(text), is_trouble);
+}
+
+void Desktop::mark_missing(MissingFiles files) {
+    missing_ = std::move(files);
+    if (list_ != nullptr)
+        list_->rows().is_missing = missing_.is_missing;
+}
+
+void Desktop::offer_outputs(OutputChoice choice) {
+    QMenu* options = main_ == nullptr ? nullptr : main_->menus().menu(desk_.window.Option_);
+    if (options == nullptr)
+        return;
+    outputs_ = std::move(choice);
+    output_menu_ = std::make_unique<QMenu>("Sortie audio");
+    output_menu_->setObjectName("Sortie_audio");
+    options->addSeparator();
+    options->addMenu(output_menu_.get());
+    QObject::connect(output_menu_.get(), &QMenu::aboutToShow, output_menu_.get(), [this] { fill_outputs(); });
+}
+
+// Cards come and go, so the entries are made when they are looked at.
+void Desktop::fill_outputs() {
+    output_menu_->clear();
+    std::vector<std::string> names = outputs_.names();
+    const std::string chosen = outputs_.chosen();
+    if (!chosen.empty() && std::ranges::find(names, chosen) == names.end())
+        names.push_back(chosen);
+    names.insert(names.begin(), std::string{});
+    for (const std::string& name : names) {
+        QAction* action = output_menu_->addAction(name.empty() ? "Sortie par défaut" : to_qt(name).replace("&", "&&"));
+        action->setCheckable(true);
+        action->setChecked(name == chosen);
+        QObject::connect(action, &QAction::triggered, output_menu_.get(),
+                         [this, name] { services_.run_event([&] { outputs_.choose(name); }); });
+    }
+}
+
+} // namespace sonarelle

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QString>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/desktop_services.h"
+#include "desktop/sound_reading.h"
+#include "playout/desk.h"
+
+class QMenu;
+class QWidget;
+
+namespace sonarelle {
+
+class ListView;
+class MainView;
+class SmallPlayerView;
+class WindowView;
+
+/// The sound outputs that the operator may choose from, as the option menu offers them. The empty name is the default
+/// one.
+struct OutputChoice {
+    std::function<std::vector<std::string>()> names;
+    std::function<std::string()> chosen;
+    std::function<void(const std::string&)> choose;
+};
+
+/// The rows' files that are not there.
+struct MissingFiles {
+    std::function<bool(const std::string& path)> is_missing;
+    /// Whether an answer has changed since this was last asked.
+    std::function<bool()> has_news;
+};
+
+/// Gives the application the studio's look: style, palette, type. Once, before the first window.
+void dress_application();
+
+/// The windows of a station on the screen. Each is shown and hidden by its own `visible`. Window thread.
+class Desktop {
+public:
+    /// Windows without a view of their own are shown as a form of their parts. All outlive the desktop.
+    Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopServices& services,
+            const SoundReading& sound);
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// Null for a window that isn't the station's.
+    [[nodiscard]] QWidget* widget_of(const Window& window) const;
+
+    /// What plays, on the main window's status line; in red where it is a trouble.
+    void show_output(const std::string& text, bool is_trouble);
+    /// Hangs "Sortie audio" into the option menu.
+    void offer_outputs(OutputChoice choice);
+    /// Marks the rows of missing files in the list, while they can be seen.
+    void mark_missing(MissingFiles files);
+
+private:
+    void connect_readings();
+    void watch(Control& control, std::function<void()> show);
+    void show_second();
+    void show_decks();
+    void show_air();
+    [[nodiscard]] QString what_follows();
+    [[nodiscard]] QString notice() const;
+    void show_list();
+    void show_missing();
+    void fill_outputs();
+
+    Desk& desk_;
+    const DesktopServices& services_;
+    std::vector<std::unique_ptr<WindowView>> views_;
+    MainView* main_ = nullptr;
+    ListView* list_ = nullptr;
+    SmallPlayerView* player_ = nullptr;
+    QTimer second_;
+    QString clock_; ///< Of the second that is shown, in both windows.
+    OutputChoice outputs_;
+    MissingFiles missing_;
+    std::unique_ptr<QMenu> output_menu_;
+};
+
+} // namespace sonarelle

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+
+#include "desktop/air_header.h"
+#include "desktop/deck_panel.h"
+#include "desktop/sound_reading.h"
+#include "windows/antenne_fm.h"
+
+namespace sonarelle {
+
+/// The main window: what is on and how long it lasts, three decks, the chain and the quick loads.
+class MainView : public WindowView {
+public:
+    MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound);
+
+    void show_air(const AirLook& look) { header_->show_air(look); }
+    void show_clock(const QString& time) { header_->show_clock(time); }
+    void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
+    /// What the window's frame names: the station and what is on the air. Empty: the window's own caption.
+    void show_title(const QString& title);
+    void show_output(const QString& text, bool is_trouble);
+    void show_played(const QString& text) { played_->set_text(text); }
+
+protected:
+    [[nodiscard]] QString title() const override;
+
+private:
+    void build_rows(const SoundReading& sound);
+    [[nodiscard]] QWidget* menu_labels();
+    [[nodiscard]] QLayout* deck_row();
+    [[nodiscard]] QLayout* lower_row(const SoundReading& sound);
+    [[nodiscard]] Panel* chain_panel();
+    [[nodiscard]] Panel* quick_load_panel();
+    [[nodiscard]] Panel* effect_panel(const SoundReading& sound);
+    [[nodiscard]] Panel* meter_panel(const SoundReading& sound);
+    [[nodiscard]] QWidget* status_line();
+
+    Antenne_FM& window_;
+    Dresser dresser_{*this};
+    AirHeader* header_ = nullptr;
+    std::array<DeckPanel*, 3> decks_{};
+    QString air_title_;
+    StationLabel* output_ = nullptr;
+    StationLabel* played_ = nullptr;
+};
+
+} // namespace sonarelle

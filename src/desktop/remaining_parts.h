@@ -1,0 +1,14 @@
+#pragma once
+
+#include "desktop/dresser.h"
+
+namespace sonarelle {
+
+/// A row of all parts that a window's view has not placed itself, so that none is ever missing; null when there are
+/// none. They wrap into as many lines as they need.
+[[nodiscard]] QWidget* remaining_parts(Dresser& dresser);
+
+/// The same as a form: one line a part, for windows that have no arrangement of their own.
+[[nodiscard]] QWidget* form_of_parts(Dresser& dresser, const Window& window);
+
+} // namespace sonarelle

@@ -1,0 +1,191 @@
+#include "desktop/station_label.h"
+
+#include <QApplication>
+#include <QEnterEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+
+#include "desktop/colours.h"
+
+namespace sonarelle {
+
+namespace {
+
+// The pixels of a style hold for a system text of 13; a greater one makes all greater.
+double text_scale() {
+    const QFontMetrics usual{QApplication::font()};
+    return std::max(1.0, usual.height() / 17.0);
+}
+
+} // namespace
+
+StationLabel::StationLabel(const Style& style, QWidget* parent) : QWidget{parent} {
+    set_style(style);
+}
+
+void StationLabel::set_style(const Style& style) {
+    style_ = style;
+    QFont font = QApplication::font();
+    font.setPixelSize(static_cast<int>(style.pixels * text_scale()));
+    font.setBold(style.bold);
+    setFont(font);
+    setSizePolicy(style.wrapped ? QSizePolicy::Expanding : QSizePolicy::Preferred,
+                  style.wrapped ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
+    updateGeometry();
+}
+
+void StationLabel::set_text(const QString& text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    if (style_.wrapped)
+        updateGeometry();
+    update();
+}
+
+void StationLabel::set_pressable(bool pressable) {
+    pressable_ = pressable;
+    setFocusPolicy(pressable ? Qt::TabFocus : Qt::NoFocus);
+    setCursor(pressable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+QSize StationLabel::sizeHint() const {
+    const QFontMetrics metrics{font()};
+    const int width = metrics.horizontalAdvance('0') * style_.characters + 2 * margin();
+    return {width, style_.wrapped ? heightForWidth(width) : metrics.height() + (style_.framed ? 12 : 2)};
+}
+
+QSize StationLabel::minimumSizeHint() const {
+    const QFontMetrics metrics{font()};
+    const int least = style_.digits || style_.framed ? sizeHint().width() : metrics.horizontalAdvance("000");
+    return {least, metrics.height() + (style_.framed ? 8 : 2)};
+}
+
+int StationLabel::heightForWidth(int width) const {
+    const QRect room{0, 0, width - 2 * margin(), 10000};
+    return QFontMetrics{font()}.boundingRect(room, Qt::TextWordWrap, text_).height() + 8;
+}
+
+bool StationLabel::is_cut() const {
+    return !style_.wrapped && fontMetrics().horizontalAdvance(text_) > width() - 2 * margin();
+}
+
+bool StationLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !is_cut())
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_, this);
+    return true;
+}
+
+void StationLabel::enterEvent(QEnterEvent* event) {
+    QWidget::enterEvent(event);
+    update();
+}
+
+void StationLabel::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    update();
+}
+
+// A framed text lies on a plate of its own, which is lighter under the pointer and darker while it is pressed.
+QColor StationLabel::ground() const {
+    const QColor around = palette().color(QPalette::Window);
+    if (!style_.framed)
+        return around;
+    if (down_)
+        return mixed(around, Qt::black, 0.35);
+    return mixed(around, readable_on(around), underMouse() && isEnabled() ? 0.18 : 0.08);
+}
+
+QColor StationLabel::ink() const {
+    const QColor told = palette().color(QPalette::WindowText);
+    const QColor below = ground();
+    return isEnabled() ? legible(style_.quiet ? mixed(told, below, 0.25) : told, below) : told;
+}
+
+void StationLabel::paint_frame(QPainter& painter) const {
+    const QPen focus{studio::focus, 2};
+    if (style_.framed) {
+        painter.setPen(hasFocus() ? focus : QPen{studio::edge, 1});
+        painter.setBrush(ground());
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 6, 6);
+    } else if (hasFocus()) {
+        painter.setPen(focus);
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 3, 3);
+    }
+}
+
+void StationLabel::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint_frame(painter);
+    painter.setPen(ink());
+    paint_text(painter, rect().adjusted(margin(), 0, -margin(), 0));
+}
+
+void StationLabel::paint_text(QPainter& painter, const QRect& area) const {
+    if (style_.wrapped)
+        painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextWordWrap, text_);
+    else if (style_.digits)
+        paint_in_cells(painter, area);
+    else
+        paint_line(painter, area);
+}
+
+void StationLabel::paint_line(QPainter& painter, const QRect& area) const {
+    const int marks = style_.underlined ? Qt::TextShowMnemonic : 0;
+    painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine | marks,
+                     fontMetrics().elidedText(text_, Qt::ElideRight, area.width(), marks));
+}
+
+// Digits in cells of the widest one, so that nothing jumps when a second passes.
+void StationLabel::paint_in_cells(QPainter& painter, const QRect& area) const {
+    const QFontMetrics metrics{font()};
+    int cell = 0;
+    for (char digit = '0'; digit <= '9'; ++digit)
+        cell = std::max(cell, metrics.horizontalAdvance(QChar{digit}));
+    const auto width_of = [&](QChar c) { return c.isDigit() ? cell : metrics.horizontalAdvance(c); };
+    int total = 0;
+    for (const QChar c : text_)
+        total += width_of(c);
+    int x = area.left();
+    if (style_.alignment & Qt::AlignRight)
+        x = area.right() - total;
+    else if (style_.alignment & Qt::AlignHCenter)
+        x = area.left() + (area.width() - total) / 2;
+    for (const QChar c : text_) {
+        const int width = width_of(c);
+        painter.drawText(QRect{x, area.top(), width, area.height()}, Qt::AlignHCenter | Qt::AlignVCenter, QString{c});
+        x += width;
+    }
+}
+
+// The background of the window takes the presses on a text that is no button.
+void StationLabel::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(pressable_ && event->button() == Qt::LeftButton);
+    down_ = event->isAccepted();
+    update();
+}
+
+void StationLabel::mouseReleaseEvent(QMouseEvent* event) {
+    const bool pressed = pressable_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    event->setAccepted(pressed);
+    down_ = false;
+    update();
+    if (pressed && on_press)
+        on_press();
+}
+
+void StationLabel::keyPressEvent(QKeyEvent* event) {
+    const bool pressed = pressable_ && (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return);
+    if (pressed && on_press)
+        on_press();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace sonarelle

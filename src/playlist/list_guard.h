@@ -15,8 +15,6 @@ public:
 
     /// False, without a word, while another action is under way.
     [[nodiscard]] bool allows(ListAction action) const;
-    /// Whether an action is under way, meanwhile nothing else changes rows.
-    [[nodiscard]] bool is_at_work() const { return at_work_; }
 
 private:
     friend class ListWork;

@@ -36,9 +36,6 @@ public:
     void Timer3_tick();
     void Timer4_tick();
 
-    void zap11() { automatic_zap(desk_.deck(1)); }
-    void zap12() { automatic_zap(desk_.deck(2)); }
-    void zap13() { automatic_zap(desk_.deck(3)); }
     /// Goes over from a deck to the next one, while the old one fades.
     void automatic_zap(Deck& old);
 

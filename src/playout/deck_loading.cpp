@@ -125,24 +125,6 @@ std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_re
     return text_of(whole <= chain.duree_preecoute ? whole : chain.duree_preecoute);
 }
 
-void DeckLoading::charge_() {
-    Deck& deck = desk_.deck(1);
-    deck.create_graph();
-    if (deck.path.empty()) {
-        deck.controls.title.caption = "Non trouvé";
-        return;
-    }
-    ErrorIndicator errors;
-    errors.skip([&] { deck.graph().RenderFile(deck.path); });
-    volume_.apply_record(deck);
-    desk_.chain.nom_fichier_source = deck.path;
-    nom_du_fich();
-    deck.controls.title.caption = desk_.destination.dest_nom_fichier + " - ";
-    errors.skip([&] { show_length(deck); });
-    if (deck.graph().get_Duration() >= shortest_good_file)
-        set_bar(deck);
-}
-
 void DeckLoading::charge_lire(const std::string& path) {
     Deck& deck = desk_.deck(1);
     deck.create_graph();

@@ -16,26 +16,15 @@ class DeckLoading {
 public:
     DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix);
 
-    void charge_1() { load_record(desk_.deck(1)); }
-    void charge_2() { load_record(desk_.deck(2)); }
-    void charge_3() { load_record(desk_.deck(3)); }
-    void charge_1_F() { charge_1(); }
-    void charge_2_F() { charge_2(); }
-    void charge_3_F() { charge_3(); }
     /// The destination record's file, by hand.
     void load_record(Deck& deck);
     /// Whether a hand may put another file on a deck: for one that sounds the operator is asked, No as default.
     [[nodiscard]] bool may_be_cut(const Deck& deck);
 
-    void charge_1_list() { load_from_list(desk_.deck(1)); }
-    void charge_2_list() { load_from_list(desk_.deck(2)); }
-    void charge_3_list() { load_from_list(desk_.deck(3)); }
     /// `chemin_fichier`, or the listening path, without starting it. Any failure sets `erreur_chargement` and no more,
     /// and so does a file that is shorter than a second.
     void load_from_list(Deck& deck);
 
-    /// The file already named on deck 1, without resolving its path.
-    void charge_();
     /// A file of the program's command line on deck 1.
     void charge_lire(const std::string& path);
 

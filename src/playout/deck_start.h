@@ -15,9 +15,6 @@ class DeckStart {
 public:
     DeckStart(Desk& desk, DeckLoading& loading, DeckVolume& volume, MixEngine& mix, Journal& journal);
 
-    void play1() { play(desk_.deck(1)); }
-    void play2() { play(desk_.deck(2)); }
-    void play3() { play(desk_.deck(3)); }
     /// A deck that has already moved doesn't start again, and one without a file neither.
     /// @throws Failure when its file can't be rendered, or its end point is no number.
     void play(Deck& deck);
@@ -28,9 +25,6 @@ public:
     /// Chooses the chain over decks, with all that goes with it, even where the choice is shown already.
     std::function<void()> choose_chain_over_decks;
 
-    void stop_play1() { clear_display(desk_.deck(1)); }
-    void stop_play2() { clear_display(desk_.deck(2)); }
-    void stop_play3() { clear_display(desk_.deck(3)); }
     /// Clears a deck's display; its sound goes on.
     void clear_display(Deck& deck);
 

@@ -17,9 +17,6 @@ public:
     void stop(Deck& deck);
     /// Pauses a deck that runs, resumes any other. A paused deck stops the clock tick of the window.
     void toggle_pause(Deck& deck);
-    void A_pause() { toggle_pause(desk_.deck(1)); }
-    void A_pause_1() { toggle_pause(desk_.deck(2)); }
-    void A_pause_2() { toggle_pause(desk_.deck(3)); }
 
     /// Seek steps of this session, in seconds; 0 stands for the default.
     double saut_avance = 0;

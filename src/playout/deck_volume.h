@@ -13,21 +13,12 @@ public:
     /// `reload_list` shows the list anew after a record was changed.
     DeckVolume(Desk& desk, std::function<void()> reload_list);
 
-    void AdjustVolume() { adjust(desk_.deck(1)); }
-    void AdjustVolume1() { adjust(desk_.deck(2)); }
-    void AdjustVolume2() { adjust(desk_.deck(3)); }
     /// Slider to texts, and to the graph where there is one. A file without sound is passed over.
     void adjust(Deck& deck);
 
-    void SetSliderText() { show(desk_.deck(1)); }
-    void SetSliderText1() { show(desk_.deck(2)); }
-    void SetSliderText2() { show(desk_.deck(3)); }
     /// Slider to its hint and percent.
     static void show(Deck& deck);
 
-    void A_lire_volume() { apply_record(desk_.deck(1)); }
-    void A_lire_volume1() { apply_record(desk_.deck(2)); }
-    void A_lire_volume2() { apply_record(desk_.deck(3)); }
     /// Volume of the destination record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves
     /// the slider where it is.
     void apply_record(Deck& deck);

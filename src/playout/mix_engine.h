@@ -14,8 +14,6 @@ public:
     /// Sets overlap and load lead from the main deck's end point.
     /// @throws Failure 13 for an end point that is no number.
     void Choix_mix();
-    /// An entry point of the chain at which nothing has to be done.
-    void choix_mix_volume() {}
 
     /// The overlap field's buttons and its up-down companion.
     void Image14_Click() { change_overlap(-1); }

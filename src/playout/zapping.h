@@ -19,9 +19,6 @@ public:
 
     /// From the main deck, by key. A zap that is refused changes nothing.
     void zapping();
-    void zap1() { zap(desk_.deck(1)); }
-    void zap2() { zap(desk_.deck(2)); }
-    void zap3() { zap(desk_.deck(3)); }
     void zap(Deck& old);
     /// The zap button of the main deck, any other does nothing: the automatic zap in the list's reading modes, else the
     /// operator's.

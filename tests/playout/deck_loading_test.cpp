@@ -16,7 +16,7 @@ protected:
     void load_record(std::string_view path, std::string_view genre = "Rock") {
         station.destination.dest_chemin = path;
         station.destination.dest_genre = genre;
-        station.deck_loading.charge_1();
+        station.deck_loading.load_record(station.desk.deck(1));
     }
 };
 
@@ -252,7 +252,7 @@ TEST_F(DeckLoadingTest, ListLoadShowsTheRecordsEnd) {
     station.chain.mode_enchainement = true;
     station.list.chemin_fichier = song;
     station.destination.dest_fin = "80.00";
-    station.deck_loading.charge_2_list();
+    station.deck_loading.load_from_list(station.desk.deck(2));
     EXPECT_EQ(controls(2).counter.caption.get(), "80.00");
     EXPECT_EQ(station.desk.deck(2).duree_piste, "100");
     EXPECT_TRUE(station.main_window.Timer4.enabled());
@@ -263,7 +263,7 @@ TEST_F(DeckLoadingTest, ListLoadOfTheFullLengthShowsTheFilesEnd) {
     station.list_window.Option4.click();
     station.list.chemin_fichier = song;
     station.destination.dest_fin = "80.00";
-    station.deck_loading.charge_2_list();
+    station.deck_loading.load_from_list(station.desk.deck(2));
     EXPECT_EQ(controls(2).counter.caption.get(), "100");
 }
 
@@ -273,7 +273,7 @@ TEST_F(DeckLoadingTest, ListLoadInPreListenIsCutAtItsSeconds) {
     station.chain.preecoute_active = true;
     station.chain.duree_preecoute = 10;
     station.list.chemin_fichier = song;
-    station.deck_loading.charge_3_list();
+    station.deck_loading.load_from_list(station.desk.deck(3));
     EXPECT_EQ(controls(3).counter.caption.get(), "10");
 }
 
@@ -283,14 +283,14 @@ TEST_F(DeckLoadingTest, ListLoadInPreListenOfAShorterFileHasItsLength) {
     station.chain.preecoute_active = true;
     station.chain.duree_preecoute = 10;
     station.list.chemin_fichier = song;
-    station.deck_loading.charge_3_list();
+    station.deck_loading.load_from_list(station.desk.deck(3));
     EXPECT_EQ(controls(3).counter.caption.get(), "8");
 }
 
 TEST_F(DeckLoadingTest, ListLoadShortensTheNameOfTheListWindow) {
     machine.add_track("C:\\abcdefghijklmnopqrst.mp3", 60);
     station.list.chemin_fichier = "C:\\abcdefghijklmnopqrst.mp3";
-    station.deck_loading.charge_1_list();
+    station.deck_loading.load_from_list(station.desk.deck(1));
     EXPECT_EQ(station.list_window.Label2.caption.get(), "abcdefghijklmnop ...");
     EXPECT_EQ(station.small_player.caption.get(), "abcdefghijklmnopqrst");
     EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:00");
@@ -298,7 +298,7 @@ TEST_F(DeckLoadingTest, ListLoadShortensTheNameOfTheListWindow) {
 
 TEST_F(DeckLoadingTest, ListLoadOfAnUnplayableFileOnlySetsTheFlag) {
     station.list.chemin_fichier = "C:\\absent.mp3";
-    station.deck_loading.charge_1_list();
+    station.deck_loading.load_from_list(station.desk.deck(1));
     EXPECT_TRUE(station.chain.erreur_chargement.is_true());
 }
 

@@ -184,7 +184,7 @@ TEST_F(DeckOpening, RecordOfAQuickLoadHasItsVolumeInPercent) {
     for (const auto& [percent, attenuation] : {std::pair{50, -2000}, std::pair{100, 0}, std::pair{0, 0}}) {
         station.destination.dest_chemin = song;
         station.destination.dest_volume = percent;
-        station.deck_loading.charge_3();
+        station.deck_loading.load_record(station.desk.deck(3));
         controls(3).play.enabled = true;
         controls(3).play.click();
         EXPECT_EQ(station.desk.deck(3).graph().get_Volume(), Millibel{attenuation}) << percent;
@@ -227,21 +227,15 @@ protected:
 
 TEST_F(FileOfOneSecond, OfARecordIsGood) {
     controls(2).zap.enabled = false;
-    station.deck_loading.charge_2();
+    station.deck_loading.load_record(station.desk.deck(2));
     EXPECT_EQ(controls(2).progress.maximum, 1);
     EXPECT_TRUE(controls(2).zap.enabled);
 }
 
 TEST_F(FileOfOneSecond, OfAListIsGood) {
-    station.deck_loading.charge_2_list();
+    station.deck_loading.load_from_list(station.desk.deck(2));
     EXPECT_EQ(controls(2).progress.maximum, 1);
     EXPECT_FALSE(station.chain.erreur_chargement.is_true());
-}
-
-TEST_F(FileOfOneSecond, NamedOnTheDeckIsGood) {
-    station.chain.chemin_lecture = song;
-    station.deck_loading.charge_();
-    EXPECT_EQ(controls(1).progress.maximum, 1);
 }
 
 TEST_F(FileOfOneSecond, OfTheCommandLineIsGood) {
@@ -252,7 +246,7 @@ TEST_F(FileOfOneSecond, OfTheCommandLineIsGood) {
 
 TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
     station.destination.dest_debut = 0.5;
-    station.deck_loading.charge_2_list();
+    station.deck_loading.load_from_list(station.desk.deck(2));
     controls(2).progress.maximum = 100;
     controls(2).play.click();
     EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.5);
@@ -261,11 +255,11 @@ TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
 
 TEST_F(FileOfOneSecond, AndLessFailsInAListLoad) {
     machine.media.set_length(song, 0.99);
-    station.deck_loading.charge_3_list();
+    station.deck_loading.load_from_list(station.desk.deck(3));
     EXPECT_TRUE(station.chain.erreur_chargement.is_true());
     EXPECT_TRUE(station.chain.file_too_short);
     machine.media.set_length(song, 1.0);
-    station.deck_loading.charge_3_list();
+    station.deck_loading.load_from_list(station.desk.deck(3));
     EXPECT_FALSE(station.chain.file_too_short);
 }
 

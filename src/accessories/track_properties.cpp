@@ -105,7 +105,6 @@ bool TrackProperties::fill_finds_a_volume(int row) {
     destination_.convertir_valeur_son_ecriture();
     row_ = row;
     path_ = trim(destination_.dest_chemin);
-    list_.nom_fichier_maj = path_;
     changed_ = false;
     window_.Label2.caption = destination_.dest_nom_fichier;
     window_.Text1.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));

@@ -3,41 +3,34 @@
 #include "metadata/TypeTagV1.h"
 #include "metadata/genre_table.h"
 #include "platform/duration_text.h"
-#include "platform/failure.h"
 #include "platform/media.h"
 
 namespace sonarelle {
 
-void FileMeasure::met_ajour() {
+MeasuredFile FileMeasure::met_ajour(const std::string& path) const {
     try {
         const auto graph = platform_.media.create_graph();
-        graph->RenderFile(list_.nom_fichier_maj);
-        take(graph->get_Duration());
+        graph->RenderFile(path);
+        return facts_of(path, graph->get_Duration());
     } catch (const Failure& failure) {
-        report(failure);
+        return failure;
     }
 }
 
-void FileMeasure::met_ajour(const MeasuredLength& length) {
+MeasuredFile FileMeasure::met_ajour(const std::string& path, const MeasuredLength& length) const {
     if (length.failure)
-        return report(*length.failure);
+        return *length.failure;
     try {
-        take(length.seconds);
+        return facts_of(path, length.seconds);
     } catch (const Failure& failure) {
-        report(failure);
+        return failure;
     }
 }
 
-void FileMeasure::take(double seconds) {
-    chain_.duree_mesuree = seconds;
-    chain_.duree_piste_texte = format_heure(seconds, platform_.decimal_mark);
+TrackFacts FileMeasure::facts_of(const std::string& path, double seconds) const {
     TypeTagV1 tag{platform_.disk};
-    list_.genre_lu = nom_du_genre(tag.LireTag(list_.nom_fichier_maj).Genre());
-}
-
-void FileMeasure::report(const Failure& failure) {
-    reason_ = failure.what();
-    list_.mesure_echouee = true;
+    return {seconds, format_heure(seconds, platform_.decimal_mark),
+            std::string{nom_du_genre(tag.LireTag(path).Genre())}};
 }
 
 } // namespace sonarelle

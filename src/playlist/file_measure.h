@@ -1,36 +1,38 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <variant>
 
+#include "platform/failure.h"
 #include "platform/lengths_ahead.h"
 #include "platform/platform.h"
-#include "state/chain_state.h"
-#include "state/list_state.h"
 
 namespace sonarelle {
+
+/// What a file is found to hold.
+struct TrackFacts {
+    double seconds = 0;
+    std::string duration; ///< The same as hh:mm:ss.
+    std::string genre;    ///< Of its tag.
+};
+
+/// The facts of a file, or why it can't be measured.
+using MeasuredFile = std::variant<TrackFacts, Failure>;
 
 /// Measures one file apart from the decks.
 class FileMeasure {
 public:
-    FileMeasure(const Platform& platform, ListState& list, ChainState& chain)
-        : platform_{platform}, list_{list}, chain_{chain} {}
+    explicit FileMeasure(const Platform& platform) : platform_{platform} {}
 
-    /// Length and genre of `nom_fichier_maj` into `duree_mesuree`, `duree_piste_texte` and `genre_lu`. A file that
-    /// can't be measured sets `mesure_echouee` and leaves them as far as they were taken.
-    void met_ajour();
+    [[nodiscard]] MeasuredFile met_ajour(const std::string& path) const;
     /// The same of a file whose length was measured ahead.
-    void met_ajour(const MeasuredLength& length);
-    /// Why the last file couldn't be measured.
-    [[nodiscard]] const std::string& reason() const { return reason_; }
+    [[nodiscard]] MeasuredFile met_ajour(const std::string& path, const MeasuredLength& length) const;
 
 private:
-    void take(double seconds);
-    void report(const Failure& failure);
+    [[nodiscard]] TrackFacts facts_of(const std::string& path, double seconds) const;
 
     const Platform& platform_;
-    ListState& list_;
-    ChainState& chain_;
-    std::string reason_;
 };
 
 } // namespace sonarelle

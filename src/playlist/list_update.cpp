@@ -41,7 +41,6 @@ void ListUpdate::a_mettre_a_jour() {
     } catch (const Failure& failure) {
         trouble = failure.what();
     }
-    list_.mesure_echouee = false;
     if (trouble)
         give_up(*trouble);
     else
@@ -61,9 +60,9 @@ std::optional<std::string> ListUpdate::update_one_row() {
 
 void ListUpdate::update_dropped_row() {
     const int row = list_.index_insertion.value();
-    measure(row);
-    if (!list_.mesure_echouee.is_true())
-        return window_.ListView1.replace(row, measured_row(destination_));
+    const MeasuredFile measured = measure(row);
+    if (const auto* facts = std::get_if<TrackFacts>(&measured))
+        return window_.ListView1.replace(row, measured_row(destination_, *facts));
     window_.ListView1.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;
@@ -72,17 +71,16 @@ void ListUpdate::update_dropped_row() {
 std::optional<std::string> ListUpdate::update_selected_row() {
     const int row = window_.ListView1.selected();
     make_current(row);
-    measure(row);
-    if (list_.mesure_echouee.is_true())
-        return measure_.reason();
-    window_.ListView1.replace(row, measured_row(destination_));
+    const MeasuredFile measured = measure(row);
+    if (const auto* failure = std::get_if<Failure>(&measured))
+        return failure->what();
+    window_.ListView1.replace(row, measured_row(destination_, std::get<TrackFacts>(measured)));
     return std::nullopt;
 }
 
-void ListUpdate::measure(int row) {
+MeasuredFile ListUpdate::measure(int row) {
     reading_.read(row);
-    list_.nom_fichier_maj = destination_.dest_chemin;
-    measure_.met_ajour();
+    return measure_.met_ajour(destination_.dest_chemin);
 }
 
 void ListUpdate::give_up(const std::string& description) {
@@ -156,11 +154,10 @@ int ListUpdate::update_row(int row, LengthsAhead& lengths) {
     if (row > window_.ListView1.count() || window_.ListView1.row(row) != before)
         return reading_.place_of(before, row);
     const KeptForTheAir kept{chain_, list_, destination_};
-    list_.chemin_fichier = list_.nom_fichier_maj = record.dest_chemin;
-    measure_.met_ajour(*length);
-    if (!list_.mesure_echouee.is_true())
-        window_.ListView1.replace(row, measured_row(record));
-    list_.mesure_echouee = false;
+    list_.chemin_fichier = record.dest_chemin;
+    const MeasuredFile measured = measure_.met_ajour(record.dest_chemin, *length);
+    if (const auto* facts = std::get_if<TrackFacts>(&measured))
+        window_.ListView1.replace(row, measured_row(record, *facts));
     return row + 1;
 }
 
@@ -188,13 +185,13 @@ void ListUpdate::make_current(int row) {
         list_.index_en_cours = row;
 }
 
-RowTable::Row ListUpdate::measured_row(const DestinationRecord& record) const {
+RowTable::Row ListUpdate::measured_row(const DestinationRecord& record, const TrackFacts& facts) const {
     return {record.dest_chemin,
             Format(record.dest_debut, start_pattern, platform_.decimal_mark),
-            Format(chain_.duree_mesuree, start_pattern, platform_.decimal_mark),
-            list_.genre_lu,
+            Format(facts.seconds, start_pattern, platform_.decimal_mark),
+            facts.genre,
             "100",
-            chain_.duree_piste_texte};
+            facts.duration};
 }
 
 } // namespace sonarelle

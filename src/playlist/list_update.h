@@ -38,7 +38,7 @@ private:
     [[nodiscard]] std::optional<std::string> update_one_row();
     void update_dropped_row();
     [[nodiscard]] std::optional<std::string> update_selected_row();
-    void measure(int row);
+    [[nodiscard]] MeasuredFile measure(int row);
     void give_up(const std::string& description);
 
     [[nodiscard]] bool may_begin(bool after_drop);
@@ -47,7 +47,7 @@ private:
     [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);
     void offer_saving(const std::string& short_name);
     void make_current(int row);
-    [[nodiscard]] RowTable::Row measured_row(const DestinationRecord& record) const;
+    [[nodiscard]] RowTable::Row measured_row(const DestinationRecord& record, const TrackFacts& facts) const;
 
     const Platform& platform_;
     ListState& list_;

@@ -45,16 +45,13 @@ int RowReading::place_of(const RowTable::Row& wanted, int old_place) const {
 }
 
 KeptForTheAir::KeptForTheAir(ChainState& chain, ListState& list, DestinationRecord& destination)
-    : chain_{chain}, list_{list}, destination_{destination}, kept_{destination}, chemin_fichier_{list.chemin_fichier},
-      duree_piste_texte_{chain.duree_piste_texte}, duree_mesuree_{chain.duree_mesuree} {}
+    : chain_{chain}, list_{list}, destination_{destination}, kept_{destination}, chemin_fichier_{list.chemin_fichier} {}
 
 KeptForTheAir::~KeptForTheAir() {
     if (chain_.lecteur_en_cours == 0)
         return;
     destination_ = kept_;
     list_.chemin_fichier = chemin_fichier_;
-    chain_.duree_piste_texte = duree_piste_texte_;
-    chain_.duree_mesuree = duree_mesuree_;
 }
 
 } // namespace sonarelle

@@ -56,8 +56,6 @@ private:
     DestinationRecord& destination_;
     const DestinationRecord kept_;
     const std::string chemin_fichier_;
-    const std::string duree_piste_texte_;
-    const double duree_mesuree_;
 };
 
 } // namespace sonarelle

@@ -84,7 +84,7 @@ private:
     [[nodiscard]] bool is_folder_there(const std::string& path);
     /// Its folder answers and doesn't hold it.
     [[nodiscard]] bool is_missing(const std::string& path);
-    [[nodiscard]] std::string_view why_not_loaded() const;
+    [[nodiscard]] static std::string_view why_not_loaded(LoadResult result);
     void loaded();
     void drop_invalid_row();
     /// Keeps the current row, and journals once a track why it isn't taken.

@@ -76,13 +76,11 @@ void AutoChain::load_step() {
 
 void AutoChain::leave_load_step() {
     desk_.window.mouse_pointer = 0;
-    desk_.chain.erreur_chargement = false;
 }
 
 /// Looks at the next row; true when it was loaded, or the list was stopped.
 bool AutoChain::try_to_load_next() {
     ChainState& chain = desk_.chain;
-    chain.erreur_chargement = false;
     if (chain.ordre_aleatoire.is_false()) {
         chain.choix_prepare = false;
         take_next_row();
@@ -164,13 +162,13 @@ bool AutoChain::is_file_there() {
 
 bool AutoChain::load_row() {
     desk_.window.Timer1.disable();
-    loading_.load_from_list(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
-    if (!desk_.chain.erreur_chargement.is_true())
+    const LoadResult result = loading_.load_from_list(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
+    if (result == LoadResult::loaded)
         return true;
-    if (!desk_.chain.is_row_passed_over() && is_missing(desk_.list.chemin_fichier))
+    if (result == LoadResult::failed && is_missing(desk_.list.chemin_fichier))
         drop_invalid_row();
     else
-        pass_over_row(load_walk_, why_not_loaded());
+        pass_over_row(load_walk_, why_not_loaded(result));
     return false;
 }
 
@@ -186,10 +184,10 @@ bool AutoChain::is_missing(const std::string& path) {
     return found.empty() && is_folder_there(path);
 }
 
-std::string_view AutoChain::why_not_loaded() const {
-    return desk_.chain.disk_did_not_answer ? passed_over::silent_disk
-           : desk_.chain.file_too_short    ? passed_over::too_short
-                                           : passed_over::unplayable;
+std::string_view AutoChain::why_not_loaded(LoadResult result) {
+    return result == LoadResult::disk_did_not_answer ? passed_over::silent_disk
+           : result == LoadResult::too_short         ? passed_over::too_short
+                                                     : passed_over::unplayable;
 }
 
 // In list order the chain adds 1 again when it starts the track.

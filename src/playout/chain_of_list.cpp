@@ -127,17 +127,16 @@ bool AutoChain::load_behind(Deck& old) {
     reading_.read_for_the_air();
     Deck& next = desk_.deck(next_deck(old.number()));
     const bool told = is_loaded(next);
-    desk_.chain.erreur_chargement = false;
-    loading_.load_from_list(next);
-    if (desk_.chain.is_row_passed_over()) {
-        pass_over_row(mix_walk_, why_not_loaded());
+    const LoadResult result = loading_.load_from_list(next);
+    if (is_passed_over(result)) {
+        pass_over_row(mix_walk_, why_not_loaded(result));
         return false;
     }
-    if (desk_.chain.erreur_chargement.is_true() && !is_folder_there(next.path)) {
+    if (result == LoadResult::failed && !is_folder_there(next.path)) {
         pass_over_row(mix_walk_, passed_over::no_folder);
         return false;
     }
-    if (!told && !desk_.chain.erreur_chargement.is_true())
+    if (!told && result == LoadResult::loaded)
         desk_.report_loaded(next);
     return true;
 }

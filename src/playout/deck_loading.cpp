@@ -1,5 +1,7 @@
 #include "playout/deck_loading.h"
 
+#include <utility>
+
 #include "configuration/settings_store.h"
 #include "platform/dialogs.h"
 #include "platform/disk.h"
@@ -9,6 +11,7 @@
 #include "platform/text.h"
 #include "playlist/volume_table.h"
 #include "playout/air_view.h"
+#include "playout/file_title.h"
 #include "playout/mix_engine.h"
 
 namespace sonarelle {
@@ -19,10 +22,6 @@ constexpr std::string_view network_genre = "réseau";
 constexpr std::string_view media_filter =
     "fichier multimédia |*.mp3;*.wav;*.wma;*.mid;*.avi;*.mpg|fichier (*.mp3)|*.mp3|fichier (*.wav)|*.wav|"
     "fichier (*.mid)|*.mid|";
-
-std::string cut(const std::string& text, std::size_t count, std::string_view tail) {
-    return std::string{left(text, count)}.append(tail);
-}
 
 } // namespace
 
@@ -39,63 +38,55 @@ void DeckLoading::load_record(Deck& deck) {
     take_record(deck);
     if (const int percent = desk_.destination.dest_volume.value(); percent > 0) // 0 is none that was ever set
         deck.volume_piste = attenuation_of_percent(percent);
-    desk_.chain.nom_fichier_source = deck.path;
-    nom_du_fich();
+    const std::string title = short_title(name_of(deck.path));
     ErrorIndicator errors;
     errors.skip([&] { deck.graph().RenderFile(deck.path); });
-    desk_.chain.duree_mesuree = deck.graph().get_Duration();
-    errors.skip([&] { format_duration(); });
-    formate_nom();
-    show_loaded(deck);
+    const double length = deck.graph().get_Duration();
+    std::string duration;
+    errors.skip([&] { duration = duration_text(length); });
+    show_loaded(deck, duration, title);
     errors.skip([&] { show_length(deck); });
-    if (desk_.chain.duree_mesuree < shortest_good_file)
+    if (length < shortest_good_file)
         return;
     set_bar(deck);
     deck.controls.zap.enabled = true;
-    desk_.show_on_small_player(desk_.destination.dest_nom_fichier);
+    desk_.show_on_small_player(title);
 }
 
-void DeckLoading::load_from_list(Deck& deck) {
+LoadResult DeckLoading::load_from_list(Deck& deck) {
     deck.create_graph();
-    desk_.chain.disk_did_not_answer = desk_.chain.file_too_short = false;
     try {
-        render_from_list(deck);
+        return render_from_list(deck);
     } catch (const Failure& failure) {
-        desk_.chain.erreur_chargement = true;
-        desk_.chain.disk_did_not_answer = failure.number == failure_number::device_fault;
+        return failure.number == failure_number::device_fault ? LoadResult::disk_did_not_answer : LoadResult::failed;
     }
 }
 
-void DeckLoading::render_from_list(Deck& deck) {
+LoadResult DeckLoading::render_from_list(Deck& deck) {
     ChainState& chain = desk_.chain;
     deck.path = chain.ecoute_demandee.is_true() ? chain.chemin_ecoute : desk_.list.chemin_fichier;
     desk_.window.Text2.set_text(deck.path);
-    chain.nom_fichier_source = deck.path;
-    nom_du_fich();
+    const std::string name = short_title(name_of(deck.path));
     deck.graph().RenderFile(deck.path);
-    chain.duree_mesuree = deck.graph().get_Duration();
+    const double length = deck.graph().get_Duration();
     take_record(deck);
     deck.fin_piste = desk_.destination.dest_fin;
     deck.duree_piste = text_of(deck.whole_duration());
     if (!desk_.list_window.Option4.value() && chain.mode_enchainement.is_true())
         desk_.window.Timer4.enable();
     deck.controls.counter.caption = end_point_text(deck, deck.fin_piste);
-    format_duration();
-    formate_nom();
-    show_loaded(deck);
-    std::string& name = desk_.destination.dest_nom_fichier;
+    const std::string duration = duration_text(length);
+    show_loaded(deck, duration, name);
     desk_.show_on_small_player(name);
-    if (character_count(name) > 16)
-        name = cut(name, 16, " ...");
     if (chain.ecoute_en_cours.is_false()) {
-        desk_.list_window.caption = name;
-        desk_.list_window.Label2.caption = name;
-        desk_.list_window.Label4.caption = chain.duree_piste_texte;
+        desk_.list_window.caption = cut_title(name, 16);
+        desk_.list_window.Label2.caption = cut_title(name, 16);
+        desk_.list_window.Label4.caption = duration;
     }
-    if (chain.duree_mesuree >= shortest_good_file)
-        set_bar(deck);
-    else // its bar would never come to its end, for which the chain waits
-        chain.erreur_chargement = chain.file_too_short = true;
+    if (length < shortest_good_file)
+        return LoadResult::too_short;
+    set_bar(deck);
+    return LoadResult::loaded;
 }
 
 // Other records are read while this one waits on its deck. What a hand loads plays to its end.
@@ -129,9 +120,8 @@ void DeckLoading::charge_lire(const std::string& path) {
     Deck& deck = desk_.deck(1);
     deck.create_graph();
     desk_.chain.lecteur_en_cours = 1;
-    deck.path = desk_.destination.dest_chemin = desk_.chain.nom_fichier_source = path;
-    nom_du_fich();
-    deck.controls.title.caption = desk_.destination.dest_nom_fichier;
+    deck.path = desk_.destination.dest_chemin = path;
+    deck.controls.title.caption = name_of(path);
     Failure failure{failure_number::unplayable_file};
     try {
         deck.graph().RenderFile(path);
@@ -184,19 +174,17 @@ void DeckLoading::open(Deck& deck) {
         if (!choose_file(deck))
             return;
     }
-    desk_.chain.nom_fichier_source = deck.path;
-    nom_du_fich();
-    formate_nom();
+    const std::string title = short_title(name_of(deck.path));
     mix_.manuel_mix();
     deck.forget_record();
     attempt([&] { deck.graph().RenderFile(deck.path); });
-    desk_.chain.duree_mesuree = deck.graph().get_Duration();
-    attempt([this] { format_duration(); });
-    show_loaded(deck);
-    desk_.chain.duree_piste_texte.clear();
+    const double length = deck.graph().get_Duration();
+    std::string duration;
+    attempt([&] { duration = duration_text(length); });
+    show_loaded(deck, duration, title);
     volume_.adjust(deck);
     attempt([&] { show_length(deck); });
-    if (desk_.chain.duree_mesuree < shortest_good_file)
+    if (length < shortest_good_file)
         report_failed_open(deck, pending);
     else
         accept_opened(deck);
@@ -299,25 +287,18 @@ void DeckLoading::recup_path(Deck& deck) {
     deck.path.clear();
 }
 
-void DeckLoading::nom_du_fich() {
-    const std::string name{name_of_path(desk_.chain.nom_fichier_source)};
-    const std::size_t count = character_count(name);
-    desk_.destination.dest_nom_fichier = left(name, count > 4 ? count - 4 : 0);
-    desk_.chain.extension_fichier = extension_of(desk_.chain.nom_fichier_source);
+std::string DeckLoading::name_of(std::string_view path) {
+    FileTitle title = title_of(path);
+    desk_.chain.extension_fichier = std::move(title.extension);
+    return std::move(title.name);
 }
 
-void DeckLoading::formate_nom() {
-    std::string& name = desk_.destination.dest_nom_fichier;
-    if (character_count(name) >= 23)
-        name = lower_case(cut(name, 23, " ..."));
+std::string DeckLoading::duration_text(double seconds) const {
+    return format_heure(seconds, desk_.platform.decimal_mark);
 }
 
-void DeckLoading::format_duration() {
-    desk_.chain.duree_piste_texte = format_heure(desk_.chain.duree_mesuree, desk_.platform.decimal_mark);
-}
-
-void DeckLoading::show_loaded(Deck& deck) {
-    deck.controls.title.caption = desk_.chain.duree_piste_texte + " ( " + desk_.destination.dest_nom_fichier + " )";
+void DeckLoading::show_loaded(Deck& deck, const std::string& duration, const std::string& title) {
+    deck.controls.title.caption = duration + " ( " + title + " )";
     deck.controls.special_mix.hint = "Mixage spécial sur lecteur en cours (" +
                                      std::string{deck_names[static_cast<std::size_t>(deck.number() - 1)].mix_key} +
                                      ") avec : " + deck.path;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "playout/deck_volume.h"
@@ -9,6 +10,19 @@
 namespace sonarelle {
 
 class MixEngine;
+
+/// What became of a load.
+enum class LoadResult {
+    loaded,
+    failed,              ///< The file can't be played.
+    disk_did_not_answer, ///< Its disk was silent for too long.
+    too_short ///< It is shorter than a second: its bar would never come to its end, for which the chain waits.
+};
+
+/// Whether it failed in a way that may be mended by tomorrow: its row stays in the list.
+[[nodiscard]] constexpr bool is_passed_over(LoadResult result) {
+    return result == LoadResult::disk_did_not_answer || result == LoadResult::too_short;
+}
 
 /// Loads files on the decks. Every load takes a new graph first, so a deck that still plays goes silent at that moment,
 /// whatever becomes of the load.
@@ -21,9 +35,8 @@ public:
     /// Whether a hand may put another file on a deck: for one that sounds the operator is asked, No as default.
     [[nodiscard]] bool may_be_cut(const Deck& deck);
 
-    /// `chemin_fichier`, or the listening path, without starting it. Any failure sets `erreur_chargement` and no more,
-    /// and so does a file that is shorter than a second.
-    void load_from_list(Deck& deck);
+    /// `chemin_fichier`, or the listening path, without starting it.
+    LoadResult load_from_list(Deck& deck);
 
     /// A file of the program's command line on deck 1.
     void charge_lire(const std::string& path);
@@ -43,21 +56,19 @@ public:
     /// The end point that a deck's counter shows by the reading options in force.
     [[nodiscard]] std::string end_point_text(Deck& deck, const std::string& end_of_record) const;
 
-    /// Splits `nom_fichier_source` into a name without its ending and the ending.
-    void nom_du_fich();
-    /// Shortens `dest_nom_fichier` for display.
-    void formate_nom();
-    /// `duree_mesuree` to `duree_piste_texte`.
-    void format_duration();
+    /// The name of a file without its ending. A stop closes the video window by the ending of the file named last.
+    [[nodiscard]] std::string name_of(std::string_view path);
+    /// Seconds as a deck's title shows them. @throws Failure 6 above 32,767 seconds.
+    [[nodiscard]] std::string duration_text(double seconds) const;
     /// Writes the folder of the chosen file into the settings.
     void ecrire_path_fichier(const std::string& path);
 
 private:
-    void render_from_list(Deck& deck);
+    [[nodiscard]] LoadResult render_from_list(Deck& deck);
     /// The destination record's start and volume are those of the deck's file; an end it has none yet.
     void take_record(Deck& deck);
     void show_length(Deck& deck);
-    void show_loaded(Deck& deck);
+    void show_loaded(Deck& deck, const std::string& duration, const std::string& title);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);
     void open(Deck& deck);

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "playout/file_title.h"
+
 namespace sonarelle {
 
 namespace {
@@ -83,10 +85,9 @@ void DeckStart::set_end_point(Deck& deck) {
 void DeckStart::run(Deck& deck) {
     desk_.window.Timer1.enable();
     deck.controls.scroll_timer.enable();
-    desk_.chain.duree_mesuree = deck.graph().get_Duration();
-    loading_.format_duration();
-    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
-    if (desk_.chain.duree_mesuree >= shortest_good_file) {
+    const double length = deck.graph().get_Duration();
+    desk_.list_window.Label4.caption = loading_.duration_text(length);
+    if (length >= shortest_good_file) {
         deck.controls.progress.maximum = deck.whole_duration().value();
         deck.graph().put_CurrentPosition(deck.debut_piste);
     }
@@ -108,17 +109,15 @@ void DeckStart::show_names(Deck& deck) {
     desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
     if (desk_.chain.ecoute_en_cours.is_false())
         desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
-    desk_.chain.nom_fichier_source = deck.path;
-    loading_.nom_du_fich();
-    std::string& name = desk_.destination.dest_nom_fichier;
+    const std::string name = loading_.name_of(deck.path);
+    const std::string title = short_title(name);
     desk_.window.caption = desk_.settings.nom_radio + " : " + name;
     desk_.list_window.caption = name;
-    loading_.formate_nom();
-    deck.controls.title.caption = name + " - ";
-    desk_.show_on_small_player(name);
-    desk_.list_window.Label2.caption = name;
+    deck.controls.title.caption = title + " - ";
+    desk_.show_on_small_player(title);
+    desk_.list_window.Label2.caption = title;
     if (has_video_ending(desk_.chain.extension_fichier))
-        deck.open_video(name);
+        deck.open_video(title);
 }
 
 void DeckStart::show_main_deck(Deck& deck) {

@@ -89,9 +89,8 @@ void DeckTransport::back(Deck& deck) {
 
 void DeckTransport::seek(Deck& deck, double target) {
     deck.graph().put_CurrentPosition(target);
-    desk_.chain.duree_mesuree = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
-    ErrorIndicator{}.skip([this] { loading_.format_duration(); });
-    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
+    const double left = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
+    ErrorIndicator{}.skip([&] { desk_.list_window.Label4.caption = loading_.duration_text(left); });
 }
 
 void DeckTransport::unload(Deck& deck) {

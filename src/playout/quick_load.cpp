@@ -58,9 +58,7 @@ void QuickLoad::fill(const Box& box, const std::string& file, bool replaces) {
 
 // The path comes with the blanks that fill its field, so it is those that the name loses as its ending.
 std::string QuickLoad::item_text(const Box& box, const enreg_liste& record) {
-    desk_.chain.nom_fichier_source = record.chemin();
-    loading_.nom_du_fich();
-    const std::string& name = desk_.destination.dest_nom_fichier;
+    const std::string name = loading_.name_of(record.chemin());
     return std::string{trim(box.shows_duration ? record.duree_piste() + " - " + name : name)};
 }
 

@@ -5,6 +5,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playout/file_title.h"
 
 namespace sonarelle {
 
@@ -60,8 +61,6 @@ void RunControl::start_first_deck() {
     desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off
     start_.align_timers();
     deck.volume_sauve = deck.controls.slider.value();
-    desk_.chain.duree_mesuree = deck.graph().get_Duration();
-    loading_.format_duration();
     show_first_deck(deck);
     if (desk_.settings.valide_fichier_aleatoire.is_true()) {
         desk_.chain.compteur_aleatoire = 1;
@@ -76,17 +75,16 @@ void RunControl::start_first_deck() {
 }
 
 void RunControl::show_first_deck(Deck& deck) {
-    desk_.chain.nom_fichier_source = deck.path;
-    loading_.nom_du_fich();
-    std::string& name = desk_.destination.dest_nom_fichier;
+    const std::string duration = loading_.duration_text(deck.graph().get_Duration());
+    const std::string name = loading_.name_of(deck.path);
+    const std::string title = short_title(name);
     desk_.list_window.caption = name;
-    loading_.formate_nom();
-    deck.controls.title.caption = name + " - ";
-    desk_.list_window.Label2.caption = name;
+    deck.controls.title.caption = title + " - ";
+    desk_.list_window.Label2.caption = title;
     deck.controls.scroll_timer.enable();
     if (has_classic_video_ending(desk_.chain.extension_fichier))
-        deck.open_video(name);
-    desk_.list_window.Label4.caption = desk_.chain.duree_piste_texte;
+        deck.open_video(title);
+    desk_.list_window.Label4.caption = duration;
     desk_.window.caption = desk_.settings.nom_radio + " : " + deck.path;
     desk_.window.Label7.caption = desk_.station_banner();
     for (Deck& other : desk_.decks)

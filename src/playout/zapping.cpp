@@ -156,9 +156,7 @@ void Zapping::load_row(Deck& next) {
     desk_.list.index_destinataire = desk_.list.index_en_cours;
     reading_.read_for_the_air();
     const bool told = chain_.is_loaded(next);
-    desk_.chain.erreur_chargement = false;
-    loading_.load_from_list(next);
-    if (desk_.chain.erreur_chargement.is_true())
+    if (loading_.load_from_list(next) != LoadResult::loaded)
         throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
     if (!told)
         desk_.report_loaded(next);

@@ -33,10 +33,7 @@ struct ChainState {
     Integer index_debut_aleatoire;  ///< Row at which a run started, for the insertion of jingles.
     Integer index_debut_aleatoire1; ///< The same for the insertion of list items.
 
-    std::string nom_fichier_source; ///< The path that `nom_du_fich` works on.
-    std::string extension_fichier;  ///< Its last three characters, lower case.
-    double duree_mesuree = 0;       ///< Seconds.
-    std::string duree_piste_texte;  ///< The same as hh:mm:ss.
+    std::string extension_fichier; ///< Of the file that was named last: its last three characters, lower case.
 
     Flag mode_enchainement;  ///< True: chain from the list; false: chain over decks.
     Flag ordre_aleatoire;    ///< The next row comes by draw.
@@ -48,14 +45,9 @@ struct ChainState {
     Integer duree_preecoute; ///< Seconds.
     std::string chemin_ecoute;
 
-    Integer duree_lecteur;            ///< End point of the main deck, seconds.
-    Integer point_chargement;         ///< Elapsed second of the load.
-    Integer dernier_point_mix;        ///< The last mix point of the list chain, seconds.
-    Flag erreur_chargement;           ///< The last list load failed.
-    bool disk_did_not_answer = false; ///< It failed because its disk was silent for too long.
-    bool file_too_short = false;      ///< It failed because the file is shorter than a second.
-    /// The last list load failed in a way that may be mended by tomorrow: its row stays in the list.
-    [[nodiscard]] bool is_row_passed_over() const { return disk_did_not_answer || file_too_short; }
+    Integer duree_lecteur;       ///< End point of the main deck, seconds.
+    Integer point_chargement;    ///< Elapsed second of the load.
+    Integer dernier_point_mix;   ///< The last mix point of the list chain, seconds.
     Flag choix_prepare;          ///< The load step has drawn the next row already.
     Flag chargement_fait;        ///< The load step has loaded the next deck.
     Integer nb_fichiers_ecoutes; ///< Tracks started.

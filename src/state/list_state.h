@@ -15,10 +15,6 @@ struct ListState {
     std::string extension_fichier;       ///< Last three characters of the name just chosen, lower case, or empty.
     std::string chemin_fichier;          ///< Path of the row being considered, or last sent to a deck.
 
-    std::string nom_fichier_maj; ///< The file that `met_ajour` measures.
-    std::string genre_lu;        ///< The genre of its tag.
-    Flag mesure_echouee;         ///< It couldn't be measured.
-
     Integer index_en_cours;       ///< Row that is selected after a load or save, and the row that the chain is on.
     Integer ligne_en_lecture;     ///< Row now being played.
     Integer index_insertion;      ///< Row behind which new rows come.

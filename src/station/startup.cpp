@@ -126,7 +126,6 @@ void Startup::create_under_trap() {
     parts_.desk.chain.ligne_journal.clear();
     parts_.journal.journal();
     parts_.list.glisser_autorise = true;
-    parts_.desk.chain.erreur_chargement = false;
     parts_.desk.chain.ordre_aleatoire = parts_.desk.chain.jingles_aleatoires = false;
     if (platform_.shell.InternetGetConnectedState())
         parts_.options.A_Rafraichir_Click();
@@ -231,7 +230,7 @@ void Startup::play_on_small_player() {
     parts_.loading.charge_lire(ligne_commande_);
     window_.state = WindowState::minimised;
     player.topmost = true;
-    player.caption = parts_.desk.destination.dest_nom_fichier;
+    player.caption = parts_.desk.deck(1).controls.title.caption.get();
     player.show();
     parts_.press_play(deck);
 }

@@ -29,7 +29,7 @@ Station::Station(const Platform& platform)
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
                   list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
-      file_measure{platform_, list, chain}, journal{desk},
+      file_measure{platform_}, journal{desk},
       deck_volume{desk, [this] { list_document.show_changed_record(list.ligne_en_lecture.value()); }},
       mix_engine{desk, deck_volume}, deck_loading{desk, deck_volume, mix_engine},
       deck_start{desk, deck_loading, deck_volume, mix_engine, journal}, deck_transport{desk, deck_loading, deck_start,

@@ -72,7 +72,6 @@ TEST_F(TrackPropertiesSaveTest, SaveItsOwnRowAlthoughTheChainReadsAnother) {
     open();
     station.list.index_destinataire = 1;
     station.record_reading.lire_enreg_destinataire();
-    station.list.nom_fichier_maj = "C:\\Musique\\mesuré.mp3";
     window.Text2.set_text("100.00");
     window.AnyButton2.click();
     EXPECT_EQ(rows().sub_item(1, 2), "200.00");

@@ -17,7 +17,6 @@ TEST_F(TrackPropertiesTest, ShowTheSelectedRow) {
     EXPECT_TRUE(window.visible);
     EXPECT_EQ(window.Label2.caption.get(), "été.mp3");
     EXPECT_THAT(fields(), ElementsAre("0.1", "180.00", "Rock", "80", "00:03:20"));
-    EXPECT_EQ(station.list.nom_fichier_maj, music);
 }
 
 TEST_F(TrackPropertiesTest, ShowWhatTheFileHoldsNotTheCells) {

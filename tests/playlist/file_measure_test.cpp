@@ -10,9 +10,12 @@ constexpr std::string_view track = "C:\\Musique\\titre.mp3";
 
 class FileMeasureTest : public StationBench {
 protected:
-    void measure(std::string_view path) {
-        station.list.nom_fichier_maj = path;
-        station.file_measure.met_ajour();
+    TrackFacts measure(std::string_view path) {
+        const MeasuredFile measured = station.file_measure.met_ajour(std::string{path});
+        return std::get<TrackFacts>(measured);
+    }
+    bool cannot_be_measured(std::string_view path) {
+        return std::holds_alternative<Failure>(station.file_measure.met_ajour(std::string{path}));
     }
     /// A file that ends in a tag with this genre code.
     void put_tagged(char genre) {
@@ -25,16 +28,13 @@ protected:
 
 TEST_F(FileMeasureTest, TakesTheLengthOfTheFile) {
     machine.add_track(track, 200.03);
-    measure(track);
-    EXPECT_EQ(station.chain.duree_mesuree, 200.03);
-    EXPECT_EQ(station.chain.duree_piste_texte, "00:03:20");
-    EXPECT_TRUE(station.list.mesure_echouee.is_false());
+    EXPECT_EQ(measure(track).seconds, 200.03);
+    EXPECT_EQ(measure(track).duration, "00:03:20");
 }
 
 TEST_F(FileMeasureTest, TakesTheGenreOfTheTag) {
     put_tagged('\x11');
-    measure(track);
-    EXPECT_EQ(station.list.genre_lu, "Rock");
+    EXPECT_EQ(measure(track).genre, "Rock");
 }
 
 TEST_F(FileMeasureTest, LeavesTheDecksAlone) {
@@ -43,26 +43,24 @@ TEST_F(FileMeasureTest, LeavesTheDecksAlone) {
     open_list("C:\\matin.dfm", {record_of("C:\\autre.mp3")});
     rows().select(1);
     station.list_window.char1.click();
-    measure(track);
+    static_cast<void>(measure(track));
     EXPECT_EQ(station.desk.deck(1).graph().get_Duration(), 100);
 }
 
 TEST_F(FileMeasureTest, ReleasesItsGraph) {
     machine.add_track(track, 200);
-    measure(track);
+    static_cast<void>(measure(track));
     EXPECT_EQ(machine.media.graphs(), 0U);
 }
 
 TEST_F(FileMeasureTest, SaysThatAMissingFileCouldNotBeMeasured) {
-    measure(track);
-    EXPECT_TRUE(station.list.mesure_echouee.is_true());
+    EXPECT_TRUE(cannot_be_measured(track));
 }
 
 TEST_F(FileMeasureTest, SaysThatAnUnplayableFileCouldNotBeMeasured) {
     machine.add_track(track, 200);
     machine.media.set_unplayable(track);
-    measure(track);
-    EXPECT_TRUE(station.list.mesure_echouee.is_true());
+    EXPECT_TRUE(cannot_be_measured(track));
 }
 
 } // namespace sonarelle

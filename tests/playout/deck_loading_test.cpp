@@ -296,10 +296,9 @@ TEST_F(DeckLoadingTest, ListLoadShortensTheNameOfTheListWindow) {
     EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:00");
 }
 
-TEST_F(DeckLoadingTest, ListLoadOfAnUnplayableFileOnlySetsTheFlag) {
+TEST_F(DeckLoadingTest, ListLoadOfAnUnplayableFileOnlySaysSo) {
     station.list.chemin_fichier = "C:\\absent.mp3";
-    station.deck_loading.load_from_list(station.desk.deck(1));
-    EXPECT_TRUE(station.chain.erreur_chargement.is_true());
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(1)), LoadResult::failed);
 }
 
 TEST_F(DeckLoadingTest, VideoWindowOfAnAviClosesAtItsStopAndThatOfAWmvStays) {

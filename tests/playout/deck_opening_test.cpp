@@ -233,9 +233,8 @@ TEST_F(FileOfOneSecond, OfARecordIsGood) {
 }
 
 TEST_F(FileOfOneSecond, OfAListIsGood) {
-    station.deck_loading.load_from_list(station.desk.deck(2));
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(2)), LoadResult::loaded);
     EXPECT_EQ(controls(2).progress.maximum, 1);
-    EXPECT_FALSE(station.chain.erreur_chargement.is_true());
 }
 
 TEST_F(FileOfOneSecond, OfTheCommandLineIsGood) {
@@ -255,12 +254,9 @@ TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
 
 TEST_F(FileOfOneSecond, AndLessFailsInAListLoad) {
     machine.media.set_length(song, 0.99);
-    station.deck_loading.load_from_list(station.desk.deck(3));
-    EXPECT_TRUE(station.chain.erreur_chargement.is_true());
-    EXPECT_TRUE(station.chain.file_too_short);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3)), LoadResult::too_short);
     machine.media.set_length(song, 1.0);
-    station.deck_loading.load_from_list(station.desk.deck(3));
-    EXPECT_FALSE(station.chain.file_too_short);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3)), LoadResult::loaded);
 }
 
 TEST_F(DeckOpening, ReadiesItsOwnDeckAndNoOtherBesideTheMainOne) {

@@ -66,8 +66,9 @@ protected:
     // a file that is there and can't be played.
     void expect_stop_by_the_rules() {
         EXPECT_LE(end_point_to_integer(end_of_item), most_without_load) << item;
-        EXPECT_TRUE(machine.disk.exists(rows().text(station.list.index_en_cours.value())));
-        EXPECT_TRUE(station.chain.erreur_chargement.is_true());
+        const std::string path = rows().text(station.list.index_en_cours.value());
+        EXPECT_TRUE(machine.disk.exists(path));
+        EXPECT_FALSE(station.list_run.can_be_played(path));
     }
 
     // What the operator does then: the row behind the bad one, and the play image.

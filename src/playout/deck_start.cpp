@@ -41,15 +41,27 @@ void DeckStart::play(Deck& deck) {
     deck.graph().RenderFile(deck.path); // before all else: the main deck stays when the file can't be played
     arrange_buttons(deck);
     desk_.chain.lecteur_en_cours = deck.number();
-    volume_.apply_start(deck);
-    set_end_point(deck);
-    run(deck);
-    show_names(deck);
-    show_main_deck(deck);
+    set_end_point(deck); // by which the overlap is chosen
+    set_going(deck, start_of_a_track);
     if (!desk_.is_manual())
         release_ring(deck);
     // Behind the release: what still sounds there ends as quietly as it was.
     desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);
+}
+
+void DeckStart::set_going(Deck& deck, const StartKind& kind) {
+    begin_sound(deck);
+    show_names(deck, kind);
+    if (kind.follows_a_row)
+        count_track();
+    show_main_deck(deck);
+    keep_air_state(kind);
+    desk_.report({.kind = OnAirEvent::Kind::started,
+                  .deck = deck.number(),
+                  .row = desk_.list.index_en_cours.value(),
+                  .path = deck.path,
+                  .overlap = desk_.settings.mix_courant.value(),
+                  .load_lead = desk_.settings.prechargement.value()});
 }
 
 void DeckStart::arrange_buttons(Deck& deck) {
@@ -80,10 +92,15 @@ void DeckStart::set_end_point(Deck& deck) {
     } else {
         desk_.window.Timer2.enable();
     }
+    // The first deck's interval is set when its chain over decks begins, the others' at each start.
+    if (deck.number() != 1 || !chain.mode_enchainement.is_true())
+        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
 }
 
-void DeckStart::run(Deck& deck) {
-    desk_.window.Timer1.enable();
+// All that decides how the track sounds comes before it runs, and the timers begin anew when it does.
+void DeckStart::begin_sound(Deck& deck) {
+    volume_.apply_start(deck);
+    desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off
     deck.controls.scroll_timer.enable();
     const double length = deck.graph().get_Duration();
     desk_.list_window.Label4.caption = loading_.duration_text(length);
@@ -92,50 +109,47 @@ void DeckStart::run(Deck& deck) {
         deck.graph().put_CurrentPosition(deck.debut_piste);
     }
     mix_.Choix_mix();
-    // The first deck's interval is set when its chain over decks begins, the others' at each start.
-    if (deck.number() != 1 || !desk_.chain.mode_enchainement.is_true())
-        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     deck.graph().Run();
     align_timers();
     deck.volume_sauve = deck.controls.slider.value();
 }
 
+// Their ticks fall on whole seconds of the main deck.
 void DeckStart::align_timers() {
     for (Timer* timer : {&desk_.window.Timer1, &desk_.window.Timer2, &desk_.window.Timer4})
         timer->restart();
 }
 
-void DeckStart::show_names(Deck& deck) {
-    desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
-    if (desk_.chain.ecoute_en_cours.is_false())
-        desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
+void DeckStart::show_names(Deck& deck, const StartKind& kind) {
+    if (kind.follows_a_row) {
+        desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
+        if (desk_.chain.ecoute_en_cours.is_false())
+            desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
+    }
     const std::string name = loading_.name_of(deck.path);
     const std::string title = short_title(name);
-    desk_.window.caption = desk_.settings.nom_radio + " : " + name;
+    desk_.window.caption = desk_.settings.nom_radio + " : " + (kind.shows_path ? deck.path : name);
     desk_.list_window.caption = name;
     deck.controls.title.caption = title + " - ";
     desk_.show_on_small_player(title);
     desk_.list_window.Label2.caption = title;
-    if (has_video_ending(desk_.chain.extension_fichier))
+    const std::string& extension = desk_.chain.extension_fichier;
+    if (kind.opens_any_video ? has_video_ending(extension) : has_classic_video_ending(extension))
         deck.open_video(title);
 }
 
 void DeckStart::show_main_deck(Deck& deck) {
-    count_track();
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
     desk_.window.Label7.caption = desk_.station_banner();
-    // What is started by hand behind a fault is followed by nothing yet.
-    if (desk_.chain.air != AirState::failed || desk_.window.Timer2.enabled() || desk_.window.Timer4.enabled())
+}
+
+// What is started by hand behind a fault is followed by nothing yet.
+void DeckStart::keep_air_state(const StartKind& kind) {
+    const bool begins_a_run = !kind.follows_a_row;
+    if (begins_a_run || desk_.chain.air != AirState::failed || desk_.window.Timer2.enabled() ||
+        desk_.window.Timer4.enabled())
         desk_.set_air(AirState::on);
-    desk_.report({OnAirEvent::Kind::started,
-                  deck.number(),
-                  desk_.list.index_en_cours.value(),
-                  deck.path,
-                  {},
-                  desk_.settings.mix_courant.value(),
-                  desk_.settings.prechargement.value(),
-                  {}});
 }
 
 // A station is on the air for longer than the counter lasts.

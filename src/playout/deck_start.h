@@ -10,6 +10,17 @@
 
 namespace sonarelle {
 
+/// How the start of a deck is shown and counted.
+struct StartKind {
+    bool follows_a_row;   ///< The current row is the one that plays from now on, and the track counts.
+    bool shows_path;      ///< The main window's title names the path, not the file alone.
+    bool opens_any_video; ///< All kinds of video get their window, not the classic ones alone.
+};
+/// Within a run, and by hand.
+inline constexpr StartKind start_of_a_track{.follows_a_row = true, .shows_path = false, .opens_any_video = true};
+/// The first track of a list, whose row the list window has shown already.
+inline constexpr StartKind start_of_a_run{.follows_a_row = false, .shows_path = true, .opens_any_video = false};
+
 /// Starts a loaded deck and turns it into the main one.
 class DeckStart {
 public:
@@ -25,18 +36,20 @@ public:
     /// Chooses the chain over decks, with all that goes with it, even where the choice is shown already.
     std::function<void()> choose_chain_over_decks;
 
+    /// Sets a rendered deck going at its start of play, as loud as its record says, and shows it as the main one.
+    void set_going(Deck& deck, const StartKind& kind);
+
     /// Clears a deck's display; its sound goes on.
     void clear_display(Deck& deck);
-
-    /// Begins the periods of the chain's timers anew, so that their ticks fall on whole seconds of the main deck.
-    void align_timers();
 
 private:
     void arrange_buttons(Deck& deck);
     void set_end_point(Deck& deck);
-    void run(Deck& deck);
-    void show_names(Deck& deck);
+    void begin_sound(Deck& deck);
+    void align_timers();
+    void show_names(Deck& deck, const StartKind& kind);
     void show_main_deck(Deck& deck);
+    void keep_air_state(const StartKind& kind);
     void count_track();
     void release_ring(Deck& deck);
     void silence(Deck& deck);

@@ -15,7 +15,6 @@ public:
     /// Bars the row that plays now and draws another one. Returns 0 when a full turn of draws hit barred rows alone.
     [[nodiscard]] int draw(int playing_row, int rows);
 
-
 private:
     Random& random_;
     std::vector<int> deja_lu_;

@@ -5,14 +5,8 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
-#include "playout/file_title.h"
 
 namespace sonarelle {
-
-RunControl::RunControl(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix,
-                       Journal& journal, ListDocument& document)
-    : desk_{desk}, loading_{loading}, start_{start}, volume_{volume}, mix_{mix}, journal_{journal}, document_{
-                                                                                                        document} {}
 
 void RunControl::lect_liste() {
     if (desk_.row_count() == 0)
@@ -54,14 +48,7 @@ void RunControl::start_first_deck() {
     desk_.chain.lecteur_en_cours = 1;
     desk_.chain.chargement_fait = desk_.chain.choix_prepare = false; // what a run before has loaded is not this one's
     deck.graph().RenderFile(deck.path);
-    deck.graph().put_CurrentPosition(deck.debut_piste);
-    volume_.apply_start(deck);
-    mix_.Choix_mix();
-    deck.graph().Run();
-    desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off
-    start_.align_timers();
-    deck.volume_sauve = deck.controls.slider.value();
-    show_first_deck(deck);
+    start_.set_going(deck, start_of_a_run);
     if (desk_.settings.valide_fichier_aleatoire.is_true()) {
         desk_.chain.compteur_aleatoire = 1;
         desk_.chain.index_debut_aleatoire = desk_.list.index_en_cours;
@@ -72,32 +59,6 @@ void RunControl::start_first_deck() {
         desk_.chain.index_debut_aleatoire1 = desk_.list.index_en_cours;
     }
     write_start(deck.path);
-}
-
-void RunControl::show_first_deck(Deck& deck) {
-    const std::string duration = loading_.duration_text(deck.graph().get_Duration());
-    const std::string name = loading_.name_of(deck.path);
-    const std::string title = short_title(name);
-    desk_.list_window.caption = name;
-    deck.controls.title.caption = title + " - ";
-    desk_.list_window.Label2.caption = title;
-    deck.controls.scroll_timer.enable();
-    if (has_classic_video_ending(desk_.chain.extension_fichier))
-        deck.open_video(title);
-    desk_.list_window.Label4.caption = duration;
-    desk_.window.caption = desk_.settings.nom_radio + " : " + deck.path;
-    desk_.window.Label7.caption = desk_.station_banner();
-    for (Deck& other : desk_.decks)
-        other.controls.playing_mark.visible = other.number() == 1;
-    desk_.set_air(AirState::on);
-    desk_.report({OnAirEvent::Kind::started,
-                  1,
-                  desk_.list.index_en_cours.value(),
-                  deck.path,
-                  {},
-                  desk_.settings.mix_courant.value(),
-                  desk_.settings.prechargement.value(),
-                  {}});
 }
 
 void RunControl::write_start(const std::string& path) {

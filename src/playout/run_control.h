@@ -12,8 +12,8 @@ namespace sonarelle {
 /// Starts and stops a run of the current list, and checks that a row still names a file.
 class RunControl {
 public:
-    RunControl(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix, Journal& journal,
-               ListDocument& document);
+    RunControl(Desk& desk, DeckStart& start, Journal& journal, ListDocument& document)
+        : desk_{desk}, start_{start}, journal_{journal}, document_{document} {}
 
     /// From the list window: chooses the list chain, makes deck 1 the main one and starts it.
     void lect_liste();
@@ -44,15 +44,11 @@ public:
 private:
     [[nodiscard]] bool is_overlap_under_way();
     void start_first_deck();
-    void show_first_deck(Deck& deck);
     void write_start(const std::string& path);
     void report_missing(const std::string& heading, const std::string& last_line);
 
     Desk& desk_;
-    DeckLoading& loading_;
     DeckStart& start_;
-    DeckVolume& volume_;
-    MixEngine& mix_;
     Journal& journal_;
     ListDocument& document_;
 };

@@ -34,7 +34,7 @@ Station::Station(const Platform& platform)
       mix_engine{desk, deck_volume}, deck_loading{desk, deck_volume, mix_engine},
       deck_start{desk, deck_loading, deck_volume, mix_engine, journal}, deck_transport{desk, deck_loading, deck_start,
                                                                                        deck_volume, mix_engine},
-      run_control{desk, deck_loading, deck_start, deck_volume, mix_engine, journal, list_document},
+      run_control{desk, deck_start, journal, list_document},
       auto_chain{desk, deck_loading, deck_start, mix_engine, journal, run_control, record_reading},
       zapping{desk, auto_chain, deck_loading, deck_start, mix_engine, journal, record_reading, list_document},
       chain_modes{desk, mix_engine, journal}, list_run{desk,           auto_chain,       deck_loading,

@@ -210,20 +210,20 @@ void TrackProperties::save() {
     try {
         write_row();
     } catch (const Failure& failure) {
-        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(platform_.dialogs, failure.what(), Icon::stop);
     }
 }
 
 void TrackProperties::write_row() {
     if (list_.fichier_liste.empty()) {
-        platform_.dialogs.MsgBox({"Pas de nom de fichier", std::string{application_title}});
+        show_box(platform_.dialogs, "Pas de nom de fichier", Icon::none);
         return;
     }
     if (list_window_.a_Ne_pas_Sauve.checked) {
-        platform_.dialogs.MsgBox(
-            {"Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
-             "Sauvegarder cette liste",
-             std::string{application_title}, Buttons::ok, Icon::information});
+        show_box(platform_.dialogs,
+                 "Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
+                 "Sauvegarder cette liste",
+                 Icon::information);
         return;
     }
     const enreg_liste row = edited_row();

@@ -55,12 +55,12 @@ void SettingsRewrite::write(SettingsStore::Value column) {
     try {
         store_.write_column(column);
     } catch (const Failure& failure) {
-        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(platform_.dialogs, failure.what(), Icon::stop);
     }
 }
 
 void SettingsRewrite::tell(const std::string& text) {
-    platform_.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::information});
+    show_box(platform_.dialogs, text, Icon::information);
 }
 
 } // namespace sonarelle

@@ -69,4 +69,7 @@ public:
     virtual void show_modal(Window& window) = 0;
 };
 
+/// A box under the station's title that only tells something.
+void show_box(Dialogs& dialogs, const std::string& text, Icon icon);
+
 } // namespace sonarelle

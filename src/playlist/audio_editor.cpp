@@ -37,7 +37,7 @@ std::string AudioEditor::path_of_selected_row() {
 }
 
 void AudioEditor::tell(const std::string& text) {
-    platform_.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::warning});
+    show_box(platform_.dialogs, text, Icon::warning);
 }
 
 } // namespace sonarelle

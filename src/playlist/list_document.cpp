@@ -264,7 +264,7 @@ void ListDocument::run_load(const std::function<void()>& statements) {
 void ListDocument::report(const Failure& failure) {
     if (tell && platform_.scheduler.in_tick())
         return tell(failure.what());
-    platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+    show_box(platform_.dialogs, failure.what(), Icon::stop);
 }
 
 } // namespace sonarelle

@@ -10,7 +10,7 @@ namespace sonarelle {
 namespace {
 
 void refuse(Dialogs& dialogs, const char* text, Icon icon) {
-    dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, icon});
+    show_box(dialogs, text, icon);
 }
 
 } // namespace

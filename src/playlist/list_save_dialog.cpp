@@ -27,13 +27,13 @@ ListSaveDialog::ListSaveDialog(const Platform& platform, const StationSettings& 
 
 void ListSaveDialog::A_enreg_sous() {
     if (window_.ListView1.count() == 0) {
-        platform_.dialogs.MsgBox({"Rien a sauvegarder !", std::string{application_title}, Buttons::ok, Icon::warning});
+        show_box(platform_.dialogs, "Rien a sauvegarder !", Icon::warning);
         return;
     }
     try {
         ask_and_save();
     } catch (const Failure& failure) {
-        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(platform_.dialogs, failure.what(), Icon::stop);
     }
 }
 

@@ -85,8 +85,7 @@ MeasuredFile ListUpdate::measure(int row) {
 
 void ListUpdate::give_up(const std::string& description) {
     window_.mouse_pointer = 0;
-    platform_.dialogs.MsgBox(
-        {"Impossible de mettre a jour.  " + description, std::string{application_title}, Buttons::ok, Icon::warning});
+    show_box(platform_.dialogs, "Impossible de mettre a jour.  " + description, Icon::warning);
 }
 
 void ListUpdate::a_mettre_a_jour_liste() {

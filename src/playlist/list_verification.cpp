@@ -165,7 +165,7 @@ void ListVerification::tell_failure(const Failure& failure) {
 }
 
 void ListVerification::tell(const std::string& text, Icon icon) {
-    platform_.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, icon});
+    show_box(platform_.dialogs, text, icon);
 }
 
 } // namespace sonarelle

@@ -150,8 +150,7 @@ void RowChanges::under_trap(const std::function<void()>& statements, const char*
     try {
         statements();
     } catch (const Failure& failure) {
-        platform_.dialogs.MsgBox(
-            {failure.what() + std::string{last_words}, std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(platform_.dialogs, failure.what() + std::string{last_words}, Icon::stop);
     }
 }
 

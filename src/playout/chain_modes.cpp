@@ -134,7 +134,7 @@ void ChainModes::tell_failed_choice(const Failure& failure) {
     if (desk_.platform.scheduler.in_tick())
         desk_.warn(text);
     else
-        desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(desk_.platform.dialogs, text, Icon::stop);
 }
 
 void ChainModes::read_overlap() {

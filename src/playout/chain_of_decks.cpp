@@ -124,7 +124,7 @@ void AutoChain::fade(Deck& old) {
         return;
     if (faded_deck_ != old.number()) {
         faded_deck_ = old.number();
-        desk_.report({OnAirEvent::Kind::fade_began, old.number(), 0, {}, {}, 0, 0, {}});
+        desk_.report({.kind = OnAirEvent::Kind::fade_began, .deck = old.number()});
     }
     ErrorIndicator{}.skip([&] {
         const int volume = std::max(quietest, old.graph().get_Volume().count() - step);
@@ -140,7 +140,7 @@ void AutoChain::release(Deck& main, Deck& old) {
     old.controls.title.caption = std::string{waiting_title};
     if (old.has_graph()) {
         old.graph().Stop();
-        desk_.report({OnAirEvent::Kind::cut, old.number(), 0, {}, {}, 0, 0, {}});
+        desk_.report({.kind = OnAirEvent::Kind::cut, .deck = old.number()});
     }
     old.controls.progress.value = 0;
     old.controls.counter.caption = "0";

@@ -131,8 +131,7 @@ void DeckLoading::charge_lire(const std::string& path) {
     ErrorIndicator errors;
     errors.skip([&] { show_length(deck); });
     if (deck.graph().get_Duration() < shortest_good_file) {
-        desk_.platform.dialogs.MsgBox(
-            {path + " Ne peut ouvrir " + failure.description, std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(desk_.platform.dialogs, path + " Ne peut ouvrir " + failure.description, Icon::stop);
         return;
     }
     set_bar(deck);
@@ -242,9 +241,7 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
     deck.path.clear();
     deck.controls.title.caption = std::string{waiting_title};
     deck.controls.progress.value = 0;
-    const auto tell = [&](const std::string& text) {
-        desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::stop});
-    };
+    const auto tell = [&](const std::string& text) { show_box(desk_.platform.dialogs, text, Icon::stop); };
     switch (failure.number) {
     case failure_number::wrong_call:
     case failure_number::dialog_cancelled:
@@ -282,8 +279,7 @@ void DeckLoading::recup_path(Deck& deck) {
         deck.path = join_path(folder, name);
         return;
     }
-    desk_.platform.dialogs.MsgBox(
-        {name + " n'existe pas ou plus", std::string{application_title}, Buttons::ok, Icon::stop});
+    show_box(desk_.platform.dialogs, name + " n'existe pas ou plus", Icon::stop);
     deck.path.clear();
 }
 

@@ -111,7 +111,7 @@ void DeckVolume::A_sauve(Deck& deck) {
         reload_list_();
         desk_.inform("Sauvegarde des paramètres en cours éffectués .");
     } catch (const Failure& failure) {
-        desk_.platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(desk_.platform.dialogs, failure.what(), Icon::stop);
     }
 }
 

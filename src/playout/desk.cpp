@@ -80,18 +80,15 @@ void Desk::warn_of_file(const std::string& heading, const std::string& path, con
 }
 
 void Desk::report_loaded(const Deck& deck) const {
-    report({OnAirEvent::Kind::loaded,
-            deck.number(),
-            list.index_en_cours.value(),
-            deck.path,
-            deck.controls.counter.caption,
-            0,
-            0,
-            {}});
+    report({.kind = OnAirEvent::Kind::loaded,
+            .deck = deck.number(),
+            .row = list.index_en_cours.value(),
+            .path = deck.path,
+            .end = deck.controls.counter.caption});
 }
 
 void Desk::inform(const std::string& text) {
-    platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, Icon::information});
+    show_box(platform.dialogs, text, Icon::information);
 }
 
 void Desk::remember(std::string_view key, std::string_view value) {
@@ -99,7 +96,7 @@ void Desk::remember(std::string_view key, std::string_view value) {
     try {
         store.write(setting_section::config, key, value);
     } catch (const Failure& failure) {
-        platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(platform.dialogs, failure.what(), Icon::stop);
     }
 }
 

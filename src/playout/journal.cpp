@@ -43,7 +43,7 @@ void Journal::note_of_list_window(const std::string& line) {
     if (desk_.platform.scheduler.in_tick())
         desk_.warn(std::string{fault});
     else
-        desk_.platform.dialogs.MsgBox({std::string{fault}, std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(desk_.platform.dialogs, std::string{fault}, Icon::stop);
 }
 
 void Journal::Active_journal1_Click() {

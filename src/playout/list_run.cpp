@@ -96,7 +96,7 @@ void ListRun::Image3_Click() {
     desk_.list_window.Label3.caption = "Liste";
     desk_.list_window.Label12.caption = "Zapping autorisé";
     document_.a_mettre_Enabled();
-    desk_.report({OnAirEvent::Kind::stopped, 0, 0, {}, {}, 0, 0, "Arrét lecture liste"});
+    desk_.report({.kind = OnAirEvent::Kind::stopped, .text = "Arrét lecture liste"});
 }
 
 void ListRun::Image4_Click() {

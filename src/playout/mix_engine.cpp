@@ -64,7 +64,7 @@ void MixEngine::change_overlap(int step) {
         const Integer shown = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
         set_overlap(std::max(Integer{1}, shown + step));
     } catch (const Failure& failure) {
-        desk_.platform.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::stop});
+        show_box(desk_.platform.dialogs, failure.what(), Icon::stop);
     }
 }
 
@@ -118,7 +118,7 @@ void MixEngine::release(Deck& deck) {
     const bool sounds = deck.sounds();
     deck.drop_graph();
     if (sounds)
-        desk_.report({OnAirEvent::Kind::cut, deck.number(), 0, {}, {}, 0, 0, {}});
+        desk_.report({.kind = OnAirEvent::Kind::cut, .deck = deck.number()});
 }
 
 void MixEngine::special_mix(Deck& deck) {

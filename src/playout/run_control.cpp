@@ -127,8 +127,9 @@ void RunControl::detecte_fichier_liste() {
 void RunControl::remove_row() {
     desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
     document_.sauve_tout();
-    desk_.report(
-        {OnAirEvent::Kind::removed, 0, desk_.list.index_en_cours.value(), desk_.list.chemin_fichier, {}, 0, 0, {}});
+    desk_.report({.kind = OnAirEvent::Kind::removed,
+                  .row = desk_.list.index_en_cours.value(),
+                  .path = desk_.list.chemin_fichier});
     if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
         desk_.list.ligne_en_lecture -= 1;
     desk_.list.index_en_cours -= 1;

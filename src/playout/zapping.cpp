@@ -210,7 +210,7 @@ void Zapping::choose_fade() {
 }
 
 void Zapping::tell(const std::string& text, Icon icon) {
-    desk_.platform.dialogs.MsgBox({text, std::string{application_title}, Buttons::ok, icon});
+    show_box(desk_.platform.dialogs, text, icon);
 }
 
 } // namespace sonarelle

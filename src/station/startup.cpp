@@ -212,7 +212,7 @@ bool Startup::is_there(const std::string& list) {
         static_cast<void>(platform_.disk.facts(list));
         return true;
     } catch (const Failure& failure) {
-        platform_.dialogs.MsgBox({failure.what(), std::string{application_title}, Buttons::ok, Icon::warning});
+        show_box(platform_.dialogs, failure.what(), Icon::warning);
         return false;
     }
 }
@@ -236,15 +236,16 @@ void Startup::play_on_small_player() {
 }
 
 void Startup::report(const Failure& failure) {
-    platform_.dialogs.MsgBox({"Attention  !\nErreur " + failure.source + "  " + failure.description + " Erreur N°  " +
-                                  std::to_string(failure.number) +
-                                  "\nDes paramètres ou des fichiers sont manquants!!!\n"
-                                  "Allez dans le menu OPTION puis PARAMETRES \n"
-                                  "Vérifier également vos paramètres régionaux\n"
-                                  "La séparation des décimales pour les nombres doit ètre un POINT\n"
-                                  "Cherchez le fichier demandé si c'est le cas\nExécutez a nouveau " +
-                                  std::string{application_title},
-                              std::string{application_title}, Buttons::ok, Icon::stop});
+    show_box(platform_.dialogs,
+             "Attention  !\nErreur " + failure.source + "  " + failure.description + " Erreur N°  " +
+                 std::to_string(failure.number) +
+                 "\nDes paramètres ou des fichiers sont manquants!!!\n"
+                 "Allez dans le menu OPTION puis PARAMETRES \n"
+                 "Vérifier également vos paramètres régionaux\n"
+                 "La séparation des décimales pour les nombres doit ètre un POINT\n"
+                 "Cherchez le fichier demandé si c'est le cas\nExécutez a nouveau " +
+                 std::string{application_title},
+             Icon::stop);
 }
 
 } // namespace sonarelle

@@ -4,9 +4,10 @@
 #include <condition_variable>
 #include <deque>
 #include <fstream>
-#include <mutex>
 #include <sstream>
 #include <string_view>
+
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 
@@ -67,46 +68,50 @@ void DiskPatience::remember(const std::string& machine_path, std::shared_ptr<std
     silent_.push_back({mount == "/" ? machine_path : mount, std::move(returned)});
 }
 
-struct DiskHelper::Desk {
-    std::mutex mutex;
-    std::condition_variable wakes;
-    std::deque<std::function<void()>> work;
+struct DiskHelper::Queue {
+    Mutex mutex;
+    std::condition_variable_any wakes;
+    std::deque<std::function<void()>> work SONARELLE_GUARDED_BY(mutex);
     std::atomic<bool> has_work{false};
-    bool ends = false;
+    bool ends SONARELLE_GUARDED_BY(mutex) = false;
 
     void run() {
-        std::unique_lock lock{mutex};
-        for (;;) {
-            wakes.wait(lock, [this] { return ends || !work.empty(); });
-            if (work.empty())
-                return;
-            std::function<void()> next = std::move(work.front());
-            work.pop_front();
-            has_work = !work.empty();
-            lock.unlock();
+        while (std::function<void()> next = take()) {
             next();
-            next = nullptr;
+            next = nullptr; // what it owns goes before the wait
             stay_awake_until([this] { return has_work.load(); });
-            lock.lock();
         }
+    }
+
+    /// Waits for work; nothing at the end.
+    std::function<void()> take() {
+        const MutexLock lock{mutex};
+        while (!ends && work.empty())
+            wakes.wait(mutex);
+        if (work.empty())
+            return {};
+        std::function<void()> next = std::move(work.front());
+        work.pop_front();
+        has_work = !work.empty();
+        return next;
     }
 };
 
-DiskHelper::DiskHelper() : desk_{std::make_shared<Desk>()} {
-    std::thread{[desk = desk_] { desk->run(); }}.detach();
+DiskHelper::DiskHelper() : queue_{std::make_shared<Queue>()} {
+    std::thread{[queue = queue_] { queue->run(); }}.detach();
 }
 
 DiskHelper::~DiskHelper() {
-    const std::lock_guard lock{desk_->mutex};
-    desk_->ends = true;
-    desk_->wakes.notify_one();
+    const MutexLock lock{queue_->mutex};
+    queue_->ends = true;
+    queue_->wakes.notify_one();
 }
 
 void DiskHelper::give(std::function<void()> work) {
-    const std::lock_guard lock{desk_->mutex};
-    desk_->work.push_back(std::move(work));
-    desk_->has_work = true;
-    desk_->wakes.notify_one();
+    const MutexLock lock{queue_->mutex};
+    queue_->work.push_back(std::move(work));
+    queue_->has_work = true;
+    queue_->wakes.notify_one();
 }
 
 } // namespace sonarelle

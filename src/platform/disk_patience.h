@@ -40,8 +40,8 @@ public:
     void give(std::function<void()> work);
 
 private:
-    struct Desk;
-    std::shared_ptr<Desk> desk_; // the thread's too
+    struct Queue;
+    std::shared_ptr<Queue> queue_; // the thread's too
 };
 
 /// Waits for disks that may be dead, such as a network share whose server is gone, for a limited time. What hasn't

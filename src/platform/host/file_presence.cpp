@@ -1,6 +1,5 @@
 #include "platform/host/file_presence.h"
 
-#include <mutex>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -8,6 +7,7 @@
 
 #include "platform/host/host_disk.h"
 #include "platform/paths.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 
@@ -39,39 +39,45 @@ struct FilePresence::Known {
     explicit Known(DriveTable table) : drives{std::move(table)} {}
 
     void look() {
-        for (std::unique_lock lock{mutex}; !asked.empty() && !ends;) {
-            const std::string path = std::move(asked.back());
-            asked.pop_back();
-            lock.unlock();
-            const bool missing = !is_there(disk, path);
-            lock.lock();
-            Answer& answer = answers[path];
+        while (const std::optional<std::string> path = next()) {
+            const bool missing = !is_there(disk, *path);
+            const MutexLock lock{mutex};
+            Answer& answer = answers[*path];
             news = news || answer.missing != missing;
             answer = {missing, false, Clock::now()};
         }
     }
 
+    std::optional<std::string> next() {
+        const MutexLock lock{mutex};
+        if (asked.empty() || ends)
+            return std::nullopt;
+        std::string path = std::move(asked.back());
+        asked.pop_back();
+        return path;
+    }
+
     const DriveTable drives;
     HostDisk disk{drives}; // the helper's alone
-    std::mutex mutex;
-    std::unordered_map<std::string, Answer> answers; // these four guarded by mutex
-    std::vector<std::string> asked;
-    bool news = false;
-    bool ends = false;
+    Mutex mutex;
+    std::unordered_map<std::string, Answer> answers SONARELLE_GUARDED_BY(mutex);
+    std::vector<std::string> asked SONARELLE_GUARDED_BY(mutex);
+    bool news SONARELLE_GUARDED_BY(mutex) = false;
+    bool ends SONARELLE_GUARDED_BY(mutex) = false;
 };
 
 FilePresence::FilePresence(const DriveTable& drives, std::chrono::milliseconds fresh_for)
     : known_{std::make_shared<Known>(drives)}, fresh_for_{fresh_for} {}
 
 FilePresence::~FilePresence() {
-    const std::scoped_lock lock{known_->mutex};
+    const MutexLock lock{known_->mutex};
     known_->ends = true;
 }
 
 bool FilePresence::is_missing(const std::string& path) {
     if (path.empty() || is_network_path(path))
         return false;
-    const std::scoped_lock lock{known_->mutex};
+    const MutexLock lock{known_->mutex};
     if (known_->answers.size() > most_kept)
         known_->answers.clear();
     Known::Answer& answer = known_->answers[path];
@@ -85,7 +91,7 @@ bool FilePresence::is_missing(const std::string& path) {
 }
 
 bool FilePresence::has_news() {
-    const std::scoped_lock lock{known_->mutex};
+    const MutexLock lock{known_->mutex};
     return std::exchange(known_->news, false);
 }
 

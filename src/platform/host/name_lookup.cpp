@@ -140,7 +140,7 @@ std::optional<std::string> NameLookup::spelling(const std::string& folder, const
 
 std::optional<std::string> NameLookup::kept_spelling(const std::string& folder, const struct stat& facts,
                                                      const std::string& name, bool& known) const {
-    const std::lock_guard lock{mutex_};
+    const MutexLock lock{mutex_};
     const auto kept = folders_.find(folder);
     known = kept != folders_.end() && is_unchanged(kept->second.facts, facts);
     if (!known)
@@ -150,7 +150,7 @@ std::optional<std::string> NameLookup::kept_spelling(const std::string& folder, 
 }
 
 void NameLookup::keep(const std::string& folder, Folder learnt) const {
-    const std::lock_guard lock{mutex_};
+    const MutexLock lock{mutex_};
     names_kept_ += learnt.spellings.size();
     if (names_kept_ > most_names_kept) {
         folders_.clear();

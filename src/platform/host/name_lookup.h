@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <functional>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +13,7 @@
 #include <vector>
 
 #include "platform/host/file_times.h"
+#include "platform/thread_annotations.h"
 
 namespace sonarelle {
 
@@ -57,9 +57,9 @@ private:
     void keep(const std::string& folder, Folder learnt) const;
 
     const std::chrono::nanoseconds settled_after_;
-    mutable std::mutex mutex_;
-    mutable std::map<std::string, Folder> folders_; // guarded by mutex_
-    mutable std::size_t names_kept_ = 0;            // guarded by mutex_
+    mutable Mutex mutex_;
+    mutable std::map<std::string, Folder> folders_ SONARELLE_GUARDED_BY(mutex_);
+    mutable std::size_t names_kept_ SONARELLE_GUARDED_BY(mutex_) = 0;
 };
 
 } // namespace sonarelle

@@ -1,6 +1,7 @@
 #include "playout/chain_modes.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "platform/calendar_text.h"
 #include "platform/dialogs.h"
@@ -24,58 +25,55 @@ void ChainModes::a_mode_manuel_Click() {
         desk_.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
         return;
     }
-    check_only(desk_.window.chain_modes(), desk_.window.a_mode_manuel);
-    desk_.chain.mode_enchainement = false;
-    desk_.chain.ordre_aleatoire = false;
-    desk_.window.Timer2.disable();
-    desk_.window.Timer4.disable();
+    enter(running_mode::by_hand);
     desk_.window.coche2.set_value(true); // which, by hand, chooses no chain
     desk_.window.coche2.caption = "Mix Manuel";
     for (Deck& deck : desk_.decks) {
         deck.controls.play.enabled = true;
         deck.controls.open.enabled = true;
     }
-    set_special_mixes(false);
     desk_.chain.lecteur_en_cours = 0;
     desk_.set_air(AirState::off);
 }
 
 void ChainModes::a_mode_auto_Click() {
-    check_only(desk_.window.chain_modes(), desk_.window.a_mode_auto);
-    desk_.chain.ordre_aleatoire = false;
-    switch_chain(false);
+    enter(running_mode::over_decks);
     desk_.window.coche2.caption = "Mixer les titres";
-    desk_.list_window.A_a_zapping.checked = false;
-    desk_.list_window.A_precoute.enabled = false;
     desk_.list_window.Option1.set_value(true);
-    set_special_mixes(true);
 }
 
 void ChainModes::a_mode_predefini_Click() {
-    check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
-    desk_.chain.ordre_aleatoire = false;
-    switch_chain(true);
+    enter(running_mode::of_list);
     mix_.Active_audio_Click();
     desk_.window.Active_audio.enabled = true;
-    desk_.list_window.A_a_zapping.checked = true;
-    desk_.list_window.A_precoute.enabled = true;
     desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
     desk_.list_window.Label3.caption = std::string{empty_counter};
 }
 
-void ChainModes::switch_chain(bool from_list) {
-    desk_.chain.mode_enchainement = from_list;
-    desk_.window.Timer2.set_enabled(!from_list);
-    if (!from_list)
+void ChainModes::enter(const RunningMode& mode) {
+    const auto set_timer = [](Timer& timer, std::optional<bool> runs) {
+        if (runs)
+            timer.set_enabled(*runs);
+    };
+    if (mode.entry)
+        check_only(desk_.window.chain_modes(), desk_.window.*mode.entry);
+    if (mode.from_list)
+        desk_.chain.mode_enchainement = *mode.from_list;
+    if (mode.by_draw)
+        desk_.chain.ordre_aleatoire = *mode.by_draw;
+    set_timer(desk_.window.Timer1, mode.looks_ahead);
+    set_timer(desk_.window.Timer2, mode.chains_decks);
+    set_timer(desk_.window.Timer4, mode.chains_list);
+    if (mode.resets_interval)
         desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
-    desk_.window.Timer4.set_enabled(from_list);
-    desk_.window.Timer1.enable();
+    if (mode.list_entry)
+        desk_.list_window.A_a_zapping.checked = *mode.list_entry;
+    if (mode.offers_prelisten)
+        desk_.list_window.A_precoute.enabled = *mode.offers_prelisten;
+    if (mode.offers_special_mix)
+        for (Deck& deck : desk_.decks)
+            deck.controls.special_mix.enabled = *mode.offers_special_mix;
     desk_.show_list_start();
-}
-
-void ChainModes::set_special_mixes(bool enabled) {
-    for (Deck& deck : desk_.decks)
-        deck.controls.special_mix.enabled = enabled;
 }
 
 void ChainModes::A_a_zapping_Click() {
@@ -83,16 +81,15 @@ void ChainModes::A_a_zapping_Click() {
         desk_.settings.mix_courant = 1;
         desk_.window.Text1.set_text("1");
         mix_.Active_audio_Click();
-        switch_chain(true);
+        enter(running_mode::list_entry_on);
         desk_.list_window.Option3.set_value(true);
         desk_.window.Active_audio.enabled = true;
-        check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
     } else if (desk_.chain.mode_enchainement.is_true()) {
-        switch_chain(false);
+        enter(running_mode::list_entry_off);
         desk_.list_window.Option1.set_value(true);
-        check_only(desk_.window.chain_modes(), desk_.window.a_mode_auto);
+    } else {
+        desk_.list_window.A_a_zapping.checked = false;
     }
-    desk_.list_window.A_a_zapping.checked = desk_.chain.mode_enchainement.is_true();
 }
 
 // By hand it stands for the manual mode.
@@ -101,7 +98,6 @@ void ChainModes::coche2_Click() {
         return;
     a_mode_auto_Click();
     desk_.list.index_en_cours = 1;
-    desk_.chain.mode_enchainement = false;
     desk_.window.Active_audio.enabled = false;
     desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix lecteur )";
 }
@@ -109,10 +105,7 @@ void ChainModes::coche2_Click() {
 void ChainModes::coche3_Click() {
     try {
         desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix liste )";
-        desk_.window.Timer1.enable();
-        desk_.window.Timer2.disable();
-        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
-        check_only(desk_.window.chain_modes(), desk_.window.a_mode_predefini);
+        enter(running_mode::mix_list);
         desk_.window.Active_audio.enabled = true;
         desk_.window.Active_audio_zapping.enabled = true;
         desk_.chain.chaine_suspendue = false;
@@ -152,12 +145,8 @@ void ChainModes::Option1_Click() {
     desk_.list_window.Label15.caption = "Liste Off";
     desk_.list_window.Image13.picture = std::string{switch_off};
     desk_.chain.jingles_aleatoires = false;
-    desk_.chain.ordre_aleatoire = false;
-    desk_.chain.mode_enchainement = false;
     desk_.chain.preecoute_active = false;
-    desk_.window.Timer2.enable();
-    desk_.window.Timer4.disable();
-    desk_.show_list_start();
+    enter(running_mode::read_decks);
     mix_.Active_audio_zapping_Click();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
     if (desk_.has_main_deck())
@@ -174,16 +163,12 @@ void ChainModes::clear_insertions() {
 }
 
 void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
-    desk_.chain.ordre_aleatoire = random;
+    enter(random ? running_mode::read_by_draw : running_mode::read_in_order);
     if (!random) {
         clear_insertions();
         for (MenuItem* entry : desk_.list_window.entries_of_a_fixed_order())
             entry->enabled = true;
     }
-    desk_.chain.mode_enchainement = true;
-    desk_.window.Timer4.enable();
-    desk_.window.Timer2.disable();
-    desk_.show_list_start();
     mix_.Active_audio_Click();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
     desk_.list_window.Label3.caption = std::string{empty_counter};
@@ -212,14 +197,12 @@ void ChainModes::press_list_key() {
 
 void ChainModes::Image12_Click() {
     a_mode_auto_Click();
-    desk_.list_window.A_precoute.enabled = false;
-    for (Timer* timer : {&desk_.window.Timer4, &desk_.window.Timer8, &desk_.window.Timer9})
+    for (Timer* timer : {&desk_.window.Timer8, &desk_.window.Timer9})
         timer->disable();
     desk_.window.Timer3.enable();
     desk_.list_window.Image17.picture = std::string{switch_on};
     for (Image* lamp : {&desk_.list_window.Image12, &desk_.list_window.Image11, &desk_.list_window.Image9})
         lamp->picture = std::string{switch_off};
-    desk_.chain.ordre_aleatoire = false;
 }
 
 void ChainModes::Image13_Click() {
@@ -230,16 +213,10 @@ void ChainModes::Image13_Click() {
     desk_.window.coche3.set_value(true);
     list.show();
     list.A_precoute.checked = false;
-    list.A_precoute.enabled = true;
-    list.A_a_zapping.checked = true;
     list.Label3.caption = std::string{empty_counter};
     desk_.window.Image13.picture = std::string{lamp_on_picture};
     list.Option4.set_value(true);
-    desk_.window.Timer4.enable();
-    desk_.window.Timer1.enable();
-    desk_.window.Timer2.disable();
-    desk_.chain.mode_enchainement = true;
-    desk_.show_list_start();
+    enter(running_mode::list_lamp);
 }
 
 } // namespace sonarelle

@@ -3,6 +3,7 @@
 #include "playout/desk.h"
 #include "playout/journal.h"
 #include "playout/mix_engine.h"
+#include "playout/running_mode.h"
 
 namespace sonarelle {
 
@@ -30,13 +31,13 @@ public:
     void Image13_Click();
 
 private:
-    void set_special_mixes(bool enabled);
+    /// Sets what the mode's row names. What it raises on the way are the events of no part.
+    void enter(const RunningMode& mode);
     void choose_list_mode(bool random, const std::string& journal_text);
     void clear_insertions();
     void show_end_point(const std::string& text);
     void read_overlap();
     void tell_failed_choice(const Failure& failure);
-    void switch_chain(bool from_list);
 
     Desk& desk_;
     MixEngine& mix_;

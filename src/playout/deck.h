@@ -49,6 +49,8 @@ public:
     [[nodiscard]] bool sounds() const;
     /// Whether it runs on and has nothing left to play.
     [[nodiscard]] bool is_at_its_end() const;
+    /// Its bar is full, or it has nothing left to play.
+    [[nodiscard]] bool has_played_out() const { return controls.progress.percent() == 100 || is_at_its_end(); }
     /// Drops the graph; a video window stays until `close_video`.
     void drop_graph();
 

@@ -100,8 +100,8 @@ void DeckLoading::show_length(Deck& deck) {
     deck.controls.counter.caption = deck.duree_piste = text_of(deck.whole_duration());
 }
 
-double DeckLoading::length_of(const std::string& path) const {
-    const std::shared_ptr<MediaGraph> graph = desk_.platform.media.create_graph();
+double length_of(const Platform& platform, const std::string& path) {
+    const std::shared_ptr<MediaGraph> graph = platform.media.create_graph();
     return ErrorIndicator{}.skip([&] { graph->RenderFile(path); }) ? graph->get_Duration() : 0;
 }
 

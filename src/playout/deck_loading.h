@@ -24,6 +24,9 @@ enum class LoadResult {
     return result == LoadResult::disk_did_not_answer || result == LoadResult::too_short;
 }
 
+/// Seconds of a file, which is opened beside the decks; 0 for one that can't be played.
+[[nodiscard]] double length_of(const Platform& platform, const std::string& path);
+
 /// Loads files on the decks. Every load takes a new graph first, so a deck that still plays goes silent at that moment,
 /// whatever becomes of the load.
 class DeckLoading {
@@ -49,9 +52,6 @@ public:
 
     /// Looks for the destination record's file in its folder; the deck's path is empty when it isn't there.
     void recup_path(Deck& deck);
-
-    /// Seconds of a file, which is opened beside the decks; 0 for one that can't be played.
-    [[nodiscard]] double length_of(const std::string& path) const;
 
     /// The end point that a deck's counter shows by the reading options in force.
     [[nodiscard]] std::string end_point_text(Deck& deck, const std::string& end_of_record) const;

@@ -37,7 +37,7 @@ bool ListRescue::is_needed() const {
 
 bool ListRescue::stands_still() const {
     return desk_.chain.mode_enchainement.is_true() && desk_.has_main_deck() && desk_.main_deck().is_at_its_end() &&
-           (!chain_.looks_for_a_row() || has_another_file());
+           (!chain_.list_chain.looks_for_a_row() || has_another_file());
 }
 
 // A list of one file only waits for another one.

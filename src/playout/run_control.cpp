@@ -1,10 +1,7 @@
 #include "playout/run_control.h"
 
 #include "platform/calendar_text.h"
-#include "platform/disk.h"
 #include "platform/failure.h"
-#include "platform/paths.h"
-#include "platform/text.h"
 
 namespace sonarelle {
 
@@ -101,44 +98,14 @@ void RunControl::stoppe_list() {
     desk_.window.Label10.caption = "Chargement rapide";
 }
 
-void RunControl::detecte_fichier_liste() {
-    std::string& path = desk_.list.chemin_fichier;
-    desk_.window.Text2.set_text(path);
-    if (is_network_path(path))
-        return;
-    const std::string folder{folder_of_path(path)};
-    const std::string name{name_of_path(path)};
-    desk_.platform.disk.ChDrive(path);
-    desk_.platform.disk.ChDir(folder);
-    if (desk_.platform.disk.Dir(path).empty()) {
-        desk_.platform.disk.ChDir(folder); // it may have gone between the two looks
-        remove_row();
-        path.clear();
-        return;
+void RunControl::under_trap(const std::string& timer, const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const Failure& failure) {
+        stoppe_liste(failure.what());
+        desk_.warn("ATTENTION ERREUR ! " + timer + "\nFICHIER NON TROUVEE , NON AUDIO ou " + failure.what() +
+                   "\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\nRevoir la sélection");
     }
-    if (equal_ignoring_case(desk_.platform.disk.Dir(join_path(folder, name)), name)) {
-        path = join_path(folder, name);
-        return;
-    }
-    report_missing("Recherche de fichier", "Ce fichier est NON TROUVE !");
-    path.clear();
-}
-
-void RunControl::remove_row() {
-    desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
-    document_.sauve_tout();
-    desk_.report({.kind = OnAirEvent::Kind::removed,
-                  .row = desk_.list.index_en_cours.value(),
-                  .path = desk_.list.chemin_fichier});
-    if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
-        desk_.list.ligne_en_lecture -= 1;
-    desk_.list.index_en_cours -= 1;
-    report_missing("Recherche de fichier valide ",
-                   "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
-}
-
-void RunControl::report_missing(const std::string& heading, const std::string& last_line) {
-    desk_.warn_of_file(heading, desk_.list.chemin_fichier, last_line);
 }
 
 void RunControl::Mettre_en_pause(const std::function<void(Deck&)>& press_pause) {

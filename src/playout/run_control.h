@@ -1,19 +1,18 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
-#include "playlist/list_document.h"
 #include "playout/deck_start.h"
 #include "playout/desk.h"
 #include "playout/journal.h"
 
 namespace sonarelle {
 
-/// Starts and stops a run of the current list, and checks that a row still names a file.
+/// Starts and stops a run of the current list.
 class RunControl {
 public:
-    RunControl(Desk& desk, DeckStart& start, Journal& journal, ListDocument& document)
-        : desk_{desk}, start_{start}, journal_{journal}, document_{document} {}
+    RunControl(Desk& desk, DeckStart& start, Journal& journal) : desk_{desk}, start_{start}, journal_{journal} {}
 
     /// From the list window: chooses the list chain, makes deck 1 the main one and starts it.
     void lect_liste();
@@ -31,13 +30,8 @@ public:
     /// The soft stop, before a deck is loaded by hand from a quick load list.
     void stoppe_list();
 
-    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row whose folder is there and
-    /// doesn't hold it is removed.
-    /// @throws Failure when its drive or folder doesn't answer: 68, 76 and others.
-    void detecte_fichier_liste();
-
-    /// Removes the current row, whose file can't be played, saves the list and says so.
-    void remove_row();
+    /// Runs a step of the chain whose timer has this name. A failure stops the list, and the warning window says so.
+    void under_trap(const std::string& timer, const std::function<void()>& step);
 
     void Mettre_en_pause(const std::function<void(Deck&)>& press_pause);
 
@@ -45,12 +39,10 @@ private:
     [[nodiscard]] bool is_overlap_under_way();
     void start_first_deck();
     void write_start(const std::string& path);
-    void report_missing(const std::string& heading, const std::string& last_line);
 
     Desk& desk_;
     DeckStart& start_;
     Journal& journal_;
-    ListDocument& document_;
 };
 
 } // namespace sonarelle

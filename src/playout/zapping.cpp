@@ -6,7 +6,6 @@
 #include "platform/calendar_text.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
-#include "platform/random.h"
 #include "platform/text.h"
 #include "playout/row_on_air.h"
 
@@ -18,11 +17,6 @@ namespace {
 constexpr int earliest_second = 30;
 
 } // namespace
-
-Zapping::Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
-                 RecordReading& reading, ListDocument& document)
-    : desk_{desk}, chain_{chain}, loading_{loading}, start_{start}, mix_{mix}, journal_{journal}, reading_{reading},
-      document_{document} {}
 
 void Zapping::zapping() {
     if (desk_.has_main_deck())
@@ -38,7 +32,7 @@ void Zapping::press_zap(Deck& old) {
     if (!desk_.list_window.reads_the_list())
         return zap(old);
     try {
-        chain_.automatic_zap(old);
+        chain_.list_chain.automatic_zap(old);
     } catch (const Failure& failure) {
         tell(lines_of(failure), Icon::none);
     }
@@ -75,17 +69,17 @@ void Zapping::refuse_too_early() {
 }
 
 void Zapping::zap_in_list(Deck& old) {
-    const Place before = place();
+    const RowCursor::Place before = chain_.cursor.place();
     const std::optional<double> length = find_row();
     if (!length)
-        return go_back_to(before);
+        return chain_.cursor.go_back_to(before);
     if (*length == 0)
         refuse_unplayable(before);
     std::optional<RowOnAir> ended;
     try {
         ended = record_to_end(old);
     } catch (const Failure&) {
-        go_back_to(before);
+        chain_.cursor.go_back_to(before);
         throw;
     }
     chain_.cancel_walks();
@@ -93,35 +87,16 @@ void Zapping::zap_in_list(Deck& old) {
     desk_.window.coche4.set_value(0);
     desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
     hand_over(old, ended);
-    const int row = desk_.list.index_en_cours.value();
-    desk_.list_window.ListView1.ensure_visible(row);
-    desk_.list_window.ListView1.select(row);
-}
-
-Zapping::Place Zapping::place() const {
-    return {desk_.list.index_en_cours, desk_.list.chemin_fichier, desk_.chain.choix_prepare,
-            desk_.chain.chargement_fait, desk_.row_count()};
-}
-
-// Where rows were removed on the way there is no place to go back to, and the next look draws anew.
-void Zapping::go_back_to(const Place& place) {
-    if (desk_.row_count() != place.rows) {
-        desk_.chain.choix_prepare = false;
-        return;
-    }
-    desk_.list.index_en_cours = place.row;
-    desk_.list.chemin_fichier = place.path;
-    desk_.chain.choix_prepare = place.choix_prepare;
-    desk_.chain.chargement_fait = place.chargement_fait;
+    chain_.cursor.select_row();
 }
 
 // The track on the air goes on, with its load step. In list order its mix point and the next zap take the row behind,
 // or the operator would never get over this one; in random order a drawn row that can't be played is drawn anew.
-void Zapping::refuse_unplayable(const Place& before) {
+void Zapping::refuse_unplayable(const RowCursor::Place& before) {
     const Failure refusal{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
     const bool was_prepared = desk_.list.index_en_cours == before.row;
     if (desk_.chain.ordre_aleatoire.is_true())
-        go_back_to(before);
+        chain_.cursor.go_back_to(before);
     if (was_prepared)
         desk_.chain.choix_prepare = false;
     throw refusal;
@@ -131,32 +106,25 @@ std::optional<double> Zapping::find_row() {
     bool by_draw = desk_.chain.ordre_aleatoire.is_true();
     const int rows = desk_.row_count();
     for (int looked_at = 0; looked_at <= rows; ++looked_at) {
-        take_row(std::exchange(by_draw, false));
-        if (!chain_.is_found())
+        if (std::exchange(by_draw, false))
+            chain_.cursor.draw_any_row();
+        else
+            chain_.cursor.take_next_row();
+        if (chain_.cursor.look() != RowCursor::Look::found)
             continue;
-        const double length = loading_.length_of(desk_.list.chemin_fichier);
+        const double length = length_of(desk_.platform, desk_.list.chemin_fichier);
         if (length == 0 || length >= shortest_good_file)
             return length;
-        chain_.note_passed_over(passed_over::too_short);
+        chain_.cursor.note_passed_over(passed_over::too_short);
     }
     return std::nullopt;
 }
 
-void Zapping::take_row(bool by_draw) {
-    if (!by_draw)
-        return chain_.take_next_row();
-    desk_.platform.random.Randomize();
-    const double rows = desk_.row_count();
-    desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
-    chain_.take_current_row();
-}
-
 void Zapping::load_row(Deck& next) {
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
-    desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.read_for_the_air();
-    const bool told = chain_.is_loaded(next);
-    if (loading_.load_from_list(next) != LoadResult::loaded)
+    chain_.cursor.read_row();
+    const bool told = chain_.cursor.is_loaded(next);
+    if (chain_.cursor.load_on(next) != LoadResult::loaded)
         throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
     if (!told)
         desk_.report_loaded(next);
@@ -168,7 +136,7 @@ void Zapping::zap_over_decks(Deck& old) {
         return;
     if (desk_.platform.disk.Dir(next.path).empty())
         return tell("Fichier non trouvé /abandon", Icon::stop);
-    if (loading_.length_of(next.path) == 0)
+    if (length_of(desk_.platform, next.path) == 0)
         throw Failure{failure_number::unplayable_file, next.path, "lecture impossible"};
     const std::optional<RowOnAir> ended = record_to_end(old);
     mix_.leave_special_mix(next);

@@ -14,8 +14,8 @@ namespace sonarelle {
 /// while the old one fades.
 class Zapping {
 public:
-    Zapping(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckStart& start, MixEngine& mix, Journal& journal,
-            RecordReading& reading, ListDocument& document);
+    Zapping(Desk& desk, AutoChain& chain, DeckStart& start, MixEngine& mix, Journal& journal, ListDocument& document)
+        : desk_{desk}, chain_{chain}, start_{start}, mix_{mix}, journal_{journal}, document_{document} {}
 
     /// From the main deck, by key. A zap that is refused changes nothing.
     void zapping();
@@ -29,21 +29,11 @@ private:
     void refuse_too_early();
     /// Whether a zap ends the row's record where it cuts its track.
     [[nodiscard]] bool ends_record() const;
-    /// Where the chain stands in the list, and what it has made ready.
-    struct Place {
-        Integer row;
-        std::string path;
-        Flag choix_prepare, chargement_fait;
-        int rows = 0; ///< Of the list.
-    };
-    [[nodiscard]] Place place() const;
-    void go_back_to(const Place& place);
     /// Steps to a row whose file is there and no shorter than a second; the seconds of the file, 0 for one that can't
     /// be played. Nothing when there is no such row.
     [[nodiscard]] std::optional<double> find_row();
-    void take_row(bool by_draw);
     void zap_in_list(Deck& old);
-    [[noreturn]] void refuse_unplayable(const Place& before);
+    [[noreturn]] void refuse_unplayable(const RowCursor::Place& before);
     void load_row(Deck& next);
     void zap_over_decks(Deck& old);
     /// The record of the row that plays, with the zap as its end; none where a zap ends no record.
@@ -55,11 +45,9 @@ private:
 
     Desk& desk_;
     AutoChain& chain_;
-    DeckLoading& loading_;
     DeckStart& start_;
     MixEngine& mix_;
     Journal& journal_;
-    RecordReading& reading_;
     ListDocument& document_;
 };
 

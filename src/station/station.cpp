@@ -34,9 +34,10 @@ Station::Station(const Platform& platform)
       mix_engine{desk, deck_volume}, deck_loading{desk, deck_volume, mix_engine},
       deck_start{desk, deck_loading, deck_volume, mix_engine, journal}, deck_transport{desk, deck_loading, deck_start,
                                                                                        deck_volume, mix_engine},
-      run_control{desk, deck_start, journal, list_document},
-      auto_chain{desk, deck_loading, deck_start, mix_engine, journal, run_control, record_reading},
-      zapping{desk, auto_chain, deck_loading, deck_start, mix_engine, journal, record_reading, list_document},
+      run_control{desk, deck_start, journal}, row_cursor{desk, journal, list_document, record_reading, deck_loading},
+      auto_chain{desk, row_cursor, deck_start, mix_engine, journal, run_control}, zapping{desk,       auto_chain,
+                                                                                          deck_start, mix_engine,
+                                                                                          journal,    list_document},
       chain_modes{desk, mix_engine, journal}, list_run{desk,           auto_chain,       deck_loading,
                                                        deck_transport, journal,          run_control,
                                                        record_reading, list_save_dialog, list_document},
@@ -119,10 +120,10 @@ void Station::connect_reading_modes() {
 }
 
 void Station::connect_timers() {
-    main_window.Timer1.on_tick = [this] { auto_chain.Timer1_tick(); };
-    main_window.Timer2.on_tick = [this] { auto_chain.Timer2_tick(); };
-    main_window.Timer3.on_tick = [this] { auto_chain.Timer3_tick(); };
-    main_window.Timer4.on_tick = [this] { auto_chain.Timer4_tick(); };
+    main_window.Timer1.on_tick = [this] { auto_chain.load_ahead.tick(); };
+    main_window.Timer2.on_tick = [this] { auto_chain.deck_chain.tick(); };
+    main_window.Timer3.on_tick = [this] { auto_chain.overlap.tick(); };
+    main_window.Timer4.on_tick = [this] { auto_chain.follow_list(); };
 }
 
 void Station::connect_chain_choices() {

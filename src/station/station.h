@@ -30,6 +30,7 @@
 #include "playout/list_rescue.h"
 #include "playout/list_run.h"
 #include "playout/mix_engine.h"
+#include "playout/row_cursor.h"
 #include "playout/run_control.h"
 #include "playout/zapping.h"
 #include "state/chain_state.h"
@@ -110,6 +111,7 @@ public:
     DeckStart deck_start;
     DeckTransport deck_transport;
     RunControl run_control;
+    RowCursor row_cursor;
     AutoChain auto_chain;
     Zapping zapping;
     ChainModes chain_modes;

@@ -191,7 +191,7 @@ TEST_F(AutoChainTest, CountsTheRemainingTimeDown) {
 TEST_F(AutoChainTest, CountsMinutesAndHoursDownAndStopsAtNothing) {
     const auto after = [this](std::string_view text) {
         station.list_window.Label4.caption = std::string{text};
-        station.auto_chain.compteur();
+        station.auto_chain.load_ahead.compteur();
         return station.list_window.Label4.caption.get();
     };
     EXPECT_EQ(after("00:01:00"), "00:00:59");

@@ -314,7 +314,7 @@ TEST_F(ChainFaultsTest, RemovedRowBehindTheOneThatPlaysLeavesTheMark) {
 TEST_F(ChainFaultsTest, RowThatPlaysLosesItsFileAndKeepsItsMark) {
     open_tracks({100, 100});
     start_list();
-    station.run_control.remove_row();
+    station.row_cursor.remove_row();
     EXPECT_EQ(station.list.ligne_en_lecture, 1);
 }
 

@@ -16,7 +16,7 @@ protected:
     std::string look_for(std::string_view path) {
         station.list.index_en_cours = 2;
         station.list.chemin_fichier = path;
-        station.run_control.detecte_fichier_liste();
+        station.row_cursor.detecte_fichier_liste();
         return station.list.chemin_fichier;
     }
     void play_a_file_by_hand() {
@@ -264,9 +264,9 @@ TEST_F(RunControlTest, HardStopEndsTheSearchForARow) {
     open_tracks({100});
     start_list();
     machine.run_for(seconds(96));
-    ASSERT_TRUE(station.auto_chain.looks_for_a_row());
+    ASSERT_TRUE(station.auto_chain.list_chain.looks_for_a_row());
     station.run_control.stoppe_liste("essai");
-    EXPECT_FALSE(station.auto_chain.looks_for_a_row());
+    EXPECT_FALSE(station.auto_chain.list_chain.looks_for_a_row());
 }
 
 TEST_F(RunControlTest, QuickLoadBehindAHardStopGoesOverToTheDecks) {

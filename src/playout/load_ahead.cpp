@@ -1,3 +1,5 @@
+#include "playout/load_ahead.h"
+
 #include <string_view>
 
 #include "platform/calendar_text.h"
@@ -6,7 +8,6 @@
 #include "platform/paths.h"
 #include "platform/text.h"
 #include "playout/air_view.h"
-#include "playout/auto_chain.h"
 
 namespace sonarelle {
 
@@ -26,7 +27,10 @@ std::string two_digits(int number) {
 
 } // namespace
 
-void AutoChain::compteur() {
+LoadAhead::LoadAhead(Desk& desk, RowCursor& cursor, RunControl& run, Journal& journal)
+    : desk_{desk}, cursor_{cursor}, run_{run}, journal_{journal}, walk_{"load_walk", desk.platform.scheduler} {}
+
+void LoadAhead::compteur() {
     Label& label = desk_.list_window.Label4;
     int hours = field_of(label.caption, 1);
     int minutes = field_of(label.caption, 4);
@@ -43,16 +47,16 @@ void AutoChain::compteur() {
     label.caption = two_digits(hours) + ":" + two_digits(minutes) + ":" + two_digits(seconds);
 }
 
-void AutoChain::Timer1_tick() {
+void LoadAhead::tick() {
     if (loads_ahead())
-        ErrorIndicator{}.skip([this] { load_step(); });
+        ErrorIndicator{}.skip([this] { look(); });
 }
 
-bool AutoChain::loads_ahead() const {
+bool LoadAhead::loads_ahead() const {
     return !desk_.is_manual() && !desk_.chain.chaine_suspendue.is_true() && !desk_.window.coche2.value();
 }
 
-void AutoChain::load_step() {
+void LoadAhead::look() {
     ChainState& chain = desk_.chain;
     const bool defined = chain.mode_enchainement.is_true() || chain.mode_enchainement.is_false();
     if (defined && desk_.has_main_deck()) {
@@ -62,45 +66,44 @@ void AutoChain::load_step() {
     if (chain.jingles_aleatoires.is_true() || desk_.settings.valide_fichier_aleatoire1.is_true())
         return;
     chain.point_chargement = chain.duree_lecteur - (desk_.settings.mix_courant + desk_.settings.prechargement);
-    if (!desk_.has_main_deck() || waits_for_special_mix(desk_) || load_walk_.under_way() ||
-        chain.point_chargement != desk_.elapsed() || is_loaded(desk_.deck(next_deck(chain.lecteur_en_cours.value()))))
-        return leave_load_step();
+    if (!is_due())
+        return leave();
     desk_.warning.hide();
     const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
     const auto wanted = [this, main = chain.lecteur_en_cours] {
         return loads_ahead() && !waits_for_special_mix(desk_) && desk_.chain.lecteur_en_cours == main;
     };
-    load_walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, wanted, trap);
-    leave_load_step();
+    walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, wanted, trap);
+    leave();
 }
 
-void AutoChain::leave_load_step() {
+bool LoadAhead::is_due() const {
+    return desk_.has_main_deck() && !waits_for_special_mix(desk_) && !walk_.under_way() &&
+           desk_.chain.point_chargement == desk_.elapsed() && !cursor_.is_loaded(next_on_the_ring());
+}
+
+void LoadAhead::leave() {
     desk_.window.mouse_pointer = 0;
 }
 
+Deck& LoadAhead::next_on_the_ring() const {
+    return desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value()));
+}
+
 /// Looks at the next row; true when it was loaded, or the list was stopped.
-bool AutoChain::try_to_load_next() {
+bool LoadAhead::try_to_load_next() {
     ChainState& chain = desk_.chain;
-    if (chain.ordre_aleatoire.is_false()) {
-        chain.choix_prepare = false;
-        take_next_row();
-    } else if (chain.ordre_aleatoire.is_true()) {
-        if (!take_drawn_row())
-            return false;
-        chain.choix_prepare = true;
-    } else {
+    if (!chain.ordre_aleatoire.is_true() && !chain.ordre_aleatoire.is_false())
         return true;
-    }
-    if (desk_.list.chemin_fichier == chain.chemin_precedent)
+    if (!take_row() || desk_.list.chemin_fichier == chain.chemin_precedent)
         return false;
     desk_.window.Timer1.disable();
-    desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.read_for_the_air();
+    cursor_.read_row();
     chain.chargement_fait = true;
     try {
         if (!is_file_there() || !load_row())
             return false;
-        loaded();
+        show_loaded();
         return true;
     } catch (const ListStopped&) {
         stop_after_load_error();
@@ -108,29 +111,19 @@ bool AutoChain::try_to_load_next() {
     }
 }
 
-void AutoChain::take_next_row() {
-    desk_.list.index_en_cours += 1;
-    take_current_row();
-}
-
-// Behind the last row the list begins anew; it may have become shorter meanwhile. Before the first row stands a list
-// whose first row was loaded in list order.
-void AutoChain::take_current_row() {
-    if (desk_.list.index_en_cours < 1 || desk_.list.index_en_cours.value() > desk_.row_count())
-        desk_.list.index_en_cours = 1;
-    desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
-}
-
-bool AutoChain::take_drawn_row() {
-    const int row = random_order_.draw(desk_.list.index_en_cours.value(), desk_.row_count());
-    if (row == 0)
-        return false;
-    desk_.list.index_en_cours = row;
-    take_current_row();
+bool LoadAhead::take_row() {
+    if (desk_.chain.ordre_aleatoire.is_true()) {
+        if (!cursor_.take_drawn_row())
+            return false;
+        desk_.chain.choix_prepare = true;
+        return true;
+    }
+    desk_.chain.choix_prepare = false;
+    cursor_.take_next_row();
     return true;
 }
 
-bool AutoChain::is_file_there() {
+bool LoadAhead::is_file_there() {
     const std::string& path = desk_.list.chemin_fichier;
     if (is_network_path(path)) {
         journal_.note(date_and_time(desk_.platform) +
@@ -152,7 +145,7 @@ bool AutoChain::is_file_there() {
         throw Failure{errors.number(), path};
     const bool there = equal_ignoring_case(trim(found), trim(name_of_path(path)));
     if (errors.is_set())
-        pass_over_row(load_walk_, passed_over::silent_disk);
+        pass_over(passed_over::silent_disk);
     else if (!there) {
         enter_folder(); // it may have gone between the two looks
         drop_invalid_row();
@@ -160,71 +153,45 @@ bool AutoChain::is_file_there() {
     return there;
 }
 
-bool AutoChain::load_row() {
+bool LoadAhead::load_row() {
     desk_.window.Timer1.disable();
-    const LoadResult result = loading_.load_from_list(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
+    const LoadResult result = cursor_.load_on(next_on_the_ring());
     if (result == LoadResult::loaded)
         return true;
-    if (result == LoadResult::failed && is_missing(desk_.list.chemin_fichier))
+    if (result == LoadResult::failed && cursor_.is_missing(desk_.list.chemin_fichier))
         drop_invalid_row();
     else
-        pass_over_row(load_walk_, why_not_loaded(result));
+        pass_over(passed_over::because_of(result));
     return false;
 }
 
-bool AutoChain::is_folder_there(const std::string& path) {
-    bool there = false;
-    ErrorIndicator{}.skip([&] { there = desk_.platform.disk.facts(folder_of_path(path)).is_folder; });
-    return there;
-}
-
-bool AutoChain::is_missing(const std::string& path) {
-    std::string found = path;
-    ErrorIndicator{}.skip([&] { found = desk_.platform.disk.Dir(path); });
-    return found.empty() && is_folder_there(path);
-}
-
-std::string_view AutoChain::why_not_loaded(LoadResult result) {
-    return result == LoadResult::disk_did_not_answer ? passed_over::silent_disk
-           : result == LoadResult::too_short         ? passed_over::too_short
-                                                     : passed_over::unplayable;
-}
-
 // In list order the chain adds 1 again when it starts the track.
-void AutoChain::loaded() {
-    desk_.report_loaded(desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value())));
+void LoadAhead::show_loaded() {
+    desk_.report_loaded(next_on_the_ring());
     if (!desk_.chain.ordre_aleatoire.is_true())
         desk_.list.index_en_cours -= 1;
     desk_.chain.duree_lecteur = 0;
 }
 
-/// Tomorrow the row may be sound again, so it stays in the list. A disk that is waited for ends the walk's turn.
-void AutoChain::pass_over_row(RowWalk& walk, std::string_view why) {
-    note_passed_over(why);
-    desk_.chain.chargement_fait = false;
-    desk_.chain.choix_prepare = false;
+// A disk that is waited for ends the walk's turn.
+void LoadAhead::pass_over(std::string_view why) {
+    cursor_.pass_over(why);
     if (why == passed_over::silent_disk)
-        walk.rest();
+        walk_.rest();
 }
 
-void AutoChain::note_passed_over(std::string_view why) {
-    const std::string& path = desk_.list.chemin_fichier;
-    if (passed_over_.insert(path).second)
-        journal_.note(date_and_time(desk_.platform) + " fichier : " + path + std::string{why});
-}
-
-void AutoChain::drop_invalid_row() {
+void LoadAhead::drop_invalid_row() {
     journal_.note(date_and_time(desk_.platform) + " fichier : " + desk_.list.chemin_fichier +
                   " Non trouvé ou non valide");
     if (desk_.row_count() == 0)
         throw ListStopped{};
-    run_.remove_row();
+    cursor_.remove_row();
     desk_.chain.chargement_fait = false;
     if (desk_.row_count() == 0)
         throw ListStopped{};
 }
 
-void AutoChain::stop_after_load_error() {
+void LoadAhead::stop_after_load_error() {
     journal_.note(date_and_time(desk_.platform) + " Erreur au chargement de fichier...liste stoppée");
     run_.stoppe_liste("Erreur au chargement de fichier...liste stoppée");
     desk_.window.mouse_pointer = 0;

@@ -1,0 +1,153 @@
+#include "playout/row_cursor.h"
+
+#include "platform/calendar_text.h"
+#include "platform/disk.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "platform/random.h"
+#include "platform/text.h"
+
+namespace sonarelle {
+
+std::string_view passed_over::because_of(LoadResult result) {
+    return result == LoadResult::disk_did_not_answer ? silent_disk
+           : result == LoadResult::too_short         ? too_short
+                                                     : unplayable;
+}
+
+void RowCursor::take_next_row() {
+    desk_.list.index_en_cours += 1;
+    take_current_row();
+}
+
+// Behind the last row the list begins anew; it may have become shorter meanwhile. Before the first row stands a list
+// whose first row was loaded in list order.
+void RowCursor::take_current_row() {
+    if (desk_.list.index_en_cours < 1 || desk_.list.index_en_cours.value() > desk_.row_count())
+        desk_.list.index_en_cours = 1;
+    desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
+}
+
+bool RowCursor::take_drawn_row() {
+    const int row = random_order_.draw(desk_.list.index_en_cours.value(), desk_.row_count());
+    if (row == 0)
+        return false;
+    desk_.list.index_en_cours = row;
+    take_current_row();
+    return true;
+}
+
+void RowCursor::draw_any_row() {
+    desk_.platform.random.Randomize();
+    const double rows = desk_.row_count();
+    desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
+    take_current_row();
+}
+
+RowCursor::Place RowCursor::place() const {
+    return {desk_.list.index_en_cours, desk_.list.chemin_fichier, desk_.chain.choix_prepare,
+            desk_.chain.chargement_fait, desk_.row_count()};
+}
+
+void RowCursor::go_back_to(const Place& place) {
+    if (desk_.row_count() != place.rows) {
+        desk_.chain.choix_prepare = false;
+        return;
+    }
+    desk_.list.index_en_cours = place.row;
+    desk_.list.chemin_fichier = place.path;
+    desk_.chain.choix_prepare = place.choix_prepare;
+    desk_.chain.chargement_fait = place.chargement_fait;
+}
+
+RowCursor::Look RowCursor::look() {
+    try {
+        detecte_fichier_liste();
+    } catch (const Failure& failure) {
+        const bool silent = failure.number == failure_number::device_fault;
+        pass_over(silent ? passed_over::silent_disk : passed_over::no_folder);
+        return silent ? Look::silent_disk : Look::no_answer;
+    }
+    return desk_.list.chemin_fichier.empty() ? Look::gone : Look::found;
+}
+
+void RowCursor::detecte_fichier_liste() {
+    std::string& path = desk_.list.chemin_fichier;
+    desk_.window.Text2.set_text(path);
+    if (is_network_path(path))
+        return;
+    const std::string folder{folder_of_path(path)};
+    const std::string name{name_of_path(path)};
+    desk_.platform.disk.ChDrive(path);
+    desk_.platform.disk.ChDir(folder);
+    if (desk_.platform.disk.Dir(path).empty()) {
+        desk_.platform.disk.ChDir(folder); // it may have gone between the two looks
+        remove_row();
+        path.clear();
+        return;
+    }
+    if (equal_ignoring_case(desk_.platform.disk.Dir(join_path(folder, name)), name)) {
+        path = join_path(folder, name);
+        return;
+    }
+    report_missing("Recherche de fichier", "Ce fichier est NON TROUVE !");
+    path.clear();
+}
+
+void RowCursor::read_row() {
+    desk_.list.index_destinataire = desk_.list.index_en_cours;
+    reading_.read_for_the_air();
+}
+
+bool RowCursor::is_loaded(const Deck& deck) const {
+    return desk_.chain.chargement_fait.is_true() && deck.path == desk_.list.chemin_fichier;
+}
+
+bool RowCursor::is_folder_there(const std::string& path) const {
+    bool there = false;
+    ErrorIndicator{}.skip([&] { there = desk_.platform.disk.facts(folder_of_path(path)).is_folder; });
+    return there;
+}
+
+bool RowCursor::is_missing(const std::string& path) const {
+    std::string found = path;
+    ErrorIndicator{}.skip([&] { found = desk_.platform.disk.Dir(path); });
+    return found.empty() && is_folder_there(path);
+}
+
+void RowCursor::pass_over(std::string_view why) {
+    note_passed_over(why);
+    desk_.chain.chargement_fait = false;
+    desk_.chain.choix_prepare = false;
+}
+
+void RowCursor::note_passed_over(std::string_view why) {
+    const std::string& path = desk_.list.chemin_fichier;
+    if (passed_over_.insert(path).second)
+        journal_.note(date_and_time(desk_.platform) + " fichier : " + path + std::string{why});
+}
+
+void RowCursor::remove_row() {
+    desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
+    document_.sauve_tout();
+    desk_.report({.kind = OnAirEvent::Kind::removed,
+                  .row = desk_.list.index_en_cours.value(),
+                  .path = desk_.list.chemin_fichier});
+    if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
+        desk_.list.ligne_en_lecture -= 1;
+    desk_.list.index_en_cours -= 1;
+    report_missing("Recherche de fichier valide ",
+                   "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
+}
+
+void RowCursor::report_missing(const std::string& heading, const std::string& last_line) {
+    desk_.warn_of_file(heading, desk_.list.chemin_fichier, last_line);
+}
+
+void RowCursor::select_row() {
+    const int row = desk_.list.index_en_cours.value();
+    desk_.list_window.ListView1.ensure_visible(row);
+    desk_.list_window.ListView1.select(row);
+}
+
+} // namespace sonarelle

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "playlist/list_document.h"
+#include "playlist/record_reading.h"
+#include "playout/deck_loading.h"
+#include "playout/desk.h"
+#include "playout/journal.h"
+#include "playout/random_order.h"
+
+namespace sonarelle {
+
+/// Why a row is passed over and stays in the list, for the journal.
+namespace passed_over {
+inline constexpr std::string_view silent_disk = " Le disque ne répond pas";
+inline constexpr std::string_view no_folder = " Dossier absent, gardé dans la liste";
+inline constexpr std::string_view too_short = " Plus court qu'une seconde";
+inline constexpr std::string_view unplayable = " Lecture impossible, gardé dans la liste";
+
+/// Of a load that came to nothing.
+[[nodiscard]] std::string_view because_of(LoadResult result);
+} // namespace passed_over
+
+/// Where the chain stands in the list: which row comes next, whether its file is there, and its way onto a deck.
+/// Window thread.
+class RowCursor {
+public:
+    RowCursor(Desk& desk, Journal& journal, ListDocument& document, RecordReading& reading, DeckLoading& loading)
+        : desk_{desk}, journal_{journal}, document_{document}, reading_{reading}, loading_{loading},
+          random_order_{desk.platform.random} {}
+
+    /// Steps to the next row, round the end, and takes its path.
+    void take_next_row();
+    /// Takes the path of the current row, round the end.
+    void take_current_row();
+    /// Steps to a row by draw. False when none could be drawn: the next turn draws again.
+    [[nodiscard]] bool take_drawn_row();
+
+    /// Steps to any row at all, by one draw.
+    void draw_any_row();
+
+    /// Where the chain stands, and what it has made ready.
+    struct Place {
+        Integer row;
+        std::string path;
+        Flag choix_prepare, chargement_fait;
+        int rows = 0; ///< Of the list.
+    };
+    [[nodiscard]] Place place() const;
+    /// Where rows were removed on the way there is no place to go back to, and the next look draws anew.
+    void go_back_to(const Place& place);
+
+    enum class Look {
+        found,
+        gone,       ///< The row left the list, or names no file.
+        no_answer,  ///< Its drive or folder doesn't answer: passed over and kept.
+        silent_disk ///< The same of a disk that was waited for.
+    };
+    /// Looks for the current row's file.
+    [[nodiscard]] Look look();
+    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row whose folder is there and
+    /// doesn't hold it is removed.
+    /// @throws Failure when its drive or folder doesn't answer: 68, 76 and others.
+    void detecte_fichier_liste();
+
+    /// Reads the current row's record for the deck that it goes on.
+    void read_row();
+    /// Loads it, as a record that was read.
+    LoadResult load_on(Deck& deck) { return loading_.load_from_list(deck); }
+    /// Whether the load step has put the current row on that deck already.
+    [[nodiscard]] bool is_loaded(const Deck& deck) const;
+
+    [[nodiscard]] bool is_folder_there(const std::string& path) const;
+    /// Its folder answers and doesn't hold it.
+    [[nodiscard]] bool is_missing(const std::string& path) const;
+
+    /// Keeps the current row and journals, once a track, why it isn't taken. Tomorrow it may be sound again.
+    void pass_over(std::string_view why);
+    /// The journal's line alone.
+    void note_passed_over(std::string_view why);
+    /// A new track is on the air: what is passed over from now on is journalled anew.
+    void begin_track() { passed_over_.clear(); }
+
+    /// Removes the current row, whose file can't be played, saves the list and says so.
+    void remove_row();
+    /// Shows it as the one that plays.
+    void select_row();
+
+private:
+    void report_missing(const std::string& heading, const std::string& last_line);
+
+    Desk& desk_;
+    Journal& journal_;
+    ListDocument& document_;
+    RecordReading& reading_;
+    DeckLoading& loading_;
+    RandomOrder random_order_;
+    std::set<std::string> passed_over_; // since the last start
+};
+
+} // namespace sonarelle

@@ -25,7 +25,7 @@ Deck& Desk::main_deck() {
 const Deck& Desk::main_deck() const {
     if (!has_main_deck())
         throw Failure{failure_number::no_object, "lecteur en cours"};
-    return decks[static_cast<std::size_t>(chain.lecteur_en_cours.value() - 1)];
+    return decks.at(static_cast<std::size_t>(chain.lecteur_en_cours.value() - 1));
 }
 
 void Desk::set_air(AirState state) {

@@ -32,7 +32,7 @@ struct Desk {
     std::function<void(const OnAirEvent&)> on_event = {};
     std::function<void(const std::string&)> on_warning = {};
 
-    [[nodiscard]] Deck& deck(int number) { return decks[static_cast<std::size_t>(number - 1)]; }
+    [[nodiscard]] Deck& deck(int number) { return decks.at(static_cast<std::size_t>(number - 1)); }
     [[nodiscard]] bool has_main_deck() const { return chain.lecteur_en_cours >= 1 && chain.lecteur_en_cours <= 3; }
     /// @throws Failure 91 without one.
     [[nodiscard]] Deck& main_deck();

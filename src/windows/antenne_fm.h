@@ -16,7 +16,7 @@ struct Antenne_FM : MainMenus {
     explicit Antenne_FM(Scheduler& scheduler);
 
     /// The parts of deck 1, 2 or 3.
-    [[nodiscard]] DeckControls& deck(int number) { return decks[static_cast<std::size_t>(number - 1)]; }
+    [[nodiscard]] DeckControls& deck(int number) { return decks.at(static_cast<std::size_t>(number - 1)); }
 
     std::array<DeckControls, 3> decks;
 

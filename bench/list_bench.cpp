@@ -56,7 +56,7 @@ void charge_liste(benchmark::State& state) {
     LoadedStation loaded;
     for (auto _ : state)
         loaded.station.list_document.charge_liste();
-    if (loaded.station.list_window.ListView1.count() != row_count)
+    if (loaded.station.list_window.rows.count() != row_count)
         state.SkipWithError("rows are missing");
 }
 BENCHMARK(charge_liste)->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();

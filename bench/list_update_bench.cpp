@@ -118,7 +118,7 @@ public:
     void update() { station_.list_window.a_mettre_a_jour_liste.click(); }
 
     [[nodiscard]] bool is_measured() const {
-        const RowTable& rows = station_.list_window.ListView1;
+        const RowTable& rows = station_.list_window.rows;
         if (rows.count() != file_count)
             return false;
         for (int row = 1; row <= file_count; ++row)

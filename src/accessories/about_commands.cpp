@@ -19,7 +19,7 @@ void AboutCommands::connect() {
     update_.site.on_click = [this] { WebJump(maker::site); };
     update_.download.on_click = [this] { WebJump(maker::download_page); };
     update_.mail.on_click = [this] { WebJump("mailto:" + std::string{maker::mail}); };
-    desk_.warning.AnyButton2.on_click = [this] { show_listening_count(); };
+    desk_.warning.info.on_click = [this] { show_listening_count(); };
 }
 
 void AboutCommands::show_update_info() {
@@ -39,8 +39,8 @@ void AboutCommands::WebJump(std::string_view address) {
 
 void AboutCommands::show_listening_count() {
     desk_.warning.caption = std::string{application_title};
-    desk_.warning.Label1.caption = "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : " +
-                                   text_of(desk_.chain.nb_fichiers_ecoutes);
+    desk_.warning.lines.caption = "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : " +
+                                  text_of(desk_.chain.nb_fichiers_ecoutes);
     desk_.warning.show();
 }
 

@@ -11,11 +11,11 @@ struct Chargement : Window {
         on_unload_request = [this] { hide(); };
         width = Twips{7500};
         height = Twips{5250};
-        Image1.width = width.get() - Twips{100};
-        Image1.height = height.get() - Twips{490};
+        picture.width = width.get() - Twips{100};
+        picture.height = height.get() - Twips{490};
     }
 
-    Image Image1{*this, "Image1"};
+    Image picture{*this, "Image1"};
 };
 
 } // namespace sonarelle

@@ -3,8 +3,8 @@
 namespace sonarelle {
 
 Propriete::Propriete(Scheduler& scheduler)
-    : Window{"Propriete"}, Timer1{"Propriete.Timer1", 1, scheduler}, Timer2{"Propriete.Timer2", 2, scheduler},
-      Timer3{"Propriete.Timer3", 3, scheduler} {
+    : Window{"Propriete"}, progress_timer{"Propriete.Timer1", 1, scheduler},
+      start_timer{"Propriete.Timer2", 2, scheduler}, end_timer{"Propriete.Timer3", 3, scheduler} {
     caption = "Propriété du fichier sélectionné";
     mark_start.hint = "Sélection Début / pause";
     mark_end.hint = "Sélection Fin / pause";
@@ -14,8 +14,8 @@ Propriete::Propriete(Scheduler& scheduler)
         forward->hint = "Avancer";
     for (Label* later : {&stop, &mark_end})
         later->visible = false;
-    ProgressBar1.units_wide = bar_units;
-    ProgressBar1.maximum = 0;
+    bar.units_wide = bar_units;
+    bar.maximum = 0;
     for (Timer* timer : timers())
         timer->set_interval(position_interval);
 }

@@ -14,13 +14,13 @@ SmallPlayer::SmallPlayer(Desk& desk, DeckCommands commands, std::function<void()
 
 void SmallPlayer::connect() {
     mini_lecteur& window = desk_.small_player;
-    window.Command1.on_click = [this] { play(); };
-    window.Command2.on_click = [this] { next(); };
-    window.Command3.on_click = [this] { stop(); };
-    window.Command4.on_click = [this] { show_main_window(); };
-    window.Command5.on_click = [this] { ask_to_quit(); };
-    window.Command6.on_click = [this] { back(); };
-    window.Command7.on_click = [this] { forward(); };
+    window.play.on_click = [this] { play(); };
+    window.next.on_click = [this] { next(); };
+    window.stop.on_click = [this] { stop(); };
+    window.show_main_window.on_click = [this] { show_main_window(); };
+    window.quit.on_click = [this] { ask_to_quit(); };
+    window.back.on_click = [this] { back(); };
+    window.forward.on_click = [this] { forward(); };
     window.on_key_press = [this](char32_t key) { press_key(key); };
     window.on_unload_request = [this] { ask_to_quit(); };
 }
@@ -38,11 +38,11 @@ void SmallPlayer::next() {
     if (!has_main_deck())
         return;
     const Integer deck = desk_.chain.lecteur_en_cours;
-    desk_.small_player.Command2.enabled = false;
+    desk_.small_player.next.enabled = false;
     commands_.next(desk_.main_deck());
     // Where no file came, no load switches the button on again.
     if (desk_.chain.lecteur_en_cours == deck)
-        desk_.small_player.Command2.enabled = true;
+        desk_.small_player.next.enabled = true;
 }
 
 bool SmallPlayer::has_main_deck() {

@@ -31,7 +31,7 @@ TrackProperties::TrackProperties(const Platform& platform, const StationSettings
                                  const ListGuard& guard)
     : platform_{platform}, settings_{settings}, list_{list}, chain_{chain}, destination_{destination},
       list_window_{list_window}, window_{window}, reading_{reading}, document_{document}, guard_{guard},
-      start_{window.Text1, window.Timer2}, end_{window.Text2, window.Timer3} {
+      start_{window.start, window.start_timer}, end_{window.end, window.end_timer} {
     connect_actions();
     connect_looks();
 }
@@ -46,13 +46,13 @@ void TrackProperties::connect_actions() {
     on_press(window_.start_forward, [this] { step(start_, one_step); });
     on_press(window_.end_back, [this] { step_back(end_); });
     on_press(window_.end_forward, [this] { step(end_, one_step); });
-    window_.ProgressBar1.on_mouse_move_at = [this](int x) { tell_place(x); };
-    window_.ProgressBar1.on_click_at = [this](int x) { ErrorIndicator{}.skip([&] { go_to_place(x); }); };
-    window_.Timer1.on_tick = [this] { ErrorIndicator{}.skip([this] { show_progress(); }); };
+    window_.bar.on_mouse_move_at = [this](int x) { tell_place(x); };
+    window_.bar.on_click_at = [this](int x) { ErrorIndicator{}.skip([&] { go_to_place(x); }); };
+    window_.progress_timer.on_tick = [this] { ErrorIndicator{}.skip([this] { show_progress(); }); };
     for (const Mark* mark : {&start_, &end_})
         mark->timer.on_tick = [this, mark] { ErrorIndicator{}.skip([&] { show_position(*mark); }); };
-    window_.AnyButton1.on_click = [this] { close(); };
-    window_.AnyButton2.on_click = [this] { save(); };
+    window_.close.on_click = [this] { close(); };
+    window_.save.on_click = [this] { save(); };
     window_.on_unload_request = [this] { close(); };
     window_.on_key_press = [this](char32_t key) {
         if (key == escape_key)
@@ -86,11 +86,11 @@ MediaGraph& TrackProperties::graph() const {
 }
 
 void TrackProperties::a_modif() {
-    if (list_window_.ListView1.count() == 0 || !guard_.allows(ListAction::a_modif))
+    if (list_window_.rows.count() == 0 || !guard_.allows(ListAction::a_modif))
         return;
     ErrorIndicator{}.skip([this] {
         forget_file();
-        const bool has_volume = fill_finds_a_volume(std::max(1, list_window_.ListView1.selected()));
+        const bool has_volume = fill_finds_a_volume(std::max(1, list_window_.rows.selected()));
         restore_colours();
         window_.show();
         if (!has_volume)
@@ -106,12 +106,12 @@ bool TrackProperties::fill_finds_a_volume(int row) {
     row_ = row;
     path_ = trim(destination_.dest_chemin);
     changed_ = false;
-    window_.Label2.caption = destination_.dest_nom_fichier;
-    window_.Text1.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
-    window_.Text2.set_text(destination_.dest_fin);
-    window_.Text3.set_text(destination_.dest_genre);
-    window_.Text4.set_text(text_of(destination_.dest_volume));
-    window_.Text5.set_text(destination_.dest_duree);
+    window_.file_name.caption = destination_.dest_nom_fichier;
+    window_.start.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
+    window_.end.set_text(destination_.dest_fin);
+    window_.genre.set_text(destination_.dest_genre);
+    window_.volume.set_text(text_of(destination_.dest_volume));
+    window_.length.set_text(destination_.dest_duree);
     return !is_read || destination_.dest_volume_pourcent != 0;
 }
 
@@ -119,8 +119,8 @@ bool TrackProperties::fill_finds_a_volume(int row) {
 void TrackProperties::forget_file() {
     stop();
     graph_.reset();
-    window_.ProgressBar1.maximum = 0;
-    window_.ProgressBar1.caption = std::string{};
+    window_.bar.maximum = 0;
+    window_.bar.caption = std::string{};
     for (Label* later : {&window_.stop, &window_.mark_end})
         later->visible = false;
 }
@@ -131,10 +131,10 @@ void TrackProperties::play() {
     auto graph = platform_.media.create_graph();
     graph->RenderFile(path_);
     graph_ = std::move(graph);
-    window_.ProgressBar1.maximum = to_long(graph_->get_Duration());
+    window_.bar.maximum = to_long(graph_->get_Duration());
     window_.stop.visible = true;
     graph_->Run();
-    window_.Timer1.enable();
+    window_.progress_timer.enable();
     start_.timer.enable();
 }
 
@@ -143,7 +143,7 @@ void TrackProperties::stop() {
     for (Timer* timer : window_.timers())
         timer->disable();
     start_.paused = end_.paused = false;
-    window_.ProgressBar1.value = 0;
+    window_.bar.value = 0;
     if (graph_)
         graph_->Stop();
 }
@@ -176,7 +176,7 @@ void TrackProperties::press_mark(Mark& mark) {
 
 // Both ends ask whether the start leaves room for a step back.
 void TrackProperties::step_back(const Mark& mark) {
-    if (to_double(window_.Text1.text(), platform_.decimal_mark) > 0)
+    if (to_double(window_.start.text(), platform_.decimal_mark) > 0)
         step(mark, -one_step);
 }
 
@@ -190,11 +190,11 @@ void TrackProperties::show_position(const Mark& mark) {
 }
 
 void TrackProperties::show_progress() {
-    window_.ProgressBar1.value = to_long(graph().get_CurrentPosition());
+    window_.bar.value = to_long(graph().get_CurrentPosition());
 }
 
 void TrackProperties::tell_place(int x) {
-    ProgressBar& bar = window_.ProgressBar1;
+    ProgressBar& bar = window_.bar;
     bar.hint = "lecteur chargé (F8) avec : " + path_;
     if (bar.maximum > 0)
         bar.caption = std::to_string(percent_of(x)) + "%";
@@ -242,24 +242,24 @@ void TrackProperties::write_row() {
 enreg_liste TrackProperties::edited_row() const {
     enreg_liste row;
     row.set_chemin(path_);
-    row.set_debut_lecture(to_double(window_.Text1.text(), platform_.decimal_mark));
-    row.set_fin_lecture(window_.Text2.text());
-    row.set_genre(window_.Text3.text());
-    row.set_volume(static_cast<std::int16_t>(to_integer(window_.Text4.text(), platform_.decimal_mark).value()));
-    row.set_duree_piste(window_.Text5.text());
+    row.set_debut_lecture(to_double(window_.start.text(), platform_.decimal_mark));
+    row.set_fin_lecture(window_.end.text());
+    row.set_genre(window_.genre.text());
+    row.set_volume(static_cast<std::int16_t>(to_integer(window_.volume.text(), platform_.decimal_mark).value()));
+    row.set_duree_piste(window_.length.text());
     return row;
 }
 
 // As after every change of a row, the default list then holds the whole table.
 void TrackProperties::put_row_back(const enreg_liste& row) {
-    list_window_.ListView1.replace(row_.value(), row_of(row, platform_.decimal_mark));
+    list_window_.rows.replace(row_.value(), row_of(row, platform_.decimal_mark));
     document_.sauve_tout();
 }
 
 void TrackProperties::close() {
     ErrorIndicator{}.skip([this] { stop(); });
     if (window_.visible && !changed_)
-        list_window_.Label1.caption = " Pas de Modification ";
+        list_window_.list_status.caption = " Pas de Modification ";
     window_.hide();
 }
 

@@ -8,20 +8,20 @@ namespace sonarelle {
 struct Form_options : Window {
     Form_options() : Window{"Form_options"} { caption = "Paramètres / Options"; }
 
-    CheckBox Check1{*this, "Check1"}; ///< Jingles are inserted by draw.
-    CheckBox Check2{*this, "Check2"}; ///< List items are inserted by draw.
-    TextBox Text1{*this, "Text1"};    ///< After how many tracks a jingle comes.
-    TextBox Text2{*this, "Text2"};    ///< The list of the jingles.
-    TextBox Text3{*this, "Text3"};    ///< Load lead, seconds.
-    TextBox Text4{*this, "Text4"};    ///< Overlap, seconds.
-    TextBox Text5{*this, "Text5"};    ///< Longest jingle, seconds.
-    TextBox Text6{*this, "Text6"};    ///< Interval of the fade, milliseconds.
-    TextBox Text7{*this, "Text7"};    ///< Slider steps of a special mix.
-    TextBox Text8{*this, "Text8"};    ///< Interval of the chain's timers, milliseconds.
-    TextBox Text11{*this, "Text11"};  ///< Overlap of a short item, seconds.
-    TextBox Text12{*this, "Text12"};  ///< The list of the inserted items.
-    TextBox Text13{*this, "Text13"};  ///< After how many tracks an item comes.
-    TextBox Text14{*this, "Text14"};  ///< Life of the outgoing deck, seconds.
+    CheckBox draws_jingles{*this, "Check1"};   ///< Jingles are inserted by draw.
+    CheckBox draws_items{*this, "Check2"};     ///< List items are inserted by draw.
+    TextBox jingle_spacing{*this, "Text1"};    ///< After how many tracks a jingle comes.
+    TextBox jingle_list{*this, "Text2"};       ///< The list of the jingles.
+    TextBox load_lead{*this, "Text3"};         ///< Load lead, seconds.
+    TextBox overlap{*this, "Text4"};           ///< Overlap, seconds.
+    TextBox longest_jingle{*this, "Text5"};    ///< Longest jingle, seconds.
+    TextBox fade_interval{*this, "Text6"};     ///< Interval of the fade, milliseconds.
+    TextBox special_mix_steps{*this, "Text7"}; ///< Slider steps of a special mix.
+    TextBox chain_interval{*this, "Text8"};    ///< Interval of the chain's timers, milliseconds.
+    TextBox short_overlap{*this, "Text11"};    ///< Overlap of a short item, seconds.
+    TextBox item_list{*this, "Text12"};        ///< The list of the inserted items.
+    TextBox item_spacing{*this, "Text13"};     ///< After how many tracks an item comes.
+    TextBox outgoing_life{*this, "Text14"};    ///< Life of the outgoing deck, seconds.
 };
 
 } // namespace sonarelle

@@ -45,12 +45,12 @@ SettingsLoad::SettingsLoad(const Platform& platform, StationSettings& settings, 
 void SettingsLoad::Chargement_parametres() {
     static constexpr std::array insertions{
         Insertion{"valide_fichier_aleatoire", "Nb_fichier_aleatoire", "Chemin_fichier_aleatoire", "Jingle On",
-                  &StationSettings::valide_fichier_aleatoire, &Form_options::Check1, &Form_options::Text1,
-                  &Form_options::Text2, &Antenne_FM::Timer8, &Liste_son::Label14, &Liste_son::Image13,
-                  &ListState::bouton_jingle_actif},
+                  &StationSettings::valide_fichier_aleatoire, &Form_options::draws_jingles,
+                  &Form_options::jingle_spacing, &Form_options::jingle_list, &Antenne_FM::jingle_timer,
+                  &Liste_son::jingles_status, &Liste_son::jingles_switch, &ListState::bouton_jingle_actif},
         Insertion{"valide_fichier_aleatoire1", "Nb_fichier_aleatoire1", "Chemin_fichier_aleatoire1", "Liste On",
-                  &StationSettings::valide_fichier_aleatoire1, &Form_options::Check2, &Form_options::Text13,
-                  &Form_options::Text12, &Antenne_FM::Timer9, &Liste_son::Label15, &Liste_son::Image14,
+                  &StationSettings::valide_fichier_aleatoire1, &Form_options::draws_items, &Form_options::item_spacing,
+                  &Form_options::item_list, &Antenne_FM::item_timer, &Liste_son::items_status, &Liste_son::items_switch,
                   &ListState::bouton_liste_actif},
     };
     write_program_folder();
@@ -135,7 +135,7 @@ void SettingsLoad::read_texts() {
 // number up to this point counts as missing and not as a damaged store.
 void SettingsLoad::make_options_dialog() {
     errors_.clear();
-    options_.Text5.set_text(text_of(settings_.valeur_max_jingles));
+    options_.longest_jingle.set_text(text_of(settings_.valeur_max_jingles));
 }
 
 void SettingsLoad::read_insertion(const Insertion& insertion) {
@@ -191,17 +191,17 @@ void SettingsLoad::convert_kept_texts() {
         if (box != nullptr)
             box->set_text(text_of(into));
     };
-    convert(kept_.mix_audio_vitesse, settings_.mix_audio_vitesse, &options_.Text6);
-    convert(kept_.mix_audio, settings_.mix_audio, &options_.Text14);
-    convert(kept_.forcer_mix_jingles, settings_.forcer_mix_jingles, &options_.Text11);
-    convert(kept_.mix_audio_attenuation, settings_.mix_audio_attenuation, &options_.Text7);
-    convert(kept_.mix, settings_.mix_courant, &options_.Text4);
-    convert(kept_.prechargement, settings_.prechargement, &options_.Text3);
+    convert(kept_.mix_audio_vitesse, settings_.mix_audio_vitesse, &options_.fade_interval);
+    convert(kept_.mix_audio, settings_.mix_audio, &options_.outgoing_life);
+    convert(kept_.forcer_mix_jingles, settings_.forcer_mix_jingles, &options_.short_overlap);
+    convert(kept_.mix_audio_attenuation, settings_.mix_audio_attenuation, &options_.special_mix_steps);
+    convert(kept_.mix, settings_.mix_courant, &options_.overlap);
+    convert(kept_.prechargement, settings_.prechargement, &options_.load_lead);
     convert(kept_.prechargement, settings_.prechargement_defaut);
-    convert(kept_.valeur_vitesse_timer, settings_.valeur_vitesse_timer, &options_.Text8);
+    convert(kept_.valeur_vitesse_timer, settings_.valeur_vitesse_timer, &options_.chain_interval);
     convert(kept_.mix, settings_.mix_defaut);
-    main_.Text1.set_text(kept_.mix);
-    main_.UpDown1.show_value(settings_.mix_courant.value());
+    main_.overlap.set_text(kept_.mix);
+    main_.overlap_steps.show_value(settings_.mix_courant.value());
 }
 
 void SettingsLoad::show_paths() {

@@ -68,7 +68,7 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
 }
 
 QWidget* AirHeader::mark(Dresser& dresser, Antenne_FM& window) const {
-    StudioButton* mark = dresser.image(window.Image2);
+    StudioButton* mark = dresser.image(window.background_picture);
     mark->set_look(ButtonLook::picture);
     mark->setFocusPolicy(Qt::NoFocus);
     mark->setMaximumHeight(20);

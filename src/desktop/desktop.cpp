@@ -103,9 +103,9 @@ void Desktop::watch(Control& control, std::function<void()> show) {
 void Desktop::connect_readings() {
     if (main_ == nullptr || list_ == nullptr || player_ == nullptr)
         return;
-    watch(desk_.list_window.Label4, [this] { show_list(); });
-    watch(desk_.list_window.Label1, [this] { show_list(); });
-    watch(desk_.window.Text1, [this] { show_decks(); });
+    watch(desk_.list_window.remaining, [this] { show_list(); });
+    watch(desk_.list_window.list_status, [this] { show_list(); });
+    watch(desk_.window.overlap, [this] { show_decks(); });
     for (DeckControls& deck : desk_.window.decks)
         for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
                                                                 &deck.playing_mark, &deck.play, &deck.pause})

@@ -38,14 +38,14 @@ QLayout* ListView::header() {
     auto* panel = new Panel{&content()};
     auto* row = new QHBoxLayout{panel};
     row->setContentsMargins(14, 6, 14, 6);
-    title_ = dresser_.label(window_.Label2, {.pixels = 20, .bold = true, .characters = 20});
-    auto* list = dresser_.label(window_.Label25, {.pixels = 13, .quiet = true, .characters = 20});
+    title_ = dresser_.label(window_.track_name, {.pixels = 20, .bold = true, .characters = 20});
+    auto* list = dresser_.label(window_.file_in_use, {.pixels = 13, .quiet = true, .characters = 20});
     remaining_ = dresser_.label(
-        window_.Label4, {.pixels = 50, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
+        window_.remaining, {.pixels = 50, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
     clock_ =
-        dresser_.label(window_.Label13,
+        dresser_.label(window_.time_of_day,
                        {.pixels = 20, .digits = true, .characters = 9, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    for (const Label* label : {&window_.Label2, &window_.Label4, &window_.Label13})
+    for (const Label* label : {&window_.track_name, &window_.remaining, &window_.time_of_day})
         binding_of(*label)->on_shown = [this] { tell_air(); };
     row->addLayout(column_of({title_, list}, 2), 1);
     row->addWidget(remaining_);
@@ -61,7 +61,7 @@ void ListView::show_air(const ListAir& air) {
 // From the load on the station's own labels speak of the track to come, and their clock waits for the chain's tick; the
 // operator reads what is on the air, in both windows the same.
 void ListView::tell_air() {
-    title_->set_text(air_.title.isEmpty() ? to_qt(window_.Label2.caption.get()) : air_.title);
+    title_->set_text(air_.title.isEmpty() ? to_qt(window_.track_name.caption.get()) : air_.title);
     remaining_->set_text(air_.left);
     remaining_->setAccessibleName("Temps restant");
     clock_->set_text(air_.clock);
@@ -70,8 +70,8 @@ void ListView::tell_air() {
 }
 
 QLayout* ListView::table_row() {
-    auto* table = dresser_.table(window_.ListView1);
-    rows_ = static_cast<RowTableBinding*>(binding_of(window_.ListView1));
+    auto* table = dresser_.table(window_.rows);
+    rows_ = static_cast<RowTableBinding*>(binding_of(window_.rows));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
     auto* row = new QHBoxLayout;
@@ -104,41 +104,42 @@ QWidget* ListView::side_column() {
         column->addWidget(label);
     };
     heading("MODE DE LECTURE");
-    const std::array<std::pair<Image*, OptionButton*>, 4> modes{{{&window_.Image17, &window_.Option1},
-                                                                 {&window_.Image9, &window_.Option2},
-                                                                 {&window_.Image11, &window_.Option3},
-                                                                 {&window_.Image12, &window_.Option4}}};
+    const std::array<std::pair<Image*, OptionButton*>, 4> modes{
+        {{&window_.player_lamp, &window_.player_mode},
+         {&window_.random_lamp, &window_.random_mode},
+         {&window_.defined_end_lamp, &window_.defined_end_mode},
+         {&window_.full_length_lamp, &window_.full_length_mode}}};
     for (const auto& [picture, option] : modes)
         column->addLayout(dresser_.mode(*picture, *option));
     heading("INSERTION");
-    column->addLayout(row_of({lamp(window_.Image13), dresser_.label(window_.Label14, bold_text)}));
-    column->addLayout(row_of({lamp(window_.Image14), dresser_.label(window_.Label15, bold_text)}));
+    column->addLayout(row_of({lamp(window_.jingles_switch), dresser_.label(window_.jingles_status, bold_text)}));
+    column->addLayout(row_of({lamp(window_.items_switch), dresser_.label(window_.items_status, bold_text)}));
     column->addStretch(1);
     return side;
 }
 
 QLayout* ListView::button_row() {
-    auto* play = dresser_.image(window_.Image1, "▶ lecture liste", Accent::air);
-    auto* zap = dresser_.image(window_.Image2, "⇥ Zap (Z)", Accent::next);
-    auto* stop = dresser_.image(window_.Image3, "■ Stopper");
-    auto* place = dresser_.image(window_.Image4, "◎ Position");
-    auto* strip = dresser_.image(window_.Image10);
+    auto* play = dresser_.image(window_.play_list, "▶ lecture liste", Accent::air);
+    auto* zap = dresser_.image(window_.zap, "⇥ Zap (Z)", Accent::next);
+    auto* stop = dresser_.image(window_.stop_decks, "■ Stopper");
+    auto* place = dresser_.image(window_.show_playing_row, "◎ Position");
+    auto* strip = dresser_.image(window_.side_picture);
     strip->set_look(ButtonLook::picture);
     strip->setFocusPolicy(Qt::NoFocus);
     strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* row = row_of({play, zap, stop, place, strip});
     row->setStretchFactor(strip, 1); // it takes what the buttons leave
-    row->addWidget(dresser_.label(window_.Label8, button_text));
+    row->addWidget(dresser_.label(window_.save_as, button_text));
     row->addWidget(menu_button());
     return row;
 }
 
 QLayout* ListView::status_row() {
     auto* column = new QVBoxLayout;
-    auto* row =
-        row_of({dresser_.label(window_.Label1, bold_text), dresser_.label(window_.Label3, bold_text),
-                dresser_.label(window_.Label16, bold_text), nullptr, dresser_.label(window_.Label12, bold_text)},
-               18);
+    auto* row = row_of({dresser_.label(window_.list_status, bold_text), dresser_.label(window_.progress, bold_text),
+                        dresser_.label(window_.running_deck, bold_text), nullptr,
+                        dresser_.label(window_.zap_status, bold_text)},
+                       18);
     if (QWidget* rest = remaining_parts(dresser_))
         column->addWidget(rest);
     column->addLayout(row);

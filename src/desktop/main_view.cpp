@@ -97,7 +97,7 @@ QLayout* MainView::deck_row() {
     for (int number = 1; number <= 3; ++number) {
         const auto place = static_cast<std::size_t>(number - 1);
         decks_[place] =
-            new DeckPanel{*this, window_.deck(number), *window_.slider_stand_ins()[place], number, &content()};
+            new DeckPanel{*this, window_.deck(number), window_.slider_stand_ins.at(place), number, &content()};
         row->addWidget(decks_[place], 1);
     }
     return row;
@@ -116,21 +116,21 @@ QLayout* MainView::lower_row(const SoundReading& sound) {
 Panel* MainView::chain_panel() {
     auto* panel = new Panel{&content()};
     auto* column = column_in(panel, "ENCHAÎNEMENT");
-    auto* decks = dresser_.mode(window_.Image12, window_.coche2);
-    auto* list = dresser_.mode(window_.Image13, window_.coche3);
-    decks->addWidget(dresser_.image(window_.Image17, "Top horaire"));
-    list->addWidget(dresser_.check_box(window_.coche4));
-    auto* overlap = dresser_.text_box(window_.Text1);
+    auto* decks = dresser_.mode(window_.deck_chain_lamp, window_.mix_titles);
+    auto* list = dresser_.mode(window_.list_chain_lamp, window_.mix_list);
+    decks->addWidget(dresser_.image(window_.hourly_styles, "Top horaire"));
+    list->addWidget(dresser_.check_box(window_.load_ahead));
+    auto* overlap = dresser_.text_box(window_.overlap);
     overlap->setAccessibleName("Superposition en secondes");
     overlap->setFixedWidth(44);
     overlap->setAlignment(Qt::AlignCenter);
-    auto* less = dresser_.image(window_.Image14, "−");
-    auto* more = dresser_.image(window_.Image15, "+");
+    auto* less = dresser_.image(window_.overlap_less, "−");
+    auto* more = dresser_.image(window_.overlap_more, "+");
     less->setAccessibleName("Superposition moins une seconde");
     more->setAccessibleName("Superposition plus une seconde");
     auto* unit = text_label({.pixels = 11, .quiet = true, .characters = 17}, "s de superposition");
     unit->setMinimumWidth(unit->sizeHint().width());
-    auto* companion = dresser_.slider(window_.UpDown1, Qt::Horizontal);
+    auto* companion = dresser_.slider(window_.overlap_steps, Qt::Horizontal);
     companion->setAccessibleName("Superposition");
     companion->setMaximumWidth(64);
     auto* mix = row_of({less, overlap, more, unit, companion});
@@ -144,9 +144,9 @@ Panel* MainView::chain_panel() {
 Panel* MainView::quick_load_panel() {
     auto* panel = new Panel{&content()};
     auto* column = column_in(panel, {});
-    column->addWidget(dresser_.label(window_.Label10, panel_heading));
-    column->addWidget(dresser_.combo_box(window_.Combo1));
-    column->addWidget(dresser_.combo_box(window_.Combo2));
+    column->addWidget(dresser_.label(window_.running_chain, panel_heading));
+    column->addWidget(dresser_.combo_box(window_.favourites));
+    column->addWidget(dresser_.combo_box(window_.jingles));
     column->addWidget(text_label({.pixels = 11, .quiet = true, .characters = 18}, "espace : choisir le lecteur"));
     column->addStretch(1);
     return panel;
@@ -183,13 +183,13 @@ QWidget* MainView::status_line() {
     auto* row = new QHBoxLayout{line};
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(18);
-    auto* elapsed = dresser_.label(window_.Label5, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
+    auto* elapsed = dresser_.label(window_.elapsed, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
     elapsed->setToolTip("Seconde en cours du lecteur principal");
     output_ = text_label(status);
     output_->setObjectName("output");
     played_ =
         text_label({.pixels = 12, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    row->addWidget(dresser_.label(window_.Label7, status), 2);
+    row->addWidget(dresser_.label(window_.chain_status, status), 2);
     row->addWidget(elapsed);
     row->addWidget(output_, 4);
     row->addWidget(played_);

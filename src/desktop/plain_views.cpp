@@ -78,7 +78,7 @@ std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& ser
 std::unique_ptr<WindowView> splash_view(Chargement& window, const DesktopServices& services) {
     auto view = std::make_unique<WindowView>(window, services, QSize{500, 350});
     Dresser dresser{*view};
-    auto* picture = dresser.image(window.Image1, "Sonarelle");
+    auto* picture = dresser.image(window.picture, "Sonarelle");
     picture->set_look(ButtonLook::picture);
     picture->setFocusPolicy(Qt::NoFocus);
     picture->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -99,13 +99,13 @@ std::unique_ptr<WindowView> properties_view(Propriete& window, const DesktopServ
     const StationLabel::Style name{.bold = true, .characters = 16};
     const StationLabel::Style step{.bold = true, .framed = true, .characters = 3, .alignment = Qt::AlignCenter};
     const StationLabel::Style action{.framed = true, .characters = 8, .alignment = Qt::AlignCenter};
-    grid->addWidget(dresser.label(window.Label1, name), 0, 0);
-    grid->addWidget(dresser.label(window.Label2, {.bold = true, .characters = 28}), 0, 1, 1, 4);
-    const std::array<std::pair<Label*, TextBox*>, 5> fields{{{&window.Label3, &window.Text1},
-                                                             {&window.Label4, &window.Text2},
-                                                             {&window.Label5, &window.Text3},
-                                                             {&window.Label6, &window.Text4},
-                                                             {&window.Label7, &window.Text5}}};
+    grid->addWidget(dresser.label(window.name_label, name), 0, 0);
+    grid->addWidget(dresser.label(window.file_name, {.bold = true, .characters = 28}), 0, 1, 1, 4);
+    const std::array<std::pair<Label*, TextBox*>, 5> fields{{{&window.start_label, &window.start},
+                                                             {&window.end_label, &window.end},
+                                                             {&window.genre_label, &window.genre},
+                                                             {&window.volume_label, &window.volume},
+                                                             {&window.length_label, &window.length}}};
     int line = 1;
     for (const auto& [label, field] : fields) {
         grid->addWidget(dresser.label(*label, name), line, 0);
@@ -119,12 +119,12 @@ std::unique_ptr<WindowView> properties_view(Propriete& window, const DesktopServ
     grid->addWidget(dresser.label(window.end_forward, step), 2, 4);
     grid->addWidget(dresser.label(window.play, action), 3, 3);
     grid->addWidget(dresser.label(window.stop, action), 4, 3);
-    grid->addWidget(dresser.progress(window.ProgressBar1), line, 0, 1, 5);
+    grid->addWidget(dresser.progress(window.bar), line, 0, 1, 5);
     auto* column = new QVBoxLayout{&view->content()};
     column->setContentsMargins(10, 10, 10, 10);
     column->addWidget(panel, 1);
-    auto* close = dresser.button(window.AnyButton1);
-    auto* save = dresser.button(window.AnyButton2);
+    auto* close = dresser.button(window.close);
+    auto* save = dresser.button(window.save);
     column->addLayout(row_of({nullptr, save, close}));
     add_rest(dresser, *column);
     return view;

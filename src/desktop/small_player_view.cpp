@@ -37,7 +37,7 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
     column->addWidget(panel);
     if (QWidget* rest = remaining_parts(dresser_))
         column->addWidget(rest);
-    binding_of(window.label1)->on_shown = [this] { show_seconds(); };
+    binding_of(window.remaining)->on_shown = [this] { show_seconds(); };
     show_air(DeckRole::empty, {});
 }
 
@@ -47,7 +47,7 @@ QLayout* SmallPlayerView::reading() {
     title_ = new StationLabel{{.pixels = 15, .bold = true, .characters = 16}};
     title_->setObjectName("player_title");
     seconds_ = dresser_.label(
-        window_.label1,
+        window_.remaining,
         {.pixels = 28, .bold = true, .digits = true, .characters = 4, .alignment = Qt::AlignRight | Qt::AlignVCenter});
     unit_ = new StationLabel{{.pixels = 15, .characters = 2}};
     unit_->set_text("s");
@@ -64,13 +64,13 @@ QLayout* SmallPlayerView::reading() {
 }
 
 QLayout* SmallPlayerView::buttons() {
-    const std::array<std::pair<GraphicButton*, const char*>, 7> signs{{{&window_.Command6, "◀◀"},
-                                                                       {&window_.Command1, "▶"},
-                                                                       {&window_.Command3, "■"},
-                                                                       {&window_.Command7, "▶▶"},
-                                                                       {&window_.Command2, "⇥"},
-                                                                       {&window_.Command4, "☰"},
-                                                                       {&window_.Command5, "✕"}}};
+    const std::array<std::pair<GraphicButton*, const char*>, 7> signs{{{&window_.back, "◀◀"},
+                                                                       {&window_.play, "▶"},
+                                                                       {&window_.stop, "■"},
+                                                                       {&window_.forward, "▶▶"},
+                                                                       {&window_.next, "⇥"},
+                                                                       {&window_.show_main_window, "☰"},
+                                                                       {&window_.quit, "✕"}}};
     auto* row = new QHBoxLayout;
     for (const auto& [button, sign] : signs)
         row->addWidget(dresser_.button(*button, sign), 1);

@@ -20,7 +20,7 @@ void loadtags(Disk& disk, std::string_view fichier, const TagFields& fields) {
     });
     fault.skip([&] { fields.txtv1Artiste.set_text(tag.Artiste()); });
     fault.skip([&] { fields.txtv1Album.set_text(tag.Album()); });
-    fault.skip([&] { fields.Combo2.set_text(std::string{nom_du_genre(tag.Genre())}); });
+    fault.skip([&] { fields.genre.set_text(std::string{nom_du_genre(tag.Genre())}); });
     fault.skip([&] { fields.txtv1Commentaire.set_text(tag.Commentaire()); });
 }
 

@@ -15,7 +15,7 @@ struct TagFields {
     TextBox& txtv1Annee;
     TextBox& txtv1Piste;
     TextBox& txtv1Commentaire;
-    ComboBox& Combo2; ///< The genre's name.
+    ComboBox& genre; ///< The genre's name.
 };
 
 /// Shows the file's tag as it stands in the file, accents included; a file without one empties the fields. A fault in

@@ -28,7 +28,7 @@ void AudioEditor::open(const std::string& path) {
 }
 
 std::string AudioEditor::path_of_selected_row() {
-    const int row = window_.ListView1.selected();
+    const int row = window_.rows.selected();
     if (row == 0)
         return {};
     const KeptForTheAir kept{chain_, list_, destination_};

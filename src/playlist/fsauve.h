@@ -18,20 +18,20 @@ struct fsauve : Window {
         };
     }
 
-    Label Label1{*this, "Label1", "Traitement en cours ......Patientez SVP !"}; ///< What is being done.
-    ProgressBar ProgressBar1{*this, "ProgressBar1"};
+    Label step{*this, "Label1", "Traitement en cours ......Patientez SVP !"}; ///< What is being done.
+    ProgressBar bar{*this, "ProgressBar1"};
 
     /// Shows the window with an empty bar, for work of so many steps.
     void begin(int steps, std::string text) {
         cancelled_ = false;
-        ProgressBar1.value = 0;
-        ProgressBar1.maximum = std::max(1, steps);
-        Label1.caption = std::move(text);
+        bar.value = 0;
+        bar.maximum = std::max(1, steps);
+        step.caption = std::move(text);
         show();
     }
     void advance(int done, std::string text) {
-        ProgressBar1.value = done;
-        Label1.caption = std::move(text);
+        bar.value = done;
+        step.caption = std::move(text);
     }
     void end() { hide(); }
 

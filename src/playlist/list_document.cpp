@@ -46,8 +46,8 @@ void ListDocument::charge_liste() {
         if (list_.fichier_liste.empty())
             return;
         list_.fichier_liste_precedent = list_.fichier_liste;
-        window_.ListView1.clear();
-        window_.Text2.set_text(list_.fichier_liste);
+        window_.rows.clear();
+        window_.file_name.set_text(list_.fichier_liste);
         append_records<enreg_liste>(list_.fichier_liste);
         offer_deletion();
         select_current_row();
@@ -55,7 +55,7 @@ void ListDocument::charge_liste() {
 }
 
 void ListDocument::show_changed_record(int number) {
-    RowTable& shown = window_.ListView1;
+    RowTable& shown = window_.rows;
     const std::vector<RowTable::Row> rows = rows_of_file();
     const int count = static_cast<int>(rows.size());
     const auto row_of_file = [&rows](int row) -> const RowTable::Row& {
@@ -99,13 +99,13 @@ void ListDocument::A_liste_anciene() {
         enter_program_folder(platform_);
         const BusyPointer busy{window_};
         append_chosen_list(join_path(settings_.chemin_programme, default_list));
-        if (window_.ListView1.count() > 0)
-            list_.index_insertion = window_.ListView1.selected() + 1;
+        if (window_.rows.count() > 0)
+            list_.index_insertion = window_.rows.selected() + 1;
     });
 }
 
 void ListDocument::append_chosen_list(const std::string& name) {
-    const bool merge = window_.ListView1.count() > 0;
+    const bool merge = window_.rows.count() > 0;
     const std::string name_before = list_.nom_fichier;
     take_list_name(name);
     if (name.empty()) {
@@ -127,11 +127,11 @@ void ListDocument::take_list_name(const std::string& name) {
     list_.fichier_liste_precedent = name;
     list_.fichier_liste = name;
     list_.nom_sauvegarde = name;
-    window_.Text2.set_text(name);
+    window_.file_name.set_text(name);
 }
 
 void ListDocument::recup_nom() {
-    const std::string& name = window_.Text2.text();
+    const std::string& name = window_.file_name.text();
     if (!name.empty() && !is_network_path(name))
         platform_.disk.ChDrive(name);
     list_.nom_fichier = name_of_path(name);
@@ -144,7 +144,7 @@ void ListDocument::append_records(const std::string& path) {
     const std::int64_t count = reader.count();
     for (std::int64_t number = 1; number <= count; ++number) {
         reader.read(number, record);
-        window_.ListView1.append(row_of(record, platform_.decimal_mark));
+        window_.rows.append(row_of(record, platform_.decimal_mark));
     }
     default_.saw(path, reader.facts());
 }
@@ -154,7 +154,7 @@ template void ListDocument::append_records<enreg_rfm>(const std::string& path);
 
 void ListDocument::announce_list() {
     offer_deletion();
-    window_.Label1.caption = "Lecture en attente .. Nb : " + std::to_string(window_.ListView1.count());
+    window_.list_status.caption = "Lecture en attente .. Nb : " + std::to_string(window_.rows.count());
     window_.caption = "Fichier liste : " + list_.fichier_liste;
     show_file_in_use();
 }
@@ -165,22 +165,22 @@ void ListDocument::offer_deletion() {
 
 void ListDocument::select_current_row() {
     const int row = list_.index_en_cours.value();
-    window_.ListView1.select(row);
-    window_.ListView1.ensure_visible(row);
+    window_.rows.select(row);
+    window_.rows.ensure_visible(row);
 }
 
 void ListDocument::sauve_tout() {
     ErrorIndicator errors;
     errors.skip([this] { enter_program_folder(platform_); });
-    if (window_.ListView1.count() > 0)
-        window_.ListView1.select(1);
+    if (window_.rows.count() > 0)
+        window_.rows.select(1);
     try {
         default_.save([this](ListWriter& writer) { write_rows(writer); });
     } catch (const Failure& failure) {
         report(failure);
     }
     list_.nom_fichier = list_.fichier_liste = default_.name();
-    window_.Text2.set_text(default_.name());
+    window_.file_name.set_text(default_.name());
     if (list_.ligne_en_lecture == 0)
         list_.ligne_en_lecture = 1;
     errors.skip([this] { select_current_row(); });
@@ -195,10 +195,10 @@ void ListDocument::sauve_tout() {
 void ListDocument::write_rows(ListWriter& writer) {
     enreg_liste record;
     ErrorIndicator errors;
-    for (int row = 1; row <= window_.ListView1.count(); ++row) {
-        window_.ListView1.select(row);
+    for (int row = 1; row <= window_.rows.count(); ++row) {
+        window_.rows.select(row);
         fill_empty_cells(row);
-        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark,
+        fill_record(record, window_.rows.row(row), platform_.decimal_mark,
                     [&errors](auto&& statement) { errors.skip(statement); });
         writer.write(record);
     }
@@ -218,14 +218,15 @@ void ListDocument::tell_notice() {
 void ListDocument::show_file_in_use() {
     const std::string_view loaded = name_of_path(list_.nom_sauvegarde);
     const bool holds_changes = list_.fichier_liste == default_.name() && !loaded.empty() && loaded != default_.name();
-    window_.Label25.caption = "Dans fichier " + list_.fichier_liste +
-                              (holds_changes ? " (" + std::string{loaded} + " : modifications non enregistrées)" : "");
+    window_.file_in_use.caption =
+        "Dans fichier " + list_.fichier_liste +
+        (holds_changes ? " (" + std::string{loaded} + " : modifications non enregistrées)" : "");
 }
 
 void ListDocument::fill_empty_cells(int row) {
     const auto fill = [&](std::size_t column, std::string_view value) {
-        if (window_.ListView1.sub_item(row, column).empty())
-            window_.ListView1.set_sub_item(row, column, std::string{value});
+        if (window_.rows.sub_item(row, column).empty())
+            window_.rows.set_sub_item(row, column, std::string{value});
     };
     fill(list_column::start, default_start);
     fill(list_column::end, "0.00");

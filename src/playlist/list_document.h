@@ -48,7 +48,7 @@ public:
     /// Tells the operator without holding up who calls.
     std::function<void(const std::string& text)> tell;
 
-    /// Takes the drive and the file's name from the name in `Text2`.
+    /// Takes the drive and the file's name from `file_name`.
     void recup_nom();
 
     /// Appends every record of a file.

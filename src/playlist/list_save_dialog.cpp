@@ -26,7 +26,7 @@ ListSaveDialog::ListSaveDialog(const Platform& platform, const StationSettings& 
     : platform_{platform}, settings_{settings}, list_{list}, window_{window}, document_{document} {}
 
 void ListSaveDialog::A_enreg_sous() {
-    if (window_.ListView1.count() == 0) {
+    if (window_.rows.count() == 0) {
         show_box(platform_.dialogs, "Rien a sauvegarder !", Icon::warning);
         return;
     }
@@ -53,7 +53,7 @@ void ListSaveDialog::ask_and_save() {
     if (list_.extension_fichier != "dfm")
         return;
     list_.fichier_liste = lower_case(chosen.file_name);
-    window_.Text2.set_text(list_.fichier_liste);
+    window_.file_name.set_text(list_.fichier_liste);
     document_.recup_nom();
     const auto old_list = document_.default_list_file().state_of(list_.fichier_liste);
     if (!may_overwrite())
@@ -80,18 +80,18 @@ bool ListSaveDialog::may_overwrite() const {
 
 void ListSaveDialog::write_rows(ListWriter& writer) {
     enreg_liste record;
-    for (int row = 1; row <= window_.ListView1.count(); ++row) {
+    for (int row = 1; row <= window_.rows.count(); ++row) {
         write_row(row, record);
         writer.write(record);
     }
 }
 
 void ListSaveDialog::write_row(int row, enreg_liste& record) {
-    window_.ListView1.select(row);
-    if (window_.ListView1.sub_item(row, list_column::duration).empty())
-        window_.ListView1.set_sub_item(row, list_column::duration, std::string{unknown_duration});
+    window_.rows.select(row);
+    if (window_.rows.sub_item(row, list_column::duration).empty())
+        window_.rows.set_sub_item(row, list_column::duration, std::string{unknown_duration});
     try {
-        fill_record(record, window_.ListView1.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
+        fill_record(record, window_.rows.row(row), platform_.decimal_mark, [](auto&& statement) { statement(); });
     } catch (const Failure& failure) {
         throw Failure{failure.number, "ligne " + std::to_string(row) + " : " + failure.source, failure.description};
     }

@@ -29,7 +29,7 @@ ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& ch
 
 void ListUpdate::a_mettre_a_jour() {
     list_.volume_nul_signale = true;
-    if (window_.ListView1.count() == 0)
+    if (window_.rows.count() == 0)
         return;
     if (!chain_.maj_depuis_ajout.is_true() && !guard_.allows(ListAction::a_mettre_a_jour))
         return;
@@ -62,19 +62,19 @@ void ListUpdate::update_dropped_row() {
     const int row = list_.index_insertion.value();
     const MeasuredFile measured = measure(row);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
-        return window_.ListView1.replace(row, measured_row(destination_, *facts));
-    window_.ListView1.remove(row);
+        return window_.rows.replace(row, measured_row(destination_, *facts));
+    window_.rows.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;
 }
 
 std::optional<std::string> ListUpdate::update_selected_row() {
-    const int row = window_.ListView1.selected();
+    const int row = window_.rows.selected();
     make_current(row);
     const MeasuredFile measured = measure(row);
     if (const auto* failure = std::get_if<Failure>(&measured))
         return failure->what();
-    window_.ListView1.replace(row, measured_row(destination_, std::get<TrackFacts>(measured)));
+    window_.rows.replace(row, measured_row(destination_, std::get<TrackFacts>(measured)));
     return std::nullopt;
 }
 
@@ -105,33 +105,33 @@ void ListUpdate::a_mettre_a_jour_liste() {
             return;
     }
     offer_saving(short_name);
-    window_.Label1.caption = "Nb de morceaux : " + std::to_string(window_.ListView1.count()) + " (" +
-                             std::to_string(window_.ListView1.selected()) + ")";
+    window_.list_status.caption = "Nb de morceaux : " + std::to_string(window_.rows.count()) + " (" +
+                                  std::to_string(window_.rows.selected()) + ")";
 }
 
 bool ListUpdate::may_begin(bool after_drop) {
-    if (window_.ListView1.count() == 0)
+    if (window_.rows.count() == 0)
         return false;
     removed_ = after_drop ? 0 : verification_.test_all_rows();
     return list_.maj_liste_en_cours.is_true();
 }
 
 void ListUpdate::update_all_rows() {
-    progress_.begin(window_.ListView1.count(), "Traitement en cours ......Patientez !");
+    progress_.begin(window_.rows.count(), "Traitement en cours ......Patientez !");
     try {
         const auto lengths = platform_.media.measure_ahead();
         int wanted = 0;
-        for (int row = 1; row <= window_.ListView1.count() && !progress_.is_cancelled();) {
-            for (; wanted < std::min(row + rows_ahead, window_.ListView1.count()); ++wanted)
-                lengths->want(window_.ListView1.text(wanted + 1));
+        for (int row = 1; row <= window_.rows.count() && !progress_.is_cancelled();) {
+            for (; wanted < std::min(row + rows_ahead, window_.rows.count()); ++wanted)
+                lengths->want(window_.rows.text(wanted + 1));
             progress_.advance(row, "Traitement en cours " + std::to_string(row) + " / " +
-                                       std::to_string(window_.ListView1.count()));
+                                       std::to_string(window_.rows.count()));
             row = reading_.follow(update_row(row, *lengths));
         }
     } catch (const Failure& failure) {
         give_up(failure.what());
     }
-    if (window_.ListView1.count() > 0) // the operator may have emptied it meanwhile
+    if (window_.rows.count() > 0) // the operator may have emptied it meanwhile
         document_.sauve_tout();
     progress_.end();
 }
@@ -146,17 +146,17 @@ int ListUpdate::update_row(int row, LengthsAhead& lengths) {
         record = destination_;
     }
     make_current(row);
-    const RowTable::Row before = window_.ListView1.row(row);
+    const RowTable::Row before = window_.rows.row(row);
     const auto length = wait_for(lengths, record.dest_chemin);
     if (!length)
         return row;
-    if (row > window_.ListView1.count() || window_.ListView1.row(row) != before)
+    if (row > window_.rows.count() || window_.rows.row(row) != before)
         return reading_.place_of(before, row);
     const KeptForTheAir kept{chain_, list_, destination_};
     list_.chemin_fichier = record.dest_chemin;
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin, *length);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
-        window_.ListView1.replace(row, measured_row(record, *facts));
+        window_.rows.replace(row, measured_row(record, *facts));
     return row + 1;
 }
 

@@ -30,9 +30,9 @@ void ListVerification::prechar() {
 
 int ListVerification::test_all_rows() {
     Tally tally;
-    if (window_.ListView1.count() == 0)
+    if (window_.rows.count() == 0)
         return tally.removed;
-    progress_.begin(window_.ListView1.count(), progress_.Label1.caption);
+    progress_.begin(window_.rows.count(), progress_.step.caption);
     try {
         go_over_rows(tally);
         close(tally);
@@ -51,7 +51,7 @@ void ListVerification::go_over_rows(Tally& tally) {
             document_.sauve_tout();
     };
     try {
-        for (int row = 1; !tally.stopped && row <= window_.ListView1.count() && !progress_.is_cancelled();) {
+        for (int row = 1; !tally.stopped && row <= window_.rows.count() && !progress_.is_cancelled();) {
             const FileFinding finding = test(row);
             const bool there = finding.state == FileState::present || finding.state == FileState::on_network;
             const std::string path = list_.chemin_test;
@@ -91,7 +91,7 @@ void ListVerification::drop_row(int row, const FileFinding& finding) {
     const std::string when = " - " + date_text(platform_) + " " + time_text(platform_);
     note_(finding.state == FileState::folder_missing ? "Dossier manquant : " + finding.folder + when
                                                      : "fichier manquant : " + list_.chemin_test + when);
-    window_.ListView1.remove(row);
+    window_.rows.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;
     if (is_on_the_air() && list_.index_en_cours.value() >= row) // the chain goes on with the row that takes its number
@@ -121,7 +121,7 @@ void ListVerification::close(const Tally& tally) {
     if (tally.stopped && tally.found > 0)
         return progress_.end();
     if (for_update && tally.found > 0) {
-        progress_.Label1.caption = "Validation des fichiers terminé avec succés ";
+        progress_.step.caption = "Validation des fichiers terminé avec succés ";
         return;
     }
     progress_.end();
@@ -139,7 +139,7 @@ void ListVerification::prechar_fich() {
     if (!guard_.allows(ListAction::prechar_fich))
         return;
     const ListWork work{guard_, window_};
-    const int row = window_.ListView1.selected();
+    const int row = window_.rows.selected();
     if (row == 0)
         return;
     try {

@@ -15,15 +15,15 @@ std::vector<Column> list_columns() {
 
 } // namespace
 
-Liste_son::Liste_son() : Window{"Liste_son"}, ListView1{*this, "ListView1", list_columns()} {
-    Text2.visible = false;
+Liste_son::Liste_son() : Window{"Liste_son"}, rows{*this, "ListView1", list_columns()} {
+    file_name.visible = false;
     A_sauve.checked = true;
     modifier_chemin_non.checked = true;
     coller.enabled = false;
     Convertion.hang({{&A_Copen_rfm, &A_Convertir_dfm}});
-    Image1.hint = "lecture liste";
-    Image2.hint = "Zapper rapidement sur le fichier suvant (Z)";
-    Image3.hint = "Stopper tous les lecteurs";
+    play_list.hint = "lecture liste";
+    zap.hint = "Zapper rapidement sur le fichier suvant (Z)";
+    stop_decks.hint = "Stopper tous les lecteurs";
     for (MenuItem* entry : entries_that_need_a_list())
         entry->enabled = false;
 }

@@ -12,35 +12,36 @@ namespace sonarelle {
 struct Liste_son : Window {
     Liste_son();
 
-    RowTable ListView1;
-    TextBox Text2{*this, "Text2"}; ///< Full name of the list or of the chosen file. Never shown.
-    Label Label1{*this, "Label1", "Ouverture en attente (0)"}; ///< What the list is doing, and how many rows it has.
-    Label Label2{*this, "Label2"};                             ///< Name of the track on the air.
-    Label Label3{*this, "Label3"};                             ///< Elapsed second and mix point of the main deck.
-    Label Label4{*this, "Label4", "00:00:00"};                 ///< Remaining time of the main deck.
-    Label Label12{*this, "Label12", "Zapping autorisé"};
-    Label Label13{*this, "Label13"}; ///< Time of day.
-    Label Label16{*this, "Label16"}; ///< Which deck plays in the chain over decks.
-    Label Label25{*this, "Label25"}; ///< The list that is read.
-    Image Image1{*this, "Image1"};   ///< Starts the list.
-    Image Image2{*this, "Image2"};   ///< Zaps.
-    Image Image3{*this, "Image3"};   ///< Stops all decks.
-    Image Image4{*this, "Image4"};   ///< Shows the row that plays.
-    Image Image10{*this, "Image10"}; ///< Picture beside the window's buttons.
-    Label Label14{*this, "Label14", "Jingle Off"};
-    Label Label15{*this, "Label15", "Liste Off"};
-    Image Image13{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
-    Image Image14{*this, "Image14", "bouton_off.jpg"}; ///< Switch of the list items.
+    RowTable rows;
+    TextBox file_name{*this, "Text2"}; ///< Full name of the list or of the chosen file. Never shown.
+    Label list_status{*this, "Label1",
+                      "Ouverture en attente (0)"}; ///< What the list is doing, and how many rows it has.
+    Label track_name{*this, "Label2"};             ///< Name of the track on the air.
+    Label progress{*this, "Label3"};               ///< Elapsed second and mix point of the main deck.
+    Label remaining{*this, "Label4", "00:00:00"};  ///< Remaining time of the main deck.
+    Label zap_status{*this, "Label12", "Zapping autorisé"};
+    Label time_of_day{*this, "Label13"};     ///< Time of day.
+    Label running_deck{*this, "Label16"};    ///< Which deck plays in the chain over decks.
+    Label file_in_use{*this, "Label25"};     ///< The list that is read.
+    Image play_list{*this, "Image1"};        ///< Starts the list.
+    Image zap{*this, "Image2"};              ///< Zaps.
+    Image stop_decks{*this, "Image3"};       ///< Stops all decks.
+    Image show_playing_row{*this, "Image4"}; ///< Shows the row that plays.
+    Image side_picture{*this, "Image10"};    ///< Picture beside the window's buttons.
+    Label jingles_status{*this, "Label14", "Jingle Off"};
+    Label items_status{*this, "Label15", "Liste Off"};
+    Image jingles_switch{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
+    Image items_switch{*this, "Image14", "bouton_off.jpg"};   ///< Switch of the list items.
 
-    Image Image17{*this, "Image17"}; ///< The four reading modes, each picture beside its option.
-    Image Image9{*this, "Image9"};
-    Image Image11{*this, "Image11"};
-    Image Image12{*this, "Image12"};
+    Image player_lamp{*this, "Image17"}; ///< The four reading modes, each picture beside its option.
+    Image random_lamp{*this, "Image9"};
+    Image defined_end_lamp{*this, "Image11"};
+    Image full_length_lamp{*this, "Image12"};
     OptionGroup reading_mode;
-    OptionButton Option1{*this, reading_mode, "Option1", "Lecteur"};
-    OptionButton Option2{*this, reading_mode, "Option2", "Lecture aléatoire"};
-    OptionButton Option3{*this, reading_mode, "Option3", "Lecture durée définie"};
-    OptionButton Option4{*this, reading_mode, "Option4", "Lecture durée piste"};
+    OptionButton player_mode{*this, reading_mode, "Option1", "Lecteur"};
+    OptionButton random_mode{*this, reading_mode, "Option2", "Lecture aléatoire"};
+    OptionButton defined_end_mode{*this, reading_mode, "Option3", "Lecture durée définie"};
+    OptionButton full_length_mode{*this, reading_mode, "Option4", "Lecture durée piste"};
 
     MenuItem A_revenir_couleur{*this, "A_revenir_couleur", "Revenir au couleur par défaut"};
     MenuItem lect_liste{*this, "lect_liste", "Lecture liste"};
@@ -53,7 +54,7 @@ struct Liste_son : Window {
     MenuItem A_sauve{*this, "A_sauve", "Sauver les modifications dans le fichier par défaut"};
     MenuItem a_Ne_pas_Sauve{*this, "a_Ne_pas_Sauve", "Ne pas sauver les modifications dans le fichier par défaut"};
     MenuItem Supprimer_fichier{*this, "Supprimer_fichier", "&Supprimer le fichier"};
-    Label Label8{*this, "Label8", "&Enreg.."};
+    Label save_as{*this, "Label8", "&Enreg.."};
 
     MenuItem Convertion{*this, "Convertion", "Convertir liste V < V 6.0.0"};
     MenuItem A_Copen_rfm{*this, "A_Copen_rfm", "Ouvrir liste .rfm Sonarine < V 5.8.0"};
@@ -84,7 +85,9 @@ struct Liste_son : Window {
     MenuItem modifier_chemin_non{*this, "modifier_chemin_non", "Ne pas modifier directement , le chemin sur la liste"};
 
     /// Whether the reading mode is one of the list's.
-    [[nodiscard]] bool reads_the_list() const { return Option2.value() || Option3.value() || Option4.value(); }
+    [[nodiscard]] bool reads_the_list() const {
+        return random_mode.value() || defined_end_mode.value() || full_length_mode.value();
+    }
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
     /// What lists in a fixed order offer: lists to open and to convert, and the pre-listen.

@@ -9,7 +9,7 @@ void PathEditing::choose(bool editable) {
 }
 
 void PathEditing::follow() {
-    window_.ListView1.label_editing = list_.edition_chemin.is_true() ? LabelEditing::automatic : LabelEditing::manual;
+    window_.rows.label_editing = list_.edition_chemin.is_true() ? LabelEditing::automatic : LabelEditing::manual;
 }
 
 void PathEditing::label_edited() {

@@ -93,21 +93,21 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
 }
 
 RowChanges::ChosenRow RowChanges::chosen_row() const {
-    const int number = window_.ListView1.selected();
-    return {number, window_.ListView1.row(number)};
+    const int number = window_.rows.selected();
+    return {number, window_.rows.row(number)};
 }
 
 // While the operator types, the chain selects the rows that it starts, and takes out those that it can't play.
 int RowChanges::place_now(const ChosenRow& chosen) const {
     const int number = reading_.place_of(chosen.cells, chosen.number);
-    if (number > window_.ListView1.count() || window_.ListView1.row(number) != chosen.cells)
+    if (number > window_.rows.count() || window_.rows.row(number) != chosen.cells)
         throw Failure{failure_number::not_in_selection, chosen.cells[list_column::path]};
     return number;
 }
 
 // The box of an empty list would have nothing to change.
 bool RowChanges::confirms(const ListActionRow& action) {
-    if (!guard_.allows(action.action) || window_.ListView1.count() == 0)
+    if (!guard_.allows(action.action) || window_.rows.count() == 0)
         return false;
     if (action.question.empty())
         return true;
@@ -119,7 +119,7 @@ bool RowChanges::confirms(const ListActionRow& action) {
 std::string RowChanges::ask(const ListActionRow& action, const std::string& first_value) {
     std::string prompt{action.input_prompt};
     if (action.tells_first_row)
-        prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(window_.ListView1.count()) + ")";
+        prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(window_.rows.count()) + ")";
     return platform_.dialogs.InputBox({prompt, std::string{action.input_title}, std::string{action.input_preset}})
         .value_or("");
 }
@@ -132,9 +132,9 @@ RowTable::Row RowChanges::first_row() {
 
 void RowChanges::change_all_rows(const Change& change) {
     const ListWork work{guard_, window_};
-    for (int row = 1; row <= window_.ListView1.count(); row = reading_.follow(row + 1))
+    for (int row = 1; row <= window_.rows.count(); row = reading_.follow(row + 1))
         change_row(row, change);
-    if (window_.ListView1.count() > 0) // the operator may have emptied it meanwhile
+    if (window_.rows.count() > 0) // the operator may have emptied it meanwhile
         document_.sauve_tout();
 }
 
@@ -143,7 +143,7 @@ void RowChanges::change_row(int row, const Change& change) {
     reading_.read(row);
     RowTable::Row changed = row_of(destination_, platform_.decimal_mark);
     change(changed);
-    window_.ListView1.replace(row, std::move(changed));
+    window_.rows.replace(row, std::move(changed));
 }
 
 void RowChanges::under_trap(const std::function<void()>& statements, const char* last_words) {

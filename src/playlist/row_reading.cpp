@@ -9,7 +9,7 @@
 namespace sonarelle {
 
 void RowReading::read(int row) {
-    const RowTable::Row& shown = window_.ListView1.row(row);
+    const RowTable::Row& shown = window_.rows.row(row);
     if (!reading_.read_record(row) || destination_.dest_chemin != shown[list_column::path])
         reading_.take(record_of_cells(shown, platform_.decimal_mark));
     null_volume_ |= destination_.dest_volume_pourcent == 0;
@@ -22,7 +22,7 @@ void RowReading::warn_of_null_volume() {
 }
 
 int RowReading::follow(int next_row, const std::function<void()>& words) {
-    const RowTable& rows = window_.ListView1;
+    const RowTable& rows = window_.rows;
     std::optional<RowTable::Row> next;
     if (next_row <= rows.count())
         next = rows.row(next_row);
@@ -34,7 +34,7 @@ int RowReading::follow(int next_row, const std::function<void()>& words) {
 }
 
 int RowReading::place_of(const RowTable::Row& wanted, int old_place) const {
-    const RowTable& rows = window_.ListView1;
+    const RowTable& rows = window_.rows;
     for (int row = std::min(old_place, rows.count()); row >= 1; --row)
         if (rows.row(row) == wanted)
             return row;

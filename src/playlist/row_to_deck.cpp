@@ -17,7 +17,7 @@ RowToDeck::RowToDeck(const Platform& platform, ListState& list, const Destinatio
 // 16-bit numbers can't be sent.
 void RowToDeck::send(int deck) {
     ErrorIndicator{}.skip([&] {
-        list_.index_destinataire = window_.ListView1.selected();
+        list_.index_destinataire = window_.rows.selected();
         if (list_.fichier_liste.empty() || !decks_.may_be_loaded(deck))
             return;
         reading_.lire_enreg_destinataire();

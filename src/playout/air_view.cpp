@@ -33,7 +33,7 @@ constexpr int rows_looked_at = 100; // each second
 
 /// The chain goes over rows of the file that is on the air already.
 std::string path_in_list_order(const Desk& desk, const IsMissing& is_missing) {
-    const RowTable& rows = desk.list_window.ListView1;
+    const RowTable& rows = desk.list_window.rows;
     int row = desk.list.index_en_cours.value();
     std::string next;
     for (int looked_at = 0; looked_at < std::min(rows.count(), rows_looked_at); ++looked_at) {
@@ -70,7 +70,7 @@ DeckRole main_role(Desk& desk) {
 }
 
 bool waits_for_special_mix(const Desk& desk) {
-    const bool chained = desk.window.Timer2.enabled() || desk.window.Timer4.enabled();
+    const bool chained = desk.window.deck_chain_timer.enabled() || desk.window.list_chain_timer.enabled();
     return chained && !desk.is_manual() && desk.window.Active_audio_jingles.checked &&
            desk.chain.lecteur_mix_special != 0;
 }
@@ -118,8 +118,8 @@ std::string silence_text(const Desk& desk) {
 }
 
 bool is_stopped_by_a_fault(const Desk& desk) {
-    return desk.chain.air == AirState::failed && !desk.is_manual() && !desk.window.Timer2.enabled() &&
-           !desk.window.Timer4.enabled();
+    return desk.chain.air == AirState::failed && !desk.is_manual() && !desk.window.deck_chain_timer.enabled() &&
+           !desk.window.list_chain_timer.enabled();
 }
 
 std::string path_to_come(Desk& desk, const IsMissing& is_missing) {

@@ -8,8 +8,8 @@
 
 namespace sonarelle {
 
-/// Keeps sound on the air without a hand on the desk. Its parts go by a timer each: the load of the next row
-/// (`Timer1`), the chain over decks (`Timer2`), the overlap of two tracks (`Timer3`), the chain of the list (`Timer4`).
+/// Keeps sound on the air without a hand on the desk. Its parts go by a timer each: the load of the next row, the chain
+/// over decks, the overlap of two tracks, and the chain of the list.
 class AutoChain {
 public:
     AutoChain(Desk& desk, RowCursor& row_cursor, DeckStart& start, MixEngine& mix, Journal& journal, RunControl& run)

@@ -19,15 +19,15 @@ constexpr std::string_view empty_counter = "( - - )";
 
 } // namespace
 
-void ChainModes::a_mode_manuel_Click() {
+void ChainModes::choose_manual_mode() {
     const bool all_loaded = std::ranges::none_of(desk_.decks, [](const Deck& deck) { return deck.path.empty(); });
     if (!all_loaded) {
         desk_.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
         return;
     }
     enter(running_mode::by_hand);
-    desk_.window.coche2.set_value(true); // which, by hand, chooses no chain
-    desk_.window.coche2.caption = "Mix Manuel";
+    desk_.window.mix_titles.set_value(true); // which, by hand, chooses no chain
+    desk_.window.mix_titles.caption = "Mix Manuel";
     for (Deck& deck : desk_.decks) {
         deck.controls.play.enabled = true;
         deck.controls.open.enabled = true;
@@ -36,18 +36,18 @@ void ChainModes::a_mode_manuel_Click() {
     desk_.set_air(AirState::off);
 }
 
-void ChainModes::a_mode_auto_Click() {
+void ChainModes::choose_deck_chain() {
     enter(running_mode::over_decks);
-    desk_.window.coche2.caption = "Mixer les titres";
-    desk_.list_window.Option1.set_value(true);
+    desk_.window.mix_titles.caption = "Mixer les titres";
+    desk_.list_window.player_mode.set_value(true);
 }
 
-void ChainModes::a_mode_predefini_Click() {
+void ChainModes::choose_list_chain() {
     enter(running_mode::of_list);
-    mix_.Active_audio_Click();
+    mix_.choose_list_fade();
     desk_.window.Active_audio.enabled = true;
-    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
-    desk_.list_window.Label3.caption = std::string{empty_counter};
+    desk_.window.overlap.set_text(text_of(desk_.settings.mix_courant));
+    desk_.list_window.progress.caption = std::string{empty_counter};
 }
 
 void ChainModes::enter(const RunningMode& mode) {
@@ -61,11 +61,11 @@ void ChainModes::enter(const RunningMode& mode) {
         desk_.chain.mode_enchainement = *mode.from_list;
     if (mode.by_draw)
         desk_.chain.ordre_aleatoire = *mode.by_draw;
-    set_timer(desk_.window.Timer1, mode.looks_ahead);
-    set_timer(desk_.window.Timer2, mode.chains_decks);
-    set_timer(desk_.window.Timer4, mode.chains_list);
+    set_timer(desk_.window.load_ahead_timer, mode.looks_ahead);
+    set_timer(desk_.window.deck_chain_timer, mode.chains_decks);
+    set_timer(desk_.window.list_chain_timer, mode.chains_list);
     if (mode.resets_interval)
-        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+        desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
     if (mode.list_entry)
         desk_.list_window.A_a_zapping.checked = *mode.list_entry;
     if (mode.offers_prelisten)
@@ -76,40 +76,40 @@ void ChainModes::enter(const RunningMode& mode) {
     desk_.show_list_start();
 }
 
-void ChainModes::A_a_zapping_Click() {
+void ChainModes::toggle_list_chain() {
     if (desk_.chain.mode_enchainement.is_false()) {
         desk_.settings.mix_courant = 1;
-        desk_.window.Text1.set_text("1");
-        mix_.Active_audio_Click();
+        desk_.window.overlap.set_text("1");
+        mix_.choose_list_fade();
         enter(running_mode::list_entry_on);
-        desk_.list_window.Option3.set_value(true);
+        desk_.list_window.defined_end_mode.set_value(true);
         desk_.window.Active_audio.enabled = true;
     } else if (desk_.chain.mode_enchainement.is_true()) {
         enter(running_mode::list_entry_off);
-        desk_.list_window.Option1.set_value(true);
+        desk_.list_window.player_mode.set_value(true);
     } else {
         desk_.list_window.A_a_zapping.checked = false;
     }
 }
 
 // By hand it stands for the manual mode.
-void ChainModes::coche2_Click() {
+void ChainModes::choose_mix_titles() {
     if (desk_.is_manual())
         return;
-    a_mode_auto_Click();
+    choose_deck_chain();
     desk_.list.index_en_cours = 1;
     desk_.window.Active_audio.enabled = false;
     desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix lecteur )";
 }
 
-void ChainModes::coche3_Click() {
+void ChainModes::choose_mix_list() {
     try {
         desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix liste )";
         enter(running_mode::mix_list);
         desk_.window.Active_audio.enabled = true;
         desk_.window.Active_audio_zapping.enabled = true;
         desk_.chain.chaine_suspendue = false;
-        desk_.window.coche4.set_value(1);
+        desk_.window.load_ahead.set_value(1);
         read_overlap();
     } catch (const Failure& failure) {
         tell_failed_choice(failure);
@@ -131,23 +131,23 @@ void ChainModes::tell_failed_choice(const Failure& failure) {
 }
 
 void ChainModes::read_overlap() {
-    if (desk_.window.Text1.text().empty())
-        desk_.window.Text1.set_text("2");
-    desk_.settings.mix_courant = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
-    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
+    if (desk_.window.overlap.text().empty())
+        desk_.window.overlap.set_text("2");
+    desk_.settings.mix_courant = to_integer(desk_.window.overlap.text(), desk_.platform.decimal_mark);
+    desk_.window.overlap.set_text(text_of(desk_.settings.mix_courant));
 }
 
-void ChainModes::Option1_Click() {
+void ChainModes::choose_player_mode() {
     clear_insertions();
     desk_.settings.valide_fichier_aleatoire = false;
     desk_.list.bouton_jingle_actif = false;
-    desk_.list_window.Label14.caption = "Jingle Off";
-    desk_.list_window.Label15.caption = "Liste Off";
-    desk_.list_window.Image13.picture = std::string{switch_off};
+    desk_.list_window.jingles_status.caption = "Jingle Off";
+    desk_.list_window.items_status.caption = "Liste Off";
+    desk_.list_window.jingles_switch.picture = std::string{switch_off};
     desk_.chain.jingles_aleatoires = false;
     desk_.chain.preecoute_active = false;
     enter(running_mode::read_decks);
-    mix_.Active_audio_zapping_Click();
+    mix_.choose_zap_fade();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
     if (desk_.has_main_deck())
         show_end_point(desk_.main_deck().duree_piste);
@@ -155,11 +155,11 @@ void ChainModes::Option1_Click() {
 
 void ChainModes::clear_insertions() {
     desk_.settings.valide_fichier_aleatoire1 = false;
-    desk_.list_window.Label15.caption = "liste Off";
+    desk_.list_window.items_status.caption = "liste Off";
     desk_.list.bouton_liste_actif = false;
-    desk_.list_window.Image14.picture = std::string{switch_off};
+    desk_.list_window.items_switch.picture = std::string{switch_off};
     desk_.chain.compteur_aleatoire = desk_.chain.compteur_aleatoire1 = 0;
-    desk_.window.Timer9.disable();
+    desk_.window.item_timer.disable();
 }
 
 void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
@@ -169,9 +169,9 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
         for (MenuItem* entry : desk_.list_window.entries_of_a_fixed_order())
             entry->enabled = true;
     }
-    mix_.Active_audio_Click();
+    mix_.choose_list_fade();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
-    desk_.list_window.Label3.caption = std::string{empty_counter};
+    desk_.list_window.progress.caption = std::string{empty_counter};
     if (!desk_.has_main_deck())
         return;
     Deck& deck = desk_.main_deck();
@@ -187,35 +187,36 @@ void ChainModes::show_end_point(const std::string& text) {
 
 void ChainModes::press_list_key() {
     if (!desk_.is_manual()) {
-        desk_.window.coche3.set_value(true);
+        desk_.window.mix_list.set_value(true);
         return;
     }
     desk_.inform("Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
-    desk_.window.coche2.set_value(true);
-    desk_.window.Image12.picture = std::string{lamp_on_picture};
+    desk_.window.mix_titles.set_value(true);
+    desk_.window.deck_chain_lamp.picture = std::string{lamp_on_picture};
 }
 
-void ChainModes::Image12_Click() {
-    a_mode_auto_Click();
-    for (Timer* timer : {&desk_.window.Timer8, &desk_.window.Timer9})
+void ChainModes::press_deck_chain_lamp() {
+    choose_deck_chain();
+    for (Timer* timer : {&desk_.window.jingle_timer, &desk_.window.item_timer})
         timer->disable();
-    desk_.window.Timer3.enable();
-    desk_.list_window.Image17.picture = std::string{switch_on};
-    for (Image* lamp : {&desk_.list_window.Image12, &desk_.list_window.Image11, &desk_.list_window.Image9})
+    desk_.window.overlap_timer.enable();
+    desk_.list_window.player_lamp.picture = std::string{switch_on};
+    for (Image* lamp :
+         {&desk_.list_window.full_length_lamp, &desk_.list_window.defined_end_lamp, &desk_.list_window.random_lamp})
         lamp->picture = std::string{switch_off};
 }
 
-void ChainModes::Image13_Click() {
+void ChainModes::press_list_chain_lamp() {
     Liste_son& list = desk_.list_window;
-    list.Image12.picture = std::string{switch_on};
-    for (Image* lamp : {&list.Image17, &list.Image11, &list.Image9})
+    list.full_length_lamp.picture = std::string{switch_on};
+    for (Image* lamp : {&list.player_lamp, &list.defined_end_lamp, &list.random_lamp})
         lamp->picture = std::string{switch_off};
-    desk_.window.coche3.set_value(true);
+    desk_.window.mix_list.set_value(true);
     list.show();
     list.A_precoute.checked = false;
-    list.Label3.caption = std::string{empty_counter};
-    desk_.window.Image13.picture = std::string{lamp_on_picture};
-    list.Option4.set_value(true);
+    list.progress.caption = std::string{empty_counter};
+    desk_.window.list_chain_lamp.picture = std::string{lamp_on_picture};
+    list.full_length_mode.set_value(true);
     enter(running_mode::list_lamp);
 }
 

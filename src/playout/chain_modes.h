@@ -12,23 +12,23 @@ class ChainModes {
 public:
     ChainModes(Desk& desk, MixEngine& mix, Journal& journal) : desk_{desk}, mix_{mix}, journal_{journal} {}
 
-    void a_mode_manuel_Click();
-    void a_mode_auto_Click();
-    void a_mode_predefini_Click();
-    void A_a_zapping_Click();
-    void coche2_Click();
-    void coche3_Click();
+    void choose_manual_mode();
+    void choose_deck_chain();
+    void choose_list_chain();
+    void toggle_list_chain();
+    void choose_mix_titles();
+    void choose_mix_list();
 
-    void Option1_Click();
-    void Option2_Click() { choose_list_mode(true, "Liste - Lecture aléatoire"); }
-    void Option3_Click() { choose_list_mode(false, "Liste - Lecture fin de piste définie"); }
-    void Option4_Click() { choose_list_mode(false, "Liste - Lecture durée piste"); }
+    void choose_player_mode();
+    void choose_random_mode() { choose_list_mode(true, "Liste - Lecture aléatoire"); }
+    void choose_defined_end_mode() { choose_list_mode(false, "Liste - Lecture fin de piste définie"); }
+    void choose_full_length_mode() { choose_list_mode(false, "Liste - Lecture durée piste"); }
 
     /// The key "l": the list chain, unless the decks are run by hand.
     void press_list_key();
 
-    void Image12_Click();
-    void Image13_Click();
+    void press_deck_chain_lamp();
+    void press_list_chain_lamp();
 
 private:
     /// Sets what the mode's row names. What it raises on the way are the events of no part.

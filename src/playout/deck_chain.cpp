@@ -14,7 +14,7 @@ void DeckChain::look() {
     if (desk_.window.Active_audio_jingles.checked)
         return serve_special_mix();
     if (!desk_.has_main_deck()) {
-        desk_.window.Label10.caption = "Chargement rapide";
+        desk_.window.running_chain.caption = "Chargement rapide";
         return;
     }
     Deck& deck = desk_.main_deck();
@@ -25,15 +25,15 @@ void DeckChain::look() {
     // A file that is shorter than its overlap has no mix point: its end is what the next one follows.
     if (point <= 0 && !deck.has_played_out())
         return;
-    if (!desk_.window.coche2.value())
+    if (!desk_.window.mix_titles.value())
         return show_manual_mode();
-    desk_.window.Label10.caption = " Mix lecteur : Play " + deck.name();
+    desk_.window.running_chain.caption = " Mix lecteur : Play " + deck.name();
     desk_.chain.ligne_journal = "Mix lecteur : Play" + deck.name();
-    desk_.window.Label7.caption = "Play " + deck.name() + " : player mix a " + text_of(point);
+    desk_.window.chain_status.caption = "Play " + deck.name() + " : player mix a " + text_of(point);
     if (is_due(deck, point))
         play_ring(deck.number());
     else
-        desk_.list_window.Label16.caption = "Play " + deck.name() + " Mix lecteur";
+        desk_.list_window.running_deck.caption = "Play " + deck.name() + " Mix lecteur";
 }
 
 // The chain waits for the end of the mix, and the desk goes on showing where the track on the air is.
@@ -47,10 +47,10 @@ void DeckChain::serve_special_mix() {
 
 void DeckChain::show_progress(Deck& deck) {
     const Integer position = deck.whole_position();
-    desk_.window.Label5.caption = text_of(position);
+    desk_.window.elapsed.caption = text_of(position);
     deck.controls.progress.value = position.value();
     if (position != 0)
-        desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
+        desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
 }
 
 bool DeckChain::is_due(Deck& deck, Integer point) {
@@ -60,18 +60,18 @@ bool DeckChain::is_due(Deck& deck, Integer point) {
 // An overlap of 0 sets the next deck going too, and so on round the ring until a start sets another overlap. A turn
 // that changed nothing ends with this tick.
 void DeckChain::play_ring(int first) {
-    desk_.window.Timer2.set_interval(0);
+    desk_.window.deck_chain_timer.set_interval(0);
     for (int deck = first, turns = 0; turns < 3; deck = next_deck(deck), ++turns) {
         desk_.deck(deck).controls.title.caption = std::string{waiting_title};
         start_.press_play(desk_.deck(next_deck(deck)));
         if (desk_.settings.mix_courant != 0)
             break;
     }
-    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
 }
 
 void DeckChain::show_manual_mode() {
-    desk_.window.Label7.caption = desk_.window.Désactive_audio.checked ? "Fondu audio désactivé" : "Mode manuel";
+    desk_.window.chain_status.caption = desk_.window.Désactive_audio.checked ? "Fondu audio désactivé" : "Mode manuel";
     for (Deck& deck : desk_.decks) {
         if (!deck.has_graph())
             return;

@@ -65,23 +65,23 @@ LoadResult DeckLoading::load_from_list(Deck& deck) {
 LoadResult DeckLoading::render_from_list(Deck& deck) {
     ChainState& chain = desk_.chain;
     deck.path = chain.ecoute_demandee.is_true() ? chain.chemin_ecoute : desk_.list.chemin_fichier;
-    desk_.window.Text2.set_text(deck.path);
+    desk_.window.path_under_check.set_text(deck.path);
     const std::string name = short_title(name_of(deck.path));
     deck.graph().RenderFile(deck.path);
     const double length = deck.graph().get_Duration();
     take_record(deck);
     deck.fin_piste = desk_.destination.dest_fin;
     deck.duree_piste = text_of(deck.whole_duration());
-    if (!desk_.list_window.Option4.value() && chain.mode_enchainement.is_true())
-        desk_.window.Timer4.enable();
+    if (!desk_.list_window.full_length_mode.value() && chain.mode_enchainement.is_true())
+        desk_.window.list_chain_timer.enable();
     deck.controls.counter.caption = end_point_text(deck, deck.fin_piste);
     const std::string duration = duration_text(length);
     show_loaded(deck, duration, name);
     desk_.show_on_small_player(name);
     if (chain.ecoute_en_cours.is_false()) {
         desk_.list_window.caption = cut_title(name, 16);
-        desk_.list_window.Label2.caption = cut_title(name, 16);
-        desk_.list_window.Label4.caption = duration;
+        desk_.list_window.track_name.caption = cut_title(name, 16);
+        desk_.list_window.remaining.caption = duration;
     }
     if (length < shortest_good_file)
         return LoadResult::too_short;
@@ -108,7 +108,7 @@ double length_of(const Platform& platform, const std::string& path) {
 std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_record) const {
     const ChainState& chain = desk_.chain;
     const Integer whole = deck.whole_duration();
-    if (desk_.list_window.Option4.value() || !chain.mode_enchainement.is_true())
+    if (desk_.list_window.full_length_mode.value() || !chain.mode_enchainement.is_true())
         return text_of(whole);
     // A file that was opened by hand belongs to no record: it plays to its end.
     if (!chain.preecoute_active.is_true())
@@ -139,8 +139,8 @@ void DeckLoading::charge_lire(const std::string& path) {
     mix_.Choix_mix();
     deck.controls.play.enabled = true;
     deck.controls.slider.set_value(0);
-    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
-    desk_.window.coche2.set_value(true);
+    desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
+    desk_.window.mix_titles.set_value(true);
 }
 
 void DeckLoading::open_by_hand(Deck& deck) {
@@ -261,11 +261,11 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
 
 void DeckLoading::recup_path(Deck& deck) {
     if (desk_.destination.dest_genre == network_genre) {
-        deck.path = desk_.window.Text2.text();
+        deck.path = desk_.window.path_under_check.text();
         return;
     }
     const std::string& path = desk_.destination.dest_chemin;
-    desk_.window.Text2.set_text(path);
+    desk_.window.path_under_check.set_text(path);
     const std::string name{name_of_path(path)};
     std::string found;
     std::string folder;

@@ -65,7 +65,7 @@ void DeckStart::set_going(Deck& deck, const StartKind& kind) {
 }
 
 void DeckStart::arrange_buttons(Deck& deck) {
-    if (desk_.window.coche2.value())
+    if (desk_.window.mix_titles.value())
         deck.controls.zap.enabled = true;
     if (!desk_.is_manual()) {
         clear_display(desk_.deck(previous_deck(deck.number())));
@@ -88,22 +88,22 @@ void DeckStart::set_end_point(Deck& deck) {
             count_up(chain.compteur_aleatoire);
         if (desk_.settings.valide_fichier_aleatoire1.is_true())
             count_up(chain.compteur_aleatoire1);
-        desk_.window.Timer2.disable();
+        desk_.window.deck_chain_timer.disable();
     } else {
-        desk_.window.Timer2.enable();
+        desk_.window.deck_chain_timer.enable();
     }
     // The first deck's interval is set when its chain over decks begins, the others' at each start.
     if (deck.number() != 1 || !chain.mode_enchainement.is_true())
-        desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+        desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
 }
 
 // All that decides how the track sounds comes before it runs, and the timers begin anew when it does.
 void DeckStart::begin_sound(Deck& deck) {
     volume_.apply_start(deck);
-    desk_.window.Timer1.enable(); // a load or a pause in the run before may have left it off
+    desk_.window.load_ahead_timer.enable(); // a load or a pause in the run before may have left it off
     deck.controls.scroll_timer.enable();
     const double length = deck.graph().get_Duration();
-    desk_.list_window.Label4.caption = loading_.duration_text(length);
+    desk_.list_window.remaining.caption = loading_.duration_text(length);
     if (length >= shortest_good_file) {
         deck.controls.progress.maximum = deck.whole_duration().value();
         deck.graph().put_CurrentPosition(deck.debut_piste);
@@ -116,13 +116,14 @@ void DeckStart::begin_sound(Deck& deck) {
 
 // Their ticks fall on whole seconds of the main deck.
 void DeckStart::align_timers() {
-    for (Timer* timer : {&desk_.window.Timer1, &desk_.window.Timer2, &desk_.window.Timer4})
+    for (Timer* timer :
+         {&desk_.window.load_ahead_timer, &desk_.window.deck_chain_timer, &desk_.window.list_chain_timer})
         timer->restart();
 }
 
 void DeckStart::show_names(Deck& deck, const StartKind& kind) {
     if (kind.follows_a_row) {
-        desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
+        desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
         if (desk_.chain.ecoute_en_cours.is_false())
             desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
     }
@@ -132,7 +133,7 @@ void DeckStart::show_names(Deck& deck, const StartKind& kind) {
     desk_.list_window.caption = name;
     deck.controls.title.caption = title + " - ";
     desk_.show_on_small_player(title);
-    desk_.list_window.Label2.caption = title;
+    desk_.list_window.track_name.caption = title;
     const std::string& extension = desk_.chain.extension_fichier;
     if (kind.opens_any_video ? has_video_ending(extension) : has_classic_video_ending(extension))
         deck.open_video(title);
@@ -141,14 +142,14 @@ void DeckStart::show_names(Deck& deck, const StartKind& kind) {
 void DeckStart::show_main_deck(Deck& deck) {
     for (Deck& other : desk_.decks)
         other.controls.playing_mark.visible = other.number() == deck.number();
-    desk_.window.Label7.caption = desk_.station_banner();
+    desk_.window.chain_status.caption = desk_.station_banner();
 }
 
 // What is started by hand behind a fault is followed by nothing yet.
 void DeckStart::keep_air_state(const StartKind& kind) {
     const bool begins_a_run = !kind.follows_a_row;
-    if (begins_a_run || desk_.chain.air != AirState::failed || desk_.window.Timer2.enabled() ||
-        desk_.window.Timer4.enabled())
+    if (begins_a_run || desk_.chain.air != AirState::failed || desk_.window.deck_chain_timer.enabled() ||
+        desk_.window.list_chain_timer.enabled())
         desk_.set_air(AirState::on);
 }
 

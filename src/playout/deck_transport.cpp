@@ -19,10 +19,10 @@ void DeckTransport::stop(Deck& deck) {
         desk_.set_air(AirState::off);
     deck.controls.title.caption = std::string{waiting_title};
     start_.clear_display(deck);
-    desk_.window.Timer3.disable();
+    desk_.window.overlap_timer.disable();
     rewind(deck);
-    if (desk_.window.coche2.value())
-        desk_.window.Label7.caption = "Play " + deck.name();
+    if (desk_.window.mix_titles.value())
+        desk_.window.chain_status.caption = "Play " + deck.name();
     volume_.vol_pour_stop();
     deck.controls.pause.caption = std::string{pause_caption};
     deck.controls.playing_mark.visible = false;
@@ -31,11 +31,11 @@ void DeckTransport::stop(Deck& deck) {
     if (desk_.chain.mode_enchainement.is_true()) {
         mix_.end_special_mix();
         desk_.window.Active_audio_jingles.checked = false;
-        desk_.window.Timer4.enable();
+        desk_.window.list_chain_timer.enable();
     } else {
         mix_.leave_special_mix(deck);
     }
-    desk_.list_window.Label13.enabled = true;
+    desk_.list_window.time_of_day.enabled = true;
 }
 
 void DeckTransport::rewind(Deck& deck) {
@@ -44,7 +44,7 @@ void DeckTransport::rewind(Deck& deck) {
     deck.controls.slider.set_value(0);
     if (deck.has_graph() && deck.graph().get_CurrentPosition() > 0)
         deck.graph().put_CurrentPosition(0);
-    desk_.list_window.Label4.caption = "00:00:00";
+    desk_.list_window.remaining.caption = "00:00:00";
 }
 
 void DeckTransport::toggle_pause(Deck& deck) {
@@ -64,7 +64,7 @@ void DeckTransport::toggle_pause(Deck& deck) {
     }
     deck.controls.pause.caption = std::string{runs ? resume_caption : pause_caption};
     deck.controls.play.enabled = runs;
-    desk_.window.Timer1.set_enabled(!runs);
+    desk_.window.load_ahead_timer.set_enabled(!runs);
 }
 
 void DeckTransport::forward(Deck& deck) {
@@ -90,7 +90,7 @@ void DeckTransport::back(Deck& deck) {
 void DeckTransport::seek(Deck& deck, double target) {
     deck.graph().put_CurrentPosition(target);
     const double left = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
-    ErrorIndicator{}.skip([&] { desk_.list_window.Label4.caption = loading_.duration_text(left); });
+    ErrorIndicator{}.skip([&] { desk_.list_window.remaining.caption = loading_.duration_text(left); });
 }
 
 void DeckTransport::unload(Deck& deck) {

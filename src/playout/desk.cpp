@@ -37,25 +37,25 @@ void Desk::set_air(AirState state) {
 
 void Desk::show_list_start() const {
     const bool runs = list_runs();
-    list_window.Image1.enabled = !runs;
+    list_window.play_list.enabled = !runs;
     list_window.lect_liste.enabled = !runs;
 }
 
 bool Desk::list_runs() const {
     const int row = list.ligne_en_lecture.value();
-    const bool chained = chain.mode_enchainement.is_true() && window.Timer4.enabled();
+    const bool chained = chain.mode_enchainement.is_true() && window.list_chain_timer.enabled();
     return chain.air == AirState::on && chained && has_main_deck() && !main_deck().rests() && row >= 1 &&
-           row <= row_count() && equal_ignoring_case(list_window.ListView1.text(row), main_deck().path);
+           row <= row_count() && equal_ignoring_case(list_window.rows.text(row), main_deck().path);
 }
 
 void Desk::show_on_small_player(const std::string& name) {
     small_player.caption = name;
-    small_player.Command2.enabled = true;
+    small_player.next.enabled = true;
 }
 
 void Desk::write_warning(const std::string& lines) {
     warning.caption = "ATTENTION ERREUR";
-    warning.Label1.caption = lines;
+    warning.lines.caption = lines;
     if (on_warning)
         on_warning(lines);
 }
@@ -68,14 +68,14 @@ void Desk::warn(const std::string& lines) {
 void Desk::warn_of_file(const std::string& heading, const std::string& path, const std::string& last_line) {
     const std::string head = heading + "\n";
     const std::string foot = "\n" + last_line;
-    const std::string shown = warning.Label1.caption;
+    const std::string shown = warning.lines.caption;
     std::string paths = path;
     if (warning.visible && shown.starts_with(head) && shown.ends_with(foot))
         paths = shown.substr(head.size(), shown.size() - head.size() - foot.size()) + "\n" + path;
     while (std::ranges::count(paths, '\n') >= most_files_named)
         paths.erase(0, paths.find('\n') + 1);
     write_warning(head + path + foot); // who listens elsewhere has heard of the others
-    warning.Label1.caption = head + paths + foot;
+    warning.lines.caption = head + paths + foot;
     warning.show();
 }
 

@@ -40,10 +40,10 @@ struct Desk {
 
     [[nodiscard]] bool is_manual() const { return window.a_mode_manuel.checked; }
     /// The chain over decks is chosen. A hard stop of the list shows it without choosing it.
-    [[nodiscard]] bool mixes_titles() const { return window.coche2.value() && !chain.mode_enchainement.is_true(); }
+    [[nodiscard]] bool mixes_titles() const { return window.mix_titles.value() && !chain.mode_enchainement.is_true(); }
     /// The elapsed second of the main deck, as the label has it. @throws Failure 13 for a text that is no number.
-    [[nodiscard]] Integer elapsed() const { return to_integer(window.Label5.caption.get(), platform.decimal_mark); }
-    [[nodiscard]] int row_count() const { return list_window.ListView1.count(); }
+    [[nodiscard]] Integer elapsed() const { return to_integer(window.elapsed.caption.get(), platform.decimal_mark); }
+    [[nodiscard]] int row_count() const { return list_window.rows.count(); }
     [[nodiscard]] std::string station_banner() const { return "- - " + settings.nom_radio + " - -"; }
 
     /// Names the file that came on a deck, which another can follow again.

@@ -24,10 +24,11 @@ void ListChain::show_main_deck() {
 }
 
 void ListChain::look() {
-    desk_.list_window.Label13.caption = time_text(desk_.platform);
+    desk_.list_window.time_of_day.caption = time_text(desk_.platform);
     const std::string deck_name = text_of(desk_.chain.lecteur_en_cours);
-    desk_.window.Label10.caption = " Mix liste : Play " + deck_name;
-    desk_.window.Label7.caption = "Play " + deck_name + " : liste mix a " + text_of(desk_.chain.dernier_point_mix);
+    desk_.window.running_chain.caption = " Mix liste : Play " + deck_name;
+    desk_.window.chain_status.caption =
+        "Play " + deck_name + " : liste mix a " + text_of(desk_.chain.dernier_point_mix);
     if (!desk_.has_main_deck())
         return;
     Deck& deck = desk_.main_deck();
@@ -46,9 +47,9 @@ void ListChain::look() {
 
 void ListChain::show_progress(Deck& deck, Integer point) {
     const Integer position = deck.whole_position();
-    desk_.list_window.Label3.caption = "( " + text_of(position) + " / " + text_of(point) + " )";
-    desk_.small_player.label1.caption = text_of(deck.whole_duration() - position);
-    desk_.window.Label5.caption = text_of(position);
+    desk_.list_window.progress.caption = "( " + text_of(position) + " / " + text_of(point) + " )";
+    desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
+    desk_.window.elapsed.caption = text_of(position);
     deck.controls.progress.value = position.value();
 }
 
@@ -57,14 +58,14 @@ void ListChain::mix_point(Deck& deck, Integer point) {
     if (desk_.elapsed() != point || point < 1)
         return;
     if (point <= desk_.settings.valeur_max_jingles) {
-        desk_.window.Timer3.disable();
+        desk_.window.overlap_timer.disable();
         // In random order the load step has left the list on the row that it drew.
         follow_at_once(deck, desk_.chain.ordre_aleatoire.is_true() ? FirstLook::current_row : FirstLook::next_row);
         return;
     }
     desk_.settings.mix_courant = desk_.settings.mix_defaut;
-    desk_.window.Timer1.enable();
-    desk_.window.Timer3.enable();
+    desk_.window.load_ahead_timer.enable();
+    desk_.window.overlap_timer.enable();
     automatic_zap(deck);
 }
 
@@ -78,7 +79,7 @@ void ListChain::follow_at_once(Deck& deck, FirstLook first) {
 // cut what he does.
 void ListChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
     const auto wanted = [this, &deck] {
-        const bool list_chain = desk_.window.Timer4.enabled() || desk_.chain.mode_enchainement.is_true();
+        const bool list_chain = desk_.window.list_chain_timer.enabled() || desk_.chain.mode_enchainement.is_true();
         return list_chain && desk_.chain.lecteur_en_cours == deck.number() && !deck.pause_lecteur.is_true();
     };
     const auto trap = [this](const std::function<void()>& statement) { run_.under_trap("T4", statement); };
@@ -148,10 +149,10 @@ bool ListChain::start_row(Deck& old) {
         return false;
     play_behind(old);
     cursor_.select_row();
-    desk_.window.Timer1.enable();
-    desk_.list_window.Image2.enabled = true;
-    desk_.list_window.Label12.caption = "Zapping autorisé";
-    desk_.small_player.Command2.enabled = true;
+    desk_.window.load_ahead_timer.enable();
+    desk_.list_window.zap.enabled = true;
+    desk_.list_window.zap_status.caption = "Zapping autorisé";
+    desk_.small_player.next.enabled = true;
     return true;
 }
 
@@ -193,13 +194,13 @@ void ListChain::give_prepared_row_up(Integer row) {
 bool ListChain::start_zapped(Deck& old) {
     if (!load_behind(old))
         return false;
-    if (desk_.window.coche3.value()) {
-        desk_.window.coche4.set_value(0);
-        desk_.window.Timer2.set_interval(0);
-        desk_.window.Timer3.enable();
+    if (desk_.window.mix_list.value()) {
+        desk_.window.load_ahead.set_value(0);
+        desk_.window.deck_chain_timer.set_interval(0);
+        desk_.window.overlap_timer.enable();
     }
     play_behind(old);
-    desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
+    desk_.window.overlap_timer.set_interval(desk_.settings.mix_audio_vitesse);
     show_full_volume(desk_.deck(next_deck(old.number())));
     cursor_.select_row();
     return true;

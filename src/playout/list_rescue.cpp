@@ -42,7 +42,7 @@ bool ListRescue::stands_still() const {
 
 // A list of one file only waits for another one.
 bool ListRescue::has_another_file() const {
-    const RowTable& rows = desk_.list_window.ListView1;
+    const RowTable& rows = desk_.list_window.rows;
     for (int row = 1; row <= rows.count(); ++row)
         if (rows.text(row) != desk_.chain.chemin_precedent)
             return true;
@@ -68,7 +68,7 @@ int ListRescue::next_row_that_opens() {
     const int rows = desk_.row_count();
     for (int looked_at = 0; looked_at < std::min(rows, rows_of_a_try); ++looked_at) {
         row_ = row_ >= 0 && row_ < rows ? row_ + 1 : 1;
-        if (run_.can_be_played(desk_.list_window.ListView1.text(row_)))
+        if (run_.can_be_played(desk_.list_window.rows.text(row_)))
             return row_;
     }
     return 0;
@@ -76,10 +76,10 @@ int ListRescue::next_row_that_opens() {
 
 // As the operator does: the row, a reading mode where the decks were chained, the play image.
 void ListRescue::start(int row) {
-    desk_.list_window.ListView1.select(row);
+    desk_.list_window.rows.select(row);
     if (!desk_.chain.mode_enchainement.is_true())
-        desk_.list_window.Option4.set_value(true);
-    run_.Image1_Click();
+        desk_.list_window.full_length_mode.set_value(true);
+    run_.play_list();
 }
 
 void ListRescue::tell_failure() {

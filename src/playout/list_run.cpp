@@ -13,22 +13,22 @@ ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTranspo
     : desk_{desk}, chain_{chain}, loading_{loading}, transport_{transport}, journal_{journal}, run_{run},
       reading_{reading}, save_dialog_{save_dialog}, document_{document} {}
 
-void ListRun::Image1_Click() {
+void ListRun::play_list() {
     if (desk_.row_count() == 0)
         return desk_.inform("La liste est vide");
-    desk_.list_window.Image1.picture = std::string{lamp_on_picture};
+    desk_.list_window.play_list.picture = std::string{lamp_on_picture};
     ErrorIndicator{}.skip([this] { start_selected_row(); });
 }
 
 void ListRun::start_selected_row() {
     select_a_row();
-    const Integer row = desk_.list_window.ListView1.selected();
+    const Integer row = desk_.list_window.rows.selected();
     const Integer row_before = desk_.list.index_en_cours;
     desk_.list.index_en_cours = desk_.list.index_destinataire = row;
     document_.show_file_in_use();
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
-    for (Image* button : {&desk_.list_window.Image3, &desk_.list_window.Image2})
+    for (Image* button : {&desk_.list_window.stop_decks, &desk_.list_window.zap})
         button->enabled = true;
     reading_.read_for_the_air();
     if (is_on_air() && !can_be_played(desk_.destination.dest_chemin)) {
@@ -41,9 +41,9 @@ void ListRun::start_selected_row() {
 
 void ListRun::start_row(Integer row) {
     desk_.list.chemin_fichier = desk_.destination.dest_chemin;
-    desk_.window.Text2.set_text(desk_.list.chemin_fichier);
+    desk_.window.path_under_check.set_text(desk_.list.chemin_fichier);
     desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
-    desk_.list_window.Label1.caption = "En cours index N° : (" + text_of(row) + ")";
+    desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(row) + ")";
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = row;
     loading_.load_from_list(desk_.deck(1));
@@ -71,7 +71,7 @@ void ListRun::stop_other_decks() {
 
 // A list that was just loaded begins with its first row.
 void ListRun::select_a_row() {
-    RowTable& rows = desk_.list_window.ListView1;
+    RowTable& rows = desk_.list_window.rows;
     if (rows.selected() == 0 && rows.count() > 0)
         rows.select(1);
 }
@@ -79,29 +79,29 @@ void ListRun::select_a_row() {
 // Without a mode the list would end with its first track. The lamp of the list chain chooses the same one.
 void ListRun::choose_a_reading_mode() {
     Liste_son& list = desk_.list_window;
-    const std::array modes{&list.Option1, &list.Option2, &list.Option3, &list.Option4};
+    const std::array modes{&list.player_mode, &list.random_mode, &list.defined_end_mode, &list.full_length_mode};
     const bool none = std::ranges::none_of(modes, [](const OptionButton* mode) { return mode->value(); });
     if (none && desk_.chain.mode_enchainement.is_false())
-        list.Option4.set_value(true);
+        list.full_length_mode.set_value(true);
 }
 
-void ListRun::Image3_Click() {
+void ListRun::stop_decks() {
     journal_.note_of_list_window(" Arrét lecture liste a " + date_and_time(desk_.platform));
     chain_.cancel_walks();
     for (Deck& deck : desk_.decks)
         transport_.stop(deck);
     desk_.chain.lecteur_en_cours = 0;
     desk_.set_air(AirState::off);
-    desk_.list_window.Label3.caption = "Liste";
-    desk_.list_window.Label12.caption = "Zapping autorisé";
+    desk_.list_window.progress.caption = "Liste";
+    desk_.list_window.zap_status.caption = "Zapping autorisé";
     document_.a_mettre_Enabled();
     desk_.report({.kind = OnAirEvent::Kind::stopped, .text = "Arrét lecture liste"});
 }
 
-void ListRun::Image4_Click() {
+void ListRun::show_playing_row() {
     ErrorIndicator{}.skip([this] {
-        desk_.list_window.ListView1.select(desk_.list.ligne_en_lecture.value());
-        desk_.list_window.ListView1.ensure_visible(desk_.list.ligne_en_lecture.value());
+        desk_.list_window.rows.select(desk_.list.ligne_en_lecture.value());
+        desk_.list_window.rows.ensure_visible(desk_.list.ligne_en_lecture.value());
     });
 }
 

@@ -17,11 +17,11 @@ public:
             RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document);
 
     /// Plays the list from the selected row, alone. One that can't be played leaves what is on the air.
-    void Image1_Click();
+    void play_list();
     /// Presses the stop buttons of all decks.
-    void Image3_Click();
+    void stop_decks();
     /// Shows the row that plays.
-    void Image4_Click();
+    void show_playing_row();
 
     /// Whether a file opens and has something to play.
     [[nodiscard]] bool can_be_played(const std::string& path) const;

@@ -31,7 +31,7 @@ LoadAhead::LoadAhead(Desk& desk, RowCursor& cursor, RunControl& run, Journal& jo
     : desk_{desk}, cursor_{cursor}, run_{run}, journal_{journal}, walk_{"load_walk", desk.platform.scheduler} {}
 
 void LoadAhead::compteur() {
-    Label& label = desk_.list_window.Label4;
+    Label& label = desk_.list_window.remaining;
     int hours = field_of(label.caption, 1);
     int minutes = field_of(label.caption, 4);
     int seconds = field_of(label.caption, 7);
@@ -53,7 +53,7 @@ void LoadAhead::tick() {
 }
 
 bool LoadAhead::loads_ahead() const {
-    return !desk_.is_manual() && !desk_.chain.chaine_suspendue.is_true() && !desk_.window.coche2.value();
+    return !desk_.is_manual() && !desk_.chain.chaine_suspendue.is_true() && !desk_.window.mix_titles.value();
 }
 
 void LoadAhead::look() {
@@ -97,7 +97,7 @@ bool LoadAhead::try_to_load_next() {
         return true;
     if (!take_row() || desk_.list.chemin_fichier == chain.chemin_precedent)
         return false;
-    desk_.window.Timer1.disable();
+    desk_.window.load_ahead_timer.disable();
     cursor_.read_row();
     chain.chargement_fait = true;
     try {
@@ -154,7 +154,7 @@ bool LoadAhead::is_file_there() {
 }
 
 bool LoadAhead::load_row() {
-    desk_.window.Timer1.disable();
+    desk_.window.load_ahead_timer.disable();
     const LoadResult result = cursor_.load_on(next_on_the_ring());
     if (result == LoadResult::loaded)
         return true;

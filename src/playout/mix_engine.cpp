@@ -32,7 +32,7 @@ void MixEngine::Choix_mix() {
         const auto* row = std::ranges::find_if(rows, [end](const Row& r) { return end <= r.longest; });
         const bool normal = row == rows.end();
         if (normal && desk_.chain.mode_enchainement.is_false())
-            desk_.window.coche4.set_value(1);
+            desk_.window.load_ahead.set_value(1);
         if (normal) {
             s.mix_courant = s.mix_defaut;
             s.prechargement = s.prechargement_defaut;
@@ -48,20 +48,20 @@ void MixEngine::Choix_mix() {
 }
 
 void MixEngine::show_overlap() {
-    desk_.window.Text1.set_text(text_of(desk_.settings.mix_courant));
+    desk_.window.overlap.set_text(text_of(desk_.settings.mix_courant));
     show_hints();
-    desk_.window.UpDown1.show_value(desk_.settings.mix_courant.value());
+    desk_.window.overlap_steps.show_value(desk_.settings.mix_courant.value());
 }
 
 void MixEngine::show_hints() {
     const StationSettings& s = desk_.settings;
-    desk_.window.Text1.hint = "Superposition de : " + text_of(s.mix_courant) + " seconde(s)";
-    desk_.window.coche4.hint = "Préchargement (" + text_of(s.prechargement) + " s avant le mix) ";
+    desk_.window.overlap.hint = "Superposition de : " + text_of(s.mix_courant) + " seconde(s)";
+    desk_.window.load_ahead.hint = "Préchargement (" + text_of(s.prechargement) + " s avant le mix) ";
 }
 
 void MixEngine::change_overlap(int step) {
     try {
-        const Integer shown = to_integer(desk_.window.Text1.text(), desk_.platform.decimal_mark);
+        const Integer shown = to_integer(desk_.window.overlap.text(), desk_.platform.decimal_mark);
         set_overlap(std::max(Integer{1}, shown + step));
     } catch (const Failure& failure) {
         show_box(desk_.platform.dialogs, failure.what(), Icon::stop);
@@ -80,8 +80,8 @@ void MixEngine::set_overlap(Integer seconds) {
     store_overlap();
 }
 
-void MixEngine::UpDown1_Change() {
-    desk_.settings.mix_courant = desk_.settings.mix_defaut = desk_.window.UpDown1.value();
+void MixEngine::take_overlap_steps() {
+    desk_.settings.mix_courant = desk_.settings.mix_defaut = desk_.window.overlap_steps.value();
     show_overlap();
     store_overlap();
 }
@@ -91,9 +91,9 @@ void MixEngine::store_overlap() {
     ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Mix", text_of(desk_.settings.mix_defaut)); });
 }
 
-void MixEngine::coche4_Click() {
-    const bool on = desk_.window.coche4.value() == 1;
-    desk_.window.Timer1.set_enabled(on);
+void MixEngine::choose_load_ahead() {
+    const bool on = desk_.window.load_ahead.value() == 1;
+    desk_.window.load_ahead_timer.set_enabled(on);
     desk_.settings.prechargement = on ? desk_.settings.prechargement_defaut : Integer{0};
     show_hints();
 }
@@ -103,10 +103,10 @@ void MixEngine::choose_rule(MenuItem& rule) {
     check_only(desk_.window.fade_rules(), rule);
 }
 
-void MixEngine::Désactive_audio_Click() {
+void MixEngine::choose_no_fade() {
     choose_rule(desk_.window.Désactive_audio);
     desk_.chain.mode_enchainement = false;
-    desk_.window.Timer2.disable();
+    desk_.window.deck_chain_timer.disable();
 }
 
 void MixEngine::Pas_demix_audio() {
@@ -145,9 +145,9 @@ void MixEngine::start_special_mix(Deck& deck) {
     desk_.chain.lecteur_mix_special = deck.number();
     deck.graph().Run();
     deck.controls.progress.caption = "Mixage spécial en cours (" + whole + " S)";
-    Active_audio_jingles_Click();
+    choose_special_mix_rule();
     desk_.chain.ecoute_demandee = false;
-    desk_.window.Label7.caption = desk_.station_banner();
+    desk_.window.chain_status.caption = desk_.station_banner();
     deck.mix_en_cours = 1;
     deck.controls.special_mix.enabled = false;
     ErrorIndicator{}.skip([&] { warn_of_long_mix(deck); });
@@ -188,7 +188,7 @@ void MixEngine::leave_special_mix(const Deck& deck) {
 
 bool MixEngine::serve_special_mix() {
     if (desk_.chain.lecteur_mix_special < 1 || desk_.chain.lecteur_mix_special > 3) {
-        desk_.window.Label10.caption = "Chargement rapide";
+        desk_.window.running_chain.caption = "Chargement rapide";
         desk_.window.Active_audio_jingles.checked = false;
         return true;
     }
@@ -201,10 +201,10 @@ bool MixEngine::serve_special_mix() {
 }
 
 void MixEngine::manuel_mix() {
-    desk_.window.Image13.picture = "";
-    desk_.window.Image12.picture = std::string{lamp_on_picture};
-    desk_.window.Timer1.disable();
-    desk_.window.coche4.set_value(0);
+    desk_.window.list_chain_lamp.picture = "";
+    desk_.window.deck_chain_lamp.picture = std::string{lamp_on_picture};
+    desk_.window.load_ahead_timer.disable();
+    desk_.window.load_ahead.set_value(0);
 }
 
 void MixEngine::select_bouton() {

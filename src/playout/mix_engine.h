@@ -16,22 +16,22 @@ public:
     void Choix_mix();
 
     /// The overlap field's buttons and its up-down companion.
-    void Image14_Click() { change_overlap(-1); }
-    void Image15_Click() { change_overlap(1); }
+    void shorten_overlap() { change_overlap(-1); }
+    void lengthen_overlap() { change_overlap(1); }
     void set_overlap(Integer seconds);
-    void UpDown1_Change();
+    void take_overlap_steps();
 
     /// The overlap and the load lead in force, where the operator points at them.
     void show_hints();
 
     /// The load step on and off.
-    void coche4_Click();
+    void choose_load_ahead();
 
-    void Active_audio_jingles_Click() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_jingles); }
+    void choose_special_mix_rule() { check_only(desk_.window.fade_rules(), desk_.window.Active_audio_jingles); }
     /// Another rule ends the special mix, which goes by the first one.
-    void Active_audio_Click() { choose_rule(desk_.window.Active_audio); }
-    void Active_audio_zapping_Click() { choose_rule(desk_.window.Active_audio_zapping); }
-    void Désactive_audio_Click();
+    void choose_list_fade() { choose_rule(desk_.window.Active_audio); }
+    void choose_zap_fade() { choose_rule(desk_.window.Active_audio_zapping); }
+    void choose_no_fade();
 
     /// Drops the graph of the deck before the main one at once: no overlap.
     void Pas_demix_audio();

@@ -16,7 +16,7 @@ void Overlap::tick() {
         look();
     } catch (const Failure& failure) {
         // Without its fade the list still plays on.
-        desk_.window.Timer3.disable();
+        desk_.window.overlap_timer.disable();
         desk_.warn(std::string{failure.what()} + "\n" + std::to_string(failure.number));
     }
 }
@@ -24,7 +24,7 @@ void Overlap::tick() {
 void Overlap::look() {
     Deck& main = desk_.main_deck();
     Deck& old = desk_.deck(previous_deck(main.number()));
-    desk_.window.Label5.caption = text_of(main.whole_position());
+    desk_.window.elapsed.caption = text_of(main.whole_position());
     const Integer limit = desk_.chain.position_zap + desk_.settings.mix_audio;
     if (desk_.window.Active_audio_zapping.checked || desk_.window.Active_audio.checked)
         fade(old);
@@ -61,14 +61,14 @@ void Overlap::release(Deck& main, Deck& old) {
     }
     old.controls.progress.value = 0;
     old.controls.counter.caption = "0";
-    desk_.window.Label7.caption = desk_.station_banner();
+    desk_.window.chain_status.caption = desk_.station_banner();
     old.controls.zap.enabled = false;
     main.controls.zap.enabled = true;
-    desk_.window.Timer3.disable();
+    desk_.window.overlap_timer.disable();
     old.controls.slider.set_value(0);
-    desk_.list_window.Image2.enabled = true;
-    desk_.list_window.Label12.caption = "Zapping autorisé";
-    desk_.small_player.Command2.visible = true;
+    desk_.list_window.zap.enabled = true;
+    desk_.list_window.zap_status.caption = "Zapping autorisé";
+    desk_.small_player.next.visible = true;
     if (!desk_.is_manual())
         old.drop_graph();
 }

@@ -9,11 +9,11 @@
 namespace sonarelle {
 
 QuickLoad::Box QuickLoad::favourites() {
-    return {desk_.window.Combo1, desk_.settings.load_combo1, "Load_combo1", desk_.window.cha, false};
+    return {desk_.window.favourites, desk_.settings.load_combo1, "Load_combo1", desk_.window.cha, false};
 }
 
 QuickLoad::Box QuickLoad::jingles() {
-    return {desk_.window.Combo2, desk_.settings.load_combo2, "Load_combo2", desk_.window.char_F, true};
+    return {desk_.window.jingles, desk_.settings.load_combo2, "Load_combo2", desk_.window.char_F, true};
 }
 
 void QuickLoad::Charge_combo() {
@@ -63,8 +63,8 @@ std::string QuickLoad::item_text(const Box& box, const enreg_liste& record) {
 }
 
 void QuickLoad::active_text_combo() {
-    desk_.window.Combo1.set_text("Favoris " + desk_.settings.nom_radio);
-    desk_.window.Combo2.set_text("Jingles " + desk_.settings.nom_radio);
+    desk_.window.favourites.set_text("Favoris " + desk_.settings.nom_radio);
+    desk_.window.jingles.set_text("Jingles " + desk_.settings.nom_radio);
 }
 
 void QuickLoad::choose(const Box& box) {
@@ -87,7 +87,7 @@ void QuickLoad::load(Deck& deck, const Box& box) {
     run_.stoppe_list();
     if (chosen_)
         desk_.destination = *chosen_;
-    desk_.window.Text2.set_text(std::string{trim(box.box.text())});
+    desk_.window.path_under_check.set_text(std::string{trim(box.box.text())});
     loading_.load_record(deck);
     deck.controls.play.enabled = true;
 }

@@ -27,10 +27,10 @@ public:
     /// Writes what the boxes are for into their texts.
     void active_text_combo();
 
-    void Combo1_Click() { choose(favourites()); }
-    void Combo2_Click() { choose(jingles()); }
-    void Combo1_KeyPress(char32_t key) { press_key(favourites(), key); }
-    void Combo2_KeyPress(char32_t key) { press_key(jingles(), key); }
+    void choose_favourite() { choose(favourites()); }
+    void choose_jingle() { choose(jingles()); }
+    void press_favourites_key(char32_t key) { press_key(favourites(), key); }
+    void press_jingles_key(char32_t key) { press_key(jingles(), key); }
 
     /// The chosen track goes on a deck; on one that sounds after a question, whose No changes nothing.
     void load_favourite(Deck& deck) { load(deck, favourites()); }

@@ -25,7 +25,7 @@ void RowCursor::take_next_row() {
 void RowCursor::take_current_row() {
     if (desk_.list.index_en_cours < 1 || desk_.list.index_en_cours.value() > desk_.row_count())
         desk_.list.index_en_cours = 1;
-    desk_.list.chemin_fichier = desk_.list_window.ListView1.text(desk_.list.index_en_cours.value());
+    desk_.list.chemin_fichier = desk_.list_window.rows.text(desk_.list.index_en_cours.value());
 }
 
 bool RowCursor::take_drawn_row() {
@@ -73,7 +73,7 @@ RowCursor::Look RowCursor::look() {
 
 void RowCursor::detecte_fichier_liste() {
     std::string& path = desk_.list.chemin_fichier;
-    desk_.window.Text2.set_text(path);
+    desk_.window.path_under_check.set_text(path);
     if (is_network_path(path))
         return;
     const std::string folder{folder_of_path(path)};
@@ -128,7 +128,7 @@ void RowCursor::note_passed_over(std::string_view why) {
 }
 
 void RowCursor::remove_row() {
-    desk_.list_window.ListView1.remove(desk_.list.index_en_cours.value());
+    desk_.list_window.rows.remove(desk_.list.index_en_cours.value());
     document_.sauve_tout();
     desk_.report({.kind = OnAirEvent::Kind::removed,
                   .row = desk_.list.index_en_cours.value(),
@@ -146,8 +146,8 @@ void RowCursor::report_missing(const std::string& heading, const std::string& la
 
 void RowCursor::select_row() {
     const int row = desk_.list.index_en_cours.value();
-    desk_.list_window.ListView1.ensure_visible(row);
-    desk_.list_window.ListView1.select(row);
+    desk_.list_window.rows.ensure_visible(row);
+    desk_.list_window.rows.select(row);
 }
 
 } // namespace sonarelle

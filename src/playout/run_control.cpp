@@ -12,9 +12,9 @@ void RunControl::lect_liste() {
         return;
     // A fault may have put the chain off. In the mode of the full length, and without fades, no load puts it on again.
     if (desk_.chain.mode_enchainement.is_true() || desk_.list_window.reads_the_list())
-        desk_.window.Timer4.enable();
+        desk_.window.list_chain_timer.enable();
     desk_.deck(1).controls.zap.enabled = true;
-    desk_.window.coche3.set_value(true);
+    desk_.window.mix_list.set_value(true);
     desk_.chain.lecteur_en_cours = 1;
     Start_liste();
 }
@@ -33,7 +33,7 @@ void RunControl::Start_liste() {
 
 void RunControl::report_failed_start(const std::string& path) {
     desk_.show_list_start();
-    desk_.list_window.Label1.caption = "Non trouvé";
+    desk_.list_window.list_status.caption = "Non trouvé";
     desk_.warn("Recherche de fichier\nDemarrage liste\n" + path +
                "\n / format / lecture impossible  \nabandon lecture liste");
 }
@@ -52,7 +52,7 @@ void RunControl::start_first_deck() {
     }
     if (desk_.settings.valide_fichier_aleatoire1.is_true()) {
         desk_.chain.compteur_aleatoire1 = 1;
-        desk_.window.Timer9.enable();
+        desk_.window.item_timer.enable();
         desk_.chain.index_debut_aleatoire1 = desk_.list.index_en_cours;
     }
     write_start(deck.path);
@@ -69,33 +69,33 @@ void RunControl::write_start(const std::string& path) {
 
 void RunControl::stoppe_liste(const std::string& reason) {
     for (Timer* timer : desk_.window.chain_timers())
-        timer->set_enabled(timer == &desk_.window.Timer3 && is_overlap_under_way());
+        timer->set_enabled(timer == &desk_.window.overlap_timer && is_overlap_under_way());
     if (end_walks)
         end_walks();
     journal_.note(desk_.chain.ligne_journal); // in a list an empty line, which sets the run off
     desk_.chain.ligne_journal.clear();
     for (Deck& deck : desk_.decks)
         deck.controls.open.enabled = true;
-    desk_.window.coche4.set_value(0);
-    desk_.window.coche2.show_value(true);
-    desk_.window.Label5.caption = "0";
-    desk_.window.Label7.caption = "Play en attente";
-    desk_.window.Label10.caption = "Chargement rapide";
+    desk_.window.load_ahead.set_value(0);
+    desk_.window.mix_titles.show_value(true);
+    desk_.window.elapsed.caption = "0";
+    desk_.window.chain_status.caption = "Play en attente";
+    desk_.window.running_chain.caption = "Chargement rapide";
     desk_.set_air(AirState::failed);
     desk_.report({.kind = OnAirEvent::Kind::stopped, .text = reason});
 }
 
 bool RunControl::is_overlap_under_way() {
-    return desk_.window.Timer3.enabled() && desk_.has_main_deck() &&
+    return desk_.window.overlap_timer.enabled() && desk_.has_main_deck() &&
            desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())).sounds();
 }
 
 void RunControl::stoppe_list() {
-    desk_.window.Image12.picture = std::string{lamp_on_picture};
-    desk_.window.Image13.picture = "";
-    desk_.window.coche2.set_value(true);
+    desk_.window.deck_chain_lamp.picture = std::string{lamp_on_picture};
+    desk_.window.list_chain_lamp.picture = "";
+    desk_.window.mix_titles.set_value(true);
     journal_.note("Liste soppée a " + time_text(desk_.platform));
-    desk_.window.Label10.caption = "Chargement rapide";
+    desk_.window.running_chain.caption = "Chargement rapide";
 }
 
 void RunControl::under_trap(const std::string& timer, const std::function<void()>& step) {

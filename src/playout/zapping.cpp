@@ -22,8 +22,8 @@ void Zapping::zapping() {
     if (desk_.has_main_deck())
         return zap(desk_.main_deck());
     tell("Aucune lecture en cours", Icon::none);
-    desk_.list_window.Image2.enabled = true;
-    desk_.list_window.Label12.caption = "Zapping autorisé";
+    desk_.list_window.zap.enabled = true;
+    desk_.list_window.zap_status.caption = "Zapping autorisé";
 }
 
 void Zapping::press_zap(Deck& old) {
@@ -49,7 +49,7 @@ void Zapping::zap(Deck& old) {
 void Zapping::zap_by_the_rules(Deck& old) {
     if (ends_record() && desk_.elapsed() <= earliest_second)
         return refuse_too_early();
-    if (desk_.window.coche3.value())
+    if (desk_.window.mix_list.value())
         zap_in_list(old);
     else
         zap_over_decks(old);
@@ -64,8 +64,8 @@ void Zapping::refuse_too_early() {
              text_of(desk_.settings.valeur_max_jingles) + " secondes minimun sont demandées",
          Icon::warning);
     desk_.show_list_start();
-    desk_.list_window.Image2.enabled = true;
-    desk_.list_window.Label12.caption = "Zapping autorisé";
+    desk_.list_window.zap.enabled = true;
+    desk_.list_window.zap_status.caption = "Zapping autorisé";
 }
 
 void Zapping::zap_in_list(Deck& old) {
@@ -84,8 +84,8 @@ void Zapping::zap_in_list(Deck& old) {
     }
     chain_.cancel_walks();
     load_row(desk_.deck(next_deck(old.number())));
-    desk_.window.coche4.set_value(0);
-    desk_.window.Timer2.set_interval(desk_.settings.valeur_vitesse_timer);
+    desk_.window.load_ahead.set_value(0);
+    desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
     hand_over(old, ended);
     chain_.cursor.select_row();
 }
@@ -160,8 +160,8 @@ void Zapping::hand_over(Deck& old, const std::optional<RowOnAir>& ended) {
     start_.play(next);
     desk_.chain.position_zap =
         to_integer(Format(next.graph().get_CurrentPosition(), "0", DecimalMark::point), DecimalMark::point);
-    desk_.window.Timer3.set_interval(desk_.settings.mix_audio_vitesse);
-    desk_.window.Timer3.enable();
+    desk_.window.overlap_timer.set_interval(desk_.settings.mix_audio_vitesse);
+    desk_.window.overlap_timer.enable();
     if (!ended)
         return;
     replace_row(desk_, *ended);
@@ -174,7 +174,7 @@ void Zapping::choose_fade() {
     if (desk_.window.Désactive_audio.checked)
         mix_.Pas_demix_audio();
     else
-        mix_.Active_audio_zapping_Click();
+        mix_.choose_zap_fade();
 }
 
 void Zapping::tell(const std::string& text, Icon icon) {

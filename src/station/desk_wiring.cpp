@@ -54,9 +54,9 @@ void DeskWiring::connect_display_menu() {
     window.ouvrir_liste.on_click = [this] { display_menu.ouvrir_liste_Click(); };
     window.ouvre_L.on_click = [this] {
         display_menu.affiche_tout_Click();
-        station_.main_window.coche3.set_value(true);
-        station_.chain_modes.Image13_Click();
-        station_.main_window.Image13.picture = std::string{lamp_on_picture};
+        station_.main_window.mix_list.set_value(true);
+        station_.chain_modes.press_list_chain_lamp();
+        station_.main_window.list_chain_lamp.picture = std::string{lamp_on_picture};
         station_.list_document.A_liste_Click();
     };
 }
@@ -100,10 +100,10 @@ void DeskWiring::connect_quick_load() {
     };
     window.choose_favourites.on_click = choose_list(1);
     window.choose_jingles.on_click = choose_list(2);
-    window.Combo1.on_click = [this] { quick_load.Combo1_Click(); };
-    window.Combo2.on_click = [this] { quick_load.Combo2_Click(); };
-    window.Combo1.on_key_press = [this](char32_t key) { quick_load.Combo1_KeyPress(key); };
-    window.Combo2.on_key_press = [this](char32_t key) { quick_load.Combo2_KeyPress(key); };
+    window.favourites.on_click = [this] { quick_load.choose_favourite(); };
+    window.jingles.on_click = [this] { quick_load.choose_jingle(); };
+    window.favourites.on_key_press = [this](char32_t key) { quick_load.press_favourites_key(key); };
+    window.jingles.on_key_press = [this](char32_t key) { quick_load.press_jingles_key(key); };
     for (Deck& deck : station_.desk.decks) {
         const auto place = static_cast<std::size_t>(deck.number() - 1);
         window.favourite_loads()[place]->on_click = [this, &deck] { quick_load.load_favourite(deck); };
@@ -131,7 +131,7 @@ void DeskWiring::connect_menu_labels() {
         labels[place]->on_click = [&window, menu = window.menu_bar[place], label = labels[place]] {
             window.popup(*menu, label);
         };
-    window.Label19.on_click = [this] { shutdown.Quitter__Click(); };
+    window.quit_label.on_click = [this] { shutdown.Quitter__Click(); };
     connect_hover(window, labels, station_.settings);
     const std::array about_labels{&station_.about_window.site};
     connect_hover(station_.about_window, about_labels, station_.settings);
@@ -152,7 +152,7 @@ void DeskWiring::answer_for_missing_windows() {
                 entry.on_click = answer;
         }
     Liste_son& list = station_.list_window;
-    for (Image* image : {&station_.main_window.Image17, &list.Image13, &list.Image14})
+    for (Image* image : {&station_.main_window.hourly_styles, &list.jingles_switch, &list.items_switch})
         if (!image->on_click)
             image->on_click = answer;
 }

@@ -70,7 +70,7 @@ void Startup::read_first_settings() {
 
 // A splash without its picture is shown all the same.
 void Startup::show_splash() {
-    ErrorIndicator{}.skip([this] { load_picture(parts_.splash.Image1.picture, std::string{splash_picture}); });
+    ErrorIndicator{}.skip([this] { load_picture(parts_.splash.picture.picture, std::string{splash_picture}); });
     splash_waits_ = true;
     parts_.splash.show();
 }
@@ -104,8 +104,8 @@ void Startup::read_settings() {
     parts_.load.Chargement_parametres();
     parts_.list.mode_insertion = 2;
     parts_.desk.chain.chaine_suspendue = false;
-    window_.Label7.caption = "Lecture en attente";
-    window_.Timer4.set_interval(settings_.valeur_vitesse_timer);
+    window_.chain_status.caption = "Lecture en attente";
+    window_.list_chain_timer.set_interval(settings_.valeur_vitesse_timer);
 }
 
 bool Startup::create() {
@@ -155,7 +155,7 @@ void Startup::load_pictures() {
     load_picture(window_.picture, settings_.logo_fond);
     if (show_file_manager_picture)
         show_file_manager_picture(settings_.logo_fichier);
-    load_picture(list.Image10.picture, settings_.logo);
+    load_picture(list.side_picture.picture, settings_.logo);
     for (DeckControls& deck : window_.decks) {
         load_picture(deck.open.picture, "Open_noir.gif");
         load_picture(deck.zap.picture, "bouton_fleche_noir.gif");
@@ -163,7 +163,7 @@ void Startup::load_pictures() {
     }
     settings_.logo_fond = settings_.chemin_programme + std::string{background_picture};
     load_picture(window_.picture, std::string{background_picture});
-    window_.Image2.picture = "";
+    window_.background_picture.picture = "";
 }
 
 // A setting without a name means no picture.
@@ -201,9 +201,9 @@ void Startup::act_on_command_line() {
         return play_on_small_player();
     if (!is_there(ligne_commande_))
         return;
-    parts_.modes.Image13_Click();
+    parts_.modes.press_list_chain_lamp();
     parts_.document.open_list(ligne_commande_);
-    parts_.list_run.Image1_Click();
+    parts_.list_run.play_list();
 }
 
 // Opening a name that isn't there would make an empty list of it.

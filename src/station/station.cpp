@@ -24,7 +24,7 @@ Station::Station(const Platform& platform)
                                               Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
       settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
-      record_reading{platform_, list, destination, dragged, list_window.ListView1, [this] { warn_of_null_volume(); }},
+      record_reading{platform_, list, destination, dragged, list_window.rows, [this] { warn_of_null_volume(); }},
       deck_record{platform_, chain, list, destination}, list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
@@ -86,7 +86,7 @@ void Station::connect_list_window() {
     list_window.A_Charge.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_liste_anciene.on_click = [this] { list_document.A_liste_anciene(); };
     list_window.A_enreg_sous.on_click = [this] { list_save_dialog.A_enreg_sous(); };
-    list_window.Label8.on_click = [this] { list_save_dialog.A_enreg_sous(); };
+    list_window.save_as.on_click = [this] { list_save_dialog.A_enreg_sous(); };
     list_window.A_sauve.on_click = [this] { list_document.A_sauve(); };
     list_window.a_Ne_pas_Sauve.on_click = [this] { list_document.a_Ne_pas_Sauve(); };
     list_window.A_Copen_rfm.on_click = [this] { legacy_list.A_Copen_rfm(); };
@@ -95,57 +95,57 @@ void Station::connect_list_window() {
     list_window.char1.on_click = [this] { row_to_deck.Charg1_son(); };
     list_window.char2.on_click = [this] { row_to_deck.charg2_son(); };
     list_window.char3.on_click = [this] { row_to_deck.Charg3_son(); };
-    list_window.Image1.on_click = [this] { list_run.Image1_Click(); };
-    list_window.Image2.on_click = [this] { zapping.zapping(); };
-    list_window.Image3.on_click = [this] { list_run.Image3_Click(); };
-    list_window.Image4.on_click = [this] { list_run.Image4_Click(); };
-    list_window.Image4.on_mouse_move = [this] {
-        list_window.Image4.hint = "Position en cours N° " + text_of(list.ligne_en_lecture);
+    list_window.play_list.on_click = [this] { list_run.play_list(); };
+    list_window.zap.on_click = [this] { zapping.zapping(); };
+    list_window.stop_decks.on_click = [this] { list_run.stop_decks(); };
+    list_window.show_playing_row.on_click = [this] { list_run.show_playing_row(); };
+    list_window.show_playing_row.on_mouse_move = [this] {
+        list_window.show_playing_row.hint = "Position en cours N° " + text_of(list.ligne_en_lecture);
     };
 }
 
 // Picture and option of a reading mode are one choice.
 void Station::connect_reading_modes() {
-    list_window.Option1.on_click = [this] { chain_modes.Option1_Click(); };
-    list_window.Option2.on_click = [this] { chain_modes.Option2_Click(); };
-    list_window.Option3.on_click = [this] { chain_modes.Option3_Click(); };
-    list_window.Option4.on_click = [this] { chain_modes.Option4_Click(); };
-    list_window.Image17.on_click = [this] { list_window.Option1.set_value(true); };
-    list_window.Image9.on_click = [this] { list_window.Option2.set_value(true); };
-    list_window.Image11.on_click = [this] { list_window.Option3.set_value(true); };
-    list_window.Image12.on_click = [this] { list_window.Option4.set_value(true); };
+    list_window.player_mode.on_click = [this] { chain_modes.choose_player_mode(); };
+    list_window.random_mode.on_click = [this] { chain_modes.choose_random_mode(); };
+    list_window.defined_end_mode.on_click = [this] { chain_modes.choose_defined_end_mode(); };
+    list_window.full_length_mode.on_click = [this] { chain_modes.choose_full_length_mode(); };
+    list_window.player_lamp.on_click = [this] { list_window.player_mode.set_value(true); };
+    list_window.random_lamp.on_click = [this] { list_window.random_mode.set_value(true); };
+    list_window.defined_end_lamp.on_click = [this] { list_window.defined_end_mode.set_value(true); };
+    list_window.full_length_lamp.on_click = [this] { list_window.full_length_mode.set_value(true); };
     list_window.A_revenir_couleur.on_click = [this] { settings_rewrite.A_revenir_couleur_Click(); };
     list_window.lect_liste.on_click = [this] { run_control.lect_liste(); };
-    list_window.A_a_zapping.on_click = [this] { chain_modes.A_a_zapping_Click(); };
+    list_window.A_a_zapping.on_click = [this] { chain_modes.toggle_list_chain(); };
 }
 
 void Station::connect_timers() {
-    main_window.Timer1.on_tick = [this] { auto_chain.load_ahead.tick(); };
-    main_window.Timer2.on_tick = [this] { auto_chain.deck_chain.tick(); };
-    main_window.Timer3.on_tick = [this] { auto_chain.overlap.tick(); };
-    main_window.Timer4.on_tick = [this] { auto_chain.follow_list(); };
+    main_window.load_ahead_timer.on_tick = [this] { auto_chain.load_ahead.tick(); };
+    main_window.deck_chain_timer.on_tick = [this] { auto_chain.deck_chain.tick(); };
+    main_window.overlap_timer.on_tick = [this] { auto_chain.overlap.tick(); };
+    main_window.list_chain_timer.on_tick = [this] { auto_chain.follow_list(); };
 }
 
 void Station::connect_chain_choices() {
     deck_start.choose_chain_over_decks = [this] {
-        main_window.coche2.show_value(true); // whose click is raised, also where it is chosen already
-        main_window.coche2.set_value(true);
+        main_window.mix_titles.show_value(true); // whose click is raised, also where it is chosen already
+        main_window.mix_titles.set_value(true);
     };
-    main_window.coche2.on_click = [this] { chain_modes.coche2_Click(); };
-    main_window.coche3.on_click = [this] { chain_modes.coche3_Click(); };
-    main_window.coche4.on_click = [this] { mix_engine.coche4_Click(); };
-    main_window.a_mode_manuel.on_click = [this] { chain_modes.a_mode_manuel_Click(); };
-    main_window.a_mode_auto.on_click = [this] { chain_modes.a_mode_auto_Click(); };
-    main_window.a_mode_predefini.on_click = [this] { chain_modes.a_mode_predefini_Click(); };
-    main_window.Image12.on_click = [this] { chain_modes.Image12_Click(); };
-    main_window.Image13.on_click = [this] { chain_modes.Image13_Click(); };
-    main_window.Image14.on_click = [this] { mix_engine.Image14_Click(); };
-    main_window.Image15.on_click = [this] { mix_engine.Image15_Click(); };
-    main_window.UpDown1.on_change = [this] { mix_engine.UpDown1_Change(); };
-    main_window.Active_audio_jingles.on_click = [this] { mix_engine.Active_audio_jingles_Click(); };
-    main_window.Active_audio.on_click = [this] { mix_engine.Active_audio_Click(); };
-    main_window.Active_audio_zapping.on_click = [this] { mix_engine.Active_audio_zapping_Click(); };
-    main_window.Désactive_audio.on_click = [this] { mix_engine.Désactive_audio_Click(); };
+    main_window.mix_titles.on_click = [this] { chain_modes.choose_mix_titles(); };
+    main_window.mix_list.on_click = [this] { chain_modes.choose_mix_list(); };
+    main_window.load_ahead.on_click = [this] { mix_engine.choose_load_ahead(); };
+    main_window.a_mode_manuel.on_click = [this] { chain_modes.choose_manual_mode(); };
+    main_window.a_mode_auto.on_click = [this] { chain_modes.choose_deck_chain(); };
+    main_window.a_mode_predefini.on_click = [this] { chain_modes.choose_list_chain(); };
+    main_window.deck_chain_lamp.on_click = [this] { chain_modes.press_deck_chain_lamp(); };
+    main_window.list_chain_lamp.on_click = [this] { chain_modes.press_list_chain_lamp(); };
+    main_window.overlap_less.on_click = [this] { mix_engine.shorten_overlap(); };
+    main_window.overlap_more.on_click = [this] { mix_engine.lengthen_overlap(); };
+    main_window.overlap_steps.on_change = [this] { mix_engine.take_overlap_steps(); };
+    main_window.Active_audio_jingles.on_click = [this] { mix_engine.choose_special_mix_rule(); };
+    main_window.Active_audio.on_click = [this] { mix_engine.choose_list_fade(); };
+    main_window.Active_audio_zapping.on_click = [this] { mix_engine.choose_zap_fade(); };
+    main_window.Désactive_audio.on_click = [this] { mix_engine.choose_no_fade(); };
 }
 
 void Station::connect_menus() {

@@ -20,58 +20,59 @@ struct Antenne_FM : MainMenus {
 
     std::array<DeckControls, 3> decks;
 
-    Label Label5{*this, "Label5", "0"};                   ///< Elapsed second of the main deck; the chain reads it back.
-    Label Label7{*this, "Label7", "Lecture en attente"};  ///< What the chain waits for.
-    Label Label10{*this, "Label10", "Chargement rapide"}; ///< Which chain runs.
-    TextBox Text1{*this, "Text1"};                        ///< The overlap in seconds.
-    TextBox Text2{*this, "Text2"};                        ///< A path under check. Never shown.
-    Image Image2{*this, "Image2"};                        ///< A picture over the background; empty from the start on.
-    Image Image12{*this, "Image12"};                      ///< Lamp of the chain over decks.
-    Image Image13{*this, "Image13"};                      ///< Lamp of the list chain.
-    Image Image14{*this, "Image14"};                      ///< Overlap minus one.
-    Image Image15{*this, "Image15"};                      ///< Overlap plus one.
-    Image Image17{*this, "Image17"};                      ///< Opens the hourly styles.
-    Label Label27{*this, "Label27"};                      ///< Stand where the volume sliders are hidden.
-    Label Label28{*this, "Label28"};
-    Label Label29{*this, "Label29"};
+    Label elapsed{*this, "Label5", "0"}; ///< Elapsed second of the main deck; the chain reads it back.
+    Label chain_status{*this, "Label7", "Lecture en attente"};  ///< What the chain waits for.
+    Label running_chain{*this, "Label10", "Chargement rapide"}; ///< Which chain runs.
+    TextBox overlap{*this, "Text1"};                            ///< The overlap in seconds.
+    TextBox path_under_check{*this, "Text2"};                   ///< A path under check. Never shown.
+    Image background_picture{*this, "Image2"}; ///< A picture over the background; empty from the start on.
+    Image deck_chain_lamp{*this, "Image12"};   ///< Lamp of the chain over decks.
+    Image list_chain_lamp{*this, "Image13"};   ///< Lamp of the list chain.
+    Image overlap_less{*this, "Image14"};      ///< Overlap minus one.
+    Image overlap_more{*this, "Image15"};      ///< Overlap plus one.
+    Image hourly_styles{*this, "Image17"};     ///< Opens the hourly styles.
+    /// Stand where the volume sliders are hidden, by deck.
+    std::array<Label, 3> slider_stand_ins{Label{*this, "Label27"}, Label{*this, "Label28"}, Label{*this, "Label29"}};
 
-    Label Label12{*this, "Label12", "Fichier"}; ///< Stand for the menus while the bar is hidden.
-    Label Label13{*this, "Label13", "Play"};
-    Label Label14{*this, "Label14", "Liste"};
-    Label Label15{*this, "Label15", "Affichage"};
-    Label Label16{*this, "Label16", "Option"};
-    Label Label17{*this, "Label17", "Aide"};
-    Label Label18{*this, "Label18", "À propos"};
-    Label Label19{*this, "Label19", "Quitter"};
+    Label file_label{*this, "Label12", "Fichier"}; ///< Stand for the menus while the bar is hidden.
+    Label play_label{*this, "Label13", "Play"};
+    Label list_label{*this, "Label14", "Liste"};
+    Label display_label{*this, "Label15", "Affichage"};
+    Label option_label{*this, "Label16", "Option"};
+    Label help_label{*this, "Label17", "Aide"};
+    Label about_label{*this, "Label18", "À propos"};
+    Label quit_label{*this, "Label19", "Quitter"};
 
-    Slider UpDown1{*this, "UpDown1", 1, 20}; ///< The overlap field's companion.
+    Slider overlap_steps{*this, "UpDown1", 1, 20}; ///< The overlap field's companion.
 
     OptionGroup chain_choice;
-    OptionButton coche2{*this, chain_choice, "coche2", "Mixer les titres"};
-    OptionButton coche3{*this, chain_choice, "coche3", "Mixer une liste"};
-    CheckBox coche4{*this, "coche4", "Préchargement"};
+    OptionButton mix_titles{*this, chain_choice, "coche2", "Mixer les titres"};
+    OptionButton mix_list{*this, chain_choice, "coche3", "Mixer une liste"};
+    CheckBox load_ahead{*this, "coche4", "Préchargement"};
 
-    ComboBox Combo1{*this, "Combo1", "Favoris "};
-    ComboBox Combo2{*this, "Combo2", "Jingles "};
+    ComboBox favourites{*this, "Combo1", "Favoris "};
+    ComboBox jingles{*this, "Combo2", "Jingles "};
 
     Movie banner{*this, "banner"};                      ///< 475 by 40 pixels.
     SoundDisplay sound_display{*this, "sound_display"}; ///< The visual effect.
     Frame meters{*this, "meters", "Niveau"};            ///< The place of the level meters.
 
-    Timer Timer1; ///< Countdown and load step.
-    Timer Timer2; ///< Chain over decks.
-    Timer Timer3; ///< Fade and release of the outgoing deck.
-    Timer Timer4; ///< Chain from the list.
-    Timer Timer8; ///< Insertion of jingles by draw.
-    Timer Timer9; ///< Insertion of list items by draw.
+    Timer load_ahead_timer; ///< Countdown and load step.
+    Timer deck_chain_timer; ///< Chain over decks.
+    Timer overlap_timer;    ///< Fade and release of the outgoing deck.
+    Timer list_chain_timer; ///< Chain from the list.
+    Timer jingle_timer;     ///< Insertion of jingles by draw.
+    Timer item_timer;       ///< Insertion of list items by draw.
 
     /// What the chain lives on.
-    [[nodiscard]] std::array<Timer*, 4> chain_timers() { return {&Timer1, &Timer2, &Timer3, &Timer4}; }
+    [[nodiscard]] std::array<Timer*, 4> chain_timers() {
+        return {&load_ahead_timer, &deck_chain_timer, &overlap_timer, &list_chain_timer};
+    }
     /// What stands for the menus, in the order of the menu bar; the last one quits.
     [[nodiscard]] std::array<Label*, 8> menu_labels() {
-        return {&Label12, &Label13, &Label14, &Label15, &Label16, &Label17, &Label18, &Label19};
+        return {&file_label,   &play_label, &list_label,  &display_label,
+                &option_label, &help_label, &about_label, &quit_label};
     }
-    [[nodiscard]] std::array<Label*, 3> slider_stand_ins() { return {&Label27, &Label28, &Label29}; }
     /// The decks' volume sliders, or the labels in their place, and the marks of the two entries.
     void show_sliders(bool shown);
 };

@@ -10,23 +10,23 @@ namespace sonarelle {
 /// own: its commands are those of the main deck.
 struct mini_lecteur : Window {
     mini_lecteur() : Window{"mini_lecteur"} {
-        Command1.hint = "Lecture";
-        Command2.hint = "Fichier suivant (Z ou S)";
-        Command3.hint = "Stop (barre espace)";
-        Command4.hint = "Liste (L)";
-        Command6.hint = "Arrière";
-        Command7.hint = "Avant";
+        play.hint = "Lecture";
+        next.hint = "Fichier suivant (Z ou S)";
+        stop.hint = "Stop (barre espace)";
+        show_main_window.hint = "Liste (L)";
+        back.hint = "Arrière";
+        forward.hint = "Avant";
         answers_space = true;
     }
 
-    GraphicButton Command1{*this, "Command1"}; ///< Plays.
-    GraphicButton Command2{*this, "Command2"}; ///< Next file.
-    GraphicButton Command3{*this, "Command3"}; ///< Stops.
-    GraphicButton Command4{*this, "Command4"}; ///< Back to the main window.
-    GraphicButton Command5{*this, "Command5"}; ///< Quits.
-    GraphicButton Command6{*this, "Command6"}; ///< A step back.
-    GraphicButton Command7{*this, "Command7"}; ///< A step forward.
-    Label label1{*this, "label1"};             ///< Remaining whole seconds of the main deck.
+    GraphicButton play{*this, "Command1"};             ///< Plays.
+    GraphicButton next{*this, "Command2"};             ///< Next file.
+    GraphicButton stop{*this, "Command3"};             ///< Stops.
+    GraphicButton show_main_window{*this, "Command4"}; ///< Back to the main window.
+    GraphicButton quit{*this, "Command5"};             ///< Quits.
+    GraphicButton back{*this, "Command6"};             ///< A step back.
+    GraphicButton forward{*this, "Command7"};          ///< A step forward.
+    Label remaining{*this, "label1"};                  ///< Remaining whole seconds of the main deck.
 };
 
 } // namespace sonarelle

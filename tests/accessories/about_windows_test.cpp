@@ -26,22 +26,22 @@ using Warnings = AboutWindowsTest;
 
 TEST_F(Warnings, TellHowManyFilesWerePlayed) {
     station.chain.nb_fichiers_ecoutes = 41;
-    warning.AnyButton2.on_click();
+    warning.info.on_click();
     EXPECT_EQ(warning.caption.get(), "Sonarelle");
-    EXPECT_EQ(warning.Label1.caption.get(),
+    EXPECT_EQ(warning.lines.caption.get(),
               "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : 41");
     EXPECT_TRUE(warning.visible);
 }
 
 TEST_F(Warnings, HaveTheirOwnCaptionAgainWithTheNextOne) {
-    warning.AnyButton2.click();
+    warning.info.click();
     station.desk.warn("Recherche de fichier");
     EXPECT_EQ(warning.caption.get(), "ATTENTION ERREUR");
 }
 
 TEST_F(Warnings, AreClosedByTheirButtonByEscapeAndByTheWindow) {
     warning.show();
-    warning.AnyButton1.click();
+    warning.ok.click();
     EXPECT_FALSE(warning.visible);
     warning.show();
     warning.key_press(27);

@@ -65,10 +65,9 @@ TEST_P(EveryCommandButPlay, SaysThatNoDeckPlaysAndChangesNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(WithoutADeck, EveryCommandButPlay,
-                         testing::Values(Dispatch{"next", &mini_lecteur::Command2},
-                                         Dispatch{"stop", &mini_lecteur::Command3},
-                                         Dispatch{"back", &mini_lecteur::Command6},
-                                         Dispatch{"forward", &mini_lecteur::Command7}),
+                         testing::Values(Dispatch{"next", &mini_lecteur::next}, Dispatch{"stop", &mini_lecteur::stop},
+                                         Dispatch{"back", &mini_lecteur::back},
+                                         Dispatch{"forward", &mini_lecteur::forward}),
                          [](const auto& the) { return std::string{the.param.name}; });
 
 TEST_F(WithoutADeck, PauseSaysSo) {
@@ -78,36 +77,36 @@ TEST_F(WithoutADeck, PauseSaysSo) {
 
 TEST_F(WithoutADeck, PlayStartsTheFileOnDeckOne) {
     load(1);
-    player.Command1.click();
+    player.play.click();
     EXPECT_THAT(machine.media.on_air(), ElementsAre(track(1)));
 }
 
 TEST_F(WithoutADeck, PlayOpensAFileWhereDeckOneHasNone) {
     machine.add_track(track(7), 60);
     machine.dialogs.expect_open(track(7));
-    player.Command1.click();
+    player.play.click();
     EXPECT_EQ(machine.dialogs.last().title, "Ouvrir un fichier multimédia");
     EXPECT_THAT(machine.media.on_air(), ElementsAre(track(7)));
 }
 
 TEST_F(WithoutADeck, PlayWithoutAChosenFileStaysSilent) {
     machine.dialogs.expect_cancel();
-    player.Command1.click();
+    player.play.click();
     EXPECT_THAT(machine.media.on_air(), IsEmpty());
 }
 
 TEST_F(MiniLecteurTest, StopsTheMainDeck) {
     play_deck(2);
-    player.Command3.click();
+    player.stop.click();
     EXPECT_THAT(machine.media.on_air(), IsEmpty());
     EXPECT_EQ(window.deck(2).title.caption.get(), " - En attente");
 }
 
 TEST_F(MiniLecteurTest, StepsForwardAndBackOnTheMainDeck) {
     play_deck(3);
-    player.Command7.click();
+    player.forward.click();
     EXPECT_NEAR(position_of(3), 10.0, 1e-4);
-    player.Command6.click();
+    player.back.click();
     EXPECT_NEAR(position_of(3), 9.8, 1e-4);
 }
 
@@ -115,17 +114,17 @@ TEST_F(MiniLecteurTest, ZapsToTheNextDeckAndIsReadyAgainWhenAFileComes) {
     load(2);
     play_deck(1);
     machine.run_for(seconds(20));
-    player.Command2.click();
+    player.next.click();
     EXPECT_THAT(machine.media.on_air(), testing::Contains(track(2)));
     load(3);
-    EXPECT_TRUE(player.Command2.enabled);
+    EXPECT_TRUE(player.next.enabled);
 }
 
 TEST_F(MiniLecteurTest, ZapThatFindsNoFileOnTheNextDeckLeavesTheButtonReady) {
     play_deck(1);
-    player.Command2.click();
+    player.next.click();
     EXPECT_THAT(machine.media.on_air(), ElementsAre(track(1)));
-    EXPECT_TRUE(player.Command2.enabled);
+    EXPECT_TRUE(player.next.enabled);
 }
 
 TEST_F(MiniLecteurTest, KeepsTheSpaceBarFromItsButtons) {
@@ -141,13 +140,13 @@ TEST_F(MiniLecteurTest, NamesTheFileInItsTitle) {
 TEST_F(MiniLecteurTest, ShowsWhatRemainsOfTheMainDeck) {
     play_deck(1);
     machine.run_for(seconds(30));
-    EXPECT_EQ(player.label1.caption.get(), "70");
+    EXPECT_EQ(player.remaining.caption.get(), "70");
 }
 
 TEST_F(MiniLecteurTest, GoesBackToTheMainWindowAndStoresItsPlace) {
     player.left = Twips{1200};
     player.top = Twips{300};
-    player.Command4.click();
+    player.show_main_window.click();
     EXPECT_FALSE(player.visible);
     EXPECT_FALSE(player.topmost);
     EXPECT_TRUE(window.visible);
@@ -158,7 +157,7 @@ TEST_F(MiniLecteurTest, GoesBackToTheMainWindowAndStoresItsPlace) {
 TEST_F(MiniLecteurTest, NoToQuittingLeavesTheTopAndStoresItsPlace) {
     player.left = Twips{1200};
     machine.dialogs.expect_box("Confirmer la fermeture de Sonarelle ?", Answer::no);
-    player.Command5.click();
+    player.quit.click();
     EXPECT_TRUE(player.visible);
     EXPECT_FALSE(player.topmost);
     EXPECT_EQ(stored("Position_gauche_mini_lecteur", "Position"), "1200");
@@ -169,20 +168,20 @@ TEST_F(MiniLecteurTest, YesToQuittingEndsWithoutASecondQuestion) {
     player.left = Twips{1200};
     window.Active_journal.click();
     machine.dialogs.expect_box("Confirmer la fermeture de Sonarelle ?", Answer::yes);
-    player.Command5.click();
+    player.quit.click();
     EXPECT_TRUE(station.ended());
     EXPECT_EQ(stored("Position_gauche_mini_lecteur", "Position"), "1200");
     EXPECT_THAT(journal_text(), testing::EndsWith("Fermeture de Sonarelle\r\n"));
 }
 
 TEST_F(MiniLecteurTest, TellsWhatItsButtonsDo) {
-    EXPECT_EQ(player.Command1.hint.get(), "Lecture");
-    EXPECT_EQ(player.Command2.hint.get(), "Fichier suivant (Z ou S)");
-    EXPECT_EQ(player.Command3.hint.get(), "Stop (barre espace)");
-    EXPECT_EQ(player.Command4.hint.get(), "Liste (L)");
-    EXPECT_EQ(player.Command5.hint.get(), "");
-    EXPECT_EQ(player.Command6.hint.get(), "Arrière");
-    EXPECT_EQ(player.Command7.hint.get(), "Avant");
+    EXPECT_EQ(player.play.hint.get(), "Lecture");
+    EXPECT_EQ(player.next.hint.get(), "Fichier suivant (Z ou S)");
+    EXPECT_EQ(player.stop.hint.get(), "Stop (barre espace)");
+    EXPECT_EQ(player.show_main_window.hint.get(), "Liste (L)");
+    EXPECT_EQ(player.quit.hint.get(), "");
+    EXPECT_EQ(player.back.hint.get(), "Arrière");
+    EXPECT_EQ(player.forward.hint.get(), "Avant");
 }
 
 TEST_F(SmallPlayerKeys, OfNextActInBothCases) {

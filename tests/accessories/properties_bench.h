@@ -33,8 +33,8 @@ protected:
         return record_in(machine.disk.bytes(file), number);
     }
     [[nodiscard]] std::vector<std::string> fields() const {
-        return {window.Text1.text(), window.Text2.text(), window.Text3.text(), window.Text4.text(),
-                window.Text5.text()};
+        return {window.start.text(), window.end.text(), window.genre.text(), window.volume.text(),
+                window.length.text()};
     }
 
     Propriete& window = station.properties_window;

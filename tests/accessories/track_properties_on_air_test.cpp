@@ -22,8 +22,8 @@ protected:
         window.mark_end.click();
         machine.run_for(milliseconds(60000));
         window.mark_end.click();
-        window.AnyButton2.click();
-        window.AnyButton1.click();
+        window.save.click();
+        window.close.click();
     }
 };
 
@@ -54,7 +54,7 @@ TEST_F(TrackPropertiesOnAir, LeaveWhatTheNextStartGoesBy) {
     const std::string next = station.destination.dest_chemin;
     rows().select(3);
     station.list_window.a_modif.click();
-    EXPECT_EQ(station.properties_window.Text1.text(), "9");
+    EXPECT_EQ(station.properties_window.start.text(), "9");
     EXPECT_EQ(station.destination.dest_debut, 3.0);
     EXPECT_EQ(station.destination.dest_chemin, next);
 }

@@ -20,9 +20,9 @@ TEST_F(TrackPropertiesSaveTest, SaveWhatWasMarkedByEarAndShowItInTheRow) {
     window.mark_end.click();
     machine.run_for(milliseconds(20000));
     window.mark_end.click();
-    window.Text3.set_text("Chanson");
-    window.Text4.set_text("95");
-    window.AnyButton2.click();
+    window.genre.set_text("Chanson");
+    window.volume.set_text("95");
+    window.save.click();
 
     EXPECT_THAT(rows().row(2), ElementsAre(std::string{music}, "12.34", "32.34", "Chanson", "95", "00:03:20"));
     EXPECT_EQ(bytes_of(record("C:\\Sonarelle\\matin.dfm", 2)),
@@ -31,8 +31,8 @@ TEST_F(TrackPropertiesSaveTest, SaveWhatWasMarkedByEarAndShowItInTheRow) {
 
 TEST_F(TrackPropertiesSaveTest, SaveNoOtherRow) {
     open();
-    window.Text2.set_text("100.00");
-    window.AnyButton2.click();
+    window.end.set_text("100.00");
+    window.save.click();
     EXPECT_EQ(bytes_of(record("C:\\Sonarelle\\matin.dfm", 1)), bytes_of(record_of("C:\\Musique\\autre.mp3")));
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\matin.dfm").size(), 2 * enreg_liste::size);
     EXPECT_EQ(rows().count(), 2);
@@ -41,11 +41,11 @@ TEST_F(TrackPropertiesSaveTest, SaveNoOtherRow) {
 TEST_F(TrackPropertiesSaveTest, SaveNothingWhileAnActionGoesOverTheList) {
     machine.add_track("C:\\Musique\\autre.mp3", 200);
     open();
-    window.Text3.set_text("Chanson");
+    window.genre.set_text("Chanson");
     machine.disk.take("C:\\Musique", seconds(1));
     std::string genre;
     machine.time.at(machine.time.now() + milliseconds(500), [&] {
-        window.AnyButton2.click();
+        window.save.click();
         genre = record("C:\\Sonarelle\\matin.dfm", 2).trimmed_genre();
     });
     machine.dialogs.expect_box("Sauvegarder la liste ?", Answer::no);
@@ -56,14 +56,14 @@ TEST_F(TrackPropertiesSaveTest, SaveNothingWhileAnActionGoesOverTheList) {
 TEST_F(TrackPropertiesSaveTest, SaveRefillsTheRowsFromTheFile) {
     open();
     rows().set_text(1, "C:\\jamais sauvé.mp3");
-    window.AnyButton2.click();
+    window.save.click();
     EXPECT_EQ(rows().text(1), "C:\\Musique\\autre.mp3");
 }
 
 TEST_F(TrackPropertiesSaveTest, SavedRowGoesIntoTheDefaultListToo) {
     open();
-    window.Text2.set_text("100.00");
-    window.AnyButton2.click();
+    window.end.set_text("100.00");
+    window.save.click();
     EXPECT_EQ(station.list.fichier_liste, "liste.dfm");
     EXPECT_EQ(default_list_bytes(), machine.disk.bytes("C:\\Sonarelle\\matin.dfm"));
 }
@@ -72,8 +72,8 @@ TEST_F(TrackPropertiesSaveTest, SaveItsOwnRowAlthoughTheChainReadsAnother) {
     open();
     station.list.index_destinataire = 1;
     station.record_reading.lire_enreg_destinataire();
-    window.Text2.set_text("100.00");
-    window.AnyButton2.click();
+    window.end.set_text("100.00");
+    window.save.click();
     EXPECT_EQ(rows().sub_item(1, 2), "200.00");
     EXPECT_EQ(rows().sub_item(2, 2), "100.00");
     EXPECT_EQ(rows().text(2), music);
@@ -84,7 +84,7 @@ TEST_F(TrackPropertiesSaveTest, SaveNoRowThatIsNoLongerThere) {
     const std::string others = bytes_of({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
     machine.disk.put_file("C:\\Sonarelle\\matin.dfm", others);
     machine.dialogs.expect_box(std::string{music}, Answer::ok);
-    window.AnyButton2.click();
+    window.save.click();
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\matin.dfm"), others);
 }
 
@@ -92,38 +92,38 @@ TEST_F(TrackPropertiesSaveTest, SaveNeedsAList) {
     open();
     station.list.fichier_liste.clear();
     machine.dialogs.expect_box("Pas de nom de fichier", Answer::ok);
-    window.AnyButton2.click();
+    window.save.click();
 }
 
 TEST_F(TrackPropertiesSaveTest, SaveIsRefusedWhileTheListIsKeptAsItIs) {
     station.list_window.a_Ne_pas_Sauve.click();
     open();
-    window.Text2.set_text("100.00");
+    window.end.set_text("100.00");
     const std::string before = machine.disk.bytes("C:\\Sonarelle\\matin.dfm");
     machine.dialogs.expect_box(
         "Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
         "Sauvegarder cette liste",
         Answer::ok);
-    window.AnyButton2.click();
+    window.save.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::information);
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\matin.dfm"), before);
 }
 
 TEST_F(TrackPropertiesSaveTest, SaveTellsAFieldThatIsNoNumber) {
     open();
-    window.Text1.set_text("début");
+    window.start.set_text("début");
     machine.dialogs.expect_box("début", Answer::ok);
-    window.AnyButton2.click();
+    window.save.click();
     EXPECT_EQ(bytes_of(record("C:\\Sonarelle\\matin.dfm", 2)), bytes_of(record_of(music, "180.00", 80)));
 }
 
 TEST_F(TrackPropertiesSaveTest, SaveOnAFullDiskLeavesTheListAndSaysSo) {
     open();
     const std::string before = machine.disk.bytes("C:\\Sonarelle\\matin.dfm");
-    window.Text2.set_text("100.00");
+    window.end.set_text("100.00");
     machine.disk.set_capacity(machine.disk.used() + 100);
     machine.dialogs.expect_box(Answer::ok);
-    window.AnyButton2.click();
+    window.save.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\matin.dfm"), before);
 }

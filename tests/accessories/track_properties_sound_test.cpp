@@ -19,7 +19,7 @@ struct SoundingStation {
         disk.put_file("C:\\Sonarelle\\matin.dfm", bytes_of({record_of(wav, "30.00", 100, 0.10)}));
         dialogs.expect_open("C:\\Sonarelle\\matin.dfm");
         station.list_window.A_liste.click();
-        station.list_window.ListView1.select(1);
+        station.list_window.rows.select(1);
         station.list_window.a_modif.click();
     }
 
@@ -36,7 +36,7 @@ struct SoundingStation {
 };
 
 std::string wav_text(const SoundingStation& bench, std::size_t column) {
-    return bench.station.list_window.ListView1.sub_item(1, column);
+    return bench.station.list_window.rows.sub_item(1, column);
 }
 
 } // namespace
@@ -51,7 +51,7 @@ TEST(TrackPropertiesSound, RowHoldsThePlacesThatWereHeardWhenTheyWereMarked) {
     window.mark_end.click();
     bench.sound.run_for(milliseconds(2500));
     window.mark_end.click();
-    window.AnyButton2.click();
+    window.save.click();
 
     EXPECT_EQ(wav_text(bench, 1), "4.25");
     EXPECT_EQ(wav_text(bench, 2), "6.75");
@@ -79,7 +79,7 @@ TEST(TrackPropertiesSound, ClickOnTheBarIsHeardFromThatPlace) {
     window.play.click();
     bench.sound.run_for(milliseconds(1000));
     const std::int64_t clicked = bench.sound.time.now().count();
-    window.ProgressBar1.click_at(Propriete::bar_units / 2);
+    window.bar.click_at(Propriete::bar_units / 2);
     bench.sound.run_for(milliseconds(1000));
 
     const std::int64_t place = nearest_frame(50 * 30.0 / 100).count();

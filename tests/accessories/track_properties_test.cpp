@@ -15,22 +15,22 @@ class TrackPropertiesTest : public PropertiesBench {};
 TEST_F(TrackPropertiesTest, ShowTheSelectedRow) {
     open();
     EXPECT_TRUE(window.visible);
-    EXPECT_EQ(window.Label2.caption.get(), "été.mp3");
+    EXPECT_EQ(window.file_name.caption.get(), "été.mp3");
     EXPECT_THAT(fields(), ElementsAre("0.1", "180.00", "Rock", "80", "00:03:20"));
 }
 
 TEST_F(TrackPropertiesTest, ShowWhatTheFileHoldsNotTheCells) {
     rows().set_sub_item(2, 3, "Jazz");
     open();
-    EXPECT_EQ(window.Text3.text(), "Rock");
+    EXPECT_EQ(window.genre.text(), "Rock");
 }
 
 TEST_F(TrackPropertiesTest, WarnOfANullVolumeOnceTheyAreShown) {
     open_list("C:\\Sonarelle\\nul.dfm", {record_of(music, "180.00", 0)});
     machine.dialogs.expect_window("err_form", [this] { station.record_reading.read_record(1); });
     open(3);
-    EXPECT_EQ(window.Label2.caption.get(), "été.mp3");
-    EXPECT_EQ(window.Text4.text(), "0");
+    EXPECT_EQ(window.file_name.caption.get(), "été.mp3");
+    EXPECT_EQ(window.volume.text(), "0");
 }
 
 TEST_F(TrackPropertiesTest, StayClosedWhileTheListIsEmpty) {
@@ -52,13 +52,13 @@ TEST_F(TrackPropertiesTest, StayClosedForAListOfTheOldForm) {
 
 TEST_F(TrackPropertiesTest, ShowTheFirstRowWhenNoneIsSelected) {
     station.list_window.a_modif.click();
-    EXPECT_EQ(window.Label2.caption.get(), "autre.mp3");
+    EXPECT_EQ(window.file_name.caption.get(), "autre.mp3");
 }
 
 TEST_F(TrackPropertiesTest, ShowAVolumeThatNoTableRowHasAsItIs) {
     open_list("C:\\Sonarelle\\seul.dfm", {record_of(music, "180.00", 5)});
     open(3);
-    EXPECT_EQ(window.Text4.text(), "5");
+    EXPECT_EQ(window.volume.text(), "5");
 }
 
 TEST_F(TrackPropertiesTest, OfferStopAndEndOnceTheyHaveAMeaning) {
@@ -75,11 +75,11 @@ TEST_F(TrackPropertiesTest, OfferStopAndEndOnceTheyHaveAMeaning) {
 TEST_F(TrackPropertiesTest, PlayFromTheBeginningAndFollow) {
     open_and_play();
     EXPECT_THAT(machine.media.on_air(), ElementsAre(std::string{music}));
-    EXPECT_EQ(window.ProgressBar1.maximum, 200);
+    EXPECT_EQ(window.bar.maximum, 200);
     run_for(3);
-    EXPECT_EQ(window.ProgressBar1.value, 3);
-    EXPECT_EQ(window.Text1.text(), "3.00");
-    EXPECT_EQ(window.Text2.text(), "180.00");
+    EXPECT_EQ(window.bar.value, 3);
+    EXPECT_EQ(window.start.text(), "3.00");
+    EXPECT_EQ(window.end.text(), "180.00");
 }
 
 TEST_F(TrackPropertiesTest, PlayOnANewGraphEachTime) {
@@ -88,13 +88,13 @@ TEST_F(TrackPropertiesTest, PlayOnANewGraphEachTime) {
     window.play.click();
     EXPECT_EQ(machine.media.graphs(), 1U);
     run_for(1);
-    EXPECT_EQ(window.Text1.text(), "1.00");
+    EXPECT_EQ(window.start.text(), "1.00");
 }
 
 TEST_F(TrackPropertiesTest, LeaveAMissingFileWithoutAWord) {
     machine.disk.Kill(music);
     open_and_play();
-    EXPECT_FALSE(window.Timer1.enabled());
+    EXPECT_FALSE(window.progress_timer.enabled());
     EXPECT_FALSE(window.stop.visible);
 }
 
@@ -103,22 +103,22 @@ TEST_F(TrackPropertiesTest, MarkNothingOnAFileThatCannotBePlayed) {
     open_and_play();
     window.mark_start.click();
     run_for(2);
-    EXPECT_EQ(window.Text1.text(), "0.1");
+    EXPECT_EQ(window.start.text(), "0.1");
 }
 
 TEST_F(TrackPropertiesTest, MarkTheStartAtTheFirstPressAndGoOnAtTheNext) {
     open_and_play();
     machine.run_for(milliseconds(12340));
     window.mark_start.click();
-    EXPECT_EQ(window.Text1.text(), "12.34");
+    EXPECT_EQ(window.start.text(), "12.34");
     EXPECT_TRUE(machine.media.on_air().empty());
     run_for(5);
-    EXPECT_EQ(window.Text1.text(), "12.34");
+    EXPECT_EQ(window.start.text(), "12.34");
 
     window.mark_start.click();
     EXPECT_EQ(machine.media.on_air().size(), 1U);
     run_for(1);
-    EXPECT_EQ(window.Text1.text(), "13.34");
+    EXPECT_EQ(window.start.text(), "13.34");
 }
 
 TEST_F(TrackPropertiesTest, MarkTheEndAndLeaveTheStart) {
@@ -126,12 +126,12 @@ TEST_F(TrackPropertiesTest, MarkTheEndAndLeaveTheStart) {
     run_for(10);
     window.mark_start.click();
     window.mark_end.click();
-    EXPECT_EQ(window.Text2.text(), "10.00") << "the graph was paused: it goes on, and the place is written at once";
+    EXPECT_EQ(window.end.text(), "10.00") << "the graph was paused: it goes on, and the place is written at once";
     machine.run_for(milliseconds(5500));
-    EXPECT_EQ(window.Text2.text(), "15.00");
+    EXPECT_EQ(window.end.text(), "15.00");
     window.mark_end.click();
-    EXPECT_EQ(window.Text2.text(), "15.50");
-    EXPECT_EQ(window.Text1.text(), "10.00");
+    EXPECT_EQ(window.end.text(), "15.50");
+    EXPECT_EQ(window.start.text(), "10.00");
     EXPECT_TRUE(machine.media.on_air().empty());
 }
 
@@ -139,11 +139,11 @@ TEST_F(TrackPropertiesTest, StopPutsTheBarBack) {
     open_and_play();
     run_for(3);
     window.stop.click();
-    EXPECT_EQ(window.ProgressBar1.value, 0);
+    EXPECT_EQ(window.bar.value, 0);
     EXPECT_TRUE(machine.media.on_air().empty());
     run_for(2);
-    EXPECT_EQ(window.Text1.text(), "3.00");
-    EXPECT_EQ(window.ProgressBar1.value, 0);
+    EXPECT_EQ(window.start.text(), "3.00");
+    EXPECT_EQ(window.bar.value, 0);
 }
 
 TEST_F(TrackPropertiesTest, StepTheStartByATenth) {
@@ -151,11 +151,11 @@ TEST_F(TrackPropertiesTest, StepTheStartByATenth) {
     run_for(10);
     window.mark_start.click();
     window.start_back.click();
-    EXPECT_EQ(window.Text1.text(), "9.90");
+    EXPECT_EQ(window.start.text(), "9.90");
     window.start_forward.click();
     window.start_forward.click();
-    EXPECT_EQ(window.Text1.text(), "10.10");
-    EXPECT_EQ(window.Text2.text(), "180.00");
+    EXPECT_EQ(window.start.text(), "10.10");
+    EXPECT_EQ(window.end.text(), "180.00");
 }
 
 TEST_F(TrackPropertiesTest, StepTheEndByATenth) {
@@ -163,39 +163,39 @@ TEST_F(TrackPropertiesTest, StepTheEndByATenth) {
     run_for(10);
     window.mark_start.click();
     window.end_forward.click();
-    EXPECT_EQ(window.Text2.text(), "10.10");
+    EXPECT_EQ(window.end.text(), "10.10");
     window.end_back.click();
     window.end_back.click();
-    EXPECT_EQ(window.Text2.text(), "9.90");
-    EXPECT_EQ(window.Text1.text(), "10.00");
+    EXPECT_EQ(window.end.text(), "9.90");
+    EXPECT_EQ(window.start.text(), "10.00");
 }
 
 TEST_F(TrackPropertiesTest, StepNeitherBackWhileTheStartIsAtZero) {
     open_and_play();
     run_for(10);
     window.mark_start.click();
-    window.Text1.set_text("0.00");
+    window.start.set_text("0.00");
     machine.media.clear_log();
     window.start_back.click();
     window.end_back.click();
     EXPECT_TRUE(machine.media.log().empty());
-    EXPECT_EQ(window.Text1.text(), "0.00");
-    EXPECT_EQ(window.Text2.text(), "180.00");
+    EXPECT_EQ(window.start.text(), "0.00");
+    EXPECT_EQ(window.end.text(), "180.00");
 }
 
 TEST_F(TrackPropertiesTest, StepForwardFromZero) {
     open_and_play();
     window.mark_start.click();
     window.start_forward.click();
-    EXPECT_EQ(window.Text1.text(), "0.10");
+    EXPECT_EQ(window.start.text(), "0.10");
 }
 
 TEST_F(TrackPropertiesTest, StepNowhereFromAStartThatIsNoNumber) {
     open_and_play();
     window.mark_start.click();
-    window.Text1.set_text("début");
+    window.start.set_text("début");
     window.start_back.click();
-    EXPECT_EQ(window.Text1.text(), "début");
+    EXPECT_EQ(window.start.text(), "début");
 }
 
 TEST_F(TrackPropertiesTest, DoNothingBeforeTheFirstPlay) {
@@ -205,38 +205,38 @@ TEST_F(TrackPropertiesTest, DoNothingBeforeTheFirstPlay) {
         action->visible = true;
         action->click();
     }
-    window.ProgressBar1.click_at(100);
+    window.bar.click_at(100);
     EXPECT_TRUE(machine.media.log().empty());
     EXPECT_THAT(fields(), ElementsAre("0.1", "180.00", "Rock", "80", "00:03:20"));
 }
 
 TEST_F(TrackPropertiesTest, TellThePercentageUnderThePointer) {
     open_and_play();
-    window.ProgressBar1.move_over(100);
-    EXPECT_EQ(window.ProgressBar1.hint.get(), "lecteur chargé (F8) avec : " + std::string{music});
-    EXPECT_EQ(window.ProgressBar1.caption.get(), "45%");
+    window.bar.move_over(100);
+    EXPECT_EQ(window.bar.hint.get(), "lecteur chargé (F8) avec : " + std::string{music});
+    EXPECT_EQ(window.bar.caption.get(), "45%");
 }
 
 TEST_F(TrackPropertiesTest, TellNoPercentageBeforeTheFirstPlay) {
     open();
-    window.ProgressBar1.move_over(100);
-    EXPECT_EQ(window.ProgressBar1.caption.get(), "");
+    window.bar.move_over(100);
+    EXPECT_EQ(window.bar.caption.get(), "");
 }
 
 TEST_F(TrackPropertiesTest, GoToThePercentageThatIsClicked) {
     open_and_play();
-    window.ProgressBar1.click_at(100);
+    window.bar.click_at(100);
     EXPECT_EQ(last_command().action, MediaAction::position);
     EXPECT_DOUBLE_EQ(last_command().value, 90);
     run_for(1);
-    EXPECT_EQ(window.Text1.text(), "91.00");
+    EXPECT_EQ(window.start.text(), "91.00");
 }
 
 TEST_F(TrackPropertiesTest, GoToBothEndsOfTheBar) {
     open_and_play();
-    window.ProgressBar1.click_at(Propriete::bar_units);
+    window.bar.click_at(Propriete::bar_units);
     EXPECT_DOUBLE_EQ(last_command().value, 200);
-    window.ProgressBar1.click_at(0);
+    window.bar.click_at(0);
     EXPECT_DOUBLE_EQ(last_command().value, 0);
 }
 
@@ -262,7 +262,7 @@ TEST_F(TrackPropertiesTest, ExplainTheLabelsThatNeedIt) {
 TEST_F(TrackPropertiesTest, CloseStopsAndHides) {
     open_and_play();
     run_for(3);
-    window.AnyButton1.click();
+    window.close.click();
     EXPECT_FALSE(window.visible);
     EXPECT_TRUE(machine.media.on_air().empty());
     for (const Timer* timer : window.timers())
@@ -280,16 +280,16 @@ TEST_F(TrackPropertiesTest, CloseWithEscapeAndWithTheCloseBox) {
 
 TEST_F(TrackPropertiesTest, CloseTellsThatNothingWasChanged) {
     open();
-    window.AnyButton1.click();
-    EXPECT_EQ(station.list_window.Label1.caption.get(), " Pas de Modification ");
+    window.close.click();
+    EXPECT_EQ(station.list_window.list_status.caption.get(), " Pas de Modification ");
 }
 
 TEST_F(TrackPropertiesTest, CloseAfterASaveTellsNothing) {
     open();
-    window.AnyButton2.click();
-    const std::string before = station.list_window.Label1.caption;
-    window.AnyButton1.click();
-    EXPECT_EQ(station.list_window.Label1.caption.get(), before);
+    window.save.click();
+    const std::string before = station.list_window.list_status.caption;
+    window.close.click();
+    EXPECT_EQ(station.list_window.list_status.caption.get(), before);
 }
 
 TEST_F(TrackPropertiesTest, OpenOnAnotherRowStopsTheOneThatPlays) {
@@ -298,7 +298,7 @@ TEST_F(TrackPropertiesTest, OpenOnAnotherRowStopsTheOneThatPlays) {
     open(1);
     run_for(2);
     EXPECT_TRUE(machine.media.on_air().empty());
-    EXPECT_EQ(window.Text1.text(), "0.1");
+    EXPECT_EQ(window.start.text(), "0.1");
 }
 
 TEST_F(TrackPropertiesTest, MarkNothingOnTheFileOfTheRowBefore) {
@@ -306,10 +306,10 @@ TEST_F(TrackPropertiesTest, MarkNothingOnTheFileOfTheRowBefore) {
     run_for(3);
     open(1);
     window.mark_start.click();
-    window.ProgressBar1.click_at(100);
+    window.bar.click_at(100);
     run_for(2);
     EXPECT_TRUE(machine.media.on_air().empty());
-    EXPECT_EQ(window.Text1.text(), "0.1");
+    EXPECT_EQ(window.start.text(), "0.1");
     EXPECT_FALSE(window.mark_end.visible);
 }
 

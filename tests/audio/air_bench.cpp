@@ -125,14 +125,15 @@ void AirBench::open_tracks(int count, int seconds, double start) {
     disk.put_file(list, bytes_of(records));
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
-    station.list_window.ListView1.select(1);
+    station.list_window.rows.select(1);
 }
 
 void AirBench::start_in_option(int option) {
     Liste_son& window = station.list_window;
-    const std::array options{&window.Option1, &window.Option2, &window.Option3, &window.Option4};
+    const std::array options{&window.player_mode, &window.random_mode, &window.defined_end_mode,
+                             &window.full_length_mode};
     options.at(static_cast<std::size_t>(option - 1))->click();
-    window.Image1.click();
+    window.play_list.click();
 }
 
 std::vector<Frames> AirBench::starts() const {

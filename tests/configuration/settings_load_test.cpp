@@ -230,24 +230,24 @@ TEST_F(SettingsLoadTest, SwitchesTheJinglesOn) {
     set(config, "Chemin_fichier_aleatoire", "C:\\jingles.dfm");
     load();
     EXPECT_TRUE(station.settings.valide_fichier_aleatoire.is_true());
-    EXPECT_TRUE(station.main_window.Timer8.enabled());
-    EXPECT_EQ(station.options_window.Check1.value(), 1);
-    EXPECT_EQ(station.list_window.Label14.caption.get(), "Jingle On");
-    EXPECT_EQ(station.list_window.Image13.picture.get(), "C:\\Sonarelle\\bouton_on.jpg");
+    EXPECT_TRUE(station.main_window.jingle_timer.enabled());
+    EXPECT_EQ(station.options_window.draws_jingles.value(), 1);
+    EXPECT_EQ(station.list_window.jingles_status.caption.get(), "Jingle On");
+    EXPECT_EQ(station.list_window.jingles_switch.picture.get(), "C:\\Sonarelle\\bouton_on.jpg");
     EXPECT_TRUE(station.list.bouton_jingle_actif.is_true());
     EXPECT_EQ(station.settings.nb_fichier_aleatoire, 4);
-    EXPECT_EQ(station.options_window.Text1.text(), "4");
-    EXPECT_EQ(station.options_window.Text2.text(), "C:\\jingles.dfm");
+    EXPECT_EQ(station.options_window.jingle_spacing.text(), "4");
+    EXPECT_EQ(station.options_window.jingle_list.text(), "C:\\jingles.dfm");
 }
 
 TEST_F(SettingsLoadTest, SwitchesTheJinglesOffAgain) {
     fill_store();
     set(config, "valide_fichier_aleatoire", "true");
     load();
-    ASSERT_TRUE(station.main_window.Timer8.enabled());
+    ASSERT_TRUE(station.main_window.jingle_timer.enabled());
     set(config, "valide_fichier_aleatoire", "false");
     load();
-    EXPECT_FALSE(station.main_window.Timer8.enabled());
+    EXPECT_FALSE(station.main_window.jingle_timer.enabled());
 }
 
 TEST_F(SettingsLoadTest, SwitchesTheListItemsOn) {
@@ -257,35 +257,35 @@ TEST_F(SettingsLoadTest, SwitchesTheListItemsOn) {
     set(config, "Chemin_fichier_aleatoire1", "C:\\articles.dfm");
     load();
     EXPECT_TRUE(station.settings.valide_fichier_aleatoire1.is_true());
-    EXPECT_TRUE(station.main_window.Timer9.enabled());
-    EXPECT_EQ(station.options_window.Check2.value(), 1);
-    EXPECT_EQ(station.list_window.Label15.caption.get(), "Liste On");
+    EXPECT_TRUE(station.main_window.item_timer.enabled());
+    EXPECT_EQ(station.options_window.draws_items.value(), 1);
+    EXPECT_EQ(station.list_window.items_status.caption.get(), "Liste On");
     EXPECT_TRUE(station.list.bouton_liste_actif.is_true());
-    EXPECT_EQ(station.options_window.Text13.text(), "5");
-    EXPECT_EQ(station.options_window.Text12.text(), "C:\\articles.dfm");
+    EXPECT_EQ(station.options_window.item_spacing.text(), "5");
+    EXPECT_EQ(station.options_window.item_list.text(), "C:\\articles.dfm");
 }
 
 TEST_F(SettingsLoadTest, TakesNeitherBranchForAThirdFlagText) {
     fill_store();
-    station.main_window.Timer8.enable();
+    station.main_window.jingle_timer.enable();
     set(config, "valide_fichier_aleatoire", "peut-être");
     load();
-    EXPECT_TRUE(station.main_window.Timer8.enabled());
+    EXPECT_TRUE(station.main_window.jingle_timer.enabled());
     EXPECT_TRUE(station.settings.valide_fichier_aleatoire.is_false());
 }
 
 TEST_F(SettingsLoadTest, ShowsTheTuningInTheOptionsDialog) {
     fill_store();
     load();
-    EXPECT_EQ(station.options_window.Text3.text(), "7");
-    EXPECT_EQ(station.options_window.Text4.text(), "6");
-    EXPECT_EQ(station.options_window.Text5.text(), "30");
-    EXPECT_EQ(station.options_window.Text6.text(), "35");
-    EXPECT_EQ(station.options_window.Text7.text(), "2");
-    EXPECT_EQ(station.options_window.Text8.text(), "1000");
-    EXPECT_EQ(station.options_window.Text11.text(), "1");
-    EXPECT_EQ(station.options_window.Text14.text(), "10");
-    EXPECT_EQ(station.main_window.Text1.text(), "6");
+    EXPECT_EQ(station.options_window.load_lead.text(), "7");
+    EXPECT_EQ(station.options_window.overlap.text(), "6");
+    EXPECT_EQ(station.options_window.longest_jingle.text(), "30");
+    EXPECT_EQ(station.options_window.fade_interval.text(), "35");
+    EXPECT_EQ(station.options_window.special_mix_steps.text(), "2");
+    EXPECT_EQ(station.options_window.chain_interval.text(), "1000");
+    EXPECT_EQ(station.options_window.short_overlap.text(), "1");
+    EXPECT_EQ(station.options_window.outgoing_life.text(), "10");
+    EXPECT_EQ(station.main_window.overlap.text(), "6");
 }
 
 TEST_F(SettingsLoadTest, ShowsTheSlidersOnYes) {
@@ -293,7 +293,7 @@ TEST_F(SettingsLoadTest, ShowsTheSlidersOnYes) {
     set(config, "Montrer curseur", "Oui");
     load();
     EXPECT_TRUE(station.main_window.deck(2).slider.visible);
-    EXPECT_FALSE(station.main_window.Label28.visible);
+    EXPECT_FALSE(station.main_window.slider_stand_ins[1].visible);
     EXPECT_TRUE(station.main_window.aa_montrer_curseur.checked);
     EXPECT_FALSE(station.main_window.aa_cacher_curseur.checked);
 }
@@ -302,7 +302,7 @@ TEST_F(SettingsLoadTest, HidesTheSlidersOtherwise) {
     fill_store();
     load();
     EXPECT_FALSE(station.main_window.deck(2).slider.visible);
-    EXPECT_TRUE(station.main_window.Label28.visible);
+    EXPECT_TRUE(station.main_window.slider_stand_ins[1].visible);
     EXPECT_TRUE(station.main_window.aa_cacher_curseur.checked);
 }
 
@@ -345,8 +345,8 @@ TEST_F(SettingsLoadTest, OfADamagedColourLeavesTheOtherSettingsAlone) {
 
 TEST_F(SettingsLoadTest, OfAnEmptyStoreShowsTheRepairedLeadAndNoTimerInTheOptionsDialog) {
     load();
-    EXPECT_EQ(station.options_window.Text3.text(), "7");
-    EXPECT_EQ(station.options_window.Text8.text(), "0");
+    EXPECT_EQ(station.options_window.load_lead.text(), "7");
+    EXPECT_EQ(station.options_window.chain_interval.text(), "0");
 }
 
 TEST_F(SettingsLoadTest, GoesOnWhenTheStoreCannotBeWritten) {

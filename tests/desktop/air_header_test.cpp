@@ -215,7 +215,7 @@ TEST_F(AirHeaderTest, SaysWhichDeckIsHeardWhileTheMainOneIsSilent) {
 
 TEST_F(AirHeaderTest, WordsReadOnRedWhateverTheWindowsGround) {
     main_window.back_colour = 0xFFFFFF; // white, which carries black
-    main_window.Label7.fore_colour = 0x000000;
+    main_window.chain_status.fore_colour = 0x000000;
     be_silent_for("00:02");
     for (const char* name : {"air_state", "air_silence"})
         EXPECT_GE(contrast_in(seen_in_window(label(name))), 4.2) << name;

@@ -1,7 +1,6 @@
 // Both windows tell one truth of the air, while a list runs.
 #include "desktop/progress_strip.h"
 #include "desktop/station_views.h"
-#include "desktop/progress_strip.h"
 #include "desktop/title_label.h"
 #include "platform/failure.h"
 #include "playlist/enreg_liste.h"
@@ -31,13 +30,13 @@ protected:
         machine.disk.put_file("C:\\Sonarelle\\essai.dfm", bytes);
         machine.dialogs.expect_open("C:\\Sonarelle\\essai.dfm");
         list().A_liste.click();
-        list().ListView1.select(1);
-        list().Option3.click();
-        list().Image1.click();
+        list().rows.select(1);
+        list().defined_end_mode.click();
+        list().play_list.click();
     }
     /// Which row of the list is marked as the next one.
     [[nodiscard]] int amber_row() {
-        for (int row = 1; row <= list().ListView1.count(); ++row) {
+        for (int row = 1; row <= list().rows.count(); ++row) {
             const auto ground = list_view().rows().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
             if (ground.red() > ground.blue() + 20)
                 return row;
@@ -67,16 +66,16 @@ TEST_F(AirOnDesk, OneTitleAndOneRemainderWhileTheNextTrackIsLoaded) {
     play_list();
     run_for(90);
     EXPECT_EQ(desk_says("air_title"), "un");
-    EXPECT_EQ(list_says(list().Label2), "un");
+    EXPECT_EQ(list_says(list().track_name), "un");
     EXPECT_EQ(desk_says("remaining"), "00:00:10");
-    EXPECT_EQ(list_says(list().Label4), "00:00:10");
+    EXPECT_EQ(list_says(list().remaining), "00:00:10");
 }
 
 TEST_F(AirOnDesk, OneRemainderForATrackThatBeginsLate) {
     play_list(20);
     run_for(30);
     EXPECT_EQ(desk_says("remaining"), "00:00:50");
-    EXPECT_EQ(list_says(list().Label4), "00:00:50");
+    EXPECT_EQ(list_says(list().remaining), "00:00:50");
 }
 
 TEST_F(AirOnDesk, FramesNameWhatIsOnTheAir) {
@@ -151,7 +150,7 @@ TEST_F(AirOnDesk, DecksThatAFaultHasStoppedAreNoList) {
         machine.dialogs.expect_open(path);
         station.main_window.deck(deck).open.click();
     }
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     station.main_window.deck(1).play.click();
     machine.disk.Kill("C:\\Musique\\2.mp3");
     run_for(97);
@@ -163,7 +162,7 @@ TEST_F(AirOnDesk, DeskAtRestTellsNothing) {
     EXPECT_EQ(desk_says("air_state"), "EN ATTENTE");
     EXPECT_EQ(desk_says("air_title"), "");
     EXPECT_EQ(desk_says("remaining"), "00:00:00");
-    EXPECT_EQ(list_says(list().Label4), "00:00:00");
+    EXPECT_EQ(list_says(list().remaining), "00:00:00");
 }
 
 TEST_F(AirOnDesk, RowsFollowTheAir) {
@@ -180,10 +179,10 @@ TEST_F(AirOnDesk, RowsFollowTheAir) {
 
 TEST_F(AirOnDesk, DrawnRowIsTheNextOne) {
     play_list();
-    list().Option2.click();
+    list().random_mode.click();
     run_for(90);
     ASSERT_NE(amber_row(), 0);
-    EXPECT_EQ(list().ListView1.text(amber_row()), station.desk.deck(2).path);
+    EXPECT_EQ(list().rows.text(amber_row()), station.desk.deck(2).path);
 }
 
 } // namespace sonarelle

@@ -51,7 +51,7 @@ protected:
         for (Control* control : window.controls()) {
             forget_events(*control);
             control->enabled = true;
-            control->visible = control != &window.Text2;
+            control->visible = control != &window.path_under_check;
         }
         window.on_click = window.on_right_click = nullptr;
         window.on_key_press = [this](char32_t c) { seen += QString::fromUcs4(&c, 1); };
@@ -80,7 +80,7 @@ protected:
         std::vector<std::pair<std::string, QWidget*>> found;
         for (const Control* control : window.controls()) {
             auto* widget = main_view().findChild<QWidget*>(QString::fromStdString(control->name()));
-            if (control->kind() != ControlKind::menu_item && control != &window.Text1 && widget != nullptr &&
+            if (control->kind() != ControlKind::menu_item && control != &window.overlap && widget != nullptr &&
                 widget->isVisible())
                 found.emplace_back(control->name(), widget);
         }
@@ -176,7 +176,7 @@ TEST_F(KeyboardOfTheDesk, IsTheWindowsAgainAfterAQuickLoad) {
     machine.dialogs.expect_open(favourites);
     window.choose_favourites.click();
     settle();
-    auto& box = part<QComboBox>(window.Combo1);
+    auto& box = part<QComboBox>(window.favourites);
     box.setFocus(Qt::TabFocusReason);
     box.showPopup();
     QTest::keyClick(box.view(), Qt::Key_Down);
@@ -210,7 +210,7 @@ TEST_F(KeyboardOfTheDesk, GoesToTheWindowWhenItsPartIsHidden) {
 }
 
 TEST_F(KeyboardOfTheDesk, GoesToTheWindowWhenTheOverlapHasBeenTyped) {
-    focus(window.Text1);
+    focus(window.overlap);
     press_return();
     EXPECT_TRUE(window_has_keyboard());
 }
@@ -218,7 +218,7 @@ TEST_F(KeyboardOfTheDesk, GoesToTheWindowWhenTheOverlapHasBeenTyped) {
 TEST_F(KeyboardOfTheDesk, TypesIntoTheOverlapAlone) {
     std::u32string seen;
     window.on_key_press = [&](char32_t c) { seen += c; };
-    focus(window.Text1);
+    focus(window.overlap);
     type(u"7");
     EXPECT_EQ(seen, U"");
 }
@@ -232,8 +232,8 @@ TEST_F(KeyboardOfTheDesk, SpaceReturnAndEscapeAtEachSecondNeverCutTheAir) {
     }
     open_list("C:\\Listes\\soir.dfm", records);
     rows().select(1);
-    station.list_window.Option3.click();
-    station.list_window.Image1.click();
+    station.list_window.defined_end_mode.click();
+    station.list_window.play_list.click();
     for (int second = 1; second < 200; ++second) {
         machine.run_for(Frames{48000});
         settle();
@@ -292,7 +292,7 @@ TEST_F(KeyboardOfTheDesk, SpaceBarThatWasDownWhenTheDeckCameOnTheAirDoesntStopIt
 }
 
 TEST_F(KeyboardOfTheDesk, SpaceBarInAQuickLoadBoxOpensItsMenu) {
-    focus(window.Combo2);
+    focus(window.jingles);
     press_space();
     auto* menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);
@@ -301,7 +301,7 @@ TEST_F(KeyboardOfTheDesk, SpaceBarInAQuickLoadBoxOpensItsMenu) {
 }
 
 TEST_F(KeyboardOfTheDesk, MenuOfAQuickLoadBoxOpensUnderIt) {
-    QWidget& box = focus(window.Combo1);
+    QWidget& box = focus(window.favourites);
     press_space();
     auto* menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);

@@ -37,47 +37,47 @@ protected:
 
 TEST_F(ListWindow, NamesWhatIsOnTheAirWhateverItsOwnLabelSays) {
     list_view().show_air({.title = "Matin sur le port", .left = "00:00:10", .clock = "12:00:00"});
-    list().Label2.caption = "Jingle bonjour";
+    list().track_name.caption = "Jingle bonjour";
     updates.flush();
-    EXPECT_EQ(label(list().Label2).text(), "Matin sur le port");
+    EXPECT_EQ(label(list().track_name).text(), "Matin sur le port");
 }
 
 TEST_F(ListWindow, NamesWhatIsLoadedWhileNothingIsOn) {
     list_view().show_air({.title = {}, .left = "00:00:00", .clock = "12:00:00"});
-    list().Label2.caption = "Jingle bonjour";
+    list().track_name.caption = "Jingle bonjour";
     updates.flush();
-    EXPECT_EQ(label(list().Label2).text(), "Jingle bonjour");
+    EXPECT_EQ(label(list().track_name).text(), "Jingle bonjour");
 }
 
 TEST_F(ListWindow, RemainderIsTheDesksWhateverItsOwnLabelSays) {
     list_view().show_air({.title = "Matin", .left = "00:00:31", .clock = "12:00:00"});
-    list().Label4.caption = "00:00:34";
+    list().remaining.caption = "00:00:34";
     updates.flush();
-    EXPECT_EQ(label(list().Label4).text(), "00:00:31");
-    EXPECT_EQ(label(list().Label4).accessibleName(), "Temps restant");
+    EXPECT_EQ(label(list().remaining).text(), "00:00:31");
+    EXPECT_EQ(label(list().remaining).accessibleName(), "Temps restant");
 }
 
 TEST_F(ListWindow, ClockIsTheDesks) {
     list_view().show_air({.title = "Matin", .left = "00:00:31", .clock = "12:00:01"});
-    list().Label13.caption = "12:00:00";
+    list().time_of_day.caption = "12:00:00";
     updates.flush();
-    EXPECT_EQ(label(list().Label13).text(), "12:00:01");
+    EXPECT_EQ(label(list().time_of_day).text(), "12:00:01");
 }
 
 TEST_F(ListWindow, BothWindowsShowOneClockFromTheBeginning) {
     EXPECT_EQ(part<StationLabel>(main_view(), "clock").text().size(), 8);
-    EXPECT_EQ(label(list().Label13).text(), part<StationLabel>(main_view(), "clock").text());
+    EXPECT_EQ(label(list().time_of_day).text(), part<StationLabel>(main_view(), "clock").text());
 }
 
 TEST_F(ListWindow, BothWindowsShowOneRemainder) {
-    EXPECT_EQ(label(list().Label4).text(), part<StationLabel>(main_view(), "remaining").text());
+    EXPECT_EQ(label(list().remaining).text(), part<StationLabel>(main_view(), "remaining").text());
 }
 
 TEST_F(ListWindow, ModeHasOneIndicatorThatFollowsItsOption) {
-    const std::array<std::pair<Image*, OptionButton*>, 4> modes{{{&list().Image17, &list().Option1},
-                                                                 {&list().Image9, &list().Option2},
-                                                                 {&list().Image11, &list().Option3},
-                                                                 {&list().Image12, &list().Option4}}};
+    const std::array<std::pair<Image*, OptionButton*>, 4> modes{{{&list().player_lamp, &list().player_mode},
+                                                                 {&list().random_lamp, &list().random_mode},
+                                                                 {&list().defined_end_lamp, &list().defined_end_mode},
+                                                                 {&list().full_length_lamp, &list().full_length_mode}}};
     for (const auto& [image, option] : modes) {
         option->show_value(true);
         settle();
@@ -89,11 +89,11 @@ TEST_F(ListWindow, ModeHasOneIndicatorThatFollowsItsOption) {
 }
 
 TEST_F(ListWindow, PictureOfAModeCantContradictIt) {
-    list().Option4.show_value(true);
+    list().full_length_mode.show_value(true);
     settle();
     const QImage before = seen(list_view());
-    list().Image17.picture = "bouton_on.jpg";
-    list().Image12.picture = "bouton_off.jpg";
+    list().player_lamp.picture = "bouton_on.jpg";
+    list().full_length_lamp.picture = "bouton_off.jpg";
     settle();
     EXPECT_EQ(seen(list_view()), before);
 }
@@ -101,7 +101,7 @@ TEST_F(ListWindow, PictureOfAModeCantContradictIt) {
 TEST_F(ListWindow, OptionDrawsNoMarkBesideItsLamp) {
     auto& option = part<QRadioButton>(list_view(), "Option1");
     const QImage clear = seen_in_window(option);
-    list().Option1.show_value(true);
+    list().player_mode.show_value(true);
     settle();
     EXPECT_EQ(seen_in_window(option), clear);
 }
@@ -109,8 +109,8 @@ TEST_F(ListWindow, OptionDrawsNoMarkBesideItsLamp) {
 TEST_F(ListWindow, LampAndWordsOfAModeBothChooseIt) {
     int lamp_presses = 0;
     int word_presses = 0;
-    list().Image9.on_click = [&] { ++lamp_presses; };
-    list().Option2.on_click = [&] { ++word_presses; };
+    list().random_lamp.on_click = [&] { ++lamp_presses; };
+    list().random_mode.on_click = [&] { ++word_presses; };
     QTest::mouseClick(&part(list_view(), "Image9"), Qt::LeftButton);
     part<QRadioButton>(list_view(), "Option2").click();
     EXPECT_EQ(lamp_presses, 1);
@@ -118,14 +118,15 @@ TEST_F(ListWindow, LampAndWordsOfAModeBothChooseIt) {
 }
 
 TEST_F(ListWindow, LampOfAModeIsNoStopOfTheKeyboard) {
-    for (const Image* lamp : {&list().Image17, &list().Image9, &list().Image11, &list().Image12})
+    for (const Image* lamp :
+         {&list().player_lamp, &list().random_lamp, &list().defined_end_lamp, &list().full_length_lamp})
         EXPECT_EQ(part(list_view(), lamp->name()).focusPolicy(), Qt::NoFocus) << lamp->name();
 }
 
 TEST_F(ListWindow, SwitchesShowTheirPictureAndTheirWord) {
-    list().Label14.caption = "Jingle On";
+    list().jingles_status.caption = "Jingle On";
     settle();
-    EXPECT_EQ(label(list().Label14).text(), "Jingle On");
+    EXPECT_EQ(label(list().jingles_status).text(), "Jingle On");
 }
 
 TEST_F(ListWindow, RightButtonOpensTheRowsMenu) {
@@ -265,7 +266,7 @@ TEST_F(ListWindow, ColumnsHaveTheirCaptions) {
 
 TEST_F(ListWindow, ButtonsReachTheirImages) {
     std::vector<std::string> pressed;
-    for (Image* image : {&list().Image1, &list().Image2, &list().Image3, &list().Image4}) {
+    for (Image* image : {&list().play_list, &list().zap, &list().stop_decks, &list().show_playing_row}) {
         image->enabled = true;
         image->on_click = [&pressed, image] { pressed.push_back(image->name()); };
         settle();

@@ -29,39 +29,39 @@ protected:
 } // namespace
 
 TEST_F(MainWindow, ChainHasOneIndicatorThatFollowsItsOption) {
-    main().coche2.show_value(true);
+    main().mix_titles.show_value(true);
     settle();
-    EXPECT_TRUE(lamp_is_lit(main().Image12));
-    EXPECT_FALSE(lamp_is_lit(main().Image13));
-    main().coche3.show_value(true);
+    EXPECT_TRUE(lamp_is_lit(main().deck_chain_lamp));
+    EXPECT_FALSE(lamp_is_lit(main().list_chain_lamp));
+    main().mix_list.show_value(true);
     settle();
-    EXPECT_FALSE(lamp_is_lit(main().Image12));
-    EXPECT_TRUE(lamp_is_lit(main().Image13));
+    EXPECT_FALSE(lamp_is_lit(main().deck_chain_lamp));
+    EXPECT_TRUE(lamp_is_lit(main().list_chain_lamp));
 }
 
 TEST_F(MainWindow, OptionDrawsNoMarkBesideItsLamp) {
     auto& option = part<QRadioButton>(main_view(), "coche3");
     const QImage clear = seen_in_window(option);
-    main().coche3.show_value(true);
+    main().mix_list.show_value(true);
     settle();
     EXPECT_EQ(seen_in_window(option), clear);
 }
 
 TEST_F(MainWindow, PictureOfAChainCantContradictIt) {
-    main().coche3.show_value(true);
+    main().mix_list.show_value(true);
     settle();
-    main().Image12.picture = std::string{lamp_on_picture};
-    main().Image13.picture = "";
+    main().deck_chain_lamp.picture = std::string{lamp_on_picture};
+    main().list_chain_lamp.picture = "";
     settle();
-    EXPECT_TRUE(lamp_is_lit(main().Image13));
-    EXPECT_FALSE(lamp_is_lit(main().Image12));
+    EXPECT_TRUE(lamp_is_lit(main().list_chain_lamp));
+    EXPECT_FALSE(lamp_is_lit(main().deck_chain_lamp));
 }
 
 TEST_F(MainWindow, LampAndWordsOfAChainBothChooseIt) {
     int lamp_presses = 0;
     int word_presses = 0;
-    main().Image13.on_click = [&] { ++lamp_presses; };
-    main().coche3.on_click = [&] { ++word_presses; };
+    main().list_chain_lamp.on_click = [&] { ++lamp_presses; };
+    main().mix_list.on_click = [&] { ++word_presses; };
     QTest::mouseClick(&part(main_view(), "Image13"), Qt::LeftButton);
     part<QRadioButton>(main_view(), "coche3").click();
     EXPECT_EQ(lamp_presses, 1);
@@ -84,7 +84,7 @@ TEST_F(MainWindow, OutputIsTold) {
 TEST_F(MainWindow, StatusLineHasRoomForEachSentenceOfTheOutputOnTheSmallestScreen) {
     main_view().resize(1000, 560);
     station.chain.nb_fichiers_ecoutes = 32767;
-    main().Label7.caption = "Play 1 : liste mix a 3599";
+    main().chain_status.caption = "Play 1 : liste mix a 3599";
     const QString gaps = "sortie : son arrivé trop tard 12 fois, 3.20 s de silence depuis le lancement";
     for (const auto& [text, is_trouble] :
          {std::pair{QString{"sortie : aucune carte son, cadence de l'horloge"}, true}, {gaps, false}}) {
@@ -115,7 +115,7 @@ TEST_F(MainWindow, DecksAreToldAgainWhenTheOverlapChanges) {
     };
     EXPECT_TRUE(is_near(at(80), studio::next)) << at(80).name().toStdString();
     station.settings.mix_courant = 30;
-    main().Text1.set_text("30");
+    main().overlap.set_text("30");
     settle();
     EXPECT_TRUE(is_near(at(60), studio::next));
     EXPECT_TRUE(is_near(at(90), studio::trouble));
@@ -150,12 +150,12 @@ TEST_F(MainWindow, PointerOverBareGroundGivesTheLabelsTheirColourBack) {
     station.settings.coul_label = 0x808080;
     main().click();
     settle();
-    main().Label15.mouse_move();
-    ASSERT_NE(main().Label15.fore_colour.get(), 0x808080);
+    main().display_label.mouse_move();
+    ASSERT_NE(main().display_label.fore_colour.get(), 0x808080);
     QTest::mouseMove(&main_view(), {3, main_view().height() / 2});
     QMouseEvent move{QEvent::MouseMove, QPointF{3, 300}, QPointF{3, 300}, Qt::NoButton, Qt::NoButton, {}};
     QCoreApplication::sendEvent(&main_view(), &move);
-    EXPECT_EQ(main().Label15.fore_colour.get(), 0x808080);
+    EXPECT_EQ(main().display_label.fore_colour.get(), 0x808080);
 }
 
 TEST_F(MainWindow, PointerThatLeavesALabelGivesItsColourBack) {
@@ -163,9 +163,9 @@ TEST_F(MainWindow, PointerThatLeavesALabelGivesItsColourBack) {
     main().click();
     settle();
     point_at(label("Label15"));
-    ASSERT_NE(main().Label15.fore_colour.get(), 0x808080);
+    ASSERT_NE(main().display_label.fore_colour.get(), 0x808080);
     leave(label("Label15"));
-    EXPECT_EQ(main().Label15.fore_colour.get(), 0x808080);
+    EXPECT_EQ(main().display_label.fore_colour.get(), 0x808080);
 }
 
 TEST_F(MainWindow, SlidersAreTurnedSoThatFullIsAtTheTop) {

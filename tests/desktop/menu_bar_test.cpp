@@ -79,7 +79,7 @@ TEST_F(BarOfTheDesk, TakesNoLetterByAltAlone) {
 
 TEST_F(BarOfTheDesk, MenuOfAWordThatStandsForItOpensUnderTheWord) {
     press_ground();
-    QWidget& word = part(window.Label14);
+    QWidget& word = part(window.list_label);
     press(word);
     QWidget* menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);

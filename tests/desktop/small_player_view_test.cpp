@@ -74,7 +74,7 @@ TEST_F(PlayerOnView, HasTheKeyboardItself) {
 
 TEST_F(PlayerOnView, SpaceBarStopsWhateverButtonHasTheKeyboard) {
     play();
-    focus(station.small_player.Command7);
+    focus(station.small_player.forward);
     press(Qt::Key_Space, " ");
     EXPECT_FALSE(sounds());
 }
@@ -82,7 +82,7 @@ TEST_F(PlayerOnView, SpaceBarStopsWhateverButtonHasTheKeyboard) {
 TEST_F(PlayerOnView, ReturnPressesTheButtonThatHasTheKeyboard) {
     play();
     press(Qt::Key_Space, " ");
-    focus(station.small_player.Command1);
+    focus(station.small_player.play);
     press(Qt::Key_Return, "\r");
     EXPECT_TRUE(sounds());
 }

@@ -66,7 +66,7 @@ protected:
     /// Three rows in the list: on the air, next, and missing.
     void rows_of_three() {
         for (const char* name : {"un", "deux", "trois"})
-            station.list_window.ListView1.append(
+            station.list_window.rows.append(
                 {"C:\\" + std::string{name} + ".mp3", "0.10", "200.00", "Rock", "100", "00:03:20"});
         settle();
         list_view().rows().is_missing = [](const std::string& path) { return path == "C:\\trois.mp3"; };

@@ -69,7 +69,7 @@ TEST_P(Themes, LabelThatThePointerLeavesIsAsBefore) {
     leave(label);
     settle();
     EXPECT_EQ(seen_in_window(label), rest);
-    EXPECT_EQ(station.main_window.Label15.fore_colour.get(), GetParam().label);
+    EXPECT_EQ(station.main_window.display_label.fore_colour.get(), GetParam().label);
 }
 
 TEST_P(Themes, RowsRead) {

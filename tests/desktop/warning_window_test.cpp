@@ -62,7 +62,7 @@ TEST_F(WarningWindow, TellsTheCountByReturnOnItsOtherButton) {
     button("AnyButton2").setFocus(Qt::TabFocusReason);
     press_in_it(Qt::Key_Return, "\r");
     EXPECT_TRUE(view().isVisible());
-    EXPECT_NE(station.warning_window.Label1.caption.get().find("Nombre de fichiers"), std::string::npos);
+    EXPECT_NE(station.warning_window.lines.caption.get().find("Nombre de fichiers"), std::string::npos);
 }
 
 TEST_F(WarningWindow, GivesTheKeyboardBackToTheDesk) {

@@ -26,7 +26,7 @@ struct TagWindow : Window {
     TextBox txtv1Annee{*this, "txtv1Annee", "2001"};
     TextBox txtv1Piste{*this, "txtv1Piste", "9"};
     TextBox txtv1Commentaire{*this, "txtv1Commentaire", "--"};
-    ComboBox Combo2{*this, "Combo2", "Autre"};
+    ComboBox genre{*this, "Combo2", "Autre"};
 };
 
 struct LoadTags : testing::Test {
@@ -38,7 +38,7 @@ struct LoadTags : testing::Test {
     void load_song() {
         loadtags(on_disk.disk, song,
                  {window.txtv1Titre, window.txtv1Artiste, window.txtv1Album, window.txtv1Annee, window.txtv1Piste,
-                  window.txtv1Commentaire, window.Combo2});
+                  window.txtv1Commentaire, window.genre});
     }
     void expect_empty_fields() const {
         EXPECT_EQ(window.txtv1Titre.text(), "");
@@ -47,7 +47,7 @@ struct LoadTags : testing::Test {
         EXPECT_EQ(window.txtv1Annee.text(), "");
         EXPECT_EQ(window.txtv1Piste.text(), "");
         EXPECT_EQ(window.txtv1Commentaire.text(), "");
-        EXPECT_EQ(window.Combo2.text(), "");
+        EXPECT_EQ(window.genre.text(), "");
     }
 
     MusicDisk on_disk;
@@ -61,7 +61,7 @@ TEST_F(LoadTags, EveryFieldIsShown) {
     EXPECT_EQ(window.txtv1Annee.text(), "1998");
     EXPECT_EQ(window.txtv1Piste.text(), "7");
     EXPECT_EQ(window.txtv1Commentaire.text(), "Commentaire");
-    EXPECT_EQ(window.Combo2.text(), "Rock");
+    EXPECT_EQ(window.genre.text(), "Rock");
 }
 
 TEST_F(LoadTags, AccentsAreShown) {
@@ -76,7 +76,7 @@ TEST_F(LoadTags, Track0ShowsNothing) {
 
 TEST_F(LoadTags, Genre147ShowsNothing) {
     load(TagBytes{.genre = 147});
-    EXPECT_EQ(window.Combo2.text(), "");
+    EXPECT_EQ(window.genre.text(), "");
 }
 
 TEST_F(LoadTags, FileWithoutATagEmptiesTheFields) {

@@ -163,7 +163,7 @@ TEST_F(LegacyListTest, IsMisreadWhenItIsOneOfTheNewForm) {
 
 TEST_F(LegacyListTest, SaysWhatIsLoaded) {
     open_old_list(old_record("a"));
-    EXPECT_EQ(station.list_window.Label1.caption.get(), "Lecture en attente .. Nb : 1");
+    EXPECT_EQ(station.list_window.list_status.caption.get(), "Lecture en attente .. Nb : 1");
     EXPECT_EQ(station.list_window.caption.get(), "Fichier liste : C:\\Listes\\vieux.rfm");
 }
 

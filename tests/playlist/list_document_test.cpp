@@ -56,8 +56,8 @@ TEST_F(ListDocumentTest, WritesDecimalsWithTheStationsOwnMark) {
     machine.disk.put_file(matin, bytes_of(record_of("a", "200.5", 100, 1.5)));
     machine.dialogs.expect_open(matin);
     other.list_window.A_liste.click();
-    EXPECT_EQ(other.list_window.ListView1.sub_item(1, 1), "1,50");
-    EXPECT_EQ(other.list_window.ListView1.sub_item(1, 2), "200,50");
+    EXPECT_EQ(other.list_window.rows.sub_item(1, 1), "1,50");
+    EXPECT_EQ(other.list_window.rows.sub_item(1, 2), "200,50");
 }
 
 TEST_F(ListDocumentTest, OfAFileOf417BytesIsEmpty) {
@@ -101,7 +101,7 @@ TEST_F(ListDocumentTest, LoadedIntoAnEmptyTableLeavesTheDefaultListAlone) {
 
 TEST_F(ListDocumentTest, SaysWhatIsLoaded) {
     open_list(matin, {record_of("a"), record_of("b")});
-    EXPECT_EQ(station.list_window.Label1.caption.get(), "Lecture en attente .. Nb : 2");
+    EXPECT_EQ(station.list_window.list_status.caption.get(), "Lecture en attente .. Nb : 2");
     EXPECT_EQ(station.list_window.caption.get(), "Fichier liste : C:\\Listes\\matin.dfm");
     EXPECT_EQ(station.list_window.Supprimer_fichier.caption.get(), "Supprimer le fichier C:\\Listes\\matin.dfm");
 }
@@ -119,7 +119,7 @@ TEST_F(ListDocumentTest, NamesTheListEverywhere) {
     EXPECT_EQ(station.list.fichier_liste, matin);
     EXPECT_EQ(station.list.fichier_liste_precedent, matin);
     EXPECT_EQ(station.list.nom_sauvegarde, matin);
-    EXPECT_EQ(station.list_window.Text2.text(), matin);
+    EXPECT_EQ(station.list_window.file_name.text(), matin);
     EXPECT_EQ(station.list.nom_fichier, "matin.dfm");
 }
 

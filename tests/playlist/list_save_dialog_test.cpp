@@ -164,7 +164,7 @@ TEST_F(ListSaveDialogTest, SetsTheSavePolicyAndNamesTheList) {
 TEST_F(ListSaveDialogTest, OpensFromTheButtonAlike) {
     open_list(matin, {record_of("a")});
     machine.dialogs.expect_save(soir);
-    station.list_window.Label8.click();
+    station.list_window.save_as.click();
     EXPECT_TRUE(machine.disk.exists(soir));
 }
 

@@ -230,7 +230,7 @@ TEST_F(ListUpdateTest, CountsTheTracksAtTheEnd) {
     put_songs({"C:\\a.mp3", "C:\\b.mp3"});
     open_rows({"C:\\a.mp3", "C:\\b.mp3"});
     update();
-    EXPECT_EQ(list().Label1.caption.get(), "Nb de morceaux : 2 (2)");
+    EXPECT_EQ(list().list_status.caption.get(), "Nb de morceaux : 2 (2)");
     EXPECT_EQ(station.list.index_en_cours, 2);
 }
 

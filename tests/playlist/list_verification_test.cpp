@@ -172,7 +172,7 @@ TEST_F(ListVerificationTest, ShowsEachFileWhileItGoesOn) {
     expect_success();
     list().prechar.click();
     EXPECT_THAT(progress(), ElementsAre("fichier Ok : C:\\a.mp3", "fichier Ok : C:\\b.mp3"));
-    EXPECT_EQ(window().ProgressBar1.maximum.get(), 2);
+    EXPECT_EQ(window().bar.maximum.get(), 2);
     EXPECT_FALSE(window().visible);
 }
 

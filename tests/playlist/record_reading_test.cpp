@@ -174,7 +174,7 @@ TEST_F(RecordReadingTest, SaysInTheWarningWhatToDo) {
     put_list({record_of("a", "1", 0)});
     machine.dialogs.expect_window("err_form");
     read_destination(1);
-    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+    EXPECT_EQ(station.warning_window.lines.caption.get(),
               "le niveau son est nul\rvous devez si vous utilisez des listes\r\n\r\n"
               "créés avec une version anterieure de Sonarelle\r"
               "Mettez a jour vos listes (voir menu clic droit)\r"
@@ -183,13 +183,13 @@ TEST_F(RecordReadingTest, SaysInTheWarningWhatToDo) {
 
 TEST_F(RecordReadingTest, HeadsTheWarningAsOneWhateverTheWindowShowedBefore) {
     put_list({record_of("a", "1", 0)});
-    station.warning_window.AnyButton2.click();
+    station.warning_window.info.click();
     std::string told;
     station.desk.on_warning = [&](const std::string& lines) { told = lines; };
     machine.dialogs.expect_window("err_form");
     read_destination(1);
     EXPECT_EQ(station.warning_window.caption.get(), "ATTENTION ERREUR");
-    EXPECT_EQ(told, station.warning_window.Label1.caption.get());
+    EXPECT_EQ(told, station.warning_window.lines.caption.get());
 }
 
 TEST_F(RecordReadingTest, SetsTheSlidersToFullWithTheWarningWhileADeckIsMain) {

@@ -216,7 +216,7 @@ TEST_F(VolumeChange, ChangesRowsWhoseRecordCannotBeReadByTheirCells) {
 TEST_F(VolumeChange, LeavesWhatTheNextStartOnTheAirGoesBy) {
     put_songs({"C:\\Musique\\a.mp3", "C:\\b.mp3"});
     open_two_rows();
-    list().Image1.click();
+    list().play_list.click();
     ASSERT_EQ(station.chain.lecteur_en_cours, 1);
     expect_volume("60");
     list().Modifier_volume.click();

@@ -20,7 +20,7 @@ protected:
         if (!machine.disk.exists(default_path))
             machine.disk.put_file(default_path, bytes_of({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")}));
         desk.list_window.A_liste_anciene.click();
-        desk.list_window.ListView1.select(1);
+        desk.list_window.rows.select(1);
     }
     /// As another program does: the file gets one more record.
     void add_record(std::string_view path, std::string_view song) {
@@ -33,7 +33,7 @@ protected:
         desk.list_window.Modifier_volume.click();
     }
     [[nodiscard]] int volume_in(std::string_view path) { return record_in(machine.disk.bytes(path), 1).volume(); }
-    [[nodiscard]] std::string warning() { return station.warning_window.Label1.caption; }
+    [[nodiscard]] std::string warning() { return station.warning_window.lines.caption; }
 };
 
 } // namespace
@@ -169,9 +169,9 @@ TEST_F(TwoPrograms, AFullDiskDoesNotHoldUpTheAirEither) {
 
 TEST_F(TwoPrograms, TellWhichFileTheChainReads) {
     open_rows({"C:\\a.mp3"});
-    EXPECT_EQ(list().Label25.caption.get(), "Dans fichier " + std::string{matin});
+    EXPECT_EQ(list().file_in_use.caption.get(), "Dans fichier " + std::string{matin});
     change_volume(station, "40");
-    EXPECT_EQ(list().Label25.caption.get(), "Dans fichier liste.dfm (matin.dfm : modifications non enregistrées)");
+    EXPECT_EQ(list().file_in_use.caption.get(), "Dans fichier liste.dfm (matin.dfm : modifications non enregistrées)");
 }
 
 TEST_F(TwoPrograms, TellOfNoUnsavedChangesBehindASave) {
@@ -179,7 +179,7 @@ TEST_F(TwoPrograms, TellOfNoUnsavedChangesBehindASave) {
     change_volume(station, "40");
     machine.dialogs.expect_save("c:\\listes\\soir.dfm");
     list().A_enreg_sous.click();
-    EXPECT_EQ(list().Label25.caption.get(), "Dans fichier c:\\listes\\soir.dfm");
+    EXPECT_EQ(list().file_in_use.caption.get(), "Dans fichier c:\\listes\\soir.dfm");
 }
 
 } // namespace sonarelle

@@ -50,7 +50,7 @@ TEST_F(AirUnderHands, ListCanBeStartedWhereAnOpenHasCutIt) {
     machine.dialogs.expect_box("est à l'antenne", Answer::yes);
     machine.dialogs.expect_cancel();
     controls(1).open.click();
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     EXPECT_EQ(machine.media.on_air(), std::vector{track(1)});
 }
 

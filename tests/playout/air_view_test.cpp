@@ -120,7 +120,7 @@ TEST_F(AirView, DecksChainedByHandBehindAFaultAreNoStoppedList) {
     start_list();
     machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
     machine.run_for(seconds(28));
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     EXPECT_FALSE(is_stopped_by_a_fault(station.desk));
 }
 
@@ -149,8 +149,8 @@ TEST_F(AirView, CountsToTheEndOfPlayOfTheRow) {
     machine.add_track(track(1), 200);
     open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "150.00")});
     rows().select(1);
-    station.list_window.Option2.click();
-    station.list_window.Image1.click();
+    station.list_window.random_mode.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(20));
     EXPECT_EQ(seconds_left(station.desk), 130);
 }
@@ -235,7 +235,7 @@ TEST_F(AirView, NothingIsNamedBeforeADraw) {
 
 TEST_F(AirView, ChainOverDecksNamesTheFileOfTheNextDeck) {
     open_on_all({60, 60, 60});
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(2).play.click();
     machine.run_for(seconds(1));
     EXPECT_EQ(to_come(), "titre 3");

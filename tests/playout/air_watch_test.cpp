@@ -117,7 +117,7 @@ TEST_F(AirWatchTest, SaysNothingOfAStoppedList) {
     open_tracks({30, 30});
     start_list();
     play_for(5);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     play_for(60);
     EXPECT_TRUE(silences().empty());
 }
@@ -197,7 +197,7 @@ TEST_F(AirWatchTest, TellsTheEndOfATrackThoughAnotherDeckWasStopped) {
     machine.add_track(track(2), 60);
     open_on(2, track(2));
     controls(2).stop.click();
-    station.list_window.Option3.click();
+    station.list_window.defined_end_mode.click();
     play_for(30);
     EXPECT_EQ(silences(), Seconds{20 + told_after});
 }
@@ -205,7 +205,7 @@ TEST_F(AirWatchTest, TellsTheEndOfATrackThoughAnotherDeckWasStopped) {
 TEST_F(AirWatchTest, EndsTheAlarmWhenTheOperatorStopsTheList) {
     start_lonely_track(20);
     play_for(30);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     play_for(1);
     EXPECT_EQ(shown(), "");
     EXPECT_EQ(lengths_of_silences().size(), 1U);

@@ -91,7 +91,7 @@ TEST_F(AutoChainTest, RemovesARowWhoseFileIsMissing) {
     machine.run_for(seconds(100));
     EXPECT_EQ(rows().count(), 2);
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
-    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+    EXPECT_EQ(station.warning_window.lines.caption.get(),
               "Recherche de fichier valide \n" + track(2) +
                   "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
@@ -102,7 +102,7 @@ TEST_F(AutoChainTest, NamesAllMissingFilesOfALoadInOneWarning) {
     machine.disk.Kill(track(3));
     start_list();
     machine.run_for(seconds(90));
-    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+    EXPECT_EQ(station.warning_window.lines.caption.get(),
               "Recherche de fichier valide \n" + track(2) + "\n" + track(3) +
                   "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
@@ -112,10 +112,10 @@ TEST_F(AutoChainTest, WarningThatWasReadLeavesTheNextOneAlone) {
     machine.disk.Kill(track(2));
     start_list();
     machine.run_for(seconds(90));
-    station.warning_window.AnyButton1.click();
+    station.warning_window.ok.click();
     machine.disk.Kill(track(4));
     machine.run_for(seconds(95));
-    EXPECT_EQ(station.warning_window.Label1.caption.get(),
+    EXPECT_EQ(station.warning_window.lines.caption.get(),
               "Recherche de fichier valide \n" + track(4) +
                   "\nCe fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }
@@ -159,7 +159,7 @@ TEST_F(AutoChainTest, StopsTheListWhenTheNextDriveIsGone) {
     start_list();
     machine.run_for(seconds(88));
     EXPECT_EQ(times_of(Kind::stopped).size(), 1U);
-    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_TRUE(station.main_window.mix_titles.value());
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
 }
 
@@ -169,8 +169,8 @@ TEST_F(AutoChainTest, StopsTheListWhenTheEndPointIsNoNumber) {
     machine.run_for(seconds(10));
     station.main_window.deck(1).counter.caption = "dix";
     machine.run_for(seconds(1));
-    EXPECT_FALSE(station.main_window.Timer4.enabled());
-    EXPECT_EQ(station.warning_window.Label1.caption.get().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
+    EXPECT_FALSE(station.main_window.list_chain_timer.enabled());
+    EXPECT_EQ(station.warning_window.lines.caption.get().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
 }
 
 TEST_F(AutoChainTest, HoldsTheTickWhileTheChainIsSuspended) {
@@ -185,14 +185,14 @@ TEST_F(AutoChainTest, CountsTheRemainingTimeDown) {
     open_tracks({100, 100});
     start_list();
     machine.run_for(seconds(30));
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:10");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:10");
 }
 
 TEST_F(AutoChainTest, CountsMinutesAndHoursDownAndStopsAtNothing) {
     const auto after = [this](std::string_view text) {
-        station.list_window.Label4.caption = std::string{text};
+        station.list_window.remaining.caption = std::string{text};
         station.auto_chain.load_ahead.compteur();
-        return station.list_window.Label4.caption.get();
+        return station.list_window.remaining.caption.get();
     };
     EXPECT_EQ(after("00:01:00"), "00:00:59");
     EXPECT_EQ(after("01:00:00"), "00:59:59");
@@ -217,7 +217,7 @@ TEST_F(AutoChainTest, SwitchingToTheFullLengthKeepsTheEndPointUntilTheNextLoad) 
     rows().select(1);
     start_list();
     machine.run_for(seconds(10));
-    station.list_window.Option4.click();
+    station.list_window.full_length_mode.click();
     EXPECT_EQ(station.main_window.deck(1).counter.caption.get(), "100");
     machine.run_for(seconds(85));
     EXPECT_EQ(station.main_window.deck(2).counter.caption.get(), "200");

@@ -33,8 +33,8 @@ protected:
 
     /// Chooses the reading mode that plays each row to its end, and starts the list.
     void start_list() {
-        station.list_window.Option3.click();
-        station.list_window.Image1.click();
+        station.list_window.defined_end_mode.click();
+        station.list_window.play_list.click();
     }
 
     /// The seconds at which a kind of event happened, with its deck.

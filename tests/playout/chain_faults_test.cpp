@@ -11,7 +11,7 @@ using Paths = std::vector<std::string>;
 
 class ChainFaultsTest : public ChainBench {
 protected:
-    [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
+    [[nodiscard]] std::string warning() const { return station.warning_window.lines.caption; }
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
     /// Three rows, the second of which lies in a folder that isn't there; the first one plays 100 s.
     void open_list_behind_a_lost_folder() {
@@ -37,9 +37,9 @@ TEST_F(ChainFaultsTest, ListWhoseNextDriveIsGoneIsStoppedAtTheLoad) {
     start_list();
     machine.disk.remove_drive("E");
     play_for(88);
-    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play en attente");
-    EXPECT_TRUE(station.main_window.coche2.value());
-    EXPECT_EQ(station.main_window.Label5.caption.get(), "0");
+    EXPECT_EQ(station.main_window.chain_status.caption.get(), "Play en attente");
+    EXPECT_TRUE(station.main_window.mix_titles.value());
+    EXPECT_EQ(station.main_window.elapsed.caption.get(), "0");
     EXPECT_EQ(rows().count(), 3);
     EXPECT_NE(journal_text().find(" Erreur au chargement de fichier...liste stopp\xE9"
                                   "e\r\n"),
@@ -84,7 +84,7 @@ TEST_F(ChainFaultsTest, RecordsVolumeIsAppliedToWhatIsStartedByHandBehindTheStop
 TEST_F(ChainFaultsTest, MixingTheTitlesBehindTheStopChainsTheDecks) {
     open_list_behind_a_lost_folder();
     play_for(88);
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     machine.add_track("C:\\a.mp3", 30);
     open_on(2, "C:\\a.mp3");
     play_for(10);
@@ -119,8 +119,8 @@ TEST_F(ChainFaultsTest, ItemTooShortForALoadStepBeforeAnUnplayableFileStopsTheLi
     start_list();
     play_for(3);
     EXPECT_EQ(warning().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
-    EXPECT_FALSE(station.main_window.Timer4.enabled());
-    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_FALSE(station.main_window.list_chain_timer.enabled());
+    EXPECT_TRUE(station.main_window.mix_titles.value());
 }
 
 TEST_F(ChainFaultsTest, ItemTooShortForALoadStepBeforeAMissingFileGoesOn) {
@@ -138,8 +138,8 @@ TEST_F(ChainFaultsTest, FaultOfTheFadeLeavesTheListRunning) {
     play_for(95);
     station.chain.position_zap = 32767;
     play_for(1);
-    EXPECT_FALSE(station.main_window.Timer3.enabled());
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_FALSE(station.main_window.overlap_timer.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
     EXPECT_EQ(warning().substr(warning().find('\n')), "\n6");
     play_for(100);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3}));
@@ -334,7 +334,7 @@ TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {
     open_tracks({100, 100});
     machine.disk.Kill(track(1));
     start_list();
-    EXPECT_EQ(station.list_window.Label1.caption.get(), "Non trouvé");
+    EXPECT_EQ(station.list_window.list_status.caption.get(), "Non trouvé");
     EXPECT_EQ(warning(), "Recherche de fichier\nDemarrage liste\n" + track(1) +
                              "\n / format / lecture impossible  \nabandon lecture liste");
 }
@@ -342,12 +342,12 @@ TEST_F(ChainFaultsTest, StartOfAListWhoseFileIsMissingSaysSo) {
 TEST_F(ChainFaultsTest, ListThatStartsAgainInTheFullLengthIsChainedAgain) {
     open_tracks({3, 100, 100, 100});
     machine.media.set_unplayable(track(2));
-    station.list_window.Option4.click();
-    station.list_window.Image1.click();
+    station.list_window.full_length_mode.click();
+    station.list_window.play_list.click();
     play_for(5);
-    ASSERT_FALSE(station.main_window.Timer4.enabled());
+    ASSERT_FALSE(station.main_window.list_chain_timer.enabled());
     rows().select(3);
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     play_for(95);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3, 4}));
 }
@@ -355,10 +355,10 @@ TEST_F(ChainFaultsTest, ListThatStartsAgainInTheFullLengthIsChainedAgain) {
 TEST_F(ChainFaultsTest, ListThatTheMenuStartsAgainInTheFullLengthIsChainedAgain) {
     open_tracks({3, 100, 100, 100});
     machine.media.set_unplayable(track(2));
-    station.list_window.Option4.click();
-    station.list_window.Image1.click();
+    station.list_window.full_length_mode.click();
+    station.list_window.play_list.click();
     play_for(5);
-    ASSERT_FALSE(station.main_window.Timer4.enabled());
+    ASSERT_FALSE(station.main_window.list_chain_timer.enabled());
     station.list.chemin_fichier = track(3);
     station.list.index_en_cours = 3;
     station.deck_loading.load_from_list(station.desk.deck(1));

@@ -52,10 +52,10 @@ TEST_F(ChainModesTest, ManualPutsTheChainOff) {
     window.a_mode_manuel.click();
     EXPECT_EQ(modes(), (std::vector<bool>{true, false, false}));
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_FALSE(window.Timer2.enabled());
-    EXPECT_FALSE(window.Timer4.enabled());
-    EXPECT_TRUE(window.coche2.value());
-    EXPECT_EQ(window.coche2.caption.get(), "Mix Manuel");
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
+    EXPECT_FALSE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(window.mix_titles.value());
+    EXPECT_EQ(window.mix_titles.caption.get(), "Mix Manuel");
     EXPECT_EQ(station.chain.lecteur_en_cours, 0);
 }
 
@@ -65,10 +65,10 @@ TEST_F(ChainModesTest, ManualLeavesTheTickAndTheRowOfTheListAlone) {
     station.journal.on_line = [&lines](const std::string& line) { lines.push_back(line); };
     open_on_all({100, 100, 100});
     window.a_mode_predefini.click();
-    window.Timer1.disable();
+    window.load_ahead_timer.disable();
     station.list.index_en_cours = 5;
     window.a_mode_manuel.click();
-    EXPECT_FALSE(window.Timer1.enabled());
+    EXPECT_FALSE(window.load_ahead_timer.enabled());
     EXPECT_EQ(station.list.index_en_cours, 5);
     EXPECT_TRUE(lines.empty());
 }
@@ -94,9 +94,9 @@ TEST_F(ChainModesTest, ManualTicksDoNothing) {
     station.chain.chemin_lecture2 = track(2);
     station.chain.chemin_lecture3 = track(2);
     window.a_mode_manuel.click();
-    const std::string remaining = list.Label4.caption;
+    const std::string remaining = list.remaining.caption;
     machine.run_for(seconds(200));
-    EXPECT_EQ(list.Label4.caption.get(), remaining);
+    EXPECT_EQ(list.remaining.caption.get(), remaining);
     EXPECT_EQ(times_of(OnAirEvent::Kind::started).size(), 1U);
 }
 
@@ -108,7 +108,7 @@ TEST_F(ChainModesTest, ManualDecksPlayTogetherAndNoneFollows) {
     machine.run_for(seconds(10));
     EXPECT_EQ(machine.media.on_air(), (Paths{track(1), track(2)}));
     EXPECT_EQ(controls(1).progress.value, 10);
-    EXPECT_EQ(window.Label7.caption.get(), "Mode manuel");
+    EXPECT_EQ(window.chain_status.caption.get(), "Mode manuel");
     machine.run_for(seconds(100));
     EXPECT_TRUE(machine.media.on_air().empty());
     EXPECT_TRUE(window.a_mode_manuel.checked);
@@ -126,11 +126,11 @@ TEST_F(ChainModesTest, AutoIsTheChainOverDecks) {
     window.a_mode_auto.click();
     EXPECT_EQ(modes(), (std::vector<bool>{false, true, false}));
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_TRUE(window.Timer2.enabled());
-    EXPECT_EQ(window.Timer2.interval(), 1000);
-    EXPECT_FALSE(window.Timer4.enabled());
-    EXPECT_TRUE(window.Timer1.enabled());
-    EXPECT_TRUE(list.Option1.value());
+    EXPECT_TRUE(window.deck_chain_timer.enabled());
+    EXPECT_EQ(window.deck_chain_timer.interval(), 1000);
+    EXPECT_FALSE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(window.load_ahead_timer.enabled());
+    EXPECT_TRUE(list.player_mode.value());
     EXPECT_FALSE(list.A_a_zapping.checked);
     EXPECT_FALSE(list.A_precoute.enabled);
 }
@@ -139,7 +139,7 @@ TEST_F(ChainModesTest, AutoAfterManualFreesTheSpecialMixes) {
     open_on_all({30, 40, 50});
     window.a_mode_manuel.click();
     window.a_mode_auto.click();
-    EXPECT_EQ(window.coche2.caption.get(), "Mixer les titres");
+    EXPECT_EQ(window.mix_titles.caption.get(), "Mixer les titres");
     for (const DeckControls& deck : window.decks)
         EXPECT_TRUE(deck.special_mix.enabled);
 }
@@ -148,55 +148,55 @@ TEST_F(ChainModesTest, PredefinedIsTheChainFromTheList) {
     window.a_mode_predefini.click();
     EXPECT_EQ(modes(), (std::vector<bool>{false, false, true}));
     EXPECT_TRUE(is_list_mode());
-    EXPECT_FALSE(window.Timer2.enabled());
-    EXPECT_TRUE(window.Timer4.enabled());
-    EXPECT_TRUE(window.Timer1.enabled());
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
+    EXPECT_TRUE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(window.load_ahead_timer.enabled());
     EXPECT_TRUE(window.Active_audio.checked);
     EXPECT_TRUE(window.Active_audio.enabled);
     EXPECT_TRUE(list.A_a_zapping.checked);
     EXPECT_TRUE(list.A_precoute.enabled);
-    EXPECT_EQ(window.Text1.text(), "6");
-    EXPECT_EQ(list.Label3.caption.get(), "( - - )");
+    EXPECT_EQ(window.overlap.text(), "6");
+    EXPECT_EQ(list.progress.caption.get(), "( - - )");
 }
 
 TEST_F(ChainModesTest, FirstOptionReadsTheWholeFileOverDecks) {
     start_list_that_ends_at_a_hundred();
     EXPECT_EQ(controls(1).counter.caption.get(), "100");
-    list.Option1.click();
+    list.player_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "200");
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_TRUE(window.Timer2.enabled());
-    EXPECT_FALSE(window.Timer4.enabled());
+    EXPECT_TRUE(window.deck_chain_timer.enabled());
+    EXPECT_FALSE(window.list_chain_timer.enabled());
     EXPECT_EQ(fade_rules(), (std::vector<bool>{false, false, true, false}));
-    EXPECT_EQ(list.Label14.caption.get(), "Jingle Off");
+    EXPECT_EQ(list.jingles_status.caption.get(), "Jingle Off");
 }
 
 TEST_F(ChainModesTest, FirstOptionPutsBothInsertionsOff) {
     station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
-    list.Option1.click();
-    EXPECT_EQ(list.Label15.caption.get(), "Liste Off");
+    list.player_mode.click();
+    EXPECT_EQ(list.items_status.caption.get(), "Liste Off");
     EXPECT_TRUE(station.list.bouton_jingle_actif.is_false());
     EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
 }
 
 TEST_F(ChainModesTest, ThirdOptionPutsTheInsertionOfListItemsOffAlone) {
     station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
-    list.Option3.click();
-    EXPECT_EQ(list.Label15.caption.get(), "liste Off");
+    list.defined_end_mode.click();
+    EXPECT_EQ(list.items_status.caption.get(), "liste Off");
     EXPECT_TRUE(station.list.bouton_jingle_actif.is_true());
     EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
 }
 
 TEST_F(ChainModesTest, SecondOptionReadsAtRandom) {
-    list.Option2.click();
+    list.random_mode.click();
     EXPECT_TRUE(station.chain.ordre_aleatoire.is_true());
     EXPECT_TRUE(is_list_mode());
-    EXPECT_TRUE(window.Timer4.enabled());
-    EXPECT_FALSE(window.Timer2.enabled());
+    EXPECT_TRUE(window.list_chain_timer.enabled());
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
 }
 
 TEST_F(ChainModesTest, ThirdAndFourthOptionOfferThePreListenAgain) {
-    for (OptionButton* option : {&list.Option3, &list.Option4}) {
+    for (OptionButton* option : {&list.defined_end_mode, &list.full_length_mode}) {
         window.a_mode_auto.click();
         ASSERT_FALSE(list.A_precoute.enabled);
         option->click();
@@ -206,8 +206,8 @@ TEST_F(ChainModesTest, ThirdAndFourthOptionOfferThePreListenAgain) {
 
 TEST_F(ChainModesTest, ThirdOptionReadsToTheRecordsEnd) {
     start_list_that_ends_at_a_hundred();
-    list.Option1.click();
-    list.Option3.click();
+    list.player_mode.click();
+    list.defined_end_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "100");
     EXPECT_TRUE(station.chain.ordre_aleatoire.is_false());
     EXPECT_TRUE(is_list_mode());
@@ -216,7 +216,7 @@ TEST_F(ChainModesTest, ThirdOptionReadsToTheRecordsEnd) {
 
 TEST_F(ChainModesTest, FourthOptionReadsTheWholeFileFromTheNextLoadOn) {
     start_list_that_ends_at_a_hundred();
-    list.Option4.click();
+    list.full_length_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "100");
     machine.run_for(seconds(95));
     EXPECT_EQ(controls(2).counter.caption.get(), "200");
@@ -226,33 +226,33 @@ TEST_F(ChainModesTest, FourthOptionReadsTheWholeFileFromTheNextLoadOn) {
 
 TEST_F(ChainModesTest, PreListenOfTheThirdOptionCutsTheDeckThatPlays) {
     start_list_that_ends_at_a_hundred();
-    list.Option1.click();
+    list.player_mode.click();
     station.chain.preecoute_active = true;
     station.chain.duree_preecoute = 20;
-    list.Option3.click();
+    list.defined_end_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "20");
 }
 
 TEST_F(ChainModesTest, OptionsOfTheListAreItsPicturesToo) {
-    list.Image12.click();
-    EXPECT_TRUE(list.Option4.value());
-    list.Image11.click();
-    EXPECT_TRUE(list.Option3.value());
-    list.Image9.click();
-    EXPECT_TRUE(list.Option2.value());
-    list.Image17.click();
-    EXPECT_TRUE(list.Option1.value());
+    list.full_length_lamp.click();
+    EXPECT_TRUE(list.full_length_mode.value());
+    list.defined_end_lamp.click();
+    EXPECT_TRUE(list.defined_end_mode.value());
+    list.random_lamp.click();
+    EXPECT_TRUE(list.random_mode.value());
+    list.player_lamp.click();
+    EXPECT_TRUE(list.player_mode.value());
 }
 
 TEST_F(ChainModesTest, ListMenuTogglesToTheListChain) {
     list.A_a_zapping.click();
     EXPECT_TRUE(is_list_mode());
     EXPECT_EQ(station.settings.mix_courant, 1);
-    EXPECT_EQ(window.Text1.text(), "1");
-    EXPECT_TRUE(window.Timer4.enabled());
-    EXPECT_TRUE(window.Timer1.enabled());
-    EXPECT_FALSE(window.Timer2.enabled());
-    EXPECT_TRUE(list.Option3.value());
+    EXPECT_EQ(window.overlap.text(), "1");
+    EXPECT_TRUE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(window.load_ahead_timer.enabled());
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
+    EXPECT_TRUE(list.defined_end_mode.value());
     EXPECT_EQ(modes(), (std::vector<bool>{false, false, true}));
     EXPECT_EQ(fade_rules(), (std::vector<bool>{false, true, false, false}));
 }
@@ -261,16 +261,16 @@ TEST_F(ChainModesTest, ListMenuTogglesBackToTheChainOverDecks) {
     list.A_a_zapping.click();
     list.A_a_zapping.click();
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_TRUE(window.Timer2.enabled());
-    EXPECT_EQ(window.Timer2.interval(), 1000);
-    EXPECT_FALSE(window.Timer4.enabled());
-    EXPECT_TRUE(list.Option1.value());
+    EXPECT_TRUE(window.deck_chain_timer.enabled());
+    EXPECT_EQ(window.deck_chain_timer.interval(), 1000);
+    EXPECT_FALSE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(list.player_mode.value());
     EXPECT_EQ(modes(), (std::vector<bool>{false, true, false}));
 }
 
 TEST_F(ChainModesTest, MixingTitlesPutsTheRowBackToTheFirst) {
     station.list.index_en_cours = 7;
-    window.coche2.click();
+    window.mix_titles.click();
     EXPECT_EQ(station.list.index_en_cours, 1);
     EXPECT_EQ(list.caption.get(), "Sonarelle ( Mix lecteur )");
     EXPECT_FALSE(window.Active_audio.enabled);
@@ -278,50 +278,50 @@ TEST_F(ChainModesTest, MixingTitlesPutsTheRowBackToTheFirst) {
 }
 
 TEST_F(ChainModesTest, MixingAListReadsTheOverlapFromItsField) {
-    window.Text1.set_text("4");
+    window.overlap.set_text("4");
     station.chain.chaine_suspendue = true;
-    window.coche3.click();
+    window.mix_list.click();
     EXPECT_EQ(station.settings.mix_courant, 4);
     EXPECT_EQ(list.caption.get(), "Sonarelle ( Mix liste )");
     EXPECT_TRUE(station.chain.chaine_suspendue.is_false());
-    EXPECT_EQ(window.coche4.value(), 1);
+    EXPECT_EQ(window.load_ahead.value(), 1);
     EXPECT_EQ(modes(), (std::vector<bool>{false, false, true}));
 }
 
 TEST_F(ChainModesTest, MixingAListWithAnEmptyFieldTakesTwoSeconds) {
-    window.Text1.set_text("");
-    window.coche3.click();
+    window.overlap.set_text("");
+    window.mix_list.click();
     EXPECT_EQ(station.settings.mix_courant, 2);
-    EXPECT_EQ(window.Text1.text(), "2");
+    EXPECT_EQ(window.overlap.text(), "2");
 }
 
 TEST_F(ChainModesTest, MixingAListWithAFieldThatIsNoNumberSaysSo) {
-    window.Text1.set_text("six");
+    window.overlap.set_text("six");
     machine.dialogs.expect_box("Une erreur est apparue !", Answer::ok);
-    window.coche3.click();
+    window.mix_list.click();
     EXPECT_NE(machine.dialogs.last().text.find(" - 13"), std::string::npos);
 }
 
 TEST_F(ChainModesTest, LampOfTheDecksLeavesTheFadeTimerOn) {
-    window.Image12.click();
+    window.deck_chain_lamp.click();
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_TRUE(window.Timer3.enabled());
-    EXPECT_FALSE(window.Timer4.enabled());
-    EXPECT_EQ(list.Image17.picture.get(), "bouton_on.jpg");
-    EXPECT_EQ(list.Image12.picture.get(), "bouton_off.jpg");
+    EXPECT_TRUE(window.overlap_timer.enabled());
+    EXPECT_FALSE(window.list_chain_timer.enabled());
+    EXPECT_EQ(list.player_lamp.picture.get(), "bouton_on.jpg");
+    EXPECT_EQ(list.full_length_lamp.picture.get(), "bouton_off.jpg");
     EXPECT_FALSE(list.A_precoute.enabled);
 }
 
 TEST_F(ChainModesTest, LampOfTheListChoosesTheFullLength) {
-    window.Image13.click();
+    window.list_chain_lamp.click();
     EXPECT_TRUE(is_list_mode());
-    EXPECT_TRUE(list.Option4.value());
-    EXPECT_TRUE(window.coche3.value());
-    EXPECT_TRUE(window.Timer4.enabled());
-    EXPECT_TRUE(window.Timer1.enabled());
-    EXPECT_FALSE(window.Timer2.enabled());
-    EXPECT_EQ(window.Image13.picture.get(), "bouton_noir_petitdoux.jpg");
-    EXPECT_EQ(list.Image12.picture.get(), "bouton_on.jpg");
+    EXPECT_TRUE(list.full_length_mode.value());
+    EXPECT_TRUE(window.mix_list.value());
+    EXPECT_TRUE(window.list_chain_timer.enabled());
+    EXPECT_TRUE(window.load_ahead_timer.enabled());
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
+    EXPECT_EQ(window.list_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_EQ(list.full_length_lamp.picture.get(), "bouton_on.jpg");
     EXPECT_TRUE(list.A_a_zapping.checked);
 }
 
@@ -330,7 +330,7 @@ TEST_F(ChainModesTest, SwitchingTheFadeOffCutsTheOutgoingDeckAtOnce) {
     start_list();
     window.Désactive_audio.click();
     EXPECT_TRUE(is_deck_mode());
-    EXPECT_FALSE(window.Timer2.enabled());
+    EXPECT_FALSE(window.deck_chain_timer.enabled());
     station.chain.mode_enchainement = true;
     machine.run_for(seconds(95));
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});

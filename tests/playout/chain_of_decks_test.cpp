@@ -12,7 +12,7 @@ class ChainOfDecksTest : public ChainBench {
 protected:
     void start_decks(const std::vector<double>& lengths) {
         open_on_all(lengths);
-        station.main_window.coche2.click();
+        station.main_window.mix_titles.click();
         controls(1).play.click();
     }
 };
@@ -57,11 +57,11 @@ TEST_F(ChainOfDecksTest, FollowsAShortItemOneSecondBeforeItsEnd) {
 TEST_F(ChainOfDecksTest, ShowsWhatItWaitsFor) {
     start_decks({100, 100, 100});
     machine.run_for(seconds(5));
-    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play 1 : player mix a 94");
-    EXPECT_EQ(station.main_window.Label10.caption.get(), " Mix lecteur : Play 1");
-    EXPECT_EQ(station.list_window.Label16.caption.get(), "Play 1 Mix lecteur");
-    EXPECT_EQ(station.main_window.Label5.caption.get(), "5");
-    EXPECT_EQ(station.small_player.label1.caption.get(), "95");
+    EXPECT_EQ(station.main_window.chain_status.caption.get(), "Play 1 : player mix a 94");
+    EXPECT_EQ(station.main_window.running_chain.caption.get(), " Mix lecteur : Play 1");
+    EXPECT_EQ(station.list_window.running_deck.caption.get(), "Play 1 Mix lecteur");
+    EXPECT_EQ(station.main_window.elapsed.caption.get(), "5");
+    EXPECT_EQ(station.small_player.remaining.caption.get(), "95");
 }
 
 TEST_F(ChainOfDecksTest, FreesTheOpenButtonsOfTheOtherDecks) {
@@ -98,7 +98,7 @@ TEST_F(ChainOfDecksTest, OverlapOfNothingOnAllDecksHoldsNothingUp) {
     start_decks({1, 1, 1});
     machine.run_for(seconds(30));
     EXPECT_EQ(machine.time.now(), seconds(30));
-    EXPECT_TRUE(station.main_window.Timer2.enabled());
+    EXPECT_TRUE(station.main_window.deck_chain_timer.enabled());
 }
 
 TEST_F(ChainOfDecksTest, OverlapOfNothingBeforeEmptyDecksHoldsNothingUp) {
@@ -120,8 +120,8 @@ TEST_F(ChainOfDecksTest, UnplayableNextDeckStopsItAloud) {
     machine.run_for(seconds(50));
     machine.disk.Kill(track(2));
     machine.run_for(seconds(45));
-    EXPECT_FALSE(station.main_window.Timer2.enabled());
-    EXPECT_EQ(station.warning_window.Label1.caption.get().substr(0, 24), "ATTENTION ERREUR ! T2\nFI");
+    EXPECT_FALSE(station.main_window.deck_chain_timer.enabled());
+    EXPECT_EQ(station.warning_window.lines.caption.get().substr(0, 24), "ATTENTION ERREUR ! T2\nFI");
 }
 
 TEST_F(ChainOfDecksTest, SuspendedChainWaits) {
@@ -134,7 +134,7 @@ TEST_F(ChainOfDecksTest, SuspendedChainWaits) {
 TEST_F(ChainOfDecksTest, ZapsAtAnyMoment) {
     start_decks({100, 100, 100});
     machine.run_for(seconds(3));
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {3, 2}}));
     EXPECT_EQ(controls(1).title.caption.get(), " - En attente");
 }
@@ -155,14 +155,14 @@ TEST_F(ChainOfDecksTest, ZapToAMissingFileSaysSo) {
     start_decks({100, 100, 100});
     machine.disk.Kill(track(2));
     machine.dialogs.expect_box("Fichier non trouvé /abandon", Answer::ok);
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
 }
 
 TEST_F(ChainOfDecksTest, ZapToAnEmptyDeckDoesNothing) {
     start_decks({100});
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
 }
 
@@ -176,9 +176,9 @@ TEST_F(ChainOfDecksTest, DeckThatHasMovedDoesNotStartAgain) {
 
 TEST_F(ChainOfDecksTest, PlayWithoutAListChoosesIt) {
     open_on_all({100, 100, 100});
-    station.list_window.Option3.click();
+    station.list_window.defined_end_mode.click();
     controls(1).play.click();
-    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_TRUE(station.main_window.mix_titles.value());
     EXPECT_TRUE(station.chain.mode_enchainement.is_false());
     machine.run_for(seconds(95));
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));

@@ -68,12 +68,12 @@ TEST_F(DeckLoadingTest, OpenButtonRemembersTheFolder) {
 
 TEST_F(DeckLoadingTest, OpenButtonGoesBackToManualMixing) {
     machine.add_track(song, 83);
-    station.main_window.coche4.set_value(1);
+    station.main_window.load_ahead.set_value(1);
     open_on(1, song);
-    EXPECT_FALSE(station.main_window.Timer1.enabled());
-    EXPECT_EQ(station.main_window.coche4.value(), 0);
-    EXPECT_EQ(station.main_window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
-    EXPECT_EQ(station.main_window.Image13.picture.get(), "");
+    EXPECT_FALSE(station.main_window.load_ahead_timer.enabled());
+    EXPECT_EQ(station.main_window.load_ahead.value(), 0);
+    EXPECT_EQ(station.main_window.deck_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_EQ(station.main_window.list_chain_lamp.picture.get(), "");
 }
 
 TEST_F(DeckLoadingTest, OpenButtonOnAPlayingDeckCutsItEvenWhenTheDialogIsCancelled) {
@@ -231,7 +231,7 @@ TEST_F(DeckLoadingTest, RecordIsFoundIgnoringCase) {
 }
 
 TEST_F(DeckLoadingTest, RecordOfTheNetworkIsTakenAsItStands) {
-    station.main_window.Text2.set_text("\\\\serveur\\partage\\a.mp3");
+    station.main_window.path_under_check.set_text("\\\\serveur\\partage\\a.mp3");
     load_record("C:\\n'importe quoi.mp3", "réseau");
     EXPECT_EQ(station.chain.chemin_lecture, "\\\\serveur\\partage\\a.mp3");
     EXPECT_TRUE(machine.dialogs.asked().empty());
@@ -255,12 +255,12 @@ TEST_F(DeckLoadingTest, ListLoadShowsTheRecordsEnd) {
     station.deck_loading.load_from_list(station.desk.deck(2));
     EXPECT_EQ(controls(2).counter.caption.get(), "80.00");
     EXPECT_EQ(station.desk.deck(2).duree_piste, "100");
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
 }
 
 TEST_F(DeckLoadingTest, ListLoadOfTheFullLengthShowsTheFilesEnd) {
     machine.add_track(song, 100);
-    station.list_window.Option4.click();
+    station.list_window.full_length_mode.click();
     station.list.chemin_fichier = song;
     station.destination.dest_fin = "80.00";
     station.deck_loading.load_from_list(station.desk.deck(2));
@@ -291,9 +291,9 @@ TEST_F(DeckLoadingTest, ListLoadShortensTheNameOfTheListWindow) {
     machine.add_track("C:\\abcdefghijklmnopqrst.mp3", 60);
     station.list.chemin_fichier = "C:\\abcdefghijklmnopqrst.mp3";
     station.deck_loading.load_from_list(station.desk.deck(1));
-    EXPECT_EQ(station.list_window.Label2.caption.get(), "abcdefghijklmnop ...");
+    EXPECT_EQ(station.list_window.track_name.caption.get(), "abcdefghijklmnop ...");
     EXPECT_EQ(station.small_player.caption.get(), "abcdefghijklmnopqrst");
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:00");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:00");
 }
 
 TEST_F(DeckLoadingTest, ListLoadOfAnUnplayableFileOnlySaysSo) {

@@ -42,7 +42,7 @@ TEST_F(DeckOpening, OnADeckThatSoundsChangesNothingAfterANo) {
     machine.dialogs.expect_box("est à l'antenne", Answer::no);
     controls(1).open.click();
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
-    EXPECT_TRUE(station.main_window.Timer1.enabled());
+    EXPECT_TRUE(station.main_window.load_ahead_timer.enabled());
     machine.run_for(seconds(95));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
@@ -197,7 +197,7 @@ TEST_F(DeckOpening, IsNamedByItsOwnDeckWhileTheListRuns) {
     controls(3).play.click();
     EXPECT_EQ(controls(3).title.caption.get(), "Chanson - ");
     EXPECT_NE(station.main_window.caption.get().find("Chanson"), std::string::npos);
-    EXPECT_EQ(station.list_window.Label2.caption.get(), "Chanson");
+    EXPECT_EQ(station.list_window.track_name.caption.get(), "Chanson");
 }
 
 TEST_F(DeckOpening, HasItsOwnLengthInTheChainOverDecks) {
@@ -206,7 +206,7 @@ TEST_F(DeckOpening, HasItsOwnLengthInTheChainOverDecks) {
     controls(1).stop.click();
     open_on(1, song);
     controls(1).play.click();
-    station.list_window.Option1.click();
+    station.list_window.player_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "400");
 }
 
@@ -283,7 +283,7 @@ TEST_F(DeckOpening, ShowsTheRecordOfARowThatIsLoadedByHand) {
     rows().select(3);
     station.list_window.char3.click();
     EXPECT_EQ(controls(3).title.caption.get(), "00:01:40 ( titre 3 )");
-    EXPECT_EQ(station.main_window.Text2.text(), track(3));
+    EXPECT_EQ(station.main_window.path_under_check.text(), track(3));
 }
 
 } // namespace sonarelle

@@ -61,7 +61,7 @@ TEST_F(DeckStartTest, EachTrackKeepsTheVolumeThatAPauseGivesBack) {
 
 TEST_F(DeckStartTest, WaitingDeckStartsAsLoudAsItsSliderShows) {
     open_on_all({100, 100, 100});
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(1).play.click();
     controls(2).slider.set_value(10);
     machine.run_for(seconds(95));
@@ -200,13 +200,13 @@ TEST_F(DeckStartTest, NamesTheTrackOnTheSmallPlayerAndTheListWindow) {
     start_list();
     machine.run_for(seconds(94));
     EXPECT_EQ(station.small_player.caption.get(), "titre 2");
-    EXPECT_EQ(station.list_window.Label2.caption.get(), "titre 2");
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+    EXPECT_EQ(station.list_window.track_name.caption.get(), "titre 2");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:40");
 }
 
 TEST_F(DeckStartTest, WithoutAFadeCutsTheTrackBefore) {
     open_on_all({100, 100, 100});
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(1).play.click();
     station.main_window.Désactive_audio.click();
     machine.run_for(seconds(50));

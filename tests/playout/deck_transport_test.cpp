@@ -28,17 +28,17 @@ TEST_F(DeckTransportTest, StopSilencesAndRewinds) {
     EXPECT_EQ(controls(1).title.caption.get(), " - En attente");
     EXPECT_EQ(controls(1).counter.caption.get(), "0");
     EXPECT_EQ(controls(1).progress.value, 0);
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:00:00");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:00:00");
     EXPECT_FALSE(controls(1).playing_mark.visible);
 }
 
 TEST_F(DeckTransportTest, StopInListModeLeavesTheChainWaiting) {
     play_list_for(20);
     controls(1).stop.click();
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
     machine.run_for(seconds(600));
     EXPECT_TRUE(machine.media.on_air().empty());
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
     EXPECT_EQ(times_of(OnAirEvent::Kind::started).size(), 1U);
 }
 
@@ -63,9 +63,9 @@ TEST_F(DeckTransportTest, StopOfTheMainDeckEndsTheSearchForATrack) {
 
 TEST_F(DeckTransportTest, StopSwitchesTheFadeOff) {
     play_list_for(196);
-    EXPECT_TRUE(station.main_window.Timer3.enabled());
+    EXPECT_TRUE(station.main_window.overlap_timer.enabled());
     controls(2).stop.click();
-    EXPECT_FALSE(station.main_window.Timer3.enabled());
+    EXPECT_FALSE(station.main_window.overlap_timer.enabled());
 }
 
 TEST_F(DeckTransportTest, StopOfAnEmptyDeckOnlyFreesItsSpecialMix) {
@@ -89,15 +89,15 @@ TEST_F(DeckTransportTest, StopWorksByHandToo) {
 TEST_F(DeckTransportTest, StopOfAllDecksLeavesNoMainDeck) {
     play_list_for(196);
     EXPECT_EQ(machine.media.on_air().size(), 2U);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     EXPECT_TRUE(machine.media.on_air().empty());
     EXPECT_EQ(station.chain.lecteur_en_cours, 0);
-    EXPECT_EQ(station.list_window.Label3.caption.get(), "Liste");
+    EXPECT_EQ(station.list_window.progress.caption.get(), "Liste");
 }
 
 TEST_F(DeckTransportTest, StopOfAllDecksKeepsTheStationSilent) {
     play_list_for(196);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     machine.run_for(seconds(600));
     EXPECT_TRUE(machine.media.on_air().empty());
 }
@@ -108,7 +108,7 @@ TEST_F(DeckTransportTest, PauseHoldsThePositionAndTheClockTick) {
     machine.run_for(seconds(30));
     EXPECT_EQ(position_of(1), 20.0);
     EXPECT_EQ(controls(1).pause.caption.get(), "=>");
-    EXPECT_FALSE(station.main_window.Timer1.enabled());
+    EXPECT_FALSE(station.main_window.load_ahead_timer.enabled());
     EXPECT_TRUE(station.chain.lecteur_en_cours == 1);
 }
 
@@ -120,7 +120,7 @@ TEST_F(DeckTransportTest, ResumeGoesOnWhereThePauseCame) {
     machine.run_for(seconds(5));
     EXPECT_EQ(position_of(1), 25.0);
     EXPECT_EQ(controls(1).pause.caption.get(), "II");
-    EXPECT_TRUE(station.main_window.Timer1.enabled());
+    EXPECT_TRUE(station.main_window.load_ahead_timer.enabled());
 }
 
 TEST_F(DeckTransportTest, PausedTrackIsFollowedAtItsMixPoint) {
@@ -141,13 +141,13 @@ TEST_F(DeckTransportTest, ResumeOfAnyDeckStartsTheClockTickAgain) {
     station.desk.deck(3).graph().RenderFile("C:\\b.mp3");
     controls(1).pause.click();
     controls(3).pause.click();
-    EXPECT_TRUE(station.main_window.Timer1.enabled());
+    EXPECT_TRUE(station.main_window.load_ahead_timer.enabled());
 }
 
 TEST_F(DeckTransportTest, PausedTrackThatIsZappedLeavesItsDeckUnpaused) {
     play_list_for(40);
     controls(1).pause.click();
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     machine.run_for(seconds(30));
     EXPECT_EQ(controls(1).pause.caption.get(), "II");
     EXPECT_TRUE(station.desk.deck(1).pause_lecteur.is_false());
@@ -156,14 +156,14 @@ TEST_F(DeckTransportTest, PausedTrackThatIsZappedLeavesItsDeckUnpaused) {
 TEST_F(DeckTransportTest, PauseWithoutAFileDoesNothing) {
     controls(3).pause.click();
     EXPECT_EQ(controls(3).pause.caption.get(), "II");
-    EXPECT_TRUE(station.main_window.Timer1.enabled());
+    EXPECT_TRUE(station.main_window.load_ahead_timer.enabled());
 }
 
 TEST_F(DeckTransportTest, ForwardStepsTenSecondsAndShowsTheRest) {
     play_list_for(20);
     controls(1).forward.click();
     EXPECT_EQ(position_of(1), 30.0);
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:02:50");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:02:50");
 }
 
 TEST_F(DeckTransportTest, ForwardToTheVeryEndIsDone) {
@@ -253,26 +253,26 @@ TEST_F(DeckTransportTest, StopOfAPausedDeckEndsItsPausesSign) {
 
 TEST_F(DeckTransportTest, StopInTheChainOverDecksNamesTheDeck) {
     open_on_all({100, 100, 100});
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(2).play.click();
     controls(2).stop.click();
-    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play 2");
+    EXPECT_EQ(station.main_window.chain_status.caption.get(), "Play 2");
 }
 
 TEST_F(DeckTransportTest, StopFreesTheOpenButtonAndTheListsClock) {
     play_list_for(196);
-    station.list_window.Label13.enabled = false;
+    station.list_window.time_of_day.enabled = false;
     controls(2).stop.click();
     EXPECT_TRUE(controls(2).open.enabled);
-    EXPECT_TRUE(station.list_window.Label13.enabled);
+    EXPECT_TRUE(station.list_window.time_of_day.enabled);
 }
 
 TEST_F(DeckTransportTest, StopOfAListPutsItsTimerOnAndUnchecksTheChainsFadeRule) {
     play_list_for(20);
     station.main_window.Active_audio_jingles.click();
-    station.main_window.Timer4.disable();
+    station.main_window.list_chain_timer.disable();
     controls(1).stop.click();
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
     EXPECT_FALSE(station.main_window.Active_audio_jingles.checked);
 }
 

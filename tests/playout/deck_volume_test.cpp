@@ -99,7 +99,7 @@ TEST_F(DeckVolumeTest, RecordOfFullVolumeLeavesTheSliderLower) {
 
 TEST_F(DeckVolumeTest, RecordsVolumeIsNotReadInTheChainOverDecks) {
     open_song();
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     station.destination.dest_volume = -800;
     station.deck_volume.apply_record(station.desk.deck(1));
     EXPECT_EQ(controls(1).slider.value(), 0);
@@ -183,8 +183,8 @@ TEST_F(DeckVolumeTest, KeepVolumeBehindAHardStopStillWritesTheRowThatPlays) {
 
 TEST_F(DeckVolumeTest, KeepVolumeInRandomOrderBehindTheLoadStepWritesTheRowThatPlays) {
     open_tracks({100, 100, 100, 100, 100});
-    station.list_window.Option2.click();
-    station.list_window.Image1.click();
+    station.list_window.random_mode.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(90));
     ASSERT_NE(station.list.index_en_cours, 1);
     controls(1).slider.set_value(5);
@@ -220,7 +220,7 @@ TEST_F(DeckVolumeTest, KeepVolumeOfADeckThatIsNotReadySaysSo) {
 
 TEST_F(DeckVolumeTest, KeepVolumeInTheChainOverDecksDoesNothing) {
     open_on_all({100, 100, 100});
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(1).play.enabled = false;
     controls(1).keep_volume.click();
     EXPECT_EQ(machine.dialogs.asked().size(), 3U);

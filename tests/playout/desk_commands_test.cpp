@@ -139,8 +139,8 @@ TEST_F(Cursors, AreShownInThePlaceOfTheirLabels) {
     window.aa_montrer_curseur.click();
     for (const DeckControls& deck : window.decks)
         EXPECT_TRUE(deck.slider.visible);
-    for (const Label* label : window.slider_stand_ins())
-        EXPECT_FALSE(label->visible);
+    for (const Label& label : window.slider_stand_ins)
+        EXPECT_FALSE(label.visible);
     EXPECT_TRUE(window.aa_montrer_curseur.checked);
     EXPECT_FALSE(window.aa_cacher_curseur.checked);
     EXPECT_EQ(stored("Montrer curseur"), "Oui");
@@ -150,7 +150,7 @@ TEST_F(Cursors, AreHidden) {
     window.aa_montrer_curseur.click();
     window.aa_cacher_curseur.click();
     EXPECT_FALSE(window.deck(3).slider.visible);
-    EXPECT_TRUE(window.Label29.visible);
+    EXPECT_TRUE(window.slider_stand_ins[2].visible);
     EXPECT_EQ(stored("Montrer curseur"), "Non");
 }
 

@@ -213,7 +213,7 @@ TEST_F(Places, OfAMaximisedListStay) {
 
 TEST_F(MenuBar, IsHiddenByAPressOnTheWindow) {
     station.warning_window.show();
-    window.Combo1.set_text("titre");
+    window.favourites.set_text("titre");
     window.click();
     for (const MenuItem* menu : window.menu_bar)
         EXPECT_FALSE(menu->visible);
@@ -221,7 +221,7 @@ TEST_F(MenuBar, IsHiddenByAPressOnTheWindow) {
         EXPECT_TRUE(label->visible);
     EXPECT_FALSE(station.warning_window.visible);
     EXPECT_EQ(window.height.get(), Twips{6885});
-    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
+    EXPECT_EQ(window.favourites.text(), "Favoris Sonarelle");
 }
 
 TEST_F(MenuBar, LeavesTheSizeThatTheOperatorGave) {
@@ -236,7 +236,7 @@ TEST_F(MenuBar, ComesBackWhenItIsCalled) {
     window.click();
     window.call_menus();
     EXPECT_TRUE(window.Fichier.visible);
-    EXPECT_FALSE(window.Label12.visible);
+    EXPECT_FALSE(window.file_label.visible);
 }
 
 TEST_F(MenuBar, ComesBackByADoublePress) {
@@ -251,8 +251,8 @@ TEST_F(MenuBar, ComesBackByADoublePress) {
 
 TEST_F(MenuBar, IsRepresentedByLabelsThatOpenItsMenus) {
     window.click();
-    for (Label* label : {&window.Label12, &window.Label13, &window.Label14, &window.Label15, &window.Label16,
-                         &window.Label17, &window.Label18})
+    for (Label* label : {&window.file_label, &window.play_label, &window.list_label, &window.display_label,
+                         &window.option_label, &window.help_label, &window.about_label})
         label->click();
     EXPECT_THAT(opened, ElementsAre("Fichier", "lire_play", "liste", "affiche", "Option_", "aide", "A_Propos"));
 }
@@ -260,11 +260,11 @@ TEST_F(MenuBar, IsRepresentedByLabelsThatOpenItsMenus) {
 TEST_F(MenuBar, LabelsChangeTheirColourUnderThePointer) {
     station.settings.coul_label = 0x101010;
     window.mouse_move();
-    window.Label15.mouse_move();
-    EXPECT_EQ(window.Label15.fore_colour.get(), 0x101010 + 18000);
-    EXPECT_EQ(window.Label16.fore_colour.get(), 0x101010);
+    window.display_label.mouse_move();
+    EXPECT_EQ(window.display_label.fore_colour.get(), 0x101010 + 18000);
+    EXPECT_EQ(window.option_label.fore_colour.get(), 0x101010);
     window.mouse_move();
-    EXPECT_EQ(window.Label15.fore_colour.get(), 0x101010);
+    EXPECT_EQ(window.display_label.fore_colour.get(), 0x101010);
 }
 
 TEST_F(DisplayMenuTest, OpensAtThePointerByTheRightButtonAndByItsKeys) {
@@ -312,7 +312,7 @@ TEST_F(DisplayMenuTest, F2OpensTheListWindow) {
 
 TEST_F(DisplayMenuTest, TheKeyOfTheListShowsBothWindows) {
     window.key_press(U'l');
-    EXPECT_TRUE(window.coche3.value());
+    EXPECT_TRUE(window.mix_list.value());
     EXPECT_TRUE(list.visible);
     EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
 }
@@ -332,8 +332,8 @@ TEST_F(DisplayMenuTest, OpeningAListShowsBothWindowsAndAsksForIt) {
     window.ouvre_L.click();
     EXPECT_EQ(rows().count(), 1);
     EXPECT_TRUE(list.visible);
-    EXPECT_TRUE(window.coche3.value());
-    EXPECT_EQ(window.Image13.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_TRUE(window.mix_list.value());
+    EXPECT_EQ(window.list_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
     EXPECT_THAT(checked_views(), ElementsAre("affiche_tout"));
 }
 

@@ -54,7 +54,7 @@ TEST_F(FileEndsTest, ListOfTheSameFileOnlyPlaysOut) {
     start_list();
     play_for(200);
     EXPECT_EQ(times_of(Kind::started).size(), 1U);
-    EXPECT_TRUE(station.main_window.Timer4.enabled());
+    EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
 }
 
 TEST_F(FileEndsTest, InsertionOfItemsTakesTheNetOffTheFirstDeck) {

@@ -48,7 +48,7 @@ TEST_F(JournalTest, OfTheListWindowTellsTheOperatorThatItCantBeWritten) {
     station.main_window.Active_journal.click();
     machine.disk.refuse("C:\\Sonarelle\\journal.doc", 70);
     machine.dialogs.expect_box("Erreur écriture journal", Answer::ok);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
 }
 
@@ -96,7 +96,7 @@ TEST_F(JournalTest, HasTheStopOfAList) {
     open_tracks({100, 100});
     start_list();
     machine.run_for(seconds(7));
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     EXPECT_TRUE(has(" Arr\xE9t lecture liste a 05/01/2026 - 06:00:07"));
 }
 
@@ -105,15 +105,15 @@ TEST_F(JournalTest, HasTheZap) {
     open_tracks({100, 100});
     start_list();
     machine.run_for(seconds(40));
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_TRUE(has("05/01/2026 - 06:00:40 ZAPPING sur ----> : " + track(2)));
 }
 
 TEST_F(JournalTest, HasTheReadingModes) {
     station.main_window.Active_journal1.click();
-    station.list_window.Option3.click();
-    station.list_window.Option4.click();
-    station.list_window.Option1.click();
+    station.list_window.defined_end_mode.click();
+    station.list_window.full_length_mode.click();
+    station.list_window.player_mode.click();
     EXPECT_TRUE(has("05/01/2026 - 06:00:00 Liste - Lecture dur\xE9"
                     "e piste"));
     EXPECT_TRUE(has("05/01/2026 - 06:00:00 Lecteur - Lecture continue auto"));

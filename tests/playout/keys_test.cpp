@@ -76,7 +76,7 @@ TEST_F(KeysTest, ZWithoutAMainDeckSaysSo) {
 
 TEST_F(KeysTest, LChoosesTheListChain) {
     press(U"l");
-    EXPECT_TRUE(window.coche3.value());
+    EXPECT_TRUE(window.mix_list.value());
 }
 
 TEST_F(KeysTest, LInManualModeSaysSoAndStaysWithTheDecks) {
@@ -85,8 +85,8 @@ TEST_F(KeysTest, LInManualModeSaysSoAndStaysWithTheDecks) {
     machine.dialogs.expect_box("Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste", Answer::ok);
     press(U"L");
     EXPECT_EQ(machine.dialogs.last().icon, Icon::information);
-    EXPECT_TRUE(window.coche2.value());
-    EXPECT_EQ(window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_TRUE(window.mix_titles.value());
+    EXPECT_EQ(window.deck_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
 }
 
 TEST_F(KeysTest, WithoutAMeaningDoNothing) {
@@ -98,7 +98,7 @@ TEST_F(KeysTest, WithoutAMeaningDoNothing) {
 
 TEST_F(KeysTest, PlayMenuStartsTheDecks) {
     open_on_all({100, 100, 100});
-    window.coche2.click();
+    window.mix_titles.click();
     window.lire_2.click();
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
 }

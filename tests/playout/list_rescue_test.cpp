@@ -56,8 +56,8 @@ TEST_F(ListRescueTest, TakesTheListUpThoughTheTrackThatWasLeftWasPaused) {
 
 TEST_F(ListRescueTest, TakesTheListUpBehindATrackThatWasStartedByHandToo) {
     open_list_with_a_lost_folder();
-    station.list_window.Option4.click();
-    station.list_window.Image1.click();
+    station.list_window.full_length_mode.click();
+    station.list_window.play_list.click();
     play_for(28);
     controls(1).zap.click();
     station.main_window.Désactive_audio.click();
@@ -88,10 +88,10 @@ TEST_F(ListRescueTest, TakesTheListUpBehindAnOverlapThatTheStopFellInto) {
 
 TEST_F(ListRescueTest, OpensNoBoxOverAnOverlapThatIsNoNumber) {
     stop_by_a_lost_folder();
-    station.main_window.Text1.set_text("x");
+    station.main_window.overlap.set_text("x");
     play_for(30);
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {45, 1}}));
-    EXPECT_NE(station.warning_window.Label1.caption.get().find("Une erreur est apparue !"), std::string::npos);
+    EXPECT_NE(station.warning_window.lines.caption.get().find("Une erreur est apparue !"), std::string::npos);
 }
 
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
@@ -110,7 +110,7 @@ TEST_F(ListRescueTest, BeginsWhereTheChainStoodThoughAnotherRowWasTriedInVain) {
     stop_by_a_lost_folder();
     machine.media.set_unplayable(track(3));
     rows().select(3);
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     machine.add_track(lost, 40);
     play_for(30);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
@@ -223,7 +223,7 @@ TEST_F(ListRescueTest, ComesBehindAChainOverDecksThatAFaultStopped) {
     machine.add_track("C:\\b.mp3", 30);
     open_on(1, "C:\\a.mp3");
     open_on(2, "C:\\b.mp3");
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(1).play.click();
     machine.disk.Kill("C:\\b.mp3");
     play_for(60);
@@ -236,7 +236,7 @@ TEST_F(ListRescueTest, GoesOnWithTheListBehindAChainOverDecks) {
     machine.add_track("C:\\b.mp3", 30);
     open_on(1, "C:\\a.mp3");
     open_on(2, "C:\\b.mp3");
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     controls(1).play.click();
     machine.disk.Kill("C:\\b.mp3");
     play_for(100);
@@ -263,7 +263,7 @@ TEST_F(ListRescueTest, LeavesWhatTheOperatorStoppedAlone) {
     open_tracks({40, 40});
     start_list();
     play_for(5);
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     play_for(600);
     EXPECT_EQ(rescue(), nullptr);
 }
@@ -279,7 +279,7 @@ TEST_F(ListRescueTest, LeavesADeckThatTheOperatorStoppedAlone) {
 
 TEST_F(ListRescueTest, LeavesAListAloneThatTheOperatorStopsBehindTheFault) {
     stop_by_a_lost_folder();
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     play_for(600);
     EXPECT_EQ(rescue(), nullptr);
 }

@@ -73,7 +73,7 @@ protected:
 
     // What the operator does then: the row behind the bad one, and the play image.
     void restart() {
-        EXPECT_EQ(station.warning_window.Label1.caption.get().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
+        EXPECT_EQ(station.warning_window.lines.caption.get().substr(0, 24), "ATTENTION ERREUR ! T4\nFI");
         stopped = false;
         int row = station.list.index_en_cours.value();
         for (const int before = starts; starts == before;) {
@@ -142,7 +142,7 @@ TEST_P(LongRun, UnderTheHandsOfAnOperatorIsNeverSilent) {
                                                          [&] { main.forward.click(); },
                                                          [&] { main.back.click(); },
                                                          [&] { station.main_window.key_press(U'b'); },
-                                                         [&] { station.list_window.Option4.click(); }};
+                                                         [&] { station.list_window.full_length_mode.click(); }};
         hands[static_cast<std::size_t>(percent(random)) % hands.size()]();
     };
     each_second = [this, press_something] {

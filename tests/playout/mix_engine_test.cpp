@@ -75,40 +75,40 @@ TEST_F(MixEngineTest, LoadsATrackOfThirtyOneSecondsAtEighteen) {
 }
 
 TEST_F(MixEngineTest, GivesTheLoadLeadBackOnTheNextNormalTrack) {
-    station.main_window.coche4.set_value(1);
-    station.main_window.coche4.set_value(0);
+    station.main_window.load_ahead.set_value(1);
+    station.main_window.load_ahead.set_value(0);
     EXPECT_EQ(station.settings.prechargement, 0);
     EXPECT_EQ(mix_of("100"), (Mix{6, 7}));
 }
 
 TEST_F(MixEngineTest, OverlapFieldStopsAtOne) {
-    station.main_window.Text1.set_text("1");
-    station.main_window.Image14.click();
-    EXPECT_EQ(station.main_window.Text1.text(), "1");
+    station.main_window.overlap.set_text("1");
+    station.main_window.overlap_less.click();
+    EXPECT_EQ(station.main_window.overlap.text(), "1");
     EXPECT_EQ(station.settings.mix_defaut, 1);
 }
 
 TEST_F(MixEngineTest, OverlapThatMeetsTheLoadLeadPushesItAhead) {
-    station.main_window.Text1.set_text("6");
-    station.main_window.Image15.click();
+    station.main_window.overlap.set_text("6");
+    station.main_window.overlap_more.click();
     EXPECT_EQ(station.settings.prechargement, 9);
-    station.main_window.Image14.click();
+    station.main_window.overlap_less.click();
     EXPECT_EQ(station.settings.prechargement, 10);
 }
 
 TEST_F(MixEngineTest, OverlapFieldsCompanionGivesItItsValue) {
-    EXPECT_EQ(station.main_window.UpDown1.value(), 6);
-    station.main_window.UpDown1.set_value(9);
-    EXPECT_EQ(station.main_window.Text1.text(), "9");
+    EXPECT_EQ(station.main_window.overlap_steps.value(), 6);
+    station.main_window.overlap_steps.set_value(9);
+    EXPECT_EQ(station.main_window.overlap.text(), "9");
     EXPECT_EQ(station.settings.mix_courant, 9);
     EXPECT_EQ(station.settings.mix_defaut, 9);
     EXPECT_EQ(machine.settings.GetSetting(settings_application, "Config", "Mix", ""), "9");
-    station.main_window.Image14.click();
-    EXPECT_EQ(station.main_window.UpDown1.value(), 8);
+    station.main_window.overlap_less.click();
+    EXPECT_EQ(station.main_window.overlap_steps.value(), 8);
 }
 
 TEST_F(MixEngineTest, OverlapIsStoredAtOnce) {
-    station.main_window.Image15.click();
+    station.main_window.overlap_more.click();
     EXPECT_EQ(machine.settings.GetSetting(settings_application, "Config", "Mix", ""), "7");
 }
 
@@ -137,7 +137,7 @@ TEST_F(MixEngineTest, SpecialMixLowersTheMainDeckAndBringsItBack) {
 
 TEST_F(MixEngineTest, TellsTheLoadLeadThatHolds) {
     mix_of("3");
-    EXPECT_EQ(station.main_window.coche4.hint.get(), "Préchargement (4 s avant le mix) ");
+    EXPECT_EQ(station.main_window.load_ahead.hint.get(), "Préchargement (4 s avant le mix) ");
 }
 
 } // namespace sonarelle

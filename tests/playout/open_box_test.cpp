@@ -59,9 +59,9 @@ TEST_F(OpenBox, OfAPurgedJournalStopsNothing) {
 
 TEST_F(OpenBox, OfAnInvalidOverlapStopsNothing) {
     play_list_for(10);
-    station.main_window.Text1.set_text("six");
+    station.main_window.overlap.set_text("six");
     machine.dialogs.expect_box(Answer::ok, ten_minutes);
-    station.main_window.Image15.click();
+    station.main_window.overlap_more.click();
     expect_two_mix_points_passed(10);
 }
 

@@ -26,8 +26,8 @@ TEST_F(StationName, IsStoredAndShown) {
     EXPECT_EQ(machine.dialogs.last().preset, "Sonarelle");
     EXPECT_EQ(stored("Nom_antenne_fm"), "Radio Port");
     EXPECT_EQ(window.caption.get(), "Radio Port");
-    EXPECT_EQ(window.Combo1.text(), "Favoris Radio Port");
-    EXPECT_EQ(window.Combo2.text(), "Jingles Radio Port");
+    EXPECT_EQ(window.favourites.text(), "Favoris Radio Port");
+    EXPECT_EQ(window.jingles.text(), "Jingles Radio Port");
     EXPECT_EQ(station.list_window.caption.get(), "Radio Port");
     EXPECT_EQ(window.Quitter_.caption.get(), "Quitter Radio Port (Q)");
 }

@@ -59,27 +59,27 @@ TEST_F(QuickLoadTest, AtAFirstRunBothBoxesAreEmptyAndSayWhatTheyAreFor) {
     refill(3);
     refill(4);
     station.desk_wiring.quick_load.active_text_combo();
-    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
-    EXPECT_THAT(window.Combo2.items.get(), IsEmpty());
-    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
-    EXPECT_EQ(window.Combo2.text(), "Jingles Sonarelle");
+    EXPECT_THAT(window.favourites.items.get(), IsEmpty());
+    EXPECT_THAT(window.jingles.items.get(), IsEmpty());
+    EXPECT_EQ(window.favourites.text(), "Favoris Sonarelle");
+    EXPECT_EQ(window.jingles.text(), "Jingles Sonarelle");
 }
 
 TEST_F(QuickLoadTest, FavouritesAreListedByTheirFilesNames) {
     put_list(favourites, 2);
     choose_favourites(favourites);
-    EXPECT_THAT(window.Combo1.items.get(), ElementsAre("titre 1.mp3", "titre 2.mp3"));
-    EXPECT_EQ(window.Combo1.text(), "Favoris Sonarelle");
+    EXPECT_THAT(window.favourites.items.get(), ElementsAre("titre 1.mp3", "titre 2.mp3"));
+    EXPECT_EQ(window.favourites.text(), "Favoris Sonarelle");
 }
 
 TEST_F(QuickLoadTest, JinglesAreListedWithTheirDurations) {
     put_list(favourites, 1);
     machine.dialogs.expect_open(favourites);
     window.choose_jingles.click();
-    EXPECT_THAT(window.Combo2.items.get(), ElementsAre("00:01:40 - titre 1.mp3"));
+    EXPECT_THAT(window.jingles.items.get(), ElementsAre("00:01:40 - titre 1.mp3"));
     EXPECT_EQ(stored("Load_combo2"), favourites);
     EXPECT_EQ(station.settings.load_combo2, favourites);
-    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_THAT(window.favourites.items.get(), IsEmpty());
 }
 
 TEST_F(QuickLoadTest, TheDialogBeginsInTheProgramsFolder) {
@@ -97,7 +97,7 @@ TEST_F(QuickLoadTest, ACancelledDialogLeavesTheBoxAsItIs) {
     choose_favourites(favourites);
     machine.dialogs.expect_cancel();
     window.choose_favourites.click();
-    EXPECT_EQ(window.Combo1.items.get().size(), 2U);
+    EXPECT_EQ(window.favourites.items.get().size(), 2U);
     EXPECT_EQ(stored("Load_combo1"), favourites);
 }
 
@@ -106,7 +106,7 @@ TEST_F(QuickLoadTest, AnotherListReplacesTheItems) {
     choose_favourites(favourites);
     put_list("C:\\Listes\\autre.dfm", 3);
     choose_favourites("C:\\Listes\\autre.dfm");
-    EXPECT_EQ(window.Combo1.items.get().size(), 3U);
+    EXPECT_EQ(window.favourites.items.get().size(), 3U);
     EXPECT_EQ(stored("Load_combo1"), "C:\\Listes\\autre.dfm");
 }
 
@@ -114,7 +114,7 @@ TEST_F(QuickLoadTest, AListThatCantBeReadLeavesTheOldKey) {
     put_list(favourites, 2);
     choose_favourites(favourites);
     choose_favourites("X:\\perdu.dfm");
-    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_THAT(window.favourites.items.get(), IsEmpty());
     EXPECT_EQ(stored("Load_combo1"), favourites);
     EXPECT_EQ(station.settings.load_combo1, favourites);
 }
@@ -123,7 +123,7 @@ TEST_F(QuickLoadTest, ARememberedListFillsTheBoxAndWritesNothing) {
     put_list(favourites, 2);
     station.settings.load_combo1 = favourites;
     refill(3);
-    EXPECT_EQ(window.Combo1.items.get().size(), 2U);
+    EXPECT_EQ(window.favourites.items.get().size(), 2U);
     EXPECT_EQ(stored("Load_combo1"), "");
 }
 
@@ -132,14 +132,14 @@ TEST_F(QuickLoadTest, ARememberedListIsAddedToWhatTheBoxHolds) {
     station.settings.load_combo1 = favourites;
     refill(3);
     refill(3);
-    EXPECT_EQ(window.Combo1.items.get().size(), 4U);
+    EXPECT_EQ(window.favourites.items.get().size(), 4U);
 }
 
 TEST_F(QuickLoadTest, ARememberedListThatWasDeletedIsMadeAnewAndEmpty) {
     station.settings.load_combo1 = favourites;
     machine.disk.put_folder("C:\\Listes");
     refill(3);
-    EXPECT_THAT(window.Combo1.items.get(), IsEmpty());
+    EXPECT_THAT(window.favourites.items.get(), IsEmpty());
     EXPECT_EQ(machine.disk.Dir(favourites), "favoris.dfm");
     EXPECT_EQ(machine.disk.bytes(favourites), "");
 }
@@ -147,16 +147,16 @@ TEST_F(QuickLoadTest, ARememberedListThatWasDeletedIsMadeAnewAndEmpty) {
 TEST_F(QuickLoadTest, ChoosingAnItemReadsItsRecordAndOpensTheMenuOfTheDecks) {
     put_list(favourites, 3);
     choose_favourites(favourites);
-    window.Combo1.choose(1);
+    window.favourites.choose(1);
     EXPECT_EQ(station.destination.dest_chemin, track(2));
     EXPECT_EQ(station.chain.fichier_courant, favourites);
     EXPECT_THAT(opened, ElementsAre("cha"));
 }
 
 TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
-    window.Combo1.key_press(U' ');
-    window.Combo2.key_press(U' ');
-    window.Combo1.key_press(U'x');
+    window.favourites.key_press(U' ');
+    window.jingles.key_press(U' ');
+    window.favourites.key_press(U'x');
     EXPECT_THAT(opened, ElementsAre("cha", "char_F"));
     EXPECT_EQ(station.destination.dest_chemin, "");
 }
@@ -164,13 +164,13 @@ TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
 TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
     put_list(favourites, 3);
     choose_favourites(favourites);
-    window.Combo1.choose(2);
+    window.favourites.choose(2);
     controls(2).play.enabled = false;
     window.lect2.click();
     EXPECT_EQ(controls(2).title.caption.get(), "00:01:43 ( titre 3 )");
     EXPECT_EQ(controls(2).counter.caption.get(), "103");
     EXPECT_TRUE(controls(2).play.enabled);
-    EXPECT_EQ(window.Text2.text(), track(3));
+    EXPECT_EQ(window.path_under_check.text(), track(3));
 }
 
 TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
@@ -180,9 +180,9 @@ TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
     open_tracks({200, 200});
     start_list();
     machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     window.lect1.click();
-    station.list_window.Option3.click();
+    station.list_window.defined_end_mode.click();
     EXPECT_EQ(controls(1).counter.caption.get(), "60");
 }
 
@@ -190,7 +190,7 @@ TEST_F(QuickLoadTest, ATrackOfABoxBeginsAtItsOwnStartWhateverIsReadMeanwhile) {
     machine.add_track(track(1), 100);
     machine.disk.put_file(favourites, bytes_of(record_of(track(1), "90", 100, 2.0)));
     choose_favourites(favourites);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     window.lect2.click();
     station.destination.dest_debut = 30.0;
     controls(2).play.click();
@@ -202,7 +202,7 @@ TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
     machine.disk.put_file(favourites, bytes_of(record_of(track(1), "")));
     choose_favourites(favourites);
     station.destination.dest_debut = 30.0;
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     EXPECT_EQ(station.destination.dest_debut, 0.0);
 }
 
@@ -210,7 +210,7 @@ TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {
     put_list(favourites, 1);
     machine.dialogs.expect_open(favourites);
     window.choose_jingles.click();
-    window.Combo2.choose(0);
+    window.jingles.choose(0);
     EXPECT_THAT(opened, ElementsAre("char_F"));
     for (MenuItem* entry : window.jingle_loads())
         entry->click();
@@ -224,18 +224,18 @@ TEST_F(QuickLoadTest, LoadingADeckStopsTheListChainSoftly) {
     open_tracks({200, 200});
     start_list();
     machine.run_for(seconds(5));
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     window.lect3.click();
-    EXPECT_TRUE(window.coche2.value());
-    EXPECT_EQ(window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
-    EXPECT_EQ(window.Label10.caption.get(), "Chargement rapide");
+    EXPECT_TRUE(window.mix_titles.value());
+    EXPECT_EQ(window.deck_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_EQ(window.running_chain.caption.get(), "Chargement rapide");
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});
 }
 
 TEST_F(QuickLoadTest, ADeckGetsTheChosenItemThoughTheChainHasReadARowMeanwhile) {
     put_favourite("C:\\Musique\\favori.mp3");
     play_list_for(180);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     machine.run_for(seconds(9)); // over the load step
     window.lect3.click();
     EXPECT_EQ(station.chain.chemin_lecture3, "C:\\Musique\\favori.mp3");
@@ -244,7 +244,7 @@ TEST_F(QuickLoadTest, ADeckGetsTheChosenItemThoughTheChainHasReadARowMeanwhile) 
 TEST_F(QuickLoadTest, OnADeckThatSoundsAsksFirstAndANoChangesNothing) {
     put_favourite("C:\\Musique\\favori.mp3");
     play_list_for(100);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::no);
     window.lect1.click();
     EXPECT_EQ(machine.dialogs.last().default_button, 2);
@@ -255,11 +255,11 @@ TEST_F(QuickLoadTest, OnADeckThatSoundsAsksFirstAndANoChangesNothing) {
 TEST_F(QuickLoadTest, OnADeckThatSoundsIsTakenAfterAYes) {
     put_favourite("C:\\Musique\\favori.mp3");
     play_list_for(100);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
     window.lect1.click();
     EXPECT_EQ(station.chain.chemin_lecture, "C:\\Musique\\favori.mp3");
-    EXPECT_TRUE(window.coche2.value());
+    EXPECT_TRUE(window.mix_titles.value());
 }
 
 TEST_F(QuickLoadTest, JingleOnADeckThatFadesAsksFirst) {
@@ -267,7 +267,7 @@ TEST_F(QuickLoadTest, JingleOnADeckThatFadesAsksFirst) {
     machine.dialogs.expect_open(favourites);
     window.choose_jingles.click();
     play_list_for(197);
-    window.Combo2.choose(0);
+    window.jingles.choose(0);
     machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::no);
     window.lect1_F.click();
     EXPECT_EQ(machine.media.on_air(), (std::vector<std::string>{track(1), track(2)}));
@@ -276,16 +276,16 @@ TEST_F(QuickLoadTest, JingleOnADeckThatFadesAsksFirst) {
 TEST_F(QuickLoadTest, TheSpaceKeysMenuLoadsWhatWasChosenBefore) {
     put_favourite("C:\\Musique\\favori.mp3");
     play_list_for(180);
-    window.Combo1.choose(0);
+    window.favourites.choose(0);
     machine.run_for(seconds(9));
-    window.Combo1.key_press(U' ');
+    window.favourites.key_press(U' ');
     window.lect3.click();
     EXPECT_EQ(station.chain.chemin_lecture3, "C:\\Musique\\favori.mp3");
 }
 
 TEST_F(QuickLoadTest, TheBoxesTellTheirKey) {
-    EXPECT_EQ(window.Combo1.hint.get(), "Appuyer sur barre d'espacement puis sélection du lecteur");
-    EXPECT_EQ(window.Combo2.hint.get(), window.Combo1.hint.get());
+    EXPECT_EQ(window.favourites.hint.get(), "Appuyer sur barre d'espacement puis sélection du lecteur");
+    EXPECT_EQ(window.jingles.hint.get(), window.favourites.hint.get());
 }
 
 } // namespace sonarelle

@@ -13,8 +13,8 @@ using Kind = OnAirEvent::Kind;
 class RandomChainTest : public ChainBench {
 protected:
     void start_at_random() {
-        station.list_window.Option2.click();
-        station.list_window.Image1.click();
+        station.list_window.random_mode.click();
+        station.list_window.play_list.click();
     }
 
     /// Tracks whose rows end behind their files: no second of theirs is the mix point, each plays out.
@@ -58,7 +58,7 @@ TEST_F(RandomChainTest, ChosenBehindTheLoadOfTheFirstRowIsFollowedByThatRow) {
     rows().select(3);
     start_list();
     machine.run_for(seconds(16));
-    station.list_window.Option2.click();
+    station.list_window.random_mode.click();
     machine.run_for(seconds(4));
     EXPECT_EQ(rows_started(), (std::vector<int>{3, 1}));
 }
@@ -150,7 +150,7 @@ TEST_F(RandomChainTest, DrawsAnewBehindAZapThatRefusedTheDrawnRow) {
     std::string refused;
     for (int zap = 0; zap < 100 && refused.find(track(drawn)) == std::string::npos; ++zap) {
         machine.dialogs.expect_box("lecture impossible", Answer::ok);
-        station.list_window.Image2.click();
+        station.list_window.zap.click();
         refused = machine.dialogs.last().text;
     }
     for (int row = 1; row <= 5; ++row)

@@ -33,7 +33,7 @@ protected:
 TEST_F(RowWalkTest, ForTheLoadEndsOnceTheOperatorMixesTitles) {
     start_list_of_one_row();
     machine.run_for(seconds(88));
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     open_by_hand_on(2);
     add_row();
     machine.run_for(seconds(1));
@@ -53,7 +53,7 @@ TEST_F(RowWalkTest, ForTheLoadEndsOnceAnotherDeckIsTheMainOne) {
 TEST_F(RowWalkTest, ForTheMixEndsOnceTheOperatorMixesTitles) {
     start_list_of_one_row();
     machine.run_for(seconds(110));
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     add_row();
     machine.run_for(seconds(1));
     EXPECT_TRUE(machine.media.on_air().empty());

@@ -26,10 +26,10 @@ protected:
         machine.run_for(seconds(10));
     }
     [[nodiscard]] bool list_can_be_started() {
-        EXPECT_EQ(station.list_window.Image1.enabled, station.list_window.lect_liste.enabled);
-        return station.list_window.Image1.enabled;
+        EXPECT_EQ(station.list_window.play_list.enabled, station.list_window.lect_liste.enabled);
+        return station.list_window.play_list.enabled;
     }
-    [[nodiscard]] std::string warning() const { return station.warning_window.Label1.caption; }
+    [[nodiscard]] std::string warning() const { return station.warning_window.lines.caption; }
 };
 
 } // namespace
@@ -85,15 +85,15 @@ TEST_F(RunControlTest, ListStartMakesTheFirstDeckTheMainOne) {
     EXPECT_TRUE(controls(1).zap.enabled);
     EXPECT_EQ(controls(1).title.caption.get(), "titre 1 - ");
     EXPECT_EQ(station.main_window.caption.get(), "Sonarelle : " + track(1));
-    EXPECT_EQ(station.main_window.Label7.caption.get(), "- - Sonarelle - -");
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+    EXPECT_EQ(station.main_window.chain_status.caption.get(), "- - Sonarelle - -");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:40");
 }
 
 TEST_F(RunControlTest, ListStartWithoutAFileDoesNothing) {
     open_tracks({100});
     station.run_control.lect_liste();
     EXPECT_EQ(station.chain.lecteur_en_cours, 0);
-    EXPECT_FALSE(station.main_window.coche3.value());
+    EXPECT_FALSE(station.main_window.mix_list.value());
 }
 
 TEST_F(RunControlTest, ListStartBeginsAtTheRecordsStart) {
@@ -109,10 +109,10 @@ TEST_F(RunControlTest, ListStartCountsDownAndLoadsWhereTheRunBeforeWasStoppedBeh
     open_tracks({100, 100, 100});
     start_list();
     machine.run_for(seconds(90));
-    station.list_window.Image3.click();
-    station.list_window.Image1.click();
+    station.list_window.stop_decks.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(30));
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:10");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:10");
     machine.run_for(seconds(58));
     EXPECT_EQ(times_of(OnAirEvent::Kind::loaded).back(), (std::pair<double, int>{177, 2}));
 }
@@ -129,7 +129,7 @@ TEST_F(RunControlTest, ListStartWithoutFadesPutsOnTheChainThatAFaultHasPutOff) {
     ASSERT_EQ(station.chain.air, AirState::failed);
     machine.add_track(lost, 40);
     rows().select(1);
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(45));
     EXPECT_EQ(machine.media.on_air(), Paths{lost});
 }
@@ -160,22 +160,22 @@ TEST_F(RunControlTest, ListWithoutASelectedRowStartsWithItsFirstAndCanBeZapped) 
     open_list("C:\\Sonarelle\\essai.dfm", records);
     start_list();
     machine.run_for(seconds(40));
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
 TEST_F(RunControlTest, ListStartedWithoutAReadingModeGoesOnBehindItsFirstTrack) {
     open_tracks({100, 100, 100});
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(95));
-    EXPECT_TRUE(station.list_window.Option4.value());
+    EXPECT_TRUE(station.list_window.full_length_mode.value());
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
 TEST_F(RunControlTest, ListStartedInTheDecksModePlaysItsRowAlone) {
     open_tracks({100, 100, 100});
-    station.list_window.Option1.click();
-    station.list_window.Image1.click();
+    station.list_window.player_mode.click();
+    station.list_window.play_list.click();
     machine.run_for(seconds(300));
     EXPECT_EQ(rows_started(), std::vector<int>{1});
 }
@@ -186,7 +186,7 @@ TEST_F(RunControlTest, ListStartedOverAFileThatPlaysIsHeardAlone) {
     rows().select(3);
     start_list();
     EXPECT_EQ(machine.media.on_air(), Paths{track(3)});
-    EXPECT_EQ(station.list_window.Label4.caption.get(), "00:01:40");
+    EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:40");
 }
 
 TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedLeavesTheTrackOnTheAir) {
@@ -205,7 +205,7 @@ TEST_F(RunControlTest, RunningListCannotBeStartedAgain) {
     start_list();
     machine.run_for(seconds(20));
     EXPECT_FALSE(list_can_be_started());
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     station.list_window.lect_liste.click();
     EXPECT_EQ(rows_started(), std::vector<int>{1});
     machine.run_for(seconds(90));
@@ -215,7 +215,7 @@ TEST_F(RunControlTest, RunningListCannotBeStartedAgain) {
 TEST_F(RunControlTest, StoppedListCanBeStartedAgain) {
     open_tracks({100, 100});
     start_list();
-    station.list_window.Image3.click();
+    station.list_window.stop_decks.click();
     EXPECT_TRUE(list_can_be_started());
 }
 
@@ -236,7 +236,7 @@ TEST_F(RunControlTest, ListCanBeStartedAgainOnceAFaultHasStoppedIt) {
 TEST_F(RunControlTest, ListCanBeStartedAgainOnceTitlesAreMixed) {
     open_tracks({100, 100});
     start_list();
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     EXPECT_TRUE(list_can_be_started());
 }
 
@@ -252,7 +252,7 @@ TEST_F(RunControlTest, ListStaysDisabledWhereAZapIsRefused) {
 TEST_F(RunControlTest, EmptyListSaysSoAndPlaysNothing) {
     machine.add_track("C:\\main.mp3", 100);
     open_on(1, "C:\\main.mp3");
-    for (const auto& start : {std::function{[this] { station.list_window.Image1.click(); }},
+    for (const auto& start : {std::function{[this] { station.list_window.play_list.click(); }},
                               std::function{[this] { station.list_window.lect_liste.click(); }}}) {
         machine.dialogs.expect_box("La liste est vide", Answer::ok);
         start();
@@ -274,7 +274,7 @@ TEST_F(RunControlTest, QuickLoadBehindAHardStopGoesOverToTheDecks) {
     start_list();
     station.run_control.stoppe_liste("essai");
     station.run_control.stoppe_list();
-    EXPECT_TRUE(station.main_window.Timer2.enabled());
+    EXPECT_TRUE(station.main_window.deck_chain_timer.enabled());
     EXPECT_TRUE(station.chain.mode_enchainement.is_false());
 }
 
@@ -283,7 +283,7 @@ TEST_F(RunControlTest, ListStartOnARowThatCannotBePlayedSaysSo) {
     machine.media.set_unplayable(track(1));
     start_list();
     EXPECT_EQ(warning().substr(0, 37), "Recherche de fichier\nDemarrage liste\n");
-    EXPECT_EQ(station.list_window.Label1.caption.get(), "Non trouvé");
+    EXPECT_EQ(station.list_window.list_status.caption.get(), "Non trouvé");
     EXPECT_TRUE(machine.media.on_air().empty());
 }
 
@@ -309,12 +309,12 @@ TEST_F(RunControlTest, HardStopLeavesTheDeckPlayingAndWaits) {
     machine.run_for(seconds(5));
     station.run_control.stoppe_liste("essai");
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
-    EXPECT_TRUE(station.main_window.coche2.value());
+    EXPECT_TRUE(station.main_window.mix_titles.value());
     EXPECT_TRUE(station.chain.mode_enchainement.is_true());
-    EXPECT_EQ(station.main_window.coche4.value(), 0);
-    EXPECT_EQ(station.main_window.Label5.caption.get(), "0");
-    EXPECT_EQ(station.main_window.Label7.caption.get(), "Play en attente");
-    EXPECT_EQ(station.main_window.Label10.caption.get(), "Chargement rapide");
+    EXPECT_EQ(station.main_window.load_ahead.value(), 0);
+    EXPECT_EQ(station.main_window.elapsed.caption.get(), "0");
+    EXPECT_EQ(station.main_window.chain_status.caption.get(), "Play en attente");
+    EXPECT_EQ(station.main_window.running_chain.caption.get(), "Chargement rapide");
     for (int deck = 1; deck <= 3; ++deck)
         EXPECT_TRUE(controls(deck).open.enabled);
 }
@@ -331,15 +331,15 @@ TEST_F(RunControlTest, HardStopInAListSetsTheRunOffInTheJournalByAnEmptyLine) {
 TEST_F(RunControlTest, HardStopLeavesTheChainOverDecksOff) {
     station.main_window.a_mode_auto.click();
     station.run_control.stoppe_liste("essai");
-    EXPECT_FALSE(station.main_window.Timer2.enabled());
+    EXPECT_FALSE(station.main_window.deck_chain_timer.enabled());
 }
 
 TEST_F(RunControlTest, SoftStopGoesOverToTheDecks) {
     station.main_window.Active_journal.click();
-    station.main_window.coche3.click();
+    station.main_window.mix_list.click();
     station.run_control.stoppe_list();
-    EXPECT_TRUE(station.main_window.coche2.value());
-    EXPECT_EQ(station.main_window.Image12.picture.get(), "bouton_noir_petitdoux.jpg");
+    EXPECT_TRUE(station.main_window.mix_titles.value());
+    EXPECT_EQ(station.main_window.deck_chain_lamp.picture.get(), "bouton_noir_petitdoux.jpg");
     EXPECT_NE(journal_text().find("Liste sopp\xE9"
                                   "e a 06:00:00\r\n"),
               std::string::npos);
@@ -349,11 +349,11 @@ TEST_F(RunControlTest, ButtonsOfTheListWindowTellWhatTheyDo) {
     open_tracks({100, 100});
     start_list();
     machine.run_for(seconds(95));
-    station.list_window.Image4.mouse_move();
-    EXPECT_EQ(station.list_window.Image1.hint.get(), "lecture liste");
-    EXPECT_EQ(station.list_window.Image2.hint.get(), "Zapper rapidement sur le fichier suvant (Z)");
-    EXPECT_EQ(station.list_window.Image3.hint.get(), "Stopper tous les lecteurs");
-    EXPECT_EQ(station.list_window.Image4.hint.get(), "Position en cours N° 2");
+    station.list_window.show_playing_row.mouse_move();
+    EXPECT_EQ(station.list_window.play_list.hint.get(), "lecture liste");
+    EXPECT_EQ(station.list_window.zap.hint.get(), "Zapper rapidement sur le fichier suvant (Z)");
+    EXPECT_EQ(station.list_window.stop_decks.hint.get(), "Stopper tous les lecteurs");
+    EXPECT_EQ(station.list_window.show_playing_row.hint.get(), "Position en cours N° 2");
 }
 
 TEST_F(RunControlTest, PlayingRowIsShownOnDemand) {
@@ -361,7 +361,7 @@ TEST_F(RunControlTest, PlayingRowIsShownOnDemand) {
     start_list();
     machine.run_for(seconds(95));
     rows().select(1);
-    station.list_window.Image4.click();
+    station.list_window.show_playing_row.click();
     EXPECT_EQ(rows().selected(), 2);
 }
 

@@ -176,7 +176,7 @@ TEST_F(ShutdownTest, DuringAFirstStartEndsWithoutAsking) {
 TEST_F(ShutdownTest, ALabelStandsForTheQuitEntryWhileTheMenusAreHidden) {
     window.click();
     expect_question(Answer::yes);
-    window.Label19.click();
+    window.quit_label.click();
     EXPECT_TRUE(station.ended());
 }
 

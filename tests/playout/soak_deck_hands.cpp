@@ -21,9 +21,9 @@ void SoakOperator::press_any_zap_button() {
 
 void SoakOperator::press_zap_elsewhere() {
     if (world_.happens(50))
-        return list().Image2.click();
+        return list().zap.click();
     say("small player");
-    world_.station.small_player.Command2.click();
+    world_.station.small_player.next.click();
 }
 
 void SoakOperator::mix_specially() {
@@ -80,7 +80,7 @@ void SoakOperator::cancel_an_open() {
 void SoakOperator::load_quickly() {
     const int deck = world_.happens(80) ? other_deck() : any_deck();
     const bool favourite = world_.happens(50);
-    ComboBox& box = favourite ? window().Combo1 : window().Combo2;
+    ComboBox& box = favourite ? window().favourites : window().jingles;
     if (box.items.get().empty())
         return;
     say((favourite ? "favourite on deck " : "jingle on deck ") + std::to_string(deck));
@@ -112,7 +112,7 @@ void SoakOperator::stop_main() {
     if (world_.happens(50))
         return main_controls().stop.click();
     say("small player");
-    world_.station.small_player.Command3.click();
+    world_.station.small_player.stop.click();
 }
 
 void SoakOperator::stop_another() {
@@ -123,7 +123,7 @@ void SoakOperator::stop_another() {
 
 void SoakOperator::stop_all() {
     oracle_.expect_cut();
-    list().Image3.click();
+    list().stop_decks.click();
 }
 
 // He holds the track for some seconds, or comes back to it later.

@@ -12,8 +12,8 @@ void SoakOperator::choose_fade_rule() {
 }
 
 void SoakOperator::choose_list_mode() {
-    const std::array options{&list().Option2, &list().Option3, &list().Option4};
-    const std::array pictures{&list().Image9, &list().Image11, &list().Image12};
+    const std::array options{&list().random_mode, &list().defined_end_mode, &list().full_length_mode};
+    const std::array pictures{&list().random_lamp, &list().defined_end_lamp, &list().full_length_lamp};
     const auto which = static_cast<std::size_t>(world_.below(3));
     say(options[which]->name());
     if (world_.happens(60))
@@ -25,10 +25,10 @@ void SoakOperator::choose_list_mode() {
 void SoakOperator::leave_the_list() {
     const int way = world_.below(6);
     if (way == 0)
-        return click_option(window().coche2);
+        return click_option(window().mix_titles);
     if (way == 1)
-        return click_option(list().Option1);
-    const std::array images{&window().Image12, &list().Image17};
+        return click_option(list().player_mode);
+    const std::array images{&window().deck_chain_lamp, &list().player_lamp};
     const std::array entries{&window().a_mode_auto, &list().A_a_zapping};
     const auto which = static_cast<std::size_t>(way % 2);
     say(way < 4 ? images[which]->name() : entries[which]->name());
@@ -41,11 +41,11 @@ void SoakOperator::leave_the_list() {
 void SoakOperator::go_back_to_the_list() {
     const int way = world_.below(6);
     if (way == 0)
-        return click_option(window().coche3);
+        return click_option(window().mix_list);
     if (way == 1)
         return press(U'l');
     if (way == 2)
-        return window().Image13.click();
+        return window().list_chain_lamp.click();
     if (way == 3)
         return window().a_mode_predefini.click();
     if (way == 4)
@@ -63,30 +63,30 @@ void SoakOperator::choose_by_hand() {
 void SoakOperator::change_overlap() {
     const int way = world_.below(4);
     if (way == 0)
-        return window().Image14.click();
+        return window().overlap_less.click();
     if (way == 1)
-        return window().Image15.click();
+        return window().overlap_more.click();
     if (way == 2)
-        return window().UpDown1.set_value(1 + world_.below(20));
-    window().Text1.set_text(world_.any_of({"4", "9", "", "x"}));
-    say("\"" + window().Text1.text() + "\"");
+        return window().overlap_steps.set_value(1 + world_.below(20));
+    window().overlap.set_text(world_.any_of({"4", "9", "", "x"}));
+    say("\"" + window().overlap.text() + "\"");
 }
 
 void SoakOperator::click_preload() {
-    window().coche4.click();
+    window().load_ahead.click();
 }
 
 void SoakOperator::look_at_list() {
     if (world_.happens(50))
         return world_.rows().click(1 + world_.below(world_.rows().count()));
-    list().Image4.click();
+    list().show_playing_row.click();
 }
 
 // By the picture, which is there for a list that doesn't run, or by the menu's entry for what stands on the first deck.
 void SoakOperator::start_list_again() {
     oracle_.expect_cut();
     if (world_.happens(50))
-        return list().Image1.click();
+        return list().play_list.click();
     say("lect_liste");
     list().lect_liste.click();
 }
@@ -182,7 +182,7 @@ void SoakOperator::look_around() {
     say(entry->name());
     entry->open();
     entry->click();
-    world_.station.small_player.Command4.click();
+    world_.station.small_player.show_main_window.click();
 }
 
 void SoakOperator::lose_a_place() {

@@ -71,9 +71,9 @@ constexpr Frames longest_away = seconds(300);
 
 void SoakOperator::begin_day() {
     world_.note("the list starts");
-    const std::array modes{&list().Option2, &list().Option3, &list().Option4};
+    const std::array modes{&list().random_mode, &list().defined_end_mode, &list().full_length_mode};
     modes[static_cast<std::size_t>(world_.below(3))]->click();
-    list().Image1.click();
+    list().play_list.click();
 }
 
 // Hands come in flurries.
@@ -132,8 +132,8 @@ void SoakOperator::come_back() {
         resume_paused_decks();
         if (world_.main_sounds() && world_.station.chain.mode_enchainement.is_true())
             return;
-        window().coche3.click();
-        const std::array modes{&list().Option2, &list().Option3, &list().Option4};
+        window().mix_list.click();
+        const std::array modes{&list().random_mode, &list().defined_end_mode, &list().full_length_mode};
         modes[static_cast<std::size_t>(world_.below(3))]->click();
         if (!world_.main_sounds() || world_.happens(40))
             start_some_row();
@@ -148,13 +148,13 @@ void SoakOperator::resume_paused_decks() {
 
 // A list that runs by then goes on by itself.
 void SoakOperator::start_some_row() {
-    for (int tries = 0; tries < 40 && list().Image1.is_reachable(); ++tries) {
+    for (int tries = 0; tries < 40 && list().play_list.is_reachable(); ++tries) {
         world_.rows().click(1 + world_.below(world_.rows().count()));
-        list().Image1.click();
+        list().play_list.click();
         if (world_.main_sounds())
             return;
     }
-    if (list().Image1.is_reachable())
+    if (list().play_list.is_reachable())
         ADD_FAILURE() << "the list can't be started\n" << world_.recipe() << "\n" << world_.state();
 }
 

@@ -116,9 +116,9 @@ void SoakOracle::look_at_chain() {
     if (world_.main_sounds())
         cut_by_.clear();
     const Antenne_FM& window = world_.station.main_window;
-    off_by_rule_ = !window.Timer2.enabled() && (off_by_rule_ || window.Désactive_audio.checked);
+    off_by_rule_ = !window.deck_chain_timer.enabled() && (off_by_rule_ || window.Désactive_audio.checked);
     // A deck that is started by hand is no chain yet.
-    if (world_.main_sounds() && (window.Timer2.enabled() || window.Timer4.enabled()))
+    if (world_.main_sounds() && (window.deck_chain_timer.enabled() || window.list_chain_timer.enabled()))
         stopped_by_fault_ = false;
 }
 
@@ -155,11 +155,11 @@ std::string_view SoakOracle::own_choice() {
     const Antenne_FM& window = world_.station.main_window;
     if (!world_.station.desk.has_main_deck())
         return "nothing started";
-    if (world_.station.chain.mode_enchainement.is_true() || window.Timer4.enabled())
+    if (world_.station.chain.mode_enchainement.is_true() || window.list_chain_timer.enabled())
         return {};
     if (off_by_rule_)
         return "the chain over decks, put off with the fades";
-    if (!window.coche2.value())
+    if (!window.mix_titles.value())
         return "reading mode \"Lecteur\" under \"Mixer une liste\"";
     const Deck& next = world_.deck(next_deck(world_.main_deck()));
     if (next.path.empty() || !world_.can_be_played(next.path) || next.controls.progress.value > 0)

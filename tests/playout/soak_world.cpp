@@ -167,15 +167,17 @@ std::string SoakWorld::chain_state() {
     const Liste_son& list = station.list_window;
     const auto bit = [](bool on) { return on ? "1" : "0"; };
     std::string text = "main deck " + std::to_string(main_deck()) + ", row " + text_of(station.list.index_en_cours) +
-                       " of " + std::to_string(rows().count()) + ", elapsed " + window.Label5.caption.get() + ", " +
-                       window.Label7.caption.get() + ", " + window.Label10.caption.get();
-    text += std::string{"\n    coche2 "} + bit(window.coche2.value()) + " coche3 " + bit(window.coche3.value()) +
-            " coche4 " + std::to_string(window.coche4.value()) + " options ";
-    for (const OptionButton* option : {&list.Option1, &list.Option2, &list.Option3, &list.Option4})
+                       " of " + std::to_string(rows().count()) + ", elapsed " + window.elapsed.caption.get() + ", " +
+                       window.chain_status.caption.get() + ", " + window.running_chain.caption.get();
+    text += std::string{"\n    coche2 "} + bit(window.mix_titles.value()) + " coche3 " + bit(window.mix_list.value()) +
+            " coche4 " + std::to_string(window.load_ahead.value()) + " options ";
+    for (const OptionButton* option :
+         {&list.player_mode, &list.random_mode, &list.defined_end_mode, &list.full_length_mode})
         text += bit(option->value());
     text += std::string{" list chain "} + bit(station.chain.mode_enchainement.is_true()) + " special mix on deck " +
             text_of(station.chain.lecteur_mix_special);
-    for (const Timer* timer : {&window.Timer1, &window.Timer2, &window.Timer3, &window.Timer4})
+    for (const Timer* timer :
+         {&window.load_ahead_timer, &window.deck_chain_timer, &window.overlap_timer, &window.list_chain_timer})
         text += " " + timer->name() + (timer->enabled() ? " on" : " off");
     return text;
 }

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] DeckControls& controls(int number) { return station.main_window.deck(number); }
     [[nodiscard]] int main_deck() const { return station.chain.lecteur_en_cours.value(); }
     [[nodiscard]] bool main_sounds() { return station.desk.has_main_deck() && station.desk.main_deck().sounds(); }
-    [[nodiscard]] RowTable& rows() { return station.list_window.ListView1; }
+    [[nodiscard]] RowTable& rows() { return station.list_window.rows; }
     [[nodiscard]] bool is_heard() const { return !machine.media.on_air().empty(); }
     [[nodiscard]] double now() const { return in_seconds(machine.time.now()); }
 

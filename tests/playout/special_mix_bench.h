@@ -21,7 +21,7 @@ protected:
     /// A chain over decks, whose second deck holds a minute that is mixed over the first one.
     void mix_over_the_chain_of_decks() {
         open_on_all({100, 60, 100});
-        window.coche2.click();
+        window.mix_titles.click();
         controls(1).play.click();
         controls(2).special_mix.click();
         machine.run_for(seconds(3));

@@ -35,7 +35,7 @@ protected:
     void expect_chain_goes_on() {
         machine.run_for(seconds(100));
         EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
-        EXPECT_TRUE(window.Timer4.enabled());
+        EXPECT_TRUE(window.list_chain_timer.enabled());
     }
 };
 
@@ -68,7 +68,7 @@ TEST_F(SpecialMixEnd, FadingDeckThatIsReleasedGivesTheTrackItsVolumeBack) {
 
 TEST_F(SpecialMixEnd, FadingDeckThatIsReleasedLetsTheChainOverDecksGoOn) {
     open_on_all({100, 100, 100});
-    window.coche2.click();
+    window.mix_titles.click();
     controls(1).play.click();
     machine.run_for(seconds(50));
     controls(1).zap.click();
@@ -111,11 +111,11 @@ TEST_F(SpecialMixEnd, RowLoadedOnItsDeckEndsIt) {
 TEST_F(SpecialMixEnd, ListThatStartsOnItsDeckEndsIt) {
     play_list_with_jingle_on(2);
     machine.run_for(seconds(110));
-    window.coche2.click(); // a list that runs can't be started
+    window.mix_titles.click(); // a list that runs can't be started
     station.chain.chemin_lecture = "C:\\jingle.mp3";
     controls(1).special_mix.click();
     rows().select(1);
-    station.list_window.Image1.click();
+    station.list_window.play_list.click();
     EXPECT_FALSE(window.Active_audio_jingles.checked);
     EXPECT_EQ(station.chain.lecteur_mix_special, 0);
 }
@@ -174,7 +174,7 @@ TEST_F(SpecialMixEnd, EachFadeRuleOfTheMenuEndsIt) {
 
 TEST_F(SpecialMixEnd, ReadingModeOfTheListEndsIt) {
     mix_on(2);
-    station.list_window.Option4.click();
+    station.list_window.full_length_mode.click();
     expect_ended(2);
     expect_chain_goes_on();
 }
@@ -192,7 +192,7 @@ TEST_F(SpecialMixEnd, RuleOfTheChainChosenLongBehindAMixStopsNothing) {
     window.Active_audio_jingles.click();
     machine.run_for(seconds(60));
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
-    EXPECT_EQ(station.warning_window.Label1.caption.get().find("ATTENTION ERREUR"), std::string::npos);
+    EXPECT_EQ(station.warning_window.lines.caption.get().find("ATTENTION ERREUR"), std::string::npos);
 }
 
 TEST_F(SpecialMixEnd, PressedAgainOnItsDeckBeginsAnew) {
@@ -218,15 +218,15 @@ TEST_F(SpecialMixEnd, LoadSecondWithinItLeavesItsSound) {
 TEST_F(SpecialMixEnd, TrueSecondIsShownWhileItHoldsTheList) {
     mix_on(2);
     machine.run_for(seconds(10));
-    EXPECT_EQ(window.Label5.caption.get(), "17");
+    EXPECT_EQ(window.elapsed.caption.get(), "17");
     EXPECT_EQ(controls(1).progress.value, 17);
-    EXPECT_EQ(station.list_window.Label3.caption.get(), "( 17 / 94 )");
+    EXPECT_EQ(station.list_window.progress.caption.get(), "( 17 / 94 )");
 }
 
 TEST_F(SpecialMixEnd, TrueSecondIsShownWhileItHoldsTheChainOverDecks) {
     mix_over_the_chain_of_decks();
     machine.run_for(seconds(10));
-    EXPECT_EQ(window.Label5.caption.get(), "13");
+    EXPECT_EQ(window.elapsed.caption.get(), "13");
     EXPECT_EQ(controls(1).progress.value, 13);
 }
 
@@ -244,7 +244,7 @@ TEST_F(SpecialMixEnd, WindowsTitleNamesTheAir) {
 
 TEST_F(SpecialMixEnd, OneThatOutlastsTheTrackIsToldBefore) {
     mix_on(2, 120);
-    const std::string told = station.warning_window.Label1.caption;
+    const std::string told = station.warning_window.lines.caption;
     EXPECT_EQ(told, "Le mixage spécial dure 120 s\nLe titre à l'antenne s'enchaîne dans 89 s\n"
                     "La suite attendra la fin du mixage");
     EXPECT_TRUE(station.warning_window.visible);
@@ -252,7 +252,7 @@ TEST_F(SpecialMixEnd, OneThatOutlastsTheTrackIsToldBefore) {
 
 TEST_F(SpecialMixEnd, OneThatFitsIntoTheTrackIsNotTold) {
     mix_on(2, 89);
-    EXPECT_EQ(station.warning_window.Label1.caption.get(), "");
+    EXPECT_EQ(station.warning_window.lines.caption.get(), "");
 }
 
 TEST_F(SpecialMixEnd, BeginsAsLoudAsItsSliderShows) {

@@ -97,7 +97,7 @@ TEST_F(SpecialMixTest, OfTheThirdDeckAloneResumesASuspendedChain) {
 
 TEST_F(SpecialMixTest, OverTheChainOfDecksLeavesTheFadeOnZap) {
     open_on_all({100, 5, 100});
-    window.coche2.click();
+    window.mix_titles.click();
     window.Active_audio.enabled = true;
     controls(1).play.click();
     window.Active_audio.click();
@@ -181,7 +181,7 @@ TEST_P(SpecialMixOfADeck, EndsWithAZapAndTheChainGoesOn) {
     machine.run_for(seconds(30));
     controls(GetParam()).special_mix.click();
     machine.run_for(seconds(5));
-    station.list_window.Image2.click();
+    station.list_window.zap.click();
     EXPECT_FALSE(hears_jingle());
     EXPECT_FALSE(window.Active_audio_jingles.checked);
     EXPECT_TRUE(controls(GetParam()).special_mix.enabled);
@@ -190,28 +190,28 @@ TEST_P(SpecialMixOfADeck, EndsWithAZapAndTheChainGoesOn) {
 }
 
 TEST_F(SpecialMixTest, OverlapFieldTakesAStepFromOneAtLeast) {
-    window.Text1.set_text("-4");
-    window.Image15.click();
-    EXPECT_EQ(window.Text1.text(), "1");
-    window.Text1.set_text("9");
-    window.Image14.click();
-    EXPECT_EQ(window.Text1.text(), "8");
-    EXPECT_EQ(window.Text1.hint.get(), "Superposition de : 8 seconde(s)");
+    window.overlap.set_text("-4");
+    window.overlap_more.click();
+    EXPECT_EQ(window.overlap.text(), "1");
+    window.overlap.set_text("9");
+    window.overlap_less.click();
+    EXPECT_EQ(window.overlap.text(), "8");
+    EXPECT_EQ(window.overlap.hint.get(), "Superposition de : 8 seconde(s)");
 }
 
 TEST_F(SpecialMixTest, OverlapFieldThatIsNoNumberSaysSo) {
-    window.Text1.set_text("six");
+    window.overlap.set_text("six");
     machine.dialogs.expect_box("", Answer::ok);
-    window.Image14.click();
-    EXPECT_EQ(window.Text1.text(), "six");
+    window.overlap_less.click();
+    EXPECT_EQ(window.overlap.text(), "six");
 }
 
 TEST_F(SpecialMixTest, LoadLeadIsShownInTheHintOfItsSwitch) {
-    window.coche4.set_value(1);
-    EXPECT_EQ(window.coche4.hint.get(), "Préchargement (7 s avant le mix) ");
-    window.coche4.click();
+    window.load_ahead.set_value(1);
+    EXPECT_EQ(window.load_ahead.hint.get(), "Préchargement (7 s avant le mix) ");
+    window.load_ahead.click();
     EXPECT_EQ(station.settings.prechargement, 0);
-    EXPECT_FALSE(window.Timer1.enabled());
+    EXPECT_FALSE(window.load_ahead_timer.enabled());
 }
 
 TEST_F(SpecialMixTest, PauseOfItsDeckGivesTheTrackItsVolumeAndResumeLowersItAgain) {
@@ -241,7 +241,7 @@ TEST_F(SpecialMixTest, TakesAOneOffListeningBack) {
 TEST_F(SpecialMixTest, ShowsTheStationsBanner) {
     play_list_with_jingle_on(2);
     controls(2).special_mix.click();
-    EXPECT_EQ(window.Label7.caption.get(), "- - " + station.settings.nom_radio + " - -");
+    EXPECT_EQ(window.chain_status.caption.get(), "- - " + station.settings.nom_radio + " - -");
 }
 
 TEST_F(SpecialMixTest, BarShowsHowFarItIs) {
@@ -258,12 +258,12 @@ TEST_F(SpecialMixTest, RuleOfTheChainWithoutAMixIsTakenBackAtTheNextTick) {
     window.Active_audio_jingles.click();
     machine.run_for(seconds(1));
     EXPECT_FALSE(window.Active_audio_jingles.checked);
-    EXPECT_EQ(window.Label10.caption.get(), "Chargement rapide");
+    EXPECT_EQ(window.running_chain.caption.get(), "Chargement rapide");
 }
 
 TEST_F(SpecialMixTest, RuleOfTheChainWithoutAMixBecomesTheFadeOnZapOverDecks) {
     open_on_all({100, 60, 100});
-    window.coche2.click();
+    window.mix_titles.click();
     controls(1).play.click();
     window.Active_audio_jingles.click();
     machine.run_for(seconds(1));

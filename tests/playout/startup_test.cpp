@@ -90,7 +90,7 @@ TEST_F(SecondDesk, SaysThatSonarelleIsOnTheAir) {
     Station second{machine.platform};
     second.start("");
     EXPECT_TRUE(second.warning_window.visible);
-    EXPECT_THAT(second.warning_window.Label1.caption.get(), StartsWith("Sonarelle est déjà à l'antenne"));
+    EXPECT_THAT(second.warning_window.lines.caption.get(), StartsWith("Sonarelle est déjà à l'antenne"));
 }
 
 TEST_F(SecondDesk, HasNothingToSayBehindOneThatHasEnded) {
@@ -115,7 +115,7 @@ TEST_F(Splash, HasTheProgramsPictureAndGoesWhenTheMainWindowIsThere) {
     station.desk_wiring.startup.enter_program("");
     EXPECT_TRUE(station.splash.visible);
     EXPECT_FALSE(window.visible);
-    EXPECT_EQ(station.splash.Image1.picture.get(), "main_.jpg");
+    EXPECT_EQ(station.splash.picture.picture.get(), "main_.jpg");
     station.splash.activate();
     EXPECT_FALSE(station.splash.visible);
     EXPECT_TRUE(window.visible);
@@ -123,8 +123,8 @@ TEST_F(Splash, HasTheProgramsPictureAndGoesWhenTheMainWindowIsThere) {
 }
 
 TEST_F(Splash, FillsItsWindowWithItsPicture) {
-    EXPECT_EQ(station.splash.Image1.width.get(), station.splash.width.get() - Twips{100});
-    EXPECT_EQ(station.splash.Image1.height.get(), station.splash.height.get() - Twips{490});
+    EXPECT_EQ(station.splash.picture.width.get(), station.splash.width.get() - Twips{100});
+    EXPECT_EQ(station.splash.picture.height.get(), station.splash.height.get() - Twips{490});
 }
 
 TEST_F(Splash, StartsTheMainWindowOnceHoweverOftenItComesToTheFront) {
@@ -139,13 +139,13 @@ TEST_F(Splash, IsShownForAnUnknownDisplayTypeToo) {
     set("type_affichage", "T_inconnu");
     station.desk_wiring.startup.enter_program("");
     EXPECT_TRUE(station.splash.visible);
-    EXPECT_EQ(station.splash.Image1.picture.get(), "main_.jpg");
+    EXPECT_EQ(station.splash.picture.picture.get(), "main_.jpg");
 }
 
 TEST_F(Splash, IsShownWithoutItsPictureWhenTheFileIsMissing) {
     remove("main_.jpg");
     start();
-    EXPECT_EQ(station.splash.Image1.picture.get(), "");
+    EXPECT_EQ(station.splash.picture.picture.get(), "");
     EXPECT_TRUE(window.visible);
 }
 
@@ -232,7 +232,7 @@ TEST_F(StartupTest, ShowsTheBlackBackgroundWhateverTheStoreSays) {
 TEST_F(StartupTest, ShowsThePicturesOfTheListWindow) {
     start();
     EXPECT_EQ(station.list_window.picture.get(), "C:\\Sonarelle\\Liste_Sonarine1.jpg");
-    EXPECT_EQ(station.list_window.Image10.picture.get(), "C:\\Sonarelle\\Logo_liste1.gif");
+    EXPECT_EQ(station.list_window.side_picture.picture.get(), "C:\\Sonarelle\\Logo_liste1.gif");
 }
 
 TEST_F(StartupTest, StoresTheProgramsFolderWithItsBackslash) {
@@ -296,8 +296,8 @@ TEST_F(StartupTest, ShowsTheVisualEffectThatWasChosen) {
 
 TEST_F(StartupTest, TellsTheOverlapAndTheLoadLeadWhereTheOperatorPoints) {
     start();
-    EXPECT_EQ(window.Text1.hint.get(), "Superposition de : 6 seconde(s)");
-    EXPECT_EQ(window.coche4.hint.get(), "Préchargement (7 s avant le mix) ");
+    EXPECT_EQ(window.overlap.hint.get(), "Superposition de : 6 seconde(s)");
+    EXPECT_EQ(window.load_ahead.hint.get(), "Préchargement (7 s avant le mix) ");
     EXPECT_EQ(window.deck(2).slider.hint.get(), "Volume %100");
     EXPECT_EQ(window.deck(2).special_mix.hint.get(), "Mixage spécial sur lecteur en cours (F9) avec : ");
 }
@@ -310,8 +310,8 @@ TEST_F(StartupTest, NamesTheProgramInItsMenus) {
 
 TEST_F(StartupTest, PaintsTheWindows) {
     start();
-    EXPECT_EQ(window.Label7.fore_colour.get(), 16777215);
-    EXPECT_EQ(station.list_window.ListView1.back_colour.get(), 9408399);
+    EXPECT_EQ(window.chain_status.fore_colour.get(), 16777215);
+    EXPECT_EQ(station.list_window.rows.back_colour.get(), 9408399);
 }
 
 TEST_F(CommandLine, OfAListLoadsItAndPlays) {
@@ -320,7 +320,7 @@ TEST_F(CommandLine, OfAListLoadsItAndPlays) {
     EXPECT_EQ(rows().count(), 3);
     EXPECT_TRUE(window.visible);
     EXPECT_TRUE(station.list_window.visible);
-    EXPECT_TRUE(window.coche3.value());
+    EXPECT_TRUE(window.mix_list.value());
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
 }
 
@@ -361,7 +361,7 @@ TEST_F(CommandLine, OfATrackPlaysIt) {
     start("\"C:\\Musique\\Le pont.mp3\"");
     machine.run_for(seconds(5));
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\Le pont.mp3"});
-    EXPECT_EQ(station.small_player.label1.caption.get(), "175");
+    EXPECT_EQ(station.small_player.remaining.caption.get(), "175");
 }
 
 TEST_F(CommandLine, OfATrackThatCantBeOpenedSaysSo) {

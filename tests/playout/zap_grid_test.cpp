@@ -20,11 +20,11 @@ protected:
 
     void start_in_option() {
         open_tracks({200, 200, 200});
-        OptionButton& chosen = option() == 1   ? station.list_window.Option1
-                               : option() == 3 ? station.list_window.Option3
-                                               : station.list_window.Option4;
+        OptionButton& chosen = option() == 1   ? station.list_window.player_mode
+                               : option() == 3 ? station.list_window.defined_end_mode
+                                               : station.list_window.full_length_mode;
         chosen.click();
-        station.list_window.Image1.click();
+        station.list_window.play_list.click();
     }
 
     void zap() {
@@ -84,7 +84,7 @@ TEST_F(ZapTest, RefusedChangesNothing) {
                                Answer::ok);
     station.main_window.key_press(U'z');
     EXPECT_EQ(machine.disk.bytes("C:\\Sonarelle\\essai.dfm"), before);
-    EXPECT_EQ(station.list_window.Label12.caption.get(), "Zapping autorisé");
+    EXPECT_EQ(station.list_window.zap_status.caption.get(), "Zapping autorisé");
     machine.run_for(seconds(180));
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {194, 2}}));
 }

@@ -199,9 +199,9 @@ void DeskBench::load_decks() {
     const std::string list = station_form(list_of(3, 60));
     operators_event([&] {
         station().list_document.open_list(list);
-        station().main_window.coche2.click();
+        station().main_window.mix_titles.click();
         for (int row = 1; row <= 3; ++row) {
-            station().list_window.ListView1.select(row);
+            station().list_window.rows.select(row);
             station().list_window.deck_loads()[static_cast<std::size_t>(row - 1)]->click();
         }
     });

@@ -184,7 +184,7 @@ class ListKeys : public OneKey {};
 TEST_P(ListKeys, ChooseTheList) {
     at_the_keyboard([this] {
         press_it();
-        eventually("the list's chain", [this] { return station().main_window.coche3.value(); });
+        eventually("the list's chain", [this] { return station().main_window.mix_list.value(); });
     });
 }
 
@@ -265,7 +265,7 @@ TEST_F(KeysOnScreen, F2OpensTheListWindow) {
 
 TEST_F(KeysOnScreen, ControlYChoosesTheFadeOfTheList) {
     at_the_keyboard([this] {
-        operators_event([this] { station().main_window.coche3.click(); });
+        operators_event([this] { station().main_window.mix_list.click(); });
         key("ctrl+y");
         eventually("the check mark", [this] { return station().main_window.Active_audio.checked.get(); });
     });
@@ -273,7 +273,7 @@ TEST_F(KeysOnScreen, ControlYChoosesTheFadeOfTheList) {
 
 TEST_F(KeysOnScreen, ControlZChoosesTheFadeOfTheZap) {
     at_the_keyboard([this] {
-        operators_event([this] { station().main_window.coche3.click(); });
+        operators_event([this] { station().main_window.mix_list.click(); });
         key("ctrl+z");
         eventually("the check mark", [this] { return station().main_window.Active_audio_zapping.checked.get(); });
     });

@@ -34,8 +34,8 @@ TEST_F(StartAndEnd, WindowsCarryTheStationsSign) {
 TEST_F(StartAndEnd, AListOnTheCommandLineIsOnTheAir) {
     settings_of_a_second_start();
     operate(list_of(2, 40), [this] {
-        eventually("the first track", [this] { return station().main_window.Label5.caption.get() == "2"; });
-        EXPECT_EQ(text(station().list_window.Label2), "piste1");
+        eventually("the first track", [this] { return station().main_window.elapsed.caption.get() == "2"; });
+        EXPECT_EQ(text(station().list_window.track_name), "piste1");
     });
 }
 
@@ -95,7 +95,7 @@ TEST_F(StartAndEnd, ADamagedDriveTableIsToldAndTheListIsOnTheAirBehindIt) {
     operate(list, [this] {
         wait_for_box();
         EXPECT_NE(box().find("Table des lecteurs abîmée"), std::string::npos);
-        eventually("the first track", [this] { return station().main_window.Label5.caption.get() == "2"; });
+        eventually("the first track", [this] { return station().main_window.elapsed.caption.get() == "2"; });
     });
 }
 

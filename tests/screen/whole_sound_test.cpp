@@ -42,7 +42,7 @@ TEST_F(SoundBehindWindows, StaysWholeWhileWindowsMoveAndMenusOpenInAnOverlap) {
     const std::string list = list_of(2, 60);
     const std::string recording = folder().path("air.raw");
     operate(list, [&] {
-        eventually("the first track", [this] { return station().main_window.Label5.caption.get() == "2"; });
+        eventually("the first track", [this] { return station().main_window.elapsed.caption.get() == "2"; });
         server.record(recording);
         operators_event([this] { station().desk.deck(1).controls.zap.click(); });
         for (int times = 0; times < hundred; ++times) {

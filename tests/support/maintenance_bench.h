@@ -41,7 +41,7 @@ protected:
         return saved;
     }
     /// Every text that the progress window shows from now on.
-    void watch_progress() { window().Label1.observe(&progress_); }
+    void watch_progress() { window().step.observe(&progress_); }
     [[nodiscard]] const std::vector<std::string>& progress() const { return progress_.texts; }
     [[nodiscard]] fsauve& window() { return station.progress_window; }
     [[nodiscard]] std::string journal() {

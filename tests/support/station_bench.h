@@ -63,7 +63,7 @@ protected:
         station.list_window.A_liste.click();
     }
 
-    [[nodiscard]] RowTable& rows() { return station.list_window.ListView1; }
+    [[nodiscard]] RowTable& rows() { return station.list_window.rows; }
     [[nodiscard]] std::string default_list_bytes() { return machine.disk.bytes("C:\\Sonarelle\\liste.dfm"); }
 
     SimulatedPlatform machine;

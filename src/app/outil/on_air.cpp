@@ -86,7 +86,7 @@ private:
         if (setting.key == "Préchargement")
             station_->settings.prechargement_defaut = station_->settings.prechargement;
         if (setting.key == "Valeur_vitesse_timer")
-            station_->main_window.Timer4.set_interval(station_->settings.valeur_vitesse_timer);
+            station_->main_window.list_chain_timer.set_interval(station_->settings.valeur_vitesse_timer);
     }
 
     void connect() {
@@ -138,7 +138,7 @@ private:
         silence_.end();
         if (const int lost = lines_.lost())
             note("sortie standard : " + std::to_string(lost) + " lignes que personne n'a lues");
-        station_->list_run.Image3_Click();
+        station_->list_run.stop_decks();
         if (!live_.shows_journal)
             events_.write_account(now());
         machine_.driver().stop();

@@ -39,14 +39,14 @@ ReadingMode mode_of(const std::string& word) {
 }
 
 void load_decks(Station& station) {
-    station.main_window.coche2.click();
+    station.main_window.mix_titles.click();
     const auto entries = station.list_window.deck_loads();
-    const int decks = std::min(3, station.list_window.ListView1.count());
+    const int decks = std::min(3, station.list_window.rows.count());
     for (int deck = 1; deck <= decks; ++deck) {
-        station.list_window.ListView1.select(deck);
+        station.list_window.rows.select(deck);
         entries[static_cast<std::size_t>(deck - 1)]->click();
     }
-    station.list_window.ListView1.select(1);
+    station.list_window.rows.select(1);
     station.desk.deck(1).controls.play.click();
 }
 
@@ -80,21 +80,22 @@ Programme programme_of(const Arguments& arguments) {
 void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list) {
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
-    if (station.list_window.ListView1.count() == 0)
+    if (station.list_window.rows.count() == 0)
         throw Failure{failure_number::file_not_found, programme.list, "aucun enregistrement à passer"};
 }
 
 void start_programme(Station& station, const Programme& programme) {
-    station.list_window.ListView1.select(1);
+    station.list_window.rows.select(1);
     if (programme.mode == ReadingMode::decks)
         return load_decks(station);
-    (programme.mode == ReadingMode::list ? station.list_window.Option3 : station.list_window.Option4).click();
-    station.list_window.Image1.click();
+    (programme.mode == ReadingMode::list ? station.list_window.defined_end_mode : station.list_window.full_length_mode)
+        .click();
+    station.list_window.play_list.click();
 }
 
 Frames length_of_list(Station& station) {
     double length = 0;
-    const RowTable& rows = station.list_window.ListView1;
+    const RowTable& rows = station.list_window.rows;
     for (int row = 1; row <= rows.count(); ++row)
         ErrorIndicator{}.skip([&] { length += end_point_to_double(rows.sub_item(row, list_column::end)); });
     return nearest_frame(length);

@@ -87,7 +87,7 @@ private:
         length_ = rehearsal_.programme.length.value_or(length_of_list(*station_));
         const OutputGuard guard{rehearsal_.rendering, rehearsal_.picture};
         guard.check(rehearsal_.programme.list, "la liste");
-        const RowTable& rows = station_->list_window.ListView1;
+        const RowTable& rows = station_->list_window.rows;
         for (int row = 1; guard.has_something_to_lose() && row <= rows.count(); ++row) {
             std::string track;
             ErrorIndicator{}.skip([&] { track = disk_.machine_path(rows.sub_item(row, list_column::path)); });

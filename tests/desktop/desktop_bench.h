@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTest>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,6 +15,12 @@
 #include "platform/controls.h"
 
 namespace sonarelle {
+
+/// Lets the windows' loop run until it is so; false when it doesn't become so.
+[[nodiscard]] inline bool becomes(const std::function<bool()>& so) {
+    constexpr int longest_wait = 20'000; // ms
+    return QTest::qWaitFor(so, longest_wait);
+}
 
 /// An application without a screen, and what its windows share. Every event that comes through the door is counted.
 class OffscreenDesktop {

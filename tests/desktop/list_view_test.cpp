@@ -206,7 +206,7 @@ TEST_F(ListWindow, MissingFilesAreMarkedWhenTheDiskHasAnswered) {
     int repainted = 0;
     QObject::connect(table().model(), &QAbstractItemModel::dataChanged, [&] { ++repainted; });
     gone = news = true;
-    QTRY_VERIFY(repainted > 0);
+    EXPECT_TRUE(becomes([&] { return repainted > 0; }));
     EXPECT_TRUE(cell(2).data(Qt::FontRole).value<QFont>().strikeOut());
 }
 

@@ -76,8 +76,8 @@ TEST_F(Banner, MovieIsSeenToMove) {
     movie.loop = true;
     movie.Play();
     show("film.gif");
-    QTRY_COMPARE(colour(), QColor(Qt::blue));
-    QTRY_COMPARE(colour(), QColor(Qt::red));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::blue); }));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::red); }));
 }
 
 TEST_F(Banner, MovieThatLoopsBeginsAnew) {
@@ -87,14 +87,14 @@ TEST_F(Banner, MovieThatLoopsBeginsAnew) {
     show("film.gif");
     int ends = 0;
     QObject::connect(label.movie(), &QMovie::finished, [&] { ++ends; });
-    QTRY_VERIFY(ends >= 3);
+    EXPECT_TRUE(becomes([&] { return ends >= 3; }));
 }
 
 TEST_F(Banner, MovieThatDoesntLoopEnds) {
     put("film.gif", gif(Qt::red, true));
     movie.Play();
     show("film.gif");
-    QTRY_VERIFY(!plays());
+    EXPECT_TRUE(becomes([&] { return !plays(); }));
     QTest::qWait(10 * 10 * frame_time);
     EXPECT_FALSE(plays());
 }
@@ -124,14 +124,14 @@ TEST_F(Banner, MovieThatCantBeShownGivesWayToThePictureBesideIt) {
     put("bandeau.gif", gif(Qt::red, false));
     movie.Play();
     show("station.swf");
-    QTRY_COMPARE(colour(), QColor(Qt::green));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::green); }));
 }
 
 TEST_F(Banner, MissingMovieGivesWayToThePictureBesideIt) {
     put("station.gif", gif(Qt::green, false));
     movie.Play();
     show("station.swf");
-    QTRY_COMPARE(colour(), QColor(Qt::green));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::green); }));
 }
 
 TEST_F(Banner, MovieWithoutAPictureGivesWayToTheProgramsOwn) {
@@ -139,7 +139,7 @@ TEST_F(Banner, MovieWithoutAPictureGivesWayToTheProgramsOwn) {
     put("bandeau.gif", gif(Qt::red, false));
     movie.Play();
     show("station.swf");
-    QTRY_COMPARE(colour(), QColor(Qt::red));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::red); }));
 }
 
 TEST_F(Banner, AnotherMovieTakesThePlace) {
@@ -147,9 +147,9 @@ TEST_F(Banner, AnotherMovieTakesThePlace) {
     put("deux.gif", gif(Qt::green, false));
     movie.Play();
     show("un.gif");
-    QTRY_COMPARE(colour(), QColor(Qt::red));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::red); }));
     show("deux.gif");
-    QTRY_COMPARE(colour(), QColor(Qt::green));
+    EXPECT_TRUE(becomes([&] { return colour() == QColor(Qt::green); }));
 }
 
 TEST_F(Banner, PictureTakesThePlaceOfAMovie) {

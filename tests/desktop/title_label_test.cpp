@@ -77,7 +77,7 @@ TEST_F(Titles, OneThatIsCutTurnsWithTheStation) {
     const QImage before = seen(label);
     turn(1);
     EXPECT_TRUE(label.is_turning());
-    QTRY_VERIFY_WITH_TIMEOUT(seen(label) != before, 5000);
+    EXPECT_TRUE(becomes([&] { return seen(label) != before; }));
 }
 
 TEST_F(Titles, AnotherOneStandsAtItsBeginning) {
@@ -97,7 +97,7 @@ TEST_F(Titles, OneThatTheStationTurnsNoMoreComesToRest) {
     label.set_text("Un titre bien trop long - ");
     const QImage still = seen(label);
     turn(1);
-    QTRY_VERIFY_WITH_TIMEOUT(!label.is_turning(), 10000);
+    EXPECT_TRUE(becomes([&] { return !label.is_turning(); }));
     EXPECT_EQ(seen(label), still);
 }
 

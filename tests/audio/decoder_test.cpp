@@ -43,6 +43,14 @@ TEST_P(EveryFormat, GivesAfterASeekWhatDecodingFromTheStartHasThere) {
     }
 }
 
+TEST_P(EveryFormat, EndsBehindASeekWhereDecodingFromTheStartDoes) {
+    std::vector<float> rest(2 * 48000 * 13);
+    const auto decoder = decoder_of(path);
+    const std::size_t whole = decoder->read(rest);
+    decoder->seek(Frames{400'003});
+    EXPECT_EQ(decoder->read(rest), whole - 400'003);
+}
+
 TEST_P(EveryFormat, PlaysTheMusicAtFullLength) {
     const auto whole = decoded(path);
     const auto peak_around = [&](std::size_t second) {
@@ -108,6 +116,37 @@ TEST(Decoder, WavWhoseWriterCouldNotGoBackLastsAsLongAsItsSound) {
         file.close();
         EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 1.0);
     }
+}
+
+TEST(Decoder, LongWavWithATextBehindItsSoundLastsAsLongAsItsSound) {
+    const SoundFolder folder;
+    const auto path = folder.counting_wav("a.wav", 1);
+    const auto put = [&](std::streamoff at, const std::string& bytes) {
+        std::fstream file{path, std::ios::binary | std::ios::in | std::ios::out};
+        file.seekp(at);
+        file.write(bytes.data(), std::ssize(bytes));
+    };
+    const auto number = [](std::uint64_t value) {
+        return std::string{reinterpret_cast<const char*>(&value), sizeof value};
+    };
+    const std::uint64_t data_bytes = 48000 * 4;
+    const auto head_bytes = static_cast<std::streamoff>(std::filesystem::file_size(path) - data_bytes);
+    put(0, "RF64");
+    put(12, "ds64");
+    put(20, number(std::filesystem::file_size(path) + 1000) + number(data_bytes) + number(48000));
+    put(head_bytes - 4, std::string(4, '\xFF'));
+    put(static_cast<std::streamoff>(std::filesystem::file_size(path)),
+        "LIST" + number(1000).substr(0, 4) + std::string(1000, 'x'));
+    EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 1.0);
+}
+
+TEST(Decoder, SoundThatChangesItsRateIsDamageAndNotPlayedAtAnother) {
+    const SoundFolder folder;
+    const auto path = folder.encoded("a.aac", 2, "-c:a aac -ar 44100");
+    const std::size_t alone = decoded(path).size();
+    std::ifstream other{folder.encoded("b.aac", 2, "-c:a aac -ar 22050"), std::ios::binary};
+    std::ofstream{path, std::ios::binary | std::ios::app} << other.rdbuf();
+    EXPECT_EQ(decoded(path).size(), alone);
 }
 
 TEST(Decoder, MeasuringTheLengthCountsNoBreak) {

@@ -64,6 +64,16 @@ TEST(GapWatch, TakesALateThreadForNoGap) {
     EXPECT_EQ(card.watch.gaps().count, 0);
 }
 
+TEST(GapWatch, TellsAGapFromTheLateThreadBehindIt) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    card.fall_behind(10ms);
+    card.ask_for(seconds(3), 40ms);
+    card.ask_for(seconds(8));
+    EXPECT_EQ(card.watch.gaps().count, 1);
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(10));
+}
+
 TEST(GapWatch, TakesBurstsForNoGap) {
     for (const auto period : {50ms, 55ms, 80ms}) {
         GapWatch watch;

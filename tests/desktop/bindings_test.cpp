@@ -222,6 +222,17 @@ TEST_F(OptionBindings, ShownWithoutBeingChosenRaisesNothing) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(OptionBindings, StaysClearWhereTheStationClearsItAgain) {
+    OptionGroup group;
+    OptionButton option{window, group, "o1"};
+    option.on_click = [&] { option.show_value(false); };
+    QRadioButton widget;
+    const OptionBinding binding{option, widget, services};
+    settle();
+    widget.click();
+    EXPECT_FALSE(widget.isChecked());
+}
+
 TEST_F(ButtonBindings, CaptionIsShown) {
     GraphicButton button{window, "b"};
     StudioButton widget;
@@ -304,6 +315,17 @@ TEST_F(ProgressBindings, ValueIsAShareOfTheRange) {
     const ProgressBinding binding{bar, widget, services};
     bar.maximum = 200;
     bar.value = 50;
+    settle();
+    EXPECT_DOUBLE_EQ(widget.share(), 0.25);
+}
+
+TEST_F(ProgressBindings, ValueCountsFromTheBeginningOfTheRange) {
+    ProgressBar bar{window, "p"};
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    bar.minimum = 100;
+    bar.maximum = 200;
+    bar.value = 125;
     settle();
     EXPECT_DOUBLE_EQ(widget.share(), 0.25);
 }

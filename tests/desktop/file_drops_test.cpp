@@ -28,14 +28,14 @@ protected:
         settle();
     }
     /// Drops them on a widget; whether it takes them.
-    bool drop(QWidget& widget, const QList<QUrl>& urls) {
+    bool drop(QWidget& widget, const QList<QUrl>& urls, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QMimeData data;
         data.setUrls(urls);
-        QDragEnterEvent enter{{2, 2}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QDragEnterEvent enter{{2, 2}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, keys};
         QCoreApplication::sendEvent(&widget, &enter);
         if (!enter.isAccepted())
             return false;
-        QDropEvent event{{2, 2}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QDropEvent event{{2, 2}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, keys};
         QCoreApplication::sendEvent(&widget, &event);
         EXPECT_EQ(event.dropAction(), Qt::CopyAction);
         settle();
@@ -57,6 +57,11 @@ TEST_F(FileDropsOnAButton, AreHandedOverInTheStationsForm) {
     EXPECT_TRUE(drop(*binding->widget(), {file("/m/été.mp3"), file("/m/b.mp3")}));
     EXPECT_EQ(dropped, (Paths{"C:/m/été.mp3", "C:/m/b.mp3"}));
     EXPECT_EQ(events, 1);
+}
+
+TEST_F(FileDropsOnAButton, StayWhereTheyAreWhenTheyAreDroppedToBeMoved) {
+    EXPECT_TRUE(drop(panel, {file("/m/a.mp3")}, Qt::ShiftModifier));
+    EXPECT_EQ(dropped, Paths{"C:/m/a.mp3"});
 }
 
 TEST_F(FileDropsOnAButton, ArePossibleOnThePanelAroundIt) {

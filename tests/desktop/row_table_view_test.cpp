@@ -136,6 +136,14 @@ TEST_F(TableView, ArrowKeysChooseRowsAsPressesDo) {
     EXPECT_EQ(table.selected(), 2);
 }
 
+TEST_F(TableView, TabKeyStepsThroughNoCells) {
+    fill(3);
+    table.select(1);
+    settle();
+    QTest::keyClick(&widget, Qt::Key_Tab);
+    EXPECT_EQ(widget.currentIndex(), widget.model()->index(0, 0));
+}
+
 TEST_F(TableView, RowThatMustBeSeenIsScrolledIntoView) {
     widget.resize(600, 200);
     widget.show();

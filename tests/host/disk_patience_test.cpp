@@ -100,6 +100,13 @@ TEST_F(DiskPatienceTest, SilentDiskIsKnownByItsMount) {
     EXPECT_LE(mount->asked(), 1);
 }
 
+TEST_F(DiskPatienceTest, SilentDiskIsKnownByItsMountWhereverTheTableNamesIt) {
+    mount_at({"/mnt/a", "/"});
+    static_cast<void>(failure_of("/mnt/a/titre.mp3"));
+    EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), failure_number::device_fault);
+    EXPECT_LE(mount->asked(), 1);
+}
+
 TEST_F(DiskPatienceTest, OnTheRootsDiskTheSilentFolderAloneIsAvoided) {
     mount_at({"/"});
     static_cast<void>(failure_of("/musique/lien"));

@@ -1,10 +1,15 @@
 #include "playout/auto_chain.h"
+
+#include <gmock/gmock.h>
+
 #include "playout/chain_bench.h"
 
 namespace sonarelle {
 
 namespace {
 
+using testing::Contains;
+using testing::Not;
 using Kind = OnAirEvent::Kind;
 using Paths = std::vector<std::string>;
 
@@ -39,6 +44,18 @@ TEST_F(ChainOfDecksTest, GoesRoundToADeckThatAnotherCutShort) {
     station.main_window.lire_3.click();
     machine.run_for(seconds(100));
     EXPECT_EQ(times_of(Kind::started), (Times{{0, 1}, {20, 3}, {114, 1}}));
+}
+
+TEST_F(ChainOfDecksTest, DeckThatIsReleasedInManualModeCanBeTakenUpAgain) {
+    start_decks({100, 100, 100});
+    machine.run_for(seconds(20));
+    controls(1).zap.click();
+    station.main_window.a_mode_manuel.click();
+    controls(3).play.click();
+    machine.run_for(seconds(15));
+    EXPECT_THAT(machine.media.on_air(), Not(Contains(track(2))));
+    controls(2).pause.click();
+    EXPECT_THAT(machine.media.on_air(), Contains(track(2)));
 }
 
 TEST_F(ChainOfDecksTest, ReadsTheWholeFile) {

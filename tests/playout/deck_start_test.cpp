@@ -28,6 +28,14 @@ TEST_F(DeckStartTest, CounterThatIsFullStaysAndTheListGoesOn) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3, 1}));
 }
 
+TEST_F(DeckStartTest, FirstTrackOfARunIsNotCounted) {
+    open_tracks({100, 100});
+    start_list();
+    EXPECT_EQ(station.chain.nb_fichiers_ecoutes, 0);
+    machine.run_for(seconds(95));
+    EXPECT_EQ(station.chain.nb_fichiers_ecoutes, 1);
+}
+
 TEST_F(DeckStartTest, CounterThatIsFullIsJournalledOnce) {
     station.main_window.Active_journal.click();
     open_tracks({100, 100, 100});

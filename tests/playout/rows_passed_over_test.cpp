@@ -138,6 +138,41 @@ TEST_F(RowsPassedOver, FolderThatComesBackBehindAPauseStartsNothing) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1}));
 }
 
+TEST_F(RowsPassedOver, RowOfAShareWhoseFolderIsGoneStaysInTheList) {
+    const std::string gone = R"(\\serveur\son\parti\a.mp3)";
+    machine.disk.add_drive(R"(\\serveur\son)");
+    machine.add_track(track(1), 100);
+    machine.add_track(track(3), 100);
+    open_list("C:\\Sonarelle\\essai.dfm",
+              {record_of(track(1), "100", 100, 0.0), record_of(gone, "100"), record_of(track(3), "100")});
+    rows().select(1);
+    start_list();
+    play_for(110);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(rows().count(), 3);
+}
+
+TEST_F(RowsPassedOver, RowThatMayNotBeLookedAtIsNotLaidToASilentDisk) {
+    station.main_window.Active_journal.click();
+    open_tracks({100, 100, 100});
+    start_list();
+    machine.disk.refuse(track(2), failure_number::permission_refused);
+    play_for(110);
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_EQ(journal_text().find("Le disque ne r\xE9pond pas"), std::string::npos);
+}
+
+TEST_F(RowsPassedOver, RowThatIsRemovedAtTheMixPointGivesWayToADrawnOne) {
+    open_tracks(std::vector<int>(40, 100));
+    start_list();
+    play_for(90);
+    machine.disk.Kill(track(2));
+    play_for(10);
+    EXPECT_EQ(rows().count(), 39);
+    ASSERT_EQ(rows_started().size(), 2U);
+    EXPECT_GT(rows_started().back(), 2); // not the one that took its place
+}
+
 TEST_F(RowsPassedOver, RowWhoseFolderGoesBetweenTwoLooksOfTheLoadStaysInTheList) {
     play_list_over_another_folder(100);
     machine.disk.remove_after_entering("C:\\Ailleurs");

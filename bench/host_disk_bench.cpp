@@ -22,7 +22,8 @@ constexpr std::int64_t rows = 100'000;
 
 /// Drive D in a folder of its own.
 struct Machine {
-    Machine() : folder{std::filesystem::temp_directory_path() / "sonarelle-bench-XXXXXX"} {
+    Machine()
+        : folder{std::filesystem::temp_directory_path() / "sonarelle-bench-XXXXXX"} {
         if (::mkdtemp(folder.data()) == nullptr)
             std::abort();
         drives.set("D", folder);

@@ -86,7 +86,8 @@ const Collection& collection() {
 /// Measures by a graph for each file, when its length is wanted.
 class OneByOne final : public Media {
 public:
-    explicit OneByOne(Media& media) : media_{media} {}
+    explicit OneByOne(Media& media)
+        : media_{media} {}
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override { return media_.create_graph(); }
     [[nodiscard]] ProgrammeSilence silence() const override { return media_.silence(); }
 
@@ -103,11 +104,12 @@ public:
     explicit LoadedStation(Kind kind)
         : disk_{drives_, std::make_shared<DiskPatience>(kind == Kind::patient ? DiskPatience::Limit{station_patience}
                                                                               : DiskPatience::Limit{})},
-          silent_{machine_.time, files_, resolve_}, sound_{machine_.time, bus_, files_, resolve_, Decoding::by_threads},
-          one_by_one_{silent_}, media_{kind == Kind::silent ? static_cast<Media&>(silent_)
-                                       : kind == Kind::sound || kind == Kind::patient
-                                           ? static_cast<Media&>(sound_)
-                                           : static_cast<Media&>(one_by_one_)},
+          silent_{machine_.time, files_, resolve_},
+          sound_{machine_.time, bus_, files_, resolve_, Decoding::by_threads},
+          one_by_one_{silent_},
+          media_{kind == Kind::silent                           ? static_cast<Media&>(silent_)
+                 : kind == Kind::sound || kind == Kind::patient ? static_cast<Media&>(sound_)
+                                                                : static_cast<Media&>(one_by_one_)},
           station_{Platform{machine_.time, machine_.scheduler, disk_, machine_.settings, machine_.dialogs, media_,
                             machine_.random, machine_.shell, collection().program_folder(), DecimalMark::point}} {
         machine_.dialogs.default_answers();

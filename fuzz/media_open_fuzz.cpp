@@ -16,7 +16,8 @@ constexpr int most_pieces = 40; // of 1024 frames: the work for one input stays 
 
 class MemoryFile final : public RecordFile {
 public:
-    explicit MemoryFile(std::span<const std::byte> bytes) : bytes_{bytes} {}
+    explicit MemoryFile(std::span<const std::byte> bytes)
+        : bytes_{bytes} {}
     [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(bytes_.size()); }
     std::size_t read(std::int64_t position, std::span<std::byte> into) override {
         if (position < 0 || position >= length())

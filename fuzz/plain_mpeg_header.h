@@ -38,7 +38,11 @@ public:
     struct Refused {};
 
     PlainCandidate(std::string_view file, std::size_t position)
-        : file_{file}, position_{position}, h0_{byte(1)}, h1_{byte(2)}, h2_{byte(3)} {}
+        : file_{file},
+          position_{position},
+          h0_{byte(1)},
+          h1_{byte(2)},
+          h2_{byte(3)} {}
 
     PlainMpegHeader read(bool strict) const {
         PlainMpegHeader out = header(strict);

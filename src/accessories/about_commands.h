@@ -12,7 +12,10 @@ namespace sonarelle {
 /// The buttons of the about windows and the information button of the warning window.
 class AboutCommands {
 public:
-    AboutCommands(Desk& desk, frmAbout& about, vbplus& update) : desk_{desk}, about_{about}, update_{update} {}
+    AboutCommands(Desk& desk, frmAbout& about, vbplus& update)
+        : desk_{desk},
+          about_{about},
+          update_{update} {}
 
     void connect();
 

@@ -16,7 +16,8 @@ inline void hide_by(Window& window, char32_t key) {
 
 /// What the program is, and a door to the system's own information.
 struct frmAbout : Window {
-    frmAbout() : Window{"frmAbout"} {
+    frmAbout()
+        : Window{"frmAbout"} {
         caption = "À propos de " + std::string{application_title};
         on_unload_request = [this] { hide(); };
         on_key_press = [this](char32_t key) { hide_by(*this, key); };
@@ -31,7 +32,8 @@ struct frmAbout : Window {
 
 /// How to take a new version.
 struct vbplus : Window {
-    vbplus() : Window{"vbplus"} {
+    vbplus()
+        : Window{"vbplus"} {
         caption = "Info mise a jour";
         on_unload_request = [this] { hide(); };
         on_key_press = [this](char32_t key) { hide_by(*this, key); };

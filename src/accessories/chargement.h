@@ -6,7 +6,8 @@ namespace sonarelle {
 
 /// The splash, on the screen until the main window is.
 struct Chargement : Window {
-    Chargement() : Window{"Chargement"} {
+    Chargement()
+        : Window{"Chargement"} {
         caption = "Chargement en cours ...";
         on_unload_request = [this] { hide(); };
         width = Twips{7500};

@@ -3,8 +3,10 @@
 namespace sonarelle {
 
 Propriete::Propriete(Scheduler& scheduler)
-    : Window{"Propriete"}, progress_timer{"Propriete.Timer1", 1, scheduler},
-      start_timer{"Propriete.Timer2", 2, scheduler}, end_timer{"Propriete.Timer3", 3, scheduler} {
+    : Window{"Propriete"},
+      progress_timer{"Propriete.Timer1", 1, scheduler},
+      start_timer{"Propriete.Timer2", 2, scheduler},
+      end_timer{"Propriete.Timer3", 3, scheduler} {
     caption = "Propriété du fichier sélectionné";
     mark_start.hint = "Sélection Début / pause";
     mark_end.hint = "Sélection Fin / pause";

@@ -10,7 +10,9 @@
 namespace sonarelle {
 
 SmallPlayer::SmallPlayer(Desk& desk, DeckCommands commands, std::function<void()> quit)
-    : desk_{desk}, commands_{std::move(commands)}, quit_{std::move(quit)} {}
+    : desk_{desk},
+      commands_{std::move(commands)},
+      quit_{std::move(quit)} {}
 
 void SmallPlayer::connect() {
     mini_lecteur& window = desk_.small_player;

@@ -29,9 +29,18 @@ TrackProperties::TrackProperties(const Platform& platform, const StationSettings
                                  ChainState& chain, DestinationRecord& destination, Liste_son& list_window,
                                  Propriete& window, RecordReading& reading, ListDocument& document,
                                  const ListGuard& guard)
-    : platform_{platform}, settings_{settings}, list_{list}, chain_{chain}, destination_{destination},
-      list_window_{list_window}, window_{window}, reading_{reading}, document_{document}, guard_{guard},
-      start_{window.start, window.start_timer}, end_{window.end, window.end_timer} {
+    : platform_{platform},
+      settings_{settings},
+      list_{list},
+      chain_{chain},
+      destination_{destination},
+      list_window_{list_window},
+      window_{window},
+      reading_{reading},
+      document_{document},
+      guard_{guard},
+      start_{window.start, window.start_timer},
+      end_{window.end, window.end_timer} {
     connect_actions();
     connect_looks();
 }

@@ -6,7 +6,10 @@ namespace sonarelle {
 
 /// The options dialog.
 struct Form_options : Window {
-    Form_options() : Window{"Form_options"} { caption = "Paramètres / Options"; }
+    Form_options()
+        : Window{"Form_options"} {
+        caption = "Paramètres / Options";
+    }
 
     CheckBox draws_jingles{*this, "Check1"};   ///< Jingles are inserted by draw.
     CheckBox draws_items{*this, "Check2"};     ///< List items are inserted by draw.

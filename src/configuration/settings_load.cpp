@@ -38,8 +38,13 @@ struct SettingsLoad::Insertion {
 SettingsLoad::SettingsLoad(const Platform& platform, StationSettings& settings, Antenne_FM& main_window,
                            Liste_son& list_window, ListState& list_state, Form_options& options,
                            mini_lecteur& small_player)
-    : platform_{platform}, store_{platform.settings, platform.program_folder, platform.decimal_mark},
-      settings_{settings}, main_{main_window}, list_{list_window}, list_state_{list_state}, options_{options},
+    : platform_{platform},
+      store_{platform.settings, platform.program_folder, platform.decimal_mark},
+      settings_{settings},
+      main_{main_window},
+      list_{list_window},
+      list_state_{list_state},
+      options_{options},
       small_player_{small_player} {}
 
 void SettingsLoad::Chargement_parametres() {

@@ -16,8 +16,10 @@ std::string restart_needed() {
 } // namespace
 
 SettingsRewrite::SettingsRewrite(const Platform& platform, StationSettings& settings, Ends ends)
-    : platform_{platform}, settings_{settings},
-      store_{platform.settings, platform.program_folder, platform.decimal_mark}, ends_{std::move(ends)} {}
+    : platform_{platform},
+      settings_{settings},
+      store_{platform.settings, platform.program_folder, platform.decimal_mark},
+      ends_{std::move(ends)} {}
 
 void SettingsRewrite::A_purger_registre_Click() {
     const bool first_start = settings_.premier_lancement.is_true();

@@ -14,7 +14,9 @@ namespace sonarelle {
 class SettingsStore {
 public:
     SettingsStore(Settings& settings, std::string program_folder, DecimalMark mark)
-        : settings_{settings}, program_folder_{std::move(program_folder)}, mark_{mark} {}
+        : settings_{settings},
+          program_folder_{std::move(program_folder)},
+          mark_{mark} {}
 
     [[nodiscard]] std::string read(std::string_view section, std::string_view key) const;
     void write(std::string_view section, std::string_view key, std::string_view value) const;

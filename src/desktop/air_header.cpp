@@ -41,8 +41,8 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
           {.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter}}},
       silence_{new StationLabel{{.pixels = 48, .bold = true, .digits = true, .characters = 18, .alignment = right}}},
       notice_{new StationLabel{{.pixels = 32, .bold = true, .alignment = right}}},
-      clock_{new StationLabel{{.pixels = 20, .digits = true, .characters = 8, .alignment = right}}}, banner_{
-                                                                                                         new QWidget} {
+      clock_{new StationLabel{{.pixels = 20, .digits = true, .characters = 8, .alignment = right}}},
+      banner_{new QWidget} {
     setMouseTracking(true);
     setObjectName("air_header");
     name_labels();

@@ -9,7 +9,9 @@
 namespace sonarelle {
 
 Binding::Binding(Control& control, QWidget& widget, const DesktopServices& services)
-    : control_{control}, widget_{&widget}, services_{services} {
+    : control_{control},
+      widget_{&widget},
+      services_{services} {
     widget.setObjectName(to_qt(control.name()));
     widget.installEventFilter(this);
     control.observe(this);

@@ -33,7 +33,9 @@ Plate plate_of(Colour ink, Colour ground) {
 } // namespace
 
 ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const DesktopServices& services)
-    : Binding{button, widget, services}, button_{button}, face_{widget} {
+    : Binding{button, widget, services},
+      button_{button},
+      face_{widget} {
     connect(&face_, &QAbstractButton::clicked, this, [this] { run([this] { button_.click(); }); });
 }
 
@@ -75,7 +77,9 @@ bool ButtonBinding::eventFilter(QObject* object, QEvent* event) {
 }
 
 ImageBinding::ImageBinding(Image& image, StudioButton& widget, const DesktopServices& services)
-    : Binding{image, widget, services}, image_{image}, face_{widget} {
+    : Binding{image, widget, services},
+      image_{image},
+      face_{widget} {
     connect(&face_, &QAbstractButton::clicked, this, [this] { run([this] { image_.click(); }); });
 }
 
@@ -89,7 +93,9 @@ LampBinding::LampBinding(Image& image, StudioButton& widget, const DesktopServic
 }
 
 FrameBinding::FrameBinding(Frame& frame, QGroupBox& widget, const DesktopServices& services)
-    : Binding{frame, widget, services}, frame_{frame}, box_{widget} {}
+    : Binding{frame, widget, services},
+      frame_{frame},
+      box_{widget} {}
 
 void FrameBinding::show_state() {
     box_.setTitle(caption());
@@ -100,7 +106,9 @@ QString FrameBinding::caption() const {
 }
 
 MovieBinding::MovieBinding(Movie& movie, QLabel& widget, const DesktopServices& services)
-    : Binding{movie, widget, services}, movie_{movie}, label_{widget} {}
+    : Binding{movie, widget, services},
+      movie_{movie},
+      label_{widget} {}
 
 MovieBinding::~MovieBinding() = default;
 

@@ -22,7 +22,9 @@ void paint_indicator(QPalette& palette) {
 } // namespace
 
 CheckBoxBinding::CheckBoxBinding(CheckBox& box, QCheckBox& widget, const DesktopServices& services)
-    : Binding{box, widget, services}, box_{box}, check_{widget} {
+    : Binding{box, widget, services},
+      box_{box},
+      check_{widget} {
     check_.setFocusPolicy(Qt::TabFocus);
     // The value is the control's: what the click made of it comes back by the update.
     connect(&check_, &QCheckBox::clicked, this, [this] {
@@ -46,7 +48,9 @@ QString CheckBoxBinding::caption() const {
 }
 
 OptionBinding::OptionBinding(OptionButton& option, QRadioButton& widget, const DesktopServices& services)
-    : Binding{option, widget, services}, option_{option}, radio_{widget} {
+    : Binding{option, widget, services},
+      option_{option},
+      radio_{widget} {
     radio_.setFocusPolicy(Qt::TabFocus);
     // Which one is chosen is the group's business, which may choose none.
     radio_.setAutoExclusive(false);
@@ -71,7 +75,9 @@ QString OptionBinding::caption() const {
 }
 
 ComboBoxBinding::ComboBoxBinding(ComboBox& box, QComboBox& widget, const DesktopServices& services)
-    : Binding{box, widget, services}, box_{box}, combo_{widget} {
+    : Binding{box, widget, services},
+      box_{box},
+      combo_{widget} {
     embolden(combo_);
     combo_.setFocusPolicy(box.takes_typing ? Qt::StrongFocus : Qt::TabFocus);
     if (box.takes_typing)
@@ -151,7 +157,9 @@ bool ComboBoxBinding::answer_key(const QKeyEvent& key) {
 }
 
 ListBoxBinding::ListBoxBinding(ListBox& box, QListWidget& widget, const DesktopServices& services)
-    : Binding{box, widget, services}, box_{box}, list_{widget} {
+    : Binding{box, widget, services},
+      box_{box},
+      list_{widget} {
     connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
             run([&] { box_.choose(row); });

@@ -53,7 +53,11 @@ RoleLook look_of(DeckRole role) {
 } // namespace
 
 DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_stand_in, int number, QWidget* parent)
-    : Panel{parent}, view_{view}, controls_{controls}, lamp_{new Lamp{this}}, state_{aside_label({}, Qt::AlignRight)},
+    : Panel{parent},
+      view_{view},
+      controls_{controls},
+      lamp_{new Lamp{this}},
+      state_{aside_label({}, Qt::AlignRight)},
       elapsed_{new StationLabel{figure, this}} {
     Dresser dresser{view};
     auto* left = new QVBoxLayout;

@@ -63,7 +63,8 @@ void dress_application() {
 
 Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopServices& services,
                  const SoundReading& sound)
-    : desk_{desk}, services_{services} {
+    : desk_{desk},
+      services_{services} {
     for (Window* window : windows) {
         views_.push_back(view_of(*window, services, sound));
         if (auto* main = dynamic_cast<MainView*>(views_.back().get()))

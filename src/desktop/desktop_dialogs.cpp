@@ -65,7 +65,8 @@ QColor colour_of(std::int32_t colour) {
 } // namespace
 
 DesktopDialogs::DesktopDialogs(PathForms paths, std::function<QWidget*(Window&)> widget_of)
-    : paths_{std::move(paths)}, widget_of_{std::move(widget_of)} {}
+    : paths_{std::move(paths)},
+      widget_of_{std::move(widget_of)} {}
 
 Answer DesktopDialogs::MsgBox(const MessageBox& box) {
     QMessageBox dialog{icon_of(box.icon), to_qt(box.title), to_qt(box.text), QMessageBox::NoButton,

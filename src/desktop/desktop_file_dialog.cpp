@@ -9,7 +9,9 @@
 
 namespace sonarelle {
 
-DesktopFileDialog::DesktopFileDialog(const PathForms& paths, QWidget* parent) : QFileDialog{parent}, paths_{paths} {
+DesktopFileDialog::DesktopFileDialog(const PathForms& paths, QWidget* parent)
+    : QFileDialog{parent},
+      paths_{paths} {
     setObjectName("FileDialog");
     setOption(QFileDialog::DontUseNativeDialog);  // a native one can't be kept open over a name that is refused
     setOption(QFileDialog::DontConfirmOverwrite); // the station asks itself

@@ -7,7 +7,8 @@ namespace sonarelle {
 /// The desktop's own clipboard; all else is the machine's, which outlives it.
 class DesktopShell : public Shell {
 public:
-    explicit DesktopShell(Shell& machine) : machine_{machine} {}
+    explicit DesktopShell(Shell& machine)
+        : machine_{machine} {}
 
     [[nodiscard]] bool InternetGetConnectedState() override { return machine_.InternetGetConnectedState(); }
     void open_document(std::string_view path_or_address) override { machine_.open_document(path_or_address); }

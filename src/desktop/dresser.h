@@ -25,7 +25,8 @@ class TitleLabel;
 /// Makes the widget of a control and binds the two. The widget belongs to the window's content until it is laid out.
 class Dresser {
 public:
-    explicit Dresser(WindowView& view) : view_{view} {}
+    explicit Dresser(WindowView& view)
+        : view_{view} {}
 
     StationLabel* label(Label& label, const StationLabel::Style& style = {});
     /// A title that the station may turn.

@@ -15,7 +15,9 @@ namespace sonarelle {
 /// that the station can't hold or reach is refused by name, and with it the whole drop.
 class FileDrops : public QObject {
 public:
-    FileDrops(Control& control, const DesktopServices& services) : control_{control}, services_{services} {}
+    FileDrops(Control& control, const DesktopServices& services)
+        : control_{control},
+          services_{services} {}
 
     /// From now on files can be dropped on this widget, too.
     void take_on(QWidget& widget);

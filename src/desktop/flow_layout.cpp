@@ -8,7 +8,8 @@ namespace {
 constexpr int gap = 6;
 } // namespace
 
-FlowLayout::FlowLayout(QWidget* parent) : QLayout{parent} {
+FlowLayout::FlowLayout(QWidget* parent)
+    : QLayout{parent} {
     setContentsMargins(0, 0, 0, 0);
 }
 

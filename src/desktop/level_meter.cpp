@@ -29,7 +29,9 @@ QString loudness_text(std::optional<double> lufs) {
     return (*lufs < 0 ? QStringLiteral("−") : QString{}) + number + " LUFS";
 }
 
-LevelMeter::LevelMeter(const SoundReading& reading, QWidget* parent) : QWidget{parent}, reading_{reading} {
+LevelMeter::LevelMeter(const SoundReading& reading, QWidget* parent)
+    : QWidget{parent},
+      reading_{reading} {
     timer_.setInterval(interval);
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
     setAccessibleName("Niveau");

@@ -20,7 +20,8 @@ constexpr StationLabel::Style button_text{.pixels = 14, .framed = true, .charact
 } // namespace
 
 ListView::ListView(Liste_son& window, const DesktopServices& services)
-    : WindowView{window, services, least_size}, window_{window} {
+    : WindowView{window, services, least_size},
+      window_{window} {
     build_rows();
 }
 

@@ -54,7 +54,8 @@ QVBoxLayout* column_in(Panel* panel, const QString& heading) {
 } // namespace
 
 MainView::MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound)
-    : WindowView{window, services, least_size}, window_{window} {
+    : WindowView{window, services, least_size},
+      window_{window} {
     build_rows(sound);
 }
 

@@ -22,7 +22,8 @@ QPalette menu_palette() {
 } // namespace
 
 MenuItemBinding::MenuItemBinding(MenuItem& item, QWidget& window, const DesktopServices& services)
-    : item_{item}, services_{services} {
+    : item_{item},
+      services_{services} {
     if (!item.entries().empty()) {
         menu_ = std::make_unique<QMenu>(&window);
         menu_->setObjectName(to_qt(item.name()));
@@ -67,7 +68,9 @@ void MenuItemBinding::show_value() {
 }
 
 MenuBindings::MenuBindings(Window& window, QWidget& widget, const DesktopServices& services)
-    : window_{window}, widget_{widget}, services_{services} {
+    : window_{window},
+      widget_{widget},
+      services_{services} {
     window_.on_popup = [this](MenuItem& item, const Control* under) { popup(item, under); };
     for (Control* control : window.controls())
         if (control->kind() == ControlKind::menu_item)

@@ -7,7 +7,9 @@
 
 namespace sonarelle {
 
-Panel::Panel(QWidget* parent) : QWidget{parent}, plate_{studio::panel} {
+Panel::Panel(QWidget* parent)
+    : QWidget{parent},
+      plate_{studio::panel} {
     setMouseTracking(true);
     tell_ground();
 }
@@ -42,7 +44,8 @@ void Panel::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 8, 8);
 }
 
-Lamp::Lamp(QWidget* parent) : QWidget{parent} {
+Lamp::Lamp(QWidget* parent)
+    : QWidget{parent} {
     setFixedSize(14, 14);
 }
 

@@ -9,7 +9,9 @@
 
 namespace sonarelle {
 
-ProgressStrip::ProgressStrip(QWidget* parent) : QWidget{parent}, fill_{studio::air} {
+ProgressStrip::ProgressStrip(QWidget* parent)
+    : QWidget{parent},
+      fill_{studio::air} {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMouseTracking(true);
 }

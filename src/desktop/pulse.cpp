@@ -5,7 +5,8 @@
 namespace sonarelle {
 
 Pulse::Pulse(int wake_descriptor, std::function<Nanoseconds()> beat)
-    : beat_{std::move(beat)}, posted_{wake_descriptor, QSocketNotifier::Read} {
+    : beat_{std::move(beat)},
+      posted_{wake_descriptor, QSocketNotifier::Read} {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, [this] { this->beat(); });

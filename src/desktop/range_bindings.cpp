@@ -8,7 +8,9 @@
 namespace sonarelle {
 
 SliderBinding::SliderBinding(Slider& slider, QSlider& widget, const DesktopServices& services)
-    : Binding{slider, widget, services}, slider_{slider}, handle_{widget} {
+    : Binding{slider, widget, services},
+      slider_{slider},
+      handle_{widget} {
     handle_.setSingleStep(1);
     handle_.setPageStep(5);
     connect(&handle_, &QSlider::valueChanged, this, [this](int value) { run([&] { slider_.set_value(value); }); });
@@ -20,7 +22,9 @@ void SliderBinding::show_state() {
 }
 
 ProgressBinding::ProgressBinding(ProgressBar& bar, ProgressStrip& widget, const DesktopServices& services)
-    : Binding{bar, widget, services}, bar_{bar}, strip_{widget} {
+    : Binding{bar, widget, services},
+      bar_{bar},
+      strip_{widget} {
     const auto place = [this](double share) { return static_cast<int>(share * bar_.units_wide); };
     strip_.on_press = [this, place](double share) { run([&] { bar_.click_at(place(share)); }); };
     strip_.on_move = [this, place](double share) {

@@ -41,7 +41,10 @@ public:
 } // namespace
 
 RowTableBinding::RowTableBinding(RowTable& table, QTableView& widget, const DesktopServices& services)
-    : Binding{table, widget, services}, table_{table}, view_{widget}, model_{table, services.updates} {
+    : Binding{table, widget, services},
+      table_{table},
+      view_{widget},
+      model_{table, services.updates} {
     view_.setModel(&model_);
     dress();
     view_.viewport()->installEventFilter(this);

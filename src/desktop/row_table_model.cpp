@@ -14,7 +14,11 @@ bool is_number(const std::string& text) {
 } // namespace
 
 RowTableModel::RowTableModel(RowTable& table, UpdateQueue& updates)
-    : table_{table}, updates_{updates}, count_{table.count()}, ground_{studio::groove}, ink_{studio::text} {
+    : table_{table},
+      updates_{updates},
+      count_{table.count()},
+      ground_{studio::groove},
+      ink_{studio::text} {
     table_.observe_rows(this);
 }
 

@@ -27,7 +27,8 @@ QString state_word(DeckRole role) {
 } // namespace
 
 SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& services)
-    : WindowView{window, services, least_size}, window_{window} {
+    : WindowView{window, services, least_size},
+      window_{window} {
     auto* panel = new Panel;
     auto* rows = new QVBoxLayout{panel};
     rows->addLayout(reading());

@@ -16,7 +16,9 @@ constexpr float lowest_decibel = -72;
 } // namespace
 
 SoundPictureView::SoundPictureView(const SoundReading& reading, QWidget* parent)
-    : QWidget{parent}, reading_{reading}, frames_(2 * wave_frames) {
+    : QWidget{parent},
+      reading_{reading},
+      frames_(2 * wave_frames) {
     timer_.setInterval(interval);
     connect(&timer_, &QTimer::timeout, this, [this] { update(); });
 }

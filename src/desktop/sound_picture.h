@@ -43,7 +43,9 @@ private:
 class SoundDisplayBinding : public Binding {
 public:
     SoundDisplayBinding(SoundDisplay& display, SoundPictureView& widget, const DesktopServices& services)
-        : Binding{display, widget, services}, display_{display}, view_{widget} {}
+        : Binding{display, widget, services},
+          display_{display},
+          view_{widget} {}
 
 protected:
     void show_state() override {

@@ -23,7 +23,8 @@ double text_scale() {
 
 } // namespace
 
-StationLabel::StationLabel(const Style& style, QWidget* parent) : QWidget{parent} {
+StationLabel::StationLabel(const Style& style, QWidget* parent)
+    : QWidget{parent} {
     set_style(style);
 }
 

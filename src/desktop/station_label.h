@@ -22,7 +22,8 @@ public:
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
 
-    explicit StationLabel(QWidget* parent = nullptr) : StationLabel{Style{}, parent} {}
+    explicit StationLabel(QWidget* parent = nullptr)
+        : StationLabel{Style{}, parent} {}
     explicit StationLabel(const Style& style, QWidget* parent = nullptr);
 
     virtual void set_text(const QString& text);

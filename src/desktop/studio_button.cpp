@@ -36,8 +36,8 @@ QColor colour_of(Accent accent) {
 }
 
 StudioButton::StudioButton(QWidget* parent)
-    : QAbstractButton{parent}, face_{studio::face, studio::text,   studio::edge,
-                                     studio::text, studio::groove, studio::text} {
+    : QAbstractButton{parent},
+      face_{studio::face, studio::text, studio::edge, studio::text, studio::groove, studio::text} {
     setFocusPolicy(Qt::TabFocus); // a space bar after a click would press it again
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

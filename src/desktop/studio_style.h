@@ -10,7 +10,8 @@ inline constexpr const char* lamp_stands_beside = "lamp_stands_beside";
 /// The toolkit's plain style, with the keyboard's focus drawn as on the studio's own buttons.
 class StudioStyle : public QProxyStyle {
 public:
-    StudioStyle() : QProxyStyle{"Fusion"} {}
+    StudioStyle()
+        : QProxyStyle{"Fusion"} {}
 
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -30,7 +30,9 @@ void embolden(QWidget& widget) {
 }
 
 LabelBinding::LabelBinding(Label& label, StationLabel& widget, const DesktopServices& services)
-    : Binding{label, widget, services}, label_{label}, text_{widget} {
+    : Binding{label, widget, services},
+      label_{label},
+      text_{widget} {
     widget.on_press = [this] { run([this] { label_.click(); }); };
     widget.set_pressable(label.on_click != nullptr);
     if (label.on_click == nullptr)
@@ -56,7 +58,9 @@ QString LabelBinding::caption() const {
 }
 
 TextBoxBinding::TextBoxBinding(TextBox& box, QLineEdit& widget, const DesktopServices& services)
-    : Binding{box, widget, services}, box_{box}, line_{widget} {
+    : Binding{box, widget, services},
+      box_{box},
+      line_{widget} {
     embolden(line_);
     connect(&line_, &QLineEdit::textEdited, this,
             [this](const QString& text) { run([&] { box_.set_text(from_qt(text)); }); });
@@ -75,7 +79,9 @@ void TextBoxBinding::paint(QPalette& palette) const {
 }
 
 RichTextBinding::RichTextBinding(RichText& text, QTextEdit& widget, const DesktopServices& services)
-    : Binding{text, widget, services}, text_{text}, edit_{widget} {
+    : Binding{text, widget, services},
+      text_{text},
+      edit_{widget} {
     connect(&edit_, &QTextEdit::textChanged, this, [this] {
         run([this] {
             text_.text = from_qt(edit_.toPlainText());

@@ -21,7 +21,8 @@ bool TurnedTitle::take(const QString& text) {
     return false;
 }
 
-TitleLabel::TitleLabel(const Style& style, QWidget* parent) : StationLabel{style, parent} {
+TitleLabel::TitleLabel(const Style& style, QWidget* parent)
+    : StationLabel{style, parent} {
     step_.setInterval(step_interval);
     rest_.setSingleShot(true);
     rest_.setInterval(turn_missed);

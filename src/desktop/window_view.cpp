@@ -48,8 +48,11 @@ int within(int start, int length, int room_start, int room_length) {
 } // namespace
 
 WindowView::WindowView(Window& window, const DesktopServices& services, QSize least)
-    : window_{window}, services_{services}, content_{new QWidget{this}}, bar_{new QMenuBar{this}}, menus_{window, *this,
-                                                                                                          services} {
+    : window_{window},
+      services_{services},
+      content_{new QWidget{this}},
+      bar_{new QMenuBar{this}},
+      menus_{window, *this, services} {
     setObjectName(to_qt(window.name()));
     setMouseTracking(true);
     content_->setMouseTracking(true);

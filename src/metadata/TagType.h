@@ -11,7 +11,9 @@ namespace sonarelle {
 
 /// One tag of each kind. The disk outlives it.
 struct TagType {
-    explicit TagType(Disk& disk) : V1{disk}, Mpeg{disk} {}
+    explicit TagType(Disk& disk)
+        : V1{disk},
+          Mpeg{disk} {}
 
     TypeTagV1 V1;
     TypeTagMpeg Mpeg;

@@ -13,7 +13,8 @@ namespace sonarelle {
 /// behind it. Texts are those shown to the operator. Only reads files. The disk outlives it.
 class TypeTagMpeg {
 public:
-    explicit TypeTagMpeg(Disk& disk) : disk_{&disk} {}
+    explicit TypeTagMpeg(Disk& disk)
+        : disk_{&disk} {}
 
     /// Looks for the first believable frame and fills this record, of which it returns a copy; a file without one
     /// leaves it cleared. `strict` refuses Layer I, and MPEG 2.0 without a block of variable rate: for files that have

@@ -14,7 +14,8 @@ namespace sonarelle {
 /// no accents, no control characters but line breaks. The disk outlives it.
 class TypeTagV1 {
 public:
-    explicit TypeTagV1(Disk& disk) : disk_{&disk} {}
+    explicit TypeTagV1(Disk& disk)
+        : disk_{&disk} {}
 
     /// Returns what the file's tag says, as the setters make it. This object itself is left holding the raw fields:
     /// the text as it stands in the file, accents included. Without a tag, or when the file can't be read, both are

@@ -32,8 +32,13 @@ double divided(double value, double divisor) {
 
 MpegFrameReader::MpegFrameReader(TypeTagMpeg& record, std::span<const std::byte> bytes, std::int32_t position,
                                  std::int32_t file_size)
-    : record_{record}, bytes_{bytes}, position_{position},
-      file_size_{file_size}, h0_{byte_at(1)}, h1_{byte_at(2)}, h2_{byte_at(3)} {}
+    : record_{record},
+      bytes_{bytes},
+      position_{position},
+      file_size_{file_size},
+      h0_{byte_at(1)},
+      h1_{byte_at(2)},
+      h2_{byte_at(3)} {}
 
 bool MpegFrameReader::read(bool strict) {
     try {

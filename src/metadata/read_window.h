@@ -15,7 +15,8 @@ namespace sonarelle {
 /// as the file's end; those before it are still given.
 class ReadWindow {
 public:
-    explicit ReadWindow(RecordFile& file) : file_{file} {}
+    explicit ReadWindow(RecordFile& file)
+        : file_{file} {}
 
     /// `count` bytes (at most the window's size) from `position` on, fewer where the file ends.
     /// Valid until the next call.

@@ -36,7 +36,10 @@ std::string ecrire_ini(Disk& disk, Dialogs& dialogs, std::string_view fichier, s
 
 TagSettings::TagSettings(Disk& disk, Dialogs& dialogs, std::string program_folder, const TextBox& txtmasque,
                          Button& save_button)
-    : disk_{disk}, dialogs_{dialogs}, program_folder_{std::move(program_folder)}, txtmasque_{txtmasque},
+    : disk_{disk},
+      dialogs_{dialogs},
+      program_folder_{std::move(program_folder)},
+      txtmasque_{txtmasque},
       save_button_{save_button} {}
 
 void TagSettings::window_loads() {

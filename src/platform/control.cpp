@@ -5,7 +5,9 @@
 namespace sonarelle {
 
 Control::Control(Window& parent, ControlKind kind, std::string name)
-    : name_{std::move(name)}, kind_{kind}, parent_{&parent} {
+    : name_{std::move(name)},
+      kind_{kind},
+      parent_{&parent} {
     parent.controls_.push_back(this);
 }
 

@@ -24,7 +24,9 @@ public:
 template <typename Value>
 class Property {
 public:
-    Property(Control& owner, Value initial) : owner_{owner}, value_{std::move(initial)} {}
+    Property(Control& owner, Value initial)
+        : owner_{owner},
+          value_{std::move(initial)} {}
     Property(const Property&) = delete;
     Property& operator=(const Property&) = delete;
 
@@ -111,7 +113,9 @@ public:
 
 protected:
     /// For a window, which is its own parent.
-    Control(ControlKind kind, std::string name) : name_{std::move(name)}, kind_{kind} {}
+    Control(ControlKind kind, std::string name)
+        : name_{std::move(name)},
+          kind_{kind} {}
 
     static void raise(const std::function<void()>& event) {
         if (event)

@@ -6,7 +6,9 @@
 namespace sonarelle {
 
 OptionButton::OptionButton(Window& parent, OptionGroup& group, std::string name, std::string text)
-    : Control{parent, ControlKind::option_button, std::move(name)}, caption{*this, std::move(text)}, group_{group} {
+    : Control{parent, ControlKind::option_button, std::move(name)},
+      caption{*this, std::move(text)},
+      group_{group} {
     group_.options_.push_back(this);
 }
 

@@ -17,7 +17,8 @@ namespace sonarelle {
 class Label : public Control {
 public:
     Label(Window& parent, std::string name, std::string text = {})
-        : Control{parent, ControlKind::label, std::move(name)}, caption{*this, std::move(text)} {}
+        : Control{parent, ControlKind::label, std::move(name)},
+          caption{*this, std::move(text)} {}
 
     void click() { raise_by_hand(on_click); }
 
@@ -28,7 +29,8 @@ public:
 class Button : public Control {
 public:
     Button(Window& parent, std::string name, std::string text = {})
-        : Control{parent, ControlKind::button, std::move(name)}, caption{*this, std::move(text)} {}
+        : Control{parent, ControlKind::button, std::move(name)},
+          caption{*this, std::move(text)} {}
 
     void click() { raise_by_hand(on_click); }
 
@@ -40,7 +42,8 @@ public:
 
 protected:
     Button(Window& parent, ControlKind kind, std::string name, std::string text)
-        : Control{parent, kind, std::move(name)}, caption{*this, std::move(text)} {}
+        : Control{parent, kind, std::move(name)},
+          caption{*this, std::move(text)} {}
 };
 
 /// A button that is drawn, with colours of its own for the pointer over it and for being down.
@@ -59,7 +62,8 @@ public:
 class Image : public Control {
 public:
     Image(Window& parent, std::string name, std::string file = {})
-        : Control{parent, ControlKind::image, std::move(name)}, picture{*this, std::move(file)} {}
+        : Control{parent, ControlKind::image, std::move(name)},
+          picture{*this, std::move(file)} {}
 
     void click() { raise_by_hand(on_click); }
 
@@ -70,7 +74,8 @@ public:
 class Frame : public Control {
 public:
     Frame(Window& parent, std::string name, std::string text = {})
-        : Control{parent, ControlKind::frame, std::move(name)}, caption{*this, std::move(text)} {}
+        : Control{parent, ControlKind::frame, std::move(name)},
+          caption{*this, std::move(text)} {}
 
     Property<std::string> caption;
 };
@@ -78,7 +83,8 @@ public:
 class TextBox : public Control {
 public:
     TextBox(Window& parent, std::string name, std::string initial = {})
-        : Control{parent, ControlKind::text_box, std::move(name)}, text_{*this, std::move(initial)} {}
+        : Control{parent, ControlKind::text_box, std::move(name)},
+          text_{*this, std::move(initial)} {}
 
     [[nodiscard]] const std::string& text() const { return text_; }
     void set_text(std::string text) {
@@ -98,7 +104,8 @@ private:
 class CheckBox : public Control {
 public:
     CheckBox(Window& parent, std::string name, std::string text = {})
-        : Control{parent, ControlKind::check_box, std::move(name)}, caption{*this, std::move(text)} {}
+        : Control{parent, ControlKind::check_box, std::move(name)},
+          caption{*this, std::move(text)} {}
 
     [[nodiscard]] int value() const { return value_; }
     void set_value(int value) {
@@ -157,7 +164,9 @@ private:
 class Slider : public Control {
 public:
     Slider(Window& parent, std::string name, int least, int greatest)
-        : Control{parent, ControlKind::slider, std::move(name)}, minimum{*this, least}, maximum{*this, greatest} {}
+        : Control{parent, ControlKind::slider, std::move(name)},
+          minimum{*this, least},
+          maximum{*this, greatest} {}
 
     [[nodiscard]] int value() const { return value_; }
     /// A value outside the range is refused.
@@ -183,7 +192,8 @@ private:
 
 class ProgressBar : public Control {
 public:
-    ProgressBar(Window& parent, std::string name) : Control{parent, ControlKind::progress_bar, std::move(name)} {}
+    ProgressBar(Window& parent, std::string name)
+        : Control{parent, ControlKind::progress_bar, std::move(name)} {}
 
     /// 0 to 100; exactly 100 once the value has reached the maximum.
     [[nodiscard]] int percent() const;
@@ -211,7 +221,8 @@ private:
 class ComboBox : public Control {
 public:
     ComboBox(Window& parent, std::string name, std::string initial = {})
-        : Control{parent, ControlKind::combo_box, std::move(name)}, text_{*this, std::move(initial)} {}
+        : Control{parent, ControlKind::combo_box, std::move(name)},
+          text_{*this, std::move(initial)} {}
 
     [[nodiscard]] const std::string& text() const { return text_; }
     void set_text(std::string text) {
@@ -241,7 +252,8 @@ private:
 
 class ListBox : public Control {
 public:
-    ListBox(Window& parent, std::string name) : Control{parent, ControlKind::list_box, std::move(name)} {}
+    ListBox(Window& parent, std::string name)
+        : Control{parent, ControlKind::list_box, std::move(name)} {}
 
     void choose(int index) {
         if (!is_reachable())
@@ -259,7 +271,8 @@ public:
 class MenuItem : public Control {
 public:
     MenuItem(Window& parent, std::string name, std::string text = {}, std::string keys = {})
-        : Control{parent, ControlKind::menu_item, std::move(name)}, caption{*this, std::move(text)},
+        : Control{parent, ControlKind::menu_item, std::move(name)},
+          caption{*this, std::move(text)},
           shortcut{*this, std::move(keys)} {}
 
     void click() { raise_by_hand(on_click); }
@@ -286,7 +299,8 @@ private:
 /// A place for a movie, by its file's name.
 class Movie : public Control {
 public:
-    Movie(Window& parent, std::string name) : Control{parent, ControlKind::movie, std::move(name)} {}
+    Movie(Window& parent, std::string name)
+        : Control{parent, ControlKind::movie, std::move(name)} {}
 
     void Play() { playing = true; }
 
@@ -300,7 +314,8 @@ enum class SoundPicture { oscilloscope, spectrum };
 /// A picture of what is heard.
 class SoundDisplay : public Control {
 public:
-    SoundDisplay(Window& parent, std::string name) : Control{parent, ControlKind::sound_display, std::move(name)} {}
+    SoundDisplay(Window& parent, std::string name)
+        : Control{parent, ControlKind::sound_display, std::move(name)} {}
 
     /// Takes sound in, or stops doing so.
     void InStart() { takes_sound = true; }
@@ -313,7 +328,8 @@ public:
 /// Text of several fonts and colours.
 class RichText : public Control {
 public:
-    RichText(Window& parent, std::string name) : Control{parent, ControlKind::rich_text, std::move(name)} {}
+    RichText(Window& parent, std::string name)
+        : Control{parent, ControlKind::rich_text, std::move(name)} {}
 
     Property<std::string> text{*this, {}};
     Property<int> selection_start{*this, 0};

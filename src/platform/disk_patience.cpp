@@ -97,7 +97,8 @@ struct DiskHelper::Queue {
     }
 };
 
-DiskHelper::DiskHelper() : queue_{std::make_shared<Queue>()} {
+DiskHelper::DiskHelper()
+    : queue_{std::make_shared<Queue>()} {
     std::thread{[queue = queue_] { queue->run(); }}.detach();
 }
 

@@ -54,7 +54,8 @@ public:
     /// Without a limit the window thread waits itself, for ever. The mount table is the system's, or another file of
     /// its form.
     explicit DiskPatience(Limit limit = {}, std::string mount_table = "/proc/self/mountinfo")
-        : limit_{limit}, mount_table_{std::move(mount_table)} {}
+        : limit_{limit},
+          mount_table_{std::move(mount_table)} {}
 
     /// Runs `work`, which asks for an absolute path of this machine, and gives its result. The work must own all that
     /// it uses: it may outlive everything else.

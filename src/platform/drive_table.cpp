@@ -28,7 +28,8 @@ std::string exchanged(std::string_view text, char from, char to) {
 
 } // namespace
 
-DriveTable::DriveTable() : folders_{{"C", ""}} {}
+DriveTable::DriveTable()
+    : folders_{{"C", ""}} {}
 
 void DriveTable::set(std::string_view drive, std::string_view machine_folder) {
     folders_[key_of(drive)] = without_final_slash(machine_folder);

@@ -45,7 +45,9 @@ std::string_view failure_description(int number) {
 }
 
 Failure::Failure(int failure_number, std::string failure_source, std::string failure_sentence)
-    : number{failure_number}, source{std::move(failure_source)},
-      description{std::move(failure_sentence)}, message_{source.empty() ? description : source + " : " + description} {}
+    : number{failure_number},
+      source{std::move(failure_source)},
+      description{std::move(failure_sentence)},
+      message_{source.empty() ? description : source + " : " + description} {}
 
 } // namespace sonarelle

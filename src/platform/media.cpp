@@ -6,7 +6,8 @@ namespace {
 
 class LengthsByGraph final : public LengthsAhead {
 public:
-    explicit LengthsByGraph(Media& media) : media_{media} {}
+    explicit LengthsByGraph(Media& media)
+        : media_{media} {}
 
     void want(std::string_view) override {}
 

@@ -41,7 +41,8 @@ private:
 class Flag {
 public:
     constexpr Flag() = default;
-    constexpr Flag(bool value) : word_{static_cast<std::int16_t>(value ? -1 : 0)} {} // NOLINT: reads as a truth value
+    constexpr Flag(bool value)
+        : word_{static_cast<std::int16_t>(value ? -1 : 0)} {} // NOLINT: reads as a truth value
     [[nodiscard]] static constexpr Flag of_word(std::int16_t word) {
         Flag flag;
         flag.word_ = word;

@@ -5,7 +5,8 @@
 namespace sonarelle {
 
 Random::Random(std::uint64_t seed, std::function<std::uint64_t()> entropy)
-    : state_{seed}, entropy_{std::move(entropy)} {}
+    : state_{seed},
+      entropy_{std::move(entropy)} {}
 
 float Random::Rnd() {
     // 24 bits fill the mantissa of a single exactly, so that 1 is never reached by rounding.

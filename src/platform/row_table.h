@@ -43,7 +43,8 @@ public:
     using Row = std::array<std::string, column_count>;
 
     RowTable(Window& parent, std::string name, std::vector<Column> columns)
-        : Control{parent, ControlKind::row_table, std::move(name)}, columns_{std::move(columns)} {}
+        : Control{parent, ControlKind::row_table, std::move(name)},
+          columns_{std::move(columns)} {}
 
     [[nodiscard]] const std::vector<Column>& columns() const { return columns_; }
     void observe_rows(RowTableObserver* observer) { row_observer_ = observer; }

@@ -12,7 +12,10 @@ namespace {
 
 class TickUnderWay {
 public:
-    explicit TickUnderWay(bool& ticking) : ticking_{ticking} { ticking_ = true; }
+    explicit TickUnderWay(bool& ticking)
+        : ticking_{ticking} {
+        ticking_ = true;
+    }
     ~TickUnderWay() { ticking_ = false; }
     TickUnderWay(const TickUnderWay&) = delete;
     TickUnderWay& operator=(const TickUnderWay&) = delete;
@@ -24,7 +27,9 @@ private:
 } // namespace
 
 Timer::Timer(std::string name, int number, Scheduler& scheduler)
-    : name_{std::move(name)}, number_{number}, scheduler_{scheduler} {
+    : name_{std::move(name)},
+      number_{number},
+      scheduler_{scheduler} {
     scheduler_.add(*this);
 }
 

@@ -27,7 +27,8 @@ private:
 /// Holds a mutex for as long as it lives.
 class SONARELLE_THREAD_ANNOTATION(scoped_lockable) MutexLock {
 public:
-    explicit MutexLock(Mutex& mutex) SONARELLE_THREAD_ANNOTATION(acquire_capability(mutex)) : mutex_{mutex} {
+    explicit MutexLock(Mutex& mutex) SONARELLE_THREAD_ANNOTATION(acquire_capability(mutex))
+        : mutex_{mutex} {
         mutex_.lock();
     }
     ~MutexLock() SONARELLE_THREAD_ANNOTATION(release_capability()) { mutex_.unlock(); }

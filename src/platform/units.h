@@ -10,7 +10,8 @@ template <typename Unit, typename Number>
 class Quantity {
 public:
     constexpr Quantity() = default;
-    constexpr explicit Quantity(Number number) : number_{number} {}
+    constexpr explicit Quantity(Number number)
+        : number_{number} {}
 
     [[nodiscard]] constexpr Number count() const { return number_; }
 

@@ -31,7 +31,10 @@ private:
 /// A window of the station: a struct of controls derives from it. Places and sizes are in twips.
 class Window : public Control {
 public:
-    explicit Window(std::string name) : Control{ControlKind::window, std::move(name)} { visible = false; }
+    explicit Window(std::string name)
+        : Control{ControlKind::window, std::move(name)} {
+        visible = false;
+    }
 
     /// All parts, in the order in which they were made.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
@@ -100,7 +103,9 @@ private:
     int shows_ = 0;
 };
 
-inline WindowPlace::WindowPlace(Window& window) : Property{window, Twips{}}, window_{window} {}
+inline WindowPlace::WindowPlace(Window& window)
+    : Property{window, Twips{}},
+      window_{window} {}
 
 inline WindowPlace& WindowPlace::operator=(Twips place) {
     given_ = true;

@@ -13,8 +13,14 @@ class AudioEditor {
 public:
     AudioEditor(const Platform& platform, const StationSettings& settings, ListState& list, ChainState& chain,
                 DestinationRecord& destination, Liste_son& window, ListGuard& guard, RowReading& reading)
-        : platform_{platform}, settings_{settings}, list_{list}, chain_{chain},
-          destination_{destination}, window_{window}, guard_{guard}, reading_{reading} {}
+        : platform_{platform},
+          settings_{settings},
+          list_{list},
+          chain_{chain},
+          destination_{destination},
+          window_{window},
+          guard_{guard},
+          reading_{reading} {}
 
     void a_modifie_morceau();
 

@@ -20,7 +20,8 @@ class DefaultList {
 public:
     using Write = std::function<void(ListWriter&)>;
 
-    explicit DefaultList(const Platform& platform) : platform_{platform} {}
+    explicit DefaultList(const Platform& platform)
+        : platform_{platform} {}
 
     [[nodiscard]] const std::string& name() const { return name_; }
 

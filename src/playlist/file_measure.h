@@ -23,7 +23,8 @@ using MeasuredFile = std::variant<TrackFacts, Failure>;
 /// Measures one file apart from the decks.
 class FileMeasure {
 public:
-    explicit FileMeasure(const Platform& platform) : platform_{platform} {}
+    explicit FileMeasure(const Platform& platform)
+        : platform_{platform} {}
 
     [[nodiscard]] MeasuredFile met_ajour(const std::string& path) const;
     /// The same of a file whose length was measured ahead.

@@ -10,7 +10,8 @@ namespace sonarelle {
 /// The progress window of long work: a text and a bar. Closing it asks the work to end, which the work sees at its next
 /// step.
 struct fsauve : Window {
-    fsauve() : Window{"fsauve"} {
+    fsauve()
+        : Window{"fsauve"} {
         caption = "Traitement en cours";
         on_unload_request = [this] {
             cancelled_ = true;

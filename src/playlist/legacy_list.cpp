@@ -10,7 +10,11 @@ namespace sonarelle {
 
 LegacyList::LegacyList(const Platform& platform, const StationSettings& settings, ListState& list,
                        ListDocument& document, ListSaveDialog& save_dialog, std::function<void()> test_files)
-    : platform_{platform}, settings_{settings}, list_{list}, document_{document}, save_dialog_{save_dialog},
+    : platform_{platform},
+      settings_{settings},
+      list_{list},
+      document_{document},
+      save_dialog_{save_dialog},
       test_files_{std::move(test_files)} {}
 
 void LegacyList::A_Copen_rfm() {

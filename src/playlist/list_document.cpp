@@ -18,7 +18,10 @@ namespace {
 /// Shows the busy pointer for as long as it lives.
 class BusyPointer {
 public:
-    explicit BusyPointer(Window& window) : window_{window} { window_.mouse_pointer = 13; }
+    explicit BusyPointer(Window& window)
+        : window_{window} {
+        window_.mouse_pointer = 13;
+    }
     ~BusyPointer() { window_.mouse_pointer = 0; }
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
@@ -37,7 +40,10 @@ bool is_refusal_of_the_disk(int number) {
 } // namespace
 
 ListDocument::ListDocument(const Platform& platform, StationSettings& settings, ListState& list, Liste_son& window)
-    : platform_{platform}, settings_{settings}, list_{list}, window_{window} {}
+    : platform_{platform},
+      settings_{settings},
+      list_{list},
+      window_{window} {}
 
 void ListDocument::charge_liste() {
     run_load([this] {

@@ -17,8 +17,10 @@ namespace sonarelle {
 template <typename Record>
 class RecordReader {
 public:
-    RecordReader(Disk& disk, std::string_view path) : RecordReader{disk.open_or_create(path)} {}
-    explicit RecordReader(std::unique_ptr<RecordFile> file) : file_{std::move(file)} {}
+    RecordReader(Disk& disk, std::string_view path)
+        : RecordReader{disk.open_or_create(path)} {}
+    explicit RecordReader(std::unique_ptr<RecordFile> file)
+        : file_{std::move(file)} {}
 
     /// Whole records; what is left behind the last one is none.
     [[nodiscard]] std::int64_t count() const { return file_->length() / record_size; }
@@ -49,7 +51,8 @@ using LegacyListReader = RecordReader<enreg_rfm>;
 /// A list that is written whole. Until `commit_over`, the old list stands.
 class ListWriter {
 public:
-    ListWriter(Disk& disk, std::string_view path) : file_{disk.replace(path)} {}
+    ListWriter(Disk& disk, std::string_view path)
+        : file_{disk.replace(path)} {}
 
     void write(const enreg_liste& record) { file_->write(record.bytes()); }
     /// @see FileReplacement::commit_over

@@ -11,7 +11,9 @@ namespace sonarelle {
 class ListGuard {
 public:
     ListGuard(const Platform& platform, const ListState& list, const Liste_son& window)
-        : platform_{platform}, list_{list}, window_{window} {}
+        : platform_{platform},
+          list_{list},
+          window_{window} {}
 
     /// False, without a word, while another action is under way.
     [[nodiscard]] bool allows(ListAction action) const;
@@ -31,7 +33,9 @@ private:
 /// in wherever an action yields.
 class ListWork {
 public:
-    ListWork(ListGuard& guard, Window& window) : guard_{guard}, window_{window} {
+    ListWork(ListGuard& guard, Window& window)
+        : guard_{guard},
+          window_{window} {
         guard_.at_work_ = true;
         window_.mouse_pointer = 11;
     }

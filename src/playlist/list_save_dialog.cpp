@@ -23,7 +23,11 @@ std::string with_dfm_ending(std::string_view name) {
 
 ListSaveDialog::ListSaveDialog(const Platform& platform, const StationSettings& settings, ListState& list,
                                Liste_son& window, ListDocument& document)
-    : platform_{platform}, settings_{settings}, list_{list}, window_{window}, document_{document} {}
+    : platform_{platform},
+      settings_{settings},
+      list_{list},
+      window_{window},
+      document_{document} {}
 
 void ListSaveDialog::A_enreg_sous() {
     if (window_.rows.count() == 0) {

@@ -23,9 +23,18 @@ constexpr std::chrono::milliseconds a_look{5}; // far below the lead by which ti
 ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
                        Liste_son& window, fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog,
                        ListGuard& guard, RowReading& reading, FileMeasure& measure, ListVerification& verification)
-    : platform_{platform}, list_{list}, chain_{chain},
-      destination_{destination}, window_{window}, progress_{progress}, document_{document},
-      save_dialog_{save_dialog}, guard_{guard}, reading_{reading}, measure_{measure}, verification_{verification} {}
+    : platform_{platform},
+      list_{list},
+      chain_{chain},
+      destination_{destination},
+      window_{window},
+      progress_{progress},
+      document_{document},
+      save_dialog_{save_dialog},
+      guard_{guard},
+      reading_{reading},
+      measure_{measure},
+      verification_{verification} {}
 
 void ListUpdate::a_mettre_a_jour() {
     list_.volume_nul_signale = true;

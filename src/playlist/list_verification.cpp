@@ -18,8 +18,16 @@ ListVerification::ListVerification(const Platform& platform, ListState& list, Ch
                                    DestinationRecord& destination, Liste_son& window, fsauve& progress,
                                    ListDocument& document, ListGuard& guard, RowReading& reading,
                                    std::function<void(const std::string&)> note)
-    : platform_{platform}, list_{list}, chain_{chain}, destination_{destination}, window_{window}, progress_{progress},
-      document_{document}, guard_{guard}, reading_{reading}, note_{std::move(note)} {}
+    : platform_{platform},
+      list_{list},
+      chain_{chain},
+      destination_{destination},
+      window_{window},
+      progress_{progress},
+      document_{document},
+      guard_{guard},
+      reading_{reading},
+      note_{std::move(note)} {}
 
 void ListVerification::prechar() {
     if (!guard_.allows(ListAction::prechar))

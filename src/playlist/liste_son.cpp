@@ -15,7 +15,9 @@ std::vector<Column> list_columns() {
 
 } // namespace
 
-Liste_son::Liste_son() : Window{"Liste_son"}, rows{*this, "ListView1", list_columns()} {
+Liste_son::Liste_son()
+    : Window{"Liste_son"},
+      rows{*this, "ListView1", list_columns()} {
     file_name.visible = false;
     A_sauve.checked = true;
     modifier_chemin_non.checked = true;

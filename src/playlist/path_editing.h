@@ -10,7 +10,9 @@ namespace sonarelle {
 class PathEditing {
 public:
     PathEditing(ListState& list, Liste_son& window, ListDocument& document)
-        : list_{list}, window_{window}, document_{document} {}
+        : list_{list},
+          window_{window},
+          document_{document} {}
 
     void modifier_chemin() { choose(true); }
     void modifier_chemin_non() { choose(false); }

@@ -12,7 +12,11 @@ namespace sonarelle {
 
 RecordReading::RecordReading(const Platform& platform, ListState& list, DestinationRecord& destination,
                              DraggedRecord& dragged, const RowTable& rows, std::function<void()> warn_of_null_volume)
-    : platform_{platform}, list_{list}, destination_{destination}, dragged_{dragged}, rows_{rows},
+    : platform_{platform},
+      list_{list},
+      destination_{destination},
+      dragged_{dragged},
+      rows_{rows},
       warn_of_null_volume_{std::move(warn_of_null_volume)} {}
 
 void RecordReading::lire_enreg_destinataire() {

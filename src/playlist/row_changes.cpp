@@ -20,8 +20,14 @@ std::string path_of_record(const std::string& path) {
 
 RowChanges::RowChanges(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
                        Liste_son& window, ListDocument& document, ListGuard& guard, RowReading& reading)
-    : platform_{platform}, list_{list}, chain_{chain},
-      destination_{destination}, window_{window}, document_{document}, guard_{guard}, reading_{reading} {}
+    : platform_{platform},
+      list_{list},
+      chain_{chain},
+      destination_{destination},
+      window_{window},
+      document_{document},
+      guard_{guard},
+      reading_{reading} {}
 
 void RowChanges::Modifier_lettre_lecteur() {
     const ListActionRow& action = list_action(ListAction::Modifier_lettre_lecteur);

@@ -45,7 +45,11 @@ int RowReading::place_of(const RowTable::Row& wanted, int old_place) const {
 }
 
 KeptForTheAir::KeptForTheAir(ChainState& chain, ListState& list, DestinationRecord& destination)
-    : chain_{chain}, list_{list}, destination_{destination}, kept_{destination}, chemin_fichier_{list.chemin_fichier} {}
+    : chain_{chain},
+      list_{list},
+      destination_{destination},
+      kept_{destination},
+      chemin_fichier_{list.chemin_fichier} {}
 
 KeptForTheAir::~KeptForTheAir() {
     if (chain_.lecteur_en_cours == 0)

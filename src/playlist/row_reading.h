@@ -16,7 +16,10 @@ class RowReading {
 public:
     RowReading(const Platform& platform, const DestinationRecord& destination, const Liste_son& window,
                RecordReading& reading)
-        : platform_{platform}, destination_{destination}, window_{window}, reading_{reading} {}
+        : platform_{platform},
+          destination_{destination},
+          window_{window},
+          reading_{reading} {}
 
     /// The record of a row into the destination record. The file is the list; where it doesn't have this row, because
     /// a save has failed or was not wanted, the row itself counts, so that no row is ever taken for another.

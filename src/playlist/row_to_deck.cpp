@@ -10,8 +10,13 @@ namespace sonarelle {
 
 RowToDeck::RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
                      Liste_son& window, RecordReading& reading, DeckDoors decks)
-    : platform_{platform}, list_{list},
-      destination_{destination}, chain_{chain}, window_{window}, reading_{reading}, decks_{std::move(decks)} {}
+    : platform_{platform},
+      list_{list},
+      destination_{destination},
+      chain_{chain},
+      window_{window},
+      reading_{reading},
+      decks_{std::move(decks)} {}
 
 // The record comes from the file, not from the row: the file is what the decks play from. A row beyond the station's
 // 16-bit numbers can't be sent.

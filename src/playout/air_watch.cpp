@@ -17,7 +17,10 @@ constexpr Frames close_look = milliseconds(100);
 } // namespace
 
 AirWatch::AirWatch(Desk& desk, Journal& journal, ListRescue& rescue)
-    : desk_{desk}, journal_{journal}, rescue_{rescue}, timer_{"air_watch", 0, desk.platform.scheduler} {
+    : desk_{desk},
+      journal_{journal},
+      rescue_{rescue},
+      timer_{"air_watch", 0, desk.platform.scheduler} {
     timer_.on_tick = [this] { look(); };
     aim({});
     timer_.enable();

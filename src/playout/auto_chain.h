@@ -13,9 +13,14 @@ namespace sonarelle {
 class AutoChain {
 public:
     AutoChain(Desk& desk, RowCursor& row_cursor, DeckStart& start, MixEngine& mix, Journal& journal, RunControl& run)
-        : cursor{row_cursor}, load_ahead{desk, cursor, run, journal}, deck_chain{desk, start, mix, run}, overlap{desk,
-                                                                                                                 mix},
-          list_chain{desk, cursor, load_ahead, start, overlap, run}, desk_{desk}, mix_{mix}, run_{run} {}
+        : cursor{row_cursor},
+          load_ahead{desk, cursor, run, journal},
+          deck_chain{desk, start, mix, run},
+          overlap{desk, mix},
+          list_chain{desk, cursor, load_ahead, start, overlap, run},
+          desk_{desk},
+          mix_{mix},
+          run_{run} {}
 
     /// The tick of the list's chain: a special mix holds it until it has ended.
     void follow_list();

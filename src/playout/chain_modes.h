@@ -10,7 +10,10 @@ namespace sonarelle {
 /// The choices of the chain: by hand, over decks, from the list; and the reading modes of the list window.
 class ChainModes {
 public:
-    ChainModes(Desk& desk, MixEngine& mix, Journal& journal) : desk_{desk}, mix_{mix}, journal_{journal} {}
+    ChainModes(Desk& desk, MixEngine& mix, Journal& journal)
+        : desk_{desk},
+          mix_{mix},
+          journal_{journal} {}
 
     void choose_manual_mode();
     void choose_deck_chain();

@@ -34,7 +34,10 @@ class Deck {
 public:
     /// `path` is the shared variable that names the file on the deck.
     Deck(int number, Media& media, DeckControls& deck_controls, std::string& path_variable)
-        : controls{deck_controls}, path{path_variable}, media_{media}, number_{number} {}
+        : controls{deck_controls},
+          path{path_variable},
+          media_{media},
+          number_{number} {}
 
     [[nodiscard]] int number() const { return number_; }
     [[nodiscard]] std::string name() const { return std::to_string(number_); }

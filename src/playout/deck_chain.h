@@ -11,7 +11,10 @@ namespace sonarelle {
 class DeckChain {
 public:
     DeckChain(Desk& desk, DeckStart& start, MixEngine& mix, RunControl& run)
-        : desk_{desk}, start_{start}, mix_{mix}, run_{run} {}
+        : desk_{desk},
+          start_{start},
+          mix_{mix},
+          run_{run} {}
 
     /// Each second of a run over decks.
     void tick();

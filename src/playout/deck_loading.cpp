@@ -25,7 +25,10 @@ constexpr std::string_view media_filter =
 
 } // namespace
 
-DeckLoading::DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix) : desk_{desk}, volume_{volume}, mix_{mix} {}
+DeckLoading::DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix)
+    : desk_{desk},
+      volume_{volume},
+      mix_{mix} {}
 
 void DeckLoading::load_record(Deck& deck) {
     deck.create_graph();

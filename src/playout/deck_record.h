@@ -12,7 +12,10 @@ namespace sonarelle {
 class DeckRecord {
 public:
     DeckRecord(const Platform& platform, const ChainState& chain, ListState& list, DestinationRecord& destination)
-        : platform_{platform}, chain_{chain}, list_{list}, destination_{destination} {}
+        : platform_{platform},
+          chain_{chain},
+          list_{list},
+          destination_{destination} {}
 
     /// Record `index_destinataire` of `fichier_courant` into the destination record; an index of 0 becomes 1. A failure
     /// (an end point that is no 16-bit number among them) leaves the record partly filled, without a word.

@@ -21,7 +21,11 @@ bool count_up(Integer& counter) {
 } // namespace
 
 DeckStart::DeckStart(Desk& desk, DeckLoading& loading, DeckVolume& volume, MixEngine& mix, Journal& journal)
-    : desk_{desk}, loading_{loading}, volume_{volume}, mix_{mix}, journal_{journal} {}
+    : desk_{desk},
+      loading_{loading},
+      volume_{volume},
+      mix_{mix},
+      journal_{journal} {}
 
 void DeckStart::press_play(Deck& deck) {
     if (desk_.row_count() == 0 && !desk_.is_manual() && choose_chain_over_decks)

@@ -12,7 +12,11 @@ namespace sonarelle {
 class DeckTransport {
 public:
     DeckTransport(Desk& desk, DeckLoading& loading, DeckStart& start, DeckVolume& volume, MixEngine& mix)
-        : desk_{desk}, loading_{loading}, start_{start}, volume_{volume}, mix_{mix} {}
+        : desk_{desk},
+          loading_{loading},
+          start_{start},
+          volume_{volume},
+          mix_{mix} {}
 
     void stop(Deck& deck);
     /// Pauses a deck that runs, resumes any other. A paused deck stops the clock tick of the window.

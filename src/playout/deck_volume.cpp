@@ -28,7 +28,8 @@ int slider_of_attenuation(int greatest, int attenuation) {
 } // namespace
 
 DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
-    : desk_{desk}, reload_list_{std::move(reload_list)} {}
+    : desk_{desk},
+      reload_list_{std::move(reload_list)} {}
 
 void DeckVolume::adjust(Deck& deck) {
     ErrorIndicator{}.skip([&] {

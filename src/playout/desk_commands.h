@@ -8,7 +8,8 @@ namespace sonarelle {
 /// the remembered search words, the visual effect and the volume sliders.
 class DeskCommands {
 public:
-    explicit DeskCommands(Desk& desk) : desk_{desk} {}
+    explicit DeskCommands(Desk& desk)
+        : desk_{desk} {}
 
     void A_lecteur_CD_Win_Click();
     void a_vol_Click();

@@ -9,7 +9,8 @@ namespace sonarelle {
 /// Which windows are on view, and where they stand.
 class DisplayMenu {
 public:
-    explicit DisplayMenu(Desk& desk) : desk_{desk} {}
+    explicit DisplayMenu(Desk& desk)
+        : desk_{desk} {}
 
     void Affiche_barre_Click();
     void Affiche_Fenetre_L_Click();

@@ -10,7 +10,8 @@ namespace sonarelle {
 /// The play log of the station, `journal.doc` in the program's folder: one entry a line, appended and flushed at once.
 class Journal {
 public:
-    explicit Journal(Desk& desk) : desk_{desk} {}
+    explicit Journal(Desk& desk)
+        : desk_{desk} {}
 
     /// Writes `ligne_journal`, whether the journal is on or not. A disk that refuses it is passed over: the air goes
     /// on.

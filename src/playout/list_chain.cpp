@@ -9,9 +9,13 @@ namespace sonarelle {
 
 ListChain::ListChain(Desk& desk, RowCursor& cursor, LoadAhead& load_ahead, DeckStart& start, Overlap& overlap,
                      RunControl& run)
-    : desk_{desk}, cursor_{cursor},
-      load_ahead_{load_ahead}, start_{start}, overlap_{overlap}, run_{run}, walk_{"mix_walk", desk.platform.scheduler} {
-}
+    : desk_{desk},
+      cursor_{cursor},
+      load_ahead_{load_ahead},
+      start_{start},
+      overlap_{overlap},
+      run_{run},
+      walk_{"mix_walk", desk.platform.scheduler} {}
 
 void ListChain::tick() {
     if (!desk_.chain.chaine_suspendue.is_true() && !walk_.under_way())

@@ -16,7 +16,10 @@ namespace sonarelle {
 class ListRescue {
 public:
     ListRescue(Desk& desk, AutoChain& chain, ListRun& run, Journal& journal)
-        : desk_{desk}, chain_{chain}, run_{run}, journal_{journal} {}
+        : desk_{desk},
+          chain_{chain},
+          run_{run},
+          journal_{journal} {}
 
     /// The air has been silent for so long while it should not. Tries once in each span of `patience`.
     void look(Frames silent_for);

@@ -10,8 +10,15 @@ namespace sonarelle {
 
 ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
                  RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document)
-    : desk_{desk}, chain_{chain}, loading_{loading}, transport_{transport}, journal_{journal}, run_{run},
-      reading_{reading}, save_dialog_{save_dialog}, document_{document} {}
+    : desk_{desk},
+      chain_{chain},
+      loading_{loading},
+      transport_{transport},
+      journal_{journal},
+      run_{run},
+      reading_{reading},
+      save_dialog_{save_dialog},
+      document_{document} {}
 
 void ListRun::play_list() {
     if (desk_.row_count() == 0)

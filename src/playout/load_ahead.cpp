@@ -28,7 +28,11 @@ std::string two_digits(int number) {
 } // namespace
 
 LoadAhead::LoadAhead(Desk& desk, RowCursor& cursor, RunControl& run, Journal& journal)
-    : desk_{desk}, cursor_{cursor}, run_{run}, journal_{journal}, walk_{"load_walk", desk.platform.scheduler} {}
+    : desk_{desk},
+      cursor_{cursor},
+      run_{run},
+      journal_{journal},
+      walk_{"load_walk", desk.platform.scheduler} {}
 
 void LoadAhead::compteur() {
     Label& label = desk_.list_window.remaining;

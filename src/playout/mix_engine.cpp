@@ -10,7 +10,9 @@
 
 namespace sonarelle {
 
-MixEngine::MixEngine(Desk& desk, DeckVolume& volume) : desk_{desk}, volume_{volume} {
+MixEngine::MixEngine(Desk& desk, DeckVolume& volume)
+    : desk_{desk},
+      volume_{volume} {
     for (Deck& deck : desk_.decks)
         deck.on_graph_leaves = [this, &deck] { leave_special_mix(deck); };
 }

@@ -16,7 +16,9 @@ enum class StationPath { jingles, music, audio_editor };
 class OptionMenu {
 public:
     OptionMenu(Desk& desk, DisplayMenu& display, QuickLoad& quick_load)
-        : desk_{desk}, display_{display}, quick_load_{quick_load} {}
+        : desk_{desk},
+          display_{display},
+          quick_load_{quick_load} {}
 
     void nom_radio_Click();
     void A_def_jingles_Click() { define(StationPath::jingles); }

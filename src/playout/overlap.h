@@ -8,7 +8,9 @@ namespace sonarelle {
 /// What becomes of the deck behind the main one while their tracks overlap: its fade, and its release at the end.
 class Overlap {
 public:
-    Overlap(Desk& desk, MixEngine& mix) : desk_{desk}, mix_{mix} {}
+    Overlap(Desk& desk, MixEngine& mix)
+        : desk_{desk},
+          mix_{mix} {}
 
     /// A new track overlaps the old one from now on.
     void begin() { faded_deck_ = 0; }

@@ -17,7 +17,10 @@ namespace sonarelle {
 class QuickLoad {
 public:
     QuickLoad(Desk& desk, DeckRecord& record, DeckLoading& loading, RunControl& run)
-        : desk_{desk}, record_{record}, loading_{loading}, run_{run} {}
+        : desk_{desk},
+          record_{record},
+          loading_{loading},
+          run_{run} {}
 
     /// What `Charge_combo` does next: 1 and 2 choose a list for the box of favourites and the box of jingles, 3 and 4
     /// refill them from the lists that they remember.

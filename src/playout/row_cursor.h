@@ -29,7 +29,11 @@ inline constexpr std::string_view unplayable = " Lecture impossible, gardé dans
 class RowCursor {
 public:
     RowCursor(Desk& desk, Journal& journal, ListDocument& document, RecordReading& reading, DeckLoading& loading)
-        : desk_{desk}, journal_{journal}, document_{document}, reading_{reading}, loading_{loading},
+        : desk_{desk},
+          journal_{journal},
+          document_{document},
+          reading_{reading},
+          loading_{loading},
           random_order_{desk.platform.random} {}
 
     /// Steps to the next row, round the end, and takes its path.

@@ -11,7 +11,8 @@ constexpr int longest_turn = 400; // rows; their disk may have to say of each th
 
 } // namespace
 
-RowWalk::RowWalk(std::string name, Scheduler& scheduler) : pause_{std::move(name), 0, scheduler} {
+RowWalk::RowWalk(std::string name, Scheduler& scheduler)
+    : pause_{std::move(name), 0, scheduler} {
     pause_.set_interval(100);
     pause_.on_tick = [this] { take_a_later_turn(); };
 }

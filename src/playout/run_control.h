@@ -12,7 +12,10 @@ namespace sonarelle {
 /// Starts and stops a run of the current list.
 class RunControl {
 public:
-    RunControl(Desk& desk, DeckStart& start, Journal& journal) : desk_{desk}, start_{start}, journal_{journal} {}
+    RunControl(Desk& desk, DeckStart& start, Journal& journal)
+        : desk_{desk},
+          start_{start},
+          journal_{journal} {}
 
     /// From the list window: chooses the list chain, makes deck 1 the main one and starts it.
     void lect_liste();

@@ -15,7 +15,12 @@ namespace sonarelle {
 class Zapping {
 public:
     Zapping(Desk& desk, AutoChain& chain, DeckStart& start, MixEngine& mix, Journal& journal, ListDocument& document)
-        : desk_{desk}, chain_{chain}, start_{start}, mix_{mix}, journal_{journal}, document_{document} {}
+        : desk_{desk},
+          chain_{chain},
+          start_{start},
+          mix_{mix},
+          journal_{journal},
+          document_{document} {}
 
     /// From the main deck, by key. A zap that is refused changes nothing.
     void zapping();

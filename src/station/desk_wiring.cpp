@@ -6,10 +6,11 @@
 namespace sonarelle {
 
 DeskWiring::DeskWiring(Station& station)
-    : display_menu{station.desk}, desk_commands{station.desk}, quick_load{station.desk, station.deck_record,
-                                                                          station.deck_loading, station.run_control},
-      option_menu{station.desk, display_menu, quick_load}, about{station.desk, station.about_window,
-                                                                 station.update_window},
+    : display_menu{station.desk},
+      desk_commands{station.desk},
+      quick_load{station.desk, station.deck_record, station.deck_loading, station.run_control},
+      option_menu{station.desk, display_menu, quick_load},
+      about{station.desk, station.about_window, station.update_window},
       startup{{station.desk, station.list, station.splash, station.settings_load, station.settings_rewrite,
                station.journal, station.list_document, station.chain_modes, station.list_run, station.deck_loading,
                quick_load, option_menu, desk_commands, station.mix_engine,

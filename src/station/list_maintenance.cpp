@@ -7,8 +7,8 @@ namespace sonarelle {
 
 ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
                                  ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal)
-    : guard{desk.platform, desk.list, desk.list_window}, row_reading{desk.platform, desk.destination, desk.list_window,
-                                                                     record_reading},
+    : guard{desk.platform, desk.list, desk.list_window},
+      row_reading{desk.platform, desk.destination, desk.list_window, record_reading},
       verification{desk.platform,    desk.list,
                    desk.chain,       desk.destination,
                    desk.list_window, progress,

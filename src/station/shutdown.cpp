@@ -12,7 +12,10 @@ namespace sonarelle {
 
 Shutdown::Shutdown(Desk& desk, Journal& journal, std::function<std::vector<Window*>()> windows,
                    std::function<void()> end_process)
-    : desk_{desk}, journal_{journal}, windows_{std::move(windows)}, end_process_{std::move(end_process)} {}
+    : desk_{desk},
+      journal_{journal},
+      windows_{std::move(windows)},
+      end_process_{std::move(end_process)} {}
 
 void Shutdown::Quitter__Click() {
     ErrorIndicator{}.skip([this] { enter_program_folder(desk_.platform); });

@@ -38,7 +38,9 @@ std::string first_start_text() {
 } // namespace
 
 Startup::Startup(Parts parts)
-    : parts_{std::move(parts)}, platform_{parts_.desk.platform}, settings_{parts_.desk.settings},
+    : parts_{std::move(parts)},
+      platform_{parts_.desk.platform},
+      settings_{parts_.desk.settings},
       window_{parts_.desk.window} {
     parts_.splash.on_activate = [this] { activate_splash(); };
 }

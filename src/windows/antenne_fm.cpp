@@ -5,10 +5,12 @@ namespace sonarelle {
 Antenne_FM::Antenne_FM(Scheduler& scheduler)
     : decks{DeckControls{*this, scheduler, deck_names[0]}, DeckControls{*this, scheduler, deck_names[1]},
             DeckControls{*this, scheduler, deck_names[2]}},
-      load_ahead_timer{"Timer1", 1, scheduler}, deck_chain_timer{"Timer2", 2, scheduler}, overlap_timer{"Timer3", 3,
-                                                                                                        scheduler},
-      list_chain_timer{"Timer4", 4, scheduler}, jingle_timer{"Timer8", 8, scheduler}, item_timer{"Timer9", 9,
-                                                                                                 scheduler} {
+      load_ahead_timer{"Timer1", 1, scheduler},
+      deck_chain_timer{"Timer2", 2, scheduler},
+      overlap_timer{"Timer3", 3, scheduler},
+      list_chain_timer{"Timer4", 4, scheduler},
+      jingle_timer{"Timer8", 8, scheduler},
+      item_timer{"Timer9", 9, scheduler} {
     width = Twips{14400};
     height = height_with_menus;
     path_under_check.visible = false;

@@ -6,7 +6,8 @@ namespace sonarelle {
 
 /// The warning window: a text and two buttons. The chain shows it without waiting.
 struct err_form : Window {
-    err_form() : Window{"err_form"} {
+    err_form()
+        : Window{"err_form"} {
         caption = "ATTENTION ERREUR";
         default_button = &ok;
         ok.on_click = [this] { hide(); };

@@ -2,7 +2,8 @@
 
 namespace sonarelle {
 
-MainMenus::MainMenus() : Window{"Antenne_FM"} {
+MainMenus::MainMenus()
+    : Window{"Antenne_FM"} {
     A_desacive_J.checked = true;
     A_affichage1.checked = true; // what the display shows until another is chosen
     hang_menus();

@@ -9,7 +9,8 @@ namespace sonarelle {
 /// The small monitor player, which takes the main window's place when the operator reduces it. It has no sound of its
 /// own: its commands are those of the main deck.
 struct mini_lecteur : Window {
-    mini_lecteur() : Window{"mini_lecteur"} {
+    mini_lecteur()
+        : Window{"mini_lecteur"} {
         play.hint = "Lecture";
         next.hint = "Fichier suivant (Z ou S)";
         stop.hint = "Stop (barre espace)";

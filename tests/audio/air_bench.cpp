@@ -103,9 +103,10 @@ std::unique_ptr<RecordFile> ToneTracks::open(const std::string& path) {
 }
 
 AirBench::AirBench(Clock& clock, Scheduler& scheduler, Media& media, std::shared_ptr<ToneTracks> tracks)
-    : disk{clock}, dialogs{clock}, tracks_{std::move(tracks)}, station{Platform{clock, scheduler, disk, settings,
-                                                                                dialogs, media, random, shell,
-                                                                                program_folder}} {
+    : disk{clock},
+      dialogs{clock},
+      tracks_{std::move(tracks)},
+      station{Platform{clock, scheduler, disk, settings, dialogs, media, random, shell, program_folder}} {
     disk.put_folder(program_folder);
     disk.ChDir(program_folder);
     SettingsStore{settings, program_folder, DecimalMark::point}.write_column(&SettingRow::repair);

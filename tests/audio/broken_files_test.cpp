@@ -143,7 +143,9 @@ public:
 private:
     class SlowFile final : public RecordFile {
     public:
-        SlowFile(SlowFiles& disk, std::unique_ptr<RecordFile> file) : disk_{disk}, file_{std::move(file)} {}
+        SlowFile(SlowFiles& disk, std::unique_ptr<RecordFile> file)
+            : disk_{disk},
+              file_{std::move(file)} {}
         [[nodiscard]] std::int64_t length() const override { return file_->length(); }
         std::size_t read(std::int64_t position, std::span<std::byte> into) override {
             std::this_thread::sleep_for(std::chrono::milliseconds{disk_.delay_milliseconds.exchange(0)});

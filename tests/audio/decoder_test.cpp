@@ -165,7 +165,8 @@ TEST(Decoder, MeasuringTheLengthCountsNoBreak) {
 TEST(Decoder, DiskThatFailsIsNoEndOfTheFile) {
     /// A file of which no more than the first bytes can be read.
     struct FailingFile final : RecordFile {
-        explicit FailingFile(const std::string& path) : file{MachineFiles{}.open(path)} {}
+        explicit FailingFile(const std::string& path)
+            : file{MachineFiles{}.open(path)} {}
         [[nodiscard]] std::int64_t length() const override { return file->length(); }
         std::size_t read(std::int64_t position, std::span<std::byte> into) override {
             if (fails && position + static_cast<std::int64_t>(into.size()) > length() / 2)

@@ -9,7 +9,9 @@ namespace {
 class FakeDevice final : public OutputDevice {
 public:
     FakeDevice(std::shared_ptr<FakeCard> card, PullFrames pull)
-        : card_{std::move(card)}, pull_{std::move(pull)}, thread_{[this] { play(); }} {
+        : card_{std::move(card)},
+          pull_{std::move(pull)},
+          thread_{[this] { play(); }} {
         ++card_->open;
     }
     ~FakeDevice() override {

@@ -18,7 +18,8 @@ namespace sonarelle {
 /// what it got, in its place by the bus's count; with switches for what cards do wrong.
 class FakeCard {
 public:
-    explicit FakeCard(const ProgrammeBus& bus) : bus_{bus} {}
+    explicit FakeCard(const ProgrammeBus& bus)
+        : bus_{bus} {}
 
     std::atomic<bool> absent{false};  ///< It can't be opened.
     std::atomic<bool> dead{false};    ///< It stops pulling and says that it has gone.
@@ -46,7 +47,8 @@ class FakeDevices final : public OutputDevices {
 public:
     using Cards = std::map<std::string, std::shared_ptr<FakeCard>>;
 
-    explicit FakeDevices(Cards cards) : cards_{std::move(cards)} {}
+    explicit FakeDevices(Cards cards)
+        : cards_{std::move(cards)} {}
     [[nodiscard]] std::vector<std::string> names() override;
     [[nodiscard]] std::unique_ptr<OutputDevice> open(const std::string& name, PullFrames pull) override;
 

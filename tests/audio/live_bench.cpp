@@ -8,8 +8,10 @@ void ThreeGraphs::make_files(const SoundFolder& folder) {
 }
 
 ThreeGraphs::ThreeGraphs(Scheduler& scheduler, Media& media, const SoundFolder& folder)
-    : media_{media}, first_path_{folder.path("first.mp3")}, second_path_{folder.path("second.wav")}, timer_{"Timer1", 1,
-                                                                                                            scheduler} {
+    : media_{media},
+      first_path_{folder.path("first.mp3")},
+      second_path_{folder.path("second.wav")},
+      timer_{"Timer1", 1, scheduler} {
     timer_.set_interval(Integer{10});
     timer_.on_tick = [this] { act(++tick_); };
     timer_.enable();

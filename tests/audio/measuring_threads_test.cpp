@@ -75,7 +75,8 @@ public:
 private:
     class Bytes final : public RecordFile {
     public:
-        explicit Bytes(std::string bytes) : bytes_{std::move(bytes)} {}
+        explicit Bytes(std::string bytes)
+            : bytes_{std::move(bytes)} {}
         [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(bytes_.size()); }
         std::size_t read(std::int64_t position, std::span<std::byte> into) override {
             const auto from = std::min(bytes_.size(), static_cast<std::size_t>(position));

@@ -80,8 +80,9 @@ std::vector<float> decoded(const std::string& path) {
 }
 
 SoundBench::SoundBench(std::shared_ptr<SoundFiles> files)
-    : time{scheduler}, media{time, bus, std::move(files), [](std::string_view path) { return std::string{path}; },
-                             Decoding::inline_with_rendering},
+    : time{scheduler},
+      media{time, bus, std::move(files), [](std::string_view path) { return std::string{path}; },
+            Decoding::inline_with_rendering},
       renderer_{bus, media,
                 [this](std::span<const float> frames) { heard.insert(heard.end(), frames.begin(), frames.end()); }} {
     time.before_instant = [this](Frames frame) { renderer_.render_until(frame); };

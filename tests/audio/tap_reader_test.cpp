@@ -21,7 +21,8 @@ std::vector<float> counting(std::int64_t first, std::size_t count) {
 // Sends counting frames as a callback does.
 class Sender {
 public:
-    explicit Sender(BusTaps& taps) : taps_{taps} {}
+    explicit Sender(BusTaps& taps)
+        : taps_{taps} {}
     void send(std::size_t count) {
         taps_.take(counting(sent, count), Level{}, Frames{sent});
         sent += static_cast<std::int64_t>(count);

@@ -10,7 +10,8 @@ namespace sonarelle {
 namespace {
 
 struct Feuille : Window {
-    Feuille() : Window{"feuille"} {
+    Feuille()
+        : Window{"feuille"} {
         enreg.on_click = [this] { ++saved; };
         infos.on_click = [this] { ++asked; };
         on_key_press = [this](char32_t) { ++typed; };

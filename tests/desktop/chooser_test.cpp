@@ -21,7 +21,10 @@ protected:
     }
 
     struct Chooser : ComboBox {
-        explicit Chooser(Window& parent) : ComboBox{parent, "c", "Favoris Sonarelle"} { takes_typing = false; }
+        explicit Chooser(Window& parent)
+            : ComboBox{parent, "c", "Favoris Sonarelle"} {
+            takes_typing = false;
+        }
     };
     Chooser box{window};
     QComboBox widget;

@@ -10,7 +10,8 @@ namespace sonarelle {
 namespace {
 
 struct Carte : Window {
-    Carte() : Window{"carte"} {
+    Carte()
+        : Window{"carte"} {
         menu_bar = {&Liste};
         Liste.hang({{&Lire, &Trier, &Vider}});
         Trier.hang({{&Nom}});

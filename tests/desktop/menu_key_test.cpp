@@ -9,7 +9,8 @@ namespace sonarelle {
 namespace {
 
 struct Feuille : Window {
-    Feuille() : Window{"feuille"} {
+    Feuille()
+        : Window{"feuille"} {
         menu_bar = {&Fichier, &Aide};
         Fichier.hang({{&Ouvrir}});
         Aide.hang({{&Info}});

@@ -10,7 +10,8 @@ namespace sonarelle {
 namespace {
 
 struct Feuille : Window {
-    Feuille() : Window{"feuille"} {
+    Feuille()
+        : Window{"feuille"} {
         menu_bar = {&Fichier};
         Fichier.hang({{&Ouvrir}, {&Quitter}});
     }

@@ -82,7 +82,8 @@ const std::vector<Step>& steps() {
 /// Few names, so that they meet: of drives and folders, in several cases, right and wrong ones.
 class PathDraw {
 public:
-    explicit PathDraw(std::mt19937& draw) : draw_{draw} {}
+    explicit PathDraw(std::mt19937& draw)
+        : draw_{draw} {}
 
     std::string operator()() {
         std::string path = one_of({"D:\\", "D:\\", "D:\\", "d:", "", "\\", "E:\\", "Q:\\", "\\\\serveur\\partage\\"});

@@ -17,7 +17,8 @@ using Entries = std::map<std::string, std::string>;
 /// Where the test runs, for its time.
 class InFolder {
 public:
-    explicit InFolder(const std::string& folder) : before_{std::filesystem::current_path()} {
+    explicit InFolder(const std::string& folder)
+        : before_{std::filesystem::current_path()} {
         std::filesystem::current_path(folder);
     }
     ~InFolder() { std::filesystem::current_path(before_); }

@@ -13,7 +13,8 @@ namespace sonarelle::test {
 /// A variable of the environment, for the time of a test.
 class Variable {
 public:
-    Variable(const char* name, const std::optional<std::string>& value) : name_{name} {
+    Variable(const char* name, const std::optional<std::string>& value)
+        : name_{name} {
         if (const char* old = std::getenv(name))
             old_ = old;
         put(value);

@@ -41,7 +41,8 @@ void end(pid_t& child, int signal) {
 
 } // namespace
 
-PulseServer::PulseServer(std::string folder) : folder_{std::move(folder)} {
+PulseServer::PulseServer(std::string folder)
+    : folder_{std::move(folder)} {
     std::filesystem::create_directories(folder_);
     ::setenv("XDG_RUNTIME_DIR", folder_.c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", folder_.c_str(), 1);

@@ -18,7 +18,8 @@ const TagBytes full_tag{.title = "\xC9t\xE9",
                         .genre = 17};
 
 struct TagWindow : Window {
-    TagWindow() : Window{"ajout_fichier"} {}
+    TagWindow()
+        : Window{"ajout_fichier"} {}
 
     TextBox txtv1Titre{*this, "txtv1Titre", "Nom du fichier"};
     TextBox txtv1Artiste{*this, "txtv1Artiste", "--"};

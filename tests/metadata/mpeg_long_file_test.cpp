@@ -21,7 +21,9 @@ namespace {
 class SparseFile : public RecordFile {
 public:
     SparseFile(std::string head, std::int64_t length, int& reads)
-        : head_{std::move(head)}, length_{length}, reads_{reads} {}
+        : head_{std::move(head)},
+          length_{length},
+          reads_{reads} {}
 
     [[nodiscard]] std::int64_t length() const override { return length_; }
 
@@ -45,7 +47,9 @@ private:
 class SparseDisk : public SimulatedDisk {
 public:
     SparseDisk(Clock& clock, std::string head, std::int64_t length)
-        : SimulatedDisk{clock}, head_{std::move(head)}, length_{length} {}
+        : SimulatedDisk{clock},
+          head_{std::move(head)},
+          length_{length} {}
 
     [[nodiscard]] std::unique_ptr<RecordFile> open(std::string_view) override {
         return std::make_unique<SparseFile>(head_, length_, reads);

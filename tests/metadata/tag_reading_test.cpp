@@ -17,8 +17,11 @@ const TagBytes full_tag{.title = "Titre",
 
 /// What reading a song leaves: the raw object, and the result.
 struct Read {
-    explicit Read(std::string_view bytes) : on_disk{bytes}, filtered{raw.LireTag(song)} {}
-    explicit Read(const TagBytes& tag) : Read{audio_of(300) + tag.bytes()} {}
+    explicit Read(std::string_view bytes)
+        : on_disk{bytes},
+          filtered{raw.LireTag(song)} {}
+    explicit Read(const TagBytes& tag)
+        : Read{audio_of(300) + tag.bytes()} {}
 
     MusicDisk on_disk;
     TypeTagV1 raw{on_disk.disk};

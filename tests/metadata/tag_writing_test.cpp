@@ -32,7 +32,8 @@ TypeTagV1 new_tag_on(Disk& disk) {
 
 /// A song, and the tag that goes on it.
 struct Song {
-    explicit Song(std::string_view bytes) : on_disk{bytes} {}
+    explicit Song(std::string_view bytes)
+        : on_disk{bytes} {}
 
     [[nodiscard]] bool write() { return tag.EcrireTag(song); }
     [[nodiscard]] std::string bytes() const { return on_disk.song_bytes(); }

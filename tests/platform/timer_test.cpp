@@ -16,7 +16,8 @@ using testing::IsEmpty;
 
 /// A timer that writes down the instants of its ticks, in milliseconds.
 struct Ticking {
-    explicit Ticking(Scheduler& scheduler) : timer{"Timer1", 1, scheduler} {
+    explicit Ticking(Scheduler& scheduler)
+        : timer{"Timer1", 1, scheduler} {
         timer.on_tick = [this, &scheduler] { ticks.push_back(scheduler.now().count() / frames_per_millisecond); };
     }
 

@@ -12,7 +12,9 @@ namespace sonarelle {
 /// silenced the air himself, he soon puts the list on it again.
 class SoakOperator {
 public:
-    SoakOperator(SoakWorld& world, SoakOracle& oracle) : world_{world}, oracle_{oracle} {}
+    SoakOperator(SoakWorld& world, SoakOracle& oracle)
+        : world_{world},
+          oracle_{oracle} {}
 
     /// Starts the list.
     void begin_day();

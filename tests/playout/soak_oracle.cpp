@@ -49,7 +49,9 @@ constexpr std::array known_messages{
 
 } // namespace
 
-SoakOracle::SoakOracle(SoakWorld& world) : world_{world}, timer_{"soak", 0, world.machine.scheduler} {
+SoakOracle::SoakOracle(SoakWorld& world)
+    : world_{world},
+      timer_{"soak", 0, world.machine.scheduler} {
     for (const std::string& path : world_.tracks)
         owed_rows_.insert(path);
     world_.station.desk.on_event = [this](const OnAirEvent& event) { follow(event); };

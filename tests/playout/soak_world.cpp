@@ -28,11 +28,13 @@ std::string whole_text(double seconds) {
 } // namespace
 
 SoakWorld::SoakWorld(unsigned day)
-    : machine{"C:\\Sonarelle", day}, places{{"C:\\Musique\\Jour", 40, {}},
-                                            {"C:\\Musique\\Nuit", 25, {}},
-                                            {"D:\\Musique", 20, "D:"},
-                                            {"\\\\serveur\\partage\\Musique", 15, "\\\\serveur\\partage"}},
-      seed{day}, random_{day} {
+    : machine{"C:\\Sonarelle", day},
+      places{{"C:\\Musique\\Jour", 40, {}},
+             {"C:\\Musique\\Nuit", 25, {}},
+             {"D:\\Musique", 20, "D:"},
+             {"\\\\serveur\\partage\\Musique", 15, "\\\\serveur\\partage"}},
+      seed{day},
+      random_{day} {
     machine.dialogs.default_answers();
     station.settings.chemin_programme = "C:\\Sonarelle\\";
     write_settings();

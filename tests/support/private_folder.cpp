@@ -12,7 +12,8 @@ namespace sonarelle::test {
 
 namespace fs = std::filesystem;
 
-PrivateFolder::PrivateFolder() : path_{fs::temp_directory_path() / "sonarelle-XXXXXX"} {
+PrivateFolder::PrivateFolder()
+    : path_{fs::temp_directory_path() / "sonarelle-XXXXXX"} {
     if (::mkdtemp(path_.data()) == nullptr || ::chmod(path_.c_str(), 0755) != 0)
         throw std::runtime_error{"no folder for the test: " + path_};
 }

@@ -41,10 +41,13 @@ std::string quoted(const std::string& path) {
 } // namespace
 
 DeskProgram::DeskProgram(Machine& machine, const std::string& file)
-    : machine_{machine}, told_{machine.make_ready(Machine::EmptyStore::is_first_start)},
+    : machine_{machine},
+      told_{machine.make_ready(Machine::EmptyStore::is_first_start)},
       command_line_{quoted(file.empty() ? file : station_path_of(machine.drives(), absolute_machine_path(file)))},
-      program_folder_{filled_program_folder(machine)}, live_{machine.drives(), std::random_device{}()},
-      dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }}, station_{platform()},
+      program_folder_{filled_program_folder(machine)},
+      live_{machine.drives(), std::random_device{}()},
+      dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }},
+      station_{platform()},
       pictures_{[this](const std::string& name) { return picture_path(name); }},
       services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_, path_forms()},
       desktop_{station_.windows(), station_.desk, services_, probe_.reading()},

@@ -33,7 +33,8 @@ int open_descriptor() {
 
 } // namespace
 
-SignalWatch::SignalWatch(std::function<void()> on_signal) : notifier_{open_descriptor(), QSocketNotifier::Read} {
+SignalWatch::SignalWatch(std::function<void()> on_signal)
+    : notifier_{open_descriptor(), QSocketNotifier::Read} {
     QObject::connect(&notifier_, &QSocketNotifier::activated, [on_signal = std::move(on_signal)] {
         std::uint64_t ignored = 0;
         [[maybe_unused]] const auto count = ::read(wake_descriptor, &ignored, sizeof ignored);

@@ -13,7 +13,10 @@ namespace sonarelle {
 class SoundProbe {
 public:
     /// The taps outlive the probe.
-    explicit SoundProbe(BusTaps& taps) : taps_{taps}, reader_{taps}, window_(2 * Spectrum::window_frames) {}
+    explicit SoundProbe(BusTaps& taps)
+        : taps_{taps},
+          reader_{taps},
+          window_(2 * Spectrum::window_frames) {}
 
     /// Good as long as the probe.
     [[nodiscard]] SoundReading reading();

@@ -15,7 +15,8 @@ std::uint64_t clock_entropy() {
 } // namespace
 
 LiveMachine::LiveMachine(DriveTable drives, std::uint64_t seed)
-    : drives_{std::move(drives)}, disk_{drives_, std::make_shared<DiskPatience>(station_patience)},
+    : drives_{std::move(drives)},
+      disk_{drives_, std::make_shared<DiskPatience>(station_patience)},
       media_{clock_, bus_, std::make_shared<MachineFiles>(),
              [this](std::string_view path) { return disk_.machine_path(path); }, Decoding::by_threads},
       random_{seed, clock_entropy} {

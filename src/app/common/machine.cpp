@@ -10,8 +10,9 @@
 namespace sonarelle {
 
 Machine::Machine(CommonOptions options)
-    : options_{std::move(options)}, folders_{host_folders(options_.folder)}, settings_{std::make_unique<HostSettings>(
-                                                                                 folders_.settings)} {}
+    : options_{std::move(options)},
+      folders_{host_folders(options_.folder)},
+      settings_{std::make_unique<HostSettings>(folders_.settings)} {}
 
 const DriveTable& Machine::drives() {
     if (!drives_)

@@ -16,7 +16,8 @@ namespace sonarelle {
 /// where the air was silent.
 class AirPicture {
 public:
-    explicit AirPicture(DeckWatch& watch) : watch_{watch} {}
+    explicit AirPicture(DeckWatch& watch)
+        : watch_{watch} {}
 
     void take(Frames at, const OnAirEvent& event);
     /// No deck gets a command between these instants.

@@ -11,7 +11,8 @@ namespace sonarelle {
 /// Watches the decks from one instant to the next: which of them sound, and when a file comes to its end.
 class DeckWatch {
 public:
-    explicit DeckWatch(Desk& desk) : desk_{desk} {}
+    explicit DeckWatch(Desk& desk)
+        : desk_{desk} {}
 
     std::function<void(Frames at, int deck)> on_end_of_file;
 

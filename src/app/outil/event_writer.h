@@ -21,7 +21,8 @@ public:
     using Sink = std::function<bool(std::string)>;
 
     /// Where lines are lost, the next one that isn't stands behind a warning that says how many.
-    explicit EventWriter(Sink sink) : sink_{std::move(sink)} {}
+    explicit EventWriter(Sink sink)
+        : sink_{std::move(sink)} {}
 
     /// What comes is told in seconds from here; at first from the station's own beginning.
     void count_from(Frames origin) { origin_ = origin; }

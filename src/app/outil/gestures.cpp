@@ -33,7 +33,8 @@ constexpr std::array deck_gestures{
 /// The words of a line, read one after the other.
 class Line {
 public:
-    explicit Line(const std::string& text) : in_{text} {}
+    explicit Line(const std::string& text)
+        : in_{text} {}
 
     [[nodiscard]] std::string word() {
         std::string word;

@@ -27,7 +27,8 @@ constexpr int look_again_ms = 100;
 } // namespace
 
 struct LineOutput::Shared {
-    explicit Shared(int file_descriptor) : descriptor{file_descriptor} {}
+    explicit Shared(int file_descriptor)
+        : descriptor{file_descriptor} {}
 
     void work();
     [[nodiscard]] bool write_line(std::string_view line);
@@ -92,7 +93,8 @@ void LineOutput::Shared::work() {
     }
 }
 
-LineOutput::LineOutput(int descriptor) : shared_{std::make_shared<Shared>(descriptor)} {
+LineOutput::LineOutput(int descriptor)
+    : shared_{std::make_shared<Shared>(descriptor)} {
     std::thread{[shared = shared_] { shared->work(); }}.detach();
 }
 

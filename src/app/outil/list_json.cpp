@@ -43,7 +43,9 @@ Json json_with_start(const Record& record, std::int64_t number, Json start) {
 /// One record of the JSON, with the failures of its fields naming it.
 class RecordOfJson {
 public:
-    RecordOfJson(const ReadJson& object, std::size_t number) : object_{object}, number_{number} {
+    RecordOfJson(const ReadJson& object, std::size_t number)
+        : object_{object},
+          number_{number} {
         if (!object.is_object())
             refuse("n'est pas un objet");
     }

@@ -17,7 +17,8 @@ std::unique_ptr<RecordFile> open_if_there(Machine& machine, const std::string& f
 }
 
 ListTarget::ListTarget(Machine& machine, std::string file)
-    : file_{std::move(file)}, replacement_{machine.replace(file_)} {
+    : file_{std::move(file)},
+      replacement_{machine.replace(file_)} {
     if (const auto old = open_if_there(machine, file_))
         seen_ = old->facts();
 }

@@ -41,7 +41,9 @@ std::string unescaped(std::string_view text) {
 /// Takes a CSV text apart, field by field.
 class CsvReader {
 public:
-    CsvReader(std::string_view text, char mark) : rest_{text}, mark_{mark} {}
+    CsvReader(std::string_view text, char mark)
+        : rest_{text},
+          mark_{mark} {}
 
     [[nodiscard]] bool is_over() const { return rest_.empty(); }
 

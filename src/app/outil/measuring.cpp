@@ -25,7 +25,9 @@ void check_is_plain(const std::string& file) {
 } // namespace
 
 Measuring::Measuring(Machine& machine)
-    : machine_{machine}, disk_{machine.drives()}, opener_{std::make_shared<MachineFiles>(), DiskPatience{}} {}
+    : machine_{machine},
+      disk_{machine.drives()},
+      opener_{std::make_shared<MachineFiles>(), DiskPatience{}} {}
 
 Measure Measuring::measure(const std::string& file) {
     Measure measure;

@@ -30,7 +30,9 @@ namespace {
 class LiveStation {
 public:
     LiveStation(const LiveProgramme& live, HostSettings& settings)
-        : live_{live}, machine_{live.drives, live.programme.seed}, settings_{settings} {
+        : live_{live},
+          machine_{live.drives, live.programme.seed},
+          settings_{settings} {
         station_ =
             std::make_unique<Station>(machine_.platform(settings_, dialogs_, machine_.shell(), live.program_folder));
         watch_ = std::make_unique<DeckWatch>(station_->desk);

@@ -18,8 +18,10 @@ constexpr std::chrono::milliseconds again_after = 200ms;
 } // namespace
 
 Progress::Progress(std::string label, std::int64_t total)
-    : label_{std::move(label)}, total_{std::max<std::int64_t>(1, total)},
-      on_terminal_{::isatty(STDERR_FILENO) == 1}, next_{Clock::now() + first_after} {}
+    : label_{std::move(label)},
+      total_{std::max<std::int64_t>(1, total)},
+      on_terminal_{::isatty(STDERR_FILENO) == 1},
+      next_{Clock::now() + first_after} {}
 
 void Progress::reach(std::int64_t done) {
     if (!on_terminal_ || Clock::now() < next_)

@@ -35,7 +35,10 @@ namespace {
 class RehearsedStation {
 public:
     RehearsedStation(const Rehearsal& rehearsal, std::ostream& out)
-        : rehearsal_{rehearsal}, out_{out}, folder_{rehearsal.drives}, disk_{folder_.drives()} {
+        : rehearsal_{rehearsal},
+          out_{out},
+          folder_{rehearsal.drives},
+          disk_{folder_.drives()} {
         make_media();
         fill_settings();
         const std::string list = folder_.copy(rehearsal.programme.list);

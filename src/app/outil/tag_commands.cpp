@@ -32,7 +32,9 @@ constexpr Option strict_option{"--strict", false};
 class TaggedFile {
 public:
     TaggedFile(Machine& machine, const std::string& file)
-        : file_{file}, disk_{machine.drives()}, path_{station_path_of(machine.drives(), file)} {
+        : file_{file},
+          disk_{machine.drives()},
+          path_{station_path_of(machine.drives(), file)} {
         static_cast<void>(machine.open(file));
     }
 

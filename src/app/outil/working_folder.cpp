@@ -82,7 +82,10 @@ std::string free_letter(const DriveTable& drives) {
 } // namespace
 
 WorkingFolder::WorkingFolder(const DriveTable& user_drives)
-    : folder_{make_folder()}, lock_{locked_folder(folder_)}, drive_{free_letter(user_drives)}, drives_{user_drives} {
+    : folder_{make_folder()},
+      lock_{locked_folder(folder_)},
+      drive_{free_letter(user_drives)},
+      drives_{user_drives} {
     const std::string inner = station_folder(folder_);
     if (::mkdir(inner.c_str(), 0700) != 0)
         throw_errno(Access::writing, inner);

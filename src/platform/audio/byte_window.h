@@ -15,7 +15,9 @@ public:
     /// Behind what is asked for there is this much readable memory: decoders look ahead.
     static constexpr std::size_t slack = 64;
 
-    explicit ByteWindow(RecordFile& file) : file_{file}, bytes_(capacity + slack) {}
+    explicit ByteWindow(RecordFile& file)
+        : file_{file},
+          bytes_(capacity + slack) {}
 
     [[nodiscard]] std::int64_t length() const { return file_.length(); }
 

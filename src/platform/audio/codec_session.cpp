@@ -18,7 +18,8 @@ const AVCodec* decoder_of(AVCodecID id) {
 
 } // namespace
 
-CodecSession::CodecSession() : frame_{allocated(av_frame_alloc())} {}
+CodecSession::CodecSession()
+    : frame_{allocated(av_frame_alloc())} {}
 
 std::unique_ptr<CodecSession> CodecSession::open(const AVCodecParameters& parameters) {
     const AVCodec* codec = decoder_of(parameters.codec_id);

@@ -14,7 +14,8 @@ constexpr std::int64_t probed_time = 2 * AV_TIME_BASE;
 } // namespace
 
 ContainerFile::ContainerFile(std::unique_ptr<RecordFile> file, const std::string& path)
-    : file_{std::move(file)}, path_{path} {
+    : file_{std::move(file)},
+      path_{path} {
     av_log_set_level(AV_LOG_QUIET); // what matters is thrown or counted
     open();
 }

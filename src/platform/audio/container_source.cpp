@@ -43,8 +43,10 @@ std::optional<std::int64_t> frame_grid(const AVCodecParameters& parameters) {
 class ContainerSource final : public SampleSource {
 public:
     ContainerSource(std::unique_ptr<RecordFile> file, const std::string& path)
-        : file_{std::move(file), path}, stream_{file_.stream(AVMEDIA_TYPE_AUDIO)},
-          packet_{allocated(av_packet_alloc())}, has_pictures_{has_film(file_)} {
+        : file_{std::move(file), path},
+          stream_{file_.stream(AVMEDIA_TYPE_AUDIO)},
+          packet_{allocated(av_packet_alloc())},
+          has_pictures_{has_film(file_)} {
         // Any bytes look like pictures to one codec or another; a film that lasts tells for how long.
         if (stream_ == nullptr && has_pictures_ && file_.format().duration > 0)
             return;

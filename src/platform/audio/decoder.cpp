@@ -13,7 +13,8 @@ namespace sonarelle {
 /// filter's phase comes round, and a restart at a multiple of `down` continues as if there had been none.
 class Decoder::Resampler {
 public:
-    Resampler(int rate, int channels) : channels_{channels} {
+    Resampler(int rate, int channels)
+        : channels_{channels} {
         const auto common = std::gcd(std::int64_t{rate}, frame_rate);
         down_ = rate / common;
         up_ = frame_rate / common;
@@ -95,7 +96,8 @@ private:
     bool flushed_ = false;
 };
 
-Decoder::Decoder(std::unique_ptr<SampleSource> source) : source_{std::move(source)} {
+Decoder::Decoder(std::unique_ptr<SampleSource> source)
+    : source_{std::move(source)} {
     if (has_sound() && source_->rate() != frame_rate)
         resampler_ = std::make_unique<Resampler>(source_->rate(), source_->channels());
 }

@@ -15,7 +15,9 @@ constexpr Frames tolerated_early_end = milliseconds(100);
 } // namespace
 
 Feeder::Feeder(std::unique_ptr<Decoder> decoder, std::vector<float> opening, std::shared_ptr<SoundTroubles> troubles)
-    : opening_{std::move(opening)}, troubles_{std::move(troubles)}, decoder_{std::move(decoder)} {}
+    : opening_{std::move(opening)},
+      troubles_{std::move(troubles)},
+      decoder_{std::move(decoder)} {}
 
 void Feeder::play(std::shared_ptr<SampleStream> stream, std::int64_t needed_of_last) {
     copy_opening(*stream);

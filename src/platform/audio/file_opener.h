@@ -18,7 +18,8 @@ namespace sonarelle {
 class FileOpener {
 public:
     FileOpener(std::shared_ptr<SoundFiles> files, DiskPatience patience)
-        : files_{std::move(files)}, patience_{std::move(patience)} {}
+        : files_{std::move(files)},
+          patience_{std::move(patience)} {}
 
     /// Opens and measures; may read the whole file.
     /// @throws Failure 53, 57 (also when the disk doesn't answer in time), 70 or 1001.

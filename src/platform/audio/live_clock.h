@@ -11,7 +11,9 @@ namespace sonarelle {
 /// The station's time while the bus is pulled in real time.
 class LiveClock final : public Clock {
 public:
-    LiveClock(Scheduler& scheduler, const ProgrammeBus& bus) : scheduler_{scheduler}, bus_{bus} {}
+    LiveClock(Scheduler& scheduler, const ProgrammeBus& bus)
+        : scheduler_{scheduler},
+          bus_{bus} {}
 
     [[nodiscard]] Frames now() const override { return scheduler_.now(); }
     /// What the clock on the wall will show, or showed, when now is heard.

@@ -22,7 +22,11 @@ constexpr std::chrono::nanoseconds shortest_sleep = 1ms; // a block that is late
 } // namespace
 
 LiveDriver::LiveDriver(Scheduler& scheduler, LiveClock& clock, ProgrammeBus& bus, SoundMedia& media)
-    : scheduler_{scheduler}, clock_{clock}, bus_{bus}, media_{media}, wake_{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)} {
+    : scheduler_{scheduler},
+      clock_{clock},
+      bus_{bus},
+      media_{media},
+      wake_{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)} {
     if (wake_ < 0)
         throw std::system_error{errno, std::generic_category()};
     sleep = [this](std::chrono::nanoseconds time) { sleep_on_descriptor(time); };

@@ -28,7 +28,9 @@ private:
     /// A second-order section, transposed direct form II.
     class Section {
     public:
-        constexpr Section(std::array<double, 3> b, std::array<double, 2> a) : b_{b}, a_{a} {}
+        constexpr Section(std::array<double, 3> b, std::array<double, 2> a)
+            : b_{b},
+              a_{a} {}
         double pass(double sample);
         void drop_remains(); ///< Remains too small for a sound would slow the processor down.
 

@@ -52,7 +52,8 @@ struct MeasuringThreads::Work {
         MeasuredLength length{};
     };
 
-    explicit Work(std::shared_ptr<SoundFiles> sound_files) : files{std::move(sound_files)} {}
+    explicit Work(std::shared_ptr<SoundFiles> sound_files)
+        : files{std::move(sound_files)} {}
 
     void run();
     /// The file takes too long. Where its disk hasn't even told of it, what waits for the same one fails unasked.
@@ -116,7 +117,9 @@ void MeasuringThreads::Work::give_up(File& file, DiskPatience& patience) {
 }
 
 MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience patience)
-    : work_{std::make_shared<Work>(std::move(files))}, resolve_{std::move(resolve)}, patience_{std::move(patience)} {
+    : work_{std::make_shared<Work>(std::move(files))},
+      resolve_{std::move(resolve)},
+      patience_{std::move(patience)} {
     const unsigned count = std::max(1U, std::thread::hardware_concurrency());
     for (unsigned thread = 0; thread < count; ++thread)
         add_thread();

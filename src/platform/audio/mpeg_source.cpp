@@ -23,8 +23,10 @@ AVCodecID codec_of(int layer) {
 class MpegSource final : public SampleSource {
 public:
     MpegSource(std::unique_ptr<RecordFile> file, MpegWalk walk, std::unique_ptr<CodecSession> codec)
-        : file_{std::move(file)}, walk_{std::move(walk)}, codec_{std::move(codec)}, packet_{allocated(
-                                                                                        av_packet_alloc())},
+        : file_{std::move(file)},
+          walk_{std::move(walk)},
+          codec_{std::move(codec)},
+          packet_{allocated(av_packet_alloc())},
           silence_(walk_.first().samples) {
         read_length_header();
         seek(0);

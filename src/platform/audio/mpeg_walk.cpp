@@ -14,7 +14,9 @@ constexpr std::int64_t closing_tag = 128;
 
 } // namespace
 
-MpegWalk::MpegWalk(RecordFile& file) : window_{file}, end_{file.length()} {}
+MpegWalk::MpegWalk(RecordFile& file)
+    : window_{file},
+      end_{file.length()} {}
 
 bool MpegWalk::find_first() {
     if (window_.length() > std::int64_t{UINT32_MAX})

@@ -15,7 +15,8 @@ namespace sonarelle {
 class OutputKeeper {
 public:
     OutputKeeper(std::shared_ptr<OutputShared> shared, std::unique_ptr<OutputDevices> devices)
-        : shared_{std::move(shared)}, devices_{std::move(devices)} {}
+        : shared_{std::move(shared)},
+          devices_{std::move(devices)} {}
 
     /// Until it is time to stop.
     void run();

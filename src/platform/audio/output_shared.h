@@ -20,7 +20,8 @@ enum class OutputState {
 
 /// What the threads of a live output share, for as long as one of them lives.
 struct OutputShared {
-    explicit OutputShared(ProgrammeBus& bus) : gate{bus} {}
+    explicit OutputShared(ProgrammeBus& bus)
+        : gate{bus} {}
 
     /// False when it is time to stop.
     bool sleep_for(std::chrono::milliseconds time);

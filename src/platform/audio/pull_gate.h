@@ -15,7 +15,8 @@ class PullGate {
 public:
     enum class Turn { nobody, device, pacer };
 
-    explicit PullGate(ProgrammeBus& bus) : bus_{&bus} {}
+    explicit PullGate(ProgrammeBus& bus)
+        : bus_{&bus} {}
 
     /// From a device's callback: never waits. Silence while the turn is another's, or for the one block in which it
     /// changes.

@@ -7,7 +7,10 @@ namespace sonarelle {
 
 SampleStream::SampleStream(Frames start, Frames end, std::size_t capacity_frames,
                            std::shared_ptr<SoundTroubles> troubles)
-    : start_{start}, end_{end}, capacity_{capacity_frames}, samples_{new float[2 * capacity_frames]},
+    : start_{start},
+      end_{end},
+      capacity_{capacity_frames},
+      samples_{new float[2 * capacity_frames]},
       troubles_{std::move(troubles)} {}
 
 std::span<float> SampleStream::room() {

@@ -28,7 +28,8 @@ void silence_alsa() {
 class SdlDevice final : public OutputDevice {
 public:
     SdlDevice(const std::string& name, PullFrames pull, std::shared_ptr<int> open_devices)
-        : pull_{std::move(pull)}, open_devices_{std::move(open_devices)} {
+        : pull_{std::move(pull)},
+          open_devices_{std::move(open_devices)} {
         SDL_AudioSpec wanted{};
         wanted.freq = static_cast<int>(frame_rate);
         wanted.format = AUDIO_F32SYS;

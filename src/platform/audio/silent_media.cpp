@@ -7,7 +7,10 @@ namespace sonarelle {
 
 class SilentGraph final : public MediaGraph {
 public:
-    explicit SilentGraph(SilentMedia& media) : media_{media} { media_.graphs_.push_back(this); }
+    explicit SilentGraph(SilentMedia& media)
+        : media_{media} {
+        media_.graphs_.push_back(this);
+    }
     ~SilentGraph() override {
         close_span();
         std::erase(media_.graphs_, this);

@@ -22,7 +22,9 @@ public:
     using Resolve = std::function<std::string(std::string_view)>;
 
     SilentMedia(Clock& clock, std::shared_ptr<SoundFiles> files, Resolve resolve)
-        : clock_{clock}, opener_{std::move(files), DiskPatience{}}, resolve_{std::move(resolve)} {}
+        : clock_{clock},
+          opener_{std::move(files), DiskPatience{}},
+          resolve_{std::move(resolve)} {}
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
     [[nodiscard]] ProgrammeSilence silence() const override;

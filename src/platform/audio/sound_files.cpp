@@ -30,7 +30,8 @@ Failure failure_of(int error, const std::string& path) {
 class MachineFile final : public RecordFile {
 public:
     explicit MachineFile(const std::string& path)
-        : path_{path}, descriptor_{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)} {
+        : path_{path},
+          descriptor_{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)} {
         if (descriptor_ < 0)
             throw failure_of(errno, path_);
         struct stat facts {};

@@ -18,7 +18,8 @@ namespace sonarelle {
 /// station's now to that frame; everything else leaves now alone, and the sound is found where it would be by then.
 class SoundGraph final : public MediaGraph {
 public:
-    explicit SoundGraph(SoundMedia& media) : media_{media} {}
+    explicit SoundGraph(SoundMedia& media)
+        : media_{media} {}
     ~SoundGraph() override;
     SoundGraph(const SoundGraph&) = delete;
     SoundGraph& operator=(const SoundGraph&) = delete;

@@ -17,7 +17,10 @@ static_assert(inline_stream_frames >= SoundMedia::rendered_at_once + ramp_frames
 
 SoundMedia::SoundMedia(Clock& clock, ProgrammeBus& bus, std::shared_ptr<SoundFiles> files, Resolve resolve,
                        Decoding decoding)
-    : clock_{clock}, bus_{bus}, resolve_{std::move(resolve)}, decoding_{decoding},
+    : clock_{clock},
+      bus_{bus},
+      resolve_{std::move(resolve)},
+      decoding_{decoding},
       opener_{std::move(files), DiskPatience{decoding == Decoding::by_threads ? DiskPatience::Limit{station_patience}
                                                                               : DiskPatience::Limit{}}} {}
 

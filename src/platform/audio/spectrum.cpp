@@ -30,7 +30,12 @@ std::size_t mirrored(std::size_t place) {
 } // namespace
 
 Spectrum::Spectrum(std::size_t bands, Range range)
-    : range_{range}, bands_(bands), window_(size), turns_(size / 2), lines_(size), decibels_(size / 2 + 1) {
+    : range_{range},
+      bands_(bands),
+      window_(size),
+      turns_(size / 2),
+      lines_(size),
+      decibels_(size / 2 + 1) {
     constexpr double turn = 2 * std::numbers::pi / static_cast<double>(size);
     for (std::size_t frame = 0; frame < size; ++frame)
         window_[frame] = static_cast<float>(0.5 - 0.5 * std::cos(turn * static_cast<double>(frame)));

@@ -20,7 +20,8 @@ public:
         double highest = 16000;
     };
 
-    explicit Spectrum(std::size_t bands) : Spectrum{bands, Range{}} {}
+    explicit Spectrum(std::size_t bands)
+        : Spectrum{bands, Range{}} {}
     /// The lines lie 23 Hz apart: neighbours below some 70 Hz read nearly alike, whatever the number of bands.
     Spectrum(std::size_t bands, Range range);
 

@@ -13,7 +13,10 @@ namespace sonarelle {
 class TapReader {
 public:
     /// Begins with the next frame. The taps outlive their readers.
-    explicit TapReader(const BusTaps& taps) : taps_{taps}, next_{taps.end()}, frames_(2 * BusTaps::kept_frames) {}
+    explicit TapReader(const BusTaps& taps)
+        : taps_{taps},
+          next_{taps.end()},
+          frames_(2 * BusTaps::kept_frames) {}
 
     /// What has come since the last call, two floats a frame, oldest first; good until the next call.
     [[nodiscard]] std::span<const float> read() {

@@ -16,7 +16,10 @@ public:
     using Sink = std::function<void(std::span<const float>)>;
 
     VirtualRenderer(ProgrammeBus& bus, SoundMedia& media, Sink sink)
-        : bus_{bus}, media_{media}, sink_{std::move(sink)}, block_(2 * SoundMedia::rendered_at_once) {}
+        : bus_{bus},
+          media_{media},
+          sink_{std::move(sink)},
+          block_(2 * SoundMedia::rendered_at_once) {}
 
     /// Renders all frames before this one. Frames that have been rendered already are not touched.
     void render_until(Frames frame) {

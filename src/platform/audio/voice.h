@@ -12,7 +12,8 @@ namespace sonarelle {
 
 /// A stream on its way through the bus and out again.
 struct StreamTicket final : Retirable {
-    explicit StreamTicket(std::shared_ptr<SampleStream> owned) : stream{std::move(owned)} {}
+    explicit StreamTicket(std::shared_ptr<SampleStream> owned)
+        : stream{std::move(owned)} {}
     std::shared_ptr<SampleStream> stream;
 };
 

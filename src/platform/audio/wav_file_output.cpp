@@ -77,7 +77,9 @@ WavHead wav_head(std::uint64_t data_bytes) {
 }
 
 WavFileOutput::WavFileOutput(const std::string& path)
-    : path_{path}, file_{path, std::ios::binary | std::ios::trunc}, gathered_(gathered_samples) {
+    : path_{path},
+      file_{path, std::ios::binary | std::ios::trunc},
+      gathered_(gathered_samples) {
     if (!file_)
         throw Failure{failure_number::path_access, path};
     const WavHead head = wav_head(0);

@@ -105,7 +105,9 @@ float sample_of(const std::uint8_t* bytes, std::size_t size, bool is_float) {
 class WavSource final : public SampleSource {
 public:
     WavSource(std::unique_ptr<RecordFile> file, const WavLayout& layout)
-        : file_{std::move(file)}, layout_{layout}, bytes_(block_samples * layout.frame_bytes()) {
+        : file_{std::move(file)},
+          layout_{layout},
+          bytes_(block_samples * layout.frame_bytes()) {
         for (std::size_t channel = 0; channel < layout_.channels; ++channel)
             planes_[channel].resize(block_samples);
     }

@@ -10,8 +10,10 @@ namespace sonarelle {
 class FileHandle {
 public:
     FileHandle() = default;
-    explicit FileHandle(int descriptor) : descriptor_{descriptor} {}
-    FileHandle(FileHandle&& other) noexcept : descriptor_{std::exchange(other.descriptor_, -1)} {}
+    explicit FileHandle(int descriptor)
+        : descriptor_{descriptor} {}
+    FileHandle(FileHandle&& other) noexcept
+        : descriptor_{std::exchange(other.descriptor_, -1)} {}
     FileHandle& operator=(FileHandle&& other) noexcept {
         std::swap(descriptor_, other.descriptor_);
         return *this;

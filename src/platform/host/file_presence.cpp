@@ -36,7 +36,8 @@ struct FilePresence::Known {
         std::optional<Clock::time_point> since; ///< Of the answer.
     };
 
-    explicit Known(DriveTable table) : drives{std::move(table)} {}
+    explicit Known(DriveTable table)
+        : drives{std::move(table)} {}
 
     void look() {
         while (const std::optional<std::string> path = next()) {
@@ -67,7 +68,8 @@ struct FilePresence::Known {
 };
 
 FilePresence::FilePresence(const DriveTable& drives, std::chrono::milliseconds fresh_for)
-    : known_{std::make_shared<Known>(drives)}, fresh_for_{fresh_for} {}
+    : known_{std::make_shared<Known>(drives)},
+      fresh_for_{fresh_for} {}
 
 FilePresence::~FilePresence() {
     const MutexLock lock{known_->mutex};

@@ -23,7 +23,8 @@ public:
     /// are Failure 57; at first, and for what changes a disk, they wait for ever.
     explicit HostDisk(const DriveTable& drives,
                       std::shared_ptr<DiskPatience> patience = std::make_shared<DiskPatience>())
-        : drives_{drives}, patience_{std::move(patience)} {}
+        : drives_{drives},
+          patience_{std::move(patience)} {}
 
     using Disk::Dir;
 

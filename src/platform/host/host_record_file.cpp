@@ -17,7 +17,9 @@ constexpr std::size_t walking_read = 512 * 1024;
 } // namespace
 
 HostRecordFile::HostRecordFile(FileHandle file, const FileFacts& facts, std::string source)
-    : file_{std::move(file)}, facts_{facts}, source_{std::move(source)} {}
+    : file_{std::move(file)},
+      facts_{facts},
+      source_{std::move(source)} {}
 
 std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> into) {
     if (position < 0)

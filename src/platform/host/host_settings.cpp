@@ -8,7 +8,8 @@
 
 namespace sonarelle {
 
-HostSettings::HostSettings(std::string file) : file_{std::move(file)} {}
+HostSettings::HostSettings(std::string file)
+    : file_{std::move(file)} {}
 
 std::string HostSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,
                                      std::string_view otherwise) {

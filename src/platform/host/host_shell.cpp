@@ -64,7 +64,8 @@ bool has_default_route(const std::string& table) {
     return false;
 }
 
-HostShell::HostShell(const HostDisk& disk) : disk_{disk} {}
+HostShell::HostShell(const HostDisk& disk)
+    : disk_{disk} {}
 
 HostShell::~HostShell() {
     forget_ended_programs();

@@ -17,7 +17,8 @@ namespace {
 
 class HostReplacement : public FileReplacement {
 public:
-    HostReplacement(const std::string& path, const std::string& source) : file_{path, source} {}
+    HostReplacement(const std::string& path, const std::string& source)
+        : file_{path, source} {}
 
     void write(std::span<const std::byte> bytes) override { file_.write(bytes); }
     void commit() override { file_.commit(); }
@@ -32,7 +33,9 @@ private:
 /// Its hidden file goes with it, while its lock is still held: who has opened it meanwhile finds that its name is gone.
 class HostClaim : public FileClaim {
 public:
-    HostClaim(FileHandle file, std::string name) : file_{std::move(file)}, name_{std::move(name)} {}
+    HostClaim(FileHandle file, std::string name)
+        : file_{std::move(file)},
+          name_{std::move(name)} {}
     ~HostClaim() override { ::unlink(name_.c_str()); }
 
 private:

@@ -30,7 +30,8 @@ bool for_each_name(const std::string& folder, const std::function<bool(std::stri
 class NameLookup {
 public:
     /// What is learnt of a folder is kept when its last change is older than this.
-    explicit NameLookup(std::chrono::nanoseconds settled_after = file_time_settles) : settled_after_{settled_after} {}
+    explicit NameLookup(std::chrono::nanoseconds settled_after = file_time_settles)
+        : settled_after_{settled_after} {}
 
     enum class Outcome { present, missing, folder_missing };
 

@@ -96,7 +96,8 @@ std::string hidden_name(std::string_view name, int slot) {
     return hidden.size() <= NAME_MAX ? hidden : "." + in_hexadecimal(hash_of(name)) + end;
 }
 
-SafeFile::SafeFile(std::string path, std::string source) : source_{std::move(source)} {
+SafeFile::SafeFile(std::string path, std::string source)
+    : source_{std::move(source)} {
     const std::filesystem::path target = end_of_links(std::move(path), source_);
     name_ = target.filename();
     folder_path_ = target.has_parent_path() ? target.parent_path().string() : ".";

@@ -25,7 +25,8 @@ const Value* SettingsText::Named<Value>::find(std::string_view name) const {
 /// Takes the JSON as it is read: three names deep there are texts, and nothing else is anywhere.
 class SettingsText::Reader : public nlohmann::json_sax<nlohmann::json> {
 public:
-    explicit Reader(SettingsText& into) : into_{into} {}
+    explicit Reader(SettingsText& into)
+        : into_{into} {}
 
     [[nodiscard]] const std::string& complaint() const { return complaint_; }
     [[nodiscard]] std::size_t position() const { return position_; }

@@ -26,7 +26,8 @@ private:
 /// The bytes of a file, or of one that is being written. They take room for as long as someone holds them.
 class FileContent {
 public:
-    explicit FileContent(DiskSpace& space) : space_{space} {}
+    explicit FileContent(DiskSpace& space)
+        : space_{space} {}
     ~FileContent() { space_.give_back(bytes_.size()); }
     FileContent(const FileContent&) = delete;
     FileContent& operator=(const FileContent&) = delete;

@@ -53,7 +53,10 @@ std::string shown(const Question& question) {
 /// Also hidden when the question was unexpected.
 class ShownWindow {
 public:
-    explicit ShownWindow(Window& window) : window_{window} { window_.show(); }
+    explicit ShownWindow(Window& window)
+        : window_{window} {
+        window_.show();
+    }
     ~ShownWindow() { window_.hide(); }
     ShownWindow(const ShownWindow&) = delete;
     ShownWindow& operator=(const ShownWindow&) = delete;

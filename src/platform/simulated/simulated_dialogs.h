@@ -48,7 +48,8 @@ struct Question {
 /// UnexpectedQuestion and is remembered; so is a part of the script that was never asked for.
 class SimulatedDialogs : public Dialogs {
 public:
-    explicit SimulatedDialogs(Clock& clock) : clock_{clock} {}
+    explicit SimulatedDialogs(Clock& clock)
+        : clock_{clock} {}
 
     Answer MsgBox(const MessageBox& box) override;
     [[nodiscard]] std::optional<std::string> InputBox(const sonarelle::InputBox& box) override;

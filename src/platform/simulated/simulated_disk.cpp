@@ -50,7 +50,8 @@ FileFacts facts_of(const DiskEntry& entry) {
 class SimulatedClaim : public FileClaim {
 public:
     SimulatedClaim(std::shared_ptr<std::set<std::string>> claimed, std::string name)
-        : claimed_{std::move(claimed)}, name_{std::move(name)} {}
+        : claimed_{std::move(claimed)},
+          name_{std::move(name)} {}
     ~SimulatedClaim() override { claimed_->erase(name_); }
 
 private:
@@ -60,7 +61,8 @@ private:
 
 } // namespace
 
-SimulatedDisk::SimulatedDisk(Clock& clock) : clock_{clock} {
+SimulatedDisk::SimulatedDisk(Clock& clock)
+    : clock_{clock} {
     tree_.add_drive("C");
 }
 

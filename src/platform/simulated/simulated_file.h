@@ -17,7 +17,9 @@ class SimulatedDisk;
 class SimulatedFile : public RecordFile {
 public:
     SimulatedFile(const DiskFaults& faults, std::string path, std::shared_ptr<const FileContent> content)
-        : faults_{faults}, path_{std::move(path)}, content_{std::move(content)} {}
+        : faults_{faults},
+          path_{std::move(path)},
+          content_{std::move(content)} {}
 
     [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(content_->bytes().size()); }
     [[nodiscard]] FileFacts facts() const override { return {length(), content_->modified}; }
@@ -33,7 +35,9 @@ private:
 class SimulatedReplacement : public FileReplacement {
 public:
     SimulatedReplacement(SimulatedDisk& disk, std::string path, std::shared_ptr<FileContent> content)
-        : disk_{disk}, path_{std::move(path)}, content_{std::move(content)} {}
+        : disk_{disk},
+          path_{std::move(path)},
+          content_{std::move(content)} {}
 
     void write(std::span<const std::byte> bytes) override;
     void commit() override;

@@ -5,7 +5,9 @@
 
 namespace sonarelle {
 
-SimulatedGraph::SimulatedGraph(SimulatedMedia& media, int number) : media_{media}, number_{number} {
+SimulatedGraph::SimulatedGraph(SimulatedMedia& media, int number)
+    : media_{media},
+      number_{number} {
     media_.graphs_.push_back(this);
     log(MediaAction::created);
 }

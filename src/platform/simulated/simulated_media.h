@@ -31,7 +31,9 @@ struct MediaCommand {
 /// Graphs must not outlive it.
 class SimulatedMedia : public Media {
 public:
-    SimulatedMedia(Clock& clock, Disk& disk) : clock_{clock}, disk_{disk} {}
+    SimulatedMedia(Clock& clock, Disk& disk)
+        : clock_{clock},
+          disk_{disk} {}
 
     [[nodiscard]] std::shared_ptr<MediaGraph> create_graph() override;
     [[nodiscard]] ProgrammeSilence silence() const override;

@@ -3,8 +3,8 @@
 namespace sonarelle {
 
 SimulatedPlatform::SimulatedPlatform(std::string_view program_folder, std::uint64_t seed)
-    : random{seed}, platform{
-                        time, scheduler, disk, settings, dialogs, media, random, shell, std::string{program_folder}} {
+    : random{seed},
+      platform{time, scheduler, disk, settings, dialogs, media, random, shell, std::string{program_folder}} {
     platform.screen = [this] { return screen; };
     disk.put_folder(program_folder);
     disk.ChDrive(program_folder);

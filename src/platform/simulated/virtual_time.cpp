@@ -6,7 +6,9 @@
 
 namespace sonarelle {
 
-VirtualTime::VirtualTime(Scheduler& scheduler, CalendarTime start) : scheduler_{scheduler}, start_{start} {}
+VirtualTime::VirtualTime(Scheduler& scheduler, CalendarTime start)
+    : scheduler_{scheduler},
+      start_{start} {}
 
 CalendarTime VirtualTime::calendar() const {
     using namespace std::chrono;

@@ -2,7 +2,7 @@
 
 #include "playout/desk.h"
 #include "playout/journal.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 #include "playout/running_mode.h"
 
 namespace sonarelle {

@@ -2,7 +2,7 @@
 
 #include "playout/deck_start.h"
 #include "playout/desk.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 #include "playout/run_control.h"
 
 namespace sonarelle {

@@ -12,7 +12,7 @@
 #include "playlist/volume_table.h"
 #include "playout/air_view.h"
 #include "playout/file_title.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 
 namespace sonarelle {
 

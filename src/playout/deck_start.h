@@ -6,7 +6,7 @@
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
 #include "playout/journal.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 
 namespace sonarelle {
 

@@ -4,7 +4,7 @@
 #include "playout/deck_start.h"
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 
 namespace sonarelle {
 

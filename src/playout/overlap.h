@@ -1,7 +1,7 @@
 #pragma once
 
 #include "playout/desk.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 
 namespace sonarelle {
 

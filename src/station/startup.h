@@ -13,7 +13,7 @@
 #include "playout/desk_commands.h"
 #include "playout/journal.h"
 #include "playout/list_run.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 #include "playout/option_menu.h"
 #include "playout/quick_load.h"
 

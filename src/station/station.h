@@ -29,7 +29,7 @@
 #include "playout/journal.h"
 #include "playout/list_rescue.h"
 #include "playout/list_run.h"
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 #include "playout/row_cursor.h"
 #include "playout/run_control.h"
 #include "playout/zapping.h"

@@ -1,4 +1,4 @@
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 
 #include "playout/chain_bench.h"
 

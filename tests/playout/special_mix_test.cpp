@@ -1,4 +1,4 @@
-#include "playout/mix_engine.h"
+#include "playout/mix.h"
 #include "playout/special_mix_bench.h"
 
 namespace sonarelle {

@@ -43,6 +43,8 @@ constexpr std::array known_messages{
     KnownMessage{"Périphérique non disponible", "a zap to a deck whose file's drive is gone"},
     KnownMessage{"Fichier non trouvé /abandon", "a zap to a deck whose file is gone"},
     KnownMessage{"Erreur lecture fichier", "an open by hand of a file that is gone or can't be read"},
+    KnownMessage{"Chemin d'accès introuvable",
+                 "an open by hand that came to nothing in a music folder that is gone, or a zap to a deck of one"},
     KnownMessage{"abandon lecture liste", "the operator started a row that can't be played"},
     KnownMessage{"Fichier introuvable", "a row of a share, which nothing looks for before its turn: a rescue follows"},
 };

@@ -56,7 +56,8 @@ class SoundServer:
         self.server = self.run("pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
                                "--high-priority=no",
                                "-L", f"module-native-protocol-unix auth-anonymous=1 socket={self.socket}",
-                               "-L", "module-null-sink sink_name=air format=float32le rate=48000 channels=2")
+                               "-L", "module-null-sink norewinds=1 sink_name=air"
+                               " format=float32le rate=48000 channels=2")
         while self.run("pactl", "info").wait() != 0:
             if self.server.poll() is not None:
                 raise AssertionError("the sound server doesn't start")

@@ -21,8 +21,8 @@ constexpr std::string_view path = "C:\\Sonarelle\\essai.dfm";
 
 std::vector<RowTable::Row> rows_of(Station& station) {
     std::vector<RowTable::Row> rows;
-    for (int row = 1; row <= station.list_window.ListView1.count(); ++row)
-        rows.push_back(station.list_window.ListView1.row(row));
+    for (int row = 1; row <= station.list_window.rows.count(); ++row)
+        rows.push_back(station.list_window.rows.row(row));
     return rows;
 }
 
@@ -51,9 +51,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         check(again[i][list_column::volume] == completed[i][list_column::volume]);
     }
 
-    station.list_window.ListView1.clear();
+    station.list_window.rows.clear();
     station.list.nom_sauvegarde = path;
     station.legacy_list.A_Copen_rfm();
-    check(station.list_window.ListView1.count() == static_cast<int>(size / enreg_rfm::size));
+    check(station.list_window.rows.count() == static_cast<int>(size / enreg_rfm::size));
     return 0;
 }

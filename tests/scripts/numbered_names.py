@@ -32,7 +32,7 @@ def main():
             print("self-test:", line)
             return 1
     root = Path(__file__).resolve().parents[2]
-    files = sorted(path for folder in ("src", "tests", "bench") for path in (root / folder).rglob("*")
+    files = sorted(path for folder in ("src", "tests", "bench", "fuzz") for path in (root / folder).rglob("*")
                    if path.suffix in {".h", ".cpp"})
     faults = [f"{path.relative_to(root)}:{line}: {name}" for path in files
               for line, name in numbered(path.read_text(encoding="utf-8"))]

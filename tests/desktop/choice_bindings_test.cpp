@@ -1,0 +1,142 @@
+#include <QTest>
+
+#include "desktop/choice_bindings.h"
+#include "desktop/desktop_bench.h"
+
+namespace sonarelle {
+
+namespace {
+
+using CheckBoxBindings = DesktopBench;
+using OptionBindings = DesktopBench;
+using ComboBoxBindings = DesktopBench;
+using ListBoxBindings = DesktopBench;
+
+TEST_F(CheckBoxBindings, ValueIsShown) {
+    CheckBox box{window, "c", "Préchargement"};
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    box.set_value(1);
+    settle();
+    EXPECT_TRUE(widget.isChecked());
+}
+
+TEST_F(CheckBoxBindings, PressTicksTheControl) {
+    CheckBox box{window, "c"};
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    settle();
+    widget.click();
+    EXPECT_EQ(box.value(), 1);
+}
+
+TEST_F(CheckBoxBindings, StaysClearWhereTheStationClearsItAgain) {
+    CheckBox box{window, "c"};
+    box.on_click = [&] { box.set_value(0); };
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    settle();
+    widget.click();
+    settle();
+    EXPECT_FALSE(widget.isChecked());
+}
+
+TEST_F(OptionBindings, ChoosingOneClearsTheOther) {
+    OptionGroup group;
+    OptionButton first{window, group, "o1"};
+    OptionButton second{window, group, "o2"};
+    QRadioButton first_widget;
+    QRadioButton second_widget;
+    const OptionBinding first_binding{first, first_widget, services};
+    const OptionBinding second_binding{second, second_widget, services};
+    first.set_value(true);
+    settle();
+    second_widget.click();
+    settle();
+    EXPECT_FALSE(first_widget.isChecked());
+    EXPECT_TRUE(second_widget.isChecked());
+}
+
+TEST_F(OptionBindings, ShownWithoutBeingChosenRaisesNothing) {
+    OptionGroup group;
+    OptionButton option{window, group, "o1"};
+    int clicks = 0;
+    option.on_click = [&] { ++clicks; };
+    QRadioButton widget;
+    const OptionBinding binding{option, widget, services};
+    option.show_value(true);
+    settle();
+    EXPECT_TRUE(widget.isChecked());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(OptionBindings, StaysClearWhereTheStationClearsItAgain) {
+    OptionGroup group;
+    OptionButton option{window, group, "o1"};
+    option.on_click = [&] { option.show_value(false); };
+    QRadioButton widget;
+    const OptionBinding binding{option, widget, services};
+    settle();
+    widget.click();
+    EXPECT_FALSE(widget.isChecked());
+}
+
+TEST_F(ComboBoxBindings, ItemsAndTextAreShown) {
+    ComboBox box{window, "c", "Favoris "};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    EXPECT_EQ(widget.count(), 2);
+    EXPECT_EQ(widget.currentText(), "Favoris ");
+}
+
+TEST_F(ComboBoxBindings, ChoosingAnEntryChoosesItInTheControl) {
+    ComboBox box{window, "c"};
+    int clicks = 0;
+    box.on_click = [&] { ++clicks; };
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    emit widget.activated(1);
+    EXPECT_EQ(box.text(), "deux");
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ComboBoxBindings, SpaceGoesToTheControlAndIsNotTyped) {
+    ComboBox box{window, "c", "Jingles"};
+    std::u32string keys;
+    box.on_key_press = [&](char32_t key) { keys += key; };
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    settle();
+    QTest::keyClick(widget.lineEdit(), Qt::Key_Space);
+    EXPECT_EQ(keys, U" ");
+    EXPECT_EQ(box.text(), "Jingles");
+}
+
+TEST_F(ListBoxBindings, ChoosingARowChoosesItInTheControl) {
+    ListBox box{window, "l"};
+    QListWidget widget;
+    const ListBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    widget.setCurrentRow(1);
+    EXPECT_EQ(box.selected, 1);
+}
+
+TEST_F(ListBoxBindings, SelectionOfTheStationIsShownAndIsNoEvent) {
+    ListBox box{window, "l"};
+    QListWidget widget;
+    const ListBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    box.selected = 1;
+    settle();
+    EXPECT_EQ(widget.currentRow(), 1);
+    EXPECT_EQ(events, 0);
+}
+
+} // namespace
+
+} // namespace sonarelle

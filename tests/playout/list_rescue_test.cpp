@@ -10,6 +10,16 @@ using Paths = std::vector<std::string>;
 
 class ListRescueTest : public ChainBench {
 protected:
+    void play_decks_of_which_the_next_is_gone() {
+        open_tracks({40, 40});
+        machine.add_track("C:\\a.mp3", 30);
+        machine.add_track("C:\\b.mp3", 30);
+        open_on(1, "C:\\a.mp3");
+        open_on(2, "C:\\b.mp3");
+        station.main_window.mix_titles.click();
+        controls(1).play.click();
+        machine.disk.Kill("C:\\b.mp3");
+    }
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
 
     /// Row 2 of three lies in a folder that isn't there.
@@ -218,27 +228,13 @@ TEST_F(ListRescueTest, ComesBehindAStartThatFailed) {
 }
 
 TEST_F(ListRescueTest, ComesBehindAChainOverDecksThatAFaultStopped) {
-    open_tracks({40, 40});
-    machine.add_track("C:\\a.mp3", 30);
-    machine.add_track("C:\\b.mp3", 30);
-    open_on(1, "C:\\a.mp3");
-    open_on(2, "C:\\b.mp3");
-    station.main_window.mix_titles.click();
-    controls(1).play.click();
-    machine.disk.Kill("C:\\b.mp3");
+    play_decks_of_which_the_next_is_gone();
     play_for(60);
     EXPECT_EQ(machine.media.on_air(), Paths{track(2)});
 }
 
 TEST_F(ListRescueTest, GoesOnWithTheListBehindAChainOverDecks) {
-    open_tracks({40, 40});
-    machine.add_track("C:\\a.mp3", 30);
-    machine.add_track("C:\\b.mp3", 30);
-    open_on(1, "C:\\a.mp3");
-    open_on(2, "C:\\b.mp3");
-    station.main_window.mix_titles.click();
-    controls(1).play.click();
-    machine.disk.Kill("C:\\b.mp3");
+    play_decks_of_which_the_next_is_gone();
     play_for(100);
     EXPECT_EQ(machine.media.on_air(), Paths{track(1)});
 }

@@ -39,7 +39,7 @@ SettingsLoad::SettingsLoad(const Platform& platform, StationSettings& settings, 
                            Liste_son& list_window, ListState& list_state, Form_options& options,
                            mini_lecteur& small_player)
     : platform_{platform},
-      store_{platform.settings, platform.program_folder, platform.decimal_mark},
+      store_{platform},
       settings_{settings},
       main_{main_window},
       list_{list_window},

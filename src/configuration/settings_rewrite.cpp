@@ -18,7 +18,7 @@ std::string restart_needed() {
 SettingsRewrite::SettingsRewrite(const Platform& platform, StationSettings& settings, Ends ends)
     : platform_{platform},
       settings_{settings},
-      store_{platform.settings, platform.program_folder, platform.decimal_mark},
+      store_{platform},
       ends_{std::move(ends)} {}
 
 void SettingsRewrite::A_purger_registre_Click() {

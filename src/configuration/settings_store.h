@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "configuration/settings_vocabulary.h"
+#include "platform/platform.h"
 #include "platform/settings.h"
 #include "state/station_settings.h"
 
@@ -17,6 +18,9 @@ public:
         : settings_{settings},
           program_folder_{std::move(program_folder)},
           mark_{mark} {}
+    /// The store of a station.
+    explicit SettingsStore(const Platform& platform)
+        : SettingsStore{platform.settings, platform.program_folder, platform.decimal_mark} {}
 
     [[nodiscard]] std::string read(std::string_view section, std::string_view key) const;
     void write(std::string_view section, std::string_view key, std::string_view value) const;

@@ -6,7 +6,7 @@
 namespace sonarelle {
 
 void store_place(const Platform& platform, const Window& window, const PlaceKeys& keys) {
-    const SettingsStore store{platform.settings, platform.program_folder, platform.decimal_mark};
+    const SettingsStore store{platform};
     const auto write = [&](std::string_view key, Twips place) {
         ErrorIndicator{}.skip(
             [&] { store.write(setting_section::position, key, text_of(place.count(), platform.decimal_mark)); });

@@ -311,7 +311,7 @@ void DeckLoading::set_bar(Deck& deck) {
 void DeckLoading::ecrire_path_fichier(const std::string& path) {
     const std::string folder = with_backslash(folder_of_path(path));
     desk_.settings.chemin_musique = trim(folder);
-    const SettingsStore store{desk_.platform.settings, desk_.platform.program_folder, desk_.platform.decimal_mark};
+    const SettingsStore store{desk_.platform};
     ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Chemin_dernier_fichier", trim(folder)); });
 }
 

@@ -92,7 +92,7 @@ void Desk::inform(const std::string& text) {
 }
 
 void Desk::remember(std::string_view key, std::string_view value) {
-    const SettingsStore store{platform.settings, platform.program_folder, platform.decimal_mark};
+    const SettingsStore store{platform};
     try {
         store.write(setting_section::config, key, value);
     } catch (const Failure& failure) {

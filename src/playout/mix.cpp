@@ -89,7 +89,7 @@ void MixEngine::take_overlap_steps() {
 }
 
 void MixEngine::store_overlap() {
-    const SettingsStore store{desk_.platform.settings, desk_.platform.program_folder, desk_.platform.decimal_mark};
+    const SettingsStore store{desk_.platform};
     ErrorIndicator{}.skip([&] { store.write(setting_section::config, "Mix", text_of(desk_.settings.mix_defaut)); });
 }
 

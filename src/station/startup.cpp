@@ -53,7 +53,7 @@ void Startup::enter_program(const std::string& command_line) {
 }
 
 void Startup::read_first_settings() {
-    const SettingsStore store{platform_.settings, platform_.program_folder, platform_.decimal_mark};
+    const SettingsStore store{platform_};
     const SettingRow& label = setting_row(setting_section::colours, "coul_label");
     const SettingRow& window = setting_row(setting_section::colours, "coul_fenètre");
     ErrorIndicator errors;
@@ -176,7 +176,7 @@ void Startup::load_picture(Property<std::string>& picture, const std::string& fi
 }
 
 void Startup::store_program_folder() {
-    const SettingsStore store{platform_.settings, platform_.program_folder, platform_.decimal_mark};
+    const SettingsStore store{platform_};
     settings_.chemin_programme = with_backslash(platform_.program_folder);
     // A store that takes nothing keeps no list from the air.
     ErrorIndicator{}.skip(

@@ -8,7 +8,6 @@
 #include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
-#include "playlist/row_reading.h"
 
 namespace sonarelle {
 
@@ -26,14 +25,11 @@ int percent_of(int x) {
 } // namespace
 
 TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
-                                 ChainState& chain, DestinationRecord& destination, Liste_son& list_window,
-                                 Propriete& window, RecordReading& reading, ListDocument& document,
-                                 const ListGuard& guard)
+                                 Liste_son& list_window, Propriete& window, RecordReading& reading,
+                                 ListDocument& document, const ListGuard& guard)
     : platform_{platform},
       settings_{settings},
       list_{list},
-      chain_{chain},
-      destination_{destination},
       list_window_{list_window},
       window_{window},
       reading_{reading},
@@ -107,21 +103,20 @@ void TrackProperties::a_modif() {
     });
 }
 
-// The record that the next start on the air goes by stays.
 bool TrackProperties::fill_finds_a_volume(int row) {
-    const KeptForTheAir kept{chain_, list_, destination_};
-    const bool is_read = reading_.read_record(row);
-    destination_.convertir_valeur_son_ecriture();
+    const std::optional<DestinationRecord> read = reading_.read_record(row);
+    DestinationRecord record = read.value_or(DestinationRecord{});
+    record.convertir_valeur_son_ecriture();
     row_ = row;
-    path_ = trim(destination_.dest_chemin);
+    path_ = record.dest_chemin;
     changed_ = false;
-    window_.file_name.caption = destination_.dest_nom_fichier;
-    window_.start.set_text(text_of(destination_.dest_debut, platform_.decimal_mark));
-    window_.end.set_text(destination_.dest_fin);
-    window_.genre.set_text(destination_.dest_genre);
-    window_.volume.set_text(text_of(destination_.dest_volume));
-    window_.length.set_text(destination_.dest_duree);
-    return !is_read || destination_.dest_volume_pourcent != 0;
+    window_.file_name.caption = record.dest_nom_fichier;
+    window_.start.set_text(text_of(record.dest_debut, platform_.decimal_mark));
+    window_.end.set_text(record.dest_fin);
+    window_.genre.set_text(record.dest_genre);
+    window_.volume.set_text(text_of(record.dest_volume));
+    window_.length.set_text(record.dest_duree);
+    return !read || record.dest_volume_pourcent != 0;
 }
 
 // Nothing is marked by ear on the file of the row that was shown before.
@@ -241,8 +236,7 @@ void TrackProperties::write_row() {
     ListReader{platform_.disk, list}.read(row_.value(), before);
     if (before.trimmed_chemin() != path_) // The list has changed since the window was filled.
         throw Failure{failure_number::wrong_record_number, path_};
-    list_.index_destinataire = row_;
-    replace_record(platform_.disk, list, list_.index_destinataire.value(), row);
+    replace_record(platform_.disk, list, row_.value(), row);
     changed_ = true;
     document_.charge_liste();
     put_row_back(row);

@@ -12,8 +12,6 @@
 #include "playlist/list_guard.h"
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
-#include "playlist/working_records.h"
-#include "state/chain_state.h"
 #include "state/list_state.h"
 #include "state/station_settings.h"
 
@@ -23,9 +21,8 @@ namespace sonarelle {
 /// start and end, and writes the row back. Window thread.
 class TrackProperties {
 public:
-    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list, ChainState& chain,
-                    DestinationRecord& destination, Liste_son& list_window, Propriete& window, RecordReading& reading,
-                    ListDocument& document, const ListGuard& guard);
+    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list, Liste_son& list_window,
+                    Propriete& window, RecordReading& reading, ListDocument& document, const ListGuard& guard);
 
     /// Fills the window from the selected row's record, and shows it. Nothing while the list is empty.
     void a_modif();
@@ -71,8 +68,6 @@ private:
     const Platform& platform_;
     const StationSettings& settings_;
     ListState& list_;
-    ChainState& chain_;
-    DestinationRecord& destination_;
     Liste_son& list_window_;
     Propriete& window_;
     RecordReading& reading_;

@@ -29,11 +29,7 @@ void AudioEditor::open(const std::string& path) {
 
 std::string AudioEditor::path_of_selected_row() {
     const int row = window_.rows.selected();
-    if (row == 0)
-        return {};
-    const KeptForTheAir kept{chain_, list_, destination_};
-    reading_.read(row);
-    return destination_.dest_chemin;
+    return row == 0 ? std::string{} : reading_.read(row).dest_chemin;
 }
 
 void AudioEditor::tell(const std::string& text) {

@@ -11,13 +11,10 @@ namespace sonarelle {
 /// Opens the selected row's file with the audio editor of the settings.
 class AudioEditor {
 public:
-    AudioEditor(const Platform& platform, const StationSettings& settings, ListState& list, ChainState& chain,
-                DestinationRecord& destination, Liste_son& window, ListGuard& guard, RowReading& reading)
+    AudioEditor(const Platform& platform, const StationSettings& settings, Liste_son& window, ListGuard& guard,
+                RowReading& reading)
         : platform_{platform},
           settings_{settings},
-          list_{list},
-          chain_{chain},
-          destination_{destination},
           window_{window},
           guard_{guard},
           reading_{reading} {}
@@ -31,9 +28,6 @@ private:
 
     const Platform& platform_;
     const StationSettings& settings_;
-    ListState& list_;
-    ChainState& chain_;
-    DestinationRecord& destination_;
     Liste_son& window_;
     ListGuard& guard_;
     RowReading& reading_;

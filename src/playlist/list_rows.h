@@ -32,7 +32,7 @@ inline constexpr std::string_view default_list = "liste.dfm";
 [[nodiscard]] RowTable::Row row_of(const enreg_liste& record, DecimalMark mark);
 [[nodiscard]] RowTable::Row row_of(const enreg_rfm& record, DecimalMark mark);
 
-/// The destination record as a row, with its volume in percent.
+/// The same of a record with its volume as an attenuation.
 [[nodiscard]] RowTable::Row row_of(const DestinationRecord& record, DecimalMark mark);
 
 /// Fills one field after the other from the cells of a row. `statement` runs each of the assignments, so that the

@@ -20,20 +20,18 @@ constexpr std::chrono::milliseconds a_look{5}; // far below the lead by which ti
 
 } // namespace
 
-ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
-                       Liste_son& window, fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog,
-                       ListGuard& guard, RowReading& reading, FileMeasure& measure, ListVerification& verification)
+ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window,
+                       fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog, ListGuard& guard,
+                       RowReading& reading, ListVerification& verification)
     : platform_{platform},
       list_{list},
       chain_{chain},
-      destination_{destination},
       window_{window},
       progress_{progress},
       document_{document},
       save_dialog_{save_dialog},
       guard_{guard},
       reading_{reading},
-      measure_{measure},
       verification_{verification} {}
 
 void ListUpdate::a_mettre_a_jour() {
@@ -45,7 +43,6 @@ void ListUpdate::a_mettre_a_jour() {
     const ListWork work{guard_, window_};
     std::optional<std::string> trouble;
     try {
-        const KeptForTheAir kept{chain_, list_, destination_};
         trouble = update_one_row();
     } catch (const Failure& failure) {
         trouble = failure.what();
@@ -69,9 +66,10 @@ std::optional<std::string> ListUpdate::update_one_row() {
 
 void ListUpdate::update_dropped_row() {
     const int row = list_.index_insertion.value();
-    const MeasuredFile measured = measure(row);
+    const DestinationRecord record = reading_.read(row);
+    const MeasuredFile measured = measure_.met_ajour(record.dest_chemin);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
-        return window_.rows.replace(row, measured_row(destination_, *facts));
+        return window_.rows.replace(row, measured_row(record, *facts));
     window_.rows.remove(row);
     if (list_.ligne_en_lecture.value() > row)
         list_.ligne_en_lecture -= 1;
@@ -80,16 +78,12 @@ void ListUpdate::update_dropped_row() {
 std::optional<std::string> ListUpdate::update_selected_row() {
     const int row = window_.rows.selected();
     make_current(row);
-    const MeasuredFile measured = measure(row);
+    const DestinationRecord record = reading_.read(row);
+    const MeasuredFile measured = measure_.met_ajour(record.dest_chemin);
     if (const auto* failure = std::get_if<Failure>(&measured))
         return failure->what();
-    window_.rows.replace(row, measured_row(destination_, std::get<TrackFacts>(measured)));
+    window_.rows.replace(row, measured_row(record, std::get<TrackFacts>(measured)));
     return std::nullopt;
-}
-
-MeasuredFile ListUpdate::measure(int row) {
-    reading_.read(row);
-    return measure_.met_ajour(destination_.dest_chemin);
 }
 
 void ListUpdate::give_up(const std::string& description) {
@@ -148,12 +142,7 @@ void ListUpdate::update_all_rows() {
 // Gives the row to go on with: the next one, or this one at its new place when the chain, or the operator, has changed
 // the list during the wait for its length.
 int ListUpdate::update_row(int row, LengthsAhead& lengths) {
-    DestinationRecord record;
-    {
-        const KeptForTheAir kept{chain_, list_, destination_};
-        reading_.read(row);
-        record = destination_;
-    }
+    const DestinationRecord record = reading_.read(row);
     make_current(row);
     const RowTable::Row before = window_.rows.row(row);
     const auto length = wait_for(lengths, record.dest_chemin);
@@ -161,8 +150,6 @@ int ListUpdate::update_row(int row, LengthsAhead& lengths) {
         return row;
     if (row > window_.rows.count() || window_.rows.row(row) != before)
         return reading_.place_of(before, row);
-    const KeptForTheAir kept{chain_, list_, destination_};
-    list_.chemin_fichier = record.dest_chemin;
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin, *length);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
         window_.rows.replace(row, measured_row(record, *facts));

@@ -26,9 +26,9 @@ namespace sonarelle {
 /// the list's order, and the station goes on between them.
 class ListUpdate {
 public:
-    ListUpdate(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
-               Liste_son& window, fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog,
-               ListGuard& guard, RowReading& reading, FileMeasure& measure, ListVerification& verification);
+    ListUpdate(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window, fsauve& progress,
+               ListDocument& document, ListSaveDialog& save_dialog, ListGuard& guard, RowReading& reading,
+               ListVerification& verification);
 
     /// The selected row, or the row that was just dropped.
     void a_mettre_a_jour();
@@ -38,7 +38,6 @@ private:
     [[nodiscard]] std::optional<std::string> update_one_row();
     void update_dropped_row();
     [[nodiscard]] std::optional<std::string> update_selected_row();
-    [[nodiscard]] MeasuredFile measure(int row);
     void give_up(const std::string& description);
 
     [[nodiscard]] bool may_begin(bool after_drop);
@@ -52,14 +51,13 @@ private:
     const Platform& platform_;
     ListState& list_;
     ChainState& chain_;
-    DestinationRecord& destination_;
     Liste_son& window_;
     fsauve& progress_;
     ListDocument& document_;
     ListSaveDialog& save_dialog_;
     ListGuard& guard_;
     RowReading& reading_;
-    FileMeasure& measure_;
+    FileMeasure measure_{platform_};
     ListVerification& verification_;
     int removed_ = 0; // rows whose files the test before the update didn't find
 };

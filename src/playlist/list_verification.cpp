@@ -14,14 +14,12 @@ constexpr std::string_view not_found = " Non trouvé ";
 
 } // namespace
 
-ListVerification::ListVerification(const Platform& platform, ListState& list, ChainState& chain,
-                                   DestinationRecord& destination, Liste_son& window, fsauve& progress,
-                                   ListDocument& document, ListGuard& guard, RowReading& reading,
-                                   std::function<void(const std::string&)> note)
+ListVerification::ListVerification(const Platform& platform, ListState& list, const ChainState& chain,
+                                   Liste_son& window, fsauve& progress, ListDocument& document, ListGuard& guard,
+                                   RowReading& reading, std::function<void(const std::string&)> note)
     : platform_{platform},
       list_{list},
       chain_{chain},
-      destination_{destination},
       window_{window},
       progress_{progress},
       document_{document},
@@ -85,11 +83,7 @@ void ListVerification::go_over_rows(Tally& tally) {
 }
 
 FileFinding ListVerification::test(int row) {
-    {
-        const KeptForTheAir kept{chain_, list_, destination_};
-        reading_.read(row);
-        list_.chemin_test = trim(destination_.dest_chemin);
-    }
+    list_.chemin_test = reading_.read(row).dest_chemin;
     FileFinding finding = look_for_file(platform_.disk, list_.chemin_test);
     list_.dossier_test = finding.folder;
     return finding;

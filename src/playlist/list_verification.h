@@ -19,8 +19,8 @@ namespace sonarelle {
 /// Looks whether the files of the list are there, and takes those that aren't out of it.
 class ListVerification {
 public:
-    ListVerification(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
-                     Liste_son& window, fsauve& progress, ListDocument& document, ListGuard& guard, RowReading& reading,
+    ListVerification(const Platform& platform, ListState& list, const ChainState& chain, Liste_son& window,
+                     fsauve& progress, ListDocument& document, ListGuard& guard, RowReading& reading,
                      std::function<void(const std::string&)> note);
 
     /// Tests every row, as its own action.
@@ -50,8 +50,7 @@ private:
 
     const Platform& platform_;
     ListState& list_;
-    ChainState& chain_;
-    DestinationRecord& destination_;
+    const ChainState& chain_;
     Liste_son& window_;
     fsauve& progress_;
     ListDocument& document_;

@@ -1,50 +1,45 @@
 #include "playlist/record_reading.h"
 
-#include <cstdint>
 #include <utility>
 
-#include "platform/paths.h"
 #include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
 namespace sonarelle {
 
-RecordReading::RecordReading(const Platform& platform, ListState& list, DestinationRecord& destination,
-                             DraggedRecord& dragged, const RowTable& rows, std::function<void()> warn_of_null_volume)
+RecordReading::RecordReading(const Platform& platform, ListState& list, const RowTable& rows,
+                             std::function<void()> warn_of_null_volume)
     : platform_{platform},
       list_{list},
-      destination_{destination},
-      dragged_{dragged},
       rows_{rows},
       warn_of_null_volume_{std::move(warn_of_null_volume)} {}
 
-void RecordReading::lire_enreg_destinataire() {
-    fill_destination(&RecordReading::record_of_file);
+DestinationRecord RecordReading::lire_enreg_destinataire(Integer index_destinataire, DestinationRecord before) {
+    return read(index_destinataire, &RecordReading::record_of_file, std::move(before));
 }
 
-void RecordReading::read_for_the_air() {
-    fill_destination(&RecordReading::record_of_row);
+DestinationRecord RecordReading::read_for_the_air(Integer row) {
+    return read(row, &RecordReading::record_of_row, {});
 }
 
-void RecordReading::fill_destination(enreg_liste (RecordReading::*record_of)(int number) const) {
+DestinationRecord RecordReading::read(Integer number, RecordOf record_of, DestinationRecord before) {
+    DestinationRecord record = std::move(before);
     if (list_.fichier_liste.empty())
-        return;
-    if (list_.index_destinataire == 0)
-        list_.index_destinataire = 1;
+        return record;
     ErrorIndicator{}.skip([&] {
-        take_texts((this->*record_of)(list_.index_destinataire.value()));
-        if (destination_.dest_volume == 0)
+        record = destination_of((this->*record_of)(number == 0 ? 1 : number.value()));
+        if (record.dest_volume_pourcent == 0)
             check_null_volume();
-        take_volume();
     });
+    return record;
 }
 
-bool RecordReading::read_record(int number) {
-    if (number <= INT16_MAX)
-        list_.index_destinataire = number;
-    destination_ = {};
-    return !list_.fichier_liste.empty() && ErrorIndicator{}.skip([&] { take(record_of_file(number)); });
+std::optional<DestinationRecord> RecordReading::read_record(int number) const {
+    std::optional<DestinationRecord> record;
+    if (!list_.fichier_liste.empty())
+        ErrorIndicator{}.skip([&] { record = destination_of(record_of_file(number)); });
+    return record;
 }
 
 enreg_liste RecordReading::record_of_file(int number) const {
@@ -63,27 +58,6 @@ enreg_liste RecordReading::record_of_row(int number) const {
     return is_shown ? record : record_of_cells(shown, platform_.decimal_mark);
 }
 
-void RecordReading::take(const enreg_liste& record) {
-    take_texts(record);
-    take_volume();
-}
-
-void RecordReading::take_texts(const enreg_liste& record) {
-    destination_.dest_chemin = record.trimmed_chemin();
-    destination_.dest_debut = record.debut_lecture();
-    destination_.dest_fin = lower_case(record.trimmed_fin_lecture());
-    destination_.dest_genre = record.trimmed_genre();
-    destination_.dest_volume = record.volume();
-    destination_.dest_duree = record.duree_piste();
-}
-
-void RecordReading::take_volume() {
-    destination_.dest_volume_pourcent = destination_.dest_volume;
-    if (destination_.dest_volume < 101)
-        destination_.convertir_valeur_son();
-    destination_.dest_nom_fichier = name_of_path(destination_.dest_chemin);
-}
-
 void RecordReading::check_null_volume() {
     if (list_.volume_nul_signale.is_true())
         return;
@@ -91,23 +65,24 @@ void RecordReading::check_null_volume() {
     warn_of_null_volume_();
 }
 
-void RecordReading::lire_enreg_dragdrop() {
-    if (list_.fichier_liste.empty())
-        return;
-    if (list_.index_destinataire == 0)
-        list_.index_destinataire = 1;
-    ErrorIndicator{}.skip([this] { read_dragged(); });
+DraggedRecord RecordReading::lire_enreg_dragdrop(Integer index_glisse) const {
+    DraggedRecord dragged;
+    if (!list_.fichier_liste.empty())
+        ErrorIndicator{}.skip([&] { dragged = read_dragged(index_glisse.value()); });
+    return dragged;
 }
 
-void RecordReading::read_dragged() {
-    const enreg_liste record = record_of_file(list_.index_glisse.value());
-    dragged_.drop_chemin = record.trimmed_chemin();
+DraggedRecord RecordReading::read_dragged(int number) const {
+    const enreg_liste record = record_of_file(number);
     const std::string start = Format(record.debut_lecture(), start_pattern, platform_.decimal_mark);
-    dragged_.drop_debut = to_double(start, platform_.decimal_mark);
-    dragged_.drop_fin = lower_case(record.trimmed_fin_lecture());
-    dragged_.drop_genre = record.trimmed_genre();
-    dragged_.drop_volume = record.volume();
-    dragged_.drop_duree = record.duree_piste();
+    DraggedRecord dragged;
+    dragged.drop_chemin = record.trimmed_chemin();
+    dragged.drop_fin = lower_case(record.trimmed_fin_lecture());
+    dragged.drop_genre = record.trimmed_genre();
+    dragged.drop_duree = record.duree_piste();
+    dragged.drop_debut = to_double(start, platform_.decimal_mark);
+    dragged.drop_volume = record.volume();
+    return dragged;
 }
 
 } // namespace sonarelle

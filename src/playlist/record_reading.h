@@ -1,7 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <optional>
 
 #include "platform/platform.h"
 #include "platform/row_table.h"
@@ -11,44 +11,39 @@
 
 namespace sonarelle {
 
-/// Reads single records of the current list into the working records. A record that can't be read leaves the working
-/// record as far as it was filled, without a word: the chain goes on and decides by what it finds there.
+/// Reads single records of the current list. A record that can't be read is none, without a word: the chain goes on and
+/// decides by what it gets.
 class RecordReading {
 public:
     /// `warn_of_null_volume` is called once, for the first volume 0 since start-up.
-    RecordReading(const Platform& platform, ListState& list, DestinationRecord& destination, DraggedRecord& dragged,
-                  const RowTable& rows, std::function<void()> warn_of_null_volume);
+    RecordReading(const Platform& platform, ListState& list, const RowTable& rows,
+                  std::function<void()> warn_of_null_volume);
 
-    /// Record `index_destinataire` of `fichier_liste` into the destination record, its volume as an attenuation.
-    /// Nothing without a list; an index of 0 becomes 1.
-    void lire_enreg_destinataire();
+    /// A record of `fichier_liste`, its volume as an attenuation; number 0 is the first one. Without a list, or where
+    /// it can't be read, the record stays as it was `before`.
+    [[nodiscard]] DestinationRecord lire_enreg_destinataire(Integer index_destinataire, DestinationRecord before = {});
     /// The same for a row that goes on the air. Where the file doesn't have this row, because it can't be read, or a
     /// save was not wanted, the row itself counts: no track plays with the end and the volume of another.
-    void read_for_the_air();
+    [[nodiscard]] DestinationRecord read_for_the_air(Integer row);
 
-    /// Any record, also behind the numbers that `index_destinataire` holds, without a warning. False when it can't be
-    /// read; the destination record is then empty.
-    bool read_record(int number);
-    /// A record that doesn't come from the file, in the same way.
-    void take(const enreg_liste& record);
+    /// Any record, also behind the station's 16-bit numbers, without a warning; none when it can't be read.
+    [[nodiscard]] std::optional<DestinationRecord> read_record(int number) const;
     /// Gives the null volume warning, if it hasn't come yet.
     void check_null_volume();
 
-    /// The record of the drag index into the dragged record, its volume still in percent.
-    void lire_enreg_dragdrop();
+    /// The record of a row that is dragged, its volume still in percent; empty when it can't be read.
+    [[nodiscard]] DraggedRecord lire_enreg_dragdrop(Integer index_glisse) const;
 
 private:
+    using RecordOf = enreg_liste (RecordReading::*)(int number) const;
+
     [[nodiscard]] enreg_liste record_of_file(int number) const;
     [[nodiscard]] enreg_liste record_of_row(int number) const;
-    void fill_destination(enreg_liste (RecordReading::*record_of)(int number) const);
-    void read_dragged();
-    void take_texts(const enreg_liste& record);
-    void take_volume();
+    [[nodiscard]] DestinationRecord read(Integer number, RecordOf record_of, DestinationRecord before);
+    [[nodiscard]] DraggedRecord read_dragged(int number) const;
 
     const Platform& platform_;
     ListState& list_;
-    DestinationRecord& destination_;
-    DraggedRecord& dragged_;
     const RowTable& rows_;
     std::function<void()> warn_of_null_volume_;
 };

@@ -18,12 +18,9 @@ std::string path_of_record(const std::string& path) {
 
 } // namespace
 
-RowChanges::RowChanges(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
-                       Liste_son& window, ListDocument& document, ListGuard& guard, RowReading& reading)
+RowChanges::RowChanges(const Platform& platform, Liste_son& window, ListDocument& document, ListGuard& guard,
+                       RowReading& reading)
     : platform_{platform},
-      list_{list},
-      chain_{chain},
-      destination_{destination},
       window_{window},
       document_{document},
       guard_{guard},
@@ -39,7 +36,7 @@ void RowChanges::Modifier_lettre_lecteur() {
             const std::string answer = ask(action, letter);
             if (answer.empty())
                 return;
-            change_all_rows([&answer](RowTable::Row& row) {
+            change_all_rows([&answer](RowTable::Row& row, const DestinationRecord&) {
                 row[list_column::path] = path_of_record(answer + std::string{mid(row[list_column::path], 2)});
                 row[list_column::volume] = "100";
             });
@@ -55,7 +52,8 @@ void RowChanges::Modifier_volume() {
         [&] {
             const std::string answer = ask(action, first_row()[list_column::volume]);
             if (!answer.empty())
-                change_all_rows([&answer](RowTable::Row& row) { row[list_column::volume] = answer; });
+                change_all_rows(
+                    [&answer](RowTable::Row& row, const DestinationRecord&) { row[list_column::volume] = answer; });
         },
         "");
 }
@@ -81,11 +79,11 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
                 return;
             const std::string start =
                 Format(to_double(answer, platform_.decimal_mark), start_pattern, platform_.decimal_mark);
-            const auto change = [&start, this](RowTable::Row& row) {
-                destination_.convertir_valeur_son_ecriture();
+            const auto change = [&start](RowTable::Row& row, DestinationRecord record) {
+                record.convertir_valeur_son_ecriture();
                 row[list_column::start] = start;
-                row[list_column::end] = destination_.dest_fin;
-                row[list_column::volume] = text_of(destination_.dest_volume);
+                row[list_column::end] = record.dest_fin;
+                row[list_column::volume] = text_of(record.dest_volume);
             };
             if (chosen) {
                 change_row(place_now(*chosen), change);
@@ -131,9 +129,7 @@ std::string RowChanges::ask(const ListActionRow& action, const std::string& firs
 }
 
 RowTable::Row RowChanges::first_row() {
-    const KeptForTheAir kept{chain_, list_, destination_};
-    reading_.read(1);
-    return row_of(destination_, platform_.decimal_mark);
+    return row_of(reading_.read(1), platform_.decimal_mark);
 }
 
 void RowChanges::change_all_rows(const Change& change) {
@@ -145,10 +141,9 @@ void RowChanges::change_all_rows(const Change& change) {
 }
 
 void RowChanges::change_row(int row, const Change& change) {
-    const KeptForTheAir kept{chain_, list_, destination_};
-    reading_.read(row);
-    RowTable::Row changed = row_of(destination_, platform_.decimal_mark);
-    change(changed);
+    const DestinationRecord record = reading_.read(row);
+    RowTable::Row changed = row_of(record, platform_.decimal_mark);
+    change(changed, record);
     window_.rows.replace(row, std::move(changed));
 }
 

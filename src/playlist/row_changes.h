@@ -9,16 +9,14 @@
 #include "playlist/list_guard.h"
 #include "playlist/liste_son.h"
 #include "playlist/row_reading.h"
-#include "state/chain_state.h"
-#include "state/list_state.h"
 
 namespace sonarelle {
 
 /// Changes one value of all rows, or of the selected one, to what the operator enters.
 class RowChanges {
 public:
-    RowChanges(const Platform& platform, ListState& list, ChainState& chain, DestinationRecord& destination,
-               Liste_son& window, ListDocument& document, ListGuard& guard, RowReading& reading);
+    RowChanges(const Platform& platform, Liste_son& window, ListDocument& document, ListGuard& guard,
+               RowReading& reading);
 
     /// The drive of every path becomes the answer, whatever its length; the volumes go back to 100.
     void Modifier_lettre_lecteur();
@@ -28,7 +26,7 @@ public:
     void a_debutpiste_fichier();
 
 private:
-    using Change = std::function<void(RowTable::Row& row)>;
+    using Change = std::function<void(RowTable::Row& row, const DestinationRecord& record)>;
     struct ChosenRow {
         int number;
         RowTable::Row cells;
@@ -46,9 +44,6 @@ private:
     void under_trap(const std::function<void()>& statements, const char* last_words);
 
     const Platform& platform_;
-    ListState& list_;
-    ChainState& chain_;
-    DestinationRecord& destination_;
     Liste_son& window_;
     ListDocument& document_;
     ListGuard& guard_;

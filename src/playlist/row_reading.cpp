@@ -8,11 +8,13 @@
 
 namespace sonarelle {
 
-void RowReading::read(int row) {
+DestinationRecord RowReading::read(int row) {
     const RowTable::Row& shown = window_.rows.row(row);
-    if (!reading_.read_record(row) || destination_.dest_chemin != shown[list_column::path])
-        reading_.take(record_of_cells(shown, platform_.decimal_mark));
-    null_volume_ |= destination_.dest_volume_pourcent == 0;
+    const std::optional<DestinationRecord> of_file = reading_.read_record(row);
+    const bool is_shown = of_file && of_file->dest_chemin == shown[list_column::path];
+    DestinationRecord record = is_shown ? *of_file : destination_of(record_of_cells(shown, platform_.decimal_mark));
+    null_volume_ |= record.dest_volume_pourcent == 0;
+    return record;
 }
 
 void RowReading::warn_of_null_volume() {
@@ -42,20 +44,6 @@ int RowReading::place_of(const RowTable::Row& wanted, int old_place) const {
         if (rows.row(row) == wanted)
             return row;
     return old_place;
-}
-
-KeptForTheAir::KeptForTheAir(ChainState& chain, ListState& list, DestinationRecord& destination)
-    : chain_{chain},
-      list_{list},
-      destination_{destination},
-      kept_{destination},
-      chemin_fichier_{list.chemin_fichier} {}
-
-KeptForTheAir::~KeptForTheAir() {
-    if (chain_.lecteur_en_cours == 0)
-        return;
-    destination_ = kept_;
-    list_.chemin_fichier = chemin_fichier_;
 }
 
 } // namespace sonarelle

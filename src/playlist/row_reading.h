@@ -6,25 +6,21 @@
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
 #include "playlist/working_records.h"
-#include "state/chain_state.h"
-#include "state/list_state.h"
 
 namespace sonarelle {
 
 /// Reads the rows that an action of the list works on, one after the other.
 class RowReading {
 public:
-    RowReading(const Platform& platform, const DestinationRecord& destination, const Liste_son& window,
-               RecordReading& reading)
+    RowReading(const Platform& platform, const Liste_son& window, RecordReading& reading)
         : platform_{platform},
-          destination_{destination},
           window_{window},
           reading_{reading} {}
 
-    /// The record of a row into the destination record. The file is the list; where it doesn't have this row, because
+    /// The record of a row. The file is the list; where it doesn't have this row, because
     /// a save has failed or was not wanted, the row itself counts, so that no row is ever taken for another.
     /// @throws Failure 9 for a row that doesn't exist.
-    void read(int row);
+    [[nodiscard]] DestinationRecord read(int row);
     /// Warns of a volume 0 in a row that was read. The station goes on while the warning is shown, so row numbers taken
     /// before it no longer hold.
     void warn_of_null_volume();
@@ -38,27 +34,9 @@ public:
 
 private:
     const Platform& platform_;
-    const DestinationRecord& destination_;
     const Liste_son& window_;
     RecordReading& reading_;
     bool null_volume_ = false;
-};
-
-/// Puts back what the next start on the air goes by, when an action has worked on another row: the station goes on
-/// wherever the action yields. With no deck on the air the row stays the current one.
-class KeptForTheAir {
-public:
-    KeptForTheAir(ChainState& chain, ListState& list, DestinationRecord& destination);
-    ~KeptForTheAir();
-    KeptForTheAir(const KeptForTheAir&) = delete;
-    KeptForTheAir& operator=(const KeptForTheAir&) = delete;
-
-private:
-    ChainState& chain_;
-    ListState& list_;
-    DestinationRecord& destination_;
-    const DestinationRecord kept_;
-    const std::string chemin_fichier_;
 };
 
 } // namespace sonarelle

@@ -4,15 +4,13 @@
 
 #include "platform/failure.h"
 #include "platform/shell.h"
-#include "platform/text.h"
 
 namespace sonarelle {
 
-RowToDeck::RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
-                     Liste_son& window, RecordReading& reading, DeckDoors decks)
+RowToDeck::RowToDeck(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window,
+                     RecordReading& reading, DeckDoors decks)
     : platform_{platform},
       list_{list},
-      destination_{destination},
       chain_{chain},
       window_{window},
       reading_{reading},
@@ -22,13 +20,12 @@ RowToDeck::RowToDeck(const Platform& platform, ListState& list, const Destinatio
 // 16-bit numbers can't be sent.
 void RowToDeck::send(int deck) {
     ErrorIndicator{}.skip([&] {
-        list_.index_destinataire = window_.rows.selected();
+        const Integer row = window_.rows.selected();
         if (list_.fichier_liste.empty() || !decks_.may_be_loaded(deck))
             return;
-        reading_.lire_enreg_destinataire();
-        list_.chemin_fichier = destination_.dest_chemin;
-        chain_.path_of_deck(deck) = trim(destination_.dest_chemin);
-        decks_.load(deck);
+        sent_ = reading_.lire_enreg_destinataire(row, sent_);
+        list_.chemin_fichier = chain_.path_of_deck(deck) = sent_.dest_chemin;
+        decks_.load(deck, sent_);
     });
 }
 

@@ -15,11 +15,11 @@ class RowToDeck {
 public:
     /// The doors of deck 1, 2 or 3.
     struct DeckDoors {
-        std::function<bool(int deck)> may_be_loaded; ///< May ask the operator.
-        std::function<void(int deck)> load;          ///< Loads `chemin_fichier` and adjusts the deck's buttons.
+        std::function<bool(int deck)> may_be_loaded;                      ///< May ask the operator.
+        std::function<void(int deck, const DestinationRecord& row)> load; ///< Loads it and adjusts the deck's buttons.
     };
-    RowToDeck(const Platform& platform, ListState& list, const DestinationRecord& destination, ChainState& chain,
-              Liste_son& window, RecordReading& reading, DeckDoors decks);
+    RowToDeck(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window, RecordReading& reading,
+              DeckDoors decks);
 
     void Charg1_son() { send(1); }
     void charg2_son() { send(2); }
@@ -33,11 +33,11 @@ private:
 
     const Platform& platform_;
     ListState& list_;
-    const DestinationRecord& destination_;
     ChainState& chain_;
     Liste_son& window_;
     RecordReading& reading_;
     DeckDoors decks_;
+    DestinationRecord sent_; // last
 };
 
 } // namespace sonarelle

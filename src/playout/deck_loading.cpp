@@ -30,16 +30,16 @@ DeckLoading::DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix)
       volume_{volume},
       mix_{mix} {}
 
-void DeckLoading::load_record(Deck& deck) {
+void DeckLoading::load_record(Deck& deck, const DestinationRecord& record, const std::string& network_path) {
     deck.create_graph();
-    deck.path = trim(desk_.destination.dest_chemin);
-    recup_path(deck);
+    deck.path = record.dest_chemin; // it holds nothing else while the operator reads that this isn't there
+    deck.path = record.dest_genre == network_genre ? network_path : recup_path(record.dest_chemin);
     if (deck.path.empty()) {
         deck.controls.title.caption = "Non trouvé";
         return;
     }
-    take_record(deck);
-    if (const int percent = desk_.destination.dest_volume.value(); percent > 0) // 0 is none that was ever set
+    take_record(deck, record);
+    if (const int percent = record.dest_volume.value(); percent > 0) // 0 is none that was ever set
         deck.volume_piste = attenuation_of_percent(percent);
     const std::string title = short_title(name_of(deck.path));
     ErrorIndicator errors;
@@ -56,24 +56,23 @@ void DeckLoading::load_record(Deck& deck) {
     desk_.show_on_small_player(title);
 }
 
-LoadResult DeckLoading::load_from_list(Deck& deck) {
+LoadResult DeckLoading::load_from_list(Deck& deck, const DestinationRecord& row) {
     deck.create_graph();
     try {
-        return render_from_list(deck);
+        return render_from_list(deck, row);
     } catch (const Failure& failure) {
         return failure.number == failure_number::device_fault ? LoadResult::disk_did_not_answer : LoadResult::failed;
     }
 }
 
-LoadResult DeckLoading::render_from_list(Deck& deck) {
+LoadResult DeckLoading::render_from_list(Deck& deck, const DestinationRecord& row) {
     ChainState& chain = desk_.chain;
-    deck.path = chain.ecoute_demandee.is_true() ? chain.chemin_ecoute : desk_.list.chemin_fichier;
-    desk_.window.path_under_check.set_text(deck.path);
+    deck.path = chain.ecoute_demandee.is_true() ? chain.chemin_ecoute : row.dest_chemin;
     const std::string name = short_title(name_of(deck.path));
     deck.graph().RenderFile(deck.path);
     const double length = deck.graph().get_Duration();
-    take_record(deck);
-    deck.fin_piste = desk_.destination.dest_fin;
+    take_record(deck, row);
+    deck.fin_piste = row.dest_fin;
     deck.duree_piste = text_of(deck.whole_duration());
     if (!desk_.list_window.full_length_mode.value() && chain.mode_enchainement.is_true())
         desk_.window.list_chain_timer.enable();
@@ -92,11 +91,11 @@ LoadResult DeckLoading::render_from_list(Deck& deck) {
     return LoadResult::loaded;
 }
 
-// Other records are read while this one waits on its deck. What a hand loads plays to its end.
-void DeckLoading::take_record(Deck& deck) {
-    deck.debut_piste = desk_.destination.dest_debut;
+// What a hand loads plays to its end.
+void DeckLoading::take_record(Deck& deck, const DestinationRecord& record) {
+    deck.debut_piste = record.dest_debut;
     deck.fin_piste.clear();
-    deck.volume_piste = desk_.destination.dest_volume;
+    deck.volume_piste = record.dest_volume;
 }
 
 void DeckLoading::show_length(Deck& deck) {
@@ -123,7 +122,7 @@ void DeckLoading::charge_lire(const std::string& path) {
     Deck& deck = desk_.deck(1);
     deck.create_graph();
     desk_.chain.lecteur_en_cours = 1;
-    deck.path = desk_.destination.dest_chemin = path;
+    deck.path = path;
     deck.controls.title.caption = name_of(path);
     Failure failure{failure_number::unplayable_file};
     try {
@@ -262,28 +261,20 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
     }
 }
 
-void DeckLoading::recup_path(Deck& deck) {
-    if (desk_.destination.dest_genre == network_genre) {
-        deck.path = desk_.window.path_under_check.text();
-        return;
-    }
-    const std::string& path = desk_.destination.dest_chemin;
-    desk_.window.path_under_check.set_text(path);
-    const std::string name{name_of_path(path)};
+std::string DeckLoading::recup_path(const std::string& dest_chemin) {
+    const std::string name{name_of_path(dest_chemin)};
     std::string found;
     std::string folder;
     ErrorIndicator{}.skip([&] {
-        folder = with_backslash(folder_of_path(path));
-        desk_.platform.disk.ChDrive(path);
+        folder = with_backslash(folder_of_path(dest_chemin));
+        desk_.platform.disk.ChDrive(dest_chemin);
         desk_.platform.disk.ChDir(folder);
         found = desk_.platform.disk.Dir(join_path(folder, name));
     });
-    if (!name.empty() && equal_ignoring_case(found, name)) {
-        deck.path = join_path(folder, name);
-        return;
-    }
+    if (!name.empty() && equal_ignoring_case(found, name))
+        return join_path(folder, name);
     show_box(desk_.platform.dialogs, name + " n'existe pas ou plus", Icon::stop);
-    deck.path.clear();
+    return {};
 }
 
 std::string DeckLoading::name_of(std::string_view path) {

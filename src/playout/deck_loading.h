@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "playlist/working_records.h"
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
 
@@ -33,13 +34,13 @@ class DeckLoading {
 public:
     DeckLoading(Desk& desk, DeckVolume& volume, MixEngine& mix);
 
-    /// The destination record's file, by hand.
-    void load_record(Deck& deck);
+    /// A record's file, by hand; one of the network is opened as it is told, without a look for it.
+    void load_record(Deck& deck, const DestinationRecord& record, const std::string& network_path);
     /// Whether a hand may put another file on a deck: for one that sounds the operator is asked, No as default.
     [[nodiscard]] bool may_be_cut(const Deck& deck);
 
-    /// `chemin_fichier`, or the listening path, without starting it.
-    LoadResult load_from_list(Deck& deck);
+    /// A row's file, or the listening path, without starting it.
+    LoadResult load_from_list(Deck& deck, const DestinationRecord& row);
 
     /// A file of the program's command line on deck 1.
     void charge_lire(const std::string& path);
@@ -49,9 +50,6 @@ public:
     void open_by_hand(Deck& deck);
     /// Files were dropped on a deck: the first one is opened as by hand, where dragging is allowed.
     void open_dropped(Deck& deck, const std::vector<std::string>& paths);
-
-    /// Looks for the destination record's file in its folder; the deck's path is empty when it isn't there.
-    void recup_path(Deck& deck);
 
     /// The end point that a deck's counter shows by the reading options in force.
     [[nodiscard]] std::string end_point_text(Deck& deck, const std::string& end_of_record) const;
@@ -64,9 +62,11 @@ public:
     void ecrire_path_fichier(const std::string& path);
 
 private:
-    [[nodiscard]] LoadResult render_from_list(Deck& deck);
-    /// The destination record's start and volume are those of the deck's file; an end it has none yet.
-    void take_record(Deck& deck);
+    [[nodiscard]] LoadResult render_from_list(Deck& deck, const DestinationRecord& row);
+    /// Where a file lies, by a look into its folder; empty, after a word to the operator, when it isn't there.
+    [[nodiscard]] std::string recup_path(const std::string& dest_chemin);
+    /// The record's start and volume are those of the deck's file; an end it has none yet.
+    static void take_record(Deck& deck, const DestinationRecord& record);
     void show_length(Deck& deck);
     void show_loaded(Deck& deck, const std::string& duration, const std::string& title);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.

@@ -32,10 +32,8 @@ DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
       reload_list_{std::move(reload_list)} {}
 
 void DeckVolume::adjust(Deck& deck) {
-    ErrorIndicator{}.skip([&] {
-        deck.graph().put_Volume(Millibel{attenuation_of_slider(deck.controls.slider.value())});
-        desk_.destination.dest_volume = deck.graph().get_Volume().count();
-    });
+    ErrorIndicator{}.skip(
+        [&] { deck.graph().put_Volume(Millibel{attenuation_of_slider(deck.controls.slider.value())}); });
     show(deck);
 }
 
@@ -45,15 +43,14 @@ void DeckVolume::show(Deck& deck) {
     deck.controls.percent.caption = percent + "%";
 }
 
-void DeckVolume::apply_record(Deck& deck) {
+void DeckVolume::apply_record(Deck& deck, Integer volume) {
     if (desk_.mixes_titles() || !deck.has_graph())
         return;
-    const int attenuation = desk_.destination.dest_volume.value();
     ErrorIndicator errors;
     errors.skip([&] {
-        if (attenuation != 0)
-            deck.controls.slider.set_value(slider_of_attenuation(20, attenuation));
-        deck.graph().put_Volume(Millibel{attenuation});
+        if (volume != 0)
+            deck.controls.slider.set_value(slider_of_attenuation(20, volume.value()));
+        deck.graph().put_Volume(Millibel{volume.value()});
     });
     show(deck);
 }
@@ -61,8 +58,7 @@ void DeckVolume::apply_record(Deck& deck) {
 void DeckVolume::apply_start(Deck& deck) {
     if (!deck.volume_piste || desk_.mixes_titles())
         return adjust(deck);
-    desk_.destination.dest_volume = *deck.volume_piste;
-    apply_record(deck);
+    apply_record(deck, *deck.volume_piste);
 }
 
 void DeckVolume::vol_pour_stop() {

@@ -19,9 +19,9 @@ public:
     /// Slider to its hint and percent.
     static void show(Deck& deck);
 
-    /// Volume of the destination record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves
-    /// the slider where it is.
-    void apply_record(Deck& deck);
+    /// The attenuation of a record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves the
+    /// slider where it is.
+    void apply_record(Deck& deck, Integer volume);
 
     /// How loud a deck begins: as its record says, else as its slider stands.
     void apply_start(Deck& deck);

@@ -5,7 +5,6 @@
 
 #include "platform/platform.h"
 #include "playlist/liste_son.h"
-#include "playlist/working_records.h"
 #include "playout/deck.h"
 #include "playout/on_air_event.h"
 #include "state/chain_state.h"
@@ -23,7 +22,6 @@ struct Desk {
     StationSettings& settings;
     ListState& list;
     ChainState& chain;
-    DestinationRecord& destination;
     Antenne_FM& window;
     Liste_son& list_window;
     err_form& warning;

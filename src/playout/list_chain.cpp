@@ -117,10 +117,10 @@ bool ListChain::is_found_to_follow() {
 bool ListChain::load_behind(Deck& old) {
     load_ahead_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
-    cursor_.read_row();
+    const DestinationRecord row = cursor_.read_row();
     Deck& next = desk_.deck(next_deck(old.number()));
     const bool told = cursor_.is_loaded(next);
-    const LoadResult result = cursor_.load_on(next);
+    const LoadResult result = cursor_.load_on(next, row);
     if (is_passed_over(result)) {
         pass_over(passed_over::because_of(result));
         return false;

@@ -31,29 +31,27 @@ void ListRun::start_selected_row() {
     select_a_row();
     const Integer row = desk_.list_window.rows.selected();
     const Integer row_before = desk_.list.index_en_cours;
-    desk_.list.index_en_cours = desk_.list.index_destinataire = row;
+    desk_.list.index_en_cours = row;
     document_.show_file_in_use();
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
     for (Image* button : {&desk_.list_window.stop_decks, &desk_.list_window.zap})
         button->enabled = true;
-    reading_.read_for_the_air();
-    if (is_on_air() && !can_be_played(desk_.destination.dest_chemin)) {
+    const DestinationRecord record = reading_.read_for_the_air(row);
+    if (is_on_air() && !can_be_played(record.dest_chemin)) {
         desk_.list.index_en_cours = row_before;
-        return run_.report_failed_start(desk_.destination.dest_chemin);
+        return run_.report_failed_start(record.dest_chemin);
     }
     choose_a_reading_mode();
-    start_row(row);
+    start_row(row, record);
 }
 
-void ListRun::start_row(Integer row) {
-    desk_.list.chemin_fichier = desk_.destination.dest_chemin;
-    desk_.window.path_under_check.set_text(desk_.list.chemin_fichier);
-    desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
-    desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(row) + ")";
+void ListRun::start_row(Integer number, const DestinationRecord& row) {
+    desk_.chain.chemin_precedent = desk_.list.chemin_fichier = row.dest_chemin;
+    desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(number) + ")";
     chain_.cancel_walks();
-    desk_.list.ligne_en_lecture = row;
-    loading_.load_from_list(desk_.deck(1));
+    desk_.list.ligne_en_lecture = number;
+    loading_.load_from_list(desk_.deck(1), row);
     desk_.report_loaded(desk_.deck(1));
     stop_other_decks();
     run_.lect_liste();

@@ -102,10 +102,10 @@ bool LoadAhead::try_to_load_next() {
     if (!take_row() || desk_.list.chemin_fichier == chain.chemin_precedent)
         return false;
     desk_.window.load_ahead_timer.disable();
-    cursor_.read_row();
+    const DestinationRecord row = cursor_.read_row();
     chain.chargement_fait = true;
     try {
-        if (!is_file_there() || !load_row())
+        if (!is_file_there() || !load_row(row))
             return false;
         show_loaded();
         return true;
@@ -157,9 +157,9 @@ bool LoadAhead::is_file_there() {
     return there;
 }
 
-bool LoadAhead::load_row() {
+bool LoadAhead::load_row(const DestinationRecord& row) {
     desk_.window.load_ahead_timer.disable();
-    const LoadResult result = cursor_.load_on(next_on_the_ring());
+    const LoadResult result = cursor_.load_on(next_on_the_ring(), row);
     if (result == LoadResult::loaded)
         return true;
     if (result == LoadResult::failed && cursor_.is_missing(desk_.list.chemin_fichier))

@@ -30,7 +30,7 @@ private:
     /// Whether the current row's file is there, as far as can be seen; and its load onto the next deck. A row that
     /// fails is removed or passed over.
     [[nodiscard]] bool is_file_there();
-    [[nodiscard]] bool load_row();
+    [[nodiscard]] bool load_row(const DestinationRecord& row);
     [[nodiscard]] Deck& next_on_the_ring() const;
     void show_loaded();
     void pass_over(std::string_view why);

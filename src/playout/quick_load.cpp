@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
+#include "playout/deck_record.h"
 
 namespace sonarelle {
 
@@ -68,10 +69,7 @@ void QuickLoad::active_text_combo() {
 }
 
 void QuickLoad::choose(const Box& box) {
-    desk_.chain.fichier_courant = box.list;
-    desk_.list.index_destinataire = box.box.selected + 1;
-    record_.lire();
-    chosen_ = desk_.destination;
+    chosen_ = lire(desk_.platform, box.list, box.box.selected + 1, chosen_);
     desk_.window.popup(box.menu, &box.box);
 }
 
@@ -80,15 +78,11 @@ void QuickLoad::press_key(const Box& box, char32_t key) {
         desk_.window.popup(box.menu, &box.box);
 }
 
-// The chain reads rows of its own while the menu waits for the operator.
 void QuickLoad::load(Deck& deck, const Box& box) {
     if (!loading_.may_be_cut(deck))
         return;
     run_.stoppe_list();
-    if (chosen_)
-        desk_.destination = *chosen_;
-    desk_.window.path_under_check.set_text(std::string{trim(box.box.text())});
-    loading_.load_record(deck);
+    loading_.load_record(deck, chosen_, std::string{trim(box.box.text())});
     deck.controls.play.enabled = true;
 }
 

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "playlist/enreg_liste.h"
 #include "playlist/working_records.h"
 #include "playout/deck_loading.h"
-#include "playout/deck_record.h"
 #include "playout/desk.h"
 #include "playout/run_control.h"
 
@@ -16,9 +14,8 @@ namespace sonarelle {
 /// The two quick load boxes, favourites and jingles: a track of theirs goes on any deck without touching the list.
 class QuickLoad {
 public:
-    QuickLoad(Desk& desk, DeckRecord& record, DeckLoading& loading, RunControl& run)
+    QuickLoad(Desk& desk, DeckLoading& loading, RunControl& run)
         : desk_{desk},
-          record_{record},
           loading_{loading},
           run_{run} {}
 
@@ -57,10 +54,9 @@ private:
     void load(Deck& deck, const Box& box);
 
     Desk& desk_;
-    DeckRecord& record_;
     DeckLoading& loading_;
     RunControl& run_;
-    std::optional<DestinationRecord> chosen_; ///< Of the item last chosen in either box.
+    DestinationRecord chosen_; ///< Of the item last chosen in either box.
 };
 
 } // namespace sonarelle

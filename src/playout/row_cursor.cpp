@@ -62,7 +62,7 @@ void RowCursor::go_back_to(const Place& place) {
 
 RowCursor::Look RowCursor::look() {
     try {
-        detecte_fichier_liste();
+        desk_.list.chemin_fichier = detecte_fichier_liste(desk_.list.chemin_fichier);
     } catch (const Failure& failure) {
         const bool silent = failure.number == failure_number::device_fault;
         pass_over(silent ? passed_over::silent_disk : passed_over::no_folder);
@@ -71,32 +71,29 @@ RowCursor::Look RowCursor::look() {
     return desk_.list.chemin_fichier.empty() ? Look::gone : Look::found;
 }
 
-void RowCursor::detecte_fichier_liste() {
-    std::string& path = desk_.list.chemin_fichier;
-    desk_.window.path_under_check.set_text(path);
-    if (is_network_path(path))
-        return;
-    const std::string folder{folder_of_path(path)};
-    const std::string name{name_of_path(path)};
-    desk_.platform.disk.ChDrive(path);
+std::string RowCursor::detecte_fichier_liste(const std::string& chemin_fichier) {
+    if (is_network_path(chemin_fichier))
+        return chemin_fichier;
+    const std::string folder{folder_of_path(chemin_fichier)};
+    const std::string name{name_of_path(chemin_fichier)};
+    desk_.platform.disk.ChDrive(chemin_fichier);
     desk_.platform.disk.ChDir(folder);
-    if (desk_.platform.disk.Dir(path).empty()) {
+    if (desk_.platform.disk.Dir(chemin_fichier).empty()) {
         desk_.platform.disk.ChDir(folder); // it may have gone between the two looks
         remove_row();
-        path.clear();
-        return;
+        return {};
     }
-    if (equal_ignoring_case(desk_.platform.disk.Dir(join_path(folder, name)), name)) {
-        path = join_path(folder, name);
-        return;
-    }
+    std::string found = join_path(folder, name);
+    if (equal_ignoring_case(desk_.platform.disk.Dir(found), name))
+        return found;
     report_missing("Recherche de fichier", "Ce fichier est NON TROUVE !");
-    path.clear();
+    return {};
 }
 
-void RowCursor::read_row() {
-    desk_.list.index_destinataire = desk_.list.index_en_cours;
-    reading_.read_for_the_air();
+DestinationRecord RowCursor::read_row() {
+    DestinationRecord record = reading_.read_for_the_air(desk_.list.index_en_cours);
+    record.dest_chemin = desk_.list.chemin_fichier;
+    return record;
 }
 
 bool RowCursor::is_loaded(const Deck& deck) const {

@@ -65,15 +65,14 @@ public:
     };
     /// Looks for the current row's file.
     [[nodiscard]] Look look();
-    /// Looks for the file of `chemin_fichier`, which is emptied when it isn't there; a row whose folder is there and
-    /// doesn't hold it is removed.
+    /// The current row's file as it was found, empty when it isn't there; a row whose folder is there and doesn't hold
+    /// it is removed.
     /// @throws Failure when its drive or folder doesn't answer: 68, 76 and others.
-    void detecte_fichier_liste();
+    [[nodiscard]] std::string detecte_fichier_liste(const std::string& chemin_fichier);
 
-    /// Reads the current row's record for the deck that it goes on.
-    void read_row();
-    /// Loads it, as a record that was read.
-    LoadResult load_on(Deck& deck) { return loading_.load_from_list(deck); }
+    /// The current row's record for the deck that it goes on, with the path under which its file was found.
+    [[nodiscard]] DestinationRecord read_row();
+    LoadResult load_on(Deck& deck, const DestinationRecord& row) { return loading_.load_from_list(deck, row); }
     /// Whether the load step has put the current row on that deck already.
     [[nodiscard]] bool is_loaded(const Deck& deck) const;
 

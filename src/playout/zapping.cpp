@@ -122,9 +122,9 @@ std::optional<double> Zapping::find_row() {
 
 void Zapping::load_row(Deck& next) {
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
-    chain_.cursor.read_row();
+    const DestinationRecord row = chain_.cursor.read_row();
     const bool told = chain_.cursor.is_loaded(next);
-    if (chain_.cursor.load_on(next) != LoadResult::loaded)
+    if (chain_.cursor.load_on(next, row) != LoadResult::loaded)
         throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
     if (!told)
         desk_.report_loaded(next);

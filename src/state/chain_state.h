@@ -17,8 +17,7 @@ enum class AirState {
 
 /// What the routines of the decks and of the chain share.
 struct ChainState {
-    Integer lecteur_en_cours;    ///< The main deck: 1 to 3, 0 for none.
-    std::string fichier_courant; ///< The list file that `lire` reads.
+    Integer lecteur_en_cours; ///< The main deck: 1 to 3, 0 for none.
 
     std::string chemin_lecture;  ///< The file on deck 1; empty for none.
     std::string chemin_lecture2; ///< The file on deck 2.

@@ -13,16 +13,14 @@ struct ListState {
     std::string nom_fichier;             ///< The name with which the last load or save worked.
     std::string nom_sauvegarde;          ///< The name that the save dialog offers.
     std::string extension_fichier;       ///< Last three characters of the name just chosen, lower case, or empty.
-    std::string chemin_fichier;          ///< Path of the row being considered, or last sent to a deck.
+    std::string chemin_fichier;          ///< Path of the row on which the chain is, or that was last sent to a deck.
 
     Integer index_en_cours;       ///< Row that is selected after a load or save, and the row that the chain is on.
     Integer ligne_en_lecture;     ///< Row now being played.
     Integer index_insertion;      ///< Row behind which new rows come.
     Integer index_supprime;       ///< Row last cut or removed.
     Integer mode_insertion;       ///< 1 before the selected row, 2 after it, 3 at the end.
-    Integer index_destinataire;   ///< Record that the destination record is read from.
     Flag glisser_autorise = true; ///< Rows and files may be dragged onto the list and the open buttons.
-    Integer index_glisse;         ///< Record that the dragged record is read from.
 
     Flag maj_liste_en_cours;          ///< The whole list is being measured anew.
     std::string dossier_test;         ///< Folder of the row under test, with a backslash at its end.

@@ -8,7 +8,7 @@ namespace sonarelle {
 DeskWiring::DeskWiring(Station& station)
     : display_menu{station.desk},
       desk_commands{station.desk},
-      quick_load{station.desk, station.deck_record, station.deck_loading, station.run_control},
+      quick_load{station.desk, station.deck_loading, station.run_control},
       option_menu{station.desk, display_menu, quick_load},
       about{station.desk, station.about_window, station.update_window},
       startup{{station.desk, station.list, station.splash, station.settings_load, station.settings_rewrite,

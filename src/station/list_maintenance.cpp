@@ -6,19 +6,22 @@
 namespace sonarelle {
 
 ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
-                                 ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal)
+                                 ListSaveDialog& save_dialog, Journal& journal)
     : guard{desk.platform, desk.list, desk.list_window},
-      row_reading{desk.platform, desk.destination, desk.list_window, record_reading},
-      verification{desk.platform,    desk.list,
-                   desk.chain,       desk.destination,
-                   desk.list_window, progress,
-                   document,         guard,
-                   row_reading,      [&journal](const std::string& line) { journal.note(line); }},
-      changes{desk.platform, desk.list, desk.chain, desk.destination, desk.list_window, document, guard, row_reading},
-      update{desk.platform, desk.list,   desk.chain, desk.destination, desk.list_window, progress,
-             document,      save_dialog, guard,      row_reading,      measure,          verification},
-      editor{desk.platform,    desk.settings,    desk.list, desk.chain,
-             desk.destination, desk.list_window, guard,     row_reading},
+      row_reading{desk.platform, desk.list_window, record_reading},
+      verification{desk.platform,
+                   desk.list,
+                   desk.chain,
+                   desk.list_window,
+                   progress,
+                   document,
+                   guard,
+                   row_reading,
+                   [&journal](const std::string& line) { journal.note(line); }},
+      changes{desk.platform, desk.list_window, document, guard, row_reading},
+      update{desk.platform, desk.list,   desk.chain, desk.list_window, progress,
+             document,      save_dialog, guard,      row_reading,      verification},
+      editor{desk.platform, desk.settings, desk.list_window, guard, row_reading},
       path_editing{desk.list, desk.list_window, document} {
     connect(desk.list_window);
 }

@@ -20,7 +20,7 @@ class Journal;
 class ListMaintenance {
 public:
     ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
-                    ListSaveDialog& save_dialog, FileMeasure& measure, Journal& journal);
+                    ListSaveDialog& save_dialog, Journal& journal);
 
     ListGuard guard;
     RowReading row_reading;

@@ -15,7 +15,6 @@ Station::Station(const Platform& platform)
            settings,
            list,
            chain,
-           destination,
            main_window,
            list_window,
            warning_window,
@@ -25,13 +24,11 @@ Station::Station(const Platform& platform)
             Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
       settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
-      record_reading{platform_, list, destination, dragged, list_window.rows, [this] { warn_of_null_volume(); }},
-      deck_record{platform_, chain, list, destination},
+      record_reading{platform_, list, list_window.rows, [this] { warn_of_null_volume(); }},
       list_document{platform_, settings, list, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
                   list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
-      file_measure{platform_},
       journal{desk},
       deck_volume{desk, [this] { list_document.show_changed_record(list.ligne_en_lecture.value()); }},
       mix_engine{desk, deck_volume},
@@ -49,15 +46,14 @@ Station::Station(const Platform& platform)
       air_watch{desk, journal, list_rescue},
       row_to_deck{platform_,
                   list,
-                  destination,
                   chain,
                   list_window,
                   record_reading,
                   {[this](int deck) { return deck_loading.may_be_cut(desk.deck(deck)); },
-                   [this](int deck) { load_row_on_deck(deck); }}},
-      list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, file_measure, journal},
-      track_properties{platform_,   settings,          list,           chain,         destination,
-                       list_window, properties_window, record_reading, list_document, list_maintenance.guard} {
+                   [this](int deck, const DestinationRecord& row) { load_row_on_deck(deck, row); }}},
+      list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, journal},
+      track_properties{platform_,         settings,       list,          list_window,
+                       properties_window, record_reading, list_document, list_maintenance.guard} {
     run_control.end_walks = [this] { auto_chain.cancel_walks(); };
     connect_list_window();
     connect_reading_modes();
@@ -260,8 +256,8 @@ void Station::stop_deck(Deck& deck) {
     deck_transport.stop(deck);
 }
 
-void Station::load_row_on_deck(int deck) {
-    deck_loading.load_from_list(desk.deck(deck));
+void Station::load_row_on_deck(int deck, const DestinationRecord& row) {
+    deck_loading.load_from_list(desk.deck(deck), row);
     mix_engine.select_bouton();
 }
 

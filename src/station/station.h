@@ -8,7 +8,6 @@
 #include "configuration/settings_load.h"
 #include "configuration/settings_rewrite.h"
 #include "platform/platform.h"
-#include "playlist/file_measure.h"
 #include "playlist/fsauve.h"
 #include "playlist/legacy_list.h"
 #include "playlist/list_document.h"
@@ -16,12 +15,10 @@
 #include "playlist/liste_son.h"
 #include "playlist/record_reading.h"
 #include "playlist/row_to_deck.h"
-#include "playlist/working_records.h"
 #include "playout/air_watch.h"
 #include "playout/auto_chain.h"
 #include "playout/chain_modes.h"
 #include "playout/deck_loading.h"
-#include "playout/deck_record.h"
 #include "playout/deck_start.h"
 #include "playout/deck_transport.h"
 #include "playout/deck_volume.h"
@@ -80,8 +77,6 @@ public:
     StationSettings settings;
     ListState list;
     ChainState chain;
-    DestinationRecord destination;
-    DraggedRecord dragged;
 
     Antenne_FM main_window;
     Liste_son list_window;
@@ -98,11 +93,9 @@ public:
     SettingsLoad settings_load;
     SettingsRewrite settings_rewrite;
     RecordReading record_reading;
-    DeckRecord deck_record;
     ListDocument list_document;
     ListSaveDialog list_save_dialog;
     LegacyList legacy_list;
-    FileMeasure file_measure;
 
     Journal journal;
     DeckVolume deck_volume;
@@ -134,7 +127,7 @@ private:
     void connect_play_menu();
     void connect_deck(Deck& deck);
     void warn_of_null_volume();
-    void load_row_on_deck(int deck);
+    void load_row_on_deck(int deck, const DestinationRecord& row);
 };
 
 } // namespace sonarelle

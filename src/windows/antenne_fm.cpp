@@ -13,7 +13,6 @@ Antenne_FM::Antenne_FM(Scheduler& scheduler)
       item_timer{"Timer9", 9, scheduler} {
     width = Twips{14400};
     height = height_with_menus;
-    path_under_check.visible = false;
     sound_display.visible = false;
     hourly_styles.hint = "Top horaire";
     for (Label* label : menu_labels())

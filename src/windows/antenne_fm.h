@@ -24,7 +24,6 @@ struct Antenne_FM : MainMenus {
     Label chain_status{*this, "Label7", "Lecture en attente"};  ///< What the chain waits for.
     Label running_chain{*this, "Label10", "Chargement rapide"}; ///< Which chain runs.
     TextBox overlap{*this, "Text1"};                            ///< The overlap in seconds.
-    TextBox path_under_check{*this, "Text2"};                   ///< A path under check. Never shown.
     Image background_picture{*this, "Image2"}; ///< A picture over the background; empty from the start on.
     Image deck_chain_lamp{*this, "Image12"};   ///< Lamp of the chain over decks.
     Image list_chain_lamp{*this, "Image13"};   ///< Lamp of the list chain.

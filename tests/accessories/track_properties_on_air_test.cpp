@@ -51,12 +51,12 @@ TEST_F(TrackPropertiesOnAir, LeaveWhatTheNextStartGoesBy) {
     rows().select(1);
     start_list();
     machine.run_for(milliseconds(10000));
-    const std::string next = station.destination.dest_chemin;
+    const std::string next = station.list.chemin_fichier;
     rows().select(3);
     station.list_window.a_modif.click();
     EXPECT_EQ(station.properties_window.start.text(), "9");
-    EXPECT_EQ(station.destination.dest_debut, 3.0);
-    EXPECT_EQ(station.destination.dest_chemin, next);
+    EXPECT_EQ(station.desk.deck(1).debut_piste, 3.0);
+    EXPECT_EQ(station.list.chemin_fichier, next);
 }
 
 TEST_F(TrackPropertiesOnAir, SaveWhileTheChainHasReadAnotherRow) {

@@ -68,10 +68,9 @@ TEST_F(TrackPropertiesSaveTest, SavedRowGoesIntoTheDefaultListToo) {
     EXPECT_EQ(default_list_bytes(), machine.disk.bytes("C:\\Sonarelle\\matin.dfm"));
 }
 
-TEST_F(TrackPropertiesSaveTest, SaveItsOwnRowAlthoughTheChainReadsAnother) {
+TEST_F(TrackPropertiesSaveTest, SaveItsOwnRowAlthoughTheChainSelectsAnother) {
     open();
-    station.list.index_destinataire = 1;
-    station.record_reading.lire_enreg_destinataire();
+    rows().select(1);
     window.end.set_text("100.00");
     window.save.click();
     EXPECT_EQ(rows().sub_item(1, 2), "200.00");

@@ -51,7 +51,7 @@ protected:
         for (Control* control : window.controls()) {
             forget_events(*control);
             control->enabled = true;
-            control->visible = control != &window.path_under_check;
+            control->visible = true;
         }
         window.on_click = window.on_right_click = nullptr;
         window.on_key_press = [this](char32_t c) { seen += QString::fromUcs4(&c, 1); };

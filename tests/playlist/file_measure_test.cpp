@@ -11,11 +11,11 @@ constexpr std::string_view track = "C:\\Musique\\titre.mp3";
 class FileMeasureTest : public StationBench {
 protected:
     TrackFacts measure(std::string_view path) {
-        const MeasuredFile measured = station.file_measure.met_ajour(std::string{path});
+        const MeasuredFile measured = FileMeasure{machine.platform}.met_ajour(std::string{path});
         return std::get<TrackFacts>(measured);
     }
     bool cannot_be_measured(std::string_view path) {
-        return std::holds_alternative<Failure>(station.file_measure.met_ajour(std::string{path}));
+        return std::holds_alternative<Failure>(FileMeasure{machine.platform}.met_ajour(std::string{path}));
     }
     /// A file that ends in a tag with this genre code.
     void put_tagged(char genre) {

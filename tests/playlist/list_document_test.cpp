@@ -151,9 +151,7 @@ TEST_F(ListDocumentTest, ReadsBackARowNumberThatStandsForADuration) {
     station.list_document.sauve_tout();
     station.list_document.charge_liste();
     EXPECT_EQ(rows().sub_item(2, list_column::duration), "2");
-    station.list.index_destinataire = 2;
-    station.record_reading.lire_enreg_destinataire();
-    EXPECT_EQ(station.destination.dest_duree, "2       ");
+    EXPECT_EQ(station.record_reading.lire_enreg_destinataire(2).dest_duree, "2       ");
 }
 
 TEST_F(ListDocumentTest, SaysNothingOfACancelledDialog) {

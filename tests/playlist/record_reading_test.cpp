@@ -1,5 +1,6 @@
 #include "playlist/record_reading.h"
 
+#include "playout/deck_record.h"
 #include "support/station_bench.h"
 
 namespace sonarelle {
@@ -11,133 +12,99 @@ protected:
     void put_list(const std::vector<enreg_liste>& records) {
         machine.disk.put_file("C:\\Sonarelle\\matin.dfm", bytes_of(records));
         station.list.fichier_liste = "matin.dfm";
-        station.chain.fichier_courant = "matin.dfm";
     }
 
-    void read_destination(int number) {
-        station.list.index_destinataire = number;
-        station.record_reading.lire_enreg_destinataire();
+    DestinationRecord read_destination(int number, DestinationRecord before = {}) {
+        return station.record_reading.lire_enreg_destinataire(number, std::move(before));
     }
-
-    void read_dragged(int number) {
-        station.list.index_glisse = number;
-        station.record_reading.lire_enreg_dragdrop();
-    }
-
-    void read_for_deck(int number) {
-        station.list.index_destinataire = number;
-        station.deck_record.lire();
+    DraggedRecord read_dragged(int number) { return station.record_reading.lire_enreg_dragdrop(number); }
+    DestinationRecord read_for_deck(int number, DestinationRecord before = {}) {
+        return lire(machine.platform, "matin.dfm", number, std::move(before));
     }
 };
 
 } // namespace
 
-TEST_F(RecordReadingTest, DoesNothingWithoutAList) {
-    station.destination.dest_chemin = "avant";
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_chemin, "avant");
-}
-
-TEST_F(RecordReadingTest, LeavesTheIndexZeroWithoutAList) {
-    read_destination(0);
-    EXPECT_EQ(station.list.index_destinataire, 0);
+TEST_F(RecordReadingTest, LeavesTheRecordBeforeWithoutAList) {
+    EXPECT_EQ(read_destination(1, {.dest_chemin = "avant"}).dest_chemin, "avant");
 }
 
 TEST_F(RecordReadingTest, OfIndexZeroReadsRecordOne) {
     put_list({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
-    read_destination(0);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(read_destination(0).dest_chemin, "C:\\a.mp3");
 }
 
-TEST_F(RecordReadingTest, OfIndexZeroLeavesOneThere) {
-    put_list({record_of("C:\\a.mp3")});
-    read_destination(0);
-    EXPECT_EQ(station.list.index_destinataire, 1);
-}
-
-TEST_F(RecordReadingTest, OfADraggedRowTurnsTheDestinationIndexZeroIntoOne) {
+TEST_F(RecordReadingTest, OfADraggedRowTakesThePath) {
     put_list({record_of("C:\\a.mp3"), record_of("C:\\b.mp3")});
-    read_dragged(2);
-    EXPECT_EQ(station.list.index_destinataire, 1);
-    EXPECT_EQ(station.dragged.drop_chemin, "C:\\b.mp3");
+    EXPECT_EQ(read_dragged(2).drop_chemin, "C:\\b.mp3");
 }
 
 TEST_F(RecordReadingTest, TrimsThePathOnBothSides) {
     put_list({record_of("  C:\\a.mp3")});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(read_destination(1).dest_chemin, "C:\\a.mp3");
 }
 
 TEST_F(RecordReadingTest, LowersTheCaseOfTheEnd) {
     put_list({record_of("a", "1E2")});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_fin, "1e2");
+    EXPECT_EQ(read_destination(1).dest_fin, "1e2");
 }
 
 TEST_F(RecordReadingTest, KeepsTheEightCharactersOfTheDuration) {
     put_list({record_of("a", "1", 100, 0, "", "X")});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_duree, "X       ");
+    EXPECT_EQ(read_destination(1).dest_duree, "X       ");
 }
 
 TEST_F(RecordReadingTest, KeepsTheStartAsItIs) {
     put_list({record_of("a", "1", 100, 1.23456)});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_debut, 1.23456);
+    EXPECT_EQ(read_destination(1).dest_debut, 1.23456);
 }
 
 TEST_F(RecordReadingTest, GivesTheVolumeAsAttenuationAndInPercent) {
     put_list({record_of("a", "1", 80)});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_volume, -800);
-    EXPECT_EQ(station.destination.dest_volume_pourcent, 80);
+    const DestinationRecord record = read_destination(1);
+    EXPECT_EQ(record.dest_volume, -800);
+    EXPECT_EQ(record.dest_volume_pourcent, 80);
 }
 
 TEST_F(RecordReadingTest, PassesVolumeFiveToThePlayer) {
     put_list({record_of("a", "1", 5)});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_volume, 5);
+    EXPECT_EQ(read_destination(1).dest_volume, 5);
 }
 
 TEST_F(RecordReadingTest, LeavesAVolumeAbove100Alone) {
     put_list({record_of("a", "1", 150)});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_volume, 150);
+    EXPECT_EQ(read_destination(1).dest_volume, 150);
 }
 
 TEST_F(RecordReadingTest, NamesTheFileBehindTheLastBackslash) {
     put_list({record_of("C:\\Musique\\titre.mp3")});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_nom_fichier, "titre.mp3");
+    EXPECT_EQ(read_destination(1).dest_nom_fichier, "titre.mp3");
 }
 
 TEST_F(RecordReadingTest, TrimsTheGenre) {
     put_list({record_of("a", "1", 100, 0, " Jazz ")});
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_genre, "Jazz");
+    EXPECT_EQ(read_destination(1).dest_genre, "Jazz");
 }
 
 TEST_F(RecordReadingTest, OfADraggedRowTakesGenreEndAndDuration) {
     put_list({record_of("a", " 1E2 ", 100, 0, " Jazz ", "X")});
-    read_dragged(1);
-    EXPECT_EQ(station.dragged.drop_genre, "Jazz");
-    EXPECT_EQ(station.dragged.drop_fin, "1e2");
-    EXPECT_EQ(station.dragged.drop_duree, "X       ");
+    const DraggedRecord record = read_dragged(1);
+    EXPECT_EQ(record.drop_genre, "Jazz");
+    EXPECT_EQ(record.drop_fin, "1e2");
+    EXPECT_EQ(record.drop_duree, "X       ");
 }
 
 TEST_F(RecordReadingTest, ForADeckTakesGenreStartAndDuration) {
     put_list({record_of("a", "1", 100, 1.23456, " Jazz ", "X")});
-    read_for_deck(1);
-    EXPECT_EQ(station.destination.dest_genre, "Jazz");
-    EXPECT_EQ(station.destination.dest_debut, 1.23456);
-    EXPECT_EQ(station.destination.dest_duree, "X       ");
+    const DestinationRecord record = read_for_deck(1);
+    EXPECT_EQ(record.dest_genre, "Jazz");
+    EXPECT_EQ(record.dest_debut, 1.23456);
+    EXPECT_EQ(record.dest_duree, "X       ");
 }
 
 TEST_F(RecordReadingTest, BehindTheEndLeavesTheRecordOfTheReadBefore) {
     put_list({record_of("C:\\a.mp3")});
-    read_destination(1);
-    read_destination(2);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(read_destination(2, read_destination(1)).dest_chemin, "C:\\a.mp3");
 }
 
 TEST_F(RecordReadingTest, OfAnUnreadableDiskSaysNothing) {
@@ -151,15 +118,13 @@ TEST_F(RecordReadingTest, ResolvesARelativeNameInTheProgramFolder) {
     put_list({record_of("C:\\a.mp3")});
     machine.disk.put_folder("C:\\Ailleurs");
     machine.disk.ChDir("C:\\Ailleurs");
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(read_destination(1).dest_chemin, "C:\\a.mp3");
 }
 
 TEST_F(RecordReadingTest, PlaysVolumeZeroAtMinus4000) {
     put_list({record_of("a", "1", 0)});
     machine.dialogs.expect_window("err_form");
-    read_destination(1);
-    EXPECT_EQ(station.destination.dest_volume, -4000);
+    EXPECT_EQ(read_destination(1).dest_volume, -4000);
 }
 
 TEST_F(RecordReadingTest, WarnsOnceOfVolumeZero) {
@@ -224,14 +189,12 @@ TEST_F(RecordReadingTest, DoesNotWaitForTheOperatorInsideATick) {
 
 TEST_F(RecordReadingTest, OfADraggedRowRoundsTheStartToTwoDecimals) {
     put_list({record_of("a", "1", 100, 1.236)});
-    read_dragged(1);
-    EXPECT_EQ(station.dragged.drop_debut, 1.24);
+    EXPECT_EQ(read_dragged(1).drop_debut, 1.24);
 }
 
 TEST_F(RecordReadingTest, OfADraggedRowKeepsThePercent) {
     put_list({record_of("a", "1", 80)});
-    read_dragged(1);
-    EXPECT_EQ(station.dragged.drop_volume, 80);
+    EXPECT_EQ(read_dragged(1).drop_volume, 80);
 }
 
 TEST_F(RecordReadingTest, OfADraggedRowGivesNoWarning) {
@@ -242,31 +205,25 @@ TEST_F(RecordReadingTest, OfADraggedRowGivesNoWarning) {
 
 TEST_F(RecordReadingTest, ForADeckGivesTheEndInWholeSecondsHalvesToEven) {
     put_list({record_of("a", "200.50"), record_of("b", "201,5")});
-    read_for_deck(1);
-    EXPECT_EQ(station.destination.dest_fin, "200");
-    read_for_deck(2);
-    EXPECT_EQ(station.destination.dest_fin, "202");
+    EXPECT_EQ(read_for_deck(1).dest_fin, "200");
+    EXPECT_EQ(read_for_deck(2).dest_fin, "202");
 }
 
 TEST_F(RecordReadingTest, ForADeckFailsOnAnEndBeyond16Bits) {
     put_list({record_of("C:\\a.mp3", "40000")});
-    station.destination.dest_fin = "avant";
-    read_for_deck(1);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
-    EXPECT_EQ(station.destination.dest_fin, "avant");
+    const DestinationRecord record = read_for_deck(1, {.dest_fin = "avant"});
+    EXPECT_EQ(record.dest_chemin, "C:\\a.mp3");
+    EXPECT_EQ(record.dest_fin, "avant");
 }
 
 TEST_F(RecordReadingTest, ForADeckKeepsThePercent) {
     put_list({record_of("a", "1", 80)});
-    read_for_deck(1);
-    EXPECT_EQ(station.destination.dest_volume, 80);
+    EXPECT_EQ(read_for_deck(1).dest_volume, 80);
 }
 
 TEST_F(RecordReadingTest, ForADeckReadsRecordOneForIndexZero) {
     put_list({record_of("C:\\a.mp3")});
-    read_for_deck(0);
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\a.mp3");
-    EXPECT_EQ(station.list.index_destinataire, 1);
+    EXPECT_EQ(read_for_deck(0).dest_chemin, "C:\\a.mp3");
 }
 
 } // namespace sonarelle

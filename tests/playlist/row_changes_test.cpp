@@ -131,9 +131,7 @@ TEST_F(VolumeChange, ReachesTheDeckUnconvertedOutsideTheTable) {
     expect_volume("12");
     list().Modifier_volume.click();
     EXPECT_EQ(rows().sub_item(1, list_column::volume), "12");
-    station.list.index_destinataire = 1;
-    station.record_reading.lire_enreg_destinataire();
-    EXPECT_EQ(station.destination.dest_volume, 12);
+    EXPECT_EQ(station.record_reading.lire_enreg_destinataire(1).dest_volume, 12);
 }
 
 TEST_F(VolumeChange, KeepsTheOtherCells) {
@@ -220,7 +218,6 @@ TEST_F(VolumeChange, LeavesWhatTheNextStartOnTheAirGoesBy) {
     ASSERT_EQ(station.chain.lecteur_en_cours, 1);
     expect_volume("60");
     list().Modifier_volume.click();
-    EXPECT_EQ(station.destination.dest_chemin, "C:\\Musique\\a.mp3");
     EXPECT_EQ(station.list.chemin_fichier, "C:\\Musique\\a.mp3");
 }
 

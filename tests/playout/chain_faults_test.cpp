@@ -361,7 +361,7 @@ TEST_F(ChainFaultsTest, ListThatTheMenuStartsAgainInTheFullLengthIsChainedAgain)
     ASSERT_FALSE(station.main_window.list_chain_timer.enabled());
     station.list.chemin_fichier = track(3);
     station.list.index_en_cours = 3;
-    station.deck_loading.load_from_list(station.desk.deck(1));
+    station.deck_loading.load_from_list(station.desk.deck(1), {.dest_chemin = track(3)});
     station.list_window.lect_liste.click();
     play_for(95);
     EXPECT_EQ(machine.media.on_air().back(), track(4));

@@ -12,11 +12,15 @@ class DeckLoadingTest : public ChainBench {
 protected:
     static constexpr std::string_view song = "C:\\Musique\\Chanson.mp3";
 
-    /// Loads the destination record on deck 1, as the menu of the rows does.
-    void load_record(std::string_view path, std::string_view genre = "Rock") {
-        station.destination.dest_chemin = path;
-        station.destination.dest_genre = genre;
-        station.deck_loading.load_record(station.desk.deck(1));
+    /// Loads a record on deck 1, as the menu of a quick load box does.
+    void load_record(std::string_view path, std::string_view genre = "Rock", const std::string& shown = {}) {
+        const DestinationRecord record{.dest_chemin = std::string{path}, .dest_genre = std::string{genre}};
+        station.deck_loading.load_record(station.desk.deck(1), record, shown);
+    }
+    /// Loads a row on a deck.
+    LoadResult load_row(int deck, std::string_view path, std::string_view end = {}) {
+        const DestinationRecord row{.dest_chemin = std::string{path}, .dest_fin = std::string{end}};
+        return station.deck_loading.load_from_list(station.desk.deck(deck), row);
     }
 };
 
@@ -231,8 +235,7 @@ TEST_F(DeckLoadingTest, RecordIsFoundIgnoringCase) {
 }
 
 TEST_F(DeckLoadingTest, RecordOfTheNetworkIsTakenAsItStands) {
-    station.main_window.path_under_check.set_text("\\\\serveur\\partage\\a.mp3");
-    load_record("C:\\n'importe quoi.mp3", "réseau");
+    load_record("C:\\n'importe quoi.mp3", "réseau", "\\\\serveur\\partage\\a.mp3");
     EXPECT_EQ(station.chain.chemin_lecture, "\\\\serveur\\partage\\a.mp3");
     EXPECT_TRUE(machine.dialogs.asked().empty());
 }
@@ -250,9 +253,7 @@ TEST_F(DeckLoadingTest, RecordBelowOneSecondLeavesBarAndButtonsWithoutAWord) {
 TEST_F(DeckLoadingTest, ListLoadShowsTheRecordsEnd) {
     machine.add_track(song, 100);
     station.chain.mode_enchainement = true;
-    station.list.chemin_fichier = song;
-    station.destination.dest_fin = "80.00";
-    station.deck_loading.load_from_list(station.desk.deck(2));
+    load_row(2, song, "80.00");
     EXPECT_EQ(controls(2).counter.caption.get(), "80.00");
     EXPECT_EQ(station.desk.deck(2).duree_piste, "100");
     EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
@@ -261,9 +262,7 @@ TEST_F(DeckLoadingTest, ListLoadShowsTheRecordsEnd) {
 TEST_F(DeckLoadingTest, ListLoadOfTheFullLengthShowsTheFilesEnd) {
     machine.add_track(song, 100);
     station.list_window.full_length_mode.click();
-    station.list.chemin_fichier = song;
-    station.destination.dest_fin = "80.00";
-    station.deck_loading.load_from_list(station.desk.deck(2));
+    load_row(2, song, "80.00");
     EXPECT_EQ(controls(2).counter.caption.get(), "100");
 }
 
@@ -272,8 +271,7 @@ TEST_F(DeckLoadingTest, ListLoadInPreListenIsCutAtItsSeconds) {
     station.chain.mode_enchainement = true;
     station.chain.preecoute_active = true;
     station.chain.duree_preecoute = 10;
-    station.list.chemin_fichier = song;
-    station.deck_loading.load_from_list(station.desk.deck(3));
+    load_row(3, song);
     EXPECT_EQ(controls(3).counter.caption.get(), "10");
 }
 
@@ -282,23 +280,20 @@ TEST_F(DeckLoadingTest, ListLoadInPreListenOfAShorterFileHasItsLength) {
     station.chain.mode_enchainement = true;
     station.chain.preecoute_active = true;
     station.chain.duree_preecoute = 10;
-    station.list.chemin_fichier = song;
-    station.deck_loading.load_from_list(station.desk.deck(3));
+    load_row(3, song);
     EXPECT_EQ(controls(3).counter.caption.get(), "8");
 }
 
 TEST_F(DeckLoadingTest, ListLoadShortensTheNameOfTheListWindow) {
     machine.add_track("C:\\abcdefghijklmnopqrst.mp3", 60);
-    station.list.chemin_fichier = "C:\\abcdefghijklmnopqrst.mp3";
-    station.deck_loading.load_from_list(station.desk.deck(1));
+    load_row(1, "C:\\abcdefghijklmnopqrst.mp3");
     EXPECT_EQ(station.list_window.track_name.caption.get(), "abcdefghijklmnop ...");
     EXPECT_EQ(station.small_player.caption.get(), "abcdefghijklmnopqrst");
     EXPECT_EQ(station.list_window.remaining.caption.get(), "00:01:00");
 }
 
 TEST_F(DeckLoadingTest, ListLoadOfAnUnplayableFileOnlySaysSo) {
-    station.list.chemin_fichier = "C:\\absent.mp3";
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(1)), LoadResult::failed);
+    EXPECT_EQ(load_row(1, "C:\\absent.mp3"), LoadResult::failed);
 }
 
 TEST_F(DeckLoadingTest, VideoWindowOfAnAviClosesAtItsStopAndThatOfAWmvStays) {

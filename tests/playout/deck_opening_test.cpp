@@ -182,9 +182,8 @@ TEST_F(DeckOpening, StartsAsLoudAsItsSliderShowsWhateverRecordWasRead) {
 TEST_F(DeckOpening, RecordOfAQuickLoadHasItsVolumeInPercent) {
     play_list_for(5);
     for (const auto& [percent, attenuation] : {std::pair{50, -2000}, std::pair{100, 0}, std::pair{0, 0}}) {
-        station.destination.dest_chemin = song;
-        station.destination.dest_volume = percent;
-        station.deck_loading.load_record(station.desk.deck(3));
+        station.deck_loading.load_record(station.desk.deck(3),
+                                         {.dest_chemin = std::string{song}, .dest_volume = percent}, "");
         controls(3).play.enabled = true;
         controls(3).play.click();
         EXPECT_EQ(station.desk.deck(3).graph().get_Volume(), Millibel{attenuation}) << percent;
@@ -215,25 +214,21 @@ namespace {
 /// How each door takes a file of exactly a second.
 class FileOfOneSecond : public DeckOpening {
 protected:
-    void SetUp() override {
-        machine.add_track(song, 1.0);
-        station.destination.dest_chemin = song;
-        station.list.chemin_fichier = song;
-        station.destination.dest_fin = "1";
-    }
+    void SetUp() override { machine.add_track(song, 1.0); }
+    DestinationRecord row{.dest_chemin = std::string{song}, .dest_fin = "1"};
 };
 
 } // namespace
 
 TEST_F(FileOfOneSecond, OfARecordIsGood) {
     controls(2).zap.enabled = false;
-    station.deck_loading.load_record(station.desk.deck(2));
+    station.deck_loading.load_record(station.desk.deck(2), row, "");
     EXPECT_EQ(controls(2).progress.maximum, 1);
     EXPECT_TRUE(controls(2).zap.enabled);
 }
 
 TEST_F(FileOfOneSecond, OfAListIsGood) {
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(2)), LoadResult::loaded);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(2), row), LoadResult::loaded);
     EXPECT_EQ(controls(2).progress.maximum, 1);
 }
 
@@ -244,8 +239,8 @@ TEST_F(FileOfOneSecond, OfTheCommandLineIsGood) {
 }
 
 TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
-    station.destination.dest_debut = 0.5;
-    station.deck_loading.load_from_list(station.desk.deck(2));
+    row.dest_debut = 0.5;
+    station.deck_loading.load_from_list(station.desk.deck(2), row);
     controls(2).progress.maximum = 100;
     controls(2).play.click();
     EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.5);
@@ -254,9 +249,9 @@ TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
 
 TEST_F(FileOfOneSecond, AndLessFailsInAListLoad) {
     machine.media.set_length(song, 0.99);
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3)), LoadResult::too_short);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3), row), LoadResult::too_short);
     machine.media.set_length(song, 1.0);
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3)), LoadResult::loaded);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3), row), LoadResult::loaded);
 }
 
 TEST_F(DeckOpening, ReadiesItsOwnDeckAndNoOtherBesideTheMainOne) {
@@ -283,7 +278,7 @@ TEST_F(DeckOpening, ShowsTheRecordOfARowThatIsLoadedByHand) {
     rows().select(3);
     station.list_window.char3.click();
     EXPECT_EQ(controls(3).title.caption.get(), "00:01:40 ( titre 3 )");
-    EXPECT_EQ(station.main_window.path_under_check.text(), track(3));
+    EXPECT_EQ(station.desk.deck(3).path, track(3));
 }
 
 } // namespace sonarelle

@@ -45,7 +45,7 @@ TEST_F(DeckVolumeTest, TopOfTheSliderIsFullVolume) {
 TEST_F(DeckVolumeTest, MovedSliderWithoutAFileChangesNothing) {
     controls(2).slider.set_value(5);
     EXPECT_EQ(controls(2).slider.value(), 5);
-    EXPECT_EQ(station.destination.dest_volume, 0);
+    EXPECT_FALSE(station.desk.deck(2).has_graph());
 }
 
 TEST_F(DeckVolumeTest, MovedSliderWithoutAFileShowsItsPercent) {
@@ -71,8 +71,7 @@ TEST_F(DeckVolumeTest, ButtonsMoveTheSliderByOneAndStopAtItsEnds) {
 
 TEST_F(DeckVolumeTest, RecordOfEightyPercentMovesTheSlider) {
     open_song();
-    station.destination.dest_volume = -800;
-    station.deck_volume.apply_record(station.desk.deck(1));
+    station.deck_volume.apply_record(station.desk.deck(1), -800);
     EXPECT_EQ(controls(1).slider.value(), 4);
     EXPECT_EQ(controls(1).percent.caption.get(), "80%");
     EXPECT_EQ(volume_of(1), -800);
@@ -81,8 +80,7 @@ TEST_F(DeckVolumeTest, RecordOfEightyPercentMovesTheSlider) {
 TEST_F(DeckVolumeTest, EveryVolumeOfARecordFindsItsPlaceOnTheSlider) {
     open_song();
     for (int step = 1; step <= 20; ++step) {
-        station.destination.dest_volume = -200 * step;
-        station.deck_volume.apply_record(station.desk.deck(1));
+        station.deck_volume.apply_record(station.desk.deck(1), -200 * step);
         EXPECT_EQ(controls(1).slider.value(), step);
     }
 }
@@ -90,8 +88,7 @@ TEST_F(DeckVolumeTest, EveryVolumeOfARecordFindsItsPlaceOnTheSlider) {
 TEST_F(DeckVolumeTest, RecordOfFullVolumeLeavesTheSliderLower) {
     open_song();
     controls(1).slider.set_value(6);
-    station.destination.dest_volume = 0;
-    station.deck_volume.apply_record(station.desk.deck(1));
+    station.deck_volume.apply_record(station.desk.deck(1), 0);
     EXPECT_EQ(volume_of(1), 0);
     EXPECT_EQ(controls(1).slider.value(), 6);
     EXPECT_EQ(controls(1).percent.caption.get(), "70%");
@@ -100,8 +97,7 @@ TEST_F(DeckVolumeTest, RecordOfFullVolumeLeavesTheSliderLower) {
 TEST_F(DeckVolumeTest, RecordsVolumeIsNotReadInTheChainOverDecks) {
     open_song();
     station.main_window.mix_titles.click();
-    station.destination.dest_volume = -800;
-    station.deck_volume.apply_record(station.desk.deck(1));
+    station.deck_volume.apply_record(station.desk.deck(1), -800);
     EXPECT_EQ(controls(1).slider.value(), 0);
     EXPECT_EQ(volume_of(1), 0);
 }

@@ -148,9 +148,9 @@ TEST_F(QuickLoadTest, ChoosingAnItemReadsItsRecordAndOpensTheMenuOfTheDecks) {
     put_list(favourites, 3);
     choose_favourites(favourites);
     window.favourites.choose(1);
-    EXPECT_EQ(station.destination.dest_chemin, track(2));
-    EXPECT_EQ(station.chain.fichier_courant, favourites);
     EXPECT_THAT(opened, ElementsAre("cha"));
+    window.lect1.click();
+    EXPECT_EQ(station.desk.deck(1).path, track(2));
 }
 
 TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
@@ -158,7 +158,9 @@ TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
     window.jingles.key_press(U' ');
     window.favourites.key_press(U'x');
     EXPECT_THAT(opened, ElementsAre("cha", "char_F"));
-    EXPECT_EQ(station.destination.dest_chemin, "");
+    machine.dialogs.expect_box("n'existe pas ou plus", Answer::ok);
+    window.lect1.click();
+    EXPECT_EQ(station.desk.deck(1).path, "");
 }
 
 TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
@@ -170,7 +172,7 @@ TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
     EXPECT_EQ(controls(2).title.caption.get(), "00:01:43 ( titre 3 )");
     EXPECT_EQ(controls(2).counter.caption.get(), "103");
     EXPECT_TRUE(controls(2).play.enabled);
-    EXPECT_EQ(window.path_under_check.text(), track(3));
+    EXPECT_EQ(station.desk.deck(2).path, track(3));
 }
 
 TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
@@ -188,22 +190,25 @@ TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
 
 TEST_F(QuickLoadTest, ATrackOfABoxBeginsAtItsOwnStartWhateverIsReadMeanwhile) {
     machine.add_track(track(1), 100);
-    machine.disk.put_file(favourites, bytes_of(record_of(track(1), "90", 100, 2.0)));
+    const std::vector records{record_of(track(1), "90", 100, 2.0), record_of(track(1), "90", 100, 30.0)};
+    machine.disk.put_file(favourites, bytes_of(records));
     choose_favourites(favourites);
     window.favourites.choose(0);
     window.lect2.click();
-    station.destination.dest_debut = 30.0;
+    window.favourites.choose(1);
     controls(2).play.click();
     EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 2.0);
 }
 
 TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
     machine.add_track(track(1), 100);
-    machine.disk.put_file(favourites, bytes_of(record_of(track(1), "")));
+    const std::vector records{record_of(track(1), "90", 100, 30.0), record_of(track(1), "")};
+    machine.disk.put_file(favourites, bytes_of(records));
     choose_favourites(favourites);
-    station.destination.dest_debut = 30.0;
     window.favourites.choose(0);
-    EXPECT_EQ(station.destination.dest_debut, 0.0);
+    window.favourites.choose(1);
+    window.lect2.click();
+    EXPECT_EQ(station.desk.deck(2).debut_piste, 0.0);
 }
 
 TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {

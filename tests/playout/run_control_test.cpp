@@ -16,8 +16,7 @@ protected:
     std::string look_for(std::string_view path) {
         station.list.index_en_cours = 2;
         station.list.chemin_fichier = path;
-        station.row_cursor.detecte_fichier_liste();
-        return station.list.chemin_fichier;
+        return station.row_cursor.detecte_fichier_liste(std::string{path});
     }
     void play_a_file_by_hand() {
         machine.add_track("C:\\main.mp3", 100);

@@ -40,7 +40,7 @@ void Binding::show_value() {
         widget_->setToolTip(hint);
     show_state();
     const QString name = hint.isEmpty() ? caption() : hint;
-    if (widget_->accessibleName() != name)
+    if (!name.isEmpty() && widget_->accessibleName() != name) // else the view's own holds
         widget_->setAccessibleName(name);
     QPalette palette = widget_->palette();
     paint(palette);

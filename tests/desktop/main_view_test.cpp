@@ -175,6 +175,15 @@ TEST_F(MainWindow, SlidersAreTurnedSoThatFullIsAtTheTop) {
     EXPECT_EQ(slider.orientation(), Qt::Vertical);
 }
 
+TEST_F(MainWindow, SignsOfTheOverlapHaveNamesForTheScreenReader) {
+    const auto name_of = [this](const Control& control) {
+        return part(main_view(), control.name()).accessibleName().toStdString();
+    };
+    EXPECT_EQ(name_of(main().overlap_less), "Superposition moins une seconde");
+    EXPECT_EQ(name_of(main().overlap_more), "Superposition plus une seconde");
+    EXPECT_EQ(name_of(main().overlap_steps), "Superposition");
+}
+
 TEST_F(MainWindow, NoControlIsMissing) {
     for (const Control* control : main().controls())
         EXPECT_TRUE(control->kind() == ControlKind::menu_item || main_view().is_bound(*control)) << control->name();

@@ -148,6 +148,7 @@ void Desktop::show_decks() {
     }
     main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
     show_air();
+    show_list();
 }
 
 void Desktop::show_air() {

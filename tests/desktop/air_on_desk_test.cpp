@@ -92,6 +92,16 @@ TEST_F(AirOnDesk, DecksNameWhatIsHeardOnThem) {
     EXPECT_EQ(title_of(2), "deux");
 }
 
+TEST_F(AirOnDesk, NoRowIsTheNextOnceTheListIsFollowedNoMore) {
+    play_list();
+    run_for(93);
+    ASSERT_EQ(amber_row(), 2);
+    list().player_mode.click();
+    run_for(1);
+    ASSERT_TRUE(station.chain.chargement_fait.is_true());
+    EXPECT_EQ(amber_row(), 0);
+}
+
 TEST_F(AirOnDesk, SpecialMixIsToldAndTheAirGoesOnBelowIt) {
     play_list();
     machine.add_track("C:\\Musique\\jingle.mp3", 60);

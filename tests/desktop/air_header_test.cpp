@@ -142,6 +142,15 @@ TEST_F(AirHeaderTest, TellsTheSilenceBeforeTheLostCard) {
     EXPECT_FALSE(label("air_notice").isVisible());
 }
 
+TEST_F(AirHeaderTest, NameForTheScreenReaderIsTheAlarm) {
+    play();
+    EXPECT_EQ(header().accessibleName(), "");
+    lose_the_card();
+    EXPECT_EQ(header().accessibleName(), "CARTE SON PERDUE");
+    be_silent_for("00:02");
+    EXPECT_EQ(header().accessibleName(), "SILENCE depuis 00:02");
+}
+
 TEST_F(AirHeaderTest, IsQuietOnceSoundIsBack) {
     be_silent_for("00:02");
     play();

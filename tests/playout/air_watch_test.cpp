@@ -47,6 +47,7 @@ TEST_F(AirWatchTest, TellsASilenceAfterTwoSeconds) {
     EXPECT_EQ(shown(), "");
     play_for(2);
     EXPECT_EQ(silences(), Seconds{20 + told_after});
+    EXPECT_EQ(events.back().second.ago, Frames{});
 }
 
 TEST_F(AirWatchTest, CountsTheSilenceFromItsBegin) {
@@ -66,6 +67,17 @@ TEST_F(AirWatchTest, TellsHowLongTheSilenceWasWhenSoundIsBack) {
     play_for(2);
     ASSERT_EQ(lengths_of_silences().size(), 1U);
     EXPECT_NEAR(lengths_of_silences().front(), 7, 0.11); // the row is looked for every 100 ms
+    EXPECT_EQ(shown(), "");
+}
+
+TEST_F(AirWatchTest, SilenceGoesFromTheDeskAsSoonAsSoundIsBack) {
+    start_lonely_track(20);
+    play_for(27);
+    machine.add_track(track(2), 30);
+    rows().append({track(2), "0.00", "30.00", "Rock", "100", ""});
+    station.list_document.sauve_tout();
+    machine.run_for(milliseconds(300)); // the row and the sound are each looked for every 100 ms
+    ASSERT_EQ(rows_started().size(), 2U);
     EXPECT_EQ(shown(), "");
 }
 

@@ -151,6 +151,17 @@ TEST_F(DeckOpening, UnreadableFileLeavesAnEmptyDeckBehindItsMessage) {
     EXPECT_EQ(station.desk.deck(2).path, "");
 }
 
+TEST_F(DeckOpening, UnreadableFileInPlaceOfATrackPutsItsBarBack) {
+    play_list_for(5);
+    machine.media.set_unplayable(song);
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
+    machine.dialogs.expect_open(song);
+    machine.dialogs.expect_box("Erreur lecture fichier ", Answer::ok);
+    controls(1).open.click();
+    EXPECT_EQ(controls(1).progress.value, 0);
+    EXPECT_EQ(controls(1).title.caption.get(), waiting_title);
+}
+
 TEST_F(DeckOpening, PlaysFromItsBeginningWhereTheRowBeforeBeganLater) {
     open_tracks({100, 100}, 12.0);
     machine.add_track(song, 10);

@@ -107,6 +107,19 @@ TEST_F(DeckStartTest, DeckThatTheRingDropsIsNotMadeLouderAtItsEnd) {
     EXPECT_EQ(controls(1).slider.value(), 0);
 }
 
+TEST_F(DeckStartTest, ByHandOverTheMainDeckLeavesADeckThatWaits) {
+    open_on_all({100, 100});
+    controls(1).play.click();
+    machine.run_for(seconds(10));
+    machine.add_track(track(3), 100);
+    open_on(3, track(3));
+    controls(3).play.click();
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(3)});
+    EXPECT_EQ(controls(1).title.caption.get(), waiting_title);
+    EXPECT_EQ(controls(1).progress.value, 0);
+    EXPECT_EQ(controls(1).counter.caption.get(), "0");
+}
+
 TEST_F(DeckStartTest, TrackOfExactlyTheLongestJingleIsFollowedWithoutAFade) {
     open_tracks({36, 100, 100});
     start_list();

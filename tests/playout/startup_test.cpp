@@ -302,6 +302,17 @@ TEST_F(StartupTest, TellsTheOverlapAndTheLoadLeadWhereTheOperatorPoints) {
     EXPECT_EQ(window.deck(2).special_mix.hint.get(), "Mixage spécial sur lecteur en cours (F9) avec : ");
 }
 
+TEST_F(StartupTest, FillsBothQuickLoadBoxesWithTheListsThatWereChosen) {
+    put_list("C:\\Listes\\favoris.dfm", 2);
+    put_list("C:\\Listes\\jingles.dfm", 3);
+    fill_store();
+    set("Load_combo1", "C:\\Listes\\favoris.dfm");
+    set("Load_combo2", "C:\\Listes\\jingles.dfm");
+    station.start("");
+    EXPECT_EQ(window.favourites.items.get().size(), 2U);
+    EXPECT_EQ(window.jingles.items.get().size(), 3U);
+}
+
 TEST_F(StartupTest, NamesTheProgramInItsMenus) {
     start();
     EXPECT_EQ(window.a_assosiation.caption.get(), "Associer des fichiers audio , vidéo ou liste a : Sonarelle");

@@ -219,6 +219,17 @@ TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheChainItsNextRow) {
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
+TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheLoadedTrack) {
+    start_and_run(190);
+    ASSERT_EQ(station.chain.chemin_lecture2, track(2));
+    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    station.list_window.zap.click();
+    machine.disk.heal("C:\\Musique");
+    machine.run_for(seconds(10));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(times_of(Kind::loaded).size(), 2U);
+}
+
 TEST_F(ZappingTest, SwitchesTheLoadStepsTickOff) {
     start_and_run(50);
     station.main_window.load_ahead.set_value(1);

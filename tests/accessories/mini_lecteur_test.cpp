@@ -154,6 +154,12 @@ TEST_F(MiniLecteurTest, GoesBackToTheMainWindowAndStoresItsPlace) {
     EXPECT_EQ(stored("Position_haut_mini_lecteur", "Position"), "300");
 }
 
+TEST_F(MiniLecteurTest, GoesBackToAMainWindowThatWasReducedBefore) {
+    window.state = WindowState::minimised;
+    player.show_main_window.click();
+    EXPECT_EQ(window.state, WindowState::normal);
+}
+
 TEST_F(MiniLecteurTest, NoToQuittingLeavesTheTopAndStoresItsPlace) {
     player.left = Twips{1200};
     machine.dialogs.expect_box("Confirmer la fermeture de Sonarelle ?", Answer::no);

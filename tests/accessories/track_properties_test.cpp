@@ -135,6 +135,32 @@ TEST_F(TrackPropertiesTest, MarkTheEndAndLeaveTheStart) {
     EXPECT_TRUE(machine.media.on_air().empty());
 }
 
+TEST_F(TrackPropertiesTest, PausedAtTheStartLeaveTheEndWhereItWasMarked) {
+    open_and_play();
+    run_for(10);
+    window.mark_start.click();
+    window.mark_end.click();
+    run_for(2);
+    window.mark_start.click();
+    window.start_forward.click();
+    run_for(1);
+    EXPECT_EQ(window.start.text(), "12.10");
+    EXPECT_EQ(window.end.text(), "12.00");
+}
+
+TEST_F(TrackPropertiesTest, PausedAtTheEndLeaveTheStartWhereItWasMarked) {
+    open_and_play();
+    run_for(10);
+    window.mark_start.click();
+    window.mark_start.click();
+    run_for(2);
+    window.mark_end.click();
+    window.end_forward.click();
+    run_for(1);
+    EXPECT_EQ(window.start.text(), "12.00");
+    EXPECT_EQ(window.end.text(), "12.10");
+}
+
 TEST_F(TrackPropertiesTest, StopPutsTheBarBack) {
     open_and_play();
     run_for(3);
@@ -251,6 +277,15 @@ TEST_F(TrackPropertiesTest, ColourTheLabelUnderThePointer) {
     EXPECT_EQ(window.play.fore_colour, 0x123456);
 }
 
+TEST_F(TrackPropertiesTest, OpenWithTheStationsColourOnEveryLabel) {
+    station.settings.coul_label = 0x123456;
+    open_and_play();
+    window.close.click();
+    open();
+    for (const Label* action : window.actions())
+        EXPECT_EQ(action->fore_colour, 0x123456) << action->name();
+}
+
 TEST_F(TrackPropertiesTest, ExplainTheLabelsThatNeedIt) {
     std::vector<std::string> hints;
     for (const Label* action : window.actions())
@@ -290,6 +325,15 @@ TEST_F(TrackPropertiesTest, CloseAfterASaveTellsNothing) {
     const std::string before = station.list_window.list_status.caption;
     window.close.click();
     EXPECT_EQ(station.list_window.list_status.caption.get(), before);
+}
+
+TEST_F(TrackPropertiesTest, CloseTellsThatNothingWasChangedBehindAnEarlierSave) {
+    open();
+    window.save.click();
+    window.close.click();
+    open();
+    window.close.click();
+    EXPECT_EQ(station.list_window.list_status.caption.get(), " Pas de Modification ");
 }
 
 TEST_F(TrackPropertiesTest, OpenOnAnotherRowStopsTheOneThatPlays) {

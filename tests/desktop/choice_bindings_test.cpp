@@ -116,6 +116,54 @@ TEST_F(ComboBoxBindings, SpaceGoesToTheControlAndIsNotTyped) {
     EXPECT_EQ(box.text(), "Jingles");
 }
 
+TEST_F(ComboBoxBindings, SpaceIsTypedWhereTheControlDoesNotAnswerIt) {
+    ComboBox box{window, "c", "Hip"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    settle();
+    QTest::keyClick(widget.lineEdit(), Qt::Key_Space);
+    EXPECT_EQ(box.text(), "Hip ");
+}
+
+TEST_F(ComboBoxBindings, OtherItemsOfTheSameNumberAreShown) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    box.items = {"trois", "quatre"};
+    settle();
+    EXPECT_EQ(widget.itemText(1), "quatre");
+    EXPECT_EQ(widget.count(), 2);
+}
+
+TEST_F(ComboBoxBindings, FieldThatCantBeReachedAnyMoreGivesTheKeyboardToItsWindow) {
+    ComboBox box{window, "c", "Jingles"};
+    QWidget page;
+    QComboBox widget{&page};
+    const QLineEdit next{&page};
+    const ComboBoxBinding binding{box, widget, services};
+    settle();
+    page.show();
+    QApplication::setActiveWindow(&page);
+    widget.lineEdit()->setFocus();
+    box.enabled = false;
+    settle();
+    EXPECT_EQ(page.focusWidget(), &page);
+}
+
+TEST_F(ListBoxBindings, OtherItemsOfTheSameNumberAreShown) {
+    ListBox box{window, "l"};
+    QListWidget widget;
+    const ListBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    box.items = {"trois", "quatre"};
+    settle();
+    EXPECT_EQ(widget.item(1)->text(), "quatre");
+    EXPECT_EQ(widget.count(), 2);
+}
+
 TEST_F(ListBoxBindings, ChoosingARowChoosesItInTheControl) {
     ListBox box{window, "l"};
     QListWidget widget;

@@ -28,6 +28,14 @@ protected:
         settle();
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
+    /// What the button "Menu" opens.
+    QMenu* press_menu_button() {
+        const auto buttons = parts_of<StudioButton>(list_view());
+        const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
+        if (button != buttons.end())
+            (*button)->click();
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
     [[nodiscard]] static bool offers(QMenu& menu, const QString& entry) {
         return std::ranges::any_of(menu.actions(), [&](const QAction* action) { return action->text() == entry; });
     }
@@ -164,14 +172,18 @@ TEST_F(ListWindow, MenuButtonOffersEveryEntryThatHangsUnderNoOther) {
 }
 
 TEST_F(ListWindow, MenuButtonOffersNoEntryThatHangsUnderAnother) {
-    const auto buttons = parts_of<StudioButton>(list_view());
-    const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
-    ASSERT_NE(button, buttons.end());
-    (*button)->click();
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QMenu* menu = press_menu_button();
     ASSERT_NE(menu, nullptr);
     for (const MenuItem* hung : list().Convertion.entries())
         EXPECT_FALSE(offers(*menu, QString::fromStdString(hung->caption))) << hung->name();
+    menu->close();
+}
+
+TEST_F(ListWindow, MenuButtonOffersNoEntryWithoutWords) {
+    QMenu* menu = press_menu_button();
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* action : menu->actions())
+        EXPECT_FALSE(action->text().isEmpty()) << action->objectName().toStdString();
     menu->close();
 }
 

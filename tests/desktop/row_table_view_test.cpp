@@ -172,6 +172,34 @@ TEST_F(TableView, RowsOnTheAirAndNextAreTinted) {
     EXPECT_FALSE(ground(3).isValid());
 }
 
+TEST_F(TableView, OpensNoEditorWhereEditingIsNotAutomatic) {
+    fill(1);
+    EXPECT_FALSE(widget.model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(TableView, OpensAnEditorOnTheFirstColumnAloneWhereEditingIsAutomatic) {
+    fill(1);
+    table.label_editing = LabelEditing::automatic;
+    EXPECT_TRUE(widget.model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+    EXPECT_FALSE(widget.model()->index(0, 1).flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(TableView, EditorInATableThatCantBeReachedAnyMoreGivesTheKeyboardToItsWindow) {
+    QWidget page;
+    widget.setParent(&page);
+    fill(1);
+    table.label_editing = LabelEditing::automatic;
+    page.show();
+    QApplication::setActiveWindow(&page);
+    widget.setFocus();
+    widget.edit(widget.model()->index(0, 0));
+    ASSERT_NE(page.focusWidget(), &widget);
+    table.enabled = false;
+    settle();
+    EXPECT_EQ(page.focusWidget(), &page);
+    widget.setParent(nullptr);
+}
+
 TEST_F(TableView, EditedLabelReachesTheTableWhereEditingIsAutomatic) {
     fill(1);
     table.label_editing = LabelEditing::automatic;

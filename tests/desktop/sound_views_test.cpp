@@ -17,6 +17,7 @@ constexpr int some_readings = 300; // ms
 struct Source {
     LevelReading level{};
     float sample = 0;
+    float right = 1; ///< What the right channel has of it.
     std::vector<float> bands{};
     int asked = 0;
 
@@ -27,7 +28,8 @@ struct Source {
                 },
                 [this](std::span<float> frames) {
                     ++asked;
-                    std::ranges::fill(frames, sample);
+                    for (std::size_t at = 0; at < frames.size(); ++at)
+                        frames[at] = at % 2 == 0 ? sample : sample * right;
                 },
                 [this]() -> std::span<const float> {
                     ++asked;
@@ -163,6 +165,13 @@ TEST_F(SoundPictures, WaveGoesUpWithTheSound) {
     source.sample = 0.5F;
     show_running();
     EXPECT_GT(count_of(seen(view).copy(0, 18, 200, 4), studio::air), 100); // 1.2 * 0.5 of the half
+}
+
+TEST_F(SoundPictures, WaveIsTheMeanOfBothChannels) {
+    source.sample = 0.5F;
+    source.right = -1;
+    show_running();
+    EXPECT_GT(count_of(seen(view).copy(0, 48, 200, 4), studio::air), 100);
 }
 
 TEST_F(SoundPictures, WaveStaysInsideItsPlace) {

@@ -123,4 +123,21 @@ TEST_F(Titles, LongNameOfWhatIsHeardTurnsWithTheStation) {
     EXPECT_TRUE(label.is_turning());
 }
 
+TEST_F(Titles, AnotherNameOfWhatIsHeardTurnsFromItsBeginning) {
+    show(90);
+    label.set_text("Un titre ... - ");
+    label.set_heard("Un titre bien trop long");
+    turn(1);
+    const QImage before = seen(label);
+    ASSERT_TRUE(becomes([&] { return seen(label) != before; }));
+    label.set_heard("Une chanson bien trop longue");
+    turn(1);
+    TitleLabel fresh{{.pixels = 19, .bold = true}};
+    fresh.resize(90, 30);
+    fresh.set_text("Un titre ... - ");
+    fresh.set_heard("Une chanson bien trop longue");
+    fresh.set_text(turned(fresh.text()));
+    EXPECT_EQ(seen(label), seen(fresh));
+}
+
 } // namespace sonarelle

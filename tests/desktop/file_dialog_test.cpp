@@ -4,6 +4,7 @@
 
 #include "desktop/desktop_bench.h"
 #include "desktop/desktop_file_dialog.h"
+#include "platform/failure.h"
 
 namespace sonarelle {
 
@@ -16,7 +17,67 @@ PathForms same_paths() {
     return {same, same};
 }
 
+/// Two folders of the station on this machine, and where a dialog that is told of a folder and a file begins.
+class FileDialogBegins : public DesktopBench {
+protected:
+    [[nodiscard]] QString at(const std::string& folder, const std::string& file) {
+        const auto to_machine = [this](const std::string& path) {
+            return (path.starts_with("C:\\Listes") ? lists : programme).path().toStdString();
+        };
+        const PathForms paths{to_machine, to_machine};
+        DesktopFileDialog dialog{paths, nullptr};
+        dialog.begin_at(folder, file);
+        return dialog.directory().path();
+    }
+
+    QTemporaryDir programme;
+    QTemporaryDir lists;
+};
+
 } // namespace
+
+TEST_F(FileDialogBegins, InTheFolderThatItIsTold) {
+    EXPECT_EQ(at("C:\\Listes", "*.dfm"), lists.path());
+    EXPECT_EQ(at("C:\\Sonarelle", "*.dfm"), programme.path());
+}
+
+TEST_F(FileDialogBegins, InTheFolderOfTheFileThatIsOffered) {
+    EXPECT_EQ(at("C:\\Sonarelle", "C:\\Listes\\matin.dfm"), lists.path());
+}
+
+TEST_F(FileDialogOnView, OffersTheNameOfTheFileToSave) {
+    const QTemporaryDir folder;
+    const PathForms paths = same_paths();
+    DesktopFileDialog dialog{paths, nullptr};
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.begin_at(folder.path().toStdString(), "matin.dfm");
+    EXPECT_EQ(dialog.selectedFiles(), QStringList{folder.filePath("matin.dfm")});
+}
+
+TEST_F(FileDialogOnView, FileThatTheStationCantHoldIsRefusedByNameAndTheDialogStays) {
+    const QTemporaryDir folder;
+    QFile file{folder.filePath("matin.dfm")};
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const auto refuse = [](const std::string& path) -> std::string {
+        throw Failure{failure_number::wrong_file_name, path};
+    };
+    const PathForms paths{[](const std::string& path) { return path; }, refuse};
+    DesktopFileDialog dialog{paths, nullptr};
+    dialog.setDirectory(folder.path());
+    dialog.selectFile(file.fileName());
+    dialog.show();
+    QString told;
+    QTimer::singleShot(0, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told = box->text();
+            box->accept();
+        }
+    });
+    dialog.accept();
+    EXPECT_TRUE(told.contains("matin.dfm")) << told.toStdString();
+    EXPECT_TRUE(dialog.isVisible());
+}
 
 TEST_F(FileDialogOnView, LeavesTheQuestionBeforeAFileIsWrittenOverToTheStation) {
     const QTemporaryDir folder;

@@ -48,6 +48,18 @@ TEST_F(ChosenOutput, TheProgrammeGoesOnThroughTheChange) {
     EXPECT_EQ(heard[heard.size() - 2], counted(last - begin.count()));
 }
 
+TEST_F(ChosenOutput, TheChangeToADeviceOfGreaterBurstsIsNoGap) {
+    live.studio->block_frames = 2048;
+    live.studio->blocks_at_once = 3;
+    live.go_on_air();
+    wait_until_it_plays_on("");
+    live.live_for(seconds(5)); // long enough to know the old one's pace
+    live.output->choose("Studio");
+    wait_until_it_plays_on("Studio");
+    live.live_for(seconds(7));
+    EXPECT_EQ(live.lost_in_gaps, 0);
+}
+
 TEST_F(ChosenOutput, TheDefaultDeviceIsTakenBack) {
     live.go_on_air("Studio");
     wait_until_it_plays_on("Studio");

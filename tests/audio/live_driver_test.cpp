@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <poll.h>
 
 #include <algorithm>
 #include <thread>
@@ -158,6 +159,26 @@ TEST(LiveDriver, TakesEventsFromOtherThreadsInOrder) {
     other.join();
     EXPECT_EQ(order.size(), 20U);
     EXPECT_TRUE(std::ranges::is_sorted(order));
+}
+
+/// Whether the loop that sleeps on the driver's descriptor wakes.
+bool wakes(const LiveDriver& driver) {
+    pollfd descriptor{.fd = driver.wake_descriptor(), .events = POLLIN, .revents = 0};
+    return ::poll(&descriptor, 1, 0) == 1;
+}
+
+TEST(LiveDriver, PostedEventWakesTheLoopThatSleeps) {
+    LiveBench live;
+    live.driver.post([] {});
+    EXPECT_TRUE(wakes(live.driver));
+    static_cast<void>(live.driver.poll());
+    EXPECT_FALSE(wakes(live.driver));
+}
+
+TEST(LiveDriver, StopWakesTheLoopThatSleeps) {
+    LiveBench live;
+    live.driver.stop();
+    EXPECT_TRUE(wakes(live.driver));
 }
 
 TEST(LiveDriver, OtherTimersRunOnWhileOneWaits) {

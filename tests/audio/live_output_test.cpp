@@ -46,6 +46,16 @@ TEST(LiveOutput, TheCountGoesOnWhileTheDeviceHangs) {
     EXPECT_EQ(live.card->opened, 1);
 }
 
+TEST(LiveOutput, ADeviceThatHangsForLongIsOpenedAnew) {
+    LiveBench live;
+    live.go_on_air();
+    live.live_until([&] { return live.output->state() == OutputState::playing; });
+    live.card->hanging = true;
+    live.live_until([&] { return live.card->opened == 2; });
+    live.card->hanging = false;
+    live.live_until([&] { return live.last_state == OutputState::playing; });
+}
+
 TEST(LiveOutput, ADeviceThatTakesAFifthOfASecondAtOnceHasNotStopped) {
     LiveBench live;
     live.card->block_frames = 2048;

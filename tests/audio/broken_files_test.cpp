@@ -96,6 +96,28 @@ TEST(BrokenFile, ThatShrinksWhenItIsOpenIsSilentToItsAnnouncedEndAndReported) {
     EXPECT_EQ(bench.reports[0].starved, Frames{0});
 }
 
+/// A file that shrinks while its graph plays it.
+struct ShrinkingFile : SoundBench {
+    ShrinkingFile() {
+        const auto path = folder.encoded("a.mp3", 8, "-b:a 320k");
+        playing = graph(path);
+        std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+        playing->Run();
+    }
+    std::shared_ptr<MediaGraph> playing;
+};
+
+TEST(BrokenFile, IsReportedThoughItsGraphGoesRightBehindTheTrouble) {
+    ShrinkingFile watched;
+    while (watched.reports.empty())
+        watched.run_for(milliseconds(10));
+    ShrinkingFile left;
+    left.run_for(watched.time.now() - milliseconds(50));
+    left.playing.reset();
+    left.run_for(seconds(1));
+    EXPECT_EQ(left.reports.size(), 1U);
+}
+
 TEST(BrokenFile, NoiseInTheMiddleIsPassedOverAndReported) {
     SoundBench bench;
     auto bytes = bytes_of(bench.folder.encoded("whole.mp3", 8, "-b:a 128k"));

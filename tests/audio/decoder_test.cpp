@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 
@@ -88,6 +90,19 @@ TEST(Decoder, PlaysMonoOnBothSides) {
     const auto whole = decoded(folder.encoded("mono.mp3", 1, "-ac 1"));
     for (std::size_t frame = 0; frame < whole.size() / 2; ++frame)
         ASSERT_EQ(whole[2 * frame], whole[2 * frame + 1]);
+}
+
+TEST(Decoder, PlaysEachChannelOnItsOwnSide) {
+    const SoundFolder folder;
+    const std::string left_alone = "-af \"pan=stereo|c0=c0|c1=0*c1\" ";
+    for (const char* name : {"a.mp3", "a.mp2", "a.ogg", "a.m4a", "a.flac", "a.wma", "a.wav", "a.aiff"}) {
+        const auto whole = decoded(folder.encoded(name, 1, left_alone));
+        std::array<float, 2> peaks{};
+        for (std::size_t sample = 0; sample < whole.size(); ++sample)
+            peaks[sample % 2] = std::max(peaks[sample % 2], std::abs(whole[sample]));
+        EXPECT_GT(peaks[0], 0.3F) << name;
+        EXPECT_LT(peaks[1], 0.05F) << name;
+    }
 }
 
 TEST(Decoder, DamageThatOnlyTheWarmingUpMeetsIsNoBreak) {
@@ -205,6 +220,14 @@ TEST(Decoder, TellsAFilmFromASong) {
     const auto film = folder.encoded("film.avi", 2, "-f lavfi -i testsrc=d=2:s=64x48 -c:a libmp3lame");
     EXPECT_TRUE(decoder_of(film)->has_pictures());
     EXPECT_FALSE(decoder_of(folder.encoded("song.mp3", 2, ""))->has_pictures());
+}
+
+TEST(Decoder, FilmLastsLongerThanItsSound) {
+    const SoundFolder folder;
+    for (const char* name : {"film.avi", "film.mkv"}) {
+        const auto film = folder.encoded(name, 2, "-f lavfi -i testsrc=d=5:s=64x48 -c:a libmp3lame");
+        EXPECT_NEAR(decoder_of(film)->duration(), 5, 0.1) << name;
+    }
 }
 
 TEST(Decoder, KnowsThatASilentFilmHasNoSound) {

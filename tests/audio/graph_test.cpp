@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/audio/gain.h"
+#include "platform/audio/silent_media.h"
 #include "platform/failure.h"
 #include "sound_bench.h"
 
@@ -14,6 +15,27 @@ int failure_of(const std::function<void()>& statement) {
     } catch (const Failure& failure) {
         return failure.number;
     }
+}
+
+/// Which file a failure to open it names.
+std::string named_by_failure(Media& media, std::string_view path) {
+    try {
+        media.create_graph()->RenderFile(path);
+        return {};
+    } catch (const Failure& failure) {
+        return failure.source;
+    }
+}
+
+TEST(SoundGraph, NamesAFileThatCantBeOpenedAsTheStationDoes) {
+    SoundBench bench;
+    constexpr std::string_view name = "C:\\Musique\\absent.mp3";
+    const auto files = std::make_shared<MachineFiles>();
+    const auto resolve = [&](std::string_view) { return bench.folder.path("absent.mp3"); };
+    SoundMedia sounding{bench.time, bench.bus, files, resolve, Decoding::inline_with_rendering};
+    SilentMedia silent{bench.time, files, resolve};
+    EXPECT_EQ(named_by_failure(sounding, name), name);
+    EXPECT_EQ(named_by_failure(silent, name), name);
 }
 
 TEST(SoundGraph, IsHeardFromTheFrameOfRunOn) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 #include "platform/audio/spectrum.h"
 #include "tone.h"
@@ -46,6 +48,17 @@ TEST(Spectrum, FarFromASineThereIsNothing) {
 
 TEST(Spectrum, ChannelsInOppositePhaseDoNotCancel) {
     const auto levels = bands_of(tone(3000, {1, -1}, Spectrum::window_frames));
+    EXPECT_NEAR(*std::max_element(levels.begin(), levels.end()), 0, 0.01);
+}
+
+TEST(Spectrum, ChannelsAQuarterOfATurnApartReadAsBoth) {
+    std::vector<float> frames;
+    for (std::size_t frame = 0; frame < Spectrum::window_frames; ++frame) {
+        const double turn = 2 * std::numbers::pi * 3000 * static_cast<double>(frame) / 48000;
+        frames.push_back(static_cast<float>(std::sin(turn)));
+        frames.push_back(static_cast<float>(std::cos(turn)));
+    }
+    const auto levels = bands_of(frames);
     EXPECT_NEAR(*std::max_element(levels.begin(), levels.end()), 0, 0.01);
 }
 

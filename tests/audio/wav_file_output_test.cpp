@@ -132,6 +132,20 @@ TEST(WavHead, CutRf64HasTheLengthOfWhatItHolds) {
     EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 3.0);
 }
 
+TEST(WavHead, TellsTheRateAndTheBytesOfASecondAndOfAFrame) {
+    const WavHead head = wav_head(48000ULL * 4);
+    const std::string_view bytes{head.data(), head.size()};
+    const std::size_t format = bytes.find("fmt ") + 8;
+    const auto number_at = [&](std::size_t at) {
+        std::uint32_t number = 0;
+        std::memcpy(&number, bytes.data() + format + at, sizeof number);
+        return number;
+    };
+    EXPECT_EQ(number_at(4), 48000U);
+    EXPECT_EQ(number_at(8), 48000U * 4);
+    EXPECT_EQ(number_at(12), 16U << 16 | 4U);
+}
+
 TEST(WavHead, StaysTheShortOneUpToFourGigabytes) {
     const std::uint64_t most = (UINT32_MAX - 1 - 72) / 4 * 4;
     EXPECT_EQ(std::memcmp(wav_head(most).data(), "RIFF", 4), 0);

@@ -142,6 +142,14 @@ TEST_F(SettingsLoadTest, OfAnEmptyStoreSetsItsVariables) {
     EXPECT_EQ(station.settings.chemin_musique, "C:\\Sonarelle\\");
 }
 
+TEST_F(SettingsLoadTest, OfAnEmptyStoreWritesThePlacesOfTheWindows) {
+    load();
+    for (const SettingRow& row : settings_vocabulary())
+        if (row.section == setting_section::position && row.repair) {
+            EXPECT_EQ(stored("Position", row.key), *row.repair) << row.key;
+        }
+}
+
 TEST_F(SettingsLoadTest, OfAnEmptyStoreRewritesTheColoursToo) {
     load();
     EXPECT_EQ(stored(colours, "coul_texte_liste"), "986895");

@@ -12,6 +12,7 @@
 namespace sonarelle::test {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 /// A folder that may be read but not written, with a file in it that may be both.
 struct ReadOnlyFolder : DiskBench {
@@ -86,6 +87,19 @@ TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
     EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 75);
     EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), 75);
     EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "old");
+}
+
+TEST(Rights, LinkToAWriteProtectedFileGoesByItself) {
+    DiskBench bench;
+    bench.folder.put("liste.dfm", "old");
+    bench.folder.set_rights("liste.dfm", 0444);
+    bench.folder.put_folder("un");
+    bench.folder.set_rights("un", 0777);
+    ASSERT_EQ(::symlink("../liste.dfm", bench.folder.path("un/lien.dfm").c_str()), 0);
+
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\lien.dfm"); }), 0);
+    EXPECT_THAT(bench.folder.names("un"), IsEmpty());
+    EXPECT_EQ(bench.folder.bytes("liste.dfm"), "old");
 }
 
 TEST(Rights, FileOfAnotherOwnerThatAllMayWriteIsReplaced) {

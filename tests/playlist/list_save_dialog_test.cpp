@@ -79,6 +79,16 @@ TEST_F(ListSaveDialogTest, AsksBeforeItOverwritesWithNoAsTheDefault) {
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
 }
 
+TEST_F(ListSaveDialogTest, AsksBeforeItOverwritesAHiddenList) {
+    machine.disk.put_file(soir, "ancien");
+    machine.disk.set_hidden(soir);
+    open_list(matin, {record_of("a")});
+    machine.dialogs.expect_save(soir);
+    machine.dialogs.expect_box("existe", Answer::no);
+    station.list_window.A_enreg_sous.click();
+    EXPECT_EQ(machine.disk.bytes(soir), "ancien");
+}
+
 TEST_F(ListSaveDialogTest, KeepsTheFileThatExistsOnNo) {
     machine.disk.put_file(soir, "ancien");
     open_list(matin, {record_of("a")});

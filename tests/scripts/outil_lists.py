@@ -257,6 +257,10 @@ class Writing(Tool):
         del row["chemin"]
         self.refused(row, "chemin")
 
+    def test_names_the_record_that_it_refuses(self):
+        self.call("liste", "ecrire", self.file("b.dfm"), stdin=json.dumps([self.row(), self.row(volume=1.5)]), status=1)
+        self.assertIn("enregistrement 2 ", self.error)
+
     def test_refuses_what_is_no_json(self):
         self.call("liste", "ecrire", self.file("b.dfm"), stdin="[{", status=1)
         self.assertFalse(self.file("b.dfm").exists())

@@ -32,18 +32,15 @@ struct SettingsLoad::Insertion {
     Timer Antenne_FM::*timer;
     Label Liste_son::*label;
     Image Liste_son::*button;
-    Flag ListState::*button_shows_on;
 };
 
 SettingsLoad::SettingsLoad(const Platform& platform, StationSettings& settings, Antenne_FM& main_window,
-                           Liste_son& list_window, ListState& list_state, Form_options& options,
-                           mini_lecteur& small_player)
+                           Liste_son& list_window, Form_options& options, mini_lecteur& small_player)
     : platform_{platform},
       store_{platform},
       settings_{settings},
       main_{main_window},
       list_{list_window},
-      list_state_{list_state},
       options_{options},
       small_player_{small_player} {}
 
@@ -52,11 +49,11 @@ void SettingsLoad::Chargement_parametres() {
         Insertion{"valide_fichier_aleatoire", "Nb_fichier_aleatoire", "Chemin_fichier_aleatoire", "Jingle On",
                   &StationSettings::valide_fichier_aleatoire, &Form_options::draws_jingles,
                   &Form_options::jingle_spacing, &Form_options::jingle_list, &Antenne_FM::jingle_timer,
-                  &Liste_son::jingles_status, &Liste_son::jingles_switch, &ListState::bouton_jingle_actif},
+                  &Liste_son::jingles_status, &Liste_son::jingles_switch},
         Insertion{"valide_fichier_aleatoire1", "Nb_fichier_aleatoire1", "Chemin_fichier_aleatoire1", "Liste On",
                   &StationSettings::valide_fichier_aleatoire1, &Form_options::draws_items, &Form_options::item_spacing,
-                  &Form_options::item_list, &Antenne_FM::item_timer, &Liste_son::items_status, &Liste_son::items_switch,
-                  &ListState::bouton_liste_actif},
+                  &Form_options::item_list, &Antenne_FM::item_timer, &Liste_son::items_status,
+                  &Liste_son::items_switch},
     };
     write_program_folder();
     read_chain_values();
@@ -153,10 +150,8 @@ void SettingsLoad::read_insertion(const Insertion& insertion) {
         settings_.*insertion.flag = true;
         (list_.*insertion.label).caption = std::string{insertion.on_caption};
         (list_.*insertion.button).picture = settings_.chemin_programme + "bouton_on.jpg";
-        list_state_.*insertion.button_shows_on = true;
     } else if (flag == "false") {
         (main_.*insertion.timer).disable();
-        list_state_.*insertion.button_shows_on = false;
     }
     const SettingRow& count = setting_row(config, insertion.count_key);
     const SettingRow& path = setting_row(config, insertion.list_key);

@@ -8,7 +8,6 @@
 #include "platform/failure.h"
 #include "platform/platform.h"
 #include "playlist/liste_son.h"
-#include "state/list_state.h"
 #include "windows/antenne_fm.h"
 #include "windows/mini_lecteur.h"
 
@@ -20,7 +19,7 @@ namespace sonarelle {
 class SettingsLoad {
 public:
     SettingsLoad(const Platform& platform, StationSettings& settings, Antenne_FM& main_window, Liste_son& list_window,
-                 ListState& list_state, Form_options& options, mini_lecteur& small_player);
+                 Form_options& options, mini_lecteur& small_player);
 
     void Chargement_parametres();
 
@@ -58,7 +57,6 @@ private:
     StationSettings& settings_;
     Antenne_FM& main_;
     Liste_son& list_;
-    ListState& list_state_;
     Form_options& options_;
     mini_lecteur& small_player_;
     ErrorIndicator errors_;

@@ -140,7 +140,6 @@ void ChainModes::read_overlap() {
 void ChainModes::choose_player_mode() {
     clear_insertions();
     desk_.settings.valide_fichier_aleatoire = false;
-    desk_.list.bouton_jingle_actif = false;
     desk_.list_window.jingles_status.caption = "Jingle Off";
     desk_.list_window.items_status.caption = "Liste Off";
     desk_.list_window.jingles_switch.picture = std::string{switch_off};
@@ -156,7 +155,6 @@ void ChainModes::choose_player_mode() {
 void ChainModes::clear_insertions() {
     desk_.settings.valide_fichier_aleatoire1 = false;
     desk_.list_window.items_status.caption = "liste Off";
-    desk_.list.bouton_liste_actif = false;
     desk_.list_window.items_switch.picture = std::string{switch_off};
     desk_.chain.compteur_aleatoire = desk_.chain.compteur_aleatoire1 = 0;
     desk_.window.item_timer.disable();

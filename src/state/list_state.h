@@ -28,8 +28,6 @@ struct ListState {
     bool sans_test_existence = false; ///< An old list that is opened isn't tested.
     Flag edition_chemin;              ///< The path of a row may be edited in place.
 
-    Flag bouton_jingle_actif; ///< What the switches of the two insertions show.
-    Flag bouton_liste_actif;
     Flag volume_nul_signale; ///< The null volume warning has come since start-up.
 };
 

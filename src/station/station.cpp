@@ -22,7 +22,7 @@ Station::Station(const Platform& platform)
            {Deck{1, platform_.media, main_window.deck(1), chain.path_of_deck(1)},
             Deck{2, platform_.media, main_window.deck(2), chain.path_of_deck(2)},
             Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
-      settings_load{platform_, settings, main_window, list_window, list, options_window, small_player},
+      settings_load{platform_, settings, main_window, list_window, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
       record_reading{platform_, list, list_window.rows, [this] { warn_of_null_volume(); }},
       list_document{platform_, settings, list, list_window},

@@ -242,7 +242,6 @@ TEST_F(SettingsLoadTest, SwitchesTheJinglesOn) {
     EXPECT_EQ(station.options_window.draws_jingles.value(), 1);
     EXPECT_EQ(station.list_window.jingles_status.caption.get(), "Jingle On");
     EXPECT_EQ(station.list_window.jingles_switch.picture.get(), "C:\\Sonarelle\\bouton_on.jpg");
-    EXPECT_TRUE(station.list.bouton_jingle_actif.is_true());
     EXPECT_EQ(station.settings.nb_fichier_aleatoire, 4);
     EXPECT_EQ(station.options_window.jingle_spacing.text(), "4");
     EXPECT_EQ(station.options_window.jingle_list.text(), "C:\\jingles.dfm");
@@ -268,7 +267,7 @@ TEST_F(SettingsLoadTest, SwitchesTheListItemsOn) {
     EXPECT_TRUE(station.main_window.item_timer.enabled());
     EXPECT_EQ(station.options_window.draws_items.value(), 1);
     EXPECT_EQ(station.list_window.items_status.caption.get(), "Liste On");
-    EXPECT_TRUE(station.list.bouton_liste_actif.is_true());
+    EXPECT_EQ(station.list_window.items_switch.picture.get(), "C:\\Sonarelle\\bouton_on.jpg");
     EXPECT_EQ(station.options_window.item_spacing.text(), "5");
     EXPECT_EQ(station.options_window.item_list.text(), "C:\\articles.dfm");
 }

@@ -172,19 +172,21 @@ TEST_F(ChainModesTest, FirstOptionReadsTheWholeFileOverDecks) {
 }
 
 TEST_F(ChainModesTest, FirstOptionPutsBothInsertionsOff) {
-    station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
+    for (Image* button : {&list.jingles_switch, &list.items_switch})
+        button->picture = "bouton_on.jpg";
     list.player_mode.click();
     EXPECT_EQ(list.items_status.caption.get(), "Liste Off");
-    EXPECT_TRUE(station.list.bouton_jingle_actif.is_false());
-    EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
+    EXPECT_EQ(list.jingles_switch.picture.get(), "bouton_off.jpg");
+    EXPECT_EQ(list.items_switch.picture.get(), "bouton_off.jpg");
 }
 
 TEST_F(ChainModesTest, ThirdOptionPutsTheInsertionOfListItemsOffAlone) {
-    station.list.bouton_jingle_actif = station.list.bouton_liste_actif = true;
+    for (Image* button : {&list.jingles_switch, &list.items_switch})
+        button->picture = "bouton_on.jpg";
     list.defined_end_mode.click();
     EXPECT_EQ(list.items_status.caption.get(), "liste Off");
-    EXPECT_TRUE(station.list.bouton_jingle_actif.is_true());
-    EXPECT_TRUE(station.list.bouton_liste_actif.is_false());
+    EXPECT_EQ(list.jingles_switch.picture.get(), "bouton_on.jpg");
+    EXPECT_EQ(list.items_switch.picture.get(), "bouton_off.jpg");
 }
 
 TEST_F(ChainModesTest, SecondOptionReadsAtRandom) {

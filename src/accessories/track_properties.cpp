@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/text.h"
-#include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
 namespace sonarelle {
@@ -24,17 +22,14 @@ int percent_of(int x) {
 
 } // namespace
 
-TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list,
-                                 Liste_son& list_window, Propriete& window, RecordReading& reading,
-                                 ListDocument& document, const ListGuard& guard)
+TrackProperties::TrackProperties(const Platform& platform, const StationSettings& settings, const ListState& state,
+                                 Propriete& window, ListAtWork& list, RecordReading& reading)
     : platform_{platform},
       settings_{settings},
-      list_{list},
-      list_window_{list_window},
+      state_{state},
       window_{window},
+      list_{list},
       reading_{reading},
-      document_{document},
-      guard_{guard},
       start_{window.start, window.start_timer},
       end_{window.end, window.end_timer} {
     connect_actions();
@@ -42,7 +37,7 @@ TrackProperties::TrackProperties(const Platform& platform, const StationSettings
 }
 
 void TrackProperties::connect_actions() {
-    list_window_.a_modif.on_click = [this] { a_modif(); };
+    list_.window().a_modif.on_click = [this] { a_modif(); };
     on_press(window_.play, [this] { play(); });
     on_press(window_.mark_start, [this] { press_start(); });
     on_press(window_.mark_end, [this] { press_end(); });
@@ -91,11 +86,11 @@ MediaGraph& TrackProperties::graph() const {
 }
 
 void TrackProperties::a_modif() {
-    if (list_window_.rows.count() == 0 || !guard_.allows(ListAction::a_modif))
+    if (list_.rows().count() == 0 || !list_.allows(ListAction::a_modif))
         return;
     ErrorIndicator{}.skip([this] {
         forget_file();
-        const bool has_volume = fill_finds_a_volume(std::max(1, list_window_.rows.selected()));
+        const bool has_volume = fill_finds_a_volume(std::max(1, list_.rows().selected()));
         restore_colours();
         window_.show();
         if (!has_volume)
@@ -209,37 +204,30 @@ void TrackProperties::go_to_place(int x) {
 }
 
 void TrackProperties::save() {
-    if (!guard_.allows(ListAction::a_modif))
+    if (!list_.allows(ListAction::a_modif))
         return;
     try {
         write_row();
     } catch (const Failure& failure) {
-        show_box(platform_.dialogs, failure.what(), Icon::stop);
+        list_.tell(failure.what(), Icon::stop);
     }
 }
 
 void TrackProperties::write_row() {
-    if (list_.fichier_liste.empty()) {
-        show_box(platform_.dialogs, "Pas de nom de fichier", Icon::none);
+    if (state_.fichier_liste.empty()) {
+        list_.tell("Pas de nom de fichier", Icon::none);
         return;
     }
-    if (list_window_.a_Ne_pas_Sauve.checked) {
-        show_box(platform_.dialogs,
-                 "Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
-                 "Sauvegarder cette liste",
-                 Icon::information);
+    if (list_.window().a_Ne_pas_Sauve.checked) {
+        list_.tell("Traitement impossible avec l'option\nNe pas sauver les modifications dans le fichier par défaut\n"
+                   "Sauvegarder cette liste",
+                   Icon::information);
         return;
     }
     const enreg_liste row = edited_row();
-    const std::string list = list_path(platform_, list_.fichier_liste);
-    enreg_liste before;
-    ListReader{platform_.disk, list}.read(row_.value(), before);
-    if (before.trimmed_chemin() != path_) // The list has changed since the window was filled.
-        throw Failure{failure_number::wrong_record_number, path_};
-    replace_record(platform_.disk, list, row_.value(), row);
+    list_.write_record(row_.value(), row);
     changed_ = true;
-    document_.charge_liste();
-    put_row_back(row);
+    list_.show_record(row_.value(), row);
 }
 
 enreg_liste TrackProperties::edited_row() const {
@@ -253,16 +241,10 @@ enreg_liste TrackProperties::edited_row() const {
     return row;
 }
 
-// As after every change of a row, the default list then holds the whole table.
-void TrackProperties::put_row_back(const enreg_liste& row) {
-    list_window_.rows.replace(row_.value(), row_of(row, platform_.decimal_mark));
-    document_.sauve_tout();
-}
-
 void TrackProperties::close() {
     ErrorIndicator{}.skip([this] { stop(); });
     if (window_.visible && !changed_)
-        list_window_.list_status.caption = " Pas de Modification ";
+        list_.window().list_status.caption = " Pas de Modification ";
     window_.hide();
 }
 

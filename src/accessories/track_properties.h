@@ -8,9 +8,7 @@
 #include "platform/media.h"
 #include "platform/platform.h"
 #include "playlist/enreg_liste.h"
-#include "playlist/list_document.h"
-#include "playlist/list_guard.h"
-#include "playlist/liste_son.h"
+#include "playlist/list_at_work.h"
 #include "playlist/record_reading.h"
 #include "state/list_state.h"
 #include "state/station_settings.h"
@@ -21,8 +19,8 @@ namespace sonarelle {
 /// start and end, and writes the row back. Window thread.
 class TrackProperties {
 public:
-    TrackProperties(const Platform& platform, const StationSettings& settings, ListState& list, Liste_son& list_window,
-                    Propriete& window, RecordReading& reading, ListDocument& document, const ListGuard& guard);
+    TrackProperties(const Platform& platform, const StationSettings& settings, const ListState& state,
+                    Propriete& window, ListAtWork& list, RecordReading& reading);
 
     /// Fills the window from the selected row's record, and shows it. Nothing while the list is empty.
     void a_modif();
@@ -58,7 +56,6 @@ private:
     void save();
     void write_row();
     [[nodiscard]] enreg_liste edited_row() const;
-    void put_row_back(const enreg_liste& row);
     void close();
 
     void restore_colours();
@@ -67,12 +64,10 @@ private:
 
     const Platform& platform_;
     const StationSettings& settings_;
-    ListState& list_;
-    Liste_son& list_window_;
+    const ListState& state_;
     Propriete& window_;
+    ListAtWork& list_;
     RecordReading& reading_;
-    ListDocument& document_;
-    const ListGuard& guard_;
 
     Mark start_;
     Mark end_;

@@ -20,27 +20,22 @@ constexpr std::chrono::milliseconds a_look{5}; // far below the lead by which ti
 
 } // namespace
 
-ListUpdate::ListUpdate(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window,
-                       fsauve& progress, ListDocument& document, ListSaveDialog& save_dialog, ListGuard& guard,
-                       RowReading& reading, ListVerification& verification)
+ListUpdate::ListUpdate(const Platform& platform, ListState& state, ChainState& chain, ListAtWork& list,
+                       ListSaveDialog& save_dialog, ListVerification& verification)
     : platform_{platform},
-      list_{list},
+      state_{state},
       chain_{chain},
-      window_{window},
-      progress_{progress},
-      document_{document},
+      list_{list},
       save_dialog_{save_dialog},
-      guard_{guard},
-      reading_{reading},
       verification_{verification} {}
 
 void ListUpdate::a_mettre_a_jour() {
-    list_.volume_nul_signale = true;
-    if (window_.rows.count() == 0)
+    state_.volume_nul_signale = true;
+    if (list_.rows().count() == 0)
         return;
-    if (!chain_.maj_depuis_ajout.is_true() && !guard_.allows(ListAction::a_mettre_a_jour))
+    if (!chain_.maj_depuis_ajout.is_true() && !list_.allows(ListAction::a_mettre_a_jour))
         return;
-    const ListWork work{guard_, window_};
+    const ListWork work = list_.begin();
     std::optional<std::string> trouble;
     try {
         trouble = update_one_row();
@@ -50,7 +45,7 @@ void ListUpdate::a_mettre_a_jour() {
     if (trouble)
         give_up(*trouble);
     else
-        document_.sauve_tout();
+        list_.save();
 }
 
 // What goes wrong is told, or nothing.
@@ -65,100 +60,97 @@ std::optional<std::string> ListUpdate::update_one_row() {
 }
 
 void ListUpdate::update_dropped_row() {
-    const int row = list_.index_insertion.value();
-    const DestinationRecord record = reading_.read(row);
+    const int row = state_.index_insertion.value();
+    const DestinationRecord record = list_.read(row);
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
-        return window_.rows.replace(row, measured_row(record, *facts));
-    window_.rows.remove(row);
-    if (list_.ligne_en_lecture.value() > row)
-        list_.ligne_en_lecture -= 1;
+        return list_.rows().replace(row, measured_row(record, *facts));
+    list_.remove(row);
 }
 
 std::optional<std::string> ListUpdate::update_selected_row() {
-    const int row = window_.rows.selected();
+    const int row = list_.rows().selected();
     make_current(row);
-    const DestinationRecord record = reading_.read(row);
+    const DestinationRecord record = list_.read(row);
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin);
     if (const auto* failure = std::get_if<Failure>(&measured))
         return failure->what();
-    window_.rows.replace(row, measured_row(record, std::get<TrackFacts>(measured)));
+    list_.rows().replace(row, measured_row(record, std::get<TrackFacts>(measured)));
     return std::nullopt;
 }
 
 void ListUpdate::give_up(const std::string& description) {
-    window_.mouse_pointer = 0;
-    show_box(platform_.dialogs, "Impossible de mettre a jour.  " + description, Icon::warning);
+    list_.window().mouse_pointer = 0;
+    list_.tell("Impossible de mettre a jour.  " + description, Icon::warning);
 }
 
 void ListUpdate::a_mettre_a_jour_liste() {
     const bool after_drop = !chain_.maj_depuis_ajout.is_false();
-    if (!after_drop && !guard_.allows(ListAction::a_mettre_a_jour_liste))
+    if (!after_drop && !list_.allows(ListAction::a_mettre_a_jour_liste))
         return;
-    list_.volume_nul_signale = true;
-    const std::string short_name{name_of_path(list_.nom_fichier)};
+    state_.volume_nul_signale = true;
+    const std::string short_name{name_of_path(state_.nom_fichier)};
     {
-        const ListWork work{guard_, window_};
-        list_.maj_liste_en_cours = true;
+        const ListWork work = list_.begin();
+        state_.maj_liste_en_cours = true;
         const bool begins = may_begin(after_drop);
         if (begins)
             update_all_rows();
-        list_.maj_liste_en_cours = false;
+        state_.maj_liste_en_cours = false;
         if (!begins)
             return;
     }
     offer_saving(short_name);
-    window_.list_status.caption = "Nb de morceaux : " + std::to_string(window_.rows.count()) + " (" +
-                                  std::to_string(window_.rows.selected()) + ")";
+    list_.window().list_status.caption = "Nb de morceaux : " + std::to_string(list_.rows().count()) + " (" +
+                                         std::to_string(list_.rows().selected()) + ")";
 }
 
 bool ListUpdate::may_begin(bool after_drop) {
-    if (window_.rows.count() == 0)
+    if (list_.rows().count() == 0)
         return false;
     removed_ = after_drop ? 0 : verification_.test_all_rows();
-    return list_.maj_liste_en_cours.is_true();
+    return state_.maj_liste_en_cours.is_true();
 }
 
 void ListUpdate::update_all_rows() {
-    progress_.begin(window_.rows.count(), "Traitement en cours ......Patientez !");
+    list_.progress().begin(list_.rows().count(), "Traitement en cours ......Patientez !");
     try {
         const auto lengths = platform_.media.measure_ahead();
         int wanted = 0;
-        for (int row = 1; row <= window_.rows.count() && !progress_.is_cancelled();) {
-            for (; wanted < std::min(row + rows_ahead, window_.rows.count()); ++wanted)
-                lengths->want(window_.rows.text(wanted + 1));
-            progress_.advance(row, "Traitement en cours " + std::to_string(row) + " / " +
-                                       std::to_string(window_.rows.count()));
-            row = reading_.follow(update_row(row, *lengths));
+        for (int row = 1; row <= list_.rows().count() && !list_.progress().is_cancelled();) {
+            for (; wanted < std::min(row + rows_ahead, list_.rows().count()); ++wanted)
+                lengths->want(list_.rows().text(wanted + 1));
+            list_.progress().advance(row, "Traitement en cours " + std::to_string(row) + " / " +
+                                              std::to_string(list_.rows().count()));
+            row = list_.follow(update_row(row, *lengths));
         }
     } catch (const Failure& failure) {
         give_up(failure.what());
     }
-    if (window_.rows.count() > 0) // the operator may have emptied it meanwhile
-        document_.sauve_tout();
-    progress_.end();
+    list_.save_what_is_left();
+    list_.progress().end();
 }
 
 // Gives the row to go on with: the next one, or this one at its new place when the chain, or the operator, has changed
 // the list during the wait for its length.
 int ListUpdate::update_row(int row, LengthsAhead& lengths) {
-    const DestinationRecord record = reading_.read(row);
+    const DestinationRecord record = list_.read(row);
     make_current(row);
-    const RowTable::Row before = window_.rows.row(row);
+    const RowTable::Row before = list_.rows().row(row);
     const auto length = wait_for(lengths, record.dest_chemin);
     if (!length)
         return row;
-    if (row > window_.rows.count() || window_.rows.row(row) != before)
-        return reading_.place_of(before, row);
+    if (row > list_.rows().count() || list_.rows().row(row) != before)
+        return list_.place_of(before, row);
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin, *length);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
-        window_.rows.replace(row, measured_row(record, *facts));
+        list_.rows().replace(row, measured_row(record, *facts));
     return row + 1;
 }
 
 /// Nothing when the operator doesn't want to wait any longer.
 std::optional<MeasuredLength> ListUpdate::wait_for(LengthsAhead& lengths, const std::string& path) {
-    while (!progress_.is_cancelled()) {
+    while (!list_.progress().is_cancelled()) {
         if (auto length = lengths.take(path, a_look))
             return length;
         platform_.clock.yield();
@@ -177,7 +169,7 @@ void ListUpdate::offer_saving(const std::string& short_name) {
 /// Rows behind the station's 16-bit numbers are updated too; no number can name them.
 void ListUpdate::make_current(int row) {
     if (row <= INT16_MAX)
-        list_.index_en_cours = row;
+        state_.index_en_cours = row;
 }
 
 RowTable::Row ListUpdate::measured_row(const DestinationRecord& record, const TrackFacts& facts) const {

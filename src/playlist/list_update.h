@@ -7,13 +7,9 @@
 #include "platform/lengths_ahead.h"
 #include "platform/platform.h"
 #include "playlist/file_measure.h"
-#include "playlist/fsauve.h"
-#include "playlist/list_document.h"
-#include "playlist/list_guard.h"
+#include "playlist/list_at_work.h"
 #include "playlist/list_save_dialog.h"
 #include "playlist/list_verification.h"
-#include "playlist/liste_son.h"
-#include "playlist/row_reading.h"
 #include "state/chain_state.h"
 #include "state/list_state.h"
 
@@ -26,9 +22,8 @@ namespace sonarelle {
 /// the list's order, and the station goes on between them.
 class ListUpdate {
 public:
-    ListUpdate(const Platform& platform, ListState& list, ChainState& chain, Liste_son& window, fsauve& progress,
-               ListDocument& document, ListSaveDialog& save_dialog, ListGuard& guard, RowReading& reading,
-               ListVerification& verification);
+    ListUpdate(const Platform& platform, ListState& state, ChainState& chain, ListAtWork& list,
+               ListSaveDialog& save_dialog, ListVerification& verification);
 
     /// The selected row, or the row that was just dropped.
     void a_mettre_a_jour();
@@ -49,14 +44,10 @@ private:
     [[nodiscard]] RowTable::Row measured_row(const DestinationRecord& record, const TrackFacts& facts) const;
 
     const Platform& platform_;
-    ListState& list_;
+    ListState& state_;
     ChainState& chain_;
-    Liste_son& window_;
-    fsauve& progress_;
-    ListDocument& document_;
+    ListAtWork& list_;
     ListSaveDialog& save_dialog_;
-    ListGuard& guard_;
-    RowReading& reading_;
     FileMeasure measure_{platform_};
     ListVerification& verification_;
     int removed_ = 0; // rows whose files the test before the update didn't find

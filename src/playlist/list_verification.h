@@ -6,11 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "playlist/file_existence.h"
-#include "playlist/fsauve.h"
-#include "playlist/list_document.h"
-#include "playlist/list_guard.h"
-#include "playlist/liste_son.h"
-#include "playlist/row_reading.h"
+#include "playlist/list_at_work.h"
 #include "state/chain_state.h"
 #include "state/list_state.h"
 
@@ -19,8 +15,7 @@ namespace sonarelle {
 /// Looks whether the files of the list are there, and takes those that aren't out of it.
 class ListVerification {
 public:
-    ListVerification(const Platform& platform, ListState& list, const ChainState& chain, Liste_son& window,
-                     fsauve& progress, ListDocument& document, ListGuard& guard, RowReading& reading,
+    ListVerification(const Platform& platform, ListState& state, const ChainState& chain, ListAtWork& list,
                      std::function<void(const std::string&)> note);
 
     /// Tests every row, as its own action.
@@ -39,23 +34,26 @@ private:
     };
 
     void go_over_rows(Tally& tally);
-    [[nodiscard]] FileFinding test(int row);
-    void drop_row(int row, const FileFinding& finding);
+    struct TestedRow {
+        std::string chemin_test;
+        FileFinding file;
+        [[nodiscard]] bool is_there() const {
+            return file.state == FileState::present || file.state == FileState::on_network;
+        }
+    };
+
+    [[nodiscard]] TestedRow test(int row);
+    void drop_row(int row, const TestedRow& tested);
     void save_for_the_air();
     [[nodiscard]] bool is_on_the_air() const { return chain_.lecteur_en_cours != 0; }
     [[nodiscard]] bool wants_to_go_on(const std::string& what);
     void close(const Tally& tally);
     void tell_failure(const Failure& failure);
-    void tell(const std::string& text, Icon icon);
 
     const Platform& platform_;
-    ListState& list_;
+    ListState& state_;
     const ChainState& chain_;
-    Liste_son& window_;
-    fsauve& progress_;
-    ListDocument& document_;
-    ListGuard& guard_;
-    RowReading& reading_;
+    ListAtWork& list_;
     std::function<void(const std::string&)> note_; // a line of the journal
 };
 

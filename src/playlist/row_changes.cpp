@@ -18,13 +18,9 @@ std::string path_of_record(const std::string& path) {
 
 } // namespace
 
-RowChanges::RowChanges(const Platform& platform, Liste_son& window, ListDocument& document, ListGuard& guard,
-                       RowReading& reading)
+RowChanges::RowChanges(const Platform& platform, ListAtWork& list)
     : platform_{platform},
-      window_{window},
-      document_{document},
-      guard_{guard},
-      reading_{reading} {}
+      list_{list} {}
 
 void RowChanges::Modifier_lettre_lecteur() {
     const ListActionRow& action = list_action(ListAction::Modifier_lettre_lecteur);
@@ -59,11 +55,11 @@ void RowChanges::Modifier_volume() {
 }
 
 void RowChanges::a_debutpiste() {
-    change_start(ListAction::a_debutpiste, window_.a_debutpiste);
+    change_start(ListAction::a_debutpiste, list_.window().a_debutpiste);
 }
 
 void RowChanges::a_debutpiste_fichier() {
-    change_start(ListAction::a_debutpiste_fichier, window_.a_debutpiste_fichier);
+    change_start(ListAction::a_debutpiste_fichier, list_.window().a_debutpiste_fichier);
 }
 
 void RowChanges::change_start(ListAction which, MenuItem& entry) {
@@ -87,7 +83,7 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
             };
             if (chosen) {
                 change_row(place_now(*chosen), change);
-                document_.sauve_tout();
+                list_.save();
             } else {
                 change_all_rows(change);
             }
@@ -97,21 +93,21 @@ void RowChanges::change_start(ListAction which, MenuItem& entry) {
 }
 
 RowChanges::ChosenRow RowChanges::chosen_row() const {
-    const int number = window_.rows.selected();
-    return {number, window_.rows.row(number)};
+    const int number = list_.rows().selected();
+    return {number, list_.rows().row(number)};
 }
 
 // While the operator types, the chain selects the rows that it starts, and takes out those that it can't play.
 int RowChanges::place_now(const ChosenRow& chosen) const {
-    const int number = reading_.place_of(chosen.cells, chosen.number);
-    if (number > window_.rows.count() || window_.rows.row(number) != chosen.cells)
+    const int number = list_.place_of(chosen.cells, chosen.number);
+    if (number > list_.rows().count() || list_.rows().row(number) != chosen.cells)
         throw Failure{failure_number::not_in_selection, chosen.cells[list_column::path]};
     return number;
 }
 
 // The box of an empty list would have nothing to change.
 bool RowChanges::confirms(const ListActionRow& action) {
-    if (!guard_.allows(action.action) || window_.rows.count() == 0)
+    if (!list_.allows(action.action) || list_.rows().count() == 0)
         return false;
     if (action.question.empty())
         return true;
@@ -123,35 +119,34 @@ bool RowChanges::confirms(const ListActionRow& action) {
 std::string RowChanges::ask(const ListActionRow& action, const std::string& first_value) {
     std::string prompt{action.input_prompt};
     if (action.tells_first_row)
-        prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(window_.rows.count()) + ")";
+        prompt += "\nEn cours :" + first_value + " Enreg. (" + std::to_string(list_.rows().count()) + ")";
     return platform_.dialogs.InputBox({prompt, std::string{action.input_title}, std::string{action.input_preset}})
         .value_or("");
 }
 
 RowTable::Row RowChanges::first_row() {
-    return row_of(reading_.read(1), platform_.decimal_mark);
+    return row_of(list_.read(1), platform_.decimal_mark);
 }
 
 void RowChanges::change_all_rows(const Change& change) {
-    const ListWork work{guard_, window_};
-    for (int row = 1; row <= window_.rows.count(); row = reading_.follow(row + 1))
+    const ListWork work = list_.begin();
+    for (int row = 1; row <= list_.rows().count(); row = list_.follow(row + 1))
         change_row(row, change);
-    if (window_.rows.count() > 0) // the operator may have emptied it meanwhile
-        document_.sauve_tout();
+    list_.save_what_is_left();
 }
 
 void RowChanges::change_row(int row, const Change& change) {
-    const DestinationRecord record = reading_.read(row);
+    const DestinationRecord record = list_.read(row);
     RowTable::Row changed = row_of(record, platform_.decimal_mark);
     change(changed, record);
-    window_.rows.replace(row, std::move(changed));
+    list_.rows().replace(row, std::move(changed));
 }
 
 void RowChanges::under_trap(const std::function<void()>& statements, const char* last_words) {
     try {
         statements();
     } catch (const Failure& failure) {
-        show_box(platform_.dialogs, failure.what() + std::string{last_words}, Icon::stop);
+        list_.tell(failure.what() + std::string{last_words}, Icon::stop);
     }
 }
 

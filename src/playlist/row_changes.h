@@ -5,18 +5,14 @@
 #include <string>
 
 #include "platform/platform.h"
-#include "playlist/list_document.h"
-#include "playlist/list_guard.h"
-#include "playlist/liste_son.h"
-#include "playlist/row_reading.h"
+#include "playlist/list_at_work.h"
 
 namespace sonarelle {
 
 /// Changes one value of all rows, or of the selected one, to what the operator enters.
 class RowChanges {
 public:
-    RowChanges(const Platform& platform, Liste_son& window, ListDocument& document, ListGuard& guard,
-               RowReading& reading);
+    RowChanges(const Platform& platform, ListAtWork& list);
 
     /// The drive of every path becomes the answer, whatever its length; the volumes go back to 100.
     void Modifier_lettre_lecteur();
@@ -44,10 +40,7 @@ private:
     void under_trap(const std::function<void()>& statements, const char* last_words);
 
     const Platform& platform_;
-    Liste_son& window_;
-    ListDocument& document_;
-    ListGuard& guard_;
-    RowReading& reading_;
+    ListAtWork& list_;
 };
 
 } // namespace sonarelle

@@ -23,8 +23,6 @@ struct ListState {
     Flag glisser_autorise = true; ///< Rows and files may be dragged onto the list and the open buttons.
 
     Flag maj_liste_en_cours;          ///< The whole list is being measured anew.
-    std::string dossier_test;         ///< Folder of the row under test, with a backslash at its end.
-    std::string chemin_test;          ///< Path of the row under test.
     bool sans_test_existence = false; ///< An old list that is opened isn't tested.
     Flag edition_chemin;              ///< The path of a row may be edited in place.
 

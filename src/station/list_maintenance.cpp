@@ -7,21 +7,12 @@ namespace sonarelle {
 
 ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
                                  ListSaveDialog& save_dialog, Journal& journal)
-    : guard{desk.platform, desk.list, desk.list_window},
-      row_reading{desk.platform, desk.list_window, record_reading},
-      verification{desk.platform,
-                   desk.list,
-                   desk.chain,
-                   desk.list_window,
-                   progress,
-                   document,
-                   guard,
-                   row_reading,
+    : list{desk.platform, desk.list, desk.list_window, progress, record_reading, document},
+      verification{desk.platform, desk.list, desk.chain, list,
                    [&journal](const std::string& line) { journal.note(line); }},
-      changes{desk.platform, desk.list_window, document, guard, row_reading},
-      update{desk.platform, desk.list,   desk.chain, desk.list_window, progress,
-             document,      save_dialog, guard,      row_reading,      verification},
-      editor{desk.platform, desk.settings, desk.list_window, guard, row_reading},
+      changes{desk.platform, list},
+      update{desk.platform, desk.list, desk.chain, list, save_dialog, verification},
+      editor{desk.platform, desk.settings, list},
       path_editing{desk.list, desk.list_window, document} {
     connect(desk.list_window);
 }

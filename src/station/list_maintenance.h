@@ -2,13 +2,11 @@
 
 #include "platform/platform.h"
 #include "playlist/audio_editor.h"
-#include "playlist/fsauve.h"
-#include "playlist/list_guard.h"
+#include "playlist/list_at_work.h"
 #include "playlist/list_update.h"
 #include "playlist/list_verification.h"
 #include "playlist/path_editing.h"
 #include "playlist/row_changes.h"
-#include "playlist/row_reading.h"
 #include "state/station_settings.h"
 
 namespace sonarelle {
@@ -22,8 +20,7 @@ public:
     ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
                     ListSaveDialog& save_dialog, Journal& journal);
 
-    ListGuard guard;
-    RowReading row_reading;
+    ListAtWork list;
     ListVerification verification;
     RowChanges changes;
     ListUpdate update;

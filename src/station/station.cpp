@@ -52,8 +52,7 @@ Station::Station(const Platform& platform)
                   {[this](int deck) { return deck_loading.may_be_cut(desk.deck(deck)); },
                    [this](int deck, const DestinationRecord& row) { load_row_on_deck(deck, row); }}},
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, journal},
-      track_properties{platform_,         settings,       list,          list_window,
-                       properties_window, record_reading, list_document, list_maintenance.guard} {
+      track_properties{platform_, settings, list, properties_window, list_maintenance.list, record_reading} {
     run_control.end_walks = [this] { auto_chain.cancel_walks(); };
     connect_list_window();
     connect_reading_modes();

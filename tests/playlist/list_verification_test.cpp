@@ -122,7 +122,6 @@ TEST_F(ListVerificationTest, TakesOutTheRowOfAMissingFolderWithoutLookingForTheF
     expect_success();
     list().prechar.click();
     EXPECT_THAT(paths(), ElementsAre("C:\\b.mp3"));
-    EXPECT_EQ(station.list.dossier_test, "C:\\");
     EXPECT_THAT(journal(), HasSubstr("Dossier manquant : C:\\Nulle part\\ - 05/01/2026 06:00:00"));
     EXPECT_THAT(journal(), Not(HasSubstr("fichier manquant")));
 }

@@ -1,4 +1,4 @@
-#include "playlist/row_reading.h"
+#include "playlist/list_at_work.h"
 
 #include "support/maintenance_bench.h"
 
@@ -18,7 +18,7 @@ protected:
             rows().remove(1);
         for (const std::string& path : now)
             rows().append(row_of(record_of("C:\\" + path), DecimalMark::point));
-        return station.list_maintenance.row_reading.place_of(wanted, place);
+        return station.list_maintenance.list.place_of(wanted, place);
     }
 };
 

@@ -90,26 +90,26 @@ void ListUpdate::a_mettre_a_jour_liste() {
         return;
     state_.volume_nul_signale = true;
     const std::string short_name{name_of_path(state_.nom_fichier)};
+    ListVerification::Outcome tested;
     {
         const ListWork work = list_.begin();
         state_.maj_liste_en_cours = true;
-        const bool begins = may_begin(after_drop);
-        if (begins)
+        tested = test_before(after_drop);
+        if (tested.goes_on)
             update_all_rows();
         state_.maj_liste_en_cours = false;
-        if (!begins)
-            return;
     }
-    offer_saving(short_name);
+    if (!tested.goes_on)
+        return;
+    offer_saving(short_name, tested.removed);
     list_.window().list_status.caption = "Nb de morceaux : " + std::to_string(list_.rows().count()) + " (" +
                                          std::to_string(list_.rows().selected()) + ")";
 }
 
-bool ListUpdate::may_begin(bool after_drop) {
-    if (list_.rows().count() == 0)
-        return false;
-    removed_ = after_drop ? 0 : verification_.test_all_rows();
-    return state_.maj_liste_en_cours.is_true();
+ListVerification::Outcome ListUpdate::test_before(bool after_drop) {
+    if (list_.rows().count() == 0 || after_drop)
+        return {.goes_on = list_.rows().count() > 0};
+    return verification_.test_all_rows(true);
 }
 
 void ListUpdate::update_all_rows() {
@@ -158,10 +158,9 @@ std::optional<MeasuredLength> ListUpdate::wait_for(LengthsAhead& lengths, const 
     return std::nullopt;
 }
 
-void ListUpdate::offer_saving(const std::string& short_name) {
-    const std::string removed =
-        removed_ == 0 ? "" : "Eléments supprimés de la liste : " + std::to_string(removed_) + "\n\n";
-    if (platform_.dialogs.MsgBox({removed + "Sauvegarder la liste ?", short_name, Buttons::yes_no, Icon::question}) ==
+void ListUpdate::offer_saving(const std::string& short_name, int removed) {
+    const std::string went = removed == 0 ? "" : "Eléments supprimés de la liste : " + std::to_string(removed) + "\n\n";
+    if (platform_.dialogs.MsgBox({went + "Sauvegarder la liste ?", short_name, Buttons::yes_no, Icon::question}) ==
         Answer::yes)
         save_dialog_.A_enreg_sous();
 }

@@ -35,11 +35,11 @@ private:
     [[nodiscard]] std::optional<std::string> update_selected_row();
     void give_up(const std::string& description);
 
-    [[nodiscard]] bool may_begin(bool after_drop);
+    [[nodiscard]] ListVerification::Outcome test_before(bool after_drop);
     void update_all_rows();
     [[nodiscard]] int update_row(int row, LengthsAhead& lengths);
     [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);
-    void offer_saving(const std::string& short_name);
+    void offer_saving(const std::string& short_name, int removed);
     void make_current(int row);
     [[nodiscard]] RowTable::Row measured_row(const DestinationRecord& record, const TrackFacts& facts) const;
 
@@ -50,7 +50,6 @@ private:
     ListSaveDialog& save_dialog_;
     FileMeasure measure_{platform_};
     ListVerification& verification_;
-    int removed_ = 0; // rows whose files the test before the update didn't find
 };
 
 } // namespace sonarelle

@@ -26,27 +26,27 @@ void ListVerification::prechar() {
     if (!list_.allows(ListAction::prechar))
         return;
     const ListWork work = list_.begin();
-    static_cast<void>(test_all_rows());
+    test_all_rows(false);
 }
 
-int ListVerification::test_all_rows() {
+ListVerification::Outcome ListVerification::test_all_rows(bool for_update) {
     Tally tally;
+    bool goes_on = false;
     if (list_.rows().count() == 0)
-        return tally.removed;
+        return {};
     list_.progress().begin(list_.rows().count(), list_.progress().step.caption);
     try {
-        go_over_rows(tally);
-        close(tally);
+        go_over_rows(tally, for_update);
+        goes_on = close(tally, for_update);
     } catch (const Failure& failure) {
         list_.progress().end();
-        state_.maj_liste_en_cours = false;
         tell_failure(failure);
     }
-    return tally.removed;
+    return {tally.removed, goes_on};
 }
 
 // A row that goes lets the next one take its number. A row that the disk gives no answer about stays.
-void ListVerification::go_over_rows(Tally& tally) {
+void ListVerification::go_over_rows(Tally& tally, bool for_update) {
     const auto save_what_went = [&] {
         if (tally.removed > 0)
             list_.save();
@@ -66,7 +66,7 @@ void ListVerification::go_over_rows(Tally& tally) {
             ++tally.removed;
             row = list_.follow(row, [&] {
                 save_for_the_air();
-                tally.stopped = !state_.maj_liste_en_cours.is_true() && !wants_to_go_on(path);
+                tally.stopped = !for_update && !wants_to_go_on(path);
             });
         }
     } catch (const Failure&) {
@@ -103,28 +103,23 @@ bool ListVerification::wants_to_go_on(const std::string& what) {
 }
 
 // The update goes on by itself, so it gets no box but the one that ends it. Who has stopped the test knows it.
-void ListVerification::close(const Tally& tally) {
-    const bool cancelled = list_.progress().is_cancelled();
-    const bool for_update = state_.maj_liste_en_cours.is_true();
-    if (for_update && cancelled)
-        state_.maj_liste_en_cours = false;
-    if (cancelled)
-        return;
-    if (tally.stopped && tally.found > 0)
-        return list_.progress().end();
+bool ListVerification::close(const Tally& tally, bool for_update) {
+    if (list_.progress().is_cancelled())
+        return false;
     if (for_update && tally.found > 0) {
         list_.progress().step.caption = "Validation des fichiers terminé avec succés ";
-        return;
+        return true;
     }
     list_.progress().end();
-    if (for_update) {
+    if (tally.stopped && tally.found > 0)
+        return false;
+    if (for_update)
         list_.tell("Aucun fichier de trouvé !", Icon::warning);
-        state_.maj_liste_en_cours = false;
-    } else if (tally.found > 0) {
+    else if (tally.found > 0)
         list_.tell("Validation des fichiers terminé avec succés ", Icon::information);
-    } else {
+    else
         list_.tell("Mise a jour annulé/ aucun fichier de trouvé", Icon::information);
-    }
+    return false;
 }
 
 void ListVerification::prechar_fich() {

@@ -22,9 +22,13 @@ public:
     void prechar();
     /// Tests the selected row.
     void prechar_fich();
-    /// Tests every row. For the update of the list it asks nothing, and stops it, by `maj_liste_en_cours`, when no file
-    /// was found. Gives the number of rows that went.
-    int test_all_rows();
+    /// What a test of every row comes to.
+    struct Outcome {
+        int removed = 0;      ///< Rows that went.
+        bool goes_on = false; ///< An update of the list may begin: files were found, and the operator didn't cancel.
+    };
+    /// Tests every row. For the update of the list it asks nothing.
+    Outcome test_all_rows(bool for_update);
 
 private:
     struct Tally {
@@ -33,7 +37,7 @@ private:
         bool stopped = false; ///< By the operator's No.
     };
 
-    void go_over_rows(Tally& tally);
+    void go_over_rows(Tally& tally, bool for_update);
     struct TestedRow {
         std::string chemin_test;
         FileFinding file;
@@ -47,7 +51,8 @@ private:
     void save_for_the_air();
     [[nodiscard]] bool is_on_the_air() const { return chain_.lecteur_en_cours != 0; }
     [[nodiscard]] bool wants_to_go_on(const std::string& what);
-    void close(const Tally& tally);
+    /// Whether an update goes on.
+    [[nodiscard]] bool close(const Tally& tally, bool for_update);
     void tell_failure(const Failure& failure);
 
     const Platform& platform_;

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "desktop/desktop_bench.h"
+#include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_file_dialog.h"
 #include "platform/failure.h"
 
@@ -35,6 +36,12 @@ protected:
 };
 
 } // namespace
+
+TEST(FileFilters, HaveTheirPatternsSideBySide) {
+    EXPECT_EQ(name_filters("fichier multimédia |*.mp3;*.wav|fichier (*.dfm)|*.dfm|"),
+              (QStringList{"fichier multimédia (*.mp3 *.wav)", "fichier (*.dfm)"}));
+    EXPECT_EQ(name_filters(""), QStringList{});
+}
 
 TEST_F(FileDialogBegins, InTheFolderThatItIsTold) {
     EXPECT_EQ(at("C:\\Listes", "*.dfm"), lists.path());

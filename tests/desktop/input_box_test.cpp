@@ -25,4 +25,27 @@ TEST_F(InputBoxOnScreen, IsWideEnoughForAPath) {
     EXPECT_GE(width, 500);
 }
 
+TEST_F(InputBoxOnScreen, BeginsWithItsPresetAndGivesWhatWasTyped) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QString preset;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        preset = box->textValue();
+        box->setTextValue("Radio été");
+        box->accept();
+    });
+    EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), "Radio été");
+    EXPECT_EQ(preset, "Antenne_FM");
+}
+
+TEST_F(InputBoxOnScreen, GivesNothingByCancel) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QTimer::singleShot(0, [] {
+        if (auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget()))
+            box->reject();
+    });
+    EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), std::nullopt);
+}
+
 } // namespace sonarelle

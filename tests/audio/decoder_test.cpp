@@ -92,17 +92,47 @@ TEST(Decoder, PlaysMonoOnBothSides) {
         ASSERT_EQ(whole[2 * frame], whole[2 * frame + 1]);
 }
 
+std::array<float, 2> peaks_of_sides(const std::string& path) {
+    std::array<float, 2> peaks{};
+    const auto whole = decoded(path);
+    for (std::size_t sample = 0; sample < whole.size(); ++sample)
+        peaks[sample % 2] = std::max(peaks[sample % 2], std::abs(whole[sample]));
+    return peaks;
+}
+
 TEST(Decoder, PlaysEachChannelOnItsOwnSide) {
     const SoundFolder folder;
     const std::string left_alone = "-af \"pan=stereo|c0=c0|c1=0*c1\" ";
     for (const char* name : {"a.mp3", "a.mp2", "a.ogg", "a.m4a", "a.flac", "a.wma", "a.wav", "a.aiff"}) {
-        const auto whole = decoded(folder.encoded(name, 1, left_alone));
-        std::array<float, 2> peaks{};
-        for (std::size_t sample = 0; sample < whole.size(); ++sample)
-            peaks[sample % 2] = std::max(peaks[sample % 2], std::abs(whole[sample]));
-        EXPECT_GT(peaks[0], 0.3F) << name;
-        EXPECT_LT(peaks[1], 0.05F) << name;
+        const auto [left, right] = peaks_of_sides(folder.encoded(name, 1, left_alone));
+        EXPECT_GT(left, 0.3F) << name;
+        EXPECT_LT(right, 0.05F) << name;
     }
+}
+
+TEST(Decoder, WavOfAnyDepthIsAsLoud) {
+    const SoundFolder folder;
+    const auto lossless = decoded(folder.encoded("a.flac", 1, ""));
+    for (const char* codec : {"pcm_u8", "pcm_s16le", "pcm_s24le", "pcm_s32le", "pcm_f32le", "pcm_f64le"}) {
+        const auto wav = decoded(folder.encoded("a.wav", 1, std::string{"-c:a "} + codec));
+        ASSERT_EQ(wav.size(), lossless.size()) << codec;
+        for (std::size_t sample = 0; sample < wav.size(); ++sample)
+            ASSERT_NEAR(wav[sample], lossless[sample], 0.01F) << codec << " at " << sample;
+    }
+}
+
+TEST(Decoder, PlaysTheMiddleOfSurroundSoundOnBothSides) {
+    const SoundFolder folder;
+    const auto [left, right] = peaks_of_sides(folder.encoded("a.flac", 1, "-af \"pan=5.1|c2=c0\""));
+    EXPECT_GT(left, 0.1F);
+    EXPECT_FLOAT_EQ(left, right);
+}
+
+TEST(Decoder, PlaysTheLeftOfSurroundSoundOnTheLeft) {
+    const SoundFolder folder;
+    const auto [left, right] = peaks_of_sides(folder.encoded("a.flac", 1, "-af \"pan=5.1|c0=c0\""));
+    EXPECT_GT(left, 0.1F);
+    EXPECT_LT(right, 0.001F);
 }
 
 TEST(Decoder, DamageThatOnlyTheWarmingUpMeetsIsNoBreak) {

@@ -72,6 +72,15 @@ TEST_F(TrackPropertiesTest, OfferStopAndEndOnceTheyHaveAMeaning) {
     EXPECT_TRUE(window.mark_end.visible);
 }
 
+TEST_F(TrackPropertiesTest, OfferNeitherStopNorEndOnAnotherRow) {
+    open_and_play();
+    window.mark_start.click();
+    open(1);
+    EXPECT_FALSE(window.stop.visible);
+    EXPECT_FALSE(window.mark_end.visible);
+    EXPECT_EQ(window.bar.caption.get(), "");
+}
+
 TEST_F(TrackPropertiesTest, PlayFromTheBeginningAndFollow) {
     open_and_play();
     EXPECT_THAT(machine.media.on_air(), ElementsAre(std::string{music}));

@@ -279,6 +279,23 @@ TEST_F(RichTextBindings, TextGoesBothWays) {
     EXPECT_EQ(text.text.get(), "!Bonjour");
 }
 
+TEST_F(RichTextBindings, SelectionGoesBothWays) {
+    RichText text{window, "r"};
+    QTextEdit widget;
+    const RichTextBinding binding{text, widget, services};
+    text.text = "Bonjour";
+    text.selection_start = 3;
+    text.selection_length = 4;
+    settle();
+    EXPECT_EQ(widget.textCursor().selectedText(), "jour");
+    QTextCursor cursor = widget.textCursor();
+    cursor.setPosition(0);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    widget.setTextCursor(cursor);
+    EXPECT_EQ(text.selection_start.get(), 0);
+    EXPECT_EQ(text.selection_length.get(), 3);
+}
+
 TEST(StudioColours, DesktopsTextReadsOnTheFaceOfToldButtons) {
     for (const Colour told : {0x8F8F8F, 49152, 192, 12583104, 12615680, 16033024, 65280})
         EXPECT_GE(contrast(studio::text, ground_for(desktop_text, told, studio::face)), readable) << told;

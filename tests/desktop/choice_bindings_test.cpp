@@ -116,6 +116,18 @@ TEST_F(ComboBoxBindings, SpaceGoesToTheControlAndIsNotTyped) {
     EXPECT_EQ(box.text(), "Jingles");
 }
 
+TEST_F(ComboBoxBindings, TypedTextIsTheControls) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    settle();
+    QTest::keyClicks(widget.lineEdit(), "Jazz");
+    EXPECT_EQ(box.text(), "Jazz");
+    box.set_text("Rock");
+    settle();
+    EXPECT_EQ(widget.currentText(), "Rock");
+}
+
 TEST_F(ComboBoxBindings, SpaceIsTypedWhereTheControlDoesNotAnswerIt) {
     ComboBox box{window, "c", "Hip"};
     QComboBox widget;

@@ -17,7 +17,7 @@ QuickLoad::Box QuickLoad::jingles() {
     return {desk_.window.jingles, desk_.settings.load_combo2, "Load_combo2", desk_.window.char_F, true};
 }
 
-void QuickLoad::Charge_combo() {
+void QuickLoad::Charge_combo(int mode_combo) {
     const bool remembered = mode_combo == 3 || mode_combo == 4;
     const Box box = mode_combo == 1 || mode_combo == 3 ? favourites() : jingles();
     ErrorIndicator errors;

@@ -19,11 +19,10 @@ public:
           loading_{loading},
           run_{run} {}
 
-    /// What `Charge_combo` does next: 1 and 2 choose a list for the box of favourites and the box of jingles, 3 and 4
-    /// refill them from the lists that they remember.
-    Integer mode_combo;
-    /// Fills a box. A list that can't be read leaves its box as far as it was filled, and the remembered name.
-    void Charge_combo();
+    /// Fills a box: 1 and 2 choose a list for the box of favourites and the box of jingles, 3 and 4 refill them from
+    /// the lists that they remember. A list that can't be read leaves its box as far as it was filled, and the
+    /// remembered name.
+    void Charge_combo(int mode_combo);
     /// Writes what the boxes are for into their texts.
     void active_text_combo();
 

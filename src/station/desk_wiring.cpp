@@ -93,12 +93,7 @@ void DeskWiring::connect_option_menu() {
 
 void DeskWiring::connect_quick_load() {
     Antenne_FM& window = station_.main_window;
-    const auto choose_list = [this](int mode) {
-        return [this, mode] {
-            quick_load.mode_combo = mode;
-            quick_load.Charge_combo();
-        };
-    };
+    const auto choose_list = [this](int mode) { return [this, mode] { quick_load.Charge_combo(mode); }; };
     window.choose_favourites.on_click = choose_list(1);
     window.choose_jingles.on_click = choose_list(2);
     window.favourites.on_click = [this] { quick_load.choose_favourite(); };

@@ -134,10 +134,8 @@ void Startup::create_under_trap() {
     parts_.options.show_station_name();
     window_.top = Twips{settings_.position_haut.value()};
     window_.left = Twips{settings_.position_gauche.value()};
-    parts_.quick_load.mode_combo = 3;
-    parts_.quick_load.Charge_combo();
-    parts_.quick_load.mode_combo = 4;
-    parts_.quick_load.Charge_combo();
+    parts_.quick_load.Charge_combo(3);
+    parts_.quick_load.Charge_combo(4);
     parts_.quick_load.active_text_combo();
     parts_.commands.show_effect(window_.A_visuel_active.checked);
     parts_.mix.show_hints();

@@ -41,10 +41,7 @@ protected:
         machine.dialogs.expect_open(path);
         window.choose_favourites.click();
     }
-    void refill(int mode) {
-        station.desk_wiring.quick_load.mode_combo = mode;
-        station.desk_wiring.quick_load.Charge_combo();
-    }
+    void refill(int mode) { station.desk_wiring.quick_load.Charge_combo(mode); }
     [[nodiscard]] std::string stored(std::string_view key) {
         return machine.settings.GetSetting(settings_application, "Config", key, "(absent)");
     }

@@ -70,6 +70,13 @@ TEST_F(DeckLoadingTest, OpenButtonRemembersTheFolder) {
               "C:\\Musique\\");
 }
 
+TEST_F(DeckLoadingTest, OpenButtonAsksNextTimeInTheFolderOfTheFileBefore) {
+    machine.add_track("C:\\Autre\\Chanson.mp3", 83);
+    open_on(1, "C:\\Autre\\Chanson.mp3");
+    open_on(2, "C:\\Autre\\Chanson.mp3");
+    EXPECT_EQ(machine.dialogs.last().folder, "C:\\Autre\\");
+}
+
 TEST_F(DeckLoadingTest, OpenButtonGoesBackToManualMixing) {
     machine.add_track(song, 83);
     station.main_window.load_ahead.set_value(1);

@@ -297,6 +297,24 @@ TEST_F(DisplayMenuTest, TheSmallPlayerTakesThePlaceOfAReducedMainWindow) {
     EXPECT_FALSE(window.visible);
 }
 
+TEST_F(DisplayMenuTest, BringsAReducedWindowBackAtItsSize) {
+    station.small_player.state = WindowState::minimised;
+    window.a_mini.click();
+    EXPECT_EQ(station.small_player.state, WindowState::normal);
+    station.list_window.state = WindowState::minimised;
+    window.ouvrir_liste.click();
+    EXPECT_EQ(station.list_window.state, WindowState::normal);
+}
+
+TEST_F(DisplayMenuTest, OffersToAlignAListThatIsOnView) {
+    for (MenuItem* view : {&window.Affiche_Fenetre_L, &window.affiche_tout}) {
+        window.Affiche_Fenetre_P.click();
+        ASSERT_FALSE(window.Aligner_liste.enabled);
+        view->click();
+        EXPECT_TRUE(window.Aligner_liste.enabled) << view->name();
+    }
+}
+
 TEST_F(DisplayMenuTest, KeysOfTheFilesPressTheirEntry) {
     int presses = 0;
     window.A_gere.on_click = [&] { ++presses; };

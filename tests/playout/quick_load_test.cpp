@@ -89,6 +89,13 @@ TEST_F(QuickLoadTest, TheDialogBeginsInTheProgramsFolder) {
     EXPECT_EQ(question.filter, "fichier (*.dfm)|*.dfm");
 }
 
+TEST_F(QuickLoadTest, ALoadedTrackIsNamedOnTheSmallPlayer) {
+    put_favourite("C:\\Musique\\Matin.mp3");
+    window.favourites.choose(0);
+    window.favourite_loads()[1]->click();
+    EXPECT_EQ(station.small_player.caption.get(), "Matin");
+}
+
 TEST_F(QuickLoadTest, ACancelledDialogLeavesTheBoxAsItIs) {
     put_list(favourites, 2);
     choose_favourites(favourites);

@@ -92,6 +92,13 @@ TEST_F(AirOnDesk, DecksNameWhatIsHeardOnThem) {
     EXPECT_EQ(title_of(2), "deux");
 }
 
+TEST_F(AirOnDesk, NoRowIsTheNextRightBehindAStart) {
+    play_list();
+    run_for(97);
+    ASSERT_EQ(desk_says("air_title"), "deux");
+    EXPECT_EQ(amber_row(), 0);
+}
+
 TEST_F(AirOnDesk, NoRowIsTheNextOnceTheListIsFollowedNoMore) {
     play_list();
     run_for(93);

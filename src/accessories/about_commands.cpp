@@ -1,5 +1,6 @@
 #include "accessories/about_commands.h"
 
+#include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/shell.h"
 
@@ -19,29 +20,29 @@ void AboutCommands::connect() {
     update_.site.on_click = [this] { WebJump(maker::site); };
     update_.download.on_click = [this] { WebJump(maker::download_page); };
     update_.mail.on_click = [this] { WebJump("mailto:" + std::string{maker::mail}); };
-    desk_.warning.info.on_click = [this] { show_listening_count(); };
+    warning_.info.on_click = [this] { show_listening_count(); };
 }
 
 void AboutCommands::show_update_info() {
-    update_.folder.caption = "Rechercher le dossier d'installation : " + desk_.settings.chemin_programme;
+    update_.folder.caption = "Rechercher le dossier d'installation : " + settings_.chemin_programme;
     update_.show();
 }
 
 void AboutCommands::StartSysInfo() {
-    const bool started = ErrorIndicator{}.skip([this] { desk_.platform.shell.start_program(information_program, {}); });
+    const bool started = ErrorIndicator{}.skip([this] { platform_.shell.start_program(information_program, {}); });
     if (!started)
-        desk_.inform("Les informations système ne sont pas disponibles actuellement");
+        show_box(platform_.dialogs, "Les informations système ne sont pas disponibles actuellement", Icon::information);
 }
 
 void AboutCommands::WebJump(std::string_view address) {
-    ErrorIndicator{}.skip([&] { desk_.platform.shell.open_document(address); });
+    ErrorIndicator{}.skip([&] { platform_.shell.open_document(address); });
 }
 
 void AboutCommands::show_listening_count() {
-    desk_.warning.caption = std::string{application_title};
-    desk_.warning.lines.caption = "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : " +
-                                  text_of(desk_.chain.nb_fichiers_ecoutes);
-    desk_.warning.show();
+    warning_.caption = std::string{application_title};
+    warning_.lines.caption = "Info \rNombre de fichiers ayant été lus\r\n\r\n Pour cette séssion\r\n\r\nNb : " +
+                             text_of(chain_.nb_fichiers_ecoutes);
+    warning_.show();
 }
 
 } // namespace sonarelle

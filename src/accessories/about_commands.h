@@ -4,7 +4,9 @@
 #include <string_view>
 
 #include "accessories/about_windows.h"
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "state/chain_state.h"
+#include "state/station_settings.h"
 #include "windows/err_form.h"
 
 namespace sonarelle {
@@ -12,8 +14,12 @@ namespace sonarelle {
 /// The buttons of the about windows and the information button of the warning window.
 class AboutCommands {
 public:
-    AboutCommands(Desk& desk, frmAbout& about, vbplus& update)
-        : desk_{desk},
+    AboutCommands(const Platform& platform, const StationSettings& settings, const ChainState& chain, err_form& warning,
+                  frmAbout& about, vbplus& update)
+        : platform_{platform},
+          settings_{settings},
+          chain_{chain},
+          warning_{warning},
           about_{about},
           update_{update} {}
 
@@ -30,7 +36,10 @@ public:
     void show_listening_count();
 
 private:
-    Desk& desk_;
+    const Platform& platform_;
+    const StationSettings& settings_;
+    const ChainState& chain_;
+    err_form& warning_;
     frmAbout& about_;
     vbplus& update_;
 };

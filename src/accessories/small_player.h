@@ -2,7 +2,10 @@
 
 #include <functional>
 
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "playout/deck_ring.h"
+#include "windows/antenne_fm.h"
+#include "windows/mini_lecteur.h"
 
 namespace sonarelle {
 
@@ -22,7 +25,8 @@ struct DeckCommands {
 class SmallPlayer {
 public:
     /// `quit` ends the program without asking again.
-    SmallPlayer(Desk& desk, DeckCommands commands, std::function<void()> quit);
+    SmallPlayer(const Platform& platform, DeckRing& ring, Antenne_FM& main_window, mini_lecteur& window,
+                DeckCommands commands, std::function<void()> quit);
 
     void connect();
 
@@ -42,7 +46,10 @@ private:
     void press_key(char32_t key);
     void leave_the_top();
 
-    Desk& desk_;
+    const Platform& platform_;
+    DeckRing& ring_;
+    Antenne_FM& main_window_;
+    mini_lecteur& window_;
     DeckCommands commands_;
     std::function<void()> quit_;
 };

@@ -2,6 +2,9 @@
 
 #include <vector>
 
+#include "platform/dialogs.h"
+#include "platform/failure.h"
+
 namespace sonarelle {
 
 namespace {
@@ -50,6 +53,15 @@ void SettingsStore::assign_column(StationSettings& variables, Value column, std:
         const auto value = row.variable_value ? row.variable_value : row.*column;
         if (belongs(row, section) && value)
             assign(variables, row, expand_setting(*value, program_folder_));
+    }
+}
+
+void remember(const Platform& platform, std::string_view key, std::string_view value) {
+    const SettingsStore store{platform.settings, platform.program_folder, platform.decimal_mark};
+    try {
+        store.write(setting_section::config, key, value);
+    } catch (const Failure& failure) {
+        show_box(platform.dialogs, failure.what(), Icon::stop);
     }
 }
 

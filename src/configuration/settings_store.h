@@ -43,4 +43,8 @@ private:
     DecimalMark mark_;
 };
 
+/// Keeps a setting of section "Config" that the operator has changed. A store that refuses it says so: the running
+/// station has the value all the same, the next start won't.
+void remember(const Platform& platform, std::string_view key, std::string_view value);
+
 } // namespace sonarelle

@@ -134,7 +134,7 @@ void Desktop::show_missing() {
 }
 
 void Desktop::show_decks() {
-    for (Deck& deck : desk_.decks) {
+    for (Deck& deck : desk_.ring.decks) {
         DeckLook look{.role = role_of(desk_, deck),
                       .heard = to_qt(name_heard(desk_, deck)),
                       .elapsed = std::nullopt,
@@ -189,7 +189,7 @@ QString Desktop::notice() const {
 }
 
 void Desktop::show_list() {
-    const bool on = desk_.has_main_deck() && desk_.chain.mode_enchainement.is_true();
+    const bool on = desk_.ring.has_main_deck() && desk_.chain.mode_enchainement.is_true();
     const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
     // In list order the chain adds 1 to its row when it starts it.
     const int step = desk_.chain.ordre_aleatoire.is_true() ? 0 : 1;

@@ -66,7 +66,7 @@ DeckRole role_of(const Desk& desk, const Deck& deck) {
 }
 
 DeckRole main_role(Desk& desk) {
-    return desk.has_main_deck() ? role_of(desk, desk.main_deck()) : DeckRole::empty;
+    return desk.ring.has_main_deck() ? role_of(desk, desk.ring.main_deck()) : DeckRole::empty;
 }
 
 bool waits_for_special_mix(const Desk& desk) {
@@ -77,9 +77,9 @@ bool waits_for_special_mix(const Desk& desk) {
 
 const Deck* deck_on_air(Desk& desk) {
     if (is_on(main_role(desk)))
-        return &desk.main_deck();
-    const auto* heard = std::ranges::find_if(desk.decks, [](const Deck& deck) { return deck.sounds(); });
-    return heard == desk.decks.end() ? nullptr : heard;
+        return &desk.ring.main_deck();
+    const auto* heard = std::ranges::find_if(desk.ring.decks, [](const Deck& deck) { return deck.sounds(); });
+    return heard == desk.ring.decks.end() ? nullptr : heard;
 }
 
 DeckRole air_role(Desk& desk) {
@@ -125,7 +125,7 @@ bool is_stopped_by_a_fault(const Desk& desk) {
 std::string path_to_come(Desk& desk, const IsMissing& is_missing) {
     if (!is_on(main_role(desk)) || desk.is_manual() || is_stopped_by_a_fault(desk))
         return {};
-    const Deck& next = desk.deck(next_deck(desk.chain.lecteur_en_cours.value()));
+    const Deck& next = desk.ring.deck(next_deck(desk.chain.lecteur_en_cours.value()));
     const bool from_list = desk.chain.mode_enchainement.is_true();
     const bool prepared = !from_list || desk.chain.chargement_fait.is_true();
     if (prepared && role_of(desk, next) == DeckRole::loaded)

@@ -27,7 +27,7 @@ AirWatch::AirWatch(Desk& desk, Journal& journal, ListRescue& rescue)
 }
 
 bool AirWatch::is_wanted() const {
-    const bool paused = desk_.has_main_deck() && desk_.main_deck().pause_lecteur.is_true();
+    const bool paused = desk_.ring.has_main_deck() && desk_.ring.main_deck().pause_lecteur.is_true();
     return desk_.chain.air != AirState::off && !paused && !desk_.is_manual() && !desk_.chain.chaine_suspendue.is_true();
 }
 

@@ -11,34 +11,22 @@
 
 namespace sonarelle {
 
-namespace {
-
-constexpr std::string_view switch_on = "bouton_on.jpg";
-constexpr std::string_view switch_off = "bouton_off.jpg";
-constexpr std::string_view empty_counter = "( - - )";
-
-} // namespace
-
 void ChainModes::choose_manual_mode() {
-    const bool all_loaded = std::ranges::none_of(desk_.decks, [](const Deck& deck) { return deck.path.empty(); });
+    const bool all_loaded = std::ranges::none_of(desk_.ring.decks, [](const Deck& deck) { return deck.path.empty(); });
     if (!all_loaded) {
-        desk_.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
+        desk_.notices.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
         return;
     }
     enter(running_mode::by_hand);
     desk_.window.mix_titles.set_value(true); // which, by hand, chooses no chain
-    desk_.window.mix_titles.caption = "Mix Manuel";
-    for (Deck& deck : desk_.decks) {
-        deck.controls.play.enabled = true;
-        deck.controls.open.enabled = true;
-    }
+    desk_.display.decks_wait_for_hands();
     desk_.chain.lecteur_en_cours = 0;
     desk_.set_air(AirState::off);
 }
 
 void ChainModes::choose_deck_chain() {
     enter(running_mode::over_decks);
-    desk_.window.mix_titles.caption = "Mixer les titres";
+    desk_.display.decks_can_be_chained();
     desk_.list_window.player_mode.set_value(true);
 }
 
@@ -47,7 +35,7 @@ void ChainModes::choose_list_chain() {
     mix_.choose_list_fade();
     desk_.window.Active_audio.enabled = true;
     desk_.window.overlap.set_text(text_of(desk_.settings.mix_courant));
-    desk_.list_window.progress.caption = std::string{empty_counter};
+    desk_.display.list_has_no_mix_point();
 }
 
 void ChainModes::enter(const RunningMode& mode) {
@@ -71,7 +59,7 @@ void ChainModes::enter(const RunningMode& mode) {
     if (mode.offers_prelisten)
         desk_.list_window.A_precoute.enabled = *mode.offers_prelisten;
     if (mode.offers_special_mix)
-        for (Deck& deck : desk_.decks)
+        for (Deck& deck : desk_.ring.decks)
             deck.controls.special_mix.enabled = *mode.offers_special_mix;
     desk_.show_list_start();
 }
@@ -99,12 +87,12 @@ void ChainModes::choose_mix_titles() {
     choose_deck_chain();
     desk_.list.index_en_cours = 1;
     desk_.window.Active_audio.enabled = false;
-    desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix lecteur )";
+    desk_.display.list_is_mixed_by("Mix lecteur");
 }
 
 void ChainModes::choose_mix_list() {
     try {
-        desk_.list_window.caption = desk_.settings.nom_radio + " ( Mix liste )";
+        desk_.display.list_is_mixed_by("Mix liste");
         enter(running_mode::mix_list);
         desk_.window.Active_audio.enabled = true;
         desk_.window.Active_audio_zapping.enabled = true;
@@ -125,7 +113,7 @@ void ChainModes::tell_failed_choice(const Failure& failure) {
                              "Vérifier également vos paramètres régionaux si erreur type incompatible\n"
                              "La séparation des décimales pour les nombres doit ètre un point\nEssayer a nouveau !";
     if (desk_.platform.scheduler.in_tick())
-        desk_.warn(text);
+        desk_.notices.warn(text);
     else
         show_box(desk_.platform.dialogs, text, Icon::stop);
 }
@@ -140,22 +128,19 @@ void ChainModes::read_overlap() {
 void ChainModes::choose_player_mode() {
     clear_insertions();
     desk_.settings.valide_fichier_aleatoire = false;
-    desk_.list_window.jingles_status.caption = "Jingle Off";
-    desk_.list_window.items_status.caption = "Liste Off";
-    desk_.list_window.jingles_switch.picture = std::string{switch_off};
+    desk_.display.insertions_off();
     desk_.chain.jingles_aleatoires = false;
     desk_.chain.preecoute_active = false;
     enter(running_mode::read_decks);
     mix_.choose_zap_fade();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
-    if (desk_.has_main_deck())
-        show_end_point(desk_.main_deck().duree_piste);
+    if (desk_.ring.has_main_deck())
+        show_end_point(desk_.ring.main_deck().duree_piste);
 }
 
 void ChainModes::clear_insertions() {
     desk_.settings.valide_fichier_aleatoire1 = false;
-    desk_.list_window.items_status.caption = "liste Off";
-    desk_.list_window.items_switch.picture = std::string{switch_off};
+    desk_.display.items_off();
     desk_.chain.compteur_aleatoire = desk_.chain.compteur_aleatoire1 = 0;
     desk_.window.item_timer.disable();
 }
@@ -169,10 +154,10 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
     }
     mix_.choose_list_fade();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
-    desk_.list_window.progress.caption = std::string{empty_counter};
-    if (!desk_.has_main_deck())
+    desk_.display.list_has_no_mix_point();
+    if (!desk_.ring.has_main_deck())
         return;
-    Deck& deck = desk_.main_deck();
+    Deck& deck = desk_.ring.main_deck();
     // The full length, where it is chosen, holds from the next load on.
     const bool capped = desk_.chain.preecoute_active.is_true() && deck.has_graph();
     show_end_point(capped ? text_of(std::min(desk_.chain.duree_preecoute, deck.whole_duration())) : deck.fin_piste);
@@ -180,7 +165,7 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
 
 void ChainModes::show_end_point(const std::string& text) {
     if (!text.empty())
-        desk_.main_deck().controls.counter.caption = text;
+        desk_.display.ends_at(desk_.ring.main_deck(), text);
 }
 
 void ChainModes::press_list_key() {
@@ -188,9 +173,9 @@ void ChainModes::press_list_key() {
         desk_.window.mix_list.set_value(true);
         return;
     }
-    desk_.inform("Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
+    desk_.notices.inform("Vous ètes en mode manuel\nModifiez cette option pour une lecture de liste");
     desk_.window.mix_titles.set_value(true);
-    desk_.window.deck_chain_lamp.picture = std::string{lamp_on_picture};
+    desk_.display.light_deck_chain();
 }
 
 void ChainModes::press_deck_chain_lamp() {
@@ -198,22 +183,17 @@ void ChainModes::press_deck_chain_lamp() {
     for (Timer* timer : {&desk_.window.jingle_timer, &desk_.window.item_timer})
         timer->disable();
     desk_.window.overlap_timer.enable();
-    desk_.list_window.player_lamp.picture = std::string{switch_on};
-    for (Image* lamp :
-         {&desk_.list_window.full_length_lamp, &desk_.list_window.defined_end_lamp, &desk_.list_window.random_lamp})
-        lamp->picture = std::string{switch_off};
+    desk_.display.light_reading_mode(desk_.list_window.player_lamp);
 }
 
 void ChainModes::press_list_chain_lamp() {
     Liste_son& list = desk_.list_window;
-    list.full_length_lamp.picture = std::string{switch_on};
-    for (Image* lamp : {&list.player_lamp, &list.defined_end_lamp, &list.random_lamp})
-        lamp->picture = std::string{switch_off};
+    desk_.display.light_reading_mode(list.full_length_lamp);
     desk_.window.mix_list.set_value(true);
     list.show();
     list.A_precoute.checked = false;
-    list.progress.caption = std::string{empty_counter};
-    desk_.window.list_chain_lamp.picture = std::string{lamp_on_picture};
+    desk_.display.list_has_no_mix_point();
+    desk_.display.light_list_chain();
     list.full_length_mode.set_value(true);
     enter(running_mode::list_lamp);
 }

@@ -13,27 +13,24 @@ void DeckChain::look() {
         return show_manual_mode();
     if (desk_.window.Active_audio_jingles.checked)
         return serve_special_mix();
-    if (!desk_.has_main_deck()) {
-        desk_.window.running_chain.caption = "Chargement rapide";
-        return;
-    }
-    Deck& deck = desk_.main_deck();
+    if (!desk_.ring.has_main_deck())
+        return desk_.display.no_chain_runs();
+    Deck& deck = desk_.ring.main_deck();
     show_progress(deck);
     if (deck.whole_position() == desk_.settings.prechargement)
-        deck.controls.zap.enabled = true;
+        desk_.display.can_be_zapped(deck);
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
     // A file that is shorter than its overlap has no mix point: its end is what the next one follows.
     if (point <= 0 && !deck.has_played_out())
         return;
     if (!desk_.window.mix_titles.value())
         return show_manual_mode();
-    desk_.window.running_chain.caption = " Mix lecteur : Play " + deck.name();
     desk_.chain.ligne_journal = "Mix lecteur : Play" + deck.name();
-    desk_.window.chain_status.caption = "Play " + deck.name() + " : player mix a " + text_of(point);
+    desk_.display.chain_follows_decks(deck, point);
     if (is_due(deck, point))
         play_ring(deck.number());
     else
-        desk_.list_window.running_deck.caption = "Play " + deck.name() + " Mix lecteur";
+        desk_.display.deck_runs_in_ring(deck);
 }
 
 // The chain waits for the end of the mix, and the desk goes on showing where the track on the air is.
@@ -41,16 +38,15 @@ void DeckChain::serve_special_mix() {
     desk_.window.Active_audio_zapping.checked = false;
     if (mix_.serve_special_mix())
         desk_.window.Active_audio_zapping.checked = true;
-    if (desk_.has_main_deck() && desk_.main_deck().has_graph())
-        show_progress(desk_.main_deck());
+    if (desk_.ring.has_main_deck() && desk_.ring.main_deck().has_graph())
+        show_progress(desk_.ring.main_deck());
 }
 
 void DeckChain::show_progress(Deck& deck) {
     const Integer position = deck.whole_position();
-    desk_.window.elapsed.caption = text_of(position);
-    deck.controls.progress.value = position.value();
+    desk_.display.main_deck_is_at(deck, position);
     if (position != 0)
-        desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
+        desk_.display.main_deck_ends_in(deck.whole_duration() - position);
 }
 
 bool DeckChain::is_due(Deck& deck, Integer point) {
@@ -62,8 +58,8 @@ bool DeckChain::is_due(Deck& deck, Integer point) {
 void DeckChain::play_ring(int first) {
     desk_.window.deck_chain_timer.set_interval(0);
     for (int deck = first, turns = 0; turns < 3; deck = next_deck(deck), ++turns) {
-        desk_.deck(deck).controls.title.caption = std::string{waiting_title};
-        start_.press_play(desk_.deck(next_deck(deck)));
+        desk_.display.waits(desk_.ring.deck(deck));
+        start_.press_play(desk_.ring.deck(next_deck(deck)));
         if (desk_.settings.mix_courant != 0)
             break;
     }
@@ -71,8 +67,8 @@ void DeckChain::play_ring(int first) {
 }
 
 void DeckChain::show_manual_mode() {
-    desk_.window.chain_status.caption = desk_.window.Désactive_audio.checked ? "Fondu audio désactivé" : "Mode manuel";
-    for (Deck& deck : desk_.decks) {
+    desk_.display.decks_run_by_hand();
+    for (Deck& deck : desk_.ring.decks) {
         if (!deck.has_graph())
             return;
         if (!deck.path.empty())

@@ -35,7 +35,7 @@ void DeckLoading::load_record(Deck& deck, const DestinationRecord& record, const
     deck.path = record.dest_chemin; // it holds nothing else while the operator reads that this isn't there
     deck.path = record.dest_genre == network_genre ? network_path : recup_path(record.dest_chemin);
     if (deck.path.empty()) {
-        deck.controls.title.caption = "Non trouvé";
+        desk_.display.has_no_file(deck);
         return;
     }
     take_record(deck, record);
@@ -47,13 +47,13 @@ void DeckLoading::load_record(Deck& deck, const DestinationRecord& record, const
     const double length = deck.graph().get_Duration();
     std::string duration;
     errors.skip([&] { duration = duration_text(length); });
-    show_loaded(deck, duration, title);
+    desk_.display.loaded(deck, duration, title);
     errors.skip([&] { show_length(deck); });
     if (length < shortest_good_file)
         return;
     set_bar(deck);
-    deck.controls.zap.enabled = true;
-    desk_.show_on_small_player(title);
+    desk_.display.can_be_zapped(deck);
+    desk_.display.followed_by(title);
 }
 
 LoadResult DeckLoading::load_from_list(Deck& deck, const DestinationRecord& row) {
@@ -76,15 +76,12 @@ LoadResult DeckLoading::render_from_list(Deck& deck, const DestinationRecord& ro
     deck.duree_piste = text_of(deck.whole_duration());
     if (!desk_.list_window.full_length_mode.value() && chain.mode_enchainement.is_true())
         desk_.window.list_chain_timer.enable();
-    deck.controls.counter.caption = end_point_text(deck, deck.fin_piste);
+    desk_.display.ends_at(deck, end_point_text(deck, deck.fin_piste));
     const std::string duration = duration_text(length);
-    show_loaded(deck, duration, name);
-    desk_.show_on_small_player(name);
-    if (chain.ecoute_en_cours.is_false()) {
-        desk_.list_window.caption = cut_title(name, 16);
-        desk_.list_window.track_name.caption = cut_title(name, 16);
-        desk_.list_window.remaining.caption = duration;
-    }
+    desk_.display.loaded(deck, duration, name);
+    desk_.display.followed_by(name);
+    if (chain.ecoute_en_cours.is_false())
+        desk_.display.loaded_from_list(name, duration);
     if (length < shortest_good_file)
         return LoadResult::too_short;
     set_bar(deck);
@@ -99,7 +96,8 @@ void DeckLoading::take_record(Deck& deck, const DestinationRecord& record) {
 }
 
 void DeckLoading::show_length(Deck& deck) {
-    deck.controls.counter.caption = deck.duree_piste = text_of(deck.whole_duration());
+    deck.duree_piste = text_of(deck.whole_duration());
+    desk_.display.ends_at(deck, deck.duree_piste);
 }
 
 double length_of(const Platform& platform, const std::string& path) {
@@ -119,11 +117,11 @@ std::string DeckLoading::end_point_text(Deck& deck, const std::string& end_of_re
 }
 
 void DeckLoading::charge_lire(const std::string& path) {
-    Deck& deck = desk_.deck(1);
+    Deck& deck = desk_.ring.deck(1);
     deck.create_graph();
     desk_.chain.lecteur_en_cours = 1;
     deck.path = path;
-    deck.controls.title.caption = name_of(path);
+    desk_.display.named(deck, name_of(path));
     Failure failure{failure_number::unplayable_file};
     try {
         deck.graph().RenderFile(path);
@@ -137,9 +135,9 @@ void DeckLoading::charge_lire(const std::string& path) {
         return;
     }
     set_bar(deck);
-    deck.controls.zap.enabled = true;
+    desk_.display.can_be_zapped(deck);
     mix_.Choix_mix();
-    deck.controls.play.enabled = true;
+    desk_.display.can_be_played(deck);
     deck.controls.slider.set_value(0);
     desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
     desk_.window.mix_titles.set_value(true);
@@ -182,7 +180,7 @@ void DeckLoading::open(Deck& deck) {
     const double length = deck.graph().get_Duration();
     std::string duration;
     attempt([&] { duration = duration_text(length); });
-    show_loaded(deck, duration, title);
+    desk_.display.loaded(deck, duration, title);
     volume_.adjust(deck);
     attempt([&] { show_length(deck); });
     if (length < shortest_good_file)
@@ -219,8 +217,8 @@ bool DeckLoading::choose_file(Deck& deck) {
     if (chosen.cancelled || chosen.file_name.empty())
         return false;
     if (deck.has_graph() && deck.graph().GetState() != MediaState::stopped) {
-        desk_.inform("Le lecteur " + deck.name() + " est passé à l'antenne pendant votre choix\n" +
-                     std::string{name_of_path(chosen.file_name)} + " n'est pas ouvert");
+        desk_.notices.inform("Le lecteur " + deck.name() + " est passé à l'antenne pendant votre choix\n" +
+                             std::string{name_of_path(chosen.file_name)} + " n'est pas ouvert");
         return false;
     }
     deck.create_graph(); // the chain may have used the deck meanwhile
@@ -233,15 +231,15 @@ void DeckLoading::accept_opened(Deck& deck) {
     ecrire_path_fichier(deck.path);
     if (!desk_.is_manual())
         mix_.select_bouton();
-    deck.controls.zap.enabled = true;
-    deck.controls.play.enabled = true;
+    desk_.display.can_be_zapped(deck);
+    desk_.display.can_be_played(deck);
     desk_.chain.ajout_externe = false;
     desk_.chain.maj_depuis_ajout = false;
 }
 
 void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
     deck.path.clear();
-    deck.controls.title.caption = std::string{waiting_title};
+    desk_.display.waits(deck);
     deck.controls.progress.value = 0;
     const auto tell = [&](const std::string& text) { show_box(desk_.platform.dialogs, text, Icon::stop); };
     switch (failure.number) {
@@ -285,13 +283,6 @@ std::string DeckLoading::name_of(std::string_view path) {
 
 std::string DeckLoading::duration_text(double seconds) const {
     return format_heure(seconds, desk_.platform.decimal_mark);
-}
-
-void DeckLoading::show_loaded(Deck& deck, const std::string& duration, const std::string& title) {
-    deck.controls.title.caption = duration + " ( " + title + " )";
-    deck.controls.special_mix.hint = "Mixage spécial sur lecteur en cours (" +
-                                     std::string{deck_names[static_cast<std::size_t>(deck.number() - 1)].mix_key} +
-                                     ") avec : " + deck.path;
 }
 
 void DeckLoading::set_bar(Deck& deck) {

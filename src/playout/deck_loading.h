@@ -68,7 +68,6 @@ private:
     /// The record's start and volume are those of the deck's file; an end it has none yet.
     static void take_record(Deck& deck, const DestinationRecord& record);
     void show_length(Deck& deck);
-    void show_loaded(Deck& deck, const std::string& duration, const std::string& title);
     /// The bar's range, for files of a second and more; the bar goes back to its beginning.
     void set_bar(Deck& deck);
     void open(Deck& deck);

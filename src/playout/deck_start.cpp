@@ -50,7 +50,7 @@ void DeckStart::play(Deck& deck) {
     if (!desk_.is_manual())
         release_ring(deck);
     // Behind the release: what still sounds there ends as quietly as it was.
-    desk_.deck(next_deck(deck.number())).controls.slider.set_value(0);
+    desk_.ring.after(deck).controls.slider.set_value(0);
 }
 
 void DeckStart::set_going(Deck& deck, const StartKind& kind) {
@@ -58,7 +58,8 @@ void DeckStart::set_going(Deck& deck, const StartKind& kind) {
     show_names(deck, kind);
     if (kind.follows_a_row)
         count_track();
-    show_main_deck(deck);
+    desk_.display.mark_main(deck);
+    desk_.display.chain_goes_on();
     keep_air_state(kind);
     desk_.report({.kind = OnAirEvent::Kind::started,
                   .deck = deck.number(),
@@ -70,23 +71,18 @@ void DeckStart::set_going(Deck& deck, const StartKind& kind) {
 
 void DeckStart::arrange_buttons(Deck& deck) {
     if (desk_.window.mix_titles.value())
-        deck.controls.zap.enabled = true;
+        desk_.display.can_be_zapped(deck);
     if (!desk_.is_manual()) {
-        clear_display(desk_.deck(previous_deck(deck.number())));
-        for (Deck& other : desk_.decks) {
-            const bool own = other.number() == deck.number();
-            if (!own)
-                other.controls.play.enabled = false;
-            other.controls.zap.enabled = own;
-        }
+        clear_display(desk_.ring.before(deck));
+        desk_.display.leave_buttons_to(deck);
     }
-    deck.controls.play.enabled = true;
+    desk_.display.can_be_played(deck);
     deck.controls.open.enabled = false;
 }
 
 void DeckStart::set_end_point(Deck& deck) {
     ChainState& chain = desk_.chain;
-    deck.controls.counter.caption = loading_.end_point_text(deck, deck.fin_piste);
+    desk_.display.ends_at(deck, loading_.end_point_text(deck, deck.fin_piste));
     if (chain.mode_enchainement.is_true()) {
         if (desk_.settings.valide_fichier_aleatoire.is_true())
             count_up(chain.compteur_aleatoire);
@@ -107,7 +103,7 @@ void DeckStart::begin_sound(Deck& deck) {
     desk_.window.load_ahead_timer.enable(); // a load or a pause in the run before may have left it off
     deck.controls.scroll_timer.enable();
     const double length = deck.graph().get_Duration();
-    desk_.list_window.remaining.caption = loading_.duration_text(length);
+    desk_.display.list_remaining(loading_.duration_text(length));
     if (length >= shortest_good_file) {
         deck.controls.progress.maximum = deck.whole_duration().value();
         deck.graph().put_CurrentPosition(deck.debut_piste);
@@ -127,26 +123,16 @@ void DeckStart::align_timers() {
 
 void DeckStart::show_names(Deck& deck, const StartKind& kind) {
     if (kind.follows_a_row) {
-        desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(desk_.list.index_en_cours) + ")";
+        desk_.display.list_reads_row(desk_.list.index_en_cours);
         if (desk_.chain.ecoute_en_cours.is_false())
             desk_.list.ligne_en_lecture = desk_.list.index_en_cours;
     }
     const std::string name = loading_.name_of(deck.path);
     const std::string title = short_title(name);
-    desk_.window.caption = desk_.settings.nom_radio + " : " + (kind.shows_path ? deck.path : name);
-    desk_.list_window.caption = name;
-    deck.controls.title.caption = title + " - ";
-    desk_.show_on_small_player(title);
-    desk_.list_window.track_name.caption = title;
+    desk_.display.started(deck, {name, title, kind.shows_path ? deck.path : name});
     const std::string& extension = desk_.chain.extension_fichier;
     if (kind.opens_any_video ? has_video_ending(extension) : has_classic_video_ending(extension))
         deck.open_video(title);
-}
-
-void DeckStart::show_main_deck(Deck& deck) {
-    for (Deck& other : desk_.decks)
-        other.controls.playing_mark.visible = other.number() == deck.number();
-    desk_.window.chain_status.caption = desk_.station_banner();
 }
 
 // What is started by hand behind a fault is followed by nothing yet.
@@ -170,7 +156,7 @@ void DeckStart::release_ring(Deck& deck) {
     journal_.note("Nb_de_fichier_écouté " + text_of(desk_.chain.nb_fichiers_ecoutes));
     journal_.note(time_text(desk_.platform) + " Lecture de " + deck.path + " (" + text_of(desk_.list.index_en_cours) +
                   ")");
-    silence(desk_.deck(next_deck(deck.number())));
+    silence(desk_.ring.after(deck));
     desk_.chain.chemin_precedent = desk_.list.chemin_fichier;
     desk_.chain.choix_prepare = false;
     desk_.chain.chargement_fait = false;
@@ -183,16 +169,12 @@ void DeckStart::silence(Deck& deck) {
     if (!moved)
         return;
     clear_display(deck);
-    deck.controls.title.caption = std::string{waiting_title};
+    desk_.display.waits(deck);
 }
 
 void DeckStart::clear_display(Deck& deck) {
-    deck.controls.counter.caption = "0";
+    desk_.display.rewound(deck);
     deck.controls.scroll_timer.disable();
-    deck.controls.progress.caption = "";
-    deck.controls.progress.minimum = 1;
-    deck.controls.progress.value = 0;
-    deck.controls.open.enabled = true;
     if (has_classic_video_ending(desk_.chain.extension_fichier))
         deck.close_video();
 }

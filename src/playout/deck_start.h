@@ -48,7 +48,6 @@ private:
     void begin_sound(Deck& deck);
     void align_timers();
     void show_names(Deck& deck, const StartKind& kind);
-    void show_main_deck(Deck& deck);
     void keep_air_state(const StartKind& kind);
     void count_track();
     void release_ring(Deck& deck);

@@ -15,17 +15,16 @@ void DeckTransport::stop(Deck& deck) {
     deck.controls.special_mix.enabled = true;
     if (deck.path.empty())
         return;
-    if (desk_.chain.lecteur_en_cours == deck.number())
+    if (desk_.ring.is_main(deck))
         desk_.set_air(AirState::off);
-    deck.controls.title.caption = std::string{waiting_title};
+    desk_.display.waits(deck);
     start_.clear_display(deck);
     desk_.window.overlap_timer.disable();
     rewind(deck);
     if (desk_.window.mix_titles.value())
-        desk_.window.chain_status.caption = "Play " + deck.name();
+        desk_.display.deck_stopped_in_ring(deck);
     volume_.vol_pour_stop();
-    deck.controls.pause.caption = std::string{pause_caption};
-    deck.controls.playing_mark.visible = false;
+    desk_.display.stopped(deck);
     desk_.chain.index_debut_aleatoire = desk_.chain.index_debut_aleatoire1 = 0;
     desk_.window.caption = desk_.settings.nom_radio + desk_.list.chemin_fichier;
     if (desk_.chain.mode_enchainement.is_true()) {
@@ -44,7 +43,7 @@ void DeckTransport::rewind(Deck& deck) {
     deck.controls.slider.set_value(0);
     if (deck.has_graph() && deck.graph().get_CurrentPosition() > 0)
         deck.graph().put_CurrentPosition(0);
-    desk_.list_window.remaining.caption = "00:00:00";
+    desk_.display.list_remaining("00:00:00");
 }
 
 void DeckTransport::toggle_pause(Deck& deck) {
@@ -57,13 +56,12 @@ void DeckTransport::toggle_pause(Deck& deck) {
         volume_.vol_pour_stop();
     } else {
         deck.graph().Run();
-        if (desk_.chain.lecteur_en_cours == deck.number() && desk_.chain.air == AirState::off)
+        if (desk_.ring.is_main(deck) && desk_.chain.air == AirState::off)
             desk_.set_air(AirState::on);
         if (deck.mix_en_cours != 0)
             volume_.vol_pour_mix_spc();
     }
-    deck.controls.pause.caption = std::string{runs ? resume_caption : pause_caption};
-    deck.controls.play.enabled = runs;
+    desk_.display.paused(deck, runs);
     desk_.window.load_ahead_timer.set_enabled(!runs);
 }
 
@@ -90,15 +88,15 @@ void DeckTransport::back(Deck& deck) {
 void DeckTransport::seek(Deck& deck, double target) {
     deck.graph().put_CurrentPosition(target);
     const double left = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
-    ErrorIndicator{}.skip([&] { desk_.list_window.remaining.caption = loading_.duration_text(left); });
+    ErrorIndicator{}.skip([&] { desk_.display.list_remaining(loading_.duration_text(left)); });
 }
 
 void DeckTransport::unload(Deck& deck) {
-    if (desk_.chain.lecteur_en_cours == deck.number())
+    if (desk_.ring.is_main(deck))
         return;
     deck.drop_graph();
     deck.close_video();
-    deck.controls.title.caption = std::string{waiting_title};
+    desk_.display.waits(deck);
     deck.path.clear();
 }
 

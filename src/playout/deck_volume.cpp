@@ -62,14 +62,14 @@ void DeckVolume::apply_start(Deck& deck) {
 }
 
 void DeckVolume::vol_pour_stop() {
-    if (desk_.has_main_deck())
-        desk_.main_deck().controls.slider.set_value(desk_.main_deck().volume_sauve.value());
+    if (desk_.ring.has_main_deck())
+        desk_.ring.main_deck().controls.slider.set_value(desk_.ring.main_deck().volume_sauve.value());
 }
 
 void DeckVolume::vol_pour_mix_spc() {
-    if (!desk_.has_main_deck())
+    if (!desk_.ring.has_main_deck())
         return;
-    Deck& main = desk_.main_deck();
+    Deck& main = desk_.ring.main_deck();
     main.volume_sauve = main.controls.slider.value();
     step(main, desk_.settings.mix_audio_attenuation.value());
 }
@@ -82,8 +82,8 @@ void DeckVolume::keep_in_record(Deck& deck) {
     if (desk_.mixes_titles())
         return;
     if (!deck.controls.play.enabled)
-        desk_.inform("le lecteur n'est pas encore validé ");
-    else if (desk_.chain.lecteur_en_cours == deck.number())
+        desk_.notices.inform("le lecteur n'est pas encore validé ");
+    else if (desk_.ring.is_main(deck))
         A_sauve(deck);
 }
 
@@ -98,15 +98,15 @@ void DeckVolume::A_sauve(Deck& deck) {
         }
         if (ListReader{desk_.platform.disk, list_path(desk_.platform, desk_.list.fichier_liste)}.count() == 0)
             return;
-        std::optional<RowOnAir> row = row_on_air(desk_, deck);
+        std::optional<RowOnAir> row = row_on_air(desk_.platform, desk_.list, deck);
         if (!row)
-            return desk_.inform("Ce titre n'est pas dans la liste");
+            return desk_.notices.inform("Ce titre n'est pas dans la liste");
         const std::string percent = deck.controls.percent.caption;
         row->record.set_volume(static_cast<std::int16_t>(
             to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
-        replace_row(desk_, *row);
+        replace_row(desk_.platform, desk_.list, *row);
         reload_list_();
-        desk_.inform("Sauvegarde des paramètres en cours éffectués .");
+        desk_.notices.inform("Sauvegarde des paramètres en cours éffectués .");
     } catch (const Failure& failure) {
         show_box(desk_.platform.dialogs, failure.what(), Icon::stop);
     }

@@ -1,5 +1,7 @@
 #include "playout/desk_commands.h"
 
+#include "configuration/settings_store.h"
+#include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/shell.h"
@@ -22,72 +24,74 @@ std::string yes_or_no(bool yes) {
 } // namespace
 
 bool DeskCommands::start(std::string_view program) {
-    return ErrorIndicator{}.skip([&] { desk_.platform.shell.start_program(program, {}); });
+    return ErrorIndicator{}.skip([&] { platform_.shell.start_program(program, {}); });
 }
 
 void DeskCommands::A_lecteur_CD_Win_Click() {
     if (start(cd_player))
         return;
-    desk_.inform("CDPLAYER.EXE (sous windows 95/98) est introuvable\n"
-                 "Windows Media Player sous windows XP va etre testé");
+    show_box(platform_.dialogs,
+             "CDPLAYER.EXE (sous windows 95/98) est introuvable\n"
+             "Windows Media Player sous windows XP va etre testé",
+             Icon::information);
     static_cast<void>(start(media_player));
 }
 
 void DeskCommands::a_vol_Click() {
     if (!start(volume_control))
-        desk_.inform("sndvol32.exe est introuvable");
+        show_box(platform_.dialogs, "sndvol32.exe est introuvable", Icon::information);
 }
 
 void DeskCommands::aideprog_Click() {
-    if (!start(desk_.settings.chemin_programme + std::string{help_program}))
-        desk_.inform("L'aide est introuvable");
+    if (!start(settings_.chemin_programme + std::string{help_program}))
+        show_box(platform_.dialogs, "L'aide est introuvable", Icon::information);
 }
 
 void DeskCommands::move_cd_door(bool open) {
-    ErrorIndicator{}.skip([&] { desk_.platform.shell.set_cd_door(open); });
+    ErrorIndicator{}.skip([&] { platform_.shell.set_cd_door(open); });
 }
 
 void DeskCommands::A_glisser_déplacer_Click() {
-    const bool allowed = !desk_.list.glisser_autorise.is_true();
-    desk_.list.glisser_autorise = allowed;
-    desk_.window.A_glisser_déplacer.caption = allowed ? "Autoriser sur la liste, le glisser / déplacer"
-                                                      : "Ne pas autoriser sur la liste, le glisser / déplacer";
+    const bool allowed = !list_.glisser_autorise.is_true();
+    list_.glisser_autorise = allowed;
+    window_.A_glisser_déplacer.caption = allowed ? "Autoriser sur la liste, le glisser / déplacer"
+                                                 : "Ne pas autoriser sur la liste, le glisser / déplacer";
 }
 
 void DeskCommands::Supprimer_recherche_Click() {
     const bool deleted = ErrorIndicator{}.skip([this] {
-        enter_program_folder(desk_.platform);
-        desk_.platform.disk.Kill(search_words);
+        enter_program_folder(platform_);
+        platform_.disk.Kill(search_words);
     });
     if (deleted)
-        desk_.inform("Ok liste recherche vide");
+        show_box(platform_.dialogs, "Ok liste recherche vide", Icon::information);
 }
 
 void DeskCommands::show_effect(bool on) {
-    desk_.window.sound_display.visible = on;
+    window_.sound_display.visible = on;
     if (on)
-        desk_.window.sound_display.InStart();
+        window_.sound_display.InStart();
     else
-        desk_.window.sound_display.InStop();
+        window_.sound_display.InStop();
 }
 
 void DeskCommands::set_effect(bool on) {
     show_effect(on);
-    desk_.window.A_visuel_active.checked = on;
-    desk_.window.A_visuel_desactive.checked = !on;
-    desk_.settings.effet_visuel = yes_or_no(on);
-    desk_.remember("Effet visuel", yes_or_no(on));
+    window_.A_visuel_active.checked = on;
+    window_.A_visuel_desactive.checked = !on;
+    settings_.effet_visuel = yes_or_no(on);
+    remember(platform_, "Effet visuel", yes_or_no(on));
 }
 
 void DeskCommands::choose_sound_picture(SoundPicture picture) {
-    desk_.window.sound_display.Affichage = picture;
-    desk_.window.A_affichage1.checked = picture == SoundPicture::oscilloscope;
-    desk_.window.A_affichage2.checked = picture == SoundPicture::spectrum;
+    window_.sound_display.Affichage = picture;
+    window_.A_affichage1.checked = picture == SoundPicture::oscilloscope;
+    window_.A_affichage2.checked = picture == SoundPicture::spectrum;
 }
 
 void DeskCommands::set_sliders(bool shown) {
-    desk_.window.show_sliders(shown);
-    desk_.remember("Montrer curseur", yes_or_no(shown));
+    window_.show_sliders(shown);
+    remember(platform_, "Montrer curseur", yes_or_no(shown));
 }
 
 } // namespace sonarelle

@@ -1,6 +1,9 @@
 #pragma once
 
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "state/list_state.h"
+#include "state/station_settings.h"
+#include "windows/antenne_fm.h"
 
 namespace sonarelle {
 
@@ -8,8 +11,11 @@ namespace sonarelle {
 /// the remembered search words, the visual effect and the volume sliders.
 class DeskCommands {
 public:
-    explicit DeskCommands(Desk& desk)
-        : desk_{desk} {}
+    DeskCommands(const Platform& platform, StationSettings& settings, ListState& list, Antenne_FM& window)
+        : platform_{platform},
+          settings_{settings},
+          list_{list},
+          window_{window} {}
 
     void A_lecteur_CD_Win_Click();
     void a_vol_Click();
@@ -37,7 +43,10 @@ private:
     void choose_sound_picture(SoundPicture picture);
     void set_sliders(bool shown);
 
-    Desk& desk_;
+    const Platform& platform_;
+    StationSettings& settings_;
+    ListState& list_;
+    Antenne_FM& window_;
 };
 
 } // namespace sonarelle

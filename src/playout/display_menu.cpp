@@ -12,64 +12,64 @@ constexpr int frame_thickness = 600; // twips: a title bar and a little
 } // namespace
 
 void DisplayMenu::choose_view(const MenuItem& view) {
-    desk_.window.topmost = &view == &desk_.window.affiche_toujour;
-    check_only(desk_.window.views(), view);
+    window_.topmost = &view == &window_.affiche_toujour;
+    check_only(window_.views(), view);
 }
 
 // The small player's menu chooses a view while the main window is hidden, and there must be a way back to it.
 void DisplayMenu::show_main_window(WindowState state) {
-    desk_.window.state = state;
-    desk_.window.show();
+    window_.state = state;
+    window_.show();
 }
 
 void DisplayMenu::Affiche_barre_Click() {
-    choose_view(desk_.window.Affiche_barre);
-    desk_.list_window.hide();
-    desk_.small_player.hide();
+    choose_view(window_.Affiche_barre);
+    list_.hide();
+    small_player_.hide();
     show_main_window(WindowState::minimised);
 }
 
 void DisplayMenu::Affiche_Fenetre_L_Click() {
-    choose_view(desk_.window.Affiche_Fenetre_L);
-    desk_.window.Aligner_liste.enabled = true;
-    desk_.list_window.state = WindowState::normal;
-    desk_.list_window.show();
+    choose_view(window_.Affiche_Fenetre_L);
+    window_.Aligner_liste.enabled = true;
+    list_.state = WindowState::normal;
+    list_.show();
     show_main_window(WindowState::minimised);
 }
 
 void DisplayMenu::Affiche_Fenetre_P_Click() {
-    choose_view(desk_.window.Affiche_Fenetre_P);
-    desk_.window.Aligner_liste.enabled = false;
+    choose_view(window_.Affiche_Fenetre_P);
+    window_.Aligner_liste.enabled = false;
     show_main_window(WindowState::normal);
-    desk_.list_window.hide();
+    list_.hide();
 }
 
 void DisplayMenu::affiche_tout_Click() {
-    choose_view(desk_.window.affiche_tout);
-    desk_.window.Aligner_liste.enabled = true;
+    choose_view(window_.affiche_tout);
+    window_.Aligner_liste.enabled = true;
     show_main_window(WindowState::normal);
-    if (desk_.list_window.state == WindowState::minimised)
-        desk_.list_window.state = WindowState::normal;
-    desk_.list_window.show();
+    if (list_.state == WindowState::minimised)
+        list_.state = WindowState::normal;
+    list_.show();
 }
 
 void DisplayMenu::affiche_toujour_Click() {
-    choose_view(desk_.window.affiche_toujour);
-    desk_.window.show();
+    choose_view(window_.affiche_toujour);
+    window_.show();
 }
 
 void DisplayMenu::place(Twips left, Twips top) {
-    const ScreenArea screen = desk_.platform.screen();
-    desk_.window.left = screen.left + left;
-    desk_.window.top = screen.top + top;
+    const ScreenArea screen = platform_.screen();
+    window_.left = screen.left + left;
+    window_.top = screen.top + top;
 }
 
 Twips DisplayMenu::room_beside() const {
-    return desk_.platform.screen().width - desk_.window.width.get();
+    return platform_.screen().width - window_.width.get();
 }
 
 void DisplayMenu::A_centre_lecteur_Click() {
-    const Twips room_below = desk_.platform.screen().height - desk_.window.height.get();
+    const Twips room_below = platform_.screen().height - window_.height.get();
     place(Twips{room_beside().count() / 2}, Twips{room_below.count() / 2});
 }
 
@@ -95,77 +95,74 @@ void DisplayMenu::change_corner() {
 
 void DisplayMenu::Aligner_liste_Click() {
     list_follows_ = true;
-    place_list_below(desk_.window.left, desk_.window.width);
+    place_list_below(window_.left, window_.width);
 }
 
 void DisplayMenu::liste_pleine_largeur_Click() {
     list_follows_ = false;
-    const ScreenArea screen = desk_.platform.screen();
+    const ScreenArea screen = platform_.screen();
     place_list_below(screen.left, screen.width);
 }
 
 // A list that isn't on view keeps the place that was stored for it.
 void DisplayMenu::Aligne_liste_son() {
-    const Liste_son& list = desk_.list_window;
-    if (!list_follows_ || !list.visible || list.state != WindowState::normal)
+    if (!list_follows_ || !list_.visible || list_.state != WindowState::normal)
         return;
-    place_list_below(desk_.window.left, desk_.window.width);
+    place_list_below(window_.left, window_.width);
 }
 
 // At a first start both windows have one place.
 void DisplayMenu::uncover_main_window() {
     const auto near = [](Twips a, Twips b) { return std::abs((a - b).count()) < frame_thickness; };
-    const Liste_son& list = desk_.list_window;
-    if (list.state == WindowState::normal && near(list.left, desk_.window.left) && near(list.top, desk_.window.top))
-        place_list_below(desk_.window.left, desk_.window.width);
+    if (list_.state == WindowState::normal && near(list_.left, window_.left) && near(list_.top, window_.top))
+        place_list_below(window_.left, window_.width);
 }
 
 // A list that would stand below the screen's lower edge covers the main window's foot instead.
 void DisplayMenu::place_list_below(Twips left, Twips width) {
-    Liste_son& list = desk_.list_window;
-    const ScreenArea screen = desk_.platform.screen();
-    const Twips lowest = screen.top + screen.height - list.height.get();
-    list.left = left;
-    list.width = width;
-    list.top = std::max(screen.top, std::min(desk_.window.top.get() + desk_.window.height.get(), lowest));
+    const ScreenArea screen = platform_.screen();
+    const Twips lowest = screen.top + screen.height - list_.height.get();
+    list_.left = left;
+    list_.width = width;
+    list_.top = std::max(screen.top, std::min(window_.top.get() + window_.height.get(), lowest));
 }
 
 void DisplayMenu::a_mini_Click() {
-    desk_.list_window.hide();
-    desk_.window.hide();
-    desk_.small_player.state = WindowState::normal;
-    desk_.small_player.topmost = true;
-    desk_.small_player.show();
+    list_.hide();
+    window_.hide();
+    small_player_.state = WindowState::normal;
+    small_player_.topmost = true;
+    small_player_.show();
 }
 
 void DisplayMenu::ouvrir_liste_Click() {
-    desk_.list_window.state = WindowState::normal;
-    desk_.list_window.show();
+    list_.state = WindowState::normal;
+    list_.show();
 }
 
 void DisplayMenu::hide_menus() {
     if (active_text_combo)
         active_text_combo();
-    for (MenuItem* menu : desk_.window.menu_bar)
+    for (MenuItem* menu : window_.menu_bar)
         menu->visible = false;
-    for (Label* label : desk_.window.menu_labels())
+    for (Label* label : window_.menu_labels())
         label->visible = true;
-    desk_.warning.hide();
+    warning_.hide();
     change_height(height_with_menus, height_without_menus);
 }
 
 void DisplayMenu::show_menus() {
-    for (MenuItem* menu : desk_.window.menu_bar)
+    for (MenuItem* menu : window_.menu_bar)
         menu->visible = true;
-    for (Label* label : desk_.window.menu_labels())
+    for (Label* label : window_.menu_labels())
         label->visible = false;
     change_height(height_without_menus, height_with_menus);
 }
 
 // A size that the operator gave is his.
 void DisplayMenu::change_height(Twips from, Twips to) {
-    if (desk_.window.height.get() == from)
-        desk_.window.height = to;
+    if (window_.height.get() == from)
+        window_.height = to;
 }
 
 } // namespace sonarelle

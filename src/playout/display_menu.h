@@ -2,15 +2,24 @@
 
 #include <functional>
 
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "playlist/liste_son.h"
+#include "windows/antenne_fm.h"
+#include "windows/err_form.h"
+#include "windows/mini_lecteur.h"
 
 namespace sonarelle {
 
 /// Which windows are on view, and where they stand.
 class DisplayMenu {
 public:
-    explicit DisplayMenu(Desk& desk)
-        : desk_{desk} {}
+    DisplayMenu(const Platform& platform, Antenne_FM& window, Liste_son& list, mini_lecteur& small_player,
+                err_form& warning)
+        : platform_{platform},
+          window_{window},
+          list_{list},
+          small_player_{small_player},
+          warning_{warning} {}
 
     void Affiche_barre_Click();
     void Affiche_Fenetre_L_Click();
@@ -53,7 +62,11 @@ private:
     /// What the main window leaves of the screen's width.
     [[nodiscard]] Twips room_beside() const;
 
-    Desk& desk_;
+    const Platform& platform_;
+    Antenne_FM& window_;
+    Liste_son& list_;
+    mini_lecteur& small_player_;
+    err_form& warning_;
     bool cote_haut_ = false;
     bool list_follows_ = true;
 };

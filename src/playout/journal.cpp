@@ -1,5 +1,7 @@
 #include "playout/journal.h"
 
+#include "platform/application.h"
+#include "platform/calendar_text.h"
 #include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
@@ -18,20 +20,20 @@ constexpr std::string_view journal_file = "journal.doc";
 
 bool Journal::append_line() {
     return ErrorIndicator{}.skip([this] {
-        enter_program_folder(desk_.platform);
+        enter_program_folder(platform_);
         // An entry is one line, whatever a file is called.
-        desk_.platform.disk.append(journal_file, to_windows_1252(printable(desk_.chain.ligne_journal)) + "\r\n");
+        platform_.disk.append(journal_file, to_windows_1252(printable(chain_.ligne_journal)) + "\r\n");
     });
 }
 
 bool Journal::note(const std::string& line) {
-    if (!desk_.chain.journal_actif.is_true())
+    if (!chain_.journal_actif.is_true())
         return true;
-    desk_.chain.ligne_journal = line;
+    chain_.ligne_journal = line;
     const bool written = append_line();
     if (on_line)
         on_line(line);
-    desk_.chain.ligne_journal.clear();
+    chain_.ligne_journal.clear();
     return written;
 }
 
@@ -40,45 +42,53 @@ void Journal::note_of_list_window(const std::string& line) {
     constexpr std::string_view fault = "Erreur écriture journal";
     if (note(line))
         return;
-    if (desk_.platform.scheduler.in_tick())
-        desk_.warn(std::string{fault});
+    if (platform_.scheduler.in_tick())
+        notices_.warn(std::string{fault});
     else
-        show_box(desk_.platform.dialogs, std::string{fault}, Icon::stop);
+        show_box(platform_.dialogs, std::string{fault}, Icon::stop);
 }
 
 void Journal::Active_journal1_Click() {
-    choose(desk_.window.Active_journal1, true);
+    choose(window_.Active_journal1, true);
 }
 
 void Journal::Active_journal_Click() {
-    choose(desk_.window.Active_journal, true);
+    choose(window_.Active_journal, true);
 }
 
 void Journal::A_desacive_J_Click() {
-    choose(desk_.window.A_desacive_J, false);
+    choose(window_.A_desacive_J, false);
 }
 
 void Journal::choose(const MenuItem& entry, bool active) {
-    check_only(desk_.window.journal_choices(), entry);
-    desk_.chain.journal_actif = active;
+    check_only(window_.journal_choices(), entry);
+    chain_.journal_actif = active;
 }
 
 bool Journal::discard() {
     return ErrorIndicator{}.skip([this] {
-        enter_program_folder(desk_.platform);
-        desk_.platform.disk.Kill(journal_file);
+        enter_program_folder(platform_);
+        platform_.disk.Kill(journal_file);
     });
+}
+
+void Journal::close() {
+    chain_.ligne_journal = date_and_time(platform_) + " Fermeture de " + std::string{application_title};
+    journal();
+    chain_.ligne_journal.clear();
+    if (window_.Active_journal1.checked || window_.A_desacive_J.checked)
+        static_cast<void>(discard());
 }
 
 void Journal::A_purger_journal_Click() {
     if (discard())
-        desk_.inform("Ok journal supprimé");
+        notices_.inform("Ok journal supprimé");
 }
 
 void Journal::A_ouvre_journal_Click() {
     ErrorIndicator{}.skip([this] {
-        enter_program_folder(desk_.platform);
-        desk_.platform.shell.start_program("Write", desk_.platform.disk.absolute(journal_file));
+        enter_program_folder(platform_);
+        platform_.shell.start_program("Write", platform_.disk.absolute(journal_file));
     });
 }
 

@@ -3,15 +3,21 @@
 #include <functional>
 #include <string>
 
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "playout/notices.h"
+#include "state/chain_state.h"
+#include "windows/antenne_fm.h"
 
 namespace sonarelle {
 
 /// The play log of the station, `journal.doc` in the program's folder: one entry a line, appended and flushed at once.
 class Journal {
 public:
-    explicit Journal(Desk& desk)
-        : desk_{desk} {}
+    Journal(const Platform& platform, ChainState& chain, Antenne_FM& window, Notices& notices)
+        : platform_{platform},
+          chain_{chain},
+          window_{window},
+          notices_{notices} {}
 
     /// Writes `ligne_journal`, whether the journal is on or not. A disk that refuses it is passed over: the air goes
     /// on.
@@ -26,6 +32,9 @@ public:
     /// Deletes the file; the next line begins a new one. False when there is none, or the disk refuses it.
     bool discard();
 
+    /// Writes the last line of a run. Only "Activer  conserver" keeps the file beyond it.
+    void close();
+
     /// Called with each line that `note` writes.
     std::function<void(const std::string&)> on_line;
 
@@ -39,7 +48,10 @@ private:
     void choose(const MenuItem& entry, bool active);
     [[nodiscard]] bool append_line();
 
-    Desk& desk_;
+    const Platform& platform_;
+    ChainState& chain_;
+    Antenne_FM& window_;
+    Notices& notices_;
 };
 
 } // namespace sonarelle

@@ -23,19 +23,16 @@ void ListChain::tick() {
 }
 
 void ListChain::show_main_deck() {
-    if (desk_.has_main_deck() && desk_.main_deck().has_graph())
-        show_progress(desk_.main_deck(), desk_.main_deck().end_point() - desk_.settings.mix_courant);
+    if (desk_.ring.has_main_deck() && desk_.ring.main_deck().has_graph())
+        show_progress(desk_.ring.main_deck(), desk_.ring.main_deck().end_point() - desk_.settings.mix_courant);
 }
 
 void ListChain::look() {
-    desk_.list_window.time_of_day.caption = time_text(desk_.platform);
-    const std::string deck_name = text_of(desk_.chain.lecteur_en_cours);
-    desk_.window.running_chain.caption = " Mix liste : Play " + deck_name;
-    desk_.window.chain_status.caption =
-        "Play " + deck_name + " : liste mix a " + text_of(desk_.chain.dernier_point_mix);
-    if (!desk_.has_main_deck())
+    desk_.display.list_time(time_text(desk_.platform));
+    desk_.display.chain_follows_list(desk_.chain.lecteur_en_cours, desk_.chain.dernier_point_mix);
+    if (!desk_.ring.has_main_deck())
         return;
-    Deck& deck = desk_.main_deck();
+    Deck& deck = desk_.ring.main_deck();
     const Integer point = deck.end_point() - desk_.settings.mix_courant;
     show_progress(deck, point);
     // On the first deck alone the insertion of list items keeps the net at the file's end out of play.
@@ -51,10 +48,9 @@ void ListChain::look() {
 
 void ListChain::show_progress(Deck& deck, Integer point) {
     const Integer position = deck.whole_position();
-    desk_.list_window.progress.caption = "( " + text_of(position) + " / " + text_of(point) + " )";
-    desk_.small_player.remaining.caption = text_of(deck.whole_duration() - position);
-    desk_.window.elapsed.caption = text_of(position);
-    deck.controls.progress.value = position.value();
+    desk_.display.list_mixes_at(position, point);
+    desk_.display.main_deck_ends_in(deck.whole_duration() - position);
+    desk_.display.main_deck_is_at(deck, position);
 }
 
 void ListChain::mix_point(Deck& deck, Integer point) {
@@ -84,7 +80,7 @@ void ListChain::follow_at_once(Deck& deck, FirstLook first) {
 void ListChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
     const auto wanted = [this, &deck] {
         const bool list_chain = desk_.window.list_chain_timer.enabled() || desk_.chain.mode_enchainement.is_true();
-        return list_chain && desk_.chain.lecteur_en_cours == deck.number() && !deck.pause_lecteur.is_true();
+        return list_chain && desk_.ring.is_main(deck) && !deck.pause_lecteur.is_true();
     };
     const auto trap = [this](const std::function<void()>& statement) { run_.under_trap("T4", statement); };
     walk_.start(
@@ -118,7 +114,7 @@ bool ListChain::load_behind(Deck& old) {
     load_ahead_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
     const DestinationRecord row = cursor_.read_row();
-    Deck& next = desk_.deck(next_deck(old.number()));
+    Deck& next = desk_.ring.after(old);
     const bool told = cursor_.is_loaded(next);
     const LoadResult result = cursor_.load_on(next, row);
     if (is_passed_over(result)) {
@@ -144,8 +140,8 @@ void ListChain::pass_over(std::string_view why) {
 void ListChain::play_behind(Deck& old) {
     overlap_.begin();
     cursor_.begin_track();
-    old.controls.title.caption = std::string{waiting_title};
-    start_.play(desk_.deck(next_deck(old.number())));
+    desk_.display.waits(old);
+    start_.play(desk_.ring.after(old));
 }
 
 bool ListChain::start_row(Deck& old) {
@@ -154,9 +150,8 @@ bool ListChain::start_row(Deck& old) {
     play_behind(old);
     cursor_.select_row();
     desk_.window.load_ahead_timer.enable();
-    desk_.list_window.zap.enabled = true;
-    desk_.list_window.zap_status.caption = "Zapping autorisé";
-    desk_.small_player.next.enabled = true;
+    desk_.display.zap_allowed();
+    desk_.display.next_allowed();
     return true;
 }
 
@@ -205,7 +200,7 @@ bool ListChain::start_zapped(Deck& old) {
     }
     play_behind(old);
     desk_.window.overlap_timer.set_interval(desk_.settings.mix_audio_vitesse);
-    show_full_volume(desk_.deck(next_deck(old.number())));
+    show_full_volume(desk_.ring.after(old));
     cursor_.select_row();
     return true;
 }

@@ -30,14 +30,14 @@ void ListRescue::look(Frames silent_for) {
 }
 
 bool ListRescue::is_needed() const {
-    const bool sounds = std::ranges::any_of(desk_.decks, [](const Deck& deck) { return deck.sounds(); });
     const bool has_list = desk_.row_count() > 0 && !desk_.list.fichier_liste.empty();
-    return patience() > Frames{} && has_list && !sounds && (desk_.chain.air == AirState::failed || stands_still());
+    return patience() > Frames{} && has_list && !desk_.ring.sounds() &&
+           (desk_.chain.air == AirState::failed || stands_still());
 }
 
 bool ListRescue::stands_still() const {
-    return desk_.chain.mode_enchainement.is_true() && desk_.has_main_deck() && desk_.main_deck().is_at_its_end() &&
-           (!chain_.list_chain.looks_for_a_row() || has_another_file());
+    return desk_.chain.mode_enchainement.is_true() && desk_.ring.has_main_deck() &&
+           desk_.ring.main_deck().is_at_its_end() && (!chain_.list_chain.looks_for_a_row() || has_another_file());
 }
 
 // A list of one file only waits for another one.

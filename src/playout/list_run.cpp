@@ -22,8 +22,8 @@ ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTranspo
 
 void ListRun::play_list() {
     if (desk_.row_count() == 0)
-        return desk_.inform("La liste est vide");
-    desk_.list_window.play_list.picture = std::string{lamp_on_picture};
+        return desk_.notices.inform("La liste est vide");
+    desk_.display.list_starts();
     ErrorIndicator{}.skip([this] { start_selected_row(); });
 }
 
@@ -38,7 +38,7 @@ void ListRun::start_selected_row() {
     for (Image* button : {&desk_.list_window.stop_decks, &desk_.list_window.zap})
         button->enabled = true;
     const DestinationRecord record = reading_.read_for_the_air(row);
-    if (is_on_air() && !can_be_played(record.dest_chemin)) {
+    if (desk_.ring.sounds() && !can_be_played(record.dest_chemin)) {
         desk_.list.index_en_cours = row_before;
         return run_.report_failed_start(record.dest_chemin);
     }
@@ -48,17 +48,13 @@ void ListRun::start_selected_row() {
 
 void ListRun::start_row(Integer number, const DestinationRecord& row) {
     desk_.chain.chemin_precedent = desk_.list.chemin_fichier = row.dest_chemin;
-    desk_.list_window.list_status.caption = "En cours index N° : (" + text_of(number) + ")";
+    desk_.display.list_reads_row(number);
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = number;
-    loading_.load_from_list(desk_.deck(1), row);
-    desk_.report_loaded(desk_.deck(1));
+    loading_.load_from_list(desk_.ring.deck(1), row);
+    desk_.report_loaded(desk_.ring.deck(1));
     stop_other_decks();
     run_.lect_liste();
-}
-
-bool ListRun::is_on_air() const {
-    return std::ranges::any_of(desk_.decks, [](const Deck& deck) { return deck.sounds(); });
 }
 
 // On a graph of its own: a row that can't be played leaves the air as it is.
@@ -69,7 +65,7 @@ bool ListRun::can_be_played(const std::string& path) const {
 // The list begins on the first deck alone, and what has played out elsewhere doesn't wait there with a file.
 void ListRun::stop_other_decks() {
     desk_.chain.lecteur_en_cours = 1;
-    for (Deck& deck : desk_.decks)
+    for (Deck& deck : desk_.ring.decks)
         if (deck.number() != 1 && (deck.sounds() || deck.is_at_its_end()))
             transport_.stop(deck);
 }
@@ -93,12 +89,11 @@ void ListRun::choose_a_reading_mode() {
 void ListRun::stop_decks() {
     journal_.note_of_list_window(" Arrét lecture liste a " + date_and_time(desk_.platform));
     chain_.cancel_walks();
-    for (Deck& deck : desk_.decks)
+    for (Deck& deck : desk_.ring.decks)
         transport_.stop(deck);
     desk_.chain.lecteur_en_cours = 0;
     desk_.set_air(AirState::off);
-    desk_.list_window.progress.caption = "Liste";
-    desk_.list_window.zap_status.caption = "Zapping autorisé";
+    desk_.display.list_stopped();
     document_.a_mettre_Enabled();
     desk_.report({.kind = OnAirEvent::Kind::stopped, .text = "Arrét lecture liste"});
 }

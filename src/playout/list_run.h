@@ -29,7 +29,6 @@ public:
 private:
     void start_selected_row();
     void start_row(Integer number, const DestinationRecord& row);
-    [[nodiscard]] bool is_on_air() const;
     void stop_other_decks();
     void select_a_row();
     void choose_a_reading_mode();

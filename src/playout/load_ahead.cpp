@@ -63,8 +63,8 @@ bool LoadAhead::loads_ahead() const {
 void LoadAhead::look() {
     ChainState& chain = desk_.chain;
     const bool defined = chain.mode_enchainement.is_true() || chain.mode_enchainement.is_false();
-    if (defined && desk_.has_main_deck()) {
-        chain.duree_lecteur = desk_.main_deck().end_point();
+    if (defined && desk_.ring.has_main_deck()) {
+        chain.duree_lecteur = desk_.ring.main_deck().end_point();
         compteur();
     }
     if (chain.jingles_aleatoires.is_true() || desk_.settings.valide_fichier_aleatoire1.is_true())
@@ -72,7 +72,7 @@ void LoadAhead::look() {
     chain.point_chargement = chain.duree_lecteur - (desk_.settings.mix_courant + desk_.settings.prechargement);
     if (!is_due())
         return leave();
-    desk_.warning.hide();
+    desk_.notices.take_warning_back();
     const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
     const auto wanted = [this, main = chain.lecteur_en_cours] {
         return loads_ahead() && !waits_for_special_mix(desk_) && desk_.chain.lecteur_en_cours == main;
@@ -82,7 +82,7 @@ void LoadAhead::look() {
 }
 
 bool LoadAhead::is_due() const {
-    return desk_.has_main_deck() && !waits_for_special_mix(desk_) && !walk_.under_way() &&
+    return desk_.ring.has_main_deck() && !waits_for_special_mix(desk_) && !walk_.under_way() &&
            desk_.chain.point_chargement == desk_.elapsed() && !cursor_.is_loaded(next_on_the_ring());
 }
 
@@ -91,7 +91,7 @@ void LoadAhead::leave() {
 }
 
 Deck& LoadAhead::next_on_the_ring() const {
-    return desk_.deck(next_deck(desk_.chain.lecteur_en_cours.value()));
+    return desk_.ring.after(desk_.ring.main_deck());
 }
 
 /// Looks at the next row; true when it was loaded, or the list was stopped.

@@ -21,9 +21,6 @@ public:
     void set_overlap(Integer seconds);
     void take_overlap_steps();
 
-    /// The overlap and the load lead in force, where the operator points at them.
-    void show_hints();
-
     /// The load step on and off.
     void choose_load_ahead();
 
@@ -59,14 +56,11 @@ private:
     void choose_rule(MenuItem& rule);
     void warn_of_long_mix(const Deck& deck);
     void start_special_mix(Deck& deck);
-    void show_overlap();
     void store_overlap();
     [[nodiscard]] bool is_mode_defined() const;
 
     Desk& desk_;
     DeckVolume& volume_;
 };
-
-inline constexpr std::string_view lamp_on_picture = "bouton_noir_petitdoux.jpg";
 
 } // namespace sonarelle

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "configuration/settings_store.h"
 #include "platform/dialogs.h"
 #include "platform/text.h"
 
@@ -33,30 +34,23 @@ const PathEditor& editor_of(StationPath which) {
 } // namespace
 
 void OptionMenu::nom_radio_Click() {
-    std::string& name = desk_.settings.nom_radio;
+    std::string& name = settings_.nom_radio;
     const std::string preset = name.empty() ? std::string{nameless} : name;
-    const auto entered = desk_.platform.dialogs.InputBox({" Nom de votre Radio ", "Saisie d'un nouveau nom", preset});
+    const auto entered = platform_.dialogs.InputBox({" Nom de votre Radio ", "Saisie d'un nouveau nom", preset});
     if (!entered)
         return;
     name = entered->empty() ? nameless : *entered;
-    desk_.remember("Nom_antenne_fm", name);
-    desk_.window.caption = name;
-    desk_.window.Quitter_.caption = "Quitter " + name + " (Q)";
-    desk_.list_window.caption = name;
+    remember(platform_, "Nom_antenne_fm", name);
+    desk_display_.station_renamed();
     quick_load_.active_text_combo();
 }
 
 void OptionMenu::show_station_name() {
-    const std::string& name = desk_.settings.nom_radio;
-    if (!name.empty() && name != application_title) {
-        desk_.window.caption = name;
-        desk_.small_player.caption = name;
-        desk_.list_window.caption = name;
-        return;
-    }
-    const std::string title = std::string{application_title} + " V " + version_text();
-    desk_.window.caption = title + " - " + std::string{application_version.company};
-    desk_.list_window.caption = title;
+    const std::string& name = settings_.nom_radio;
+    if (!name.empty() && name != application_title)
+        desk_display_.station_named();
+    else
+        desk_display_.station_nameless();
 }
 
 void OptionMenu::define(StationPath which) {
@@ -64,10 +58,10 @@ void OptionMenu::define(StationPath which) {
     if (open_chooser)
         return open_chooser(which);
     const PathEditor& editor = editor_of(which);
-    store_path(which,
-               desk_.platform.dialogs
-                   .InputBox({std::string{editor.caption}, std::string{editor.title}, desk_.settings.*editor.variable})
-                   .value_or(""));
+    store_path(
+        which,
+        platform_.dialogs.InputBox({std::string{editor.caption}, std::string{editor.title}, settings_.*editor.variable})
+            .value_or(""));
 }
 
 void OptionMenu::store_path(StationPath which, const std::string& path) {
@@ -75,25 +69,25 @@ void OptionMenu::store_path(StationPath which, const std::string& path) {
     if (trimmed.empty())
         return;
     const PathEditor& editor = editor_of(which);
-    desk_.settings.*editor.variable = trimmed;
-    (desk_.window.*editor.entry).caption = std::string{editor.caption} + trimmed;
-    desk_.remember(editor.key, trimmed);
+    settings_.*editor.variable = trimmed;
+    (window_.*editor.entry).caption = std::string{editor.caption} + trimmed;
+    remember(platform_, editor.key, trimmed);
 }
 
 void OptionMenu::Modifie_banniere_Click() {
-    const ChosenFile chosen = desk_.platform.dialogs.open_file(
-        {"Ouvrir une nouvelle banniere", desk_.settings.chemin_programme, "", " fichier (*.swf)|*.swf"});
+    const ChosenFile chosen = platform_.dialogs.open_file(
+        {"Ouvrir une nouvelle banniere", settings_.chemin_programme, "", " fichier (*.swf)|*.swf"});
     if (chosen.cancelled || chosen.file_name.empty())
         return;
-    desk_.settings.banniere = chosen.file_name;
+    settings_.banniere = chosen.file_name;
     A_Rafraichir_Click();
-    desk_.remember("banniere", chosen.file_name);
+    remember(platform_, "banniere", chosen.file_name);
 }
 
 void OptionMenu::A_Rafraichir_Click() {
-    desk_.window.banner.movie = desk_.settings.banniere;
-    desk_.window.banner.loop = true;
-    desk_.window.banner.Play();
+    window_.banner.movie = settings_.banniere;
+    window_.banner.loop = true;
+    window_.banner.Play();
 }
 
 } // namespace sonarelle

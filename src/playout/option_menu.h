@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "playout/desk.h"
+#include "playout/desk_display.h"
 #include "playout/display_menu.h"
 #include "playout/quick_load.h"
 
@@ -15,8 +15,12 @@ enum class StationPath { jingles, music, audio_editor };
 /// The settings that the option menu edits, each of which is stored at once, and the banner.
 class OptionMenu {
 public:
-    OptionMenu(Desk& desk, DisplayMenu& display, QuickLoad& quick_load)
-        : desk_{desk},
+    OptionMenu(const Platform& platform, StationSettings& settings, Antenne_FM& window, DeskDisplay& desk_display,
+               DisplayMenu& display, QuickLoad& quick_load)
+        : platform_{platform},
+          settings_{settings},
+          window_{window},
+          desk_display_{desk_display},
           display_{display},
           quick_load_{quick_load} {}
 
@@ -40,7 +44,10 @@ public:
 private:
     void define(StationPath which);
 
-    Desk& desk_;
+    const Platform& platform_;
+    StationSettings& settings_;
+    Antenne_FM& window_;
+    DeskDisplay& desk_display_;
     DisplayMenu& display_;
     QuickLoad& quick_load_;
 };

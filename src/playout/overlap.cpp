@@ -10,21 +10,21 @@ namespace sonarelle {
 void Overlap::tick() {
     if (desk_.window.Désactive_audio.checked)
         return mix_.Pas_demix_audio();
-    if (!desk_.has_main_deck())
+    if (!desk_.ring.has_main_deck())
         return;
     try {
         look();
     } catch (const Failure& failure) {
         // Without its fade the list still plays on.
         desk_.window.overlap_timer.disable();
-        desk_.warn(std::string{failure.what()} + "\n" + std::to_string(failure.number));
+        desk_.notices.warn(std::string{failure.what()} + "\n" + std::to_string(failure.number));
     }
 }
 
 void Overlap::look() {
-    Deck& main = desk_.main_deck();
-    Deck& old = desk_.deck(previous_deck(main.number()));
-    desk_.window.elapsed.caption = text_of(main.whole_position());
+    Deck& main = desk_.ring.main_deck();
+    Deck& old = desk_.ring.before(main);
+    desk_.display.elapsed(main.whole_position());
     const Integer limit = desk_.chain.position_zap + desk_.settings.mix_audio;
     if (desk_.window.Active_audio_zapping.checked || desk_.window.Active_audio.checked)
         fade(old);
@@ -54,21 +54,13 @@ void Overlap::fade(Deck& old) {
 
 void Overlap::release(Deck& main, Deck& old) {
     mix_.leave_special_mix(old);
-    old.controls.title.caption = std::string{waiting_title};
     if (old.has_graph()) {
         old.graph().Stop();
         desk_.report({.kind = OnAirEvent::Kind::cut, .deck = old.number()});
     }
-    old.controls.progress.value = 0;
-    old.controls.counter.caption = "0";
-    desk_.window.chain_status.caption = desk_.station_banner();
-    old.controls.zap.enabled = false;
-    main.controls.zap.enabled = true;
+    desk_.display.overlap_over(old, main);
     desk_.window.overlap_timer.disable();
     old.controls.slider.set_value(0);
-    desk_.list_window.zap.enabled = true;
-    desk_.list_window.zap_status.caption = "Zapping autorisé";
-    desk_.small_player.next.visible = true;
     if (!desk_.is_manual())
         old.drop_graph();
 }

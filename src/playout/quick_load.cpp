@@ -1,5 +1,6 @@
 #include "playout/quick_load.h"
 
+#include "configuration/settings_store.h"
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -31,7 +32,7 @@ void QuickLoad::Charge_combo(int mode_combo) {
     const bool filled = errors.skip([&] { fill(box, chosen.file_name, !remembered); });
     if (filled && !remembered) {
         box.list = chosen.file_name;
-        desk_.remember(box.key, chosen.file_name);
+        remember(desk_.platform, box.key, chosen.file_name);
     }
     active_text_combo();
 }
@@ -83,7 +84,7 @@ void QuickLoad::load(Deck& deck, const Box& box) {
         return;
     run_.stoppe_list();
     loading_.load_record(deck, chosen_, std::string{trim(box.box.text())});
-    deck.controls.play.enabled = true;
+    desk_.display.can_be_played(deck);
 }
 
 } // namespace sonarelle

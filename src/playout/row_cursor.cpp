@@ -138,7 +138,7 @@ void RowCursor::remove_row() {
 }
 
 void RowCursor::report_missing(const std::string& heading, const std::string& last_line) {
-    desk_.warn_of_file(heading, desk_.list.chemin_fichier, last_line);
+    desk_.notices.warn_of_file(heading, desk_.list.chemin_fichier, last_line);
 }
 
 void RowCursor::select_row() {

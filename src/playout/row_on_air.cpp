@@ -6,9 +6,9 @@
 
 namespace sonarelle {
 
-std::optional<RowOnAir> row_on_air(const Desk& desk, const Deck& deck) {
-    RowOnAir row{desk.list.ligne_en_lecture.value(), {}};
-    ListReader reader{desk.platform.disk, list_path(desk.platform, desk.list.fichier_liste)};
+std::optional<RowOnAir> row_on_air(const Platform& platform, const ListState& list, const Deck& deck) {
+    RowOnAir row{list.ligne_en_lecture.value(), {}};
+    ListReader reader{platform.disk, list_path(platform, list.fichier_liste)};
     if (row.number < 1 || row.number > reader.count())
         return std::nullopt;
     reader.read(row.number, row.record);
@@ -17,8 +17,8 @@ std::optional<RowOnAir> row_on_air(const Desk& desk, const Deck& deck) {
     return row;
 }
 
-void replace_row(const Desk& desk, const RowOnAir& row) {
-    replace_record(desk.platform.disk, list_path(desk.platform, desk.list.fichier_liste), row.number, row.record);
+void replace_row(const Platform& platform, const ListState& list, const RowOnAir& row) {
+    replace_record(platform.disk, list_path(platform, list.fichier_liste), row.number, row.record);
 }
 
 } // namespace sonarelle

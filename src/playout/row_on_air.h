@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include "platform/platform.h"
 #include "playlist/enreg_liste.h"
-#include "playout/desk.h"
+#include "playout/deck.h"
+#include "state/list_state.h"
 
 namespace sonarelle {
 
@@ -16,9 +18,9 @@ struct RowOnAir {
 /// The row that plays, where it is its file that the deck holds. A file that the operator put there himself has no row,
 /// and what stands in the list belongs to another one.
 /// @throws Failure when the list can't be read.
-[[nodiscard]] std::optional<RowOnAir> row_on_air(const Desk& desk, const Deck& deck);
+[[nodiscard]] std::optional<RowOnAir> row_on_air(const Platform& platform, const ListState& list, const Deck& deck);
 
 /// Writes its record back.
-void replace_row(const Desk& desk, const RowOnAir& row);
+void replace_row(const Platform& platform, const ListState& list, const RowOnAir& row);
 
 } // namespace sonarelle

@@ -7,20 +7,20 @@ namespace sonarelle {
 
 void RunControl::lect_liste() {
     if (desk_.row_count() == 0)
-        return desk_.inform("La liste est vide");
+        return desk_.notices.inform("La liste est vide");
     if (desk_.chain.chemin_lecture.empty())
         return;
     // A fault may have put the chain off. In the mode of the full length, and without fades, no load puts it on again.
     if (desk_.chain.mode_enchainement.is_true() || desk_.list_window.reads_the_list())
         desk_.window.list_chain_timer.enable();
-    desk_.deck(1).controls.zap.enabled = true;
+    desk_.display.can_be_zapped(desk_.ring.deck(1));
     desk_.window.mix_list.set_value(true);
     desk_.chain.lecteur_en_cours = 1;
     Start_liste();
 }
 
 void RunControl::Start_liste() {
-    desk_.deck(1).create_graph();
+    desk_.ring.deck(1).create_graph();
     if (desk_.chain.chemin_lecture.empty())
         return;
     try {
@@ -33,15 +33,15 @@ void RunControl::Start_liste() {
 
 void RunControl::report_failed_start(const std::string& path) {
     desk_.show_list_start();
-    desk_.list_window.list_status.caption = "Non trouvé";
-    desk_.warn("Recherche de fichier\nDemarrage liste\n" + path +
-               "\n / format / lecture impossible  \nabandon lecture liste");
+    desk_.display.list_has_no_file();
+    desk_.notices.warn("Recherche de fichier\nDemarrage liste\n" + path +
+                       "\n / format / lecture impossible  \nabandon lecture liste");
 }
 
 void RunControl::start_first_deck() {
-    Deck& deck = desk_.deck(1);
-    deck.controls.play.enabled = true;
-    deck.controls.zap.enabled = true;
+    Deck& deck = desk_.ring.deck(1);
+    desk_.display.can_be_played(deck);
+    desk_.display.can_be_zapped(deck);
     desk_.chain.lecteur_en_cours = 1;
     desk_.chain.chargement_fait = desk_.chain.choix_prepare = false; // what a run before has loaded is not this one's
     deck.graph().RenderFile(deck.path);
@@ -74,28 +74,23 @@ void RunControl::stoppe_liste(const std::string& reason) {
         end_walks();
     journal_.note(desk_.chain.ligne_journal); // in a list an empty line, which sets the run off
     desk_.chain.ligne_journal.clear();
-    for (Deck& deck : desk_.decks)
-        deck.controls.open.enabled = true;
     desk_.window.load_ahead.set_value(0);
     desk_.window.mix_titles.show_value(true);
-    desk_.window.elapsed.caption = "0";
-    desk_.window.chain_status.caption = "Play en attente";
-    desk_.window.running_chain.caption = "Chargement rapide";
+    desk_.display.chain_stopped();
     desk_.set_air(AirState::failed);
     desk_.report({.kind = OnAirEvent::Kind::stopped, .text = reason});
 }
 
 bool RunControl::is_overlap_under_way() {
-    return desk_.window.overlap_timer.enabled() && desk_.has_main_deck() &&
-           desk_.deck(previous_deck(desk_.chain.lecteur_en_cours.value())).sounds();
+    return desk_.window.overlap_timer.enabled() && desk_.ring.has_main_deck() &&
+           desk_.ring.before(desk_.ring.main_deck()).sounds();
 }
 
 void RunControl::stoppe_list() {
-    desk_.window.deck_chain_lamp.picture = std::string{lamp_on_picture};
-    desk_.window.list_chain_lamp.picture = "";
+    desk_.display.light_deck_chain_alone();
     desk_.window.mix_titles.set_value(true);
     journal_.note("Liste soppée a " + time_text(desk_.platform));
-    desk_.window.running_chain.caption = "Chargement rapide";
+    desk_.display.no_chain_runs();
 }
 
 void RunControl::under_trap(const std::string& timer, const std::function<void()>& step) {
@@ -103,16 +98,17 @@ void RunControl::under_trap(const std::string& timer, const std::function<void()
         step();
     } catch (const Failure& failure) {
         stoppe_liste(failure.what());
-        desk_.warn("ATTENTION ERREUR ! " + timer + "\nFICHIER NON TROUVEE , NON AUDIO ou " + failure.what() +
-                   "\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\nRevoir la sélection");
+        desk_.notices.warn(
+            "ATTENTION ERREUR ! " + timer + "\nFICHIER NON TROUVEE , NON AUDIO ou " + failure.what() +
+            "\nSI LISTE EN COURS : ARRETEE\nTapez F2 dans le cas de lecture de liste\nRevoir la sélection");
     }
 }
 
 void RunControl::Mettre_en_pause(const std::function<void(Deck&)>& press_pause) {
-    if (desk_.has_main_deck())
-        press_pause(desk_.main_deck());
+    if (desk_.ring.has_main_deck())
+        press_pause(desk_.ring.main_deck());
     else if (desk_.chain.lecteur_en_cours == 0)
-        desk_.inform("Aucun lecteur en cours");
+        desk_.notices.inform("Aucun lecteur en cours");
 }
 
 } // namespace sonarelle

@@ -19,15 +19,14 @@ constexpr int earliest_second = 30;
 } // namespace
 
 void Zapping::zapping() {
-    if (desk_.has_main_deck())
-        return zap(desk_.main_deck());
+    if (desk_.ring.has_main_deck())
+        return zap(desk_.ring.main_deck());
     tell("Aucune lecture en cours", Icon::none);
-    desk_.list_window.zap.enabled = true;
-    desk_.list_window.zap_status.caption = "Zapping autorisé";
+    desk_.display.zap_allowed();
 }
 
 void Zapping::press_zap(Deck& old) {
-    if (desk_.is_manual() || desk_.chain.lecteur_en_cours != old.number())
+    if (desk_.is_manual() || !desk_.ring.is_main(old))
         return;
     if (!desk_.list_window.reads_the_list())
         return zap(old);
@@ -64,8 +63,7 @@ void Zapping::refuse_too_early() {
              text_of(desk_.settings.valeur_max_jingles) + " secondes minimun sont demandées",
          Icon::warning);
     desk_.show_list_start();
-    desk_.list_window.zap.enabled = true;
-    desk_.list_window.zap_status.caption = "Zapping autorisé";
+    desk_.display.zap_allowed();
 }
 
 void Zapping::zap_in_list(Deck& old) {
@@ -83,7 +81,7 @@ void Zapping::zap_in_list(Deck& old) {
         throw;
     }
     chain_.cancel_walks();
-    load_row(desk_.deck(next_deck(old.number())));
+    load_row(desk_.ring.after(old));
     desk_.window.load_ahead.set_value(0);
     desk_.window.deck_chain_timer.set_interval(desk_.settings.valeur_vitesse_timer);
     hand_over(old, ended);
@@ -131,7 +129,7 @@ void Zapping::load_row(Deck& next) {
 }
 
 void Zapping::zap_over_decks(Deck& old) {
-    Deck& next = desk_.deck(next_deck(old.number()));
+    Deck& next = desk_.ring.after(old);
     if (next.path.empty())
         return;
     if (desk_.platform.disk.Dir(next.path).empty())
@@ -145,7 +143,7 @@ void Zapping::zap_over_decks(Deck& old) {
 }
 
 std::optional<RowOnAir> Zapping::record_to_end(const Deck& old) const {
-    std::optional<RowOnAir> ended = ends_record() ? row_on_air(desk_, old) : std::nullopt;
+    std::optional<RowOnAir> ended = ends_record() ? row_on_air(desk_.platform, desk_.list, old) : std::nullopt;
     if (ended)
         ended->record.set_fin_lecture(text_of(desk_.elapsed()));
     return ended;
@@ -154,8 +152,8 @@ std::optional<RowOnAir> Zapping::record_to_end(const Deck& old) const {
 void Zapping::hand_over(Deck& old, const std::optional<RowOnAir>& ended) {
     choose_fade();
     chain_.begin_overlap();
-    old.controls.title.caption = std::string{waiting_title};
-    Deck& next = desk_.deck(next_deck(old.number()));
+    desk_.display.waits(old);
+    Deck& next = desk_.ring.after(old);
     journal_.note(date_and_time(desk_.platform) + " ZAPPING sur ----> : " + next.path);
     start_.play(next);
     desk_.chain.position_zap =
@@ -164,7 +162,7 @@ void Zapping::hand_over(Deck& old, const std::optional<RowOnAir>& ended) {
     desk_.window.overlap_timer.enable();
     if (!ended)
         return;
-    replace_row(desk_, *ended);
+    replace_row(desk_.platform, desk_.list, *ended);
     document_.show_changed_record(ended->number);
 }
 

@@ -6,17 +6,25 @@
 namespace sonarelle {
 
 DeskWiring::DeskWiring(Station& station)
-    : display_menu{station.desk},
-      desk_commands{station.desk},
+    : display_menu{station.platform(), station.main_window, station.list_window, station.small_player,
+                   station.warning_window},
+      desk_commands{station.platform(), station.settings, station.list, station.main_window},
       quick_load{station.desk, station.deck_loading, station.run_control},
-      option_menu{station.desk, display_menu, quick_load},
-      about{station.desk, station.about_window, station.update_window},
-      startup{{station.desk, station.list, station.splash, station.settings_load, station.settings_rewrite,
-               station.journal, station.list_document, station.chain_modes, station.list_run, station.deck_loading,
-               quick_load, option_menu, desk_commands, station.mix_engine,
+      option_menu{station.platform(),   station.settings, station.main_window,
+                  station.desk_display, display_menu,     quick_load},
+      about{station.platform(),     station.settings,     station.chain,
+            station.warning_window, station.about_window, station.update_window},
+      startup{{station.desk, station.list, station.small_player, station.splash, station.settings_load,
+               station.settings_rewrite, station.journal, station.list_document, station.chain_modes, station.list_run,
+               station.deck_loading, quick_load, option_menu, desk_commands, station.mix_engine,
                [&station](Deck& deck) { station.press_play(deck); }}},
-      shutdown{station.desk, station.journal, [&station] { return station.windows(); }, [&station] { station.end(); }},
-      small_player{station.desk,
+      shutdown{station.platform(),  station.settings,
+               station.main_window, station.deck_ring,
+               station.journal,     {[&station] { return station.windows(); }, [&station] { station.end(); }}},
+      small_player{station.platform(),
+                   station.deck_ring,
+                   station.main_window,
+                   station.small_player,
                    {[&station](Deck& deck) { station.deck_loading.open_by_hand(deck); },
                     [&station](Deck& deck) { station.press_play(deck); },
                     [&station](Deck& deck) { station.zapping.press_zap(deck); },
@@ -57,7 +65,7 @@ void DeskWiring::connect_display_menu() {
         display_menu.affiche_tout_Click();
         station_.main_window.mix_list.set_value(true);
         station_.chain_modes.press_list_chain_lamp();
-        station_.main_window.list_chain_lamp.picture = std::string{lamp_on_picture};
+        station_.desk_display.light_list_chain();
         station_.list_document.A_liste_Click();
     };
 }
@@ -100,7 +108,7 @@ void DeskWiring::connect_quick_load() {
     window.jingles.on_click = [this] { quick_load.choose_jingle(); };
     window.favourites.on_key_press = [this](char32_t key) { quick_load.press_favourites_key(key); };
     window.jingles.on_key_press = [this](char32_t key) { quick_load.press_jingles_key(key); };
-    for (Deck& deck : station_.desk.decks) {
+    for (Deck& deck : station_.deck_ring.decks) {
         const auto place = static_cast<std::size_t>(deck.number() - 1);
         window.favourite_loads()[place]->on_click = [this, &deck] { quick_load.load_favourite(deck); };
         window.jingle_loads()[place]->on_click = [this, &deck] { quick_load.load_jingle(deck); };
@@ -138,7 +146,7 @@ void DeskWiring::connect_menu_labels() {
 
 // What isn't built yet says so when it is chosen; its own wiring takes the entry over.
 void DeskWiring::answer_for_missing_windows() {
-    const auto answer = [this] { station_.desk.inform("Cette fenètre n'est pas encore disponible"); };
+    const auto answer = [this] { station_.notices.inform("Cette fenètre n'est pas encore disponible"); };
     for (Window* window : station_.windows())
         for (Control* control : window->controls()) {
             if (control->kind() != ControlKind::menu_item)

@@ -4,17 +4,23 @@
 #include <vector>
 
 #include "platform/dialogs.h"
-#include "playout/desk.h"
+#include "platform/platform.h"
+#include "playout/deck_ring.h"
 #include "playout/journal.h"
+#include "state/station_settings.h"
+#include "windows/antenne_fm.h"
 
 namespace sonarelle {
 
 /// The one way out of the program.
 class Shutdown {
 public:
-    /// `windows` gives every window in the order of creation, `end_process` ends the program.
-    Shutdown(Desk& desk, Journal& journal, std::function<std::vector<Window*>()> windows,
-             std::function<void()> end_process);
+    struct Process {
+        std::function<std::vector<Window*>()> windows; ///< Every window in the order of creation.
+        std::function<void()> end;                     ///< Ends the program.
+    };
+    Shutdown(const Platform& platform, const StationSettings& settings, Antenne_FM& window, DeckRing& ring,
+             Journal& journal, Process process);
 
     /// Asks, unless closing is confirmed already, writes the journal's last line and ends.
     void Quitter__Click();
@@ -27,14 +33,14 @@ public:
 private:
     [[nodiscard]] Answer ask();
     void confirm();
-    void close_journal();
     void unload_windows();
-    void drop_graphs();
 
-    Desk& desk_;
+    const Platform& platform_;
+    const StationSettings& settings_;
+    Antenne_FM& window_;
+    DeckRing& ring_;
     Journal& journal_;
-    std::function<std::vector<Window*>()> windows_;
-    std::function<void()> end_process_;
+    Process process_;
     bool fermeture_confirmee_ = false;
 };
 

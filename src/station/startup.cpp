@@ -138,7 +138,7 @@ void Startup::create_under_trap() {
     parts_.quick_load.Charge_combo(4);
     parts_.quick_load.active_text_combo();
     parts_.commands.show_effect(window_.A_visuel_active.checked);
-    parts_.mix.show_hints();
+    parts_.desk.display.overlap_hints();
     load_pictures();
     parts_.desk.chain.ligne_journal = date_and_time(platform_) + " Exécution de " + std::string{application_title};
     parts_.journal.journal();
@@ -184,7 +184,7 @@ void Startup::store_program_folder() {
 void Startup::greet_first_start() {
     shows_main_window_ = false;
     window_.hide();
-    parts_.desk.inform(first_start_text());
+    parts_.desk.notices.inform(first_start_text());
     parts_.rewrite.A_purger_registre_Click();
 }
 
@@ -222,15 +222,15 @@ void Startup::détecte_ext() {
 }
 
 void Startup::play_on_small_player() {
-    Deck& deck = parts_.desk.deck(1);
-    mini_lecteur& player = parts_.desk.small_player;
+    Deck& deck = parts_.desk.ring.deck(1);
+    mini_lecteur& player = parts_.small_player;
     deck.controls.open.enabled = false;
     shows_main_window_ = false;
     window_.hide();
     parts_.loading.charge_lire(ligne_commande_);
     window_.state = WindowState::minimised;
     player.topmost = true;
-    player.caption = parts_.desk.deck(1).controls.title.caption.get();
+    player.caption = parts_.desk.ring.deck(1).controls.title.caption.get();
     player.show();
     parts_.press_play(deck);
 }

@@ -26,6 +26,7 @@ public:
     struct Parts {
         Desk& desk;
         ListState& list;
+        mini_lecteur& small_player;
         Chargement& splash;
         SettingsLoad& load;
         SettingsRewrite& rewrite;

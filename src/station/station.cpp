@@ -11,17 +11,10 @@ namespace sonarelle {
 Station::Station(const Platform& platform)
     : platform_{platform},
       main_window{platform_.scheduler},
-      desk{platform_,
-           settings,
-           list,
-           chain,
-           main_window,
-           list_window,
-           warning_window,
-           small_player,
-           {Deck{1, platform_.media, main_window.deck(1), chain.path_of_deck(1)},
-            Deck{2, platform_.media, main_window.deck(2), chain.path_of_deck(2)},
-            Deck{3, platform_.media, main_window.deck(3), chain.path_of_deck(3)}}},
+      deck_ring{platform_.media, main_window, chain},
+      notices{platform_.dialogs, warning_window},
+      desk_display{settings, main_window, list_window, small_player, deck_ring},
+      desk{platform_, settings, list, chain, main_window, list_window, notices, desk_display, deck_ring},
       settings_load{platform_, settings, main_window, list_window, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
       record_reading{platform_, list, list_window.rows, [this] { warn_of_null_volume(); }},
@@ -29,7 +22,7 @@ Station::Station(const Platform& platform)
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
                   list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
-      journal{desk},
+      journal{platform_, chain, main_window, notices},
       deck_volume{desk, [this] { list_document.show_changed_record(list.ligne_en_lecture.value()); }},
       mix_engine{desk, deck_volume},
       deck_loading{desk, deck_volume, mix_engine},
@@ -49,7 +42,7 @@ Station::Station(const Platform& platform)
                   chain,
                   list_window,
                   record_reading,
-                  {[this](int deck) { return deck_loading.may_be_cut(desk.deck(deck)); },
+                  {[this](int deck) { return deck_loading.may_be_cut(deck_ring.deck(deck)); },
                    [this](int deck, const DestinationRecord& row) { load_row_on_deck(deck, row); }}},
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, journal},
       track_properties{platform_, settings, list, properties_window, list_maintenance.list, record_reading} {
@@ -61,7 +54,7 @@ Station::Station(const Platform& platform)
     connect_menus();
     connect_play_menu();
     connect_keys();
-    for (Deck& deck : desk.decks)
+    for (Deck& deck : deck_ring.decks)
         connect_deck(deck);
 }
 
@@ -81,7 +74,7 @@ std::vector<Window*> Station::windows() {
 }
 
 void Station::connect_list_window() {
-    list_document.tell = [this](const std::string& text) { desk.warn(text); };
+    list_document.tell = [this](const std::string& text) { notices.warn(text); };
     list_window.A_liste.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_Charge.on_click = [this] { list_document.A_liste_Click(); };
     list_window.A_liste_anciene.on_click = [this] { list_document.A_liste_anciene(); };
@@ -159,18 +152,18 @@ void Station::connect_menus() {
 
 // Two entries of the main deck are greyed whenever the menu opens; without a main deck they stay as they are.
 void Station::connect_play_menu() {
-    for (Deck& deck : desk.decks) {
+    for (Deck& deck : deck_ring.decks) {
         const auto place = static_cast<std::size_t>(deck.number() - 1);
         main_window.play_entries()[place]->on_click = [this, &deck] { press_play(deck); };
         main_window.special_mix_entries()[place]->on_click = [this, &deck] { mix_engine.special_mix(deck); };
         main_window.unload_entries()[place]->on_click = [this, &deck] { deck_transport.unload(deck); };
     }
     main_window.lire_play.on_open = [this] {
-        if (!desk.has_main_deck())
+        if (!deck_ring.has_main_deck())
             return;
-        for (const Deck& deck : desk.decks) {
+        for (const Deck& deck : deck_ring.decks) {
             const auto place = static_cast<std::size_t>(deck.number() - 1);
-            const bool main = chain.lecteur_en_cours == deck.number();
+            const bool main = deck_ring.is_main(deck);
             main_window.play_entries()[place]->enabled = !main;
             main_window.special_mix_entries()[place]->enabled = !main;
         }
@@ -187,11 +180,11 @@ void Station::connect_keys() {
         std::u32string_view characters;
         std::function<void()> act;
     };
-    const auto step_back = [this](int deck) { return [this, deck] { deck_transport.back(desk.deck(deck)); }; };
+    const auto step_back = [this](int deck) { return [this, deck] { deck_transport.back(deck_ring.deck(deck)); }; };
     const auto step_volume = [this](int steps) {
         return [this, steps] {
-            if (desk.has_main_deck())
-                deck_volume.step(desk.main_deck(), steps);
+            if (deck_ring.has_main_deck())
+                deck_volume.step(deck_ring.main_deck(), steps);
         };
     };
     const auto pause = [this] {
@@ -250,19 +243,19 @@ void Station::connect_deck(Deck& deck) {
 
 // A list that looks for its next track gives up when the operator stops the one that plays.
 void Station::stop_deck(Deck& deck) {
-    if (chain.lecteur_en_cours == deck.number())
+    if (deck_ring.is_main(deck))
         auto_chain.cancel_walks();
     deck_transport.stop(deck);
 }
 
 void Station::load_row_on_deck(int deck, const DestinationRecord& row) {
-    deck_loading.load_from_list(desk.deck(deck), row);
+    deck_loading.load_from_list(deck_ring.deck(deck), row);
     mix_engine.select_bouton();
 }
 
 // The volume 0 of an old list is no silence but a value that it never had.
 void Station::warn_of_null_volume() {
-    if (desk.has_main_deck())
+    if (deck_ring.has_main_deck())
         for (DeckControls& deck : main_window.decks)
             deck.slider.set_value(0);
     const std::string lines =
@@ -270,8 +263,8 @@ void Station::warn_of_null_volume() {
         "créés avec une version anterieure de Sonarelle\rMettez a jour vos listes (voir menu clic droit)\r"
         "- Mettre a jour les infos de la liste -";
     if (platform_.scheduler.in_tick())
-        return desk.warn(lines);
-    desk.write_warning(lines);
+        return notices.warn(lines);
+    notices.write_warning(lines);
     platform_.dialogs.show_modal(warning_window);
 }
 

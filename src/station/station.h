@@ -19,14 +19,17 @@
 #include "playout/auto_chain.h"
 #include "playout/chain_modes.h"
 #include "playout/deck_loading.h"
+#include "playout/deck_ring.h"
 #include "playout/deck_start.h"
 #include "playout/deck_transport.h"
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
+#include "playout/desk_display.h"
 #include "playout/journal.h"
 #include "playout/list_rescue.h"
 #include "playout/list_run.h"
 #include "playout/mix.h"
+#include "playout/notices.h"
 #include "playout/row_cursor.h"
 #include "playout/run_control.h"
 #include "playout/zapping.h"
@@ -62,6 +65,8 @@ public:
     /// Called once, when the program has ended: its loop stops.
     std::function<void()> on_end;
 
+    [[nodiscard]] const Platform& platform() const { return platform_; }
+
     /// Every window, in the order of creation.
     [[nodiscard]] std::vector<Window*> windows();
 
@@ -88,6 +93,9 @@ public:
     Chargement splash;
     frmAbout about_window;
     vbplus update_window;
+    DeckRing deck_ring;
+    Notices notices;
+    DeskDisplay desk_display;
     Desk desk;
 
     SettingsLoad settings_load;

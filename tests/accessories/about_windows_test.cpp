@@ -35,7 +35,7 @@ TEST_F(Warnings, TellHowManyFilesWerePlayed) {
 
 TEST_F(Warnings, HaveTheirOwnCaptionAgainWithTheNextOne) {
     warning.info.click();
-    station.desk.warn("Recherche de fichier");
+    station.notices.warn("Recherche de fichier");
     EXPECT_EQ(warning.caption.get(), "ATTENTION ERREUR");
 }
 

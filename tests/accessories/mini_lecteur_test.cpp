@@ -36,7 +36,7 @@ protected:
                 parts.push_back(control->is_reachable());
         return parts;
     }
-    [[nodiscard]] double position_of(int deck) { return station.desk.deck(deck).graph().get_CurrentPosition(); }
+    [[nodiscard]] double position_of(int deck) { return station.deck_ring.deck(deck).graph().get_CurrentPosition(); }
 
     mini_lecteur& player = station.small_player;
 };

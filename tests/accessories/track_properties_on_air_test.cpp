@@ -55,7 +55,7 @@ TEST_F(TrackPropertiesOnAir, LeaveWhatTheNextStartGoesBy) {
     rows().select(3);
     station.list_window.a_modif.click();
     EXPECT_EQ(station.properties_window.start.text(), "9");
-    EXPECT_EQ(station.desk.deck(1).debut_piste, 3.0);
+    EXPECT_EQ(station.deck_ring.deck(1).debut_piste, 3.0);
     EXPECT_EQ(station.list.chemin_fichier, next);
 }
 

@@ -108,7 +108,7 @@ TEST_P(AcceptedZap, FadesTheOldTrackStepByStepAndReleasesIt) {
     }
     const Frames released = gesture() + seconds(13) + Frames{ramp_frames};
     ASSERT_TRUE(old_sounds(released, sound.time.now(), 0.0F));
-    EXPECT_FALSE(air.station.desk.deck(1).has_graph());
+    EXPECT_FALSE(air.station.deck_ring.deck(1).has_graph());
 }
 
 TEST_P(RefusedZap, LeavesTheOldTrackAloneOnTheAir) {

@@ -199,7 +199,7 @@ TEST_F(AirOnDesk, DrawnRowIsTheNextOne) {
     list().random_mode.click();
     run_for(90);
     ASSERT_NE(amber_row(), 0);
-    EXPECT_EQ(list().rows.text(amber_row()), station.desk.deck(2).path);
+    EXPECT_EQ(list().rows.text(amber_row()), station.deck_ring.deck(2).path);
 }
 
 } // namespace sonarelle

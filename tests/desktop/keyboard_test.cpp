@@ -34,7 +34,7 @@ protected:
         ASSERT_TRUE(sounds(deck));
     }
     [[nodiscard]] int transitions() { return station.chain.nb_fichiers_ecoutes.value(); }
-    [[nodiscard]] bool sounds(int deck) { return station.desk.deck(deck).sounds(); }
+    [[nodiscard]] bool sounds(int deck) { return station.deck_ring.deck(deck).sounds(); }
     QWidget& focus(const Control& control) {
         take_keyboard();
         QWidget& widget = part(control);
@@ -187,7 +187,7 @@ TEST_F(KeyboardOfTheDesk, IsTheWindowsAgainAfterAQuickLoad) {
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Return);
     settle();
-    EXPECT_NE(station.desk.deck(1).path.find("favori"), std::string::npos);
+    EXPECT_NE(station.deck_ring.deck(1).path.find("favori"), std::string::npos);
     EXPECT_TRUE(window_has_keyboard());
 }
 

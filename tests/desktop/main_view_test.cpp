@@ -50,7 +50,7 @@ TEST_F(MainWindow, OptionDrawsNoMarkBesideItsLamp) {
 TEST_F(MainWindow, PictureOfAChainCantContradictIt) {
     main().mix_list.show_value(true);
     settle();
-    main().deck_chain_lamp.picture = std::string{lamp_on_picture};
+    main().deck_chain_lamp.picture = "bouton_noir_petitdoux.jpg";
     main().list_chain_lamp.picture = "";
     settle();
     EXPECT_TRUE(lamp_is_lit(main().list_chain_lamp));
@@ -107,7 +107,7 @@ TEST_F(MainWindow, DecksAreToldAgainWhenTheOverlapChanges) {
     station.settings.mix_courant = 10;
     main().deck(1).counter.caption = "90";
     main().deck(1).title.caption = "titre";
-    station.desk.deck(1).path = "C:\\titre.mp3";
+    station.deck_ring.deck(1).path = "C:\\titre.mp3";
     settle();
     auto& bar = part(main_view(), main().deck(1).progress.name());
     const auto at = [&](int second) {

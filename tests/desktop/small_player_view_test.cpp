@@ -37,7 +37,7 @@ protected:
         widget.setFocus(Qt::TabFocusReason);
         return widget;
     }
-    [[nodiscard]] bool sounds() { return station.desk.deck(1).sounds(); }
+    [[nodiscard]] bool sounds() { return station.deck_ring.deck(1).sounds(); }
 };
 
 } // namespace

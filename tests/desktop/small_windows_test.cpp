@@ -16,7 +16,7 @@ protected:
         main_view().move(left, top);
     }
     [[nodiscard]] QWidget& warn() {
-        station.desk.warn("Ce fichier est NON TROUVE !");
+        station.notices.warn("Ce fichier est NON TROUVE !");
         settle();
         return *desktop->widget_of(station.warning_window);
     }

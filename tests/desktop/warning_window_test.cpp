@@ -10,7 +10,7 @@ namespace {
 class WarningWindow : public WholeDesk {
 protected:
     WarningWindow() {
-        station.desk.warn("Ce fichier est NON TROUVE !");
+        station.notices.warn("Ce fichier est NON TROUVE !");
         settle();
         take_keyboard(&view());
     }

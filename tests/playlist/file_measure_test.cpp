@@ -44,7 +44,7 @@ TEST_F(FileMeasureTest, LeavesTheDecksAlone) {
     rows().select(1);
     station.list_window.char1.click();
     static_cast<void>(measure(track));
-    EXPECT_EQ(station.desk.deck(1).graph().get_Duration(), 100);
+    EXPECT_EQ(station.deck_ring.deck(1).graph().get_Duration(), 100);
 }
 
 TEST_F(FileMeasureTest, ReleasesItsGraph) {

@@ -37,7 +37,7 @@ TEST_F(ListUpdateOnAir, LeavesTheStartOfTheLoadedTrackAlone) {
     start_list();
     machine.run_for(seconds(47) + milliseconds(500)); // deck 2 is loaded
     update_slowly(milliseconds(100));
-    EXPECT_EQ(station.desk.deck(2).debut_piste, 3.0);
+    EXPECT_EQ(station.deck_ring.deck(2).debut_piste, 3.0);
 }
 
 TEST_F(ListUpdateOnAir, LeavesTheTitleOfTheLoadedTrackAlone) {

@@ -150,7 +150,7 @@ TEST_F(RecordReadingTest, HeadsTheWarningAsOneWhateverTheWindowShowedBefore) {
     put_list({record_of("a", "1", 0)});
     station.warning_window.info.click();
     std::string told;
-    station.desk.on_warning = [&](const std::string& lines) { told = lines; };
+    station.notices.on_warning = [&](const std::string& lines) { told = lines; };
     machine.dialogs.expect_window("err_form");
     read_destination(1);
     EXPECT_EQ(station.warning_window.caption.get(), "ATTENTION ERREUR");

@@ -18,7 +18,7 @@ protected:
     }
     [[nodiscard]] std::vector<DeckRole> roles() {
         std::vector<DeckRole> roles;
-        for (const Deck& deck : station.desk.decks)
+        for (const Deck& deck : station.deck_ring.decks)
             roles.push_back(role_of(station.desk, deck));
         return roles;
     }
@@ -170,16 +170,16 @@ TEST_F(AirView, NamesEachDeckThatIsHeard) {
     open_tracks({200, 200, 200});
     start_list();
     machine.run_for(seconds(196));
-    EXPECT_EQ(name_heard(station.desk, station.desk.deck(1)), "titre 1");
-    EXPECT_EQ(name_heard(station.desk, station.desk.deck(2)), "titre 2");
-    EXPECT_EQ(name_heard(station.desk, station.desk.deck(3)), "");
+    EXPECT_EQ(name_heard(station.desk, station.deck_ring.deck(1)), "titre 1");
+    EXPECT_EQ(name_heard(station.desk, station.deck_ring.deck(2)), "titre 2");
+    EXPECT_EQ(name_heard(station.desk, station.deck_ring.deck(3)), "");
 }
 
 TEST_F(AirView, LoadedDeckIsNotHeard) {
     open_tracks({200, 200, 200});
     start_list();
     machine.run_for(seconds(190));
-    EXPECT_EQ(name_heard(station.desk, station.desk.deck(2)), "");
+    EXPECT_EQ(name_heard(station.desk, station.deck_ring.deck(2)), "");
 }
 
 TEST_F(AirView, NothingIsOnTheAirBehindTheEndOfTheFile) {

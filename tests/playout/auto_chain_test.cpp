@@ -230,7 +230,7 @@ TEST_F(AutoChainTest, GivesTheRecordsVolumeToTheGraph) {
     rows().select(1);
     start_list();
     machine.run_for(seconds(95));
-    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-800});
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_Volume(), Millibel{-800});
 }
 
 TEST_F(AutoChainTest, ShowsTheRecordsVolumeOnTheSlider) {

@@ -78,7 +78,7 @@ TEST_F(ChainFaultsTest, RecordsVolumeIsAppliedToWhatIsStartedByHandBehindTheStop
     rows().select(3);
     station.list_window.char2.click();
     station.main_window.lire_2.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_Volume(), Millibel{-2000});
 }
 
 TEST_F(ChainFaultsTest, MixingTheTitlesBehindTheStopChainsTheDecks) {
@@ -361,7 +361,7 @@ TEST_F(ChainFaultsTest, ListThatTheMenuStartsAgainInTheFullLengthIsChainedAgain)
     ASSERT_FALSE(station.main_window.list_chain_timer.enabled());
     station.list.chemin_fichier = track(3);
     station.list.index_en_cours = 3;
-    station.deck_loading.load_from_list(station.desk.deck(1), {.dest_chemin = track(3)});
+    station.deck_loading.load_from_list(station.deck_ring.deck(1), {.dest_chemin = track(3)});
     station.list_window.lect_liste.click();
     play_for(95);
     EXPECT_EQ(machine.media.on_air().back(), track(4));

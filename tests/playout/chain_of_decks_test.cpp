@@ -188,7 +188,7 @@ TEST_F(ChainOfDecksTest, DeckThatHasMovedDoesNotStartAgain) {
     machine.run_for(seconds(5));
     controls(1).play.click();
     EXPECT_EQ(times_of(Kind::started).size(), 1U);
-    EXPECT_EQ(station.desk.deck(1).graph().get_CurrentPosition(), 5.0);
+    EXPECT_EQ(station.deck_ring.deck(1).graph().get_CurrentPosition(), 5.0);
 }
 
 TEST_F(ChainOfDecksTest, PlayWithoutAListChoosesIt) {

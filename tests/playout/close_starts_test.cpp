@@ -16,7 +16,7 @@ protected:
     }
     [[nodiscard]] std::vector<int> released() {
         std::vector<int> decks;
-        for (const Deck& deck : station.desk.decks)
+        for (const Deck& deck : station.deck_ring.decks)
             if (!deck.has_graph())
                 decks.push_back(deck.number());
         return decks;
@@ -36,7 +36,7 @@ protected:
     }
     void zap_at(int second) {
         machine.run_for(seconds(second) - machine.time.now());
-        station.desk.main_deck().controls.zap.click();
+        station.deck_ring.main_deck().controls.zap.click();
     }
 };
 

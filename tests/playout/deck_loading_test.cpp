@@ -15,12 +15,12 @@ protected:
     /// Loads a record on deck 1, as the menu of a quick load box does.
     void load_record(std::string_view path, std::string_view genre = "Rock", const std::string& shown = {}) {
         const DestinationRecord record{.dest_chemin = std::string{path}, .dest_genre = std::string{genre}};
-        station.deck_loading.load_record(station.desk.deck(1), record, shown);
+        station.deck_loading.load_record(station.deck_ring.deck(1), record, shown);
     }
     /// Loads a row on a deck.
     LoadResult load_row(int deck, std::string_view path, std::string_view end = {}) {
         const DestinationRecord row{.dest_chemin = std::string{path}, .dest_fin = std::string{end}};
-        return station.deck_loading.load_from_list(station.desk.deck(deck), row);
+        return station.deck_loading.load_from_list(station.deck_ring.deck(deck), row);
     }
 };
 
@@ -114,7 +114,7 @@ TEST_F(DeckLoadingTest, FileDroppedOnADeckIsOpenedWithoutAQuestion) {
     machine.add_track(song, 83);
     controls(2).open.drop_files({std::string{song}, "C:\\Musique\\Autre.mp3"});
     EXPECT_EQ(controls(2).title.caption.get(), "00:01:23 ( Chanson )");
-    EXPECT_EQ(station.desk.deck(2).path, song);
+    EXPECT_EQ(station.deck_ring.deck(2).path, song);
 }
 
 TEST_F(DeckLoadingTest, FileDroppedWhileDraggingIsForbiddenIsLeft) {
@@ -262,7 +262,7 @@ TEST_F(DeckLoadingTest, ListLoadShowsTheRecordsEnd) {
     station.chain.mode_enchainement = true;
     load_row(2, song, "80.00");
     EXPECT_EQ(controls(2).counter.caption.get(), "80.00");
-    EXPECT_EQ(station.desk.deck(2).duree_piste, "100");
+    EXPECT_EQ(station.deck_ring.deck(2).duree_piste, "100");
     EXPECT_TRUE(station.main_window.list_chain_timer.enabled());
 }
 
@@ -313,7 +313,7 @@ TEST_F(DeckLoadingTest, VideoWindowOfAnAviClosesAtItsStopAndThatOfAWmvStays) {
         controls(1).play.click();
         controls(1).stop.click();
         controls(1).open.enabled = true;
-        station.desk.deck(1).drop_graph();
+        station.deck_ring.deck(1).drop_graph();
         return machine.media.graphs();
     };
     EXPECT_EQ(graphs_after_stop("C:\\film.avi"), 0U);
@@ -357,7 +357,7 @@ TEST_F(DeckLoadingTest, FileOpenedByHandPlaysFromItsBeginningWhereTheListsTracks
     start_list();
     open_on(2, "C:\\jingle.mp3");
     controls(2).play.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.0);
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 0.0);
 }
 
 TEST_F(DeckLoadingTest, FileOpenedByHandPlaysToItsEndWhileTheListRuns) {

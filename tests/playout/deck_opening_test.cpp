@@ -24,7 +24,7 @@ protected:
         machine.dialogs.expect_open(song, seconds(seconds_open));
         controls(deck).open.click();
     }
-    [[nodiscard]] DeckRole role(int deck) { return role_of(station.desk, station.desk.deck(deck)); }
+    [[nodiscard]] DeckRole role(int deck) { return role_of(station.desk, station.deck_ring.deck(deck)); }
 };
 
 } // namespace
@@ -103,7 +103,7 @@ TEST_F(DeckOpening, ChoiceForADeckThatWentOnTheAirBehindItsDialogIsRefused) {
     machine.dialogs.expect_box("Le lecteur 2 est passé à l'antenne", Answer::ok);
     controls(2).open.click();
     EXPECT_EQ(machine.media.on_air().back(), track(2));
-    EXPECT_EQ(station.desk.deck(2).path, track(2));
+    EXPECT_EQ(station.deck_ring.deck(2).path, track(2));
     machine.run_for(seconds(90));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2, 3}));
 }
@@ -118,14 +118,14 @@ TEST_F(DeckOpening, CancelOnADeckThatWentOnTheAirBehindItsDialogLeavesItsTrack) 
 TEST_F(DeckOpening, ChoiceForADeckThatTheChainHasLoadedBehindItsDialogIsTaken) {
     play_list_for(80);
     open_slowly(2, 10);
-    EXPECT_EQ(station.desk.deck(2).path, song);
+    EXPECT_EQ(station.deck_ring.deck(2).path, song);
     EXPECT_EQ(controls(2).title.caption.get(), "00:01:23 ( Chanson )");
 }
 
 TEST_F(DeckOpening, ChoiceForADeckThatTheChainHasDroppedBehindItsDialogIsTaken) {
     play_list_for(80);
     open_slowly(2, 205);
-    EXPECT_EQ(station.desk.deck(2).path, song);
+    EXPECT_EQ(station.deck_ring.deck(2).path, song);
     EXPECT_EQ(role(2), DeckRole::loaded);
 }
 
@@ -148,7 +148,7 @@ TEST_F(DeckOpening, UnreadableFileLeavesAnEmptyDeckBehindItsMessage) {
     machine.dialogs.expect_box("Erreur lecture fichier ", Answer::ok);
     controls(2).open.click();
     EXPECT_EQ(seen, DeckRole::empty);
-    EXPECT_EQ(station.desk.deck(2).path, "");
+    EXPECT_EQ(station.deck_ring.deck(2).path, "");
 }
 
 TEST_F(DeckOpening, UnreadableFileInPlaceOfATrackPutsItsBarBack) {
@@ -170,7 +170,7 @@ TEST_F(DeckOpening, PlaysFromItsBeginningWhereTheRowBeforeBeganLater) {
     station.list_window.char2.click();
     open_on(2, song);
     controls(2).play.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.0);
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 0.0);
     EXPECT_EQ(controls(2).counter.caption.get(), "10");
 }
 
@@ -186,18 +186,18 @@ TEST_F(DeckOpening, StartsAsLoudAsItsSliderShowsWhateverRecordWasRead) {
     rows().select(2);
     station.list_window.char2.click();
     controls(3).play.click();
-    EXPECT_EQ(station.desk.deck(3).graph().get_Volume(), Millibel{-600});
+    EXPECT_EQ(station.deck_ring.deck(3).graph().get_Volume(), Millibel{-600});
     EXPECT_EQ(controls(3).slider.value(), 3);
 }
 
 TEST_F(DeckOpening, RecordOfAQuickLoadHasItsVolumeInPercent) {
     play_list_for(5);
     for (const auto& [percent, attenuation] : {std::pair{50, -2000}, std::pair{100, 0}, std::pair{0, 0}}) {
-        station.deck_loading.load_record(station.desk.deck(3),
+        station.deck_loading.load_record(station.deck_ring.deck(3),
                                          {.dest_chemin = std::string{song}, .dest_volume = percent}, "");
         controls(3).play.enabled = true;
         controls(3).play.click();
-        EXPECT_EQ(station.desk.deck(3).graph().get_Volume(), Millibel{attenuation}) << percent;
+        EXPECT_EQ(station.deck_ring.deck(3).graph().get_Volume(), Millibel{attenuation}) << percent;
     }
 }
 
@@ -233,13 +233,13 @@ protected:
 
 TEST_F(FileOfOneSecond, OfARecordIsGood) {
     controls(2).zap.enabled = false;
-    station.deck_loading.load_record(station.desk.deck(2), row, "");
+    station.deck_loading.load_record(station.deck_ring.deck(2), row, "");
     EXPECT_EQ(controls(2).progress.maximum, 1);
     EXPECT_TRUE(controls(2).zap.enabled);
 }
 
 TEST_F(FileOfOneSecond, OfAListIsGood) {
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(2), row), LoadResult::loaded);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.deck_ring.deck(2), row), LoadResult::loaded);
     EXPECT_EQ(controls(2).progress.maximum, 1);
 }
 
@@ -251,18 +251,18 @@ TEST_F(FileOfOneSecond, OfTheCommandLineIsGood) {
 
 TEST_F(FileOfOneSecond, BeginsWhereItsRecordBegins) {
     row.dest_debut = 0.5;
-    station.deck_loading.load_from_list(station.desk.deck(2), row);
+    station.deck_loading.load_from_list(station.deck_ring.deck(2), row);
     controls(2).progress.maximum = 100;
     controls(2).play.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.5);
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 0.5);
     EXPECT_EQ(controls(2).progress.maximum, 1);
 }
 
 TEST_F(FileOfOneSecond, AndLessFailsInAListLoad) {
     machine.media.set_length(song, 0.99);
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3), row), LoadResult::too_short);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.deck_ring.deck(3), row), LoadResult::too_short);
     machine.media.set_length(song, 1.0);
-    EXPECT_EQ(station.deck_loading.load_from_list(station.desk.deck(3), row), LoadResult::loaded);
+    EXPECT_EQ(station.deck_loading.load_from_list(station.deck_ring.deck(3), row), LoadResult::loaded);
 }
 
 TEST_F(DeckOpening, ReadiesItsOwnDeckAndNoOtherBesideTheMainOne) {
@@ -280,8 +280,8 @@ TEST_F(DeckOpening, AfterARowLeavesNoEndOfIt) {
     rows().select(2);
     station.list_window.char2.click();
     open_on(2, song);
-    EXPECT_EQ(station.desk.deck(2).fin_piste, "");
-    EXPECT_FALSE(station.desk.deck(2).volume_piste);
+    EXPECT_EQ(station.deck_ring.deck(2).fin_piste, "");
+    EXPECT_FALSE(station.deck_ring.deck(2).volume_piste);
 }
 
 TEST_F(DeckOpening, ShowsTheRecordOfARowThatIsLoadedByHand) {
@@ -289,7 +289,7 @@ TEST_F(DeckOpening, ShowsTheRecordOfARowThatIsLoadedByHand) {
     rows().select(3);
     station.list_window.char3.click();
     EXPECT_EQ(controls(3).title.caption.get(), "00:01:40 ( titre 3 )");
-    EXPECT_EQ(station.desk.deck(3).path, track(3));
+    EXPECT_EQ(station.deck_ring.deck(3).path, track(3));
 }
 
 } // namespace sonarelle

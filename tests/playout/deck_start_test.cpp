@@ -74,7 +74,7 @@ TEST_F(DeckStartTest, WaitingDeckStartsAsLoudAsItsSliderShows) {
     controls(2).slider.set_value(10);
     machine.run_for(seconds(95));
     ASSERT_EQ(times_of(Kind::started), (Times{{0, 1}, {94, 2}}));
-    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_Volume(), Millibel{-2000});
     EXPECT_EQ(controls(2).slider.value(), 10);
 }
 
@@ -91,7 +91,7 @@ TEST_F(DeckStartTest, RecordsVolumeIsThatOfTheRowWhateverWasReadSince) {
     station.list_window.char3.click();
     controls(2).play.enabled = true;
     controls(2).play.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-2000});
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_Volume(), Millibel{-2000});
 }
 
 TEST_F(DeckStartTest, DeckThatTheRingDropsIsNotMadeLouderAtItsEnd) {

@@ -15,7 +15,7 @@ protected:
         start_list();
         machine.run_for(seconds(seconds_played));
     }
-    [[nodiscard]] double position_of(int deck) { return station.desk.deck(deck).graph().get_CurrentPosition(); }
+    [[nodiscard]] double position_of(int deck) { return station.deck_ring.deck(deck).graph().get_CurrentPosition(); }
 };
 
 } // namespace
@@ -137,8 +137,8 @@ TEST_F(DeckTransportTest, ResumeOfAnyDeckStartsTheClockTickAgain) {
     play_list_for(20);
     machine.add_track("C:\\b.mp3", 50);
     station.chain.chemin_lecture3 = "C:\\b.mp3";
-    station.desk.deck(3).create_graph();
-    station.desk.deck(3).graph().RenderFile("C:\\b.mp3");
+    station.deck_ring.deck(3).create_graph();
+    station.deck_ring.deck(3).graph().RenderFile("C:\\b.mp3");
     controls(1).pause.click();
     controls(3).pause.click();
     EXPECT_TRUE(station.main_window.load_ahead_timer.enabled());
@@ -150,7 +150,7 @@ TEST_F(DeckTransportTest, PausedTrackThatIsZappedLeavesItsDeckUnpaused) {
     station.list_window.zap.click();
     machine.run_for(seconds(30));
     EXPECT_EQ(controls(1).pause.caption.get(), "II");
-    EXPECT_TRUE(station.desk.deck(1).pause_lecteur.is_false());
+    EXPECT_TRUE(station.deck_ring.deck(1).pause_lecteur.is_false());
 }
 
 TEST_F(DeckTransportTest, PauseWithoutAFileDoesNothing) {

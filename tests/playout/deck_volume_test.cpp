@@ -12,7 +12,7 @@ protected:
         machine.add_track(track(1), 100);
         open_on(1, track(1));
     }
-    [[nodiscard]] int volume_of(int deck) { return station.desk.deck(deck).graph().get_Volume().count(); }
+    [[nodiscard]] int volume_of(int deck) { return station.deck_ring.deck(deck).graph().get_Volume().count(); }
     void scroll_after(std::string_view title, int ticks) {
         controls(1).title.caption = std::string{title};
         controls(1).scroll_timer.enable();
@@ -45,7 +45,7 @@ TEST_F(DeckVolumeTest, TopOfTheSliderIsFullVolume) {
 TEST_F(DeckVolumeTest, MovedSliderWithoutAFileChangesNothing) {
     controls(2).slider.set_value(5);
     EXPECT_EQ(controls(2).slider.value(), 5);
-    EXPECT_FALSE(station.desk.deck(2).has_graph());
+    EXPECT_FALSE(station.deck_ring.deck(2).has_graph());
 }
 
 TEST_F(DeckVolumeTest, MovedSliderWithoutAFileShowsItsPercent) {
@@ -71,7 +71,7 @@ TEST_F(DeckVolumeTest, ButtonsMoveTheSliderByOneAndStopAtItsEnds) {
 
 TEST_F(DeckVolumeTest, RecordOfEightyPercentMovesTheSlider) {
     open_song();
-    station.deck_volume.apply_record(station.desk.deck(1), -800);
+    station.deck_volume.apply_record(station.deck_ring.deck(1), -800);
     EXPECT_EQ(controls(1).slider.value(), 4);
     EXPECT_EQ(controls(1).percent.caption.get(), "80%");
     EXPECT_EQ(volume_of(1), -800);
@@ -80,7 +80,7 @@ TEST_F(DeckVolumeTest, RecordOfEightyPercentMovesTheSlider) {
 TEST_F(DeckVolumeTest, EveryVolumeOfARecordFindsItsPlaceOnTheSlider) {
     open_song();
     for (int step = 1; step <= 20; ++step) {
-        station.deck_volume.apply_record(station.desk.deck(1), -200 * step);
+        station.deck_volume.apply_record(station.deck_ring.deck(1), -200 * step);
         EXPECT_EQ(controls(1).slider.value(), step);
     }
 }
@@ -88,7 +88,7 @@ TEST_F(DeckVolumeTest, EveryVolumeOfARecordFindsItsPlaceOnTheSlider) {
 TEST_F(DeckVolumeTest, RecordOfFullVolumeLeavesTheSliderLower) {
     open_song();
     controls(1).slider.set_value(6);
-    station.deck_volume.apply_record(station.desk.deck(1), 0);
+    station.deck_volume.apply_record(station.deck_ring.deck(1), 0);
     EXPECT_EQ(volume_of(1), 0);
     EXPECT_EQ(controls(1).slider.value(), 6);
     EXPECT_EQ(controls(1).percent.caption.get(), "70%");
@@ -97,7 +97,7 @@ TEST_F(DeckVolumeTest, RecordOfFullVolumeLeavesTheSliderLower) {
 TEST_F(DeckVolumeTest, RecordsVolumeIsNotReadInTheChainOverDecks) {
     open_song();
     station.main_window.mix_titles.click();
-    station.deck_volume.apply_record(station.desk.deck(1), -800);
+    station.deck_volume.apply_record(station.deck_ring.deck(1), -800);
     EXPECT_EQ(controls(1).slider.value(), 0);
     EXPECT_EQ(volume_of(1), 0);
 }

@@ -20,7 +20,7 @@ protected:
         start_list();
         machine.run_for(seconds(seconds_played));
     }
-    [[nodiscard]] double position_of(int deck) { return station.desk.deck(deck).graph().get_CurrentPosition(); }
+    [[nodiscard]] double position_of(int deck) { return station.deck_ring.deck(deck).graph().get_CurrentPosition(); }
 };
 
 } // namespace
@@ -28,7 +28,7 @@ protected:
 TEST_F(KeysTest, OfTheDigitsStepBackOnTheirDecks) {
     open_on_all({100, 100, 100});
     for (int deck = 1; deck <= 3; ++deck)
-        station.desk.deck(deck).graph().put_CurrentPosition(50);
+        station.deck_ring.deck(deck).graph().put_CurrentPosition(50);
     press(U"&1");
     press(U"é2é");
     press(U"\"");

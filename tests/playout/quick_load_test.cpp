@@ -154,7 +154,7 @@ TEST_F(QuickLoadTest, ChoosingAnItemReadsItsRecordAndOpensTheMenuOfTheDecks) {
     window.favourites.choose(1);
     EXPECT_THAT(opened, ElementsAre("cha"));
     window.lect1.click();
-    EXPECT_EQ(station.desk.deck(1).path, track(2));
+    EXPECT_EQ(station.deck_ring.deck(1).path, track(2));
 }
 
 TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
@@ -164,7 +164,7 @@ TEST_F(QuickLoadTest, TheSpaceKeyOpensTheMenuWithoutReadingARecord) {
     EXPECT_THAT(opened, ElementsAre("cha", "char_F"));
     machine.dialogs.expect_box("n'existe pas ou plus", Answer::ok);
     window.lect1.click();
-    EXPECT_EQ(station.desk.deck(1).path, "");
+    EXPECT_EQ(station.deck_ring.deck(1).path, "");
 }
 
 TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
@@ -176,7 +176,7 @@ TEST_F(QuickLoadTest, TheMenuPutsTheTrackOnItsDeck) {
     EXPECT_EQ(controls(2).title.caption.get(), "00:01:43 ( titre 3 )");
     EXPECT_EQ(controls(2).counter.caption.get(), "103");
     EXPECT_TRUE(controls(2).play.enabled);
-    EXPECT_EQ(station.desk.deck(2).path, track(3));
+    EXPECT_EQ(station.deck_ring.deck(2).path, track(3));
 }
 
 TEST_F(QuickLoadTest, ATrackOfABoxHasNotTheEndOfTheRowBeforeItOnTheDeck) {
@@ -201,7 +201,7 @@ TEST_F(QuickLoadTest, ATrackOfABoxBeginsAtItsOwnStartWhateverIsReadMeanwhile) {
     window.lect2.click();
     window.favourites.choose(1);
     controls(2).play.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 2.0);
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 2.0);
 }
 
 TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
@@ -212,7 +212,7 @@ TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
     window.favourites.choose(0);
     window.favourites.choose(1);
     window.lect2.click();
-    EXPECT_EQ(station.desk.deck(2).debut_piste, 0.0);
+    EXPECT_EQ(station.deck_ring.deck(2).debut_piste, 0.0);
 }
 
 TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {

@@ -101,7 +101,7 @@ TEST_F(RunControlTest, ListStartBeginsAtTheRecordsStart) {
     rows().select(1);
     start_list();
     machine.run_for(seconds(1));
-    EXPECT_EQ(station.desk.deck(1).graph().get_CurrentPosition(), 13.5);
+    EXPECT_EQ(station.deck_ring.deck(1).graph().get_CurrentPosition(), 13.5);
 }
 
 TEST_F(RunControlTest, ListStartCountsDownAndLoadsWhereTheRunBeforeWasStoppedBehindItsLoad) {
@@ -139,7 +139,7 @@ TEST_F(RunControlTest, PauseOfTheFirstTrackKeepsItsVolume) {
     rows().select(1);
     start_list();
     controls(1).pause.click();
-    EXPECT_EQ(station.desk.deck(1).graph().get_Volume(), Millibel{-2000});
+    EXPECT_EQ(station.deck_ring.deck(1).graph().get_Volume(), Millibel{-2000});
 }
 
 TEST_F(RunControlTest, ListStartsWithTheSelectedRow) {

@@ -143,8 +143,9 @@ void SoakOperator::pause_at_the_load() {
     const StationSettings& settings = world_.station.settings;
     if (!world_.main_sounds())
         return;
-    const Integer load = world_.station.desk.main_deck().end_point() - settings.mix_courant - settings.prechargement;
-    const int wait = load.value() - world_.station.desk.main_deck().whole_position().value();
+    const Integer load =
+        world_.station.deck_ring.main_deck().end_point() - settings.mix_courant - settings.prechargement;
+    const int wait = load.value() - world_.station.deck_ring.main_deck().whole_position().value();
     if (wait < 1)
         return;
     world_.machine.run_for(milliseconds(1000 * wait - 700 + world_.below(2000)));

@@ -141,7 +141,7 @@ void SoakOperator::come_back() {
 }
 
 void SoakOperator::resume_paused_decks() {
-    for (Deck& deck : world_.station.desk.decks)
+    for (Deck& deck : world_.station.deck_ring.decks)
         if (deck.pause_lecteur.is_true() && (deck.number() == world_.main_deck() || deck.mix_en_cours != 0))
             deck.controls.pause.click();
 }

@@ -57,7 +57,7 @@ SoakOracle::SoakOracle(SoakWorld& world)
     for (const std::string& path : world_.tracks)
         owed_rows_.insert(path);
     world_.station.desk.on_event = [this](const OnAirEvent& event) { follow(event); };
-    world_.station.desk.on_warning = [this](const std::string& text) { count_message(text); };
+    world_.station.notices.on_warning = [this](const std::string& text) { count_message(text); };
     world_.machine.dialogs.on_answered = [this](const Question& question) {
         // Questions and good news are no errors.
         if (question.kind == QuestionKind::box && question.buttons == Buttons::ok && question.icon != Icon::information)
@@ -149,7 +149,7 @@ std::string_view SoakOracle::own_silence() {
 
 // A paused special mix holds the chain as a paused main deck does.
 bool SoakOracle::is_paused() {
-    return std::ranges::any_of(world_.station.desk.decks, [this](const Deck& deck) {
+    return std::ranges::any_of(world_.station.deck_ring.decks, [this](const Deck& deck) {
         return deck.pause_lecteur.is_true() && (deck.number() == world_.main_deck() || deck.mix_en_cours != 0);
     });
 }
@@ -157,7 +157,7 @@ bool SoakOracle::is_paused() {
 // What the operator chose brings no next track: the chain over decks goes on only from deck to loaded deck.
 std::string_view SoakOracle::own_choice() {
     const Antenne_FM& window = world_.station.main_window;
-    if (!world_.station.desk.has_main_deck())
+    if (!world_.station.deck_ring.has_main_deck())
         return "nothing started";
     if (world_.station.chain.mode_enchainement.is_true() || window.list_chain_timer.enabled())
         return {};

@@ -34,10 +34,12 @@ public:
         return texts[static_cast<std::size_t>(below(static_cast<int>(texts.size())))];
     }
 
-    [[nodiscard]] Deck& deck(int number) { return station.desk.deck(number); }
+    [[nodiscard]] Deck& deck(int number) { return station.deck_ring.deck(number); }
     [[nodiscard]] DeckControls& controls(int number) { return station.main_window.deck(number); }
     [[nodiscard]] int main_deck() const { return station.chain.lecteur_en_cours.value(); }
-    [[nodiscard]] bool main_sounds() { return station.desk.has_main_deck() && station.desk.main_deck().sounds(); }
+    [[nodiscard]] bool main_sounds() {
+        return station.deck_ring.has_main_deck() && station.deck_ring.main_deck().sounds();
+    }
     [[nodiscard]] RowTable& rows() { return station.list_window.rows; }
     [[nodiscard]] bool is_heard() const { return !machine.media.on_air().empty(); }
     [[nodiscard]] double now() const { return in_seconds(machine.time.now()); }

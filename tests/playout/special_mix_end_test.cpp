@@ -125,7 +125,7 @@ TEST_F(SpecialMixEnd, DeckThatTheRingDropsIsEmpty) {
     controls(1).zap.click();
     EXPECT_EQ(station.chain.lecteur_mix_special, 0);
     EXPECT_EQ(controls(3).progress.caption.get(), "");
-    EXPECT_EQ(role_of(station.desk, station.desk.deck(3)), DeckRole::empty);
+    EXPECT_EQ(role_of(station.desk, station.deck_ring.deck(3)), DeckRole::empty);
 }
 
 TEST_F(SpecialMixEnd, AnotherMixLowersTheTrackOnce) {
@@ -199,7 +199,7 @@ TEST_F(SpecialMixEnd, PressedAgainOnItsDeckBeginsAnew) {
     mix_on(2);
     window.Mix2.click();
     EXPECT_EQ(controls(1).slider.value(), 2);
-    EXPECT_EQ(station.desk.deck(2).graph().get_CurrentPosition(), 0.0);
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 0.0);
     machine.run_for(seconds(31));
     expect_ended(2);
 }
@@ -259,7 +259,7 @@ TEST_F(SpecialMixEnd, BeginsAsLoudAsItsSliderShows) {
     play_list_with_jingle_on(2);
     controls(2).slider.set_value(4);
     controls(2).special_mix.click();
-    EXPECT_EQ(station.desk.deck(2).graph().get_Volume(), Millibel{-800});
+    EXPECT_EQ(station.deck_ring.deck(2).graph().get_Volume(), Millibel{-800});
 }
 
 } // namespace sonarelle

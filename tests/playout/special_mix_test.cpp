@@ -52,7 +52,7 @@ TEST_F(SpecialMixTest, LowersAndGivesBackATrackBelowFullVolume) {
     rows().select(1);
     start_list();
     machine.run_for(seconds(120));
-    const auto volume = [this] { return station.desk.deck(2).graph().get_Volume(); };
+    const auto volume = [this] { return station.deck_ring.deck(2).graph().get_Volume(); };
     station.chain.chemin_lecture3 = "C:\\jingle.mp3";
     controls(3).special_mix.click();
     EXPECT_EQ(volume(), Millibel{-2400});

@@ -13,7 +13,7 @@ class DecksOnScreen : public DeskBench, public testing::WithParamInterface<int> 
 protected:
     DecksOnScreen() { settings_of_a_second_start(); }
 
-    [[nodiscard]] Deck& deck() { return station().desk.deck(GetParam()); }
+    [[nodiscard]] Deck& deck() { return station().deck_ring.deck(GetParam()); }
     [[nodiscard]] std::string named(std::string_view DeckNames::*part) const {
         return std::string{deck_names[static_cast<std::size_t>(GetParam() - 1)].*part};
     }

@@ -20,7 +20,7 @@ protected:
 
     [[nodiscard]] bool is_on_the_air() {
         return seen<bool>([this] {
-            return std::ranges::any_of(station().desk.decks, [](const Deck& deck) { return deck.sounds(); });
+            return std::ranges::any_of(station().deck_ring.decks, [](const Deck& deck) { return deck.sounds(); });
         });
     }
     [[nodiscard]] int transitions() {
@@ -37,7 +37,7 @@ protected:
 
 TEST_F(HandsOnScreen, SpaceReturnAndEscapeNeverCutTheAir) {
     operate(list_of(5, 8), [this] {
-        eventually("the air", [this] { return station().desk.deck(1).sounds(); });
+        eventually("the air", [this] { return station().deck_ring.deck(1).sounds(); });
         operators_event([this] { station().main_window.Affiche_Fenetre_P.click(); });
         eventually("the keyboard", [this] { return is_active(station().main_window); });
         constexpr std::array keys{"space", "Return", "Escape"};
@@ -66,7 +66,7 @@ TEST_F(HandsOnScreen, LettersAreCommandsAfterAQuickLoad) {
         for (const char* chord : {"Down", "Return"})
             key(chord);
         eventually("the load", [this] {
-            return std::ranges::any_of(station().desk.decks, [](const Deck& deck) { return !deck.path.empty(); });
+            return std::ranges::any_of(station().deck_ring.decks, [](const Deck& deck) { return !deck.path.empty(); });
         });
         key("m");
         eventually("the small player", [this] { return is_on_screen(station().small_player); });

@@ -21,10 +21,10 @@ protected:
     void play(int number, const std::string& function_key) {
         key(function_key);
         eventually("the deck running", [this, number] { return runs(number); });
-        operators_event([this, number] { station().desk.deck(number).graph().put_CurrentPosition(10); });
+        operators_event([this, number] { station().deck_ring.deck(number).graph().put_CurrentPosition(10); });
     }
     [[nodiscard]] bool runs(int number) {
-        Deck& deck = station().desk.deck(number);
+        Deck& deck = station().deck_ring.deck(number);
         return deck.has_graph() && deck.graph().GetState() == MediaState::running;
     }
     [[nodiscard]] static std::string open_menu() {
@@ -47,7 +47,7 @@ TEST_P(StepsBack, OnItsDeck) {
         play(step.deck, step.play_key);
         key(step.key);
         eventually("a place before the tenth second",
-                   [&] { return station().desk.deck(step.deck).graph().get_CurrentPosition() < 10; });
+                   [&] { return station().deck_ring.deck(step.deck).graph().get_CurrentPosition() < 10; });
     });
 }
 
@@ -87,7 +87,7 @@ TEST_P(VolumeDownKeys, TurnTheMainDeckDown) {
     at_the_keyboard([this] {
         play(1, "F5");
         press_it();
-        eventually("a quieter deck", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
+        eventually("a quieter deck", [this] { return station().deck_ring.deck(1).controls.slider.value() == 1; });
     });
 }
 
@@ -101,7 +101,7 @@ TEST_P(VolumeUpKeys, TurnTheMainDeckUpAgain) {
         key("b");
         key("b");
         press_it();
-        eventually("one step up", [this] { return station().desk.deck(1).controls.slider.value() == 1; });
+        eventually("one step up", [this] { return station().deck_ring.deck(1).controls.slider.value() == 1; });
     });
 }
 
@@ -219,7 +219,7 @@ TEST_F(KeysOnScreen, SmallMShowsTheSmallPlayer) {
 
 TEST_F(KeysOnScreen, ReturnClosesTheWarningAndTheDeskHasTheKeysAgain) {
     at_the_keyboard([this] {
-        operators_event([this] { station().desk.warn("Ce fichier est NON TROUVE !"); });
+        operators_event([this] { station().notices.warn("Ce fichier est NON TROUVE !"); });
         eventually("the warning", [this] { return is_active(station().warning_window); });
         key("Return");
         eventually("the desk",

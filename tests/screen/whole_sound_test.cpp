@@ -44,7 +44,7 @@ TEST_F(SoundBehindWindows, StaysWholeWhileWindowsMoveAndMenusOpenInAnOverlap) {
     operate(list, [&] {
         eventually("the first track", [this] { return station().main_window.elapsed.caption.get() == "2"; });
         server.record(recording);
-        operators_event([this] { station().desk.deck(1).controls.zap.click(); });
+        operators_event([this] { station().deck_ring.deck(1).controls.zap.click(); });
         for (int times = 0; times < hundred; ++times) {
             const std::string place = std::to_string(times) + " " + std::to_string(times);
             screen().hand("search --onlyvisible --name . windowmove " + place + " 2>/dev/null || true");

@@ -14,7 +14,7 @@ std::optional<Frames> DeckWatch::end_of(Deck& deck, Frames now) const {
 void DeckWatch::advance(Frames now, Frames next) {
     std::array<std::pair<Frames, int>, 3> ends;
     std::size_t count = 0;
-    for (Deck& deck : desk_.decks) {
+    for (Deck& deck : ring_.decks) {
         auto& told = told_[static_cast<std::size_t>(deck.number() - 1)];
         const auto end = end_of(deck, now);
         if (!end || *end > now)
@@ -31,13 +31,13 @@ void DeckWatch::advance(Frames now, Frames next) {
 }
 
 std::optional<Frames> DeckWatch::runs_until(int deck, Frames now) {
-    const auto end = end_of(desk_.deck(deck), now);
+    const auto end = end_of(ring_.deck(deck), now);
     return end && *end > now ? end : std::nullopt;
 }
 
 std::optional<Frames> DeckWatch::sounds_until(Frames now) {
     std::optional<Frames> latest;
-    for (Deck& deck : desk_.decks)
+    for (Deck& deck : ring_.decks)
         if (const auto end = end_of(deck, now); end && *end > now)
             latest = std::max(latest.value_or(now), *end);
     return latest;

@@ -4,15 +4,15 @@
 #include <functional>
 #include <optional>
 
-#include "playout/desk.h"
+#include "playout/deck_ring.h"
 
 namespace sonarelle {
 
 /// Watches the decks from one instant to the next: which of them sound, and when a file comes to its end.
 class DeckWatch {
 public:
-    explicit DeckWatch(Desk& desk)
-        : desk_{desk} {}
+    explicit DeckWatch(DeckRing& ring)
+        : ring_{ring} {}
 
     std::function<void(Frames at, int deck)> on_end_of_file;
 
@@ -28,7 +28,7 @@ public:
 private:
     [[nodiscard]] std::optional<Frames> end_of(Deck& deck, Frames now) const;
 
-    Desk& desk_;
+    DeckRing& ring_;
     std::array<std::optional<Frames>, 3> told_{};
 };
 

@@ -35,7 +35,7 @@ public:
           settings_{settings} {
         station_ =
             std::make_unique<Station>(machine_.platform(settings_, dialogs_, machine_.shell(), live.program_folder));
-        watch_ = std::make_unique<DeckWatch>(station_->desk);
+        watch_ = std::make_unique<DeckWatch>(station_->deck_ring);
         connect();
         station_->create_main_window();
         for (const Setting& setting : live.programme.settings)
@@ -101,7 +101,7 @@ private:
                     events_.write(now(), question);
             };
             station_->desk.on_event = [this](const OnAirEvent& event) { tell(event); };
-            station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(now(), text); };
+            station_->notices.on_warning = [this](const std::string& text) { events_.write_warning(now(), text); };
             watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
         }
         silence_.on_silence_over = [this](Frames, Frames span) { events_.add_silence(span); };

@@ -47,7 +47,7 @@ void load_decks(Station& station) {
         entries[static_cast<std::size_t>(deck - 1)]->click();
     }
     station.list_window.rows.select(1);
-    station.desk.deck(1).controls.play.click();
+    station.deck_ring.deck(1).controls.play.click();
 }
 
 } // namespace

@@ -44,7 +44,7 @@ public:
         const std::string list = folder_.copy(rehearsal.programme.list);
         station_ = std::make_unique<Station>(Platform{time_, scheduler_, disk_, settings_, dialogs_, *media_, random_,
                                                       shell_, folder_.station_path(), DecimalMark::point});
-        watch_ = std::make_unique<DeckWatch>(station_->desk);
+        watch_ = std::make_unique<DeckWatch>(station_->deck_ring);
         picture_ = std::make_unique<AirPicture>(*watch_);
         connect();
         station_->create_main_window();
@@ -131,7 +131,7 @@ private:
             events_.write(time_.now(), event);
             picture_->take(time_.now(), event);
         };
-        station_->desk.on_warning = [this](const std::string& text) { events_.write_warning(time_.now(), text); };
+        station_->notices.on_warning = [this](const std::string& text) { events_.write_warning(time_.now(), text); };
         watch_->on_end_of_file = [this](Frames at, int deck) { events_.write_end_of_file(at, deck); };
         silence_.on_silence_over = [this](Frames from, Frames span) {
             events_.add_silence(span);

@@ -1,0 +1,231 @@
+#include "playout/desk_display.h"
+
+#include "platform/application.h"
+#include "playout/file_title.h"
+
+namespace sonarelle {
+
+namespace {
+
+constexpr std::string_view lamp_on = "bouton_noir_petitdoux.jpg";
+constexpr std::string_view switch_on = "bouton_on.jpg";
+constexpr std::string_view switch_off = "bouton_off.jpg";
+
+} // namespace
+
+void DeskDisplay::loaded(Deck& deck, const std::string& duration, const std::string& title) const {
+    deck.controls.title.caption = duration + " ( " + title + " )";
+    deck.controls.special_mix.hint = "Mixage spécial sur lecteur en cours (" +
+                                     std::string{deck_names[static_cast<std::size_t>(deck.number() - 1)].mix_key} +
+                                     ") avec : " + deck.path;
+}
+
+void DeskDisplay::followed_by(const std::string& title) const {
+    small_player_.caption = title;
+    next_allowed();
+}
+
+void DeskDisplay::loaded_from_list(const std::string& name, const std::string& duration) const {
+    list_.caption = cut_title(name, 16);
+    list_.track_name.caption = cut_title(name, 16);
+    list_.remaining.caption = duration;
+}
+
+void DeskDisplay::rewound(Deck& deck) const {
+    deck.controls.counter.caption = "0";
+    deck.controls.progress.caption = "";
+    deck.controls.progress.minimum = 1;
+    deck.controls.progress.value = 0;
+    deck.controls.open.enabled = true;
+}
+
+void DeskDisplay::paused(Deck& deck, bool is_paused) const {
+    deck.controls.pause.caption = std::string{is_paused ? resume_caption : pause_caption};
+    deck.controls.play.enabled = is_paused;
+}
+
+void DeskDisplay::stopped(Deck& deck) const {
+    deck.controls.pause.caption = std::string{pause_caption};
+    deck.controls.playing_mark.visible = false;
+}
+
+void DeskDisplay::started(Deck& deck, const TrackNames& names) const {
+    window_.caption = settings_.nom_radio + " : " + names.on_main;
+    list_.caption = names.of_file;
+    deck.controls.title.caption = names.title + " - ";
+    followed_by(names.title);
+    list_.track_name.caption = names.title;
+}
+
+void DeskDisplay::mark_main(const Deck& main) const {
+    for (Deck& deck : ring_.decks)
+        deck.controls.playing_mark.visible = deck.number() == main.number();
+}
+
+void DeskDisplay::leave_buttons_to(const Deck& main) const {
+    for (Deck& deck : ring_.decks) {
+        const bool own = deck.number() == main.number();
+        if (!own)
+            deck.controls.play.enabled = false;
+        deck.controls.zap.enabled = own;
+    }
+}
+
+void DeskDisplay::arrange_buttons_round(const Deck& main) const {
+    for (Deck& deck : ring_.decks) {
+        const bool own = deck.number() == main.number();
+        deck.controls.play.enabled = own;
+        deck.controls.zap.enabled = own;
+        deck.controls.open.enabled = !own;
+    }
+}
+
+void DeskDisplay::main_deck_is_at(Deck& main, Integer second) const {
+    elapsed(second);
+    main.controls.progress.value = second.value();
+}
+
+void DeskDisplay::main_deck_ends_in(Integer seconds) const {
+    small_player_.remaining.caption = text_of(seconds);
+}
+
+void DeskDisplay::overlap_over(Deck& old, Deck& main) const {
+    waits(old);
+    old.controls.progress.value = 0;
+    old.controls.counter.caption = "0";
+    chain_goes_on();
+    old.controls.zap.enabled = false;
+    main.controls.zap.enabled = true;
+    zap_allowed();
+    small_player_.next.visible = true;
+}
+
+void DeskDisplay::special_mix_began(Deck& deck, Integer seconds) const {
+    deck.controls.progress.caption = "Mixage spécial en cours (" + text_of(seconds) + " S)";
+    deck.controls.special_mix.enabled = false;
+    chain_goes_on();
+}
+
+void DeskDisplay::special_mix_ended(Deck& deck) const {
+    deck.controls.progress.value = 0;
+    deck.controls.progress.caption = "";
+    deck.controls.special_mix.enabled = true;
+}
+
+void DeskDisplay::overlap() const {
+    window_.overlap.set_text(text_of(settings_.mix_courant));
+    overlap_hints();
+    window_.overlap_steps.show_value(settings_.mix_courant.value());
+}
+
+void DeskDisplay::overlap_hints() const {
+    window_.overlap.hint = "Superposition de : " + text_of(settings_.mix_courant) + " seconde(s)";
+    window_.load_ahead.hint = "Préchargement (" + text_of(settings_.prechargement) + " s avant le mix) ";
+}
+
+void DeskDisplay::chain_follows_list(Integer deck, Integer mix_point) const {
+    window_.running_chain.caption = " Mix liste : Play " + text_of(deck);
+    window_.chain_status.caption = "Play " + text_of(deck) + " : liste mix a " + text_of(mix_point);
+}
+
+void DeskDisplay::chain_follows_decks(const Deck& deck, Integer mix_point) const {
+    window_.running_chain.caption = " Mix lecteur : Play " + deck.name();
+    window_.chain_status.caption = "Play " + deck.name() + " : player mix a " + text_of(mix_point);
+}
+
+void DeskDisplay::decks_run_by_hand() const {
+    window_.chain_status.caption = window_.Désactive_audio.checked ? "Fondu audio désactivé" : "Mode manuel";
+}
+
+void DeskDisplay::decks_wait_for_hands() const {
+    window_.mix_titles.caption = "Mix Manuel";
+    for (Deck& deck : ring_.decks) {
+        deck.controls.play.enabled = true;
+        deck.controls.open.enabled = true;
+    }
+}
+
+void DeskDisplay::chain_stopped() const {
+    for (Deck& deck : ring_.decks)
+        deck.controls.open.enabled = true;
+    window_.elapsed.caption = "0";
+    window_.chain_status.caption = "Play en attente";
+    no_chain_runs();
+}
+
+void DeskDisplay::light_deck_chain() const {
+    window_.deck_chain_lamp.picture = std::string{lamp_on};
+}
+
+void DeskDisplay::light_list_chain() const {
+    window_.list_chain_lamp.picture = std::string{lamp_on};
+}
+
+void DeskDisplay::light_deck_chain_alone() const {
+    window_.list_chain_lamp.picture = "";
+    light_deck_chain();
+}
+
+void DeskDisplay::light_reading_mode(Image& lamp) const {
+    for (Image* each : {&list_.player_lamp, &list_.random_lamp, &list_.defined_end_lamp, &list_.full_length_lamp})
+        each->picture = std::string{each == &lamp ? switch_on : switch_off};
+}
+
+void DeskDisplay::items_off() const {
+    list_.items_status.caption = "liste Off";
+    list_.items_switch.picture = std::string{switch_off};
+}
+
+void DeskDisplay::insertions_off() const {
+    items_off();
+    list_.jingles_status.caption = "Jingle Off";
+    list_.items_status.caption = "Liste Off";
+    list_.jingles_switch.picture = std::string{switch_off};
+}
+
+void DeskDisplay::list_can_start(bool can) const {
+    list_.play_list.enabled = can;
+    list_.lect_liste.enabled = can;
+}
+
+void DeskDisplay::list_starts() const {
+    list_.play_list.picture = std::string{lamp_on};
+}
+
+void DeskDisplay::list_stopped() const {
+    list_.progress.caption = "Liste";
+    list_.zap_status.caption = "Zapping autorisé";
+}
+
+void DeskDisplay::list_reads_row(Integer row) const {
+    list_.list_status.caption = "En cours index N° : (" + text_of(row) + ")";
+}
+
+void DeskDisplay::list_mixes_at(Integer second, Integer mix_point) const {
+    list_.progress.caption = "( " + text_of(second) + " / " + text_of(mix_point) + " )";
+}
+
+void DeskDisplay::zap_allowed() const {
+    list_.zap.enabled = true;
+    list_.zap_status.caption = "Zapping autorisé";
+}
+
+void DeskDisplay::station_named() const {
+    window_.caption = settings_.nom_radio;
+    small_player_.caption = settings_.nom_radio;
+    list_.caption = settings_.nom_radio;
+}
+
+void DeskDisplay::station_nameless() const {
+    const std::string title = std::string{application_title} + " V " + version_text();
+    window_.caption = title + " - " + std::string{application_version.company};
+    list_.caption = title;
+}
+
+void DeskDisplay::station_renamed() const {
+    window_.caption = settings_.nom_radio;
+    window_.Quitter_.caption = "Quitter " + settings_.nom_radio + " (Q)";
+    list_.caption = settings_.nom_radio;
+}
+
+} // namespace sonarelle

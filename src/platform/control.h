@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "platform/units.h"
+#include "platform/window_thread.h"
 
 namespace sonarelle {
 
@@ -136,6 +138,7 @@ private:
 
 template <typename Value>
 Property<Value>& Property<Value>::operator=(Value value) {
+    assert(on_window_thread());
     if (value_ != value) {
         value_ = std::move(value);
         owner_.notify();

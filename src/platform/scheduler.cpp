@@ -1,10 +1,12 @@
 #include "platform/scheduler.h"
 
 #include <algorithm>
+#include <cassert>
 #include <exception>
 #include <utility>
 
 #include "platform/timer.h"
+#include "platform/window_thread.h"
 
 namespace sonarelle {
 
@@ -62,6 +64,7 @@ std::optional<Frames> Scheduler::next_due() const {
 }
 
 void Scheduler::run_until(Frames horizon) {
+    assert(on_window_thread());
     for (Timer* timer = next_timer(); timer != nullptr && timer->due_ <= horizon; timer = next_timer())
         run_tick(*timer);
     advance_to(horizon);

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 #include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/scheduler.h"
+#include "platform/window_thread.h"
 #include "playlist/list_file.h"
 #include "playlist/list_rows.h"
 
@@ -176,6 +178,7 @@ void ListDocument::select_current_row() {
 }
 
 void ListDocument::sauve_tout() {
+    assert(on_window_thread());
     ErrorIndicator errors;
     errors.skip([this] { enter_program_folder(platform_); });
     if (window_.rows.count() > 0)

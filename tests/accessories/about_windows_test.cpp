@@ -1,13 +1,13 @@
 // The warning window's information and the about windows.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class AboutWindowsTest : public DeskBench {
+class AboutWindowsTest : public DeskFixture {
 protected:
     AboutWindowsTest() { start(); }
 

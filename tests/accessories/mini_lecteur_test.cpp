@@ -1,7 +1,7 @@
 // The small monitor player, which commands the main deck.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class MiniLecteurTest : public DeskBench {
+class MiniLecteurTest : public DeskFixture {
 protected:
     MiniLecteurTest() {
         start();

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 
-class TrackPropertiesOnAir : public ChainBench {
+class TrackPropertiesOnAir : public ChainFixture {
 protected:
     /// Cuts row 3 down to its seconds 20 to 80 by ear, while row 1 is on the air.
     void cut_third_row() {

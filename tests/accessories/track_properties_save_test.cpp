@@ -1,7 +1,7 @@
 // What the properties of a row save, and what keeps them from it.
 #include <gmock/gmock.h>
 
-#include "accessories/properties_bench.h"
+#include "accessories/properties_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class TrackPropertiesSaveTest : public PropertiesBench {};
+class TrackPropertiesSaveTest : public PropertiesFixture {};
 
 } // namespace
 

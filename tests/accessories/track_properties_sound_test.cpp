@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "audio/sound_bench.h"
+#include "audio/sound_fixture.h"
 #include "platform/random.h"
 #include "platform/simulated/simulated_dialogs.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -23,7 +23,7 @@ struct SoundingStation {
         station.list_window.a_modif.click();
     }
 
-    SoundBench sound;
+    SoundFixture sound;
     std::string wav = sound.folder.counting_wav("titre.wav", 30);
     SimulatedDisk disk{sound.time};
     SimulatedSettings settings;

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "accessories/properties_bench.h"
+#include "accessories/properties_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class TrackPropertiesTest : public PropertiesBench {};
+class TrackPropertiesTest : public PropertiesFixture {};
 
 } // namespace
 

@@ -5,9 +5,9 @@
 #include <fstream>
 #include <thread>
 
-#include "live_bench.h"
+#include "live_fixture.h"
 #include "platform/failure.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -17,7 +17,7 @@ std::vector<char> bytes_of(const std::string& path) {
     return {std::istreambuf_iterator<char>{file}, {}};
 }
 
-int open_failure(SoundBench& bench, const std::string& path) {
+int open_failure(SoundFixture& bench, const std::string& path) {
     try {
         (void)bench.graph(path);
         return 0;
@@ -28,17 +28,17 @@ int open_failure(SoundBench& bench, const std::string& path) {
 }
 
 TEST(BrokenFile, MissingIs53) {
-    SoundBench bench;
+    SoundFixture bench;
     EXPECT_EQ(open_failure(bench, bench.folder.path("nowhere.mp3")), 53);
 }
 
 TEST(BrokenFile, EmptyIsUnplayable) {
-    SoundBench bench;
+    SoundFixture bench;
     EXPECT_EQ(open_failure(bench, bench.folder.file("empty.mp3", {})), 1001);
 }
 
 TEST(BrokenFile, TextNamedMp3IsUnplayable) {
-    SoundBench bench;
+    SoundFixture bench;
     std::string text;
     for (int line = 0; line < 2000; ++line)
         text += "Ceci n'est pas une chanson, mais la ligne " + std::to_string(line) + ".\n";
@@ -46,27 +46,27 @@ TEST(BrokenFile, TextNamedMp3IsUnplayable) {
 }
 
 TEST(BrokenFile, AFolderIsUnplayable) {
-    SoundBench bench;
+    SoundFixture bench;
     std::filesystem::create_directory(bench.folder.path("x.mp3"));
     EXPECT_EQ(open_failure(bench, bench.folder.path("x.mp3")), 1001);
 }
 
 TEST(BrokenFile, APlaylistThatNamesAnotherFileIsUnplayable) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto song = bench.folder.counting_wav("a.wav", 1);
     const std::string list = "ffconcat version 1.0\nfile '" + song + "'\n";
     EXPECT_EQ(open_failure(bench, bench.folder.file("list.mp3", list)), 1001);
 }
 
 TEST(BrokenFile, AFailedRenderLeavesTheGraphEmpty) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     EXPECT_THROW(graph->RenderFile(bench.folder.path("nowhere.mp3")), Failure);
     EXPECT_EQ(graph->get_Duration(), 0);
 }
 
 TEST(BrokenFile, CutShortEndsWithItsSound) {
-    SoundBench bench;
+    SoundFixture bench;
     auto bytes = bytes_of(bench.folder.encoded("whole.mp3", 8, "-b:a 128k"));
     bytes.resize(bytes.size() / 2);
     const auto graph = bench.graph(bench.folder.file("cut.mp3", bytes));
@@ -80,7 +80,7 @@ TEST(BrokenFile, CutShortEndsWithItsSound) {
 }
 
 TEST(BrokenFile, ThatShrinksWhenItIsOpenIsSilentToItsAnnouncedEndAndReported) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.encoded("a.mp3", 8, "-b:a 320k");
     const auto graph = bench.graph(path);
     std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
@@ -97,7 +97,7 @@ TEST(BrokenFile, ThatShrinksWhenItIsOpenIsSilentToItsAnnouncedEndAndReported) {
 }
 
 /// A file that shrinks while its graph plays it.
-struct ShrinkingFile : SoundBench {
+struct ShrinkingFile : SoundFixture {
     ShrinkingFile() {
         const auto path = folder.encoded("a.mp3", 8, "-b:a 320k");
         playing = graph(path);
@@ -119,7 +119,7 @@ TEST(BrokenFile, IsReportedThoughItsGraphGoesRightBehindTheTrouble) {
 }
 
 TEST(BrokenFile, NoiseInTheMiddleIsPassedOverAndReported) {
-    SoundBench bench;
+    SoundFixture bench;
     auto bytes = bytes_of(bench.folder.encoded("whole.mp3", 8, "-b:a 128k"));
     unsigned noise = 1;
     for (std::size_t at = bytes.size() / 2; at < bytes.size() / 2 + 20000; ++at) {
@@ -136,7 +136,7 @@ TEST(BrokenFile, NoiseInTheMiddleIsPassedOverAndReported) {
 }
 
 TEST(BrokenFile, AWavWhoseHeadLiesHasTheLengthOfWhatItHolds) {
-    SoundBench bench;
+    SoundFixture bench;
     auto bytes = bytes_of(bench.folder.counting_wav("a.wav", 2));
     const std::uint32_t lie = 0x7FFFFFF0;
     std::memcpy(bytes.data() + 76, &lie, sizeof lie);
@@ -145,7 +145,7 @@ TEST(BrokenFile, AWavWhoseHeadLiesHasTheLengthOfWhatItHolds) {
 }
 
 TEST(BrokenFile, AWavOfZeroChannelsIsUnplayable) {
-    SoundBench bench;
+    SoundFixture bench;
     auto bytes = bytes_of(bench.folder.counting_wav("a.wav", 1));
     bytes[58] = 0;
     EXPECT_EQ(open_failure(bench, bench.folder.file("zero.wav", bytes)), 1001);
@@ -186,7 +186,7 @@ private:
 
 TEST(SlowDisk, IsSilentCatchesUpAndIsReported) {
     auto disk = std::make_shared<SlowFiles>();
-    LiveBench live{disk};
+    LiveFixture live{disk};
     const auto graph = live.graph(live.folder.counting_wav("a.wav", 20));
     EXPECT_DOUBLE_EQ(graph->get_Duration(), 20.0);
     live.go_on_air();
@@ -213,7 +213,7 @@ TEST(SlowDisk, IsSilentCatchesUpAndIsReported) {
 
 TEST(SlowDisk, ThatDoesNotAnswerInTimeFailsTheLoad) {
     auto disk = std::make_shared<SlowFiles>();
-    LiveBench live{disk};
+    LiveFixture live{disk};
     const auto path = live.folder.counting_wav("a.wav", 2);
     disk->delay_milliseconds = 3000;
     const auto graph = live.media.create_graph();
@@ -224,7 +224,7 @@ TEST(SlowDisk, ThatDoesNotAnswerInTimeFailsTheLoad) {
 
 TEST(SlowDisk, AGraphIsDroppedWithoutWaitingForIt) {
     auto disk = std::make_shared<SlowFiles>();
-    LiveBench live{disk};
+    LiveFixture live{disk};
     auto graph = live.graph(live.folder.counting_wav("a.wav", 20));
     live.go_on_air();
     live.live_for(milliseconds(100));
@@ -239,7 +239,7 @@ TEST(SlowDisk, AGraphIsDroppedWithoutWaitingForIt) {
 
 TEST(SlowDisk, ThatFailsIsAnEarlyEnd) {
     auto disk = std::make_shared<SlowFiles>();
-    SoundBench bench{disk};
+    SoundFixture bench{disk};
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 5));
     graph->Run();
     bench.run_for(seconds(1));

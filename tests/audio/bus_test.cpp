@@ -4,7 +4,7 @@
 #include "platform/audio/limiter.h"
 #include "platform/audio/wav_file_output.h"
 #include "real_time_watch.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -138,7 +138,7 @@ TEST(ProgrammeBus, TellsTheFrameOnWhichALongSilenceEnded) {
 }
 
 TEST(ProgrammeBus, IsSilentFromItsLastLoudFrameOn) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     graph->Run();
     bench.run_for(seconds(1));
@@ -150,7 +150,7 @@ TEST(ProgrammeBus, IsSilentFromItsLastLoudFrameOn) {
 
 TEST(ProgrammeBus, IsSilentBehindTheLastFrameInWhichOneChannelSounded) {
     for (const std::size_t channel : {0U, 1U}) {
-        SoundBench bench;
+        SoundFixture bench;
         std::vector<float> frames(2 * 5000);
         for (std::size_t frame = 0; frame < 4321; ++frame)
             frames[2 * frame + channel] = 0.5F;
@@ -165,7 +165,7 @@ TEST(ProgrammeBus, IsSilentBehindTheLastFrameInWhichOneChannelSounded) {
 }
 
 TEST(ProgrammeBus, CountsASilenceOfJustTwoSecondsAsLong) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
     bench.time.at(seconds(2), [&] { graph->Run(); });
     bench.run_for(seconds(3));
@@ -173,7 +173,7 @@ TEST(ProgrammeBus, CountsASilenceOfJustTwoSecondsAsLong) {
 }
 
 TEST(ProgrammeBus, TellsWhereALongSilenceEnded) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
     bench.time.at(seconds(3), [&] { graph->Run(); });
     bench.run_for(seconds(4));
@@ -181,7 +181,7 @@ TEST(ProgrammeBus, TellsWhereALongSilenceEnded) {
 }
 
 TEST(ProgrammeBus, TakesSoundBelowMinusSixtyDecibelsForSilence) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 10));
     graph->put_Volume(Millibel{-9000});
     graph->Run();
@@ -219,7 +219,7 @@ TEST(Limiter, IsTransparentAgainAfterALoudPlace) {
 }
 
 TEST(BusTaps, ShowPeakAndTheNewestFrames) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
     graph->Run();
     bench.run_for(Frames{20000});

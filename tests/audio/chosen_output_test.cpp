@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "live_bench.h"
+#include "live_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -16,7 +16,7 @@ protected:
         return card.heard().size() > before;
     }
 
-    LiveBench live;
+    LiveFixture live;
 };
 
 TEST_F(ChosenOutput, AnotherDeviceIsTakenOnTheAir) {

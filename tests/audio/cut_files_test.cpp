@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "platform/failure.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {

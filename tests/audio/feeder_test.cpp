@@ -3,7 +3,7 @@
 #include <fstream>
 
 #include "platform/audio/feeder.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {

@@ -3,7 +3,7 @@
 #include "platform/audio/gain.h"
 #include "platform/audio/silent_media.h"
 #include "platform/failure.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -28,7 +28,7 @@ std::string named_by_failure(Media& media, std::string_view path) {
 }
 
 TEST(SoundGraph, NamesAFileThatCantBeOpenedAsTheStationDoes) {
-    SoundBench bench;
+    SoundFixture bench;
     constexpr std::string_view name = "C:\\Musique\\absent.mp3";
     const auto files = std::make_shared<MachineFiles>();
     const auto resolve = [&](std::string_view) { return bench.folder.path("absent.mp3"); };
@@ -39,7 +39,7 @@ TEST(SoundGraph, NamesAFileThatCantBeOpenedAsTheStationDoes) {
 }
 
 TEST(SoundGraph, IsHeardFromTheFrameOfRunOn) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     bench.run_for(Frames{1001});
     graph->Run();
@@ -50,7 +50,7 @@ TEST(SoundGraph, IsHeardFromTheFrameOfRunOn) {
 }
 
 TEST(SoundGraph, PositionGoesWithTheClockAndStandsAtTheEnd) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1.5));
     graph->Run();
     bench.run_for(seconds(1));
@@ -61,7 +61,7 @@ TEST(SoundGraph, PositionGoesWithTheClockAndStandsAtTheEnd) {
 }
 
 TEST(SoundGraph, IsSilentBehindItsEnd) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 0.5));
     graph->Run();
     bench.run_for(seconds(1));
@@ -70,7 +70,7 @@ TEST(SoundGraph, IsSilentBehindItsEnd) {
 }
 
 TEST(SoundGraph, GoesOnAfterAPauseWithTheNextFrame) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
     graph->Run();
     bench.run_for(Frames{20000});
@@ -84,7 +84,7 @@ TEST(SoundGraph, GoesOnAfterAPauseWithTheNextFrame) {
 }
 
 TEST(SoundGraph, StopDoesNotRewind) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
     graph->Run();
     bench.run_for(seconds(1));
@@ -94,7 +94,7 @@ TEST(SoundGraph, StopDoesNotRewind) {
 }
 
 TEST(SoundGraph, SeeksToTheSampleWhileItRuns) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
     graph->Run();
     bench.run_for(Frames{10000});
@@ -106,7 +106,7 @@ TEST(SoundGraph, SeeksToTheSampleWhileItRuns) {
 }
 
 TEST(SoundGraph, PlaysAnMp3FromAnyPlaceAsDecodingFromTheStartHasIt) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.encoded("a.mp3", 6, "-q:a 3");
     const auto whole = decoded(path);
     const auto graph = bench.graph(path);
@@ -117,7 +117,7 @@ TEST(SoundGraph, PlaysAnMp3FromAnyPlaceAsDecodingFromTheStartHasIt) {
 }
 
 TEST(SoundGraph, SeekBehindTheEndStandsAtTheEnd) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     graph->Run();
     graph->put_CurrentPosition(5);
@@ -127,7 +127,7 @@ TEST(SoundGraph, SeekBehindTheEndStandsAtTheEnd) {
 }
 
 TEST(SoundGraph, TwoSeeksOfOneInstantPlayTheSecond) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
     graph->Run();
     graph->put_CurrentPosition(2.0);
@@ -137,7 +137,7 @@ TEST(SoundGraph, TwoSeeksOfOneInstantPlayTheSecond) {
 }
 
 TEST(SoundGraph, AVolumeSetBeforeRunHoldsFromTheFirstFrame) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     graph->put_Volume(Millibel{-2000});
     graph->Run();
@@ -146,7 +146,7 @@ TEST(SoundGraph, AVolumeSetBeforeRunHoldsFromTheFirstFrame) {
 }
 
 TEST(SoundGraph, AVolumeSetWhileRunningIsReachedInTenMilliseconds) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     graph->Run();
     bench.run_for(Frames{1000});
@@ -158,7 +158,7 @@ TEST(SoundGraph, AVolumeSetWhileRunningIsReachedInTenMilliseconds) {
 }
 
 TEST(SoundGraph, VolumeOutsideItsRangeIsRefused) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
     EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{1}); }), 5);
     EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{-10001}); }), 5);
@@ -166,13 +166,13 @@ TEST(SoundGraph, VolumeOutsideItsRangeIsRefused) {
 }
 
 TEST(SoundGraph, VolumeOfASilentFilmIsRefused) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.graph(bench.folder.encoded("film.mpg", 1, "-f lavfi -i testsrc=d=1:s=64x48 -map 1:v"));
     EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{0}); }), 5);
 }
 
 TEST(SoundGraph, DroppedIsSilentWithinTenMillisecondsWithoutAClick) {
-    SoundBench bench;
+    SoundFixture bench;
     auto graph = bench.graph(bench.folder.encoded("tone.wav", 2, "-ar 48000"));
     graph->Run();
     bench.run_for(Frames{12345});
@@ -186,7 +186,7 @@ TEST(SoundGraph, DroppedIsSilentWithinTenMillisecondsWithoutAClick) {
 }
 
 TEST(SoundGraph, EmptyHasNoLengthAndRunningItDoesNothing) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto graph = bench.media.create_graph();
     graph->Run();
     EXPECT_EQ(graph->get_Duration(), 0);
@@ -195,7 +195,7 @@ TEST(SoundGraph, EmptyHasNoLengthAndRunningItDoesNothing) {
 }
 
 TEST(SoundGraph, SeveralSoundAtOnceAsTheirSum) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.counting_wav("a.wav", 1);
     const auto first = bench.graph(path);
     const auto second = bench.graph(path);
@@ -217,7 +217,7 @@ TEST(SoundGraph, TheNextGraphTakesOverAFileThatWasOpenedAndNotPlayed) {
         }
     };
     auto files = std::make_shared<CountingFiles>();
-    SoundBench bench{files};
+    SoundFixture bench{files};
     const auto path = bench.folder.counting_wav("a.wav", 1);
     auto graph = bench.graph(path);
     for (int again = 0; again < 3; ++again) {
@@ -231,7 +231,7 @@ TEST(SoundGraph, TheNextGraphTakesOverAFileThatWasOpenedAndNotPlayed) {
 }
 
 TEST(SoundGraph, AChangedFileIsOpenedAnew) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.counting_wav("a.wav", 1);
     auto graph = bench.graph(path);
     EXPECT_DOUBLE_EQ(graph->get_Duration(), 1.0);
@@ -241,7 +241,7 @@ TEST(SoundGraph, AChangedFileIsOpenedAnew) {
 }
 
 TEST(SoundGraph, AFileThatChangedBehindItsPreparationIsOpenedAnew) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.counting_wav("a.wav", 1);
     (void)bench.graph(path); // given up unplayed
     bench.folder.counting_wav("a.wav", 2);
@@ -249,7 +249,7 @@ TEST(SoundGraph, AFileThatChangedBehindItsPreparationIsOpenedAnew) {
 }
 
 TEST(SoundGraph, MayBeDroppedByTheHundredInOneInstant) {
-    SoundBench bench;
+    SoundFixture bench;
     const auto path = bench.folder.counting_wav("a.wav", 1);
     for (int count = 0; count < 300; ++count)
         bench.graph(path)->Run();

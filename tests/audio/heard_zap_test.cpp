@@ -4,9 +4,9 @@
 #include <cmath>
 #include <tuple>
 
-#include "air_bench.h"
+#include "air_fixture.h"
 #include "platform/audio/gain.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -84,8 +84,8 @@ protected:
     }
 
     std::shared_ptr<ToneTracks> tracks = std::make_shared<ToneTracks>();
-    SoundBench sound{tracks};
-    AirBench air{sound.time, sound.scheduler, sound.media, tracks};
+    SoundFixture sound{tracks};
+    AirFixture air{sound.time, sound.scheduler, sound.media, tracks};
 };
 
 using AcceptedZap = ZapHeard;

@@ -4,15 +4,15 @@
 #include <algorithm>
 #include <thread>
 
-#include "live_bench.h"
+#include "live_fixture.h"
 
 namespace sonarelle {
 namespace {
 
 using namespace std::chrono_literals;
 
-void expect_the_rehearsal(LiveBench& live) {
-    SoundBench rehearsal;
+void expect_the_rehearsal(LiveFixture& live) {
+    SoundFixture rehearsal;
     ThreeGraphs::make_files(rehearsal.folder);
     const ThreeGraphs rehearsed{rehearsal.scheduler, rehearsal.media, rehearsal.folder};
     rehearsal.run_for(ThreeGraphs::length);
@@ -28,19 +28,19 @@ void expect_the_rehearsal(LiveBench& live) {
 }
 
 TEST(LiveDriver, SoundsLikeTheRehearsalSampleForSample) {
-    LiveBench live;
+    LiveFixture live;
     expect_the_rehearsal(live);
 }
 
 TEST(LiveDriver, SoundsLikeTheRehearsalOnACardThatTakesSeveralBlocksAtOnce) {
-    LiveBench live;
+    LiveFixture live;
     live.card->block_frames = 2048;
     live.card->blocks_at_once = 2;
     expect_the_rehearsal(live);
 }
 
 TEST(LiveDriver, IsTheGreatestBurstAndOneBlockAhead) {
-    LiveBench live;
+    LiveFixture live;
     live.card->block_frames = 2048;
     live.card->blocks_at_once = 3;
     EXPECT_EQ(live.driver.lead(), milliseconds(50));
@@ -50,7 +50,7 @@ TEST(LiveDriver, IsTheGreatestBurstAndOneBlockAhead) {
 }
 
 TEST(LiveDriver, RunsEachTickOnItsDueFrameAheadOfTheBus) {
-    LiveBench live;
+    LiveFixture live;
     Timer timer{"Timer1", 1, live.scheduler};
     std::vector<Frames> due;
     bool ahead = true;
@@ -68,7 +68,7 @@ TEST(LiveDriver, RunsEachTickOnItsDueFrameAheadOfTheBus) {
 }
 
 TEST(LiveDriver, RunsMissedTicksEachWithItsOwnDueFrame) {
-    LiveBench live;
+    LiveFixture live;
     Timer timer{"Timer1", 1, live.scheduler};
     std::vector<Frames> due;
     timer.set_interval(Integer{50});
@@ -85,7 +85,7 @@ TEST(LiveDriver, RunsMissedTicksEachWithItsOwnDueFrame) {
 }
 
 TEST(LiveDriver, ALateRunMovesNowToTheFrameOnWhichItIsHeard) {
-    LiveBench live;
+    LiveFixture live;
     const auto graph = live.graph(live.folder.counting_wav("a.wav", 3));
     Timer timer{"Timer1", 1, live.scheduler};
     Frames due;
@@ -110,7 +110,7 @@ TEST(LiveDriver, ALateRunMovesNowToTheFrameOnWhichItIsHeard) {
 }
 
 TEST(LiveDriver, ALateStopOrVolumeLeavesNowAlone) {
-    LiveBench live;
+    LiveFixture live;
     const auto graph = live.graph(live.folder.counting_wav("a.wav", 3));
     Timer timer{"Timer1", 1, live.scheduler};
     bool done = false;
@@ -131,7 +131,7 @@ TEST(LiveDriver, ALateStopOrVolumeLeavesNowAlone) {
 }
 
 TEST(LiveDriver, StampsTheOperatorAheadOfTheBusAndLandsThere) {
-    LiveBench live;
+    LiveFixture live;
     const auto graph = live.graph(live.folder.counting_wav("a.wav", 3));
     live.go_on_air();
     live.live_for(milliseconds(200));
@@ -148,7 +148,7 @@ TEST(LiveDriver, StampsTheOperatorAheadOfTheBusAndLandsThere) {
 }
 
 TEST(LiveDriver, TakesEventsFromOtherThreadsInOrder) {
-    LiveBench live;
+    LiveFixture live;
     std::vector<int> order;
     std::thread other{[&] {
         for (int event = 0; event < 20; ++event)
@@ -168,7 +168,7 @@ bool wakes(const LiveDriver& driver) {
 }
 
 TEST(LiveDriver, PostedEventWakesTheLoopThatSleeps) {
-    LiveBench live;
+    LiveFixture live;
     live.driver.post([] {});
     EXPECT_TRUE(wakes(live.driver));
     static_cast<void>(live.driver.poll());
@@ -176,13 +176,13 @@ TEST(LiveDriver, PostedEventWakesTheLoopThatSleeps) {
 }
 
 TEST(LiveDriver, StopWakesTheLoopThatSleeps) {
-    LiveBench live;
+    LiveFixture live;
     live.driver.stop();
     EXPECT_TRUE(wakes(live.driver));
 }
 
 TEST(LiveDriver, OtherTimersRunOnWhileOneWaits) {
-    LiveBench live;
+    LiveFixture live;
     Timer waiting{"Timer2", 2, live.scheduler};
     Timer other{"Timer1", 1, live.scheduler};
     int ticks_meanwhile = 0;
@@ -206,7 +206,7 @@ TEST(LiveDriver, OtherTimersRunOnWhileOneWaits) {
 }
 
 TEST(LiveDriver, LongWorkLetsOtherTimersAndTheOperatorInWhereItYields) {
-    LiveBench live;
+    LiveFixture live;
     Timer working{"Timer2", 2, live.scheduler};
     Timer other{"Timer1", 1, live.scheduler};
     bool works = false;

@@ -1,26 +1,26 @@
 #include <gtest/gtest.h>
 
-#include "live_bench.h"
+#include "live_fixture.h"
 
 namespace sonarelle {
 namespace {
 
 TEST(LiveOutput, WithoutADeviceTheClockPaces) {
-    LiveBench live;
+    LiveFixture live;
     live.output = std::make_unique<LiveOutput>(live.bus, nullptr, "", nullptr);
     live.live_for(milliseconds(200));
     EXPECT_EQ(live.output->state(), OutputState::paced);
 }
 
 TEST(LiveOutput, TheFirstFramesGoToADeviceThatIsSlowToOpen) {
-    LiveBench live;
+    LiveFixture live;
     live.go_on_air();
     live.live_until([&] { return live.output->state() != OutputState::opening; });
     EXPECT_EQ(live.output->state(), OutputState::playing);
 }
 
 TEST(LiveOutput, TheCountGoesOnWhenTheDeviceDiesAndTheDeviceIsTakenBack) {
-    LiveBench live;
+    LiveFixture live;
     live.go_on_air();
     live.live_until([&] { return live.output->state() == OutputState::playing; });
     live.card->absent = true;
@@ -35,7 +35,7 @@ TEST(LiveOutput, TheCountGoesOnWhenTheDeviceDiesAndTheDeviceIsTakenBack) {
 }
 
 TEST(LiveOutput, TheCountGoesOnWhileTheDeviceHangs) {
-    LiveBench live;
+    LiveFixture live;
     live.go_on_air();
     live.live_until([&] { return live.output->state() == OutputState::playing; });
     live.card->hanging = true;
@@ -47,7 +47,7 @@ TEST(LiveOutput, TheCountGoesOnWhileTheDeviceHangs) {
 }
 
 TEST(LiveOutput, ADeviceThatHangsForLongIsOpenedAnew) {
-    LiveBench live;
+    LiveFixture live;
     live.go_on_air();
     live.live_until([&] { return live.output->state() == OutputState::playing; });
     live.card->hanging = true;
@@ -57,7 +57,7 @@ TEST(LiveOutput, ADeviceThatHangsForLongIsOpenedAnew) {
 }
 
 TEST(LiveOutput, ADeviceThatTakesAFifthOfASecondAtOnceHasNotStopped) {
-    LiveBench live;
+    LiveFixture live;
     live.card->block_frames = 2048;
     live.card->blocks_at_once = 5;
     live.go_on_air();
@@ -66,7 +66,7 @@ TEST(LiveOutput, ADeviceThatTakesAFifthOfASecondAtOnceHasNotStopped) {
 }
 
 TEST(LiveOutput, ADeviceThatIsMissingAtFirstIsTakenWhenItComes) {
-    LiveBench live;
+    LiveFixture live;
     live.card->absent = true;
     live.go_on_air();
     live.live_until([&] { return live.output->state() == OutputState::paced; });
@@ -76,7 +76,7 @@ TEST(LiveOutput, ADeviceThatIsMissingAtFirstIsTakenWhenItComes) {
 }
 
 TEST(LiveOutput, ARunningGraphIsWhereTheClockSaysAfterALoss) {
-    LiveBench live;
+    LiveFixture live;
     const auto graph = live.graph(live.folder.counting_wav("a.wav", 20));
     live.go_on_air();
     live.live_for(milliseconds(100));
@@ -98,7 +98,7 @@ TEST(LiveOutput, ARunningGraphIsWhereTheClockSaysAfterALoss) {
 }
 
 TEST(LiveOutput, TellsTheGapsOfADevice) {
-    LiveBench live;
+    LiveFixture live;
     live.go_on_air();
     live.live_for(seconds(3));
     live.card->falls_behind = 60;
@@ -108,7 +108,7 @@ TEST(LiveOutput, TellsTheGapsOfADevice) {
 }
 
 TEST(LiveOutput, TheLossOfADeviceDoesNotMoveTheTicks) {
-    LiveBench live;
+    LiveFixture live;
     Timer timer{"Timer1", 1, live.scheduler};
     std::vector<Frames> due;
     timer.set_interval(Integer{100});

@@ -1,12 +1,12 @@
 // Zaps and a held window thread of a whole station on the air.
 #include <gtest/gtest.h>
 
-#include "live_air_bench.h"
+#include "live_air_fixture.h"
 
 namespace sonarelle {
 namespace {
 
-void expect_a_zap_within_the_lead(LiveAirBench& bench) {
+void expect_a_zap_within_the_lead(LiveAirFixture& bench) {
     bench.air.open_tracks(3, 200);
     bench.begin_in_option(1);
     bench.live.go_on_air();
@@ -20,12 +20,12 @@ void expect_a_zap_within_the_lead(LiveAirBench& bench) {
 }
 
 TEST(LiveStation, HearsAZapWithinTheLeadAndOneBlock) {
-    LiveAirBench bench;
+    LiveAirFixture bench;
     expect_a_zap_within_the_lead(bench);
 }
 
 TEST(LiveStation, HearsAZapWithinTheLeadOnACardThatTakesSeveralBlocksAtOnce) {
-    LiveAirBench bench;
+    LiveAirFixture bench;
     bench.live.card->block_frames = 2048;
     bench.live.card->blocks_at_once = 3;
     expect_a_zap_within_the_lead(bench);

@@ -11,7 +11,7 @@
 #include <unistd.h>
 
 #include "real_time_watch.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] Frames rendered() const { return bench_.bus.rendered(); }
 
 private:
-    SoundBench bench_;
+    SoundFixture bench_;
     std::vector<std::shared_ptr<MediaGraph>> graphs_;
     std::vector<float> out_ = std::vector<float>(512);
 };

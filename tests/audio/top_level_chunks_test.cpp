@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "platform/audio/wav_file_output.h"
 #include "platform/failure.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 namespace {

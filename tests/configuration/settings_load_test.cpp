@@ -1,6 +1,6 @@
 #include "configuration/settings_load.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view config = "Config";
 constexpr std::string_view colours = "Couleur_liste";
 
-class SettingsLoadTest : public StationBench {
+class SettingsLoadTest : public StationFixture {
 protected:
     void set(std::string_view section, std::string_view key, std::string_view value) {
         machine.settings.SaveSetting(settings_application, section, key, value);

@@ -2,13 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class SettingsRewriteTest : public StationBench {
+class SettingsRewriteTest : public StationFixture {
 protected:
     [[nodiscard]] std::string stored(std::string_view section, std::string_view key) {
         return machine.settings.GetSetting(settings_application, section, key, "(absent)");

@@ -1,7 +1,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/dresser.h"
 #include "desktop/qt_text.h"
 
@@ -24,7 +24,7 @@ struct Feuille : Window {
     int typed = 0;
 };
 
-class AccessKeys : public DesktopBench {
+class AccessKeys : public DesktopFixture {
 protected:
     AccessKeys() {
         Dresser dresser{view};

@@ -2,7 +2,7 @@
 #include "desktop/air_header.h"
 
 #include "desktop/colours.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/main_view.h"
 #include "desktop/pixels.h"
 #include "platform/scheduler.h"
@@ -11,7 +11,7 @@ namespace sonarelle {
 
 namespace {
 
-class AirHeaderTest : public DesktopBench {
+class AirHeaderTest : public DesktopFixture {
 protected:
     AirHeaderTest() {
         main_window.show();

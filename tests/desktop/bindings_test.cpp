@@ -2,7 +2,7 @@
 
 #include "desktop/button_bindings.h"
 #include "desktop/colours.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/range_bindings.h"
 #include "desktop/text_bindings.h"
 
@@ -10,14 +10,14 @@ namespace sonarelle {
 
 namespace {
 
-using AnyBinding = DesktopBench;
-using LabelBindings = DesktopBench;
-using TextBoxBindings = DesktopBench;
-using ButtonBindings = DesktopBench;
-using ImageBindings = DesktopBench;
-using SliderBindings = DesktopBench;
-using ProgressBindings = DesktopBench;
-using RichTextBindings = DesktopBench;
+using AnyBinding = DesktopFixture;
+using LabelBindings = DesktopFixture;
+using TextBoxBindings = DesktopFixture;
+using ButtonBindings = DesktopFixture;
+using ImageBindings = DesktopFixture;
+using SliderBindings = DesktopFixture;
+using ProgressBindings = DesktopFixture;
+using RichTextBindings = DesktopFixture;
 
 class CountingShown : public Shown {
 public:

@@ -2,14 +2,14 @@
 #include <QTest>
 
 #include "desktop/button_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
 /// Pictures of one colour each, in a folder of their own.
-class Faces : public DesktopBench {
+class Faces : public DesktopFixture {
 protected:
     [[nodiscard]] std::string put(const QString& name, const QColor& colour) {
         QPixmap picture{40, 40};

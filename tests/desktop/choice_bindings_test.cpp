@@ -1,16 +1,16 @@
 #include <QTest>
 
 #include "desktop/choice_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-using CheckBoxBindings = DesktopBench;
-using OptionBindings = DesktopBench;
-using ComboBoxBindings = DesktopBench;
-using ListBoxBindings = DesktopBench;
+using CheckBoxBindings = DesktopFixture;
+using OptionBindings = DesktopFixture;
+using ComboBoxBindings = DesktopFixture;
+using ListBoxBindings = DesktopFixture;
 
 TEST_F(CheckBoxBindings, ValueIsShown) {
     CheckBox box{window, "c", "Préchargement"};

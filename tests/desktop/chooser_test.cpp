@@ -3,14 +3,14 @@
 #include <QWheelEvent>
 
 #include "desktop/choice_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
 /// A box whose entries can be chosen and whose text can't be typed, with the keyboard.
-class ChooserBindings : public DesktopBench {
+class ChooserBindings : public DesktopFixture {
 protected:
     ChooserBindings() {
         box.items = {"un", "deux"};

@@ -3,14 +3,14 @@
 #include <QFontDialog>
 #include <QTimer>
 
-#include "desktop/desktop_bench.h"
 #include "desktop/desktop_dialogs.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class ChoosingBoxes : public DesktopBench {
+class ChoosingBoxes : public DesktopFixture {
 protected:
     /// The operator's hand in the box that comes next.
     template <typename Box>

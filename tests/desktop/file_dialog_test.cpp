@@ -2,16 +2,16 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "desktop/desktop_bench.h"
 #include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_file_dialog.h"
+#include "desktop/desktop_fixture.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
 
 namespace {
 
-using FileDialogOnView = DesktopBench;
+using FileDialogOnView = DesktopFixture;
 
 PathForms same_paths() {
     const auto same = [](const std::string& path) { return path; };
@@ -19,7 +19,7 @@ PathForms same_paths() {
 }
 
 /// Two folders of the station on this machine, and where a dialog that is told of a folder and a file begins.
-class FileDialogBegins : public DesktopBench {
+class FileDialogBegins : public DesktopFixture {
 protected:
     [[nodiscard]] QString at(const std::string& folder, const std::string& file) {
         const auto to_machine = [this](const std::string& path) {

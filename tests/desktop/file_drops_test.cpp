@@ -6,7 +6,7 @@
 #include <QUrl>
 
 #include "desktop/button_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
@@ -14,7 +14,7 @@ namespace sonarelle {
 namespace {
 
 /// A button that takes files, and what it got.
-class FileDropsOnAButton : public DesktopBench {
+class FileDropsOnAButton : public DesktopFixture {
 protected:
     FileDropsOnAButton() {
         services.paths.to_station = [](const std::string& path) {

@@ -5,14 +5,14 @@
 #include <QSlider>
 
 #include "desktop/colours.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
 /// How a widget shows that the keyboard is with it.
-class Focus : public DesktopBench {
+class Focus : public DesktopFixture {
 protected:
     /// Pixels in the colour of the focus, with the focus there.
     [[nodiscard]] int marked(QWidget& widget) {

@@ -1,13 +1,13 @@
 #include <QLineEdit>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/plain_views.h"
 
 namespace sonarelle {
 
 namespace {
 
-using FormView = DesktopBench;
+using FormView = DesktopFixture;
 
 } // namespace
 

@@ -1,14 +1,14 @@
 #include <QInputDialog>
 #include <QTimer>
 
-#include "desktop/desktop_bench.h"
 #include "desktop/desktop_dialogs.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-using InputBoxOnScreen = DesktopBench;
+using InputBoxOnScreen = DesktopFixture;
 
 } // namespace
 

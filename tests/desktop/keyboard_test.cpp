@@ -3,7 +3,7 @@
 #include <QComboBox>
 #include <QMenu>
 
-#include "desktop/whole_desk_bench.h"
+#include "desktop/whole_desk_fixture.h"
 
 namespace sonarelle {
 

@@ -3,7 +3,7 @@
 #include <QMenuBar>
 
 #include "desktop/mnemonics.h"
-#include "desktop/whole_desk_bench.h"
+#include "desktop/whole_desk_fixture.h"
 
 namespace sonarelle {
 

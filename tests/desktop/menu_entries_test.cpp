@@ -1,7 +1,7 @@
 // What an entry of a menu shows of the station's.
 #include <QMenu>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
 #include "desktop/window_view.h"
 
@@ -24,7 +24,7 @@ struct Carte : Window {
     MenuItem Vider{*this, "Vider", "Vider"};
 };
 
-class MenuEntries : public DesktopBench {
+class MenuEntries : public DesktopFixture {
 protected:
     [[nodiscard]] QAction& shown(MenuItem& item) { return view.menus().action(item); }
 

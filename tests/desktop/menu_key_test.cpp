@@ -1,7 +1,7 @@
 // The menus without a mouse.
 #include <QTest>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/window_view.h"
 
 namespace sonarelle {
@@ -22,7 +22,7 @@ struct Feuille : Window {
     MenuItem Info{*this, "Info", "Info"};
 };
 
-class Keyboard : public DesktopBench {
+class Keyboard : public DesktopFixture {
 protected:
     void show() {
         feuille.show();

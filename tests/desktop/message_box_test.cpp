@@ -4,8 +4,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "desktop/desktop_bench.h"
 #include "desktop/desktop_dialogs.h"
+#include "desktop/desktop_fixture.h"
 
 namespace sonarelle {
 
@@ -13,7 +13,7 @@ namespace {
 
 using Standard = QMessageBox::StandardButton;
 
-class MessageBoxOnScreen : public DesktopBench {
+class MessageBoxOnScreen : public DesktopFixture {
 protected:
     /// What the station hears when the operator does this in its box.
     Answer answer_to(const MessageBox& asked, std::function<void(QMessageBox&)> act) {

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "desktop/button_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
 #include "desktop/qt_text.h"
 
@@ -30,7 +30,7 @@ QByteArray gif(const QColor& colour, bool moves) {
     return bytes.append(';');
 }
 
-class Banner : public DesktopBench {
+class Banner : public DesktopFixture {
 protected:
     Banner() {
         label.resize(40, 10);
@@ -57,7 +57,7 @@ protected:
     MovieBinding binding{movie, label, of_banner};
 };
 
-using FrameBindings = DesktopBench;
+using FrameBindings = DesktopFixture;
 
 } // namespace
 

@@ -1,12 +1,12 @@
 // Where windows come on the screen.
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/window_view.h"
 
 namespace sonarelle {
 
 namespace {
 
-class WindowPlaces : public DesktopBench {
+class WindowPlaces : public DesktopFixture {
 protected:
     WindowView view{window, services, {300, 200}};
 };

@@ -3,14 +3,14 @@
 
 #include <QTest>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
 
 namespace sonarelle {
 
 namespace {
 
-class Strip : public DesktopBench {
+class Strip : public DesktopFixture {
 protected:
     Strip() {
         strip.resize(200, 20);

@@ -2,14 +2,14 @@
 #include <QTest>
 #include <set>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/row_table_binding.h"
 
 namespace sonarelle {
 
 namespace {
 
-class TableView : public DesktopBench {
+class TableView : public DesktopFixture {
 protected:
     void fill(int count) {
         for (int row = 1; row <= count; ++row)

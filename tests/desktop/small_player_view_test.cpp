@@ -1,6 +1,6 @@
 // The small player on the screen: what it says, and its keys.
 #include "desktop/station_label.h"
-#include "desktop/whole_desk_bench.h"
+#include "desktop/whole_desk_fixture.h"
 
 namespace sonarelle {
 

@@ -2,7 +2,7 @@
 #include <QTest>
 #include <vector>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/level_meter.h"
 #include "desktop/pixels.h"
 #include "desktop/sound_picture.h"
@@ -38,7 +38,7 @@ struct Source {
     }
 };
 
-class Meter : public DesktopBench {
+class Meter : public DesktopFixture {
 protected:
     Meter() {
         meter.resize(106, 100); // two bars of 50
@@ -66,7 +66,7 @@ protected:
     std::vector<std::string> told;
 };
 
-class SoundPictures : public DesktopBench {
+class SoundPictures : public DesktopFixture {
 protected:
     SoundPictures() { view.resize(200, 100); }
     void show_running() {

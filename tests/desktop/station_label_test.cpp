@@ -4,7 +4,7 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/panel.h"
 #include "desktop/pixels.h"
 #include "desktop/station_label.h"
@@ -20,7 +20,7 @@ constexpr QColor olive{79, 70, 0};
 constexpr QColor deep_blue{0, 0, 255};
 
 /// One text on a panel.
-class Texts : public DesktopBench {
+class Texts : public DesktopFixture {
 protected:
     StationLabel& put(const StationLabel::Style& style, const QString& text) {
         auto* label = new StationLabel{style, &panel};

@@ -7,7 +7,7 @@
 
 #include "configuration/painting.h"
 #include "desktop/desktop.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
 #include "desktop/pixels.h"
@@ -31,7 +31,7 @@ inline constexpr Theme themes[]{{"first start", 0x0F0F0F, desktop_text, 0xFFFFFF
                                 {"hiver", 16777215, 16777215, 16777215, 16033024, 12615680, 12615680}};
 
 /// The station's windows without a screen, over a simulated machine.
-class StationViews : public DesktopBench {
+class StationViews : public DesktopFixture {
 protected:
     StationViews() {
         SettingsStore{machine.settings, "C:\\Sonarelle", DecimalMark::point}.write_column(&SettingRow::first);

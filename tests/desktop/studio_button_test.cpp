@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "desktop/button_bindings.h"
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/panel.h"
 #include "desktop/pixels.h"
 #include "desktop/station_views.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array accents{Accent::none, Accent::air, Accent::next, Accent::trouble};
 
-class StudioButtons : public DesktopBench {
+class StudioButtons : public DesktopFixture {
 protected:
     StudioButtons() {
         QFont font = button.font();

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
 
 namespace sonarelle {
@@ -16,7 +16,7 @@ QString turned(const QString& title) {
     return title.right(kept) + title.left(1);
 }
 
-class Titles : public DesktopBench {
+class Titles : public DesktopFixture {
 protected:
     void show(int width) {
         label.resize(width, 30);

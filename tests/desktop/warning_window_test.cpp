@@ -1,7 +1,7 @@
 // The keys of the warning window, which comes up by itself while the station is on the air.
 #include <QAbstractButton>
 
-#include "desktop/whole_desk_bench.h"
+#include "desktop/whole_desk_fixture.h"
 
 namespace sonarelle {
 

@@ -2,7 +2,7 @@
 #include <QTest>
 #include <QWindow>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/dresser.h"
 #include "desktop/window_view.h"
 
@@ -10,7 +10,7 @@ namespace sonarelle {
 
 namespace {
 
-class StateOfAWindow : public DesktopBench {
+class StateOfAWindow : public DesktopFixture {
 protected:
     void show() {
         window.show();

@@ -1,7 +1,7 @@
 #include <QTest>
 #include <QWindow>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/dresser.h"
 #include "desktop/window_view.h"
 
@@ -23,7 +23,7 @@ struct Feuille : Window {
     GraphicButton bouton{*this, "bouton", "Lecture"};
 };
 
-class View : public DesktopBench {
+class View : public DesktopFixture {
 protected:
     void show() {
         feuille.show();

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(HostDiskKill, RemovesAFileIgnoringCase) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Titre.mp3");
     bench.disk.Kill("D:\\TITRE.MP3");
 
@@ -22,7 +22,7 @@ TEST(HostDiskKill, RemovesAFileIgnoringCase) {
 }
 
 TEST(HostDiskKill, RemovesAllFilesOfAPattern) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const char* name : {"a.tmp", "b.TMP", "c.mp3"})
         bench.folder.put(name);
     bench.disk.Kill("D:\\*.tmp");
@@ -31,21 +31,21 @@ TEST(HostDiskKill, RemovesAllFilesOfAPattern) {
 }
 
 TEST(HostDiskKill, MissingFileFails) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\absent"); }), 53);
     EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\*.tmp"); }), 53);
 }
 
 TEST(HostDiskKill, FolderIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
 
     EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\un"); }), 75);
 }
 
 TEST(HostDiskKill, RemovesALinkAndNotWhatItPointsTo) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
     bench.disk.Kill("D:\\lien.mp3");
@@ -54,7 +54,7 @@ TEST(HostDiskKill, RemovesALinkAndNotWhatItPointsTo) {
 }
 
 TEST(HostDiskName, RenamesIntoAnotherFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", "son");
     bench.folder.put_folder("Autre");
     bench.disk.Name("D:\\A.mp3", "D:\\autre\\B.mp3");
@@ -64,7 +64,7 @@ TEST(HostDiskName, RenamesIntoAnotherFolder) {
 }
 
 TEST(HostDiskName, RenamesAFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/x");
     bench.disk.Name("D:\\un", "D:\\deux");
 
@@ -72,7 +72,7 @@ TEST(HostDiskName, RenamesAFolder) {
 }
 
 TEST(HostDiskName, NeverTakesThePlaceOfAnotherFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", "a");
     bench.folder.put("B.mp3", "b");
 
@@ -81,7 +81,7 @@ TEST(HostDiskName, NeverTakesThePlaceOfAnotherFile) {
 }
 
 TEST(HostDiskName, ChangesTheCaseOfAName) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("titre.mp3");
     bench.disk.Name("D:\\titre.mp3", "D:\\TITRE.mp3");
 
@@ -89,7 +89,7 @@ TEST(HostDiskName, ChangesTheCaseOfAName) {
 }
 
 TEST(HostDiskName, MissingFileOrFolderFails) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
 
     EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\absent", "D:\\b"); }), 53);
@@ -97,7 +97,7 @@ TEST(HostDiskName, MissingFileOrFolderFails) {
 }
 
 TEST(HostDiskName, AnotherDriveIsRefused) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     bench.drives.set("E", bench.folder.path());
 
@@ -105,14 +105,14 @@ TEST(HostDiskName, AnotherDriveIsRefused) {
 }
 
 TEST(HostDiskName, FolderDoesNotGoIntoItself) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
 
     EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\un", "D:\\un\\deux"); }), 75);
 }
 
 TEST(HostDiskFileCopy, CopiesBytesAndRights) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string bytes(3'000'001, 'x');
     bench.folder.put("a.mp3", bytes);
     bench.folder.set_rights("a.mp3", 0640);
@@ -123,7 +123,7 @@ TEST(HostDiskFileCopy, CopiesBytesAndRights) {
 }
 
 TEST(HostDiskFileCopy, WritesOverAFileThatIsThere) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", "new");
     bench.folder.put("B.mp3", "older and longer");
     bench.disk.FileCopy("D:\\a.mp3", "D:\\b.mp3");
@@ -132,7 +132,7 @@ TEST(HostDiskFileCopy, WritesOverAFileThatIsThere) {
 }
 
 TEST(HostDiskFileCopy, RefusesToCopyAFileOntoItself) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", "son");
     std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
 
@@ -142,7 +142,7 @@ TEST(HostDiskFileCopy, RefusesToCopyAFileOntoItself) {
 }
 
 TEST(HostDiskFileCopy, FolderIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     bench.folder.put_folder("un");
 
@@ -151,7 +151,7 @@ TEST(HostDiskFileCopy, FolderIsNoFile) {
 }
 
 TEST(HostDiskFolders, AreMadeAndRemoved) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.disk.MkDir("D:\\un");
     bench.disk.MkDir("D:\\UN\\deux");
     EXPECT_TRUE(bench.folder.exists("un/deux"));
@@ -162,28 +162,28 @@ TEST(HostDiskFolders, AreMadeAndRemoved) {
 }
 
 TEST(HostDiskFolders, NameThatIsTakenIsRefused) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Un");
 
     EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\un"); }), 75);
 }
 
 TEST(HostDiskFolders, FolderThatHoldsSomethingStays) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/x");
 
     EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\un"); }), 75);
 }
 
 TEST(HostDiskFolders, MissingFolderFails) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\absent"); }), 76);
     EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\absent\\un"); }), 76);
 }
 
 TEST(HostDiskFolders, FolderOfADriveStays) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\"); }), 75);
     EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\"); }), 75);
@@ -193,7 +193,7 @@ TEST(HostDiskFolders, FolderOfADriveStays) {
 }
 
 TEST(HostDiskFacts, TellSizeTimeAndKind) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", "four");
     const timespec times[2]{{1'600'000'000, 0}, {1'600'000'000, 123'000'000}};
     ASSERT_EQ(::utimensat(AT_FDCWD, bench.folder.path("a.mp3").c_str(), times, 0), 0);

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
@@ -13,7 +13,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(HostDiskDir, GivesTheNamesThatFitIgnoringCaseOneAfterTheOther) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const char* name : {"b.mp3", "A.MP3", "c.wav"})
         bench.folder.put(name);
 
@@ -21,7 +21,7 @@ TEST(HostDiskDir, GivesTheNamesThatFitIgnoringCaseOneAfterTheOther) {
 }
 
 TEST(HostDiskDir, QuestionMarkStandsForOneCharacterOfAnyLength) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const char* name : {"é.mp3", "ab.mp3", ".mp3"})
         bench.folder.put(name);
 
@@ -29,14 +29,14 @@ TEST(HostDiskDir, QuestionMarkStandsForOneCharacterOfAnyLength) {
 }
 
 TEST(HostDiskDir, StarPointStarFindsNamesWithoutAPoint) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("LISEZMOI");
 
     EXPECT_THAT(bench.all("D:\\*.*"), ElementsAre("LISEZMOI"));
 }
 
 TEST(HostDiskDir, PatternThatEndsInABackslashMeansAllFiles) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/a");
     bench.folder.put("un/b");
 
@@ -44,7 +44,7 @@ TEST(HostDiskDir, PatternThatEndsInABackslashMeansAllFiles) {
 }
 
 TEST(HostDiskDir, EmptyPatternFindsNothing) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a");
     bench.disk.ChDrive("D");
 
@@ -52,7 +52,7 @@ TEST(HostDiskDir, EmptyPatternFindsNothing) {
 }
 
 TEST(HostDiskDir, FindsFoldersOnlyWhenTheyAreAskedFor) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("Temp");
 
     EXPECT_EQ(bench.disk.Dir("D:\\temp"), "");
@@ -62,14 +62,14 @@ TEST(HostDiskDir, FindsFoldersOnlyWhenTheyAreAskedFor) {
 }
 
 TEST(HostDiskDir, GivesOneNameInTheSpellingOfTheDisk) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Titre Été.mp3");
 
     EXPECT_THAT(bench.all("D:\\TITRE ÉTÉ.MP3"), ElementsAre("Titre Été.mp3"));
 }
 
 TEST(HostDiskDir, IsEmptyWithoutTheFileOrItsFolder) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(bench.disk.Dir("D:\\absent.mp3"), "");
     EXPECT_EQ(bench.disk.Dir("D:\\absent\\x.mp3"), "");
@@ -77,7 +77,7 @@ TEST(HostDiskDir, IsEmptyWithoutTheFileOrItsFolder) {
 }
 
 TEST(HostDiskDir, GoesOnWithNothingBehindTheLastName) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     (void)bench.disk.Dir("D:\\*.mp3");
 
@@ -86,7 +86,7 @@ TEST(HostDiskDir, GoesOnWithNothingBehindTheLastName) {
 }
 
 TEST(HostDiskDir, SearchThatFindsNothingEndsTheOneBefore) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     bench.folder.put("b.mp3");
     (void)bench.disk.Dir("D:\\*.mp3");
@@ -96,7 +96,7 @@ TEST(HostDiskDir, SearchThatFindsNothingEndsTheOneBefore) {
 }
 
 TEST(HostDiskDir, FilesMayGoWhileTheirNamesAreGiven) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     bench.folder.put("b.mp3");
 
@@ -111,7 +111,7 @@ TEST(HostDiskDir, FilesMayGoWhileTheirNamesAreGiven) {
 }
 
 TEST(HostDiskDir, DoesNotListWhatNoPathOfTheStationCanName) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const char* name : {"\xE9t\xE9.mp3", "песня.mp3", "quoi ?.mp3", "a\\b.mp3", "bon.mp3"})
         bench.folder.put(name);
 
@@ -119,7 +119,7 @@ TEST(HostDiskDir, DoesNotListWhatNoPathOfTheStationCanName) {
 }
 
 TEST(HostDiskDir, ListsHiddenFilesOnlyWhenTheyAreAskedFor) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put(".caché");
 
     EXPECT_THAT(bench.all("D:\\*"), IsEmpty());
@@ -128,7 +128,7 @@ TEST(HostDiskDir, ListsHiddenFilesOnlyWhenTheyAreAskedFor) {
 }
 
 TEST(HostDiskDir, FollowsLinksAndLeavesOutWhatIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
     std::filesystem::create_symlink("absent", bench.folder.path("mort.mp3"));
@@ -138,7 +138,7 @@ TEST(HostDiskDir, FollowsLinksAndLeavesOutWhatIsNoFile) {
 }
 
 TEST(HostDiskDir, PatternInAFolderPartIsAWrongName) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\M*\\x.mp3"); }), 52);
     EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\a|b*"); }), 52);

@@ -1,20 +1,20 @@
 #include <gtest/gtest.h>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
 
 TEST(HostDiskLookup, FindsAFileIgnoringTheCaseOfEachPart) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Musique/Été/Titre.mp3", "son");
 
     EXPECT_EQ(bench.read("d:\\MUSIQUE\\ÉTÉ\\titre.MP3"), "son");
 }
 
 TEST(HostDiskLookup, TakesTheExactNameFirst) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("TITRE.mp3", "grand");
     bench.folder.put("titre.mp3", "petit");
 
@@ -23,7 +23,7 @@ TEST(HostDiskLookup, TakesTheExactNameFirst) {
 }
 
 TEST(HostDiskLookup, TakesTheFirstSpellingInByteOrderWithoutAnExactName) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("titre.mp3", "petit");
     bench.folder.put("TITRE.mp3", "grand");
 
@@ -31,7 +31,7 @@ TEST(HostDiskLookup, TakesTheFirstSpellingInByteOrderWithoutAnExactName) {
 }
 
 TEST(HostDiskLookup, TellsAMissingFileFromAMissingFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("Musique");
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\x.mp3"); }), 53);
@@ -39,21 +39,21 @@ TEST(HostDiskLookup, TellsAMissingFileFromAMissingFolder) {
 }
 
 TEST(HostDiskLookup, FileInThePlaceOfAFolderIsAMissingFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Musique", "a file");
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\musique\\x.mp3"); }), 76);
 }
 
 TEST(HostDiskLookup, DriveThatIsNotInTheTableIsUnavailable) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("Q:\\x.mp3"); }), 68);
     EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("Q:\\*.mp3"); }), 68);
 }
 
 TEST(HostDiskLookup, DriveWhoseFolderIsGoneIsUnavailable) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.drives.set("E", bench.folder.path("unplugged"));
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("E:\\x.mp3"); }), 68);
@@ -61,7 +61,7 @@ TEST(HostDiskLookup, DriveWhoseFolderIsGoneIsUnavailable) {
 }
 
 TEST(HostDiskLookup, ReachesAShareByItsNameIgnoringCase) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("serveur/Titre.mp3", "son");
     bench.drives.set("\\\\Serveur\\Musique", bench.folder.path("serveur"));
 
@@ -69,7 +69,7 @@ TEST(HostDiskLookup, ReachesAShareByItsNameIgnoringCase) {
 }
 
 TEST(HostDiskLookup, FailureNamesThePathInTheStationsForm) {
-    DiskBench bench;
+    DiskFixture bench;
     try {
         (void)bench.disk.open("d:absent.mp3");
         FAIL();
@@ -79,14 +79,14 @@ TEST(HostDiskLookup, FailureNamesThePathInTheStationsForm) {
 }
 
 TEST(HostDiskLookup, NameThatIsNoUtf8OnTheDiskIsNotFound) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("\xE9t\xE9.mp3");
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\ÉTÉ.mp3"); }), 53);
 }
 
 TEST(HostDiskLookup, FollowsAChangeOfTheDriveTable) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("autre/x.mp3", "there");
     bench.drives.set("D", bench.folder.path("autre"));
 
@@ -94,7 +94,7 @@ TEST(HostDiskLookup, FollowsAChangeOfTheDriveTable) {
 }
 
 TEST(HostDiskLookup, GivesTheMachinesPathInTheDisksSpelling) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Musique/Titre.mp3");
 
     EXPECT_EQ(bench.disk.machine_path("D:\\musique\\TITRE.MP3"), bench.folder.path("Musique/Titre.mp3"));

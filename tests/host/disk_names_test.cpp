@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "support/child_process.h"
 
@@ -18,13 +18,13 @@ struct NamedUse {
 class ForbiddenCharacter : public testing::TestWithParam<NamedUse> {};
 
 TEST_P(ForbiddenCharacter, IsAWrongFileName) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const std::string character : {"*", "?", "<", ">", "|", "\""})
         EXPECT_EQ(failure_of([&] { GetParam().use(bench.disk, "D:\\a" + character + "b.mp3"); }), 52) << character;
 }
 
 TEST_P(ForbiddenCharacter, CharacterOutsideWindows1252IsRefusedByName) {
-    DiskBench bench;
+    DiskFixture bench;
     try {
         GetParam().use(bench.disk, "D:\\песня.mp3");
         FAIL();
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& test) { return std::string{test.param.name}; });
 
 TEST(HostDiskNames, ForbiddenCharacterInANewNameLeavesTheOldOne) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
 
     EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\a?.mp3"); }), 52);
@@ -55,7 +55,7 @@ TEST(HostDiskNames, ForbiddenCharacterInANewNameLeavesTheOldOne) {
 }
 
 TEST(HostDiskNames, NulByteIsAWrongFileNameAndNotAnEnd) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
 
     EXPECT_EQ(failure_of([&] { bench.disk.Kill(std::string_view{"D:\\a.mp3\0.dfm", 13}); }), 52);
@@ -63,13 +63,13 @@ TEST(HostDiskNames, NulByteIsAWrongFileNameAndNotAnEnd) {
 }
 
 TEST(HostDiskNames, NameThatIsTooLongForTheDiskIsWrong) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open_or_create("D:\\" + std::string(300, 'a')); }), 52);
 }
 
 TEST(HostDiskNames, EachDriveRemembersItsCurrentFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/x.txt", "on D");
     bench.folder.put("deux/y.txt", "on E");
     bench.drives.set("E", bench.folder.path());
@@ -81,7 +81,7 @@ TEST(HostDiskNames, EachDriveRemembersItsCurrentFolder) {
 }
 
 TEST(HostDiskNames, RelativeNameResolvesOnTheCurrentDrive) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/x.txt", "here");
     bench.disk.ChDir("D:\\un");
     bench.disk.ChDrive("d");
@@ -92,7 +92,7 @@ TEST(HostDiskNames, RelativeNameResolvesOnTheCurrentDrive) {
 }
 
 TEST(HostDiskNames, ChDirOnAnotherDriveLeavesTheCurrentDrive) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
     bench.disk.ChDir("D:\\un");
 
@@ -101,7 +101,7 @@ TEST(HostDiskNames, ChDirOnAnotherDriveLeavesTheCurrentDrive) {
 }
 
 TEST(HostDiskNames, PointsGoUpAndNoHigherThanTheRoot) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/x.txt", "here");
     bench.disk.ChDrive("D");
     bench.disk.ChDir("un");
@@ -111,7 +111,7 @@ TEST(HostDiskNames, PointsGoUpAndNoHigherThanTheRoot) {
 }
 
 TEST(HostDiskNames, ChDirToAMissingFolderFailsAndChangesNothing) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.disk.ChDrive("D");
 
     EXPECT_EQ(failure_of([&] { bench.disk.ChDir("absent"); }), 76);
@@ -119,21 +119,21 @@ TEST(HostDiskNames, ChDirToAMissingFolderFailsAndChangesNothing) {
 }
 
 TEST(HostDiskNames, ChDirToAFileIsAMissingFolder) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("x.txt");
 
     EXPECT_EQ(failure_of([&] { bench.disk.ChDir("D:\\x.txt"); }), 76);
 }
 
 TEST(HostDiskNames, ChDriveToAMissingDriveFails) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.disk.ChDrive("Q:\\x"); }), 68);
     EXPECT_EQ(bench.disk.current_drive(), 'C');
 }
 
 TEST(HostDiskNames, NamesResolveOnAShareAfterChDirUntilADriveIsMadeCurrent) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("partage/x.txt", "on the share");
     bench.folder.put("x.txt", "on the drive");
     bench.drives.set("\\\\serveur\\partage", bench.folder.path("partage"));

@@ -6,7 +6,7 @@
 #include <mutex>
 #include <thread>
 
-#include "disk_bench.h"
+#include "disk_fixture.h"
 #include "platform/disk_patience.h"
 
 namespace sonarelle {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "platform/simulated/simulated_platform.h"
 
@@ -100,7 +100,7 @@ private:
 };
 
 TEST(Disks, MachinesDiskDoesAsTheSimulatedOne) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("e");
     bench.folder.put_folder("share");
     bench.folder.put_folder("d");

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "platform/host/host_settings.h"
 #include "support/child_process.h"
@@ -13,7 +13,7 @@ using testing::ElementsAre;
 constexpr std::size_t save_size = 418;
 
 TEST(FullDisk, SaveThatStopsAtAnyByteLeavesTheOldFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const std::string records(save_size, 'n');
 
@@ -25,7 +25,7 @@ TEST(FullDisk, SaveThatStopsAtAnyByteLeavesTheOldFile) {
 }
 
 TEST(FullDisk, SaveThatJustFitsIsDone) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const std::string records(save_size, 'n');
 
@@ -34,7 +34,7 @@ TEST(FullDisk, SaveThatJustFitsIsDone) {
 }
 
 TEST(FullDisk, SaveBeyondAFileSizeLimitNamesTheLimit) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto save = [&] {
         try {
             bench.save("D:\\liste.dfm", std::string(save_size, 'n'));
@@ -47,7 +47,7 @@ TEST(FullDisk, SaveBeyondAFileSizeLimitNamesTheLimit) {
 }
 
 TEST(FullDisk, LongSaveThatStopsInTheMiddleTakesNothingMore) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
 
     EXPECT_EQ(failure_on_full_disk(1'000'000,
@@ -67,7 +67,7 @@ TEST(FullDisk, LongSaveThatStopsInTheMiddleTakesNothingMore) {
 }
 
 TEST(FullDisk, CopyThatDoesNotFitLeavesTheOldFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3", std::string(100'000, 'a'));
     bench.folder.put("b.mp3", "old");
 
@@ -77,7 +77,7 @@ TEST(FullDisk, CopyThatDoesNotFitLeavesTheOldFile) {
 }
 
 TEST(FullDisk, LineThatDoesNotFitLeavesNoHalfLineInTheJournal) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string first = "premiere ligne\r\n";
     const std::string second = "seconde ligne\r\n";
     bench.folder.put("journal.doc", first);

@@ -15,7 +15,7 @@ namespace sonarelle::test {
 using Outcome = NameLookup::Outcome;
 
 /// A lookup that keeps all that it learns, however young the folder.
-struct LookupBench {
+struct LookupFixture {
     [[nodiscard]] NameLookup::Place find(const std::string& name) const {
         return lookup.find(folder.path(), {name}, name);
     }
@@ -32,7 +32,7 @@ struct LookupBench {
 };
 
 TEST(NameLookup, SeesAFileThatComesIntoAFolderThatItKnows) {
-    LookupBench bench;
+    LookupFixture bench;
     EXPECT_EQ(bench.find("B.MP3").outcome, Outcome::missing);
     bench.folder.put("b.mp3");
     bench.let_time_pass();
@@ -41,7 +41,7 @@ TEST(NameLookup, SeesAFileThatComesIntoAFolderThatItKnows) {
 }
 
 TEST(NameLookup, NoLongerFindsAFileThatWentFromAFolderThatItKnows) {
-    LookupBench bench;
+    LookupFixture bench;
     bench.folder.put("a.mp3");
     EXPECT_EQ(bench.find("A.MP3").outcome, Outcome::present);
     std::filesystem::remove(bench.folder.path("a.mp3"));
@@ -51,7 +51,7 @@ TEST(NameLookup, NoLongerFindsAFileThatWentFromAFolderThatItKnows) {
 }
 
 TEST(NameLookup, TakesTheFirstSpellingInByteOrderOfAFolderThatItKnows) {
-    LookupBench bench;
+    LookupFixture bench;
     for (const char* name : {"titre.mp3", "TITRE.mp3", "tiTRE.mp3"})
         bench.folder.put(name);
 
@@ -60,14 +60,14 @@ TEST(NameLookup, TakesTheFirstSpellingInByteOrderOfAFolderThatItKnows) {
 }
 
 TEST(NameLookup, LeavesOutWhatNoPathOfTheStationCanNameInAFolderThatItKnows) {
-    LookupBench bench;
+    LookupFixture bench;
     bench.folder.put("\xE9.mp3");
 
     EXPECT_EQ(bench.find("\xC9.mp3").outcome, Outcome::missing);
 }
 
 TEST(NameLookup, ServesSeveralThreadsAtOnce) {
-    LookupBench bench;
+    LookupFixture bench;
     for (int i = 0; i < 50; ++i)
         bench.folder.put(std::to_string(i) + "/titre.mp3");
     std::atomic<int> found = 0;

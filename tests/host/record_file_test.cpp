@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <random>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
@@ -25,7 +25,7 @@ std::string part_of(RecordFile& file, std::int64_t position, std::size_t count) 
 }
 
 TEST(HostRecordFile, GivesEveryRecordOfALongListInOrder) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string bytes = counted_bytes(5000 * record_size + 17);
     bench.folder.put("liste.dfm", bytes);
     const auto file = bench.disk.open("D:\\liste.dfm");
@@ -38,7 +38,7 @@ TEST(HostRecordFile, GivesEveryRecordOfALongListInOrder) {
 }
 
 TEST(HostRecordFile, GivesAnyPartInAnyOrder) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string bytes = counted_bytes(3'000'000);
     bench.folder.put("liste.dfm", bytes);
     const auto file = bench.disk.open("D:\\liste.dfm");
@@ -52,7 +52,7 @@ TEST(HostRecordFile, GivesAnyPartInAnyOrder) {
 }
 
 TEST(HostRecordFile, ReadsNothingBehindTheEnd) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "abc");
     const auto file = bench.disk.open("D:\\liste.dfm");
 
@@ -61,7 +61,7 @@ TEST(HostRecordFile, ReadsNothingBehindTheEnd) {
 }
 
 TEST(HostRecordFile, PositionBeforeTheBeginningIsAWrongRecord) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "abc");
     const auto file = bench.disk.open("D:\\liste.dfm");
 
@@ -69,7 +69,7 @@ TEST(HostRecordFile, PositionBeforeTheBeginningIsAWrongRecord) {
 }
 
 TEST(HostRecordFile, SeesTheFileAsItWasWhenItWasOpened) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const auto file = bench.disk.open("D:\\liste.dfm");
     bench.save("D:\\liste.dfm", "newer");
@@ -79,7 +79,7 @@ TEST(HostRecordFile, SeesTheFileAsItWasWhenItWasOpened) {
 }
 
 TEST(HostRecordFile, EndsWhereItEndedWhenItWasOpened) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "abc");
     const auto file = bench.disk.open("D:\\liste.dfm");
     bench.disk.append("D:\\liste.dfm", "def");
@@ -89,21 +89,21 @@ TEST(HostRecordFile, EndsWhereItEndedWhenItWasOpened) {
 }
 
 TEST(HostRecordFile, OpeningAMissingFileToReadLeavesNone) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\liste.dfm"); }), 53);
     EXPECT_FALSE(bench.folder.exists("liste.dfm"));
 }
 
 TEST(HostRecordFile, OpenOrCreateLeavesAFileOfLength0) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_EQ(bench.disk.open_or_create("D:\\liste.dfm")->length(), 0);
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), "");
 }
 
 TEST(HostRecordFile, OpenOrCreateOpensTheFileThatIsThereIgnoringCase) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("Liste.DFM", "abc");
 
     EXPECT_EQ(bench.disk.open_or_create("D:\\liste.dfm")->length(), 3);
@@ -111,7 +111,7 @@ TEST(HostRecordFile, OpenOrCreateOpensTheFileThatIsThereIgnoringCase) {
 }
 
 TEST(HostRecordFile, DeadLinkGetsTheFileThatItPointsTo) {
-    DiskBench bench;
+    DiskFixture bench;
     std::filesystem::create_symlink("vraie.dfm", bench.folder.path("liste.dfm"));
 
     EXPECT_EQ(bench.disk.open_or_create("D:\\liste.dfm")->length(), 0);
@@ -119,7 +119,7 @@ TEST(HostRecordFile, DeadLinkGetsTheFileThatItPointsTo) {
 }
 
 TEST(HostRecordFile, FolderOrPipeIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 

@@ -6,7 +6,7 @@
 #include <climits>
 #include <filesystem>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/host/safe_file.h"
 #include "support/child_process.h"
 
@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(HostReplacement, TakesThePlaceOfTheOldFileAtItsCommit) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const auto file = bench.disk.replace("D:\\LISTE.DFM");
     file->write(std::as_bytes(std::span{"new", 3}));
@@ -28,14 +28,14 @@ TEST(HostReplacement, TakesThePlaceOfTheOldFileAtItsCommit) {
 }
 
 TEST(HostReplacement, MakesAFileThatWasNotThere) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.save("D:\\Liste.dfm", "new");
 
     EXPECT_EQ(bench.folder.bytes("Liste.dfm"), "new");
 }
 
 TEST(HostReplacement, DroppedBeforeItsCommitLeavesTheOldFileAlone) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     bench.disk.replace("D:\\liste.dfm")->write(std::as_bytes(std::span{"new", 3}));
 
@@ -44,14 +44,14 @@ TEST(HostReplacement, DroppedBeforeItsCommitLeavesTheOldFileAlone) {
 }
 
 TEST(HostReplacement, DroppedWithoutAnOldFileLeavesNothing) {
-    DiskBench bench;
+    DiskFixture bench;
     (void)bench.disk.replace("D:\\liste.dfm");
 
     EXPECT_THAT(bench.folder.names(), IsEmpty());
 }
 
 TEST(HostReplacement, KeepsTheRightsOfTheOldFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     bench.folder.set_rights("liste.dfm", 0664);
     bench.save("D:\\liste.dfm", "new");
@@ -60,7 +60,7 @@ TEST(HostReplacement, KeepsTheRightsOfTheOldFile) {
 }
 
 TEST(HostReplacement, HidesWhatItWritesFromThoseWhoCouldNotReadTheOldFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     bench.folder.set_rights("liste.dfm", 0600);
     const auto file = bench.disk.replace("D:\\liste.dfm");
@@ -70,7 +70,7 @@ TEST(HostReplacement, HidesWhatItWritesFromThoseWhoCouldNotReadTheOldFile) {
 }
 
 TEST(HostReplacement, GivesANewFileTheRightsOfAnyNewFile) {
-    DiskBench bench;
+    DiskFixture bench;
     const mode_t mask = ::umask(027);
     bench.save("D:\\liste.dfm", "new");
     ::umask(mask);
@@ -79,7 +79,7 @@ TEST(HostReplacement, GivesANewFileTheRightsOfAnyNewFile) {
 }
 
 TEST(HostReplacement, ReplacesWhatALinkPointsTo) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("ailleurs/vraie.dfm", "old");
     std::filesystem::create_symlink("ailleurs/vraie.dfm", bench.folder.path("liste.dfm"));
     bench.save("D:\\liste.dfm", "new");
@@ -89,7 +89,7 @@ TEST(HostReplacement, ReplacesWhatALinkPointsTo) {
 }
 
 TEST(HostReplacement, MakesTheFileThatADeadLinkPointsTo) {
-    DiskBench bench;
+    DiskFixture bench;
     std::filesystem::create_symlink("vraie.dfm", bench.folder.path("liste.dfm"));
     bench.save("D:\\liste.dfm", "new");
 
@@ -97,7 +97,7 @@ TEST(HostReplacement, MakesTheFileThatADeadLinkPointsTo) {
 }
 
 TEST(HostReplacement, LinksThatGoRoundAreRefused) {
-    DiskBench bench;
+    DiskFixture bench;
     std::filesystem::create_symlink("b", bench.folder.path("a"));
     std::filesystem::create_symlink("a", bench.folder.path("b"));
 
@@ -105,7 +105,7 @@ TEST(HostReplacement, LinksThatGoRoundAreRefused) {
 }
 
 TEST(HostReplacement, WorksForTheLongestNameOfTheDisk) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string name(NAME_MAX, 'n');
     bench.save("D:\\" + name, "new");
 
@@ -113,7 +113,7 @@ TEST(HostReplacement, WorksForTheLongestNameOfTheDisk) {
 }
 
 TEST(HostReplacement, WritesMoreThanItsBuffer) {
-    DiskBench bench;
+    DiskFixture bench;
     std::string bytes(2'000'003, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<char>(i % 251);
@@ -126,7 +126,7 @@ TEST(HostReplacement, WritesMoreThanItsBuffer) {
 }
 
 TEST(HostReplacement, FolderOrPipeIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 
@@ -136,7 +136,7 @@ TEST(HostReplacement, FolderOrPipeIsNoFile) {
 }
 
 TEST(HostReplacement, RemovesWhatAKilledProgramLeftOfTheSameFile) {
-    DiskBench bench;
+    DiskFixture bench;
     for (const int slot : {0, 1, 2})
         bench.folder.put(hidden_name("liste.dfm", slot), "half");
     bench.save("D:\\liste.dfm", "new");
@@ -145,7 +145,7 @@ TEST(HostReplacement, RemovesWhatAKilledProgramLeftOfTheSameFile) {
 }
 
 TEST(HostReplacement, LeavesWhatAnotherWriterIsWritingNow) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto first = bench.disk.replace("D:\\liste.dfm");
     first->write(std::as_bytes(std::span{"first", 5}));
     bench.save("D:\\liste.dfm", "second");
@@ -157,7 +157,7 @@ TEST(HostReplacement, LeavesWhatAnotherWriterIsWritingNow) {
 }
 
 TEST(HostReplacement, LeavesHiddenFilesOfOtherNames) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put(hidden_name("autre.dfm", 0));
     bench.folder.put(".liste.dfm");
     bench.save("D:\\liste.dfm", "new");
@@ -166,7 +166,7 @@ TEST(HostReplacement, LeavesHiddenFilesOfOtherNames) {
 }
 
 TEST(HostReplacement, IsOfNoMoreUseAfterItsCommit) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto file = bench.disk.replace("D:\\liste.dfm");
     file->commit();
 
@@ -175,7 +175,7 @@ TEST(HostReplacement, IsOfNoMoreUseAfterItsCommit) {
 }
 
 TEST(HostAppend, AddsAtTheEndAndMakesTheFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.disk.append("D:\\journal.doc", "un\r\n");
     bench.disk.append("D:\\JOURNAL.doc", "deux\r\n");
 
@@ -183,7 +183,7 @@ TEST(HostAppend, AddsAtTheEndAndMakesTheFile) {
 }
 
 TEST(HostAppend, FolderOrPipeIsNoFile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 

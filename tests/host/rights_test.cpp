@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "platform/host/host_drive_table.h"
 #include "platform/host/host_settings.h"
@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// A folder that may be read but not written, with a file in it that may be both.
-struct ReadOnlyFolder : DiskBench {
+struct ReadOnlyFolder : DiskFixture {
     ReadOnlyFolder() {
         folder.put("un/liste.dfm", "old");
         folder.set_rights("un/liste.dfm", 0666);
@@ -25,7 +25,7 @@ struct ReadOnlyFolder : DiskBench {
 };
 
 TEST(Rights, FileThatMayNotBeReadIsRefused) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("a.mp3");
     bench.folder.set_rights("a.mp3", 0);
 
@@ -33,7 +33,7 @@ TEST(Rights, FileThatMayNotBeReadIsRefused) {
 }
 
 TEST(Rights, FolderThatMayNotBeEnteredIsRefused) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/a.mp3");
     bench.folder.set_rights("un", 0);
 
@@ -43,7 +43,7 @@ TEST(Rights, FolderThatMayNotBeEnteredIsRefused) {
 }
 
 TEST(Rights, FolderThatMayBeEnteredButNotReadGivesItsFilesByTheirExactNames) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/a.mp3");
     bench.folder.set_rights("un", 0111);
 
@@ -79,7 +79,7 @@ TEST(Rights, FileThatIsThereOpensInAFolderThatMayNotBeWritten) {
 }
 
 TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/liste.dfm", "old");
     bench.folder.set_rights("un/liste.dfm", 0444);
     bench.folder.set_rights("un", 0777);
@@ -90,7 +90,7 @@ TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
 }
 
 TEST(Rights, LinkToAWriteProtectedFileGoesByItself) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     bench.folder.set_rights("liste.dfm", 0444);
     bench.folder.put_folder("un");
@@ -103,7 +103,7 @@ TEST(Rights, LinkToAWriteProtectedFileGoesByItself) {
 }
 
 TEST(Rights, FileOfAnotherOwnerThatAllMayWriteIsReplaced) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("un/liste.dfm", "old");
     bench.folder.set_rights("un/liste.dfm", 0666);
     bench.folder.set_rights("un", 0777);
@@ -114,7 +114,7 @@ TEST(Rights, FileOfAnotherOwnerThatAllMayWriteIsReplaced) {
 }
 
 TEST(Rights, AdministratorLeavesAFileToItsOwner) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     // Only an administrator can own a file as someone else; for another user the owner stays the same anyway.
     const uid_t owner = ::getuid() == 0 ? 12345 : ::getuid();
@@ -152,7 +152,7 @@ TEST(Rights, SettingsInAFolderThatMayNotBeMadeAreRefusedByName) {
 }
 
 TEST(Rights, LockOfAnotherUserShutsNobodyOutOfSharedSettings) {
-    DiskBench bench;
+    DiskFixture bench;
     const std::string file = bench.folder.path("commun/reglages.json");
     bench.folder.put_folder("commun");
     HostSettings{file}.SaveSetting("Sonarelle V6", "Config", "Mix", "6");
@@ -166,7 +166,7 @@ TEST(Rights, LockOfAnotherUserShutsNobodyOutOfSharedSettings) {
 TEST(Rights, LinkThatSomeoneElseLeftInASharedFolderIsNotWrittenThrough) {
     if (::geteuid() != 0)
         GTEST_SKIP() << "a link of another user's can't be made";
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("cible.txt", "kept");
     bench.folder.put_folder("tous");
     bench.folder.set_rights("tous", 01777);

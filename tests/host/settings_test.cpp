@@ -17,7 +17,7 @@ using testing::HasSubstr;
 
 constexpr const char* application = "Sonarelle V6";
 
-struct SettingsBench {
+struct SettingsFixture {
     [[nodiscard]] std::string config(std::string_view key) {
         return settings.GetSetting(application, "Config", key, "absent");
     }
@@ -39,7 +39,7 @@ struct SettingsBench {
 };
 
 TEST(HostSettings, GivesBackWhatWasSaved) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Nom_antenne_fm", "Radio « Été » \"98\"\\\n");
 
     EXPECT_EQ(bench.config("Nom_antenne_fm"), "Radio « Été » \"98\"\\\n");
@@ -48,21 +48,21 @@ TEST(HostSettings, GivesBackWhatWasSaved) {
 }
 
 TEST(HostSettings, GivesTheDefaultWithoutAValueAndMakesNoFile) {
-    SettingsBench bench;
+    SettingsFixture bench;
 
     EXPECT_EQ(bench.config("Mix"), "absent");
     EXPECT_FALSE(bench.folder.exists("reglages.json"));
 }
 
 TEST(HostSettings, EmptyValueIsAValue) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Load_combo1", "");
 
     EXPECT_EQ(bench.config("Load_combo1"), "");
 }
 
 TEST(HostSettings, CompareNamesIgnoringTheCaseOfAccentedLettersToo) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Préchargement", "7");
     bench.settings.SaveSetting("SONARELLE v6", "CONFIG", "PRÉCHARGEMENT", "8");
 
@@ -71,7 +71,7 @@ TEST(HostSettings, CompareNamesIgnoringTheCaseOfAccentedLettersToo) {
 }
 
 TEST(HostSettings, ListBySectionAndThenInTheOrderOfFirstWriting) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.settings.SaveSetting(application, "Position", "Position_haut", "100");
     bench.save("Mix", "6");
     bench.save("Logo", "x");
@@ -83,7 +83,7 @@ TEST(HostSettings, ListBySectionAndThenInTheOrderOfFirstWriting) {
 }
 
 TEST(HostSettings, FileIsReadableAndInUtf8) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Préchargement", "7");
 
     EXPECT_EQ(bench.folder.bytes("reglages.json"), "{\n"
@@ -96,7 +96,7 @@ TEST(HostSettings, FileIsReadableAndInUtf8) {
 }
 
 TEST(HostSettings, SeeWhatAnEditorChangedAtTheNextReading) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Mix", "6");
     bench.set_age(std::chrono::hours{1});
     EXPECT_EQ(bench.config("Mix"), "6");
@@ -106,7 +106,7 @@ TEST(HostSettings, SeeWhatAnEditorChangedAtTheNextReading) {
 }
 
 TEST(HostSettings, SeeAChangeWithinTheSameStepOfTheDisksClock) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Mix", "6");
     const auto time = bench.set_age(-std::chrono::hours{1});
     EXPECT_EQ(bench.config("Mix"), "6");
@@ -117,7 +117,7 @@ TEST(HostSettings, SeeAChangeWithinTheSameStepOfTheDisksClock) {
 }
 
 TEST(HostSettings, KeepOtherApplicationsOfTheFile) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.settings.SaveSetting("Autre", "Config", "Mix", "1");
     bench.save("Mix", "6");
 
@@ -133,7 +133,7 @@ TEST(HostSettings, MakeTheirFolder) {
 }
 
 TEST(HostSettings, SaveAllOfManyOrNone) {
-    SettingsBench bench;
+    SettingsFixture bench;
     const std::vector<Setting> settings{{"Config", "Mix", "6"}, {"Config", "Logo", "\xFF"}};
 
     EXPECT_EQ(failure_of([&] { bench.settings.save_all(application, settings); }), 5);
@@ -141,7 +141,7 @@ TEST(HostSettings, SaveAllOfManyOrNone) {
 }
 
 TEST(HostSettings, SavingTheSameValueDoesNotTouchTheFile) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.save("Mix", "6");
     const auto written = std::filesystem::last_write_time(bench.folder.path("reglages.json"));
     std::filesystem::last_write_time(bench.folder.path("reglages.json"), written - std::chrono::hours{1});
@@ -159,7 +159,7 @@ struct DamagedText {
 class DamagedSettings : public testing::TestWithParam<DamagedText> {};
 
 TEST_P(DamagedSettings, AreNamedToTheReader) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.folder.put("reglages.json", GetParam().text);
     try {
         (void)bench.config("Mix");
@@ -172,7 +172,7 @@ TEST_P(DamagedSettings, AreNamedToTheReader) {
 }
 
 TEST_P(DamagedSettings, AreSetAsideByTheWriter) {
-    SettingsBench bench;
+    SettingsFixture bench;
     bench.folder.put("reglages.json", GetParam().text);
     bench.save("Mix", "6");
 
@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& test) { return std::string{test.param.name}; });
 
 TEST(HostSettings, DamagedFilesThatWereSetAsideBeforeStay) {
-    SettingsBench bench;
+    SettingsFixture bench;
     for (const char* damage : {"un", "deux", "trois"}) {
         bench.folder.put("reglages.json", damage);
         bench.save("Mix", "6");
@@ -208,7 +208,7 @@ TEST(HostSettings, DamagedFilesThatWereSetAsideBeforeStay) {
 }
 
 TEST(HostSettings, TwoProgramsAtOnceLoseNoKey) {
-    SettingsBench bench;
+    SettingsFixture bench;
     const auto write_keys = [&](const std::string& name) {
         HostSettings settings{bench.folder.path("reglages.json")};
         for (int i = 0; i < 200; ++i)

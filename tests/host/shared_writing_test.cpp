@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/failure.h"
 #include "platform/host/file_handle.h"
 #include "support/child_process.h"
@@ -26,7 +26,7 @@ std::optional<FileFacts> save_over(Disk& disk, const std::optional<FileFacts>& s
 }
 
 /// Adds a letter to the list as often as another program comes between.
-void add_letter(DiskBench& bench) {
+void add_letter(DiskFixture& bench) {
     for (bool saved = false; !saved;) {
         const FileFacts seen = bench.disk.open(list)->facts();
         saved = save_over(bench.disk, seen, bench.read(list) + "x").has_value();
@@ -36,7 +36,7 @@ void add_letter(DiskBench& bench) {
 } // namespace
 
 TEST(HostSharedWriting, TakesThePlaceOfTheFileThatWasSeen) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
 
     EXPECT_TRUE(save_over(bench.disk, bench.disk.facts(list), "new"));
@@ -44,7 +44,7 @@ TEST(HostSharedWriting, TakesThePlaceOfTheFileThatWasSeen) {
 }
 
 TEST(HostSharedWriting, LeavesAFileThatAnotherHasWrittenMeanwhile) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const FileFacts seen = bench.disk.facts(list);
     bench.save(list, "his");
@@ -55,7 +55,7 @@ TEST(HostSharedWriting, LeavesAFileThatAnotherHasWrittenMeanwhile) {
 }
 
 TEST(HostSharedWriting, LeavesAFileThatAnotherHasWrittenInto) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const FileFacts seen = bench.disk.facts(list);
     bench.disk.append(list, "er");
@@ -65,7 +65,7 @@ TEST(HostSharedWriting, LeavesAFileThatAnotherHasWrittenInto) {
 }
 
 TEST(HostSharedWriting, LeavesAFileThatAnotherHasMade) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto file = bench.disk.replace(list);
     bench.folder.put("liste.dfm", "his");
 
@@ -74,14 +74,14 @@ TEST(HostSharedWriting, LeavesAFileThatAnotherHasMade) {
 }
 
 TEST(HostSharedWriting, MakesAFileThatNobodyHasMade) {
-    DiskBench bench;
+    DiskFixture bench;
 
     EXPECT_TRUE(save_over(bench.disk, std::nullopt, "new"));
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), "new");
 }
 
 TEST(HostSharedWriting, GoesOnFromWhatItHasWritten) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto first = save_over(bench.disk, std::nullopt, "one");
 
     EXPECT_TRUE(save_over(bench.disk, first, "two"));
@@ -89,7 +89,7 @@ TEST(HostSharedWriting, GoesOnFromWhatItHasWritten) {
 }
 
 TEST(HostSharedWriting, OfManyProgramsLosesNothing) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm");
     std::vector<pid_t> children;
     for (int child = 0; child < 4; ++child)
@@ -104,7 +104,7 @@ TEST(HostSharedWriting, OfManyProgramsLosesNothing) {
 }
 
 TEST(HostSharedWriting, TellsOfAProgramThatDoesNotLetGo) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put("liste.dfm", "old");
     const FileHandle folder{::open(bench.folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     ASSERT_EQ(::flock(folder.get(), LOCK_EX), 0);
@@ -115,7 +115,7 @@ TEST(HostSharedWriting, TellsOfAProgramThatDoesNotLetGo) {
 }
 
 TEST(HostClaim, IsOneProgramsAlone) {
-    DiskBench bench;
+    DiskFixture bench;
     const auto claim = bench.disk.claim(list);
     ASSERT_NE(claim, nullptr);
 
@@ -128,21 +128,21 @@ TEST(HostClaim, IsOneProgramsAlone) {
 }
 
 TEST(HostClaim, EndsWithTheProgram) {
-    DiskBench bench;
+    DiskFixture bench;
     ASSERT_EQ(end_of_child(start_child([&] { (void)bench.disk.claim(list).release(); })), 0);
 
     EXPECT_NE(bench.disk.claim(list), nullptr);
 }
 
 TEST(HostClaim, LeavesNothingBehind) {
-    DiskBench bench;
+    DiskFixture bench;
     (void)bench.disk.claim(list);
 
     EXPECT_THAT(bench.folder.names(), testing::IsEmpty());
 }
 
 TEST(HostClaim, IsRefusedInAFolderThatCanNotBeWritten) {
-    DiskBench bench;
+    DiskFixture bench;
     bench.folder.put_folder("Fermé");
     bench.folder.set_rights("Fermé", 0555);
 

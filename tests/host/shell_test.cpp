@@ -5,14 +5,14 @@
 #include <filesystem>
 #include <thread>
 
-#include "host/disk_bench.h"
+#include "host/disk_fixture.h"
 #include "platform/host/host_shell.h"
 #include "platform/host/known_programs.h"
 #include "support/child_process.h"
 
 namespace sonarelle::test {
 
-struct ShellBench : DiskBench {
+struct ShellFixture : DiskFixture {
     HostShell shell{disk};
 };
 
@@ -29,7 +29,7 @@ private:
 };
 
 TEST(HostShell, StartsAProgramWithAFileByItsMachinesPath) {
-    ShellBench bench;
+    ShellFixture bench;
     bench.folder.put("Éditeur.sh", "#!/bin/sh\nprintf %s \"$1\" > \"$1.part\"\nmv \"$1.part\" \"$1.vu\"\n");
     bench.folder.set_rights("Éditeur.sh", 0755);
     bench.folder.put("Titre 1.mp3");
@@ -41,7 +41,7 @@ TEST(HostShell, StartsAProgramWithAFileByItsMachinesPath) {
 }
 
 TEST(HostShell, ProgramThatIsNotThereFails) {
-    ShellBench bench;
+    ShellFixture bench;
     bench.folder.put("no program");
 
     EXPECT_EQ(failure_of([&] { bench.shell.start_program("sonarelle-sans-programme", ""); }), 53);
@@ -50,7 +50,7 @@ TEST(HostShell, ProgramThatIsNotThereFails) {
 }
 
 TEST(HostShell, TakesTheFirstProgramOfThisMachineForOneOfAnotherSystem) {
-    ShellBench bench;
+    ShellFixture bench;
     bench.folder.put("kmix", "#!/bin/sh\n: > \"$0.vu\"\n");
     bench.folder.set_rights("kmix", 0755);
     bench.folder.put("xfce4-mixer", "#!/bin/sh\n: > \"$0.vu\"\n");
@@ -64,7 +64,7 @@ TEST(HostShell, TakesTheFirstProgramOfThisMachineForOneOfAnotherSystem) {
 }
 
 TEST(HostShell, ProgramOfAnotherSystemWithoutALikeOneHereFails) {
-    ShellBench bench;
+    ShellFixture bench;
     const SearchPath only{bench.folder.path()};
 
     EXPECT_EQ(failure_of([&] { bench.shell.start_program("C:\\WINDOWS\\CDPLAYER.EXE", ""); }), 53);
@@ -82,13 +82,13 @@ TEST(HostShell, KnowsWhatTheMenusName) {
 }
 
 TEST(HostShell, DocumentThatIsNotThereFails) {
-    ShellBench bench;
+    ShellFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.shell.open_document("D:\\aide.txt"); }), 53);
 }
 
 TEST(HostShell, KeepsTheClipboard) {
-    ShellBench bench;
+    ShellFixture bench;
     bench.shell.set_clipboard_text("été");
 
     EXPECT_EQ(bench.shell.clipboard_text(), "été");

@@ -45,8 +45,8 @@ void save_generation(Disk& disk, std::uint32_t generation) {
     file->commit();
 }
 
-struct KillBench {
-    KillBench() { drives.set("D", folder.path()); }
+struct KillFixture {
+    KillFixture() { drives.set("D", folder.path()); }
 
     /// Lets the work run for a part of `span` drawn by lot, and kills it in its midst.
     void kill_within(microseconds span, const std::function<void()>& work) {
@@ -69,7 +69,7 @@ microseconds span_of(const std::function<void()>& work) {
 }
 
 TEST(Kill, ListIsAlwaysAWholeGeneration) {
-    KillBench bench;
+    KillFixture bench;
     const auto span = span_of([&] { save_generation(bench.disk, 1); });
     std::uint32_t generation = 1;
     for (int i = 0; i < kills; ++i) {
@@ -89,7 +89,7 @@ TEST(Kill, ListIsAlwaysAWholeGeneration) {
 }
 
 TEST(Kill, SettingsAreAlwaysWholeAndNeverLocked) {
-    KillBench bench;
+    KillFixture bench;
     const std::string file = bench.folder.path("reglages.json");
     HostSettings settings{file};
     const auto save = [&](int number) {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <thread>
 
-#include "audio/live_bench.h"
+#include "audio/live_fixture.h"
 #include "platform/audio/sdl_devices.h"
 #include "platform/timer.h"
 #include "pulse_server.h"
@@ -32,7 +32,7 @@ protected:
         });
     }
 
-    LiveBench live;
+    LiveFixture live;
     PulseServer server{live.folder.path("pulse")};
 };
 
@@ -53,7 +53,7 @@ void expect_all_heard(const std::vector<float>& recorded, const std::vector<floa
 }
 
 TEST_F(SoundCard, PlaysTheRehearsalSampleForSample) {
-    SoundBench rehearsal;
+    SoundFixture rehearsal;
     ThreeGraphs::make_files(rehearsal.folder);
     const ThreeGraphs rehearsed{rehearsal.scheduler, rehearsal.media, rehearsal.folder};
     rehearsal.run_for(ThreeGraphs::length);

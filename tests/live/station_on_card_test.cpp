@@ -1,7 +1,7 @@
 // A whole station on a real sound server.
 #include <gtest/gtest.h>
 
-#include "audio/live_air_bench.h"
+#include "audio/live_air_fixture.h"
 #include "platform/audio/sdl_devices.h"
 #include "pulse_server.h"
 
@@ -15,7 +15,7 @@ protected:
         server.start();
     }
 
-    static void go_on_air(LiveBench& live) {
+    static void go_on_air(LiveFixture& live) {
         live.output = std::make_unique<LiveOutput>(live.bus, std::make_unique<SdlDevices>(), "",
                                                    [&live](OutputState state) { live.last_state = state; });
     }
@@ -36,7 +36,7 @@ protected:
 };
 
 TEST_F(StationOnCard, HearsAZapWithinTheLeadAndOneBlock) {
-    LiveAirBench bench;
+    LiveAirFixture bench;
     bench.air.open_tracks(3, 200);
     bench.begin_in_option(1);
     server.record(file);

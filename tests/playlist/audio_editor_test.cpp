@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AudioEditorTest : public MaintenanceBench {};
+class AudioEditorTest : public MaintenanceFixture {};
 
 } // namespace
 

@@ -1,6 +1,6 @@
 #include "playlist/file_measure.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view track = "C:\\Musique\\titre.mp3";
 
-class FileMeasureTest : public StationBench {
+class FileMeasureTest : public StationFixture {
 protected:
     TrackFacts measure(std::string_view path) {
         const MeasuredFile measured = FileMeasure{machine.platform}.met_ajour(std::string{path});

@@ -1,6 +1,6 @@
 #include "playlist/legacy_list.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -18,7 +18,7 @@ std::string old_record(const std::string& path, const std::string& end = "200", 
     return field(path, 200) + field(end, 100) + field(genre, 100) + std::string("\x50\0", 2) + field(duration, 8);
 }
 
-class LegacyListTest : public StationBench {
+class LegacyListTest : public StationFixture {
 protected:
     /// Opens an old list and cancels the saving that follows at once.
     void open_old_list(const std::string& bytes) {

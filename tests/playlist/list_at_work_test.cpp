@@ -1,12 +1,12 @@
 #include "playlist/list_at_work.h"
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class RowPlace : public MaintenanceBench {
+class RowPlace : public MaintenanceFixture {
 protected:
     /// Where the row that stood at `place` is found, when the list has become `now`.
     int found(std::vector<std::string> before, int place, const std::vector<std::string>& now) {

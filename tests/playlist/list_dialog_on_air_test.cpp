@@ -1,8 +1,8 @@
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
-using ListDialogOnAir = ChainBench;
+using ListDialogOnAir = ChainFixture;
 
 TEST_F(ListDialogOnAir, LetsTheChainGoOnBehindACancel) {
     open_tracks({60, 60, 60});

@@ -1,6 +1,6 @@
 #include "playlist/list_document.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view matin = "C:\\Listes\\matin.dfm";
 
-class ListDocumentTest : public StationBench {
+class ListDocumentTest : public StationFixture {
 protected:
     void load_current_list(std::string_view path, const std::vector<enreg_liste>& records) {
         machine.disk.put_file(path, bytes_of(records));

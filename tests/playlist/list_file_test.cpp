@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 

@@ -1,6 +1,6 @@
 #include "playlist/list_save_dialog.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view matin = "C:\\Listes\\matin.dfm";
 constexpr std::string_view soir = "C:\\Listes\\soir.dfm";
 
-class ListSaveDialogTest : public StationBench {
+class ListSaveDialogTest : public StationFixture {
 protected:
     void save_as(std::string_view name) {
         machine.dialogs.expect_save(name);

@@ -1,6 +1,6 @@
 // The rows are saved whole into the station's default list.
 #include "playlist/list_document.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view matin = "C:\\Listes\\matin.dfm";
 
-class ListSavingTest : public StationBench {};
+class ListSavingTest : public StationFixture {};
 
 } // namespace
 

@@ -1,13 +1,13 @@
 #include <gmock/gmock.h>
 
 #include "playlist/list_update.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class ListUpdateOnAir : public ChainBench {
+class ListUpdateOnAir : public ChainFixture {
 protected:
     /// Measures the list while it plays, on a disk on which the file of the first row takes its time.
     void update_slowly(Frames span) {

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class ListUpdateTest : public MaintenanceBench {
+class ListUpdateTest : public MaintenanceFixture {
 protected:
     void update(Answer saves = Answer::no) {
         machine.dialogs.expect_box("Sauvegarder la liste ?", saves);

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "playlist/list_verification.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 const std::string removed = " Non trouvé \nElément supprimé de la liste\nContinuez...";
 
-class ListVerificationOnAir : public ChainBench {
+class ListVerificationOnAir : public ChainFixture {
 protected:
     /// Takes a track's file away and tests the list; the operator looks at the question for so long.
     void test_without(int number, Frames hesitation) {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "playlist/file_existence.h"
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -16,7 +16,7 @@ using testing::Not;
 
 const std::string removed = " Non trouvé \nElément supprimé de la liste\nContinuez...";
 
-class ListVerificationTest : public MaintenanceBench {
+class ListVerificationTest : public MaintenanceFixture {
 protected:
     void expect_removal(std::string_view path, Answer answer = Answer::yes) {
         machine.dialogs.expect_box(std::string{path} + removed, answer);

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class PathEditingTest : public MaintenanceBench {};
+class PathEditingTest : public MaintenanceFixture {};
 
 } // namespace
 

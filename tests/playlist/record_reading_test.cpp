@@ -1,13 +1,13 @@
 #include "playlist/record_reading.h"
 
 #include "playout/deck_record.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class RecordReadingTest : public StationBench {
+class RecordReadingTest : public StationFixture {
 protected:
     void put_list(const std::vector<enreg_liste>& records) {
         machine.disk.put_file("C:\\Sonarelle\\matin.dfm", bytes_of(records));

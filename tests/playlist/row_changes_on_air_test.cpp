@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "playlist/list_rows.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class StartChangeOnAir : public ChainBench {
+class StartChangeOnAir : public ChainFixture {
 protected:
     /// Chooses a row for a new start of play; the operator types for twenty seconds.
     void change_start_slowly(int row) {

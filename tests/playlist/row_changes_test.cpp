@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-class RowChangesTest : public MaintenanceBench {
+class RowChangesTest : public MaintenanceFixture {
 protected:
     void open_two_rows() {
         open_list(matin, {record_of("C:\\Musique\\a.mp3", "200.00", 80, 0.1, "Rock", "00:03:20"),

@@ -1,12 +1,12 @@
 #include "playlist/row_to_deck.h"
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class RowToDeckTest : public StationBench {
+class RowToDeckTest : public StationFixture {
 protected:
     RowToDeck row_to_deck{
         machine.platform,

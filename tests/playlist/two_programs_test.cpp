@@ -1,7 +1,7 @@
 // What two programs that work on the same lists do to each other.
 #include <gmock/gmock.h>
 
-#include "support/maintenance_bench.h"
+#include "support/maintenance_fixture.h"
 
 namespace sonarelle {
 
@@ -13,7 +13,7 @@ using testing::HasSubstr;
 constexpr std::string_view default_path = "C:\\Sonarelle\\liste.dfm";
 constexpr std::string_view own_path = "C:\\Sonarelle\\liste-2.dfm";
 
-class TwoPrograms : public MaintenanceBench {
+class TwoPrograms : public MaintenanceFixture {
 protected:
     void open_default_list(Station& desk) {
         desk.settings.chemin_programme = station.settings.chemin_programme;

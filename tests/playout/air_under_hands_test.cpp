@@ -1,6 +1,6 @@
 // What an operator's hands do beside the air, and what follows on it.
 #include "playlist/list_rows.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 using Kind = OnAirEvent::Kind;
 using Starts = std::vector<std::pair<double, int>>;
 
-class AirUnderHands : public ChainBench {
+class AirUnderHands : public ChainFixture {
 protected:
     void leave_the_list_dialog() {
         machine.dialogs.expect_cancel();

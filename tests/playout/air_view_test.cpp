@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "platform/failure.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class AirView : public ChainBench {
+class AirView : public ChainFixture {
 protected:
     [[nodiscard]] std::string to_come() {
         return name_without_ending(path_to_come(station.desk, [this](const std::string& path) {

@@ -1,6 +1,6 @@
 // A silence that nobody on the desk has asked for is told, and no other.
 #include "playout/air_view.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-class AirWatchTest : public ChainBench {
+class AirWatchTest : public ChainFixture {
 protected:
     AirWatchTest() { station.settings.veille_antenne = 0; }
 

@@ -1,6 +1,6 @@
 #include "playout/auto_chain.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-class AutoChainTest : public ChainBench {};
+class AutoChainTest : public ChainFixture {};
 
 } // namespace
 

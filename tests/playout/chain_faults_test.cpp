@@ -1,6 +1,6 @@
 // What goes wrong on the air, and what the chain makes of it.
 #include "playlist/list_rows.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 using Kind = OnAirEvent::Kind;
 using Paths = std::vector<std::string>;
 
-class ChainFaultsTest : public ChainBench {
+class ChainFaultsTest : public ChainFixture {
 protected:
     [[nodiscard]] std::string warning() const { return station.warning_window.lines.caption; }
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }

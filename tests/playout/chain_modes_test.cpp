@@ -1,6 +1,6 @@
 #include "playout/chain_modes.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class ChainModesTest : public ChainBench {
+class ChainModesTest : public ChainFixture {
 protected:
     Antenne_FM& window = station.main_window;
     Liste_son& list = station.list_window;

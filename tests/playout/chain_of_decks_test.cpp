@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -13,7 +13,7 @@ using testing::Not;
 using Kind = OnAirEvent::Kind;
 using Paths = std::vector<std::string>;
 
-class ChainOfDecksTest : public ChainBench {
+class ChainOfDecksTest : public ChainFixture {
 protected:
     void start_decks(const std::vector<double>& lengths) {
         open_on_all(lengths);

@@ -1,5 +1,5 @@
 // Starts that follow one another within the overlap of the first: what is heard, and what the ring lets go of.
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 using Kind = OnAirEvent::Kind;
 using Paths = std::vector<std::string>;
 
-class CloseStarts : public ChainBench {
+class CloseStarts : public ChainFixture {
 protected:
     [[nodiscard]] Paths heard_at(int second, int millisecond = 500) {
         machine.run_for(seconds(second) + milliseconds(millisecond) - machine.time.now());

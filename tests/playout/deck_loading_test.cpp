@@ -1,6 +1,6 @@
 #include "playout/deck_loading.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class DeckLoadingTest : public ChainBench {
+class DeckLoadingTest : public ChainFixture {
 protected:
     static constexpr std::string_view song = "C:\\Musique\\Chanson.mp3";
 

@@ -1,6 +1,6 @@
 // A file opened by hand while the air goes on.
 #include "playout/air_view.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 #include "playout/deck_loading.h"
 
 namespace sonarelle {
@@ -9,7 +9,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class DeckOpening : public ChainBench {
+class DeckOpening : public ChainFixture {
 protected:
     static constexpr std::string_view song = "C:\\Musique\\Chanson.mp3";
 

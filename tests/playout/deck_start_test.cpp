@@ -1,6 +1,6 @@
 #include "playout/deck_start.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-using DeckStartTest = ChainBench;
+using DeckStartTest = ChainFixture;
 
 int count_of(const std::string& text, std::string_view part) {
     int count = 0;

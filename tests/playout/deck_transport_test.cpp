@@ -1,6 +1,6 @@
 #include "playout/deck_transport.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class DeckTransportTest : public ChainBench {
+class DeckTransportTest : public ChainFixture {
 protected:
     void play_list_for(int seconds_played) {
         open_tracks({200, 200, 200});

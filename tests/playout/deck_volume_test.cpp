@@ -1,12 +1,12 @@
 #include "playout/deck_volume.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class DeckVolumeTest : public ChainBench {
+class DeckVolumeTest : public ChainFixture {
 protected:
     void open_song() {
         machine.add_track(track(1), 100);

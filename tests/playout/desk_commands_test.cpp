@@ -1,7 +1,7 @@
 // The entries that start outside programs or switch a small behaviour.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class DeskCommandsTest : public DeskBench {
+class DeskCommandsTest : public DeskFixture {
 protected:
     DeskCommandsTest() { start(); }
 

@@ -1,7 +1,7 @@
 // Which windows are on view, and where they stand.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class DisplayMenuTest : public DeskBench {
+class DisplayMenuTest : public DeskFixture {
 protected:
     DisplayMenuTest() {
         start();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
@@ -12,7 +12,7 @@ namespace {
 
 using testing::IsEmpty;
 
-class EveryControl : public DeskBench {};
+class EveryControl : public DeskFixture {};
 
 /// A menu's entry, a button or a picture to press that leads nowhere.
 bool is_dead(const Control& control) {

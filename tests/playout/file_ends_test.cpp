@@ -1,5 +1,5 @@
 // What follows a file that plays to its end: where no second of it is a mix point, its end is the chain's net.
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -7,7 +7,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-class FileEndsTest : public ChainBench {
+class FileEndsTest : public ChainFixture {
 protected:
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
     /// The first track ends 4 s before its overlap begins; items of the list are to be inserted.

@@ -2,7 +2,7 @@
 #include <array>
 #include <functional>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class ShownWhileFollowing : public ChainBench {
+class ShownWhileFollowing : public ChainFixture {
 protected:
     void play_list_for(int seconds_played) {
         open_tracks({200, 200, 200});

@@ -1,12 +1,12 @@
 #include "playout/journal.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class JournalTest : public ChainBench {
+class JournalTest : public ChainFixture {
 protected:
     [[nodiscard]] bool is_written() const { return machine.disk.exists("C:\\Sonarelle\\journal.doc"); }
     [[nodiscard]] std::vector<bool> checks() {

@@ -1,5 +1,5 @@
 // The letters and menu entries of the main window.
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -7,7 +7,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class KeysTest : public ChainBench {
+class KeysTest : public ChainFixture {
 protected:
     Antenne_FM& window = station.main_window;
 

@@ -1,11 +1,11 @@
 // Where the list window stands beside the main one.
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class ListPlace : public DeskBench {
+class ListPlace : public DeskFixture {
 protected:
     ListPlace() {
         start();

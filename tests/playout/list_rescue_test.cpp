@@ -1,5 +1,5 @@
 // The list is taken up again when a fault has ended the air, and left alone when the operator has.
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 using Kind = OnAirEvent::Kind;
 using Paths = std::vector<std::string>;
 
-class ListRescueTest : public ChainBench {
+class ListRescueTest : public ChainFixture {
 protected:
     void play_decks_of_which_the_next_is_gone() {
         open_tracks({40, 40});

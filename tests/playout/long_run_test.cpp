@@ -4,7 +4,7 @@
 #include <functional>
 #include <random>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -25,7 +25,7 @@ struct Make {
     int unplayable_percent; ///< Files that are there and can't be read.
 };
 
-class LongRun : public ChainBench, public testing::WithParamInterface<unsigned> {
+class LongRun : public ChainFixture, public testing::WithParamInterface<unsigned> {
 protected:
     LongRun() {
         station.desk.on_event = [this](const OnAirEvent& event) { follow(event); };

@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class MainMenusTest : public StationBench {
+class MainMenusTest : public StationFixture {
 protected:
     Antenne_FM& window = station.main_window;
 

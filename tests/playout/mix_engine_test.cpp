@@ -1,12 +1,12 @@
 #include "playout/mix.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class MixEngineTest : public ChainBench {
+class MixEngineTest : public ChainFixture {
 protected:
     struct Mix {
         int overlap;

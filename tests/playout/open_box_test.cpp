@@ -1,5 +1,5 @@
 // The station stays on the air behind a box, for as long as the operator leaves it open.
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ using Kind = OnAirEvent::Kind;
 
 constexpr Frames ten_minutes = seconds(600);
 
-class OpenBox : public ChainBench {
+class OpenBox : public ChainFixture {
 protected:
     void play_list_for(int seconds_played) {
         open_tracks({250, 250, 250, 250});

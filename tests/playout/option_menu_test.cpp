@@ -1,11 +1,11 @@
 // The settings that the option menu edits.
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class OptionMenuTest : public DeskBench {
+class OptionMenuTest : public DeskFixture {
 protected:
     OptionMenuTest() { start(); }
 

@@ -1,7 +1,7 @@
 // The boxes of favourites and jingles.
 #include <gmock/gmock.h>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 constexpr std::string_view favourites = "C:\\Listes\\favoris.dfm";
 
-class QuickLoadTest : public ChainBench {
+class QuickLoadTest : public ChainFixture {
 protected:
     QuickLoadTest() {
         window.on_popup = [this](MenuItem& menu, const Control*) { opened.push_back(menu.name()); };

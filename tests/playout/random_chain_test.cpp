@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "platform/failure.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 using Kind = OnAirEvent::Kind;
 
 /// A list in random order.
-class RandomChainTest : public ChainBench {
+class RandomChainTest : public ChainFixture {
 protected:
     void start_at_random() {
         station.list_window.random_mode.click();

@@ -1,7 +1,7 @@
 // A list of one row has no next one: the chain looks for it until one turns up, or until nobody needs it any more.
 #include "playout/row_walk.h"
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -9,7 +9,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class RowWalkTest : public ChainBench {
+class RowWalkTest : public ChainFixture {
 protected:
     static constexpr std::string_view by_hand = "C:\\main.mp3";
 

@@ -1,12 +1,12 @@
 // Rows whose disk doesn't answer, or whose file is shorter than a second: the air goes on, and they stay in the list.
 #include "playlist/list_rows.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class RowsPassedOver : public ChainBench {
+class RowsPassedOver : public ChainFixture {
 protected:
     void play_for(int seconds_played) { machine.run_for(seconds(seconds_played)); }
     /// Row 2 of three lies in a folder of its own; all play so long.

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-class RunControlTest : public ChainBench {
+class RunControlTest : public ChainFixture {
 protected:
     /// Looks for a file that stands on the second row of three.
     std::string look_for(std::string_view path) {

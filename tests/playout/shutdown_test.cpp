@@ -1,13 +1,13 @@
 // The ways out of the program.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class ShutdownTest : public DeskBench {
+class ShutdownTest : public DeskFixture {
 protected:
     ShutdownTest() {
         start();

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "platform/text.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 

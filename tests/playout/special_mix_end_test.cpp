@@ -1,6 +1,6 @@
 // A special mix ends whenever its deck leaves or its rule changes, and the chain goes on.
 #include "playout/air_view.h"
-#include "playout/special_mix_bench.h"
+#include "playout/special_mix_fixture.h"
 
 namespace sonarelle {
 
@@ -8,7 +8,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-class SpecialMixEnd : public SpecialMixBench {
+class SpecialMixEnd : public SpecialMixFixture {
 protected:
     /// Half a minute is mixed over the list's first track from its sixth second on.
     void mix_on(int deck, int length = 30) {

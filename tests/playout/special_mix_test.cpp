@@ -1,5 +1,5 @@
 #include "playout/mix.h"
-#include "playout/special_mix_bench.h"
+#include "playout/special_mix_fixture.h"
 
 namespace sonarelle {
 
@@ -7,7 +7,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-using SpecialMixTest = SpecialMixBench;
+using SpecialMixTest = SpecialMixFixture;
 
 /// The second or third deck.
 class SpecialMixOfADeck : public SpecialMixTest, public testing::WithParamInterface<int> {};

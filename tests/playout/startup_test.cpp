@@ -1,7 +1,7 @@
 // From the program's entry to a main window that is ready.
 #include <gmock/gmock.h>
 
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-class StartupTest : public DeskBench {
+class StartupTest : public DeskFixture {
 protected:
     static constexpr std::string_view first_start_box =
         "Ecrirure dans la base de registre éffectuée! \n\nLes paramètre de Sonarelle ont étés mis a jour\n"

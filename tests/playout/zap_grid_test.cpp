@@ -1,7 +1,7 @@
 // A zap at every second of a track's first minute, by key and by button, in the reading modes.
 #include <tuple>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ using Kind = OnAirEvent::Kind;
 
 enum class Door { key, button };
 
-class ZapGrid : public ChainBench, public testing::WithParamInterface<std::tuple<int, Door, int>> {
+class ZapGrid : public ChainFixture, public testing::WithParamInterface<std::tuple<int, Door, int>> {
 protected:
     [[nodiscard]] int option() const { return std::get<0>(GetParam()); }
     [[nodiscard]] Door door() const { return std::get<1>(GetParam()); }
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(FirstMinute, ZapGrid,
 
 namespace {
 
-class ZapTest : public ChainBench {
+class ZapTest : public ChainFixture {
 protected:
     void start_and_run(int seconds_played) {
         open_tracks({200, 200, 200, 200});

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/failure.h"
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
@@ -11,7 +11,7 @@ namespace {
 
 using Kind = OnAirEvent::Kind;
 
-class ZappingTest : public ChainBench {
+class ZappingTest : public ChainFixture {
 protected:
     void start_and_run(int seconds_played) {
         open_tracks({200, 200, 200});

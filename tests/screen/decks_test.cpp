@@ -4,12 +4,12 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
 /// A desk whose three decks are loaded by hand from the rows of a list.
-class DecksOnScreen : public DeskBench, public testing::WithParamInterface<int> {
+class DecksOnScreen : public DeskFixture, public testing::WithParamInterface<int> {
 protected:
     DecksOnScreen() { settings_of_a_second_start(); }
 

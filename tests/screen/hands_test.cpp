@@ -6,7 +6,7 @@
 
 #include "configuration/settings_vocabulary.h"
 #include "configuration/window_place.h"
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int most_turns = 400; ///< Of a quarter of a second: far more than three transitions take.
 
-class HandsOnScreen : public DeskBench {
+class HandsOnScreen : public DeskFixture {
 protected:
     HandsOnScreen() { settings_of_a_second_start(); }
 

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "desktop/station_label.h"
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
 /// What the main window tells of the air in large letters.
-class HeaderOnScreen : public DeskBench {
+class HeaderOnScreen : public DeskFixture {
 protected:
     HeaderOnScreen() { settings_of_a_second_start(); }
 

@@ -2,12 +2,12 @@
 
 #include <QMenu>
 
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
 /// The main window with three loaded decks, at the keyboard.
-class KeysOnScreen : public DeskBench {
+class KeysOnScreen : public DeskFixture {
 protected:
     KeysOnScreen() { settings_of_a_second_start(); }
 

@@ -2,12 +2,12 @@
 
 #include <QScreen>
 
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
 /// The list window beside the main one at a second start, when both have one stored place.
-class ListPlaceOnScreen : public DeskBench {
+class ListPlaceOnScreen : public DeskFixture {
 protected:
     ListPlaceOnScreen() { settings_of_a_second_start(); }
 

@@ -3,12 +3,12 @@
 #include <cstdlib>
 
 #include "desktop/station_label.h"
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
 /// How the main window tells what the sound card does. The driver "pulseaudio" finds no server here.
-class OutputOnScreen : public DeskBench {
+class OutputOnScreen : public DeskFixture {
 protected:
     OutputOnScreen() { settings_of_a_second_start(); }
     ~OutputOnScreen() override { ::unsetenv("SDL_AUDIODRIVER"); }

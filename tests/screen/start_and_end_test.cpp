@@ -3,11 +3,11 @@
 
 #include <csignal>
 
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
-using StartAndEnd = DeskBench;
+using StartAndEnd = DeskFixture;
 
 TEST_F(StartAndEnd, AFirstStartTellsWhatItWroteAndEnds) {
     operate("", [this] {

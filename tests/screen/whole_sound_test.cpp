@@ -5,7 +5,7 @@
 #include <span>
 
 #include "live/pulse_server.h"
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
@@ -31,7 +31,7 @@ std::ptrdiff_t longest_gap(std::span<const float> samples) {
 
 } // namespace
 
-class SoundBehindWindows : public DeskBench {
+class SoundBehindWindows : public DeskFixture {
 protected:
     SoundBehindWindows() { settings_of_a_second_start(); }
 };

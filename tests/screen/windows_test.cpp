@@ -5,11 +5,11 @@
 
 #include "configuration/settings_vocabulary.h"
 #include "configuration/window_place.h"
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 namespace sonarelle::test {
 
-class WindowsOnScreen : public DeskBench {
+class WindowsOnScreen : public DeskFixture {
 protected:
     WindowsOnScreen() { settings_of_a_second_start(); }
 

@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "playout/chain_bench.h"
+#include "playout/chain_fixture.h"
 
 namespace sonarelle {
 
 /// A list or deck 1 plays, and a jingle of five seconds is mixed over it.
-class SpecialMixBench : public ChainBench {
+class SpecialMixFixture : public ChainFixture {
 protected:
     void play_list_with_jingle_on(int deck) {
         open_tracks({100, 100, 100});

@@ -1,4 +1,4 @@
-#include "live_air_bench.h"
+#include "live_air_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ Frames first_on_the_right(const std::vector<float>& heard) {
     return Frames{static_cast<std::int64_t>(sample / 2)};
 }
 
-Frames LiveAirBench::zap() {
+Frames LiveAirFixture::zap() {
     const Frames block = live.bus.greatest_block();
     const Frames by_the_lead = live.bus.rendered() + live.driver.lead() + block;
     live.driver.run_event(
@@ -63,7 +63,7 @@ void HeldRun::expect_start_at_the_end_of_the_hold() const {
     EXPECT_LE(start(), rendered_at_start_ + bench.live.bus.greatest_block());
 }
 
-std::vector<HeldRun::Happening> HeldRun::from_second_start(const AirBench& air) {
+std::vector<HeldRun::Happening> HeldRun::from_second_start(const AirFixture& air) {
     const Frames begin = air.starts().at(1);
     std::vector<Happening> happenings;
     for (const auto& [at, event] : air.events)

@@ -8,14 +8,14 @@
 #include "platform/audio/live_output.h"
 #include "platform/audio/sound_media.h"
 #include "platform/timer.h"
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 namespace sonarelle {
 
 /// A live station on a fake card.
-class LiveBench {
+class LiveFixture {
 public:
-    explicit LiveBench(std::shared_ptr<SoundFiles> files = std::make_shared<MachineFiles>())
+    explicit LiveFixture(std::shared_ptr<SoundFiles> files = std::make_shared<MachineFiles>())
         : media{clock, bus, std::move(files), [](std::string_view path) { return std::string{path}; },
                 Decoding::by_threads} {
         media.on_trouble = [this](const SoundReport& report) { reports.push_back(report); };

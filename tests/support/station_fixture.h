@@ -47,11 +47,11 @@ inline enreg_liste record_in(std::string_view bytes, std::size_t number) {
 }
 
 /// A station on a simulated machine, whose settings were read. A question that no script foresaw fails the test.
-class StationBench : public testing::Test {
+class StationFixture : public testing::Test {
 protected:
-    StationBench() { station.settings.chemin_programme = "C:\\Sonarelle\\"; }
+    StationFixture() { station.settings.chemin_programme = "C:\\Sonarelle\\"; }
 
-    ~StationBench() override {
+    ~StationFixture() override {
         for (const std::string& complaint : machine.dialogs.complaints())
             ADD_FAILURE() << complaint;
     }

@@ -11,8 +11,8 @@
 namespace sonarelle::test {
 
 /// A disk whose drive D lies in a folder of the test.
-struct DiskBench {
-    DiskBench() { drives.set("D", folder.path()); }
+struct DiskFixture {
+    DiskFixture() { drives.set("D", folder.path()); }
 
     [[nodiscard]] std::vector<std::string> all(std::string_view pattern,
                                                FileAttributes attributes = FileAttributes::normal) {

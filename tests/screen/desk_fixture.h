@@ -21,10 +21,10 @@ namespace sonarelle::test {
 
 /// The desk on a screen of its own, with a keyboard and a mouse. The windows' loop turns on the test's thread, the
 /// operator's hands move on another. A failed test leaves a picture of the screen in the build folder.
-class DeskBench : public testing::Test {
+class DeskFixture : public testing::Test {
 protected:
-    DeskBench();
-    ~DeskBench() override;
+    DeskFixture();
+    ~DeskFixture() override;
 
     /// The settings of a station that has been started before.
     void settings_of_a_second_start();

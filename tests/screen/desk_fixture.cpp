@@ -1,4 +1,4 @@
-#include "screen/desk_bench.h"
+#include "screen/desk_fixture.h"
 
 #include <QComboBox>
 #include <QMessageBox>
@@ -65,7 +65,7 @@ std::string failure_folder() {
 
 } // namespace
 
-DeskBench::DeskBench() {
+DeskFixture::DeskFixture() {
     set_environment(folder_);
     application_ = std::make_unique<QApplication>(argument_count_, arguments_);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -74,23 +74,23 @@ DeskBench::DeskBench() {
     machine_ = std::make_unique<Machine>(CommonOptions{});
 }
 
-DeskBench::~DeskBench() = default;
+DeskFixture::~DeskFixture() = default;
 
-void DeskBench::settings_of_a_second_start() {
+void DeskFixture::settings_of_a_second_start() {
     const SettingsStore store{machine_->settings(), machine_->program_folder(), DecimalMark::point};
     store.write_column(&SettingRow::first);
 }
 
-void DeskBench::set(std::string_view section, std::string_view key, std::string_view value) {
+void DeskFixture::set(std::string_view section, std::string_view key, std::string_view value) {
     machine_->settings().SaveSetting(settings_application, section, key, value);
 }
 
-std::string DeskBench::tone(const std::string& name, int seconds, int level) const {
+std::string DeskFixture::tone(const std::string& name, int seconds, int level) const {
     folder_.put(name, wav_bytes(seconds, level));
     return folder_.path(name);
 }
 
-std::string DeskBench::list_of(int tracks, int seconds) {
+std::string DeskFixture::list_of(int tracks, int seconds) {
     const char* tool = std::getenv("SONARELLE_OUTIL");
     const std::string list = folder_.path("air.dfm");
     std::string command = std::string{tool} + " liste ajouter '" + list + "'";
@@ -101,7 +101,7 @@ std::string DeskBench::list_of(int tracks, int seconds) {
     return list;
 }
 
-void DeskBench::operate(const std::string& file, const std::function<void()>& hands) {
+void DeskFixture::operate(const std::string& file, const std::function<void()>& hands) {
     program_ = std::make_unique<DeskProgram>(*machine_, file);
     std::thread operator_thread{[&] {
         try {
@@ -120,12 +120,12 @@ void DeskBench::operate(const std::string& file, const std::function<void()>& ha
     program_.reset();
 }
 
-void DeskBench::on_window_thread(const std::function<void()>& work) {
+void DeskFixture::on_window_thread(const std::function<void()>& work) {
     if (!ended_)
         QMetaObject::invokeMethod(application_.get(), work, Qt::BlockingQueuedConnection);
 }
 
-void DeskBench::eventually(const std::string& what, const std::function<bool()>& so) {
+void DeskFixture::eventually(const std::string& what, const std::function<bool()>& so) {
     until(what, [&] {
         bool is_so = false;
         on_window_thread([&] { is_so = so(); });
@@ -133,7 +133,7 @@ void DeskBench::eventually(const std::string& what, const std::function<bool()>&
     });
 }
 
-void DeskBench::until(const std::string& what, const std::function<bool()>& so) {
+void DeskFixture::until(const std::string& what, const std::function<bool()>& so) {
     const auto limit = std::chrono::steady_clock::now() + patience;
     while (std::chrono::steady_clock::now() < limit) {
         if (so())
@@ -143,11 +143,11 @@ void DeskBench::until(const std::string& what, const std::function<bool()>& so) 
     throw std::runtime_error{"it did not come: " + what};
 }
 
-void DeskBench::key(const std::string& chord) {
+void DeskFixture::key(const std::string& chord) {
     screen_.hand("key --clearmodifiers " + chord);
 }
 
-void DeskBench::click_at(const std::function<QWidget*()>& find, const std::string& name, int button) {
+void DeskFixture::click_at(const std::function<QWidget*()>& find, const std::string& name, int button) {
     QPoint place;
     eventually(name + " on the screen", [&] {
         const QWidget* widget = find();
@@ -160,7 +160,7 @@ void DeskBench::click_at(const std::function<QWidget*()>& find, const std::strin
                  std::to_string(button));
 }
 
-void DeskBench::press(const std::string& window, const std::string& control, int button) {
+void DeskFixture::press(const std::string& window, const std::string& control, int button) {
     const auto find = [&]() -> QWidget* {
         for (QWidget* top : QApplication::topLevelWidgets())
             if (top->objectName() == QString::fromStdString(window))
@@ -170,17 +170,17 @@ void DeskBench::press(const std::string& window, const std::string& control, int
     click_at(find, window + "." + control, button);
 }
 
-bool DeskBench::is_on_screen(const Window& window) const {
+bool DeskFixture::is_on_screen(const Window& window) const {
     const QWidget* widget = program_->widget_of(window);
     return widget != nullptr && widget->isVisible() && !widget->isMinimized();
 }
 
-bool DeskBench::is_active(const Window& window) const {
+bool DeskFixture::is_active(const Window& window) const {
     return is_on_screen(window) && program_->widget_of(window)->isActiveWindow();
 }
 
 // The splash leaves while the main window comes, and for an instant the keyboard belongs to neither.
-void DeskBench::wait_for_the_keyboard() {
+void DeskFixture::wait_for_the_keyboard() {
     eventually("the main window", [this] { return is_active(station().main_window); });
     const auto id = seen<WId>([this] { return widget_of(station().main_window)->winId(); });
     std::ostringstream alone_and_active;
@@ -190,11 +190,11 @@ void DeskBench::wait_for_the_keyboard() {
           [&] { return screen_.asked("xprop -root _NET_CLIENT_LIST _NET_ACTIVE_WINDOW") == alone_and_active.str(); });
 }
 
-void DeskBench::operators_event(const std::function<void()>& event) {
+void DeskFixture::operators_event(const std::function<void()>& event) {
     on_window_thread([&] { program_->live().driver().run_event(event); });
 }
 
-void DeskBench::load_decks() {
+void DeskFixture::load_decks() {
     wait_for_the_keyboard();
     const std::string list = station_form(list_of(3, 60));
     operators_event([&] {
@@ -207,25 +207,25 @@ void DeskBench::load_decks() {
     });
 }
 
-std::string DeskBench::station_form(const std::string& path) const {
+std::string DeskFixture::station_form(const std::string& path) const {
     return station_path_of(machine_->drives(), path);
 }
 
-void DeskBench::wait_for_box() {
+void DeskFixture::wait_for_box() {
     eventually("the box", [] {
         const QWidget* open = QApplication::activeModalWidget();
         return open != nullptr && open->isActiveWindow();
     });
 }
 
-std::string DeskBench::box() {
+std::string DeskFixture::box() {
     return seen<std::string>([]() -> std::string {
         const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         return open == nullptr ? "" : open->text().toStdString();
     });
 }
 
-void DeskBench::answer(const std::string& caption) {
+void DeskFixture::answer(const std::string& caption) {
     const auto find = [&]() -> QWidget* {
         const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (open == nullptr || !open->isActiveWindow()) // it has its place when it has the keyboard
@@ -238,7 +238,7 @@ void DeskBench::answer(const std::string& caption) {
     click_at(find, "button " + caption, 1);
 }
 
-void DeskBench::keep_picture_of_failure() {
+void DeskFixture::keep_picture_of_failure() {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string{test->test_suite_name()} + "." + test->name() + ".png";
     std::ranges::replace(name, '/', '-'); // as in the names of tests with parameters

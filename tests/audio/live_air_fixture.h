@@ -4,8 +4,8 @@
 #include <tuple>
 #include <vector>
 
-#include "air_bench.h"
-#include "live_bench.h"
+#include "air_fixture.h"
+#include "live_fixture.h"
 
 namespace sonarelle {
 
@@ -13,7 +13,7 @@ namespace sonarelle {
 [[nodiscard]] Frames first_on_the_right(const std::vector<float>& heard);
 
 /// A whole station on the air. Its list begins with frame 0, before the output is opened.
-struct LiveAirBench {
+struct LiveAirFixture {
     void begin_in_option(int option) {
         live.scheduler.run_event(Frames{}, [this, option] { air.start_in_option(option); });
     }
@@ -23,8 +23,8 @@ struct LiveAirBench {
     [[nodiscard]] Frames zap();
 
     std::shared_ptr<ToneTracks> tracks = std::make_shared<ToneTracks>();
-    LiveBench live{tracks};
-    AirBench air{live.clock, live.scheduler, live.media, tracks};
+    LiveFixture live{tracks};
+    AirFixture air{live.clock, live.scheduler, live.media, tracks};
 };
 
 /// A list of tracks that begin 14 s before their ends, so that each is loaded 1 s after its beginning and mixed 8 s
@@ -45,18 +45,18 @@ public:
     /// The right side sounds from row 2's start on as it does without a hold.
     void expect_rehearsed_sound(const std::vector<float>& heard) const;
 
-    LiveAirBench bench;
+    LiveAirFixture bench;
 
 private:
     using Happening = std::tuple<Frames, OnAirEvent::Kind, int, int>; // with its deck and row
-    [[nodiscard]] static std::vector<Happening> from_second_start(const AirBench& air);
+    [[nodiscard]] static std::vector<Happening> from_second_start(const AirFixture& air);
 
     Frames held_from_;
     Frames held_until_;
     Frames rendered_at_start_;
     std::shared_ptr<ToneTracks> tracks_ = std::make_shared<ToneTracks>();
-    SoundBench rehearsal_{tracks_};
-    AirBench rehearsed_{rehearsal_.time, rehearsal_.scheduler, rehearsal_.media, tracks_};
+    SoundFixture rehearsal_{tracks_};
+    AirFixture rehearsed_{rehearsal_.time, rehearsal_.scheduler, rehearsal_.media, tracks_};
 };
 
 } // namespace sonarelle

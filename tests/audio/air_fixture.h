@@ -46,9 +46,9 @@ private:
 
 /// A whole station with sound: its list lies on a simulated disk, its tracks are tones, odd rows on the left, even ones
 /// on the right. Clock and media are those of a rehearsal or of a live run.
-class AirBench {
+class AirFixture {
 public:
-    AirBench(Clock& clock, Scheduler& scheduler, Media& media, std::shared_ptr<ToneTracks> tracks);
+    AirFixture(Clock& clock, Scheduler& scheduler, Media& media, std::shared_ptr<ToneTracks> tracks);
 
     [[nodiscard]] static std::string track(int number) {
         return "C:\\Musique\\titre " + std::to_string(number) + ".wav";

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "playlist/list_rows.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 /// A station with a list of songs on drive C, and the hands that an action of the list needs.
-class MaintenanceBench : public StationBench {
+class MaintenanceFixture : public StationFixture {
 protected:
     static constexpr std::string_view matin = "C:\\Listes\\matin.dfm";
 

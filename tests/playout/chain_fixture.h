@@ -4,14 +4,14 @@
 #include <utility>
 #include <vector>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 /// A station with first-start settings and a list of tracks on the disk, whose run is followed event by event.
-class ChainBench : public StationBench {
+class ChainFixture : public StationFixture {
 protected:
-    ChainBench() {
+    ChainFixture() {
         SettingsStore{machine.settings, "C:\\Sonarelle", DecimalMark::point}.write_column(&SettingRow::first);
         station.create_main_window();
         station.desk.on_event = [this](const OnAirEvent& event) { events.emplace_back(machine.time.now(), event); };

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 /// A station that begins as the program does, with its pictures beside it and a store as after a first start.
-class DeskBench : public StationBench {
+class DeskFixture : public StationFixture {
 protected:
-    DeskBench() {
+    DeskFixture() {
         for (const std::string_view picture : pictures)
             machine.disk.put_file("C:\\Sonarelle\\" + std::string{picture}, "image");
     }

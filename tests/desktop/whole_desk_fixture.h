@@ -3,14 +3,14 @@
 #include <QTest>
 #include <QWindow>
 
-#include "desktop/desktop_bench.h"
+#include "desktop/desktop_fixture.h"
 #include "desktop/window_view.h"
-#include "playout/desk_bench.h"
+#include "playout/desk_fixture.h"
 
 namespace sonarelle {
 
 /// The whole desk without a screen: a station in virtual time, and its windows.
-class WholeDesk : public DeskBench, protected OffscreenDesktop {
+class WholeDesk : public DeskFixture, protected OffscreenDesktop {
 protected:
     WholeDesk() {
         start();

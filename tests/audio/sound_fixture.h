@@ -45,9 +45,9 @@ private:
 [[nodiscard]] std::unique_ptr<Decoder> decoder_of(const std::string& path);
 
 /// Graphs on a bus in virtual time; what is heard is kept.
-class SoundBench {
+class SoundFixture {
 public:
-    explicit SoundBench(std::shared_ptr<SoundFiles> files = std::make_shared<MachineFiles>());
+    explicit SoundFixture(std::shared_ptr<SoundFiles> files = std::make_shared<MachineFiles>());
 
     [[nodiscard]] std::shared_ptr<MediaGraph> graph(const std::string& path);
     void run_for(Frames span) { time.run_for(span); }

@@ -1,4 +1,4 @@
-#include "live_bench.h"
+#include "live_fixture.h"
 
 namespace sonarelle {
 

@@ -1,4 +1,4 @@
-#include "air_bench.h"
+#include "air_fixture.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/platform.h"
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
@@ -102,7 +102,7 @@ std::unique_ptr<RecordFile> ToneTracks::open(const std::string& path) {
     return std::make_unique<ToneFile>(opened.seconds, opened.side);
 }
 
-AirBench::AirBench(Clock& clock, Scheduler& scheduler, Media& media, std::shared_ptr<ToneTracks> tracks)
+AirFixture::AirFixture(Clock& clock, Scheduler& scheduler, Media& media, std::shared_ptr<ToneTracks> tracks)
     : disk{clock},
       dialogs{clock},
       tracks_{std::move(tracks)},
@@ -115,7 +115,7 @@ AirBench::AirBench(Clock& clock, Scheduler& scheduler, Media& media, std::shared
     station.desk.on_event = [this, &clock](const OnAirEvent& event) { events.emplace_back(clock.now(), event); };
 }
 
-void AirBench::open_tracks(int count, int seconds, double start) {
+void AirFixture::open_tracks(int count, int seconds, double start) {
     std::vector<enreg_liste> records;
     for (int number = 1; number <= count; ++number) {
         tracks_->add(track(number), seconds, number % 2 == 1 ? ToneTracks::Side::left : ToneTracks::Side::right);
@@ -129,7 +129,7 @@ void AirBench::open_tracks(int count, int seconds, double start) {
     station.list_window.rows.select(1);
 }
 
-void AirBench::start_in_option(int option) {
+void AirFixture::start_in_option(int option) {
     Liste_son& window = station.list_window;
     const std::array options{&window.player_mode, &window.random_mode, &window.defined_end_mode,
                              &window.full_length_mode};
@@ -137,7 +137,7 @@ void AirBench::start_in_option(int option) {
     window.play_list.click();
 }
 
-std::vector<Frames> AirBench::starts() const {
+std::vector<Frames> AirFixture::starts() const {
     std::vector<Frames> frames;
     for (const auto& [at, event] : events)
         if (event.kind == OnAirEvent::Kind::started)

@@ -4,16 +4,16 @@
 #include <string_view>
 #include <vector>
 
-#include "support/station_bench.h"
+#include "support/station_fixture.h"
 
 namespace sonarelle {
 
 inline constexpr std::string_view music = "C:\\Musique\\été.mp3";
 
 /// A list of two rows, of which the second one's properties are opened.
-class PropertiesBench : public StationBench {
+class PropertiesFixture : public StationFixture {
 protected:
-    PropertiesBench() {
+    PropertiesFixture() {
         machine.add_track(music, 200);
         open_list("C:\\Sonarelle\\matin.dfm", {record_of("C:\\Musique\\autre.mp3"), record_of(music, "180.00", 80)});
     }

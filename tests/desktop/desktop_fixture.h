@@ -57,7 +57,7 @@ public:
 };
 
 /// A window of the test's own, without a screen.
-class DesktopBench : public testing::Test, protected OffscreenDesktop {
+class DesktopFixture : public testing::Test, protected OffscreenDesktop {
 protected:
     Window window{"feuille"};
 };

@@ -1,4 +1,4 @@
-#include "sound_bench.h"
+#include "sound_fixture.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -79,7 +79,7 @@ std::vector<float> decoded(const std::string& path) {
     }
 }
 
-SoundBench::SoundBench(std::shared_ptr<SoundFiles> files)
+SoundFixture::SoundFixture(std::shared_ptr<SoundFiles> files)
     : time{scheduler},
       media{time, bus, std::move(files), [](std::string_view path) { return std::string{path}; },
             Decoding::inline_with_rendering},
@@ -89,13 +89,13 @@ SoundBench::SoundBench(std::shared_ptr<SoundFiles> files)
     media.on_trouble = [this](const SoundReport& report) { reports.push_back(report); };
 }
 
-std::shared_ptr<MediaGraph> SoundBench::graph(const std::string& path) {
+std::shared_ptr<MediaGraph> SoundFixture::graph(const std::string& path) {
     auto graph = media.create_graph();
     graph->RenderFile(path);
     return graph;
 }
 
-float SoundBench::peak(std::int64_t from, std::int64_t to) const {
+float SoundFixture::peak(std::int64_t from, std::int64_t to) const {
     float greatest = 0;
     for (std::int64_t sample = 2 * from; sample < 2 * to; ++sample)
         greatest = std::max(greatest, std::abs(heard.at(static_cast<std::size_t>(sample))));

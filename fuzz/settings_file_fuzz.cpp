@@ -20,7 +20,7 @@ void settings_file(std::string_view bytes) {
         check(SettingsText::parsed(json) == text, "settings are read back as they were written");
         check(SettingsText::parsed(json).json() == json, "settings are written the same each time");
     } catch (const Failure& failure) {
-        check(failure.number == failure_number::device_fault, "a damaged file is failure 57");
+        check(failure.number == FailureNumber::device_fault, "a damaged file is failure 57");
     }
 }
 
@@ -30,7 +30,7 @@ void drive_table_file(std::string_view bytes) {
         check(parsed_drive_table(drive_table_text(table), "/").entries() == table.entries(),
               "drives are read back as they were written");
     } catch (const Failure& failure) {
-        check(failure.number == failure_number::device_fault, "a damaged file is failure 57");
+        check(failure.number == FailureNumber::device_fault, "a damaged file is failure 57");
     }
 }
 

@@ -81,7 +81,7 @@ void TrackProperties::restore_colours() {
 
 MediaGraph& TrackProperties::graph() const {
     if (!graph_)
-        throw Failure{failure_number::no_object};
+        throw Failure{FailureNumber::no_object};
     return *graph_;
 }
 

@@ -31,7 +31,7 @@ std::string setter_text(std::string_view text, int width) {
 
 std::size_t checked_count(std::int32_t count) {
     if (count < 0)
-        throw Failure{failure_number::wrong_call};
+        throw Failure{FailureNumber::wrong_call};
     return static_cast<std::size_t>(count);
 }
 
@@ -97,7 +97,7 @@ void TypeTagV1::write(std::string_view fichier) const {
 
 std::string TypeTagV1::block() const {
     if (piste_ < 0 || piste_ > 255)
-        throw Failure{failure_number::wrong_call, text_of(piste_), "un numéro de piste va de 0 à 255"};
+        throw Failure{FailureNumber::wrong_call, text_of(piste_), "un numéro de piste va de 0 à 255"};
     std::string text{mark};
     text += CompleterChamp(titre_, line_width);
     text += CompleterChamp(artiste_, line_width);
@@ -138,7 +138,7 @@ void TypeTagV1::set_Commentaire(std::string_view text) {
 std::string TypeTagV1::ExtraireChamp(std::string_view bloc, Integer debut, std::int32_t longueur,
                                      std::string_view fin) {
     if (debut < 1)
-        throw Failure{failure_number::wrong_call};
+        throw Failure{FailureNumber::wrong_call};
     const auto field = mid(bloc, static_cast<std::size_t>(debut.value()), checked_count(longueur));
     return std::string{field.substr(0, field.find(fin.empty() ? zero : fin))};
 }

@@ -25,7 +25,7 @@ std::string read_all_or_nothing(Disk& disk, std::string_view path) {
     try {
         return read_all(disk, path);
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::file_not_found)
+        if (failure.number != FailureNumber::file_not_found)
             throw;
         return {};
     }
@@ -106,7 +106,7 @@ void set_value(Lines& lines, const std::string& section, const std::string& key,
 /// The bytes that the file will hold for this text.
 std::string one_line(std::string_view text) {
     if (text.find_first_of("\r\n") != std::string_view::npos)
-        throw Failure{failure_number::wrong_call, std::string{text}};
+        throw Failure{FailureNumber::wrong_call, std::string{text}};
     return to_windows_1252(text);
 }
 

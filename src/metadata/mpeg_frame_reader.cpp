@@ -24,7 +24,7 @@ unsigned bits(unsigned byte, unsigned lowest, unsigned count) {
 
 double divided(double value, double divisor) {
     if (divisor == 0)
-        throw Failure{failure_number::division_by_zero};
+        throw Failure{FailureNumber::division_by_zero};
     return value / divisor;
 }
 
@@ -158,7 +158,7 @@ std::size_t MpegFrameReader::side_information_end() const {
 
 unsigned MpegFrameReader::byte_at(std::size_t offset) const {
     if (offset >= bytes_.size())
-        throw Failure{failure_number::past_end_of_file};
+        throw Failure{FailureNumber::past_end_of_file};
     return std::to_integer<unsigned>(bytes_[offset]);
 }
 

@@ -16,7 +16,7 @@ constexpr std::int64_t copy_step = std::int64_t{1} << 20;
 
 void read_whole(RecordFile& file, std::int64_t position, std::span<std::byte> into) {
     if (file.read(position, into) != into.size())
-        throw Failure{failure_number::past_end_of_file};
+        throw Failure{FailureNumber::past_end_of_file};
 }
 
 void copy_audio(RecordFile& file, std::int64_t bytes, FileReplacement& copy) {
@@ -34,7 +34,7 @@ std::string read(RecordFile& file) {
     const std::int64_t start = file.length() - size;
     if (start < 0)
         throw Failure{
-            failure_number::wrong_record_number, {}, "un fichier de moins de 128 octets ne peut pas avoir de tag"};
+            FailureNumber::wrong_record_number, {}, "un fichier de moins de 128 octets ne peut pas avoir de tag"};
     std::string block(static_cast<std::size_t>(size), '\0');
     read_whole(file, start, std::as_writable_bytes(std::span{block}));
     return block;

@@ -65,7 +65,7 @@ public:
         if (!limit_)
             return work();
         if (is_silent(machine_path))
-            throw Failure{failure_number::device_fault, source};
+            throw Failure{FailureNumber::device_fault, source};
         auto returned = std::make_shared<std::atomic<bool>>(false);
         auto task = std::make_shared<std::packaged_task<decltype(work())()>>(std::move(work));
         auto result = task->get_future();
@@ -80,7 +80,7 @@ public:
         if (result.wait_for(*limit_) != std::future_status::ready) {
             helper_.reset();
             remember(machine_path, std::move(returned));
-            throw Failure{failure_number::device_fault, source};
+            throw Failure{FailureNumber::device_fault, source};
         }
         return result.get();
     }

@@ -43,7 +43,7 @@ std::string DriveTable::machine_path(std::string_view path) const {
     const std::string drive = parts_of(path).drive;
     const auto found = folders_.find(key_of(drive));
     if (found == folders_.end())
-        throw Failure{failure_number::device_unavailable, std::string{path}};
+        throw Failure{FailureNumber::device_unavailable, std::string{path}};
     const std::string rest = exchanged(path.substr(drive.size()), '\\', '/');
     return found->second + (rest.starts_with('/') ? rest : "/" + rest);
 }

@@ -7,46 +7,50 @@
 
 namespace sonarelle {
 
-/// The numbers of the failures that the station tells apart.
-namespace failure_number {
-inline constexpr int wrong_call = 5;
-inline constexpr int overflow = 6;
-inline constexpr int not_in_selection = 9;
-inline constexpr int division_by_zero = 11;
-inline constexpr int type_mismatch = 13;
-inline constexpr int wrong_file_name = 52;
-inline constexpr int file_not_found = 53;
-inline constexpr int device_fault = 57;
-inline constexpr int file_exists = 58;
-inline constexpr int disk_full = 61;
-inline constexpr int past_end_of_file = 62;
-inline constexpr int wrong_record_number = 63;
-inline constexpr int too_many_files = 67;
-inline constexpr int device_unavailable = 68;
-inline constexpr int permission_refused = 70;
-inline constexpr int disk_not_ready = 71;
-inline constexpr int other_drive = 74;
-inline constexpr int path_access = 75;
-inline constexpr int path_not_found = 76;
-inline constexpr int no_object = 91;
-inline constexpr int unplayable_file = 1001;
-inline constexpr int dialog_cancelled = 32755;
-} // namespace failure_number
+/// The failures that the station tells apart, by the numbers that it shows.
+enum class FailureNumber : int {
+    none = 0,
+    wrong_call = 5,
+    overflow = 6,
+    not_in_selection = 9,
+    division_by_zero = 11,
+    type_mismatch = 13,
+    wrong_file_name = 52,
+    file_not_found = 53,
+    device_fault = 57,
+    file_exists = 58,
+    disk_full = 61,
+    past_end_of_file = 62,
+    wrong_record_number = 63,
+    too_many_files = 67,
+    device_unavailable = 68,
+    permission_refused = 70,
+    disk_not_ready = 71,
+    other_drive = 74,
+    path_access = 75,
+    path_not_found = 76,
+    no_object = 91,
+    unplayable_file = 1001,
+    dialog_cancelled = 32755
+};
 
-/// The French sentence for a failure number; an unknown number has one too.
-[[nodiscard]] std::string_view failure_description(int number);
+/// The number as it is shown.
+[[nodiscard]] std::string digits_of(FailureNumber number);
+
+/// The French sentence for a failure; `none` has one too.
+[[nodiscard]] std::string_view failure_description(FailureNumber number);
 
 /// What goes wrong, in the one form that every trap of the station reads.
 /// `source` names the thing concerned (a path, a key, a word), `description` is a French sentence.
 struct Failure : std::exception {
-    explicit Failure(int failure_number, std::string failure_source = {})
+    explicit Failure(FailureNumber failure_number, std::string failure_source = {})
         : Failure(failure_number, std::move(failure_source), std::string{failure_description(failure_number)}) {}
-    Failure(int failure_number, std::string failure_source, std::string failure_sentence);
+    Failure(FailureNumber failure_number, std::string failure_source, std::string failure_sentence);
 
     /// "source : description", or the description alone.
     [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
 
-    int number;
+    FailureNumber number;
     std::string source;
     std::string description;
 
@@ -69,12 +73,12 @@ public:
         }
     }
 
-    [[nodiscard]] bool is_set() const { return number_ != 0; }
-    [[nodiscard]] int number() const { return number_; }
-    void clear() { number_ = 0; }
+    [[nodiscard]] bool is_set() const { return number_ != FailureNumber::none; }
+    [[nodiscard]] FailureNumber number() const { return number_; }
+    void clear() { number_ = FailureNumber::none; }
 
 private:
-    int number_ = 0;
+    FailureNumber number_ = FailureNumber::none;
 };
 
 } // namespace sonarelle

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view blanks = " \t";
 
 [[noreturn]] void not_a_number(std::string_view text) {
-    throw Failure{failure_number::type_mismatch, std::string{text}};
+    throw Failure{FailureNumber::type_mismatch, std::string{text}};
 }
 
 std::string_view without_blanks(std::string_view text) {
@@ -49,7 +49,7 @@ double out_of_range(std::string_view number) {
     const auto mark = std::min(number.find_first_of("eE"), number.size());
     const std::int64_t exponent = mark < number.size() ? exponent_of(number.substr(mark + 1)) : 0;
     if (first_power(number.substr(0, mark)) + exponent >= 0)
-        throw Failure{failure_number::overflow, std::string{number}};
+        throw Failure{FailureNumber::overflow, std::string{number}};
     return 0.0;
 }
 
@@ -170,7 +170,7 @@ Integer to_integer(double value) {
 std::int32_t to_long(double value) {
     const double whole = half_to_even(value);
     if (!(whole >= std::numeric_limits<std::int32_t>::min() && whole <= std::numeric_limits<std::int32_t>::max()))
-        throw Failure{failure_number::overflow};
+        throw Failure{FailureNumber::overflow};
     return static_cast<std::int32_t>(whole);
 }
 

@@ -30,7 +30,7 @@ public:
 private:
     static constexpr std::int16_t checked(std::int64_t value) {
         if (value < INT16_MIN || value > INT16_MAX)
-            throw Failure{failure_number::overflow};
+            throw Failure{FailureNumber::overflow};
         return static_cast<std::int16_t>(value);
     }
 

@@ -62,9 +62,9 @@ bool has_forbidden_character(std::string_view name) {
 
 void check_path(std::string_view path) {
     if (has_forbidden_character(path) || path.find('\0') != std::string_view::npos)
-        throw Failure{failure_number::wrong_file_name, std::string{path}};
+        throw Failure{FailureNumber::wrong_file_name, std::string{path}};
     if (const auto foreign = first_foreign_character(path))
-        throw Failure{failure_number::wrong_file_name, std::string{path}, sentence_of_foreign(*foreign)};
+        throw Failure{FailureNumber::wrong_file_name, std::string{path}, sentence_of_foreign(*foreign)};
 }
 
 bool matches_pattern(std::string_view name, std::string_view pattern) {

@@ -10,7 +10,7 @@ namespace sonarelle {
 
 std::size_t RowTable::index_of(int number) const {
     if (number < 1 || number > count())
-        throw Failure{failure_number::not_in_selection, name() + " " + std::to_string(number)};
+        throw Failure{FailureNumber::not_in_selection, name() + " " + std::to_string(number)};
     return static_cast<std::size_t>(number) - 1;
 }
 

@@ -165,7 +165,7 @@ std::string to_windows_1252(std::string_view text) {
         const std::string_view before = text;
         const auto byte = byte_of(take_character(text));
         if (!byte)
-            throw Failure{failure_number::wrong_call, std::string{before.substr(0, before.size() - text.size())},
+            throw Failure{FailureNumber::wrong_call, std::string{before.substr(0, before.size() - text.size())},
                           "Caractère absent de Windows-1252"};
         bytes.push_back(static_cast<char>(*byte));
     }

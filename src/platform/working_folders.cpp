@@ -23,7 +23,7 @@ bool has_letter(std::string_view path) {
 }
 
 [[noreturn]] void no_drive(std::string_view path) {
-    throw Failure{failure_number::device_unavailable, std::string{path}};
+    throw Failure{FailureNumber::device_unavailable, std::string{path}};
 }
 
 /// Bytes of `\\serveur\partage` at the head of a path.
@@ -104,7 +104,7 @@ PathPattern WorkingFolders::pattern_of(std::string_view path) const {
     PathPattern pattern{absolute(path.substr(0, begin)), std::string{path.substr(begin)}};
     const bool is_wrong = pattern.name.find_first_of(forbidden_in_patterns) != std::string::npos;
     if (is_wrong || first_foreign_character(pattern.name))
-        throw Failure{failure_number::wrong_file_name, std::string{path}};
+        throw Failure{FailureNumber::wrong_file_name, std::string{path}};
     return pattern;
 }
 

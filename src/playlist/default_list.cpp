@@ -38,7 +38,7 @@ void DefaultList::save(const Write& write) {
     notice_ =
         lost + " a été modifiée par un autre programme\n\nLa liste de cette fenètre est enregistrée dans " + name_;
     if (!saved(write))
-        throw Failure{failure_number::path_access, name_, "Un autre programme écrit les listes de ce dossier"};
+        throw Failure{FailureNumber::path_access, name_, "Un autre programme écrit les listes de ce dossier"};
 }
 
 bool DefaultList::saved(const Write& write) {
@@ -55,12 +55,12 @@ void DefaultList::save_as(const std::string& path, const std::optional<FileFacts
     const bool own = is_own(path);
     std::unique_ptr<FileClaim> claim;
     if (!own && (claim = platform_.disk.claim(path)) == nullptr)
-        throw Failure{failure_number::path_access, path, "Un autre programme travaille sur cette liste"};
+        throw Failure{FailureNumber::path_access, path, "Un autre programme travaille sur cette liste"};
     ListWriter writer{platform_.disk, path};
     write(writer);
     const auto written = writer.commit_over(seen);
     if (!written)
-        throw Failure{failure_number::path_access, path, "Un autre programme vient de modifier cette liste"};
+        throw Failure{FailureNumber::path_access, path, "Un autre programme vient de modifier cette liste"};
     if (own)
         seen_ = written;
 }
@@ -89,7 +89,7 @@ std::optional<FileFacts> DefaultList::state_of(const std::string& path) const {
     try {
         return platform_.disk.facts(path);
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::file_not_found)
+        if (failure.number != FailureNumber::file_not_found)
             throw;
         return std::nullopt;
     }

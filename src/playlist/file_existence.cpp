@@ -8,17 +8,17 @@ namespace sonarelle {
 
 namespace {
 
-bool means_missing(int failure) {
-    return failure == failure_number::file_not_found || failure == failure_number::path_not_found ||
-           failure == failure_number::device_unavailable;
+bool means_missing(FailureNumber failure) {
+    return failure == FailureNumber::file_not_found || failure == FailureNumber::path_not_found ||
+           failure == FailureNumber::device_unavailable;
 }
 
 /// False for a drive that can't be had. One that doesn't answer may hold all its files.
 bool enter_drive(Disk& disk, std::string_view path) {
     ErrorIndicator errors;
     errors.skip([&] { disk.ChDrive(path); });
-    if (errors.number() == failure_number::device_fault)
-        throw Failure{failure_number::device_fault, std::string{path}};
+    if (errors.number() == FailureNumber::device_fault)
+        throw Failure{FailureNumber::device_fault, std::string{path}};
     return !errors.is_set();
 }
 

@@ -74,7 +74,7 @@ void ListAtWork::write_record(int row, const enreg_liste& record) {
     enreg_liste before;
     ListReader{platform_.disk, list}.read(row, before);
     if (before.trimmed_chemin() != record.trimmed_chemin())
-        throw Failure{failure_number::wrong_record_number, record.trimmed_chemin()};
+        throw Failure{FailureNumber::wrong_record_number, record.trimmed_chemin()};
     replace_record(platform_.disk, list, row, record);
 }
 

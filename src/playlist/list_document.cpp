@@ -32,10 +32,10 @@ private:
     Window& window_;
 };
 
-bool is_refusal_of_the_disk(int number) {
-    constexpr std::array refusals{failure_number::permission_refused, failure_number::disk_not_ready,
-                                  failure_number::other_drive, failure_number::path_access,
-                                  failure_number::path_not_found};
+bool is_refusal_of_the_disk(FailureNumber number) {
+    constexpr std::array refusals{FailureNumber::permission_refused, FailureNumber::disk_not_ready,
+                                  FailureNumber::other_drive, FailureNumber::path_access,
+                                  FailureNumber::path_not_found};
     return std::ranges::find(refusals, number) != refusals.end();
 }
 

@@ -18,7 +18,7 @@ void copy_bytes(RecordFile& source, FileReplacement& target, std::int64_t from, 
         const auto wanted = static_cast<std::size_t>(std::min(block, to - from));
         const std::size_t count = source.read(from, std::span{buffer}.first(wanted));
         if (count == 0)
-            throw Failure{failure_number::past_end_of_file};
+            throw Failure{FailureNumber::past_end_of_file};
         target.write(std::span{buffer}.first(count));
         from += static_cast<std::int64_t>(count);
     }
@@ -30,7 +30,7 @@ void check_track(RecordFile& list, std::int64_t number, const enreg_liste& recor
     constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
     if (list.read((number - 1) * size, there.bytes()) == enreg_liste::size &&
         there.trimmed_chemin() != record.trimmed_chemin())
-        throw Failure{failure_number::wrong_record_number, std::to_string(number),
+        throw Failure{FailureNumber::wrong_record_number, std::to_string(number),
                       "Un autre programme a modifié cette liste"};
 }
 
@@ -40,7 +40,7 @@ bool try_to_replace_record(Disk& disk, std::string_view path, std::int64_t numbe
     constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
     const std::int64_t begin = (number - 1) * size;
     if (number < 1 || number > old->length() / size + 1)
-        throw Failure{failure_number::wrong_record_number, std::to_string(number)};
+        throw Failure{FailureNumber::wrong_record_number, std::to_string(number)};
     check_track(*old, number, record);
     const auto changed = disk.replace(path);
     copy_bytes(*old, *changed, 0, begin);
@@ -53,7 +53,7 @@ bool try_to_replace_record(Disk& disk, std::string_view path, std::int64_t numbe
 
 void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
     if (extension_of(path) == "rfm")
-        throw Failure{failure_number::wrong_file_name, std::string{path},
+        throw Failure{FailureNumber::wrong_file_name, std::string{path},
                       "Sauvegarder dans format .dfm avant traitement !"};
     while (!try_to_replace_record(disk, path, number, record)) {
     }

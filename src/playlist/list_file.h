@@ -32,10 +32,10 @@ public:
     /// @throws Failure 63 for a number below 1, 62 behind the last record.
     void read(std::int64_t number, Record& into) {
         if (number < 1)
-            throw Failure{failure_number::wrong_record_number, std::to_string(number)};
+            throw Failure{FailureNumber::wrong_record_number, std::to_string(number)};
         Record record;
         if (file_->read((number - 1) * record_size, record.bytes()) < Record::size)
-            throw Failure{failure_number::past_end_of_file, std::to_string(number)};
+            throw Failure{FailureNumber::past_end_of_file, std::to_string(number)};
         into = record;
     }
 

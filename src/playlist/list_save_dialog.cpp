@@ -15,7 +15,7 @@ namespace {
 std::string with_dfm_ending(std::string_view name) {
     const std::size_t count = character_count(name);
     if (count < 4)
-        throw Failure{failure_number::wrong_call, std::string{name}};
+        throw Failure{FailureNumber::wrong_call, std::string{name}};
     return std::string{left(name, count - 4)} + ".dfm";
 }
 

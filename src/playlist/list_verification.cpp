@@ -148,7 +148,7 @@ void ListVerification::prechar_fich() {
 }
 
 void ListVerification::tell_failure(const Failure& failure) {
-    list_.tell(" err N° " + std::to_string(failure.number) + " " + failure.what(), Icon::stop);
+    list_.tell(" err N° " + digits_of(failure.number) + " " + failure.what(), Icon::stop);
 }
 
 } // namespace sonarelle

@@ -101,7 +101,7 @@ RowChanges::ChosenRow RowChanges::chosen_row() const {
 int RowChanges::place_now(const ChosenRow& chosen) const {
     const int number = list_.place_of(chosen.cells, chosen.number);
     if (number > list_.rows().count() || list_.rows().row(number) != chosen.cells)
-        throw Failure{failure_number::not_in_selection, chosen.cells[list_column::path]};
+        throw Failure{FailureNumber::not_in_selection, chosen.cells[list_column::path]};
     return number;
 }
 

@@ -107,7 +107,7 @@ void ChainModes::choose_mix_list() {
 // The rescue chooses the list in a tick, behind which no box may hold up the air.
 void ChainModes::tell_failed_choice(const Failure& failure) {
     const std::string text = "Une erreur est apparue !\n - " + failure.source + " - " + failure.description + " - " +
-                             std::to_string(failure.number) +
+                             digits_of(failure.number) +
                              "\nC'est peut etre la premiere exécution du programme\n"
                              "Vérifier et entrez toutes les valeurs dans le menu options du programme.\n"
                              "Vérifier également vos paramètres régionaux si erreur type incompatible\n"

@@ -29,7 +29,7 @@ bool has_classic_video_ending(std::string_view extension) {
 
 MediaGraph& Deck::graph() const {
     if (graph_ == nullptr)
-        throw Failure{failure_number::no_object, "lecteur " + name()};
+        throw Failure{FailureNumber::no_object, "lecteur " + name()};
     return *graph_;
 }
 

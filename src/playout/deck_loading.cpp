@@ -61,7 +61,7 @@ LoadResult DeckLoading::load_from_list(Deck& deck, const DestinationRecord& row)
     try {
         return render_from_list(deck, row);
     } catch (const Failure& failure) {
-        return failure.number == failure_number::device_fault ? LoadResult::disk_did_not_answer : LoadResult::failed;
+        return failure.number == FailureNumber::device_fault ? LoadResult::disk_did_not_answer : LoadResult::failed;
     }
 }
 
@@ -122,7 +122,7 @@ void DeckLoading::charge_lire(const std::string& path) {
     desk_.chain.lecteur_en_cours = 1;
     deck.path = path;
     desk_.display.named(deck, name_of(path));
-    Failure failure{failure_number::unplayable_file};
+    Failure failure{FailureNumber::unplayable_file};
     try {
         deck.graph().RenderFile(path);
     } catch (const Failure& refused) {
@@ -160,7 +160,7 @@ bool DeckLoading::may_be_cut(const Deck& deck) {
 // The last failure on the way says what to tell the operator when nothing came of it.
 void DeckLoading::open(Deck& deck) {
     deck.create_graph();
-    Failure pending{failure_number::unplayable_file};
+    Failure pending{FailureNumber::unplayable_file};
     const auto attempt = [&pending](const auto& statement) {
         try {
             statement();
@@ -243,14 +243,14 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
     deck.controls.progress.value = 0;
     const auto tell = [&](const std::string& text) { show_box(desk_.platform.dialogs, text, Icon::stop); };
     switch (failure.number) {
-    case failure_number::wrong_call:
-    case failure_number::dialog_cancelled:
+    case FailureNumber::wrong_call:
+    case FailureNumber::dialog_cancelled:
         return;
-    case failure_number::permission_refused:
-    case failure_number::disk_not_ready:
-    case failure_number::other_drive:
-    case failure_number::path_access:
-    case failure_number::path_not_found:
+    case FailureNumber::permission_refused:
+    case FailureNumber::disk_not_ready:
+    case FailureNumber::other_drive:
+    case FailureNumber::path_access:
+    case FailureNumber::path_not_found:
         desk_.settings.chemin_musique = desk_.settings.chemin_programme;
         tell(lines_of(failure));
         return;

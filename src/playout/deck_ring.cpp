@@ -22,7 +22,7 @@ bool DeckRing::is_main(const Deck& deck) const {
 
 int DeckRing::main_number() const {
     if (!has_main_deck())
-        throw Failure{failure_number::no_object, "lecteur en cours"};
+        throw Failure{FailureNumber::no_object, "lecteur en cours"};
     return chain_.lecteur_en_cours.value();
 }
 

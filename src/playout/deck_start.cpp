@@ -146,7 +146,7 @@ void DeckStart::keep_air_state(const StartKind& kind) {
 // A station is on the air for longer than the counter lasts.
 void DeckStart::count_track() {
     if (!count_up(desk_.chain.nb_fichiers_ecoutes) && !std::exchange(desk_.chain.overflow_noted, true))
-        journal_.note("Nb_de_fichier_écouté : " + std::string{failure_description(failure_number::overflow)});
+        journal_.note("Nb_de_fichier_écouté : " + std::string{failure_description(FailureNumber::overflow)});
 }
 
 // The next deck in the ring is the one that the ring left two steps ago: its sound ends here.

@@ -138,14 +138,14 @@ bool LoadAhead::is_file_there() {
     const auto enter_folder = [&] {
         errors.skip([&] { desk_.platform.disk.ChDrive(path); });
         errors.skip([&] { desk_.platform.disk.ChDir(folder_of_path(path)); });
-        if (errors.number() == failure_number::device_unavailable || errors.number() == failure_number::path_not_found)
+        if (errors.number() == FailureNumber::device_unavailable || errors.number() == FailureNumber::path_not_found)
             throw ListStopped{};
     };
     enter_folder();
     std::string found;
     errors.clear();
     errors.skip([&] { found = desk_.platform.disk.Dir(path); });
-    if (errors.is_set() && errors.number() != failure_number::device_fault)
+    if (errors.is_set() && errors.number() != FailureNumber::device_fault)
         throw Failure{errors.number(), path};
     const bool there = equal_ignoring_case(trim(found), trim(name_of_path(path)));
     if (errors.is_set())

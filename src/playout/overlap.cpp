@@ -17,7 +17,7 @@ void Overlap::tick() {
     } catch (const Failure& failure) {
         // Without its fade the list still plays on.
         desk_.window.overlap_timer.disable();
-        desk_.notices.warn(std::string{failure.what()} + "\n" + std::to_string(failure.number));
+        desk_.notices.warn(std::string{failure.what()} + "\n" + digits_of(failure.number));
     }
 }
 

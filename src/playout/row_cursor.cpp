@@ -64,7 +64,7 @@ RowCursor::Look RowCursor::look() {
     try {
         desk_.list.chemin_fichier = detecte_fichier_liste(desk_.list.chemin_fichier);
     } catch (const Failure& failure) {
-        const bool silent = failure.number == failure_number::device_fault;
+        const bool silent = failure.number == FailureNumber::device_fault;
         pass_over(silent ? passed_over::silent_disk : passed_over::no_folder);
         return silent ? Look::silent_disk : Look::no_answer;
     }

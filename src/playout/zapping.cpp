@@ -91,7 +91,7 @@ void Zapping::zap_in_list(Deck& old) {
 // The track on the air goes on, with its load step. In list order its mix point and the next zap take the row behind,
 // or the operator would never get over this one; in random order a drawn row that can't be played is drawn anew.
 void Zapping::refuse_unplayable(const RowCursor::Place& before) {
-    const Failure refusal{failure_number::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
+    const Failure refusal{FailureNumber::file_not_found, desk_.list.chemin_fichier, "lecture impossible"};
     const bool was_prepared = desk_.list.index_en_cours == before.row;
     if (desk_.chain.ordre_aleatoire.is_true())
         chain_.cursor.go_back_to(before);
@@ -123,7 +123,7 @@ void Zapping::load_row(Deck& next) {
     const DestinationRecord row = chain_.cursor.read_row();
     const bool told = chain_.cursor.is_loaded(next);
     if (chain_.cursor.load_on(next, row) != LoadResult::loaded)
-        throw Failure{failure_number::file_not_found, next.path, "lecture impossible"};
+        throw Failure{FailureNumber::file_not_found, next.path, "lecture impossible"};
     if (!told)
         desk_.report_loaded(next);
 }
@@ -135,7 +135,7 @@ void Zapping::zap_over_decks(Deck& old) {
     if (desk_.platform.disk.Dir(next.path).empty())
         return tell("Fichier non trouvé /abandon", Icon::stop);
     if (length_of(desk_.platform, next.path) == 0)
-        throw Failure{failure_number::unplayable_file, next.path, "lecture impossible"};
+        throw Failure{FailureNumber::unplayable_file, next.path, "lecture impossible"};
     const std::optional<RowOnAir> ended = record_to_end(old);
     mix_.leave_special_mix(next);
     if (next.controls.progress.value == 0) // one that has moved doesn't start

@@ -169,7 +169,7 @@ void Startup::load_pictures() {
 // A setting without a name means no picture.
 void Startup::load_picture(Property<std::string>& picture, const std::string& file) {
     if (!file.empty() && platform_.disk.Dir(file).empty())
-        throw Failure{failure_number::file_not_found, file};
+        throw Failure{FailureNumber::file_not_found, file};
     picture = file;
 }
 
@@ -238,7 +238,7 @@ void Startup::play_on_small_player() {
 void Startup::report(const Failure& failure) {
     show_box(platform_.dialogs,
              "Attention  !\nErreur " + failure.source + "  " + failure.description + " Erreur N°  " +
-                 std::to_string(failure.number) +
+                 digits_of(failure.number) +
                  "\nDes paramètres ou des fichiers sont manquants!!!\n"
                  "Allez dans le menu OPTION puis PARAMETRES \n"
                  "Vérifier également vos paramètres régionaux\n"

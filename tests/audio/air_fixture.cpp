@@ -89,7 +89,7 @@ float ToneTracks::tone(std::int64_t frame) {
 const ToneTracks::Track& ToneTracks::track(const std::string& path) const {
     const auto found = tracks_.find(path);
     if (found == tracks_.end())
-        throw Failure{failure_number::file_not_found, path};
+        throw Failure{FailureNumber::file_not_found, path};
     return found->second;
 }
 

@@ -17,10 +17,10 @@ std::vector<char> bytes_of(const std::string& path) {
     return {std::istreambuf_iterator<char>{file}, {}};
 }
 
-int open_failure(SoundFixture& bench, const std::string& path) {
+FailureNumber open_failure(SoundFixture& bench, const std::string& path) {
     try {
         (void)bench.graph(path);
-        return 0;
+        return FailureNumber::none;
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.source, path);
         return failure.number;
@@ -29,12 +29,12 @@ int open_failure(SoundFixture& bench, const std::string& path) {
 
 TEST(BrokenFile, MissingIs53) {
     SoundFixture bench;
-    EXPECT_EQ(open_failure(bench, bench.folder.path("nowhere.mp3")), 53);
+    EXPECT_EQ(open_failure(bench, bench.folder.path("nowhere.mp3")), FailureNumber::file_not_found);
 }
 
 TEST(BrokenFile, EmptyIsUnplayable) {
     SoundFixture bench;
-    EXPECT_EQ(open_failure(bench, bench.folder.file("empty.mp3", {})), 1001);
+    EXPECT_EQ(open_failure(bench, bench.folder.file("empty.mp3", {})), FailureNumber::unplayable_file);
 }
 
 TEST(BrokenFile, TextNamedMp3IsUnplayable) {
@@ -42,20 +42,20 @@ TEST(BrokenFile, TextNamedMp3IsUnplayable) {
     std::string text;
     for (int line = 0; line < 2000; ++line)
         text += "Ceci n'est pas une chanson, mais la ligne " + std::to_string(line) + ".\n";
-    EXPECT_EQ(open_failure(bench, bench.folder.file("text.mp3", text)), 1001);
+    EXPECT_EQ(open_failure(bench, bench.folder.file("text.mp3", text)), FailureNumber::unplayable_file);
 }
 
 TEST(BrokenFile, AFolderIsUnplayable) {
     SoundFixture bench;
     std::filesystem::create_directory(bench.folder.path("x.mp3"));
-    EXPECT_EQ(open_failure(bench, bench.folder.path("x.mp3")), 1001);
+    EXPECT_EQ(open_failure(bench, bench.folder.path("x.mp3")), FailureNumber::unplayable_file);
 }
 
 TEST(BrokenFile, APlaylistThatNamesAnotherFileIsUnplayable) {
     SoundFixture bench;
     const auto song = bench.folder.counting_wav("a.wav", 1);
     const std::string list = "ffconcat version 1.0\nfile '" + song + "'\n";
-    EXPECT_EQ(open_failure(bench, bench.folder.file("list.mp3", list)), 1001);
+    EXPECT_EQ(open_failure(bench, bench.folder.file("list.mp3", list)), FailureNumber::unplayable_file);
 }
 
 TEST(BrokenFile, AFailedRenderLeavesTheGraphEmpty) {
@@ -148,7 +148,7 @@ TEST(BrokenFile, AWavOfZeroChannelsIsUnplayable) {
     SoundFixture bench;
     auto bytes = bytes_of(bench.folder.counting_wav("a.wav", 1));
     bytes[58] = 0;
-    EXPECT_EQ(open_failure(bench, bench.folder.file("zero.wav", bytes)), 1001);
+    EXPECT_EQ(open_failure(bench, bench.folder.file("zero.wav", bytes)), FailureNumber::unplayable_file);
 }
 
 /// A disk that stops answering for a while.
@@ -172,7 +172,7 @@ private:
         std::size_t read(std::int64_t position, std::span<std::byte> into) override {
             std::this_thread::sleep_for(std::chrono::milliseconds{disk_.delay_milliseconds.exchange(0)});
             if (disk_.fails)
-                throw Failure{failure_number::device_fault};
+                throw Failure{FailureNumber::device_fault};
             return file_->read(position, into);
         }
 

@@ -48,7 +48,7 @@ TEST_P(CutFile, HasTheLengthOfWhatIsThereOrIsRefused) {
     try {
         EXPECT_NEAR(decoder_of(path)->duration(), seconds_decoded(path), 0.06);
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::unplayable_file);
+        EXPECT_EQ(failure.number, FailureNumber::unplayable_file);
         EXPECT_NE(percent, 99) << "nearly all of it is there";
     }
 }

@@ -215,7 +215,7 @@ TEST(Decoder, DiskThatFailsIsNoEndOfTheFile) {
         [[nodiscard]] std::int64_t length() const override { return file->length(); }
         std::size_t read(std::int64_t position, std::span<std::byte> into) override {
             if (fails && position + static_cast<std::int64_t>(into.size()) > length() / 2)
-                throw Failure{failure_number::device_fault};
+                throw Failure{FailureNumber::device_fault};
             return file->read(position, into);
         }
         std::unique_ptr<RecordFile> file;

@@ -77,7 +77,7 @@ std::unique_ptr<OutputDevice> FakeDevices::open(const std::string& name, PullFra
     if (place != cards_.end())
         ++place->second->asked_for;
     if (place == cards_.end() || place->second->absent)
-        throw Failure{failure_number::device_unavailable, name};
+        throw Failure{FailureNumber::device_unavailable, name};
     ++place->second->opened;
     return std::make_unique<FakeDevice>(place->second, std::move(pull));
 }

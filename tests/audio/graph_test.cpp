@@ -8,10 +8,10 @@
 namespace sonarelle {
 namespace {
 
-int failure_of(const std::function<void()>& statement) {
+FailureNumber failure_of(const std::function<void()>& statement) {
     try {
         statement();
-        return 0;
+        return FailureNumber::none;
     } catch (const Failure& failure) {
         return failure.number;
     }
@@ -160,15 +160,15 @@ TEST(SoundGraph, AVolumeSetWhileRunningIsReachedInTenMilliseconds) {
 TEST(SoundGraph, VolumeOutsideItsRangeIsRefused) {
     SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
-    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{1}); }), 5);
-    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{-10001}); }), 5);
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{1}); }), FailureNumber::wrong_call);
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{-10001}); }), FailureNumber::wrong_call);
     EXPECT_EQ(graph->get_Volume(), Millibel{0});
 }
 
 TEST(SoundGraph, VolumeOfASilentFilmIsRefused) {
     SoundFixture bench;
     const auto graph = bench.graph(bench.folder.encoded("film.mpg", 1, "-f lavfi -i testsrc=d=1:s=64x48 -map 1:v"));
-    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{0}); }), 5);
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{0}); }), FailureNumber::wrong_call);
 }
 
 TEST(SoundGraph, DroppedIsSilentWithinTenMillisecondsWithoutAClick) {

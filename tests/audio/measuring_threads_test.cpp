@@ -51,7 +51,7 @@ public:
             free_.wait(lock, [this] { return !hangs_; });
         }
         if (!files_.contains(path))
-            throw Failure{failure_number::file_not_found, path};
+            throw Failure{FailureNumber::file_not_found, path};
         return {.size = static_cast<std::int64_t>(files_[path].size()), .modified = 0, .is_folder = false};
     }
     [[nodiscard]] std::unique_ptr<RecordFile> open(const std::string& path) override {
@@ -100,7 +100,7 @@ private:
 /// As the station's paths lie in memory: only drive Q is nowhere.
 std::string resolve(std::string_view path) {
     if (path.starts_with("Q:"))
-        throw Failure{failure_number::device_unavailable, std::string{path}};
+        throw Failure{FailureNumber::device_unavailable, std::string{path}};
     return std::string{path.substr(2)};
 }
 
@@ -113,9 +113,9 @@ protected:
             if (auto length = lengths.take(path, 10ms))
                 return *length;
     }
-    [[nodiscard]] static int failure_of(LengthsAhead& lengths, const std::string& path) {
+    [[nodiscard]] static FailureNumber failure_of(LengthsAhead& lengths, const std::string& path) {
         const MeasuredLength length = taken(lengths, path);
-        return length.failure ? length.failure->number : 0;
+        return length.failure ? length.failure->number : FailureNumber::none;
     }
 
     /// The mount table of a system that has a disk there.
@@ -173,23 +173,23 @@ TEST_F(MeasuringAhead, MeasuresOnThreadsOfItsOwn) {
 TEST_F(MeasuringAhead, SaysWhyThereIsNoLengthUnderTheStationsName) {
     const MeasuredLength length = taken(lengths, "C:/rien");
     ASSERT_TRUE(length.failure);
-    EXPECT_EQ(length.failure->number, failure_number::file_not_found);
+    EXPECT_EQ(length.failure->number, FailureNumber::file_not_found);
     EXPECT_EQ(length.failure->source, "C:/rien");
 }
 
 TEST_F(MeasuringAhead, TellsAPathThatNoDriveReaches) {
     lengths.want("Q:/a");
-    EXPECT_EQ(failure_of(lengths, "Q:/a"), failure_number::device_unavailable);
+    EXPECT_EQ(failure_of(lengths, "Q:/a"), FailureNumber::device_unavailable);
 }
 
 TEST_F(MeasuringAhead, TellsAFileWithoutSound) {
     files->put("/texte", "Ceci n'est pas de la musique.");
-    EXPECT_EQ(failure_of(lengths, "C:/texte"), failure_number::unplayable_file);
+    EXPECT_EQ(failure_of(lengths, "C:/texte"), FailureNumber::unplayable_file);
 }
 
 TEST_F(MeasuringAhead, TellsAFileThatMemoryDoesNotHold) {
     files->put("/immense/a", wav(8000));
-    EXPECT_EQ(failure_of(lengths, "C:/immense/a"), failure_number::unplayable_file);
+    EXPECT_EQ(failure_of(lengths, "C:/immense/a"), FailureNumber::unplayable_file);
 }
 
 TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {
@@ -198,7 +198,7 @@ TEST_F(MeasuringAhead, LeavesADeadDiskBehindAndGoesOn) {
     for (int file = 0; file < 4; ++file)
         impatient.want("C:/mort/" + std::to_string(file));
     for (int file = 0; file < 4; ++file)
-        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), failure_number::device_fault);
+        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), FailureNumber::device_fault);
     EXPECT_EQ(taken(impatient, "C:/a").seconds, 1);
 }
 
@@ -208,8 +208,8 @@ TEST_F(MeasuringAhead, AsksADeadDiskNoMoreThanOnceAThread) {
     for (unsigned file = 0; file < count; ++file)
         impatient.want("C:/mort/" + std::to_string(file));
     for (unsigned file = 0; file < count; ++file)
-        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), failure_number::device_fault);
-    EXPECT_EQ(failure_of(impatient, "C:/mort/later"), failure_number::device_fault);
+        EXPECT_EQ(failure_of(impatient, "C:/mort/" + std::to_string(file)), FailureNumber::device_fault);
+    EXPECT_EQ(failure_of(impatient, "C:/mort/later"), FailureNumber::device_fault);
     EXPECT_LE(files->hung(), threads);
 }
 
@@ -222,14 +222,14 @@ TEST_F(MeasuringAhead, TakesADiskThatReadsALongFileForNoDeadOne) {
         impatient.want("C:" + long_file(file));
     }
     impatient.want("C:/disque/a");
-    EXPECT_EQ(failure_of(impatient, "C:" + long_file(0)), failure_number::device_fault);
+    EXPECT_EQ(failure_of(impatient, "C:" + long_file(0)), FailureNumber::device_fault);
     EXPECT_EQ(taken(impatient, "C:/disque/a").seconds, 1);
 }
 
 TEST_F(MeasuringAhead, AsksADiskThatCameBackAgain) {
     files->put("/mort/a", wav(8000));
     MeasuringThreads impatient{files, resolve, DiskPatience{500ms}};
-    EXPECT_EQ(failure_of(impatient, "C:/mort/a"), failure_number::device_fault);
+    EXPECT_EQ(failure_of(impatient, "C:/mort/a"), FailureNumber::device_fault);
     files->let_go();
     MeasuredLength length = taken(impatient, "C:/mort/a");
     while (length.failure) // as long as the thread that was left behind is on its way back

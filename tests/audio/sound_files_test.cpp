@@ -30,27 +30,27 @@ protected:
 } // namespace
 
 TEST_F(SoundFilesOnDisk, OneThatIsNotThereIsNotFound) {
-    EXPECT_EQ(failure_of(look_at("a.mp3")), failure_number::file_not_found);
-    EXPECT_EQ(failure_of(open("a.mp3")), failure_number::file_not_found);
+    EXPECT_EQ(failure_of(look_at("a.mp3")), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of(open("a.mp3")), FailureNumber::file_not_found);
 }
 
 TEST_F(SoundFilesOnDisk, OneInAFileInsteadOfAFolderIsNotFound) {
     folder.put("a.mp3");
-    EXPECT_EQ(failure_of(look_at("a.mp3/b.mp3")), failure_number::file_not_found);
-    EXPECT_EQ(failure_of(open("a.mp3/b.mp3")), failure_number::file_not_found);
+    EXPECT_EQ(failure_of(look_at("a.mp3/b.mp3")), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of(open("a.mp3/b.mp3")), FailureNumber::file_not_found);
 }
 
 TEST_F(SoundFilesOnDisk, OneThatMayNotBeReadIsRefused) {
     folder.put("a.mp3");
     folder.set_rights("a.mp3", 0);
-    EXPECT_EQ(failure_without_rights(open("a.mp3")), failure_number::permission_refused);
+    EXPECT_EQ(failure_without_rights(open("a.mp3")), FailureNumber::permission_refused);
 }
 
 TEST_F(SoundFilesOnDisk, OneInAFolderThatMayNotBeEnteredIsRefused) {
     folder.put("un/a.mp3");
     folder.set_rights("un", 0);
-    EXPECT_EQ(failure_without_rights(look_at("un/a.mp3")), failure_number::permission_refused);
-    EXPECT_EQ(failure_without_rights(open("un/a.mp3")), failure_number::permission_refused);
+    EXPECT_EQ(failure_without_rights(look_at("un/a.mp3")), FailureNumber::permission_refused);
+    EXPECT_EQ(failure_without_rights(open("un/a.mp3")), FailureNumber::permission_refused);
     folder.set_rights("un", 0755);
 }
 

@@ -78,14 +78,14 @@ TEST(WavFileOutput, TellsThatTheDiskIsFullAtTheLatestWhenItCloses) {
         output.write(std::vector<float>(2 * 7, 0.25F));
         output.close();
     });
-    EXPECT_EQ(errors.number(), failure_number::disk_full);
+    EXPECT_EQ(errors.number(), FailureNumber::disk_full);
 }
 
 TEST(WavFileOutput, TellsThatTheDiskIsFullWhileItWrites) {
     WavFileOutput output{"/dev/full"};
     ErrorIndicator errors;
     errors.skip([&] { output.write(std::vector<float>(2 * 48000, 0.25F)); });
-    EXPECT_EQ(errors.number(), failure_number::disk_full);
+    EXPECT_EQ(errors.number(), FailureNumber::disk_full);
 }
 
 TEST(WavFileOutput, GoesOnFromBlockToBlock) {

@@ -142,7 +142,7 @@ TEST_F(SettingsRewriteTest, PurgeSetsTheColoursInMemory) {
 }
 
 TEST_F(SettingsRewriteTest, TellsWhenTheStoreCannotBeWritten) {
-    machine.settings.refuse_writes(failure_number::path_access);
+    machine.settings.refuse_writes(FailureNumber::path_access);
     machine.dialogs.expect_box("Erreur d'accès", Answer::ok);
     machine.dialogs.expect_box("nécessaire", Answer::ok);
     station.list_window.A_revenir_couleur.click();

@@ -153,7 +153,7 @@ TEST_F(AirOnDesk, WhatFollowsIsToldAsMissingWhereNoFileIsThere) {
 TEST_F(AirOnDesk, ListThatAFaultHasStoppedIsToldWhileItsTrackPlaysOn) {
     play_list();
     run_for(50);
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     run_for(38);
     EXPECT_EQ(desk_says("air_state"), "● À L'ANTENNE — Play 1");
     EXPECT_EQ(desk_says("air_notice"), "LISTE STOPPÉE");

@@ -67,7 +67,7 @@ TEST_F(FileDialogOnView, FileThatTheStationCantHoldIsRefusedByNameAndTheDialogSt
     QFile file{folder.filePath("matin.dfm")};
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const auto refuse = [](const std::string& path) -> std::string {
-        throw Failure{failure_number::wrong_file_name, path};
+        throw Failure{FailureNumber::wrong_file_name, path};
     };
     const PathForms paths{[](const std::string& path) { return path; }, refuse};
     DesktopFileDialog dialog{paths, nullptr};

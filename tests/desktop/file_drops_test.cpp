@@ -19,7 +19,7 @@ protected:
     FileDropsOnAButton() {
         services.paths.to_station = [](const std::string& path) {
             if (path.find("hors") != std::string::npos)
-                throw Failure{failure_number::path_not_found, path};
+                throw Failure{FailureNumber::path_not_found, path};
             return "C:" + path;
         };
         button.on_files_dropped = [this](const auto& paths) { dropped = paths; };

@@ -33,15 +33,15 @@ TEST(HostDiskKill, RemovesAllFilesOfAPattern) {
 TEST(HostDiskKill, MissingFileFails) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\absent"); }), 53);
-    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\*.tmp"); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\absent"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\*.tmp"); }), FailureNumber::file_not_found);
 }
 
 TEST(HostDiskKill, FolderIsNoFile) {
     DiskFixture bench;
     bench.folder.put_folder("un");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\un"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\un"); }), FailureNumber::path_access);
 }
 
 TEST(HostDiskKill, RemovesALinkAndNotWhatItPointsTo) {
@@ -76,7 +76,7 @@ TEST(HostDiskName, NeverTakesThePlaceOfAnotherFile) {
     bench.folder.put("a.mp3", "a");
     bench.folder.put("B.mp3", "b");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\b.MP3"); }), 58);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\b.MP3"); }), FailureNumber::file_exists);
     EXPECT_EQ(bench.folder.bytes("B.mp3"), "b");
 }
 
@@ -92,8 +92,8 @@ TEST(HostDiskName, MissingFileOrFolderFails) {
     DiskFixture bench;
     bench.folder.put("a.mp3");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\absent", "D:\\b"); }), 53);
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\absent\\a.mp3"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\absent", "D:\\b"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\absent\\a.mp3"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostDiskName, AnotherDriveIsRefused) {
@@ -101,14 +101,14 @@ TEST(HostDiskName, AnotherDriveIsRefused) {
     bench.folder.put("a.mp3");
     bench.drives.set("E", bench.folder.path());
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "E:\\b.mp3"); }), 74);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "E:\\b.mp3"); }), FailureNumber::other_drive);
 }
 
 TEST(HostDiskName, FolderDoesNotGoIntoItself) {
     DiskFixture bench;
     bench.folder.put_folder("un");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\un", "D:\\un\\deux"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\un", "D:\\un\\deux"); }), FailureNumber::path_access);
 }
 
 TEST(HostDiskFileCopy, CopiesBytesAndRights) {
@@ -136,8 +136,8 @@ TEST(HostDiskFileCopy, RefusesToCopyAFileOntoItself) {
     bench.folder.put("a.mp3", "son");
     std::filesystem::create_symlink("a.mp3", bench.folder.path("lien.mp3"));
 
-    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\A.MP3"); }), 70);
-    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\lien.mp3"); }), 70);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\A.MP3"); }), FailureNumber::permission_refused);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\lien.mp3"); }), FailureNumber::permission_refused);
     EXPECT_EQ(bench.folder.bytes("a.mp3"), "son");
 }
 
@@ -146,8 +146,8 @@ TEST(HostDiskFileCopy, FolderIsNoFile) {
     bench.folder.put("a.mp3");
     bench.folder.put_folder("un");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\un", "D:\\b"); }), 75);
-    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\un"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\un", "D:\\b"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\un"); }), FailureNumber::path_access);
 }
 
 TEST(HostDiskFolders, AreMadeAndRemoved) {
@@ -165,30 +165,30 @@ TEST(HostDiskFolders, NameThatIsTakenIsRefused) {
     DiskFixture bench;
     bench.folder.put("Un");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\un"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\un"); }), FailureNumber::path_access);
 }
 
 TEST(HostDiskFolders, FolderThatHoldsSomethingStays) {
     DiskFixture bench;
     bench.folder.put("un/x");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\un"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\un"); }), FailureNumber::path_access);
 }
 
 TEST(HostDiskFolders, MissingFolderFails) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\absent"); }), 76);
-    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\absent\\un"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\absent"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(failure_of([&] { bench.disk.MkDir("D:\\absent\\un"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostDiskFolders, FolderOfADriveStays) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\"); }), 75);
-    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\"); }), 75);
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\"); }), 75);
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\un"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.disk.RmDir("D:\\"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { bench.disk.Kill("D:\\"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\", "D:\\un"); }), FailureNumber::path_access);
     EXPECT_TRUE(bench.folder.exists("."));
 }
 

@@ -140,8 +140,8 @@ TEST(HostDiskDir, FollowsLinksAndLeavesOutWhatIsNoFile) {
 TEST(HostDiskDir, PatternInAFolderPartIsAWrongName) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\M*\\x.mp3"); }), 52);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\a|b*"); }), 52);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\M*\\x.mp3"); }), FailureNumber::wrong_file_name);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("D:\\a|b*"); }), FailureNumber::wrong_file_name);
 }
 
 } // namespace sonarelle::test

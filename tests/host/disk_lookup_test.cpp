@@ -34,30 +34,30 @@ TEST(HostDiskLookup, TellsAMissingFileFromAMissingFolder) {
     DiskFixture bench;
     bench.folder.put_folder("Musique");
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\x.mp3"); }), 53);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Jingles\\x.mp3"); }), 76);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Musique\\x.mp3"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\Jingles\\x.mp3"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostDiskLookup, FileInThePlaceOfAFolderIsAMissingFolder) {
     DiskFixture bench;
     bench.folder.put("Musique", "a file");
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\musique\\x.mp3"); }), 76);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\musique\\x.mp3"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostDiskLookup, DriveThatIsNotInTheTableIsUnavailable) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("Q:\\x.mp3"); }), 68);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("Q:\\*.mp3"); }), 68);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("Q:\\x.mp3"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("Q:\\*.mp3"); }), FailureNumber::device_unavailable);
 }
 
 TEST(HostDiskLookup, DriveWhoseFolderIsGoneIsUnavailable) {
     DiskFixture bench;
     bench.drives.set("E", bench.folder.path("unplugged"));
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("E:\\x.mp3"); }), 68);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("E:\\x.mp3"); }), 68);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("E:\\x.mp3"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.Dir("E:\\x.mp3"); }), FailureNumber::device_unavailable);
 }
 
 TEST(HostDiskLookup, ReachesAShareByItsNameIgnoringCase) {
@@ -82,7 +82,7 @@ TEST(HostDiskLookup, NameThatIsNoUtf8OnTheDiskIsNotFound) {
     DiskFixture bench;
     bench.folder.put("\xE9t\xE9.mp3");
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\ÉTÉ.mp3"); }), 53);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\ÉTÉ.mp3"); }), FailureNumber::file_not_found);
 }
 
 TEST(HostDiskLookup, FollowsAChangeOfTheDriveTable) {

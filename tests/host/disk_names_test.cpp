@@ -20,7 +20,9 @@ class ForbiddenCharacter : public testing::TestWithParam<NamedUse> {};
 TEST_P(ForbiddenCharacter, IsAWrongFileName) {
     DiskFixture bench;
     for (const std::string character : {"*", "?", "<", ">", "|", "\""})
-        EXPECT_EQ(failure_of([&] { GetParam().use(bench.disk, "D:\\a" + character + "b.mp3"); }), 52) << character;
+        EXPECT_EQ(failure_of([&] { GetParam().use(bench.disk, "D:\\a" + character + "b.mp3"); }),
+                  FailureNumber::wrong_file_name)
+            << character;
 }
 
 TEST_P(ForbiddenCharacter, CharacterOutsideWindows1252IsRefusedByName) {
@@ -29,7 +31,7 @@ TEST_P(ForbiddenCharacter, CharacterOutsideWindows1252IsRefusedByName) {
         GetParam().use(bench.disk, "D:\\песня.mp3");
         FAIL();
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 52);
+        EXPECT_EQ(failure.number, FailureNumber::wrong_file_name);
         EXPECT_EQ(failure.description, "Le caractère « п » n'existe pas en Windows-1252");
     }
 }
@@ -50,7 +52,7 @@ TEST(HostDiskNames, ForbiddenCharacterInANewNameLeavesTheOldOne) {
     DiskFixture bench;
     bench.folder.put("a.mp3");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\a?.mp3"); }), 52);
+    EXPECT_EQ(failure_of([&] { bench.disk.Name("D:\\a.mp3", "D:\\a?.mp3"); }), FailureNumber::wrong_file_name);
     EXPECT_EQ(bench.folder.names(), std::vector<std::string>{"a.mp3"});
 }
 
@@ -58,14 +60,18 @@ TEST(HostDiskNames, NulByteIsAWrongFileNameAndNotAnEnd) {
     DiskFixture bench;
     bench.folder.put("a.mp3");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.Kill(std::string_view{"D:\\a.mp3\0.dfm", 13}); }), 52);
+    EXPECT_EQ(failure_of([&] {
+                  bench.disk.Kill(std::string_view{"D:\\a.mp3\0.dfm", 13});
+              }),
+              FailureNumber::wrong_file_name);
     EXPECT_TRUE(bench.folder.exists("a.mp3"));
 }
 
 TEST(HostDiskNames, NameThatIsTooLongForTheDiskIsWrong) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open_or_create("D:\\" + std::string(300, 'a')); }), 52);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open_or_create("D:\\" + std::string(300, 'a')); }),
+              FailureNumber::wrong_file_name);
 }
 
 TEST(HostDiskNames, EachDriveRemembersItsCurrentFolder) {
@@ -114,7 +120,7 @@ TEST(HostDiskNames, ChDirToAMissingFolderFailsAndChangesNothing) {
     DiskFixture bench;
     bench.disk.ChDrive("D");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("absent"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("absent"); }), FailureNumber::path_not_found);
     EXPECT_EQ(bench.disk.current_folder(), "D:\\");
 }
 
@@ -122,13 +128,13 @@ TEST(HostDiskNames, ChDirToAFileIsAMissingFolder) {
     DiskFixture bench;
     bench.folder.put("x.txt");
 
-    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("D:\\x.txt"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDir("D:\\x.txt"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostDiskNames, ChDriveToAMissingDriveFails) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { bench.disk.ChDrive("Q:\\x"); }), 68);
+    EXPECT_EQ(failure_of([&] { bench.disk.ChDrive("Q:\\x"); }), FailureNumber::device_unavailable);
     EXPECT_EQ(bench.disk.current_drive(), 'C');
 }
 

@@ -54,13 +54,13 @@ protected:
             return 1;
         });
     }
-    [[nodiscard]] int failure_of(const std::string& path) {
+    [[nodiscard]] FailureNumber failure_of(const std::string& path) {
         try {
             ask(path);
         } catch (const Failure& failure) {
             return failure.number;
         }
-        return 0;
+        return FailureNumber::none;
     }
 
     std::shared_ptr<DeadMount> mount = std::make_shared<DeadMount>();
@@ -75,42 +75,42 @@ TEST_F(DiskPatienceTest, GivesWhatTheDiskAnswers) {
 }
 
 TEST_F(DiskPatienceTest, PassesOnTheFailureOfADiskThatAnswers) {
-    const auto refused = [] { throw Failure{failure_number::file_not_found}; };
+    const auto refused = [] { throw Failure{FailureNumber::file_not_found}; };
     EXPECT_THROW(patience->run("/mnt/a", "a", refused), Failure);
     mount->come_back();
     EXPECT_EQ(ask("/mnt/a/titre.mp3"), 1);
 }
 
 TEST_F(DiskPatienceTest, DiskThatDoesNotAnswerIsADeviceFault) {
-    EXPECT_EQ(failure_of("/mnt/a/titre.mp3"), failure_number::device_fault);
+    EXPECT_EQ(failure_of("/mnt/a/titre.mp3"), FailureNumber::device_fault);
 }
 
 TEST_F(DiskPatienceTest, SilentDiskIsNotAskedAgain) {
     mount_at({"/", "/mnt/a"});
     static_cast<void>(failure_of("/mnt/a/titre.mp3"));
     for (int look = 0; look < 10; ++look)
-        EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), failure_number::device_fault);
+        EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), FailureNumber::device_fault);
     EXPECT_LE(mount->asked(), 1);
 }
 
 TEST_F(DiskPatienceTest, SilentDiskIsKnownByItsMount) {
     mount_at({"/", "/mnt", "/mnt/disque\\040de\\040musique"});
     static_cast<void>(failure_of("/mnt/disque de musique/a/b/titre.mp3"));
-    EXPECT_EQ(failure_of("/mnt/disque de musique/c/titre.mp3"), failure_number::device_fault);
+    EXPECT_EQ(failure_of("/mnt/disque de musique/c/titre.mp3"), FailureNumber::device_fault);
     EXPECT_LE(mount->asked(), 1);
 }
 
 TEST_F(DiskPatienceTest, SilentDiskIsKnownByItsMountWhereverTheTableNamesIt) {
     mount_at({"/mnt/a", "/"});
     static_cast<void>(failure_of("/mnt/a/titre.mp3"));
-    EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), failure_number::device_fault);
+    EXPECT_EQ(failure_of("/mnt/a/album/autre.mp3"), FailureNumber::device_fault);
     EXPECT_LE(mount->asked(), 1);
 }
 
 TEST_F(DiskPatienceTest, OnTheRootsDiskTheSilentFolderAloneIsAvoided) {
     mount_at({"/"});
     static_cast<void>(failure_of("/musique/lien"));
-    EXPECT_EQ(failure_of("/musique/lien/titre.mp3"), failure_number::device_fault);
+    EXPECT_EQ(failure_of("/musique/lien/titre.mp3"), FailureNumber::device_fault);
     EXPECT_EQ(patience->run("/musique/autre.mp3", "", [] { return 2; }), 2);
 }
 
@@ -123,7 +123,7 @@ TEST_F(DiskPatienceTest, SilentDiskKeepsNoOtherFromAnswering) {
 TEST_F(DiskPatienceTest, DiskThatCameBackIsAskedAgain) {
     static_cast<void>(failure_of("/mnt/a/titre.mp3"));
     mount->come_back();
-    while (failure_of("/mnt/a/titre.mp3") != 0)
+    while (failure_of("/mnt/a/titre.mp3") != FailureNumber::none)
         std::this_thread::yield();
 }
 
@@ -157,13 +157,13 @@ protected:
     }
 
     template <typename Use>
-    [[nodiscard]] static int failure_of_use(Use use) {
+    [[nodiscard]] static FailureNumber failure_of_use(Use use) {
         try {
             use();
         } catch (const Failure& failure) {
             return failure.number;
         }
-        return 0;
+        return FailureNumber::none;
     }
 
     test::PrivateFolder silent;
@@ -184,7 +184,7 @@ TEST_F(SilentDrive, FailsEachLookAsADeviceFault) {
         [this] { static_cast<void>(disk.open_or_create("D:\\liste.dfm")); },
     };
     for (std::size_t look = 0; look < looks.size(); ++look)
-        EXPECT_EQ(failure_of_use(looks[look]), failure_number::device_fault) << look;
+        EXPECT_EQ(failure_of_use(looks[look]), FailureNumber::device_fault) << look;
 }
 
 // The chain writes an end of play back into the list, which may lie on the drive that has gone.
@@ -199,7 +199,7 @@ TEST_F(SilentDrive, FailsEachChangeAsADeviceFault) {
         [this] { disk.RmDir("D:\\album"); },
     };
     for (std::size_t change = 0; change < changes.size(); ++change)
-        EXPECT_EQ(failure_of_use(changes[change]), failure_number::device_fault) << change;
+        EXPECT_EQ(failure_of_use(changes[change]), FailureNumber::device_fault) << change;
 }
 
 TEST_F(SilentDrive, LeavesTheWorkingFolderWhereItIs) {
@@ -215,7 +215,7 @@ TEST_F(SilentDrive, LeavesTheOtherDrivesAlone) {
 
 TEST_F(SilentDrive, ThatCameBackIsLookedAtAgain) {
     mount->come_back();
-    while (failure_of_use([this] { disk.ChDrive("D:"); }) != 0)
+    while (failure_of_use([this] { disk.ChDrive("D:"); }) != FailureNumber::none)
         std::this_thread::yield();
     EXPECT_EQ(disk.current_drive(), 'D');
 }

@@ -16,7 +16,7 @@ std::string seen(const std::function<std::string()>& operation) {
     try {
         return operation();
     } catch (const Failure& failure) {
-        return "failure " + std::to_string(failure.number);
+        return "failure " + digits_of(failure.number);
     }
 }
 

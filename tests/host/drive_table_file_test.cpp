@@ -85,7 +85,8 @@ TEST(DriveTableFile, DriveOfAnotherProgramStays) {
 TEST(DriveTableFile, WrongDriveNameChangesNothing) {
     PrivateFolder folder;
 
-    EXPECT_EQ(failure_of([&] { set_saved_drive(folder.path("lecteurs.json"), "DD", "/d"); }), 68);
+    EXPECT_EQ(failure_of([&] { set_saved_drive(folder.path("lecteurs.json"), "DD", "/d"); }),
+              FailureNumber::device_unavailable);
     EXPECT_FALSE(folder.exists("lecteurs.json"));
 }
 
@@ -97,7 +98,7 @@ TEST(DriveTableFile, DamagedFileIsNamed) {
             (void)load_drive_table(folder.path("lecteurs.json"));
             ADD_FAILURE() << text;
         } catch (const Failure& failure) {
-            EXPECT_EQ(failure.number, 57) << text;
+            EXPECT_EQ(failure.number, FailureNumber::device_fault) << text;
             EXPECT_EQ(failure.source, folder.path("lecteurs.json")) << text;
         }
     }
@@ -116,14 +117,16 @@ TEST(DriveTableFile, DamagedFileStaysWhenNothingIsChanged) {
     PrivateFolder folder;
     folder.put("lecteurs.json", "C=/");
 
-    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }), 68);
+    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }),
+              FailureNumber::device_unavailable);
     EXPECT_EQ(folder.bytes("lecteurs.json"), "C=/");
 }
 
 TEST(DriveTableFile, DriveThatIsNotThereIsNotRemoved) {
     PrivateFolder folder;
 
-    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }), 68);
+    EXPECT_EQ(failure_of([&] { remove_saved_drive(folder.path("lecteurs.json"), "Q"); }),
+              FailureNumber::device_unavailable);
     EXPECT_FALSE(folder.exists("lecteurs.json"));
 }
 
@@ -170,7 +173,7 @@ TEST(StationPathOf, GoingUpBehindALinkLeadsWhereTheDiskSays) {
 struct Refusal {
     const char* name;
     const char* path;
-    int number;
+    FailureNumber number;
     const char* description;
 };
 
@@ -190,14 +193,18 @@ TEST_P(RefusedMachinePath, IsNamedWithItsReason) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    StationPathOf, RefusedMachinePath,
-    testing::Values(Refusal{"Foreign", "/srv/песня.mp3", 52, "Le caractère « п » n'existe pas en Windows-1252"},
-                    Refusal{"NoUtf8", "/srv/\xE9.mp3", 52, "Ce texte n'est pas écrit en UTF-8"},
-                    Refusal{"Forbidden", "/srv/quoi ?.mp3", 52, "Le caractère « ? » ne va pas dans un nom de fichier"},
-                    Refusal{"Backslash", "/srv/a\\b.mp3", 52, "Le caractère « \\ » ne va pas dans un nom de fichier"},
-                    Refusal{"NoDrive", "/home/x.mp3", 68, "Aucun lecteur n'atteint ce fichier"}),
-    [](const auto& test) { return std::string{test.param.name}; });
+INSTANTIATE_TEST_SUITE_P(StationPathOf, RefusedMachinePath,
+                         testing::Values(Refusal{"Foreign", "/srv/песня.mp3", FailureNumber::wrong_file_name,
+                                                 "Le caractère « п » n'existe pas en Windows-1252"},
+                                         Refusal{"NoUtf8", "/srv/\xE9.mp3", FailureNumber::wrong_file_name,
+                                                 "Ce texte n'est pas écrit en UTF-8"},
+                                         Refusal{"Forbidden", "/srv/quoi ?.mp3", FailureNumber::wrong_file_name,
+                                                 "Le caractère « ? » ne va pas dans un nom de fichier"},
+                                         Refusal{"Backslash", "/srv/a\\b.mp3", FailureNumber::wrong_file_name,
+                                                 "Le caractère « \\ » ne va pas dans un nom de fichier"},
+                                         Refusal{"NoDrive", "/home/x.mp3", FailureNumber::device_unavailable,
+                                                 "Aucun lecteur n'atteint ce fichier"}),
+                         [](const auto& test) { return std::string{test.param.name}; });
 
 TEST(StationPathOf, ForeignCharacterInADrivesOwnFolderDoesNotCount) {
     DriveTable table;

@@ -18,7 +18,8 @@ TEST(FullDisk, SaveThatStopsAtAnyByteLeavesTheOldFile) {
     const std::string records(save_size, 'n');
 
     for (std::size_t room = 0; room < save_size; ++room) {
-        ASSERT_EQ(failure_on_full_disk(room, [&] { bench.save("D:\\liste.dfm", records); }), 61) << room;
+        ASSERT_EQ(failure_on_full_disk(room, [&] { bench.save("D:\\liste.dfm", records); }), FailureNumber::disk_full)
+            << room;
         ASSERT_EQ(bench.folder.bytes("liste.dfm"), "old") << room;
         ASSERT_THAT(bench.folder.names(), ElementsAre("liste.dfm")) << room;
     }
@@ -29,7 +30,7 @@ TEST(FullDisk, SaveThatJustFitsIsDone) {
     bench.folder.put("liste.dfm", "old");
     const std::string records(save_size, 'n');
 
-    EXPECT_EQ(failure_on_full_disk(save_size, [&] { bench.save("D:\\liste.dfm", records); }), 0);
+    EXPECT_EQ(failure_on_full_disk(save_size, [&] { bench.save("D:\\liste.dfm", records); }), FailureNumber::none);
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), records);
 }
 
@@ -40,10 +41,10 @@ TEST(FullDisk, SaveBeyondAFileSizeLimitNamesTheLimit) {
             bench.save("D:\\liste.dfm", std::string(save_size, 'n'));
         } catch (const Failure& failure) {
             const bool is_named = failure.description.starts_with("Taille de fichier limitée");
-            throw Failure{is_named ? failure.number : 99};
+            throw Failure{is_named ? failure.number : FailureNumber::none};
         }
     };
-    EXPECT_EQ(failure_on_full_disk(10, save), 61);
+    EXPECT_EQ(failure_on_full_disk(10, save), FailureNumber::disk_full);
 }
 
 TEST(FullDisk, LongSaveThatStopsInTheMiddleTakesNothingMore) {
@@ -57,12 +58,12 @@ TEST(FullDisk, LongSaveThatStopsInTheMiddleTakesNothingMore) {
                                        const auto write = [&] { file->write(std::as_bytes(std::span{block})); };
                                        int refused = 0;
                                        for (int i = 0; i < 10; ++i)
-                                           refused += failure_of(write) != 0 ? 1 : 0;
+                                           refused += failure_of(write) != FailureNumber::none ? 1 : 0;
                                        if (refused != 7)
-                                           throw Failure{99};
+                                           throw std::logic_error{"other writes were refused"};
                                        file->commit();
                                    }),
-              57);
+              FailureNumber::device_fault);
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), "old");
 }
 
@@ -71,7 +72,8 @@ TEST(FullDisk, CopyThatDoesNotFitLeavesTheOldFile) {
     bench.folder.put("a.mp3", std::string(100'000, 'a'));
     bench.folder.put("b.mp3", "old");
 
-    EXPECT_EQ(failure_on_full_disk(50'000, [&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\b.mp3"); }), 61);
+    EXPECT_EQ(failure_on_full_disk(50'000, [&] { bench.disk.FileCopy("D:\\a.mp3", "D:\\b.mp3"); }),
+              FailureNumber::disk_full);
     EXPECT_EQ(bench.folder.bytes("b.mp3"), "old");
     EXPECT_THAT(bench.folder.names(), ElementsAre("a.mp3", "b.mp3"));
 }
@@ -83,7 +85,9 @@ TEST(FullDisk, LineThatDoesNotFitLeavesNoHalfLineInTheJournal) {
     bench.folder.put("journal.doc", first);
 
     for (std::size_t room = first.size(); room < first.size() + second.size(); ++room) {
-        ASSERT_EQ(failure_on_full_disk(room, [&] { bench.disk.append("D:\\journal.doc", second); }), 61) << room;
+        ASSERT_EQ(failure_on_full_disk(room, [&] { bench.disk.append("D:\\journal.doc", second); }),
+                  FailureNumber::disk_full)
+            << room;
         ASSERT_EQ(bench.folder.bytes("journal.doc"), first) << room;
     }
 }
@@ -93,7 +97,8 @@ TEST(FullDisk, SettingsThatDoNotFitLeaveTheOldOnes) {
     HostSettings settings{folder.path("reglages.json")};
     settings.SaveSetting("Sonarelle", "Config", "Mix", "6");
 
-    EXPECT_EQ(failure_on_full_disk(10, [&] { settings.SaveSetting("Sonarelle", "Config", "Mix", "7"); }), 61);
+    EXPECT_EQ(failure_on_full_disk(10, [&] { settings.SaveSetting("Sonarelle", "Config", "Mix", "7"); }),
+              FailureNumber::disk_full);
     EXPECT_EQ(settings.GetSetting("Sonarelle", "Config", "Mix", ""), "6");
 }
 

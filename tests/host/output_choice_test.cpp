@@ -58,7 +58,7 @@ TEST_F(OutputChoice, AWholeFileIsNotSetAside) {
 
 TEST_F(OutputChoice, ANameThatIsNoUtf8ChangesNothing) {
     save_output_choice(file, "Carte");
-    EXPECT_EQ(failure_of([&] { save_output_choice(file, "R\xE9gie"); }), failure_number::wrong_call);
+    EXPECT_EQ(failure_of([&] { save_output_choice(file, "R\xE9gie"); }), FailureNumber::wrong_call);
     EXPECT_EQ(load_output_choice(file), "Carte");
 }
 

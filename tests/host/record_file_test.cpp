@@ -65,7 +65,7 @@ TEST(HostRecordFile, PositionBeforeTheBeginningIsAWrongRecord) {
     bench.folder.put("liste.dfm", "abc");
     const auto file = bench.disk.open("D:\\liste.dfm");
 
-    EXPECT_EQ(failure_of([&] { (void)part_of(*file, -418, 10); }), 63);
+    EXPECT_EQ(failure_of([&] { (void)part_of(*file, -418, 10); }), FailureNumber::wrong_record_number);
 }
 
 TEST(HostRecordFile, SeesTheFileAsItWasWhenItWasOpened) {
@@ -91,7 +91,7 @@ TEST(HostRecordFile, EndsWhereItEndedWhenItWasOpened) {
 TEST(HostRecordFile, OpeningAMissingFileToReadLeavesNone) {
     DiskFixture bench;
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\liste.dfm"); }), 53);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\liste.dfm"); }), FailureNumber::file_not_found);
     EXPECT_FALSE(bench.folder.exists("liste.dfm"));
 }
 
@@ -123,8 +123,8 @@ TEST(HostRecordFile, FolderOrPipeIsNoFile) {
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\un"); }), 75);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\tube"); }), 75);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\un"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.open("D:\\tube"); }), FailureNumber::path_access);
 }
 
 } // namespace sonarelle::test

@@ -101,7 +101,7 @@ TEST(HostReplacement, LinksThatGoRoundAreRefused) {
     std::filesystem::create_symlink("b", bench.folder.path("a"));
     std::filesystem::create_symlink("a", bench.folder.path("b"));
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\a"); }), 75);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\a"); }), FailureNumber::path_access);
 }
 
 TEST(HostReplacement, WorksForTheLongestNameOfTheDisk) {
@@ -130,9 +130,9 @@ TEST(HostReplacement, FolderOrPipeIsNoFile) {
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\un"); }), 75);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\tube"); }), 75);
-    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\absent\\x"); }), 76);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\un"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\tube"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_of([&] { (void)bench.disk.replace("D:\\absent\\x"); }), FailureNumber::path_not_found);
 }
 
 TEST(HostReplacement, RemovesWhatAKilledProgramLeftOfTheSameFile) {
@@ -170,8 +170,8 @@ TEST(HostReplacement, IsOfNoMoreUseAfterItsCommit) {
     const auto file = bench.disk.replace("D:\\liste.dfm");
     file->commit();
 
-    EXPECT_EQ(failure_of([&] { file->write(std::as_bytes(std::span{"x", 1})); }), 57);
-    EXPECT_EQ(failure_of([&] { file->commit(); }), 57);
+    EXPECT_EQ(failure_of([&] { file->write(std::as_bytes(std::span{"x", 1})); }), FailureNumber::device_fault);
+    EXPECT_EQ(failure_of([&] { file->commit(); }), FailureNumber::device_fault);
 }
 
 TEST(HostAppend, AddsAtTheEndAndMakesTheFile) {
@@ -187,9 +187,9 @@ TEST(HostAppend, FolderOrPipeIsNoFile) {
     bench.folder.put_folder("un");
     ASSERT_EQ(::mkfifo(bench.folder.path("tube").c_str(), 0600), 0);
 
-    EXPECT_EQ(failure_of([&] { bench.disk.append("D:\\un", "x"); }), 75);
-    EXPECT_NE(failure_of([&] { bench.disk.append("D:\\tube", "x"); }), 0);
-    EXPECT_EQ(failure_of([&] { bench.disk.append("D:\\absent\\x", "x"); }), 76);
+    EXPECT_EQ(failure_of([&] { bench.disk.append("D:\\un", "x"); }), FailureNumber::path_access);
+    EXPECT_NE(failure_of([&] { bench.disk.append("D:\\tube", "x"); }), FailureNumber::none);
+    EXPECT_EQ(failure_of([&] { bench.disk.append("D:\\absent\\x", "x"); }), FailureNumber::path_not_found);
 }
 
 } // namespace sonarelle::test

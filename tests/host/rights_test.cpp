@@ -29,7 +29,7 @@ TEST(Rights, FileThatMayNotBeReadIsRefused) {
     bench.folder.put("a.mp3");
     bench.folder.set_rights("a.mp3", 0);
 
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\a.mp3"); }), 70);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\a.mp3"); }), FailureNumber::permission_refused);
 }
 
 TEST(Rights, FolderThatMayNotBeEnteredIsRefused) {
@@ -37,8 +37,9 @@ TEST(Rights, FolderThatMayNotBeEnteredIsRefused) {
     bench.folder.put("un/a.mp3");
     bench.folder.set_rights("un", 0);
 
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }), 70);
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.Dir("D:\\un\\*"); }), 70);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }),
+              FailureNumber::permission_refused);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.Dir("D:\\un\\*"); }), FailureNumber::permission_refused);
     bench.folder.set_rights("un", 0755);
 }
 
@@ -47,35 +48,38 @@ TEST(Rights, FolderThatMayBeEnteredButNotReadGivesItsFilesByTheirExactNames) {
     bench.folder.put("un/a.mp3");
     bench.folder.set_rights("un", 0111);
 
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }), 0);
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\A.mp3"); }), 53);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\a.mp3"); }), FailureNumber::none);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open("D:\\un\\A.mp3"); }), FailureNumber::file_not_found);
     bench.folder.set_rights("un", 0755);
 }
 
 TEST(Rights, NothingIsSavedIntoAFolderThatMayNotBeWritten) {
     ReadOnlyFolder bench;
 
-    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\autre.dfm", "new"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\autre.dfm", "new"); }), FailureNumber::path_access);
     EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "old");
 }
 
 TEST(Rights, NothingIsMadeOrRemovedInAFolderThatMayNotBeWritten) {
     ReadOnlyFolder bench;
 
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\b"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\b", "x"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.MkDir("D:\\un\\b"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.Name("D:\\un\\liste.dfm", "D:\\un\\b"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\b"); }),
+              FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\b", "x"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.MkDir("D:\\un\\b"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Name("D:\\un\\liste.dfm", "D:\\un\\b"); }),
+              FailureNumber::path_access);
     EXPECT_THAT(bench.folder.names("un"), ElementsAre("liste.dfm"));
 }
 
 TEST(Rights, FileThatIsThereOpensInAFolderThatMayNotBeWritten) {
     ReadOnlyFolder bench;
 
-    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\liste.dfm"); }), 0);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\liste.dfm", "x"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.open_or_create("D:\\un\\liste.dfm"); }),
+              FailureNumber::none);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.append("D:\\un\\liste.dfm", "x"); }), FailureNumber::none);
 }
 
 TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
@@ -84,8 +88,8 @@ TEST(Rights, WriteProtectedFileStaysThoughItsFolderMayBeWritten) {
     bench.folder.set_rights("un/liste.dfm", 0444);
     bench.folder.set_rights("un", 0777);
 
-    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\liste.dfm"); }), FailureNumber::path_access);
     EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "old");
 }
 
@@ -97,7 +101,7 @@ TEST(Rights, LinkToAWriteProtectedFileGoesByItself) {
     bench.folder.set_rights("un", 0777);
     ASSERT_EQ(::symlink("../liste.dfm", bench.folder.path("un/lien.dfm").c_str()), 0);
 
-    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\lien.dfm"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { bench.disk.Kill("D:\\un\\lien.dfm"); }), FailureNumber::none);
     EXPECT_THAT(bench.folder.names("un"), IsEmpty());
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), "old");
 }
@@ -108,7 +112,7 @@ TEST(Rights, FileOfAnotherOwnerThatAllMayWriteIsReplaced) {
     bench.folder.set_rights("un/liste.dfm", 0666);
     bench.folder.set_rights("un", 0777);
 
-    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { bench.save("D:\\un\\liste.dfm", "new"); }), FailureNumber::none);
     EXPECT_EQ(bench.folder.bytes("un/liste.dfm"), "new");
     EXPECT_EQ(bench.folder.rights("un/liste.dfm"), 0666U);
 }
@@ -132,9 +136,12 @@ TEST(Rights, SettingsThatMayNotBeReadOrWrittenAreRefused) {
     settings.SaveSetting("Sonarelle", "Config", "Mix", "6");
     folder.set_rights("reglages.json", 0600);
 
-    EXPECT_EQ(failure_without_rights([&] { settings.SaveSetting("Sonarelle", "Config", "Mix", "7"); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { (void)settings.GetSetting("Sonarelle", "Config", "Mix", ""); }), 75);
-    EXPECT_EQ(failure_without_rights([&] { (void)load_drive_table(folder.path("reglages.json")); }), 75);
+    EXPECT_EQ(failure_without_rights([&] { settings.SaveSetting("Sonarelle", "Config", "Mix", "7"); }),
+              FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { (void)settings.GetSetting("Sonarelle", "Config", "Mix", ""); }),
+              FailureNumber::path_access);
+    EXPECT_EQ(failure_without_rights([&] { (void)load_drive_table(folder.path("reglages.json")); }),
+              FailureNumber::path_access);
 }
 
 TEST(Rights, SettingsInAFolderThatMayNotBeMadeAreRefusedByName) {
@@ -144,11 +151,11 @@ TEST(Rights, SettingsInAFolderThatMayNotBeMadeAreRefusedByName) {
         try {
             settings.SaveSetting("Sonarelle", "Config", "Mix", "7");
         } catch (const Failure& failure) {
-            throw Failure{failure.source == folder.path("absent/reglages.json") ? failure.number : 99};
+            throw Failure{failure.source == folder.path("absent/reglages.json") ? failure.number : FailureNumber::none};
         }
     };
 
-    EXPECT_EQ(failure_without_rights(named), 75);
+    EXPECT_EQ(failure_without_rights(named), FailureNumber::path_access);
 }
 
 TEST(Rights, LockOfAnotherUserShutsNobodyOutOfSharedSettings) {
@@ -160,7 +167,8 @@ TEST(Rights, LockOfAnotherUserShutsNobodyOutOfSharedSettings) {
     bench.folder.set_rights("commun/reglages.json", 0666);
     bench.folder.set_rights("commun/.reglages.verrou", 0644);
 
-    EXPECT_EQ(failure_without_rights([&] { HostSettings{file}.SaveSetting("Sonarelle V6", "Config", "Mix", "7"); }), 0);
+    EXPECT_EQ(failure_without_rights([&] { HostSettings{file}.SaveSetting("Sonarelle V6", "Config", "Mix", "7"); }),
+              FailureNumber::none);
 }
 
 TEST(Rights, LinkThatSomeoneElseLeftInASharedFolderIsNotWrittenThrough) {
@@ -172,11 +180,11 @@ TEST(Rights, LinkThatSomeoneElseLeftInASharedFolderIsNotWrittenThrough) {
     bench.folder.set_rights("tous", 01777);
     ASSERT_EQ(failure_without_rights([&] {
                   if (::symlink("../cible.txt", bench.folder.path("tous/liste.dfm").c_str()) != 0)
-                      throw Failure{failure_number::path_access};
+                      throw Failure{FailureNumber::path_access};
               }),
-              0);
+              FailureNumber::none);
 
-    EXPECT_EQ(failure_of([&] { bench.save("D:\\tous\\liste.dfm", "new"); }), 75);
+    EXPECT_EQ(failure_of([&] { bench.save("D:\\tous\\liste.dfm", "new"); }), FailureNumber::path_access);
     EXPECT_EQ(bench.folder.bytes("cible.txt"), "kept");
 }
 

@@ -136,7 +136,7 @@ TEST(HostSettings, SaveAllOfManyOrNone) {
     SettingsFixture bench;
     const std::vector<Setting> settings{{"Config", "Mix", "6"}, {"Config", "Logo", "\xFF"}};
 
-    EXPECT_EQ(failure_of([&] { bench.settings.save_all(application, settings); }), 5);
+    EXPECT_EQ(failure_of([&] { bench.settings.save_all(application, settings); }), FailureNumber::wrong_call);
     EXPECT_EQ(bench.config("Mix"), "absent");
 }
 
@@ -165,7 +165,7 @@ TEST_P(DamagedSettings, AreNamedToTheReader) {
         (void)bench.config("Mix");
         FAIL();
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 57);
+        EXPECT_EQ(failure.number, FailureNumber::device_fault);
         EXPECT_EQ(failure.source, bench.folder.path("reglages.json"));
         EXPECT_THAT(failure.description, HasSubstr(GetParam().description));
     }

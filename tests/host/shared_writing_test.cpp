@@ -110,7 +110,7 @@ TEST(HostSharedWriting, TellsOfAProgramThatDoesNotLetGo) {
     ASSERT_EQ(::flock(folder.get(), LOCK_EX), 0);
 
     EXPECT_EQ(failure_of([&] { (void)save_over(bench.disk, bench.disk.facts(list), "new"); }),
-              failure_number::path_access);
+              FailureNumber::path_access);
     EXPECT_EQ(bench.folder.bytes("liste.dfm"), "old");
 }
 
@@ -121,7 +121,7 @@ TEST(HostClaim, IsOneProgramsAlone) {
 
     EXPECT_EQ(end_of_child(start_child([&] {
                   if (bench.disk.claim(list) != nullptr)
-                      throw Failure{1};
+                      throw std::logic_error{"a second claim"};
               })),
               0);
     EXPECT_NE(bench.disk.claim("D:\\autre.dfm"), nullptr);
@@ -147,7 +147,7 @@ TEST(HostClaim, IsRefusedInAFolderThatCanNotBeWritten) {
     bench.folder.set_rights("Fermé", 0555);
 
     EXPECT_EQ(failure_without_rights([&] { (void)bench.disk.claim("D:\\Fermé\\liste.dfm"); }),
-              failure_number::path_access);
+              FailureNumber::path_access);
 }
 
 } // namespace sonarelle::test

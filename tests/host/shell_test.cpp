@@ -44,9 +44,10 @@ TEST(HostShell, ProgramThatIsNotThereFails) {
     ShellFixture bench;
     bench.folder.put("no program");
 
-    EXPECT_EQ(failure_of([&] { bench.shell.start_program("sonarelle-sans-programme", ""); }), 53);
-    EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\absent.sh", ""); }), 53);
-    EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\no program", ""); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.shell.start_program("sonarelle-sans-programme", ""); }),
+              FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\absent.sh", ""); }), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { bench.shell.start_program("D:\\no program", ""); }), FailureNumber::file_not_found);
 }
 
 TEST(HostShell, TakesTheFirstProgramOfThisMachineForOneOfAnotherSystem) {
@@ -67,7 +68,8 @@ TEST(HostShell, ProgramOfAnotherSystemWithoutALikeOneHereFails) {
     ShellFixture bench;
     const SearchPath only{bench.folder.path()};
 
-    EXPECT_EQ(failure_of([&] { bench.shell.start_program("C:\\WINDOWS\\CDPLAYER.EXE", ""); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.shell.start_program("C:\\WINDOWS\\CDPLAYER.EXE", ""); }),
+              FailureNumber::file_not_found);
 }
 
 TEST(HostShell, KnowsWhatTheMenusName) {
@@ -84,7 +86,7 @@ TEST(HostShell, KnowsWhatTheMenusName) {
 TEST(HostShell, DocumentThatIsNotThereFails) {
     ShellFixture bench;
 
-    EXPECT_EQ(failure_of([&] { bench.shell.open_document("D:\\aide.txt"); }), 53);
+    EXPECT_EQ(failure_of([&] { bench.shell.open_document("D:\\aide.txt"); }), FailureNumber::file_not_found);
 }
 
 TEST(HostShell, KeepsTheClipboard) {

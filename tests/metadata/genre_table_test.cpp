@@ -119,7 +119,7 @@ TEST(GenreTable, ParenthesisedNumberBeyond16BitsIsAnOverflow) {
         (void)numero_du_genre("(32768)");
         FAIL() << "no failure";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::overflow);
+        EXPECT_EQ(failure.number, FailureNumber::overflow);
     }
 }
 

@@ -91,7 +91,7 @@ TEST_F(LoadTags, MissingFileEmptiesTheFields) {
 }
 
 TEST_F(LoadTags, FaultInOneFieldLeavesTheOthersToBeFilled) {
-    window.txtv1Titre.on_change = [] { throw Failure{failure_number::wrong_call}; };
+    window.txtv1Titre.on_change = [] { throw Failure{FailureNumber::wrong_call}; };
     load(full_tag);
     EXPECT_EQ(window.txtv1Commentaire.text(), "Commentaire");
 }

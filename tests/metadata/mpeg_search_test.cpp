@@ -52,7 +52,7 @@ TEST(MpegSearch, MissingFileIsAFailureOfTheCaller) {
         (void)TypeTagMpeg{on_disk.disk}.LireEntete(song);
         FAIL() << "no failure";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::path_not_found);
+        EXPECT_EQ(failure.number, FailureNumber::path_not_found);
     }
 }
 

@@ -25,7 +25,7 @@ void expect_no_drive(Statement&& statement) {
         statement();
         ADD_FAILURE() << "no failure";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::device_unavailable);
+        EXPECT_EQ(failure.number, FailureNumber::device_unavailable);
     }
 }
 

@@ -9,27 +9,27 @@ namespace sonarelle {
 namespace {
 
 TEST(Failure, SaysItsSourceAndItsSentence) {
-    const Failure failure{failure_number::file_not_found, "D:\\a.mp3"};
+    const Failure failure{FailureNumber::file_not_found, "D:\\a.mp3"};
     EXPECT_STREQ(failure.what(), "D:\\a.mp3 : Fichier introuvable");
 }
 
 TEST(Failure, WithoutASourceSaysItsSentenceAlone) {
-    EXPECT_STREQ(Failure{failure_number::overflow}.what(), "Dépassement de capacité");
+    EXPECT_STREQ(Failure{FailureNumber::overflow}.what(), "Dépassement de capacité");
 }
 
-TEST(Failure, AnUnknownNumberHasASentenceToo) {
-    EXPECT_EQ(failure_description(4711), "Erreur inconnue");
+TEST(Failure, AnUnknownOneHasASentenceToo) {
+    EXPECT_EQ(failure_description(FailureNumber{4711}), "Erreur inconnue");
 }
 
 TEST(ErrorIndicator, SkipsAFailingStatementAndKeepsItsNumber) {
     ErrorIndicator errors;
-    EXPECT_FALSE(errors.skip([] { throw Failure{failure_number::disk_full}; }));
-    EXPECT_EQ(errors.number(), failure_number::disk_full);
+    EXPECT_FALSE(errors.skip([] { throw Failure{FailureNumber::disk_full}; }));
+    EXPECT_EQ(errors.number(), FailureNumber::disk_full);
 }
 
 TEST(ErrorIndicator, AGoodStatementLeavesTheLastNumber) {
     ErrorIndicator errors;
-    errors.skip([] { throw Failure{failure_number::disk_full}; });
+    errors.skip([] { throw Failure{FailureNumber::disk_full}; });
     EXPECT_TRUE(errors.skip([] {}));
     EXPECT_TRUE(errors.is_set());
     errors.clear();

@@ -13,13 +13,13 @@ constexpr DecimalMark point = DecimalMark::point;
 constexpr DecimalMark comma = DecimalMark::comma;
 
 template <typename Statement>
-int number_of_failure(Statement&& statement) {
+FailureNumber number_of_failure(Statement&& statement) {
     try {
         statement();
     } catch (const Failure& failure) {
         return failure.number;
     }
-    return 0;
+    return FailureNumber::none;
 }
 
 const Integer greatest{32767};
@@ -31,40 +31,40 @@ TEST(Integer, HoldsBothEndsOfSixteenBits) {
 }
 
 TEST(Integer, AValueBeyondSixteenBitsOverflows) {
-    EXPECT_EQ(number_of_failure([] { (void)Integer{32768}; }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)Integer{-32769}; }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)Integer{32768}; }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)Integer{-32769}; }), FailureNumber::overflow);
 }
 
 TEST(Integer, SumsOverflowAtBothEnds) {
     EXPECT_EQ((greatest + Integer{0}).value(), 32767);
-    EXPECT_EQ(number_of_failure([] { (void)(greatest + Integer{1}); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)(least + Integer{-1}); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(greatest + Integer{1}); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(least + Integer{-1}); }), FailureNumber::overflow);
 }
 
 TEST(Integer, DifferencesOverflowAtBothEnds) {
     EXPECT_EQ((least - Integer{0}).value(), -32768);
-    EXPECT_EQ(number_of_failure([] { (void)(least - Integer{1}); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)(greatest - Integer{-1}); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(least - Integer{1}); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(greatest - Integer{-1}); }), FailureNumber::overflow);
 }
 
 TEST(Integer, ProductsOverflowAtBothEnds) {
     EXPECT_EQ((Integer{-32768} * Integer{1}).value(), -32768);
-    EXPECT_EQ(number_of_failure([] { (void)(Integer{256} * Integer{128}); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)(Integer{-257} * Integer{128}); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)(least * least); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(Integer{256} * Integer{128}); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(Integer{-257} * Integer{128}); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)(least * least); }), FailureNumber::overflow);
 }
 
 TEST(Integer, TheLeastHasNoOpposite) {
     EXPECT_EQ((-greatest).value(), -32767);
-    EXPECT_EQ(number_of_failure([] { (void)-least; }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)-least; }), FailureNumber::overflow);
 }
 
 TEST(Integer, AnAssignmentThatOverflowsLeavesTheValue) {
     Integer value = greatest;
-    EXPECT_EQ(number_of_failure([&] { value += 1; }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([&] { value += 1; }), FailureNumber::overflow);
     EXPECT_EQ(value, greatest);
     value = least;
-    EXPECT_EQ(number_of_failure([&] { value -= 1; }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([&] { value -= 1; }), FailureNumber::overflow);
     EXPECT_EQ(value, least);
 }
 
@@ -85,8 +85,8 @@ TEST(Numbers, TextReadsWithTheStationsMark) {
 }
 
 TEST(Numbers, TheOtherMarkIsNoNumber) {
-    EXPECT_EQ(number_of_failure([] { (void)to_double("12,5", point); }), failure_number::type_mismatch);
-    EXPECT_EQ(number_of_failure([] { (void)to_double("12.5", comma); }), failure_number::type_mismatch);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("12,5", point); }), FailureNumber::type_mismatch);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("12.5", comma); }), FailureNumber::type_mismatch);
 }
 
 TEST(Numbers, BlanksSignsAndExponentsAreAllowed) {
@@ -103,14 +103,14 @@ TEST(Numbers, WhatIsNoNumberIsATypeMismatchWithItsText) {
             (void)to_double(text, point);
             ADD_FAILURE() << "\"" << text << "\" was taken for a number";
         } catch (const Failure& failure) {
-            EXPECT_EQ(failure.number, failure_number::type_mismatch) << text;
+            EXPECT_EQ(failure.number, FailureNumber::type_mismatch) << text;
             EXPECT_EQ(failure.source, text);
         }
 }
 
 TEST(Numbers, ANumberTooGreatForADoubleOverflows) {
-    EXPECT_EQ(number_of_failure([] { (void)to_double("1e400", point); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)to_double("-" + std::string(400, '9'), point); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("1e400", point); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("-" + std::string(400, '9'), point); }), FailureNumber::overflow);
 }
 
 TEST(Numbers, ANumberTooSmallForADoubleIsNothing) {
@@ -121,8 +121,8 @@ TEST(Numbers, ANumberTooSmallForADoubleIsNothing) {
 TEST(Numbers, AnExponentCountsWithTheDigitsBeforeIt) {
     const std::string nines(800, '9');
     const std::string zeros(800, '0');
-    EXPECT_EQ(number_of_failure([&] { (void)to_double(nines + "e-400", point); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)to_double("1e99999999999999999999", point); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([&] { (void)to_double(nines + "e-400", point); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_double("1e99999999999999999999", point); }), FailureNumber::overflow);
     EXPECT_EQ(to_double("0." + zeros + "1e+400", point), 0);
     EXPECT_EQ(to_double("." + zeros + "1e400", point), 0);
     EXPECT_EQ(to_double("1e-99999999999999999999", point), 0);
@@ -141,21 +141,21 @@ TEST(Numbers, WholeNumbersRoundHalvesToEven) {
 TEST(Numbers, RoundingDecidesWhetherANumberStillFits) {
     EXPECT_EQ(to_integer("32767.4", point).value(), 32767);
     EXPECT_EQ(to_integer(-32768.5).value(), -32768);
-    EXPECT_EQ(number_of_failure([] { (void)to_integer("32767.5", point); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)to_integer(-32768.51); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_integer("32767.5", point); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_integer(-32768.51); }), FailureNumber::overflow);
 }
 
 TEST(Numbers, LongsHaveThirtyTwoBits) {
     EXPECT_EQ(to_long("2147483647", point), INT32_MAX);
     EXPECT_EQ(to_long("-2147483648", point), INT32_MIN);
-    EXPECT_EQ(number_of_failure([] { (void)to_long("2147483647.5", point); }), failure_number::overflow);
-    EXPECT_EQ(number_of_failure([] { (void)to_long("-2147483649", point); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_long("2147483647.5", point); }), FailureNumber::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_long("-2147483649", point); }), FailureNumber::overflow);
 }
 
 TEST(Numbers, WhatIsNotFiniteHasNoWholeNumber) {
-    EXPECT_EQ(number_of_failure([] { (void)to_long(std::nan("")); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)to_long(std::nan("")); }), FailureNumber::overflow);
     EXPECT_EQ(number_of_failure([] { (void)to_integer(std::numeric_limits<double>::infinity()); }),
-              failure_number::overflow);
+              FailureNumber::overflow);
 }
 
 TEST(Numbers, AnEndPointReadsWithEitherMark) {
@@ -166,11 +166,11 @@ TEST(Numbers, AnEndPointReadsWithEitherMark) {
 }
 
 TEST(Numbers, AnEndPointWithTwoMarksIsNoNumber) {
-    EXPECT_EQ(number_of_failure([] { (void)end_point_to_double("1,234.5"); }), failure_number::type_mismatch);
+    EXPECT_EQ(number_of_failure([] { (void)end_point_to_double("1,234.5"); }), FailureNumber::type_mismatch);
 }
 
 TEST(Numbers, AnEndPointBeyondSixteenBitsOverflows) {
-    EXPECT_EQ(number_of_failure([] { (void)end_point_to_integer("32768.00"); }), failure_number::overflow);
+    EXPECT_EQ(number_of_failure([] { (void)end_point_to_integer("32768.00"); }), FailureNumber::overflow);
 }
 
 TEST(Numbers, TextOfANumberHasNoTrailingZeros) {

@@ -64,7 +64,7 @@ TEST_F(Rows, ARowThatIsNotThereIsFailureNine) {
             statement();
             ADD_FAILURE() << "no failure";
         } catch (const Failure& failure) {
-            EXPECT_EQ(failure.number, failure_number::not_in_selection);
+            EXPECT_EQ(failure.number, FailureNumber::not_in_selection);
         }
     EXPECT_THAT(texts(), ElementsAre("a"));
 }

@@ -36,7 +36,7 @@ TEST(Text, ACharacterWithoutAByteIsRefusedByName) {
         FAIL() << "nothing was refused";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.source, "Ł");
-        EXPECT_EQ(failure.number, failure_number::wrong_call);
+        EXPECT_EQ(failure.number, FailureNumber::wrong_call);
     }
 }
 

@@ -182,7 +182,7 @@ TEST_F(ListDocumentTest, LoadsFromTheContextMenuAlike) {
 
 TEST_F(ListDocumentTest, TellsWhenTheDiskRefusesAList) {
     machine.disk.put_file(matin, bytes_of(record_of("a")));
-    machine.disk.refuse(matin, failure_number::permission_refused);
+    machine.disk.refuse(matin, FailureNumber::permission_refused);
     machine.dialogs.expect_open(matin);
     machine.dialogs.expect_box("Permission refusée", Answer::ok);
     station.list_window.A_liste.click();
@@ -191,14 +191,16 @@ TEST_F(ListDocumentTest, TellsWhenTheDiskRefusesAList) {
 }
 
 TEST_F(ListDocumentTest, SaysNothingOfAnyOtherFailure) {
-    machine.disk.refuse(matin, failure_number::device_fault);
+    machine.disk.refuse(matin, FailureNumber::device_fault);
     machine.dialogs.expect_open(matin);
     station.list_window.A_liste.click();
     EXPECT_EQ(machine.dialogs.asked().size(), 1U);
 }
 
 TEST_F(ListDocumentTest, TellsEachRefusalOfTheDisk) {
-    for (const int number : {70, 71, 74, 75, 76}) {
+    for (const FailureNumber number :
+         {FailureNumber::permission_refused, FailureNumber::disk_not_ready, FailureNumber::other_drive,
+          FailureNumber::path_access, FailureNumber::path_not_found}) {
         machine.disk.refuse(matin, number);
         machine.dialogs.expect_open(matin);
         machine.dialogs.expect_box(failure_description(number), Answer::ok);
@@ -223,7 +225,7 @@ TEST_F(ListDocumentTest, ShowsTheBusyPointerWhileTheDefaultListIsRead) {
 
 TEST_F(ListDocumentTest, BeginsTheNextDialogInTheProgramFolderAfterARefusal) {
     station.settings.chemin_musique = "D:\\Musique";
-    machine.disk.refuse(matin, failure_number::path_not_found);
+    machine.disk.refuse(matin, FailureNumber::path_not_found);
     machine.dialogs.expect_open(matin);
     machine.dialogs.expect_box(Answer::ok);
     station.list_window.A_liste.click();

@@ -49,7 +49,7 @@ TEST_F(FileExistence, CountsADriveThatIsNotThereAsAMissingFile) {
 
 TEST_F(FileExistence, HasNoAnswerFromADriveThatIsSilent) {
     machine.disk.put_file("D:\\titre.mp3");
-    machine.disk.refuse("D:\\", failure_number::device_fault);
+    machine.disk.refuse("D:\\", FailureNumber::device_fault);
     EXPECT_THROW((void)state_of("D:\\titre.mp3"), Failure);
 }
 
@@ -90,7 +90,7 @@ TEST_F(FileExistence, DoesNotLookForAFileOnTheNetwork) {
 
 TEST_F(FileExistence, SaysWhatIsNoAnswer) {
     machine.disk.put_file("C:\\Musique\\titre.mp3");
-    machine.disk.refuse("C:\\Musique", failure_number::permission_refused);
+    machine.disk.refuse("C:\\Musique", FailureNumber::permission_refused);
     EXPECT_THROW((void)state_of("C:\\Musique\\titre.mp3"), Failure);
 }
 
@@ -185,7 +185,7 @@ TEST_F(ListVerificationTest, KeepsARowOnTheNetwork) {
 TEST_F(ListVerificationTest, TellsAnErrorAndKeepsTheRow) {
     put_songs({"C:\\Musique\\b.mp3"});
     open_rows({"C:\\a.mp3", "C:\\Musique\\b.mp3"});
-    machine.disk.refuse("C:\\Musique", failure_number::permission_refused);
+    machine.disk.refuse("C:\\Musique", FailureNumber::permission_refused);
     expect_removal("C:\\a.mp3");
     machine.dialogs.expect_box(" err N° 70 ", Answer::ok);
     list().prechar.click();
@@ -197,7 +197,7 @@ TEST_F(ListVerificationTest, TellsAnErrorAndKeepsTheRow) {
 TEST_F(ListVerificationTest, KeepsTheRowsOfADriveThatIsSilent) {
     put_songs({"D:\\a.mp3", "D:\\b.mp3"});
     open_rows({"D:\\a.mp3", "D:\\b.mp3"});
-    machine.disk.refuse("D:\\", failure_number::device_fault);
+    machine.disk.refuse("D:\\", FailureNumber::device_fault);
     machine.dialogs.expect_box(" err N° 57 ", Answer::ok);
     list().prechar.click();
     EXPECT_EQ(rows().count(), 2);

@@ -205,7 +205,7 @@ TEST_F(VolumeChange, LeavesTheOldListWhenTheDiskIsFull) {
 
 TEST_F(VolumeChange, ChangesRowsWhoseRecordCannotBeReadByTheirCells) {
     open_two_rows();
-    machine.disk.refuse(matin, failure_number::device_fault);
+    machine.disk.refuse(matin, FailureNumber::device_fault);
     expect_volume("60");
     list().Modifier_volume.click();
     EXPECT_EQ(rows().row(2), (RowTable::Row{"C:\\b.mp3", "2.40", "100.50", "Pop", "60", "00:01:40"}));

@@ -98,7 +98,7 @@ TEST_F(AirView, NamesTheNextRowWhereAllFilesAreMissing) {
 TEST_F(AirView, NothingFollowsAListThatAFaultHasStopped) {
     open_tracks({100, 100});
     start_list();
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     machine.run_for(seconds(88));
     EXPECT_TRUE(is_stopped_by_a_fault(station.desk));
     EXPECT_EQ(to_come(), "");
@@ -107,7 +107,7 @@ TEST_F(AirView, NothingFollowsAListThatAFaultHasStopped) {
 TEST_F(AirView, RescuedListIsStoppedNoMore) {
     open_tracks({40, 40});
     start_list();
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     machine.run_for(seconds(28));
     machine.disk.heal("C:\\Musique");
     machine.run_for(seconds(20));
@@ -118,7 +118,7 @@ TEST_F(AirView, RescuedListIsStoppedNoMore) {
 TEST_F(AirView, DecksChainedByHandBehindAFaultAreNoStoppedList) {
     open_tracks({40, 40});
     start_list();
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     machine.run_for(seconds(28));
     station.main_window.mix_titles.click();
     EXPECT_FALSE(is_stopped_by_a_fault(station.desk));
@@ -129,7 +129,7 @@ TEST_F(AirView, DeckThatHasPlayedOutBehindAFaultIsEmptyOnceTheListIsTakenUp) {
     start_list();
     machine.run_for(seconds(50));
     ASSERT_EQ(station.chain.lecteur_en_cours, 2);
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     machine.run_for(seconds(20));
     machine.disk.heal("C:\\Musique");
     machine.run_for(seconds(20));

@@ -178,7 +178,7 @@ TEST_F(ChainFaultsTest, FolderThatComesBackFindsAllItsRowsInTheList) {
     station.main_window.Active_journal.click();
     open_tracks({3, 3, 3, 100});
     start_list();
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     play_for(8);
     EXPECT_EQ(rows().count(), 4);
     machine.disk.heal("C:\\Musique");
@@ -190,7 +190,7 @@ TEST_F(ChainFaultsTest, RowWhoseFolderIsGoneIsJournalledOnceATrack) {
     station.main_window.Active_journal.click();
     open_tracks({3, 100});
     start_list();
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     play_for(8);
     const std::string line = " fichier : " + track(2) + " Dossier absent, gard\xE9 dans la liste\r\n";
     const std::string text = journal_text();
@@ -202,7 +202,7 @@ TEST_F(ChainFaultsTest, LoadStepThatFailedIsTriedAgainInTheNextTrack) {
     open_tracks({100, 100, 100, 100});
     start_list();
     play_for(80);
-    machine.disk.refuse("C:\\Musique", 70);
+    machine.disk.refuse("C:\\Musique", FailureNumber::permission_refused);
     play_for(10);
     machine.disk.heal("C:\\Musique");
     play_for(10);

@@ -134,7 +134,7 @@ TEST_F(DeckOpening, UnreadableFileIsNamedWithItsReason) {
     machine.media.set_unplayable(song);
     machine.dialogs.expect_open(song);
     machine.dialogs.expect_box(
-        "Erreur lecture fichier " + std::string{failure_description(failure_number::unplayable_file)}, Answer::ok);
+        "Erreur lecture fichier " + std::string{failure_description(FailureNumber::unplayable_file)}, Answer::ok);
     controls(2).open.click();
     EXPECT_NE(machine.dialogs.last().text.find(song), std::string::npos);
 }

@@ -46,7 +46,7 @@ TEST_F(JournalTest, WritesAnEntryOnOneLineWhateverAFileIsCalled) {
 
 TEST_F(JournalTest, OfTheListWindowTellsTheOperatorThatItCantBeWritten) {
     station.main_window.Active_journal.click();
-    machine.disk.refuse("C:\\Sonarelle\\journal.doc", 70);
+    machine.disk.refuse("C:\\Sonarelle\\journal.doc", FailureNumber::permission_refused);
     machine.dialogs.expect_box("Erreur écriture journal", Answer::ok);
     station.list_window.stop_decks.click();
     EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);

@@ -188,7 +188,7 @@ TEST_F(ListRescueTest, TriesAgainWhileNoFileOpens) {
     open_tracks({40, 40});
     start_list();
     play_for(20);
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     play_for(33);
     EXPECT_EQ(rescue(), nullptr);
     machine.disk.heal("C:\\Musique");
@@ -203,7 +203,7 @@ TEST_F(ListRescueTest, SaysOnceThatNoFileOpens) {
     open_tracks({40, 40});
     start_list();
     play_for(20);
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     play_for(100);
     const std::string text = journal_text();
     const auto first = text.find(" Reprise de la liste impossible");

@@ -135,7 +135,7 @@ TEST_F(RandomChainTest, DrawsAnewWhereTheDrawnRowsDiskNoLongerAnswersAtTheMixPoi
     machine.run_for(seconds(88));
     ASSERT_EQ(rows_loaded().size(), 2U);
     const int drawn = rows_loaded().back();
-    machine.disk.refuse(track(drawn), failure_number::device_fault);
+    machine.disk.refuse(track(drawn), FailureNumber::device_fault);
     machine.run_for(seconds(12));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 5 - drawn})); // of rows 2 and 3 the other one
 }

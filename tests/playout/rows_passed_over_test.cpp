@@ -28,7 +28,7 @@ protected:
 TEST_F(RowsPassedOver, ARowWhoseDiskDoesNotAnswerIsPassedOverAndStaysInTheList) {
     open_tracks({100, 100, 100});
     start_list();
-    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.disk.refuse(track(2), FailureNumber::device_fault);
     machine.run_for(seconds(100));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
     EXPECT_EQ(rows().count(), 3);
@@ -38,7 +38,7 @@ TEST_F(RowsPassedOver, ARowWhoseDiskDoesNotAnswerIsJournalled) {
     station.main_window.Active_journal.click();
     open_tracks({100, 100, 100});
     start_list();
-    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.disk.refuse(track(2), FailureNumber::device_fault);
     machine.run_for(seconds(100));
     EXPECT_NE(machine.disk.bytes("C:\\Sonarelle\\journal.doc").find("Le disque ne r\xE9pond pas"), std::string::npos);
 }
@@ -90,7 +90,7 @@ TEST_F(RowsPassedOver, ARowBehindOneWhoseShareDoesNotAnswerIsTaken) {
               {record_of(track(1), "100"), record_of(silent, "100"), record_of(sound, "100")});
     rows().select(1);
     start_list();
-    machine.disk.refuse(silent, failure_number::device_fault);
+    machine.disk.refuse(silent, FailureNumber::device_fault);
     play_for(110);
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
@@ -98,7 +98,7 @@ TEST_F(RowsPassedOver, ARowBehindOneWhoseShareDoesNotAnswerIsTaken) {
 TEST_F(RowsPassedOver, AShortItemIsFollowedByTheRowBehindOneWhoseDiskDoesNotAnswer) {
     open_tracks({2, 100, 100});
     start_list();
-    machine.disk.refuse(track(2), failure_number::device_fault);
+    machine.disk.refuse(track(2), FailureNumber::device_fault);
     machine.run_for(seconds(10));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));
 }
@@ -156,7 +156,7 @@ TEST_F(RowsPassedOver, RowThatMayNotBeLookedAtIsNotLaidToASilentDisk) {
     station.main_window.Active_journal.click();
     open_tracks({100, 100, 100});
     start_list();
-    machine.disk.refuse(track(2), failure_number::permission_refused);
+    machine.disk.refuse(track(2), FailureNumber::permission_refused);
     play_for(110);
     EXPECT_EQ(rows().count(), 3);
     EXPECT_EQ(journal_text().find("Le disque ne r\xE9pond pas"), std::string::npos);
@@ -218,7 +218,7 @@ protected:
         rows().select(1);
         start_list();
         machine.disk.take("D:\\", seconds(2));
-        machine.disk.refuse("D:\\", failure_number::device_fault);
+        machine.disk.refuse("D:\\", FailureNumber::device_fault);
     }
     void expect_passed_over_and_kept() {
         EXPECT_EQ(rows_started(), (std::vector<int>{1, 3}));

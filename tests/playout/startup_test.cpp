@@ -104,7 +104,7 @@ TEST_F(SecondDesk, HasNothingToSayBehindOneThatHasEnded) {
 }
 
 TEST_F(SecondDesk, GoesOnTheAirWhereNothingCanBeClaimed) {
-    machine.disk.refuse("C:\\Sonarelle\\liste.dfm", failure_number::path_access);
+    machine.disk.refuse("C:\\Sonarelle\\liste.dfm", FailureNumber::path_access);
     start();
     EXPECT_TRUE(window.visible);
     EXPECT_FALSE(station.warning_window.visible);

@@ -164,7 +164,7 @@ TEST_F(ZappingTest, JournalsARowOfLessThanASecondOnceATrack) {
     station.main_window.Active_journal.click();
     start_and_run(40);
     machine.media.set_length(track(2), 0.9);
-    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", FailureNumber::device_fault);
     for (int zap = 0; zap < 2; ++zap) {
         machine.dialogs.expect_box("essai.dfm", Answer::ok);
         station.list_window.zap.click();
@@ -177,7 +177,7 @@ TEST_F(ZappingTest, JournalsARowOfLessThanASecondOnceATrack) {
 
 TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheChainItsNextRow) {
     start_and_run(40);
-    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", FailureNumber::device_fault);
     machine.dialogs.expect_box("essai.dfm", Answer::ok);
     station.list_window.zap.click();
     machine.disk.heal("C:\\Sonarelle\\essai.dfm");
@@ -191,7 +191,7 @@ TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheNextDecksSpecialMix) {
     machine.add_track("C:\\jingle.mp3", 60);
     station.chain.chemin_lecture2 = "C:\\jingle.mp3";
     controls(2).special_mix.click();
-    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", FailureNumber::device_fault);
     machine.dialogs.expect_box("essai.dfm", Answer::ok);
     station.list_window.zap.click();
     EXPECT_EQ(machine.media.on_air(), (std::vector<std::string>{track(1), "C:\\jingle.mp3"}));
@@ -201,7 +201,7 @@ TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheNextDecksSpecialMix) {
 TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheLoadedTrack) {
     start_and_run(190);
     ASSERT_EQ(station.chain.chemin_lecture2, track(2));
-    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", failure_number::device_fault);
+    machine.disk.refuse("C:\\Sonarelle\\essai.dfm", FailureNumber::device_fault);
     machine.dialogs.expect_box("essai.dfm", Answer::ok);
     station.list_window.zap.click();
     machine.disk.heal("C:\\Sonarelle\\essai.dfm");
@@ -212,7 +212,7 @@ TEST_F(ZappingTest, OverAListThatCantBeReadLeavesTheLoadedTrack) {
 
 TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheChainItsNextRow) {
     start_and_run(40);
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     station.list_window.zap.click();
     machine.disk.heal("C:\\Musique");
     machine.run_for(seconds(160));
@@ -222,7 +222,7 @@ TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheChainItsNextRow) {
 TEST_F(ZappingTest, ThroughAListWhoseFolderIsGoneLeavesTheLoadedTrack) {
     start_and_run(190);
     ASSERT_EQ(station.chain.chemin_lecture2, track(2));
-    machine.disk.refuse("C:\\Musique", failure_number::path_not_found);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     station.list_window.zap.click();
     machine.disk.heal("C:\\Musique");
     machine.run_for(seconds(10));
@@ -254,7 +254,7 @@ TEST_F(ZappingTest, ByTheButtonBeforeALostDriveLeavesTheLoadStepOn) {
     machine.run_for(seconds(5));
     station.main_window.load_ahead.set_value(1);
     machine.disk.Kill(track(2));
-    machine.disk.refuse("C:\\Musique", failure_number::device_unavailable);
+    machine.disk.refuse("C:\\Musique", FailureNumber::device_unavailable);
     machine.dialogs.default_answers();
     controls(1).zap.click();
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(1)});

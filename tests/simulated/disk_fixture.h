@@ -18,15 +18,15 @@ inline std::span<const std::byte> as_bytes_of(std::string_view text) {
     return std::as_bytes(std::span{text});
 }
 
-/// The number of the failure that a statement throws, 0 for none.
+/// The number of the failure that a statement throws; `none` where it goes through.
 template <typename Statement>
-int number_of_failure(Statement&& statement) {
+FailureNumber number_of_failure(Statement&& statement) {
     try {
         statement();
     } catch (const Failure& failure) {
         return failure.number;
     }
-    return 0;
+    return FailureNumber::none;
 }
 
 /// A disk with two folders of music.

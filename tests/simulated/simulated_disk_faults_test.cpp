@@ -20,13 +20,13 @@ TEST_F(DiskCapacity, AnAppendFitsToTheLastByte) {
     disk.set_capacity(10);
     disk.append("C:\\journal.doc", "abc");
     EXPECT_EQ(disk.used(), 10);
-    EXPECT_EQ(number_of_failure([&] { disk.append("C:\\journal.doc", "d"); }), 61);
+    EXPECT_EQ(number_of_failure([&] { disk.append("C:\\journal.doc", "d"); }), FailureNumber::disk_full);
     EXPECT_EQ(disk.bytes("C:\\journal.doc"), "abc");
 }
 
 TEST_F(DiskCapacity, AnAppendOneByteTooLongAddsNothing) {
     disk.set_capacity(10);
-    EXPECT_EQ(number_of_failure([&] { disk.append("C:\\journal.doc", "abcd"); }), 61);
+    EXPECT_EQ(number_of_failure([&] { disk.append("C:\\journal.doc", "abcd"); }), FailureNumber::disk_full);
     EXPECT_EQ(disk.bytes("C:\\journal.doc"), "");
 }
 
@@ -39,7 +39,7 @@ TEST_F(DiskCapacity, AReplacementTakesItsRoomBesideTheOldFile) {
 
 TEST_F(DiskCapacity, AReplacementOneByteTooLongLeavesTheOldFile) {
     disk.set_capacity(12);
-    EXPECT_EQ(number_of_failure([&] { write_whole("D:\\Musique\\été.mp3", "ABCDEF"); }), 61);
+    EXPECT_EQ(number_of_failure([&] { write_whole("D:\\Musique\\été.mp3", "ABCDEF"); }), FailureNumber::disk_full);
     EXPECT_EQ(disk.bytes("D:\\Musique\\été.mp3"), "abcdef");
     EXPECT_EQ(disk.used(), 7);
 }
@@ -49,21 +49,21 @@ TEST_F(DiskCapacity, AReplacementFailsAtTheWriteThatIsTooMuch) {
     const auto file = disk.replace("C:\\liste.dfm");
     file->write(as_bytes_of("ab"));
     file->write(as_bytes_of("c"));
-    EXPECT_EQ(number_of_failure([&] { file->write(as_bytes_of("d")); }), 61);
+    EXPECT_EQ(number_of_failure([&] { file->write(as_bytes_of("d")); }), FailureNumber::disk_full);
 }
 
 TEST_F(DiskCapacity, AFailedReplacementIsOfNoMoreUse) {
     disk.set_capacity(7);
     const auto file = disk.replace("C:\\liste.dfm");
-    EXPECT_EQ(number_of_failure([&] { file->write(as_bytes_of("a")); }), 61);
-    EXPECT_EQ(number_of_failure([&] { file->write({}); }), 57);
-    EXPECT_EQ(number_of_failure([&] { file->commit(); }), 57);
+    EXPECT_EQ(number_of_failure([&] { file->write(as_bytes_of("a")); }), FailureNumber::disk_full);
+    EXPECT_EQ(number_of_failure([&] { file->write({}); }), FailureNumber::device_fault);
+    EXPECT_EQ(number_of_failure([&] { file->commit(); }), FailureNumber::device_fault);
     EXPECT_FALSE(disk.exists("C:\\liste.dfm"));
 }
 
 TEST_F(DiskCapacity, ACopyFitsToTheLastByte) {
     disk.set_capacity(12);
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\été.mp3", "C:\\a.mp3"); }), 61);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\été.mp3", "C:\\a.mp3"); }), FailureNumber::disk_full);
     EXPECT_FALSE(disk.exists("C:\\a.mp3"));
     disk.set_capacity(13);
     disk.FileCopy("D:\\Musique\\été.mp3", "C:\\a.mp3");
@@ -84,46 +84,48 @@ TEST_F(DiskCapacity, AnEmptyFileNeedsNoRoom) {
 
 TEST_F(DiskFaultSwitch, ARefusedPathFailsInEveryOperation) {
     const std::string path = "D:\\Musique\\été.mp3";
-    disk.refuse(path, 70);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.facts(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill(path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\*.mp3"); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.Name(path, "D:\\a.mp3"); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\Rock\\b.mp3", path); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy(path, "D:\\a.mp3"); }), 70);
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\Rock\\b.mp3", path); }), 70);
+    disk.refuse(path, FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.facts(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill(path); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\*.mp3"); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.Name(path, "D:\\a.mp3"); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\Rock\\b.mp3", path); }),
+              FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy(path, "D:\\a.mp3"); }), FailureNumber::permission_refused);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\Rock\\b.mp3", path); }),
+              FailureNumber::permission_refused);
     EXPECT_EQ(disk.bytes(path), "abcdef");
 }
 
 TEST_F(DiskFaultSwitch, ARefusedFolderFailsWithAllThatItHolds) {
-    disk.refuse("D:\\musique", 71);
-    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Musique"); }), 71);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\Rock\\b.mp3"); }), 71);
-    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Musique2"); }), 0);
+    disk.refuse("D:\\musique", FailureNumber::disk_not_ready);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Musique"); }), FailureNumber::disk_not_ready);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\Rock\\b.mp3"); }), FailureNumber::disk_not_ready);
+    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Musique2"); }), FailureNumber::none);
 }
 
 TEST_F(DiskFaultSwitch, ARefusedRootFailsItsDrive) {
-    disk.refuse("D:\\", 71);
-    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("D:\\Musique"); }), 71);
-    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\Rock"); }), 71);
+    disk.refuse("D:\\", FailureNumber::disk_not_ready);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("D:\\Musique"); }), FailureNumber::disk_not_ready);
+    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\Rock"); }), FailureNumber::disk_not_ready);
     EXPECT_EQ(disk.current_drive(), 'C');
 }
 
 TEST_F(DiskFaultSwitch, ARefusalBeforeTheCommitKeepsTheOldFile) {
     const auto file = disk.replace("D:\\Musique\\été.mp3");
     file->write(as_bytes_of("x"));
-    disk.refuse("D:\\Musique\\été.mp3", 57);
-    EXPECT_EQ(number_of_failure([&] { file->commit(); }), 57);
+    disk.refuse("D:\\Musique\\été.mp3", FailureNumber::device_fault);
+    EXPECT_EQ(number_of_failure([&] { file->commit(); }), FailureNumber::device_fault);
     EXPECT_EQ(disk.bytes("D:\\Musique\\été.mp3"), "abcdef");
 }
 
 TEST_F(DiskFaultSwitch, AHealedPathWorks) {
-    disk.refuse("D:\\Musique\\été.mp3", 70);
+    disk.refuse("D:\\Musique\\été.mp3", FailureNumber::permission_refused);
     disk.heal("d:\\musique\\ÉTÉ.MP3");
     EXPECT_EQ(disk.open("D:\\Musique\\été.mp3")->length(), 6);
 }
@@ -132,13 +134,13 @@ TEST_F(DiskFaultSwitch, AVanishingFileIsFoundAndThenGone) {
     disk.vanish_after_look("D:\\Musique\\été.mp3");
     EXPECT_EQ(disk.Dir("D:\\Musique\\été.mp3"), "Été.mp3");
     EXPECT_EQ(disk.facts("D:\\Musique\\été.mp3").size, 6);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), 53);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), FailureNumber::file_not_found);
     EXPECT_EQ(disk.Dir("D:\\Musique\\été.mp3"), "");
 }
 
 TEST_F(DiskFaultSwitch, AVanishedFileMayComeBack) {
     disk.vanish_after_look("D:\\Musique\\été.mp3");
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), 53);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), FailureNumber::file_not_found);
     disk.put_file("D:\\Musique\\été.mp3", "x");
     EXPECT_EQ(disk.open("D:\\Musique\\été.mp3")->length(), 1);
 }
@@ -147,15 +149,15 @@ TEST_F(DiskFaultSwitch, ABrokenByteFailsTheReadsThatHoldIt) {
     disk.fail_read_at("D:\\Musique\\été.mp3", 3);
     EXPECT_EQ(read_at("D:\\Musique\\été.mp3", 0, 3), "abc");
     EXPECT_EQ(read_at("D:\\Musique\\été.mp3", 4, 2), "ef");
-    EXPECT_EQ(number_of_failure([&] { (void)read_at("D:\\Musique\\été.mp3", 3, 1); }), 57);
-    EXPECT_EQ(number_of_failure([&] { (void)read_at("D:\\Musique\\été.mp3", 0, 6); }), 57);
+    EXPECT_EQ(number_of_failure([&] { (void)read_at("D:\\Musique\\été.mp3", 3, 1); }), FailureNumber::device_fault);
+    EXPECT_EQ(number_of_failure([&] { (void)read_at("D:\\Musique\\été.mp3", 0, 6); }), FailureNumber::device_fault);
 }
 
 TEST_F(DiskFaultSwitch, AByteMayBreakInAnOpenFile) {
     const auto file = disk.open("D:\\Musique\\été.mp3");
     disk.fail_read_at("D:\\Musique\\été.mp3", 0);
     std::byte byte{};
-    EXPECT_EQ(number_of_failure([&] { (void)file->read(0, {&byte, 1}); }), 57);
+    EXPECT_EQ(number_of_failure([&] { (void)file->read(0, {&byte, 1}); }), FailureNumber::device_fault);
 }
 
 TEST_F(DiskFaultSwitch, ASlowPathLetsTimePass) {
@@ -180,7 +182,7 @@ TEST_F(DiskFaultSwitch, TimersRunWhileASlowPathIsAskedFor) {
 TEST_F(DiskFaultSwitch, ASlowPathFindsWhatIsThereAtTheEnd) {
     disk.take("D:\\Musique\\été.mp3", seconds(5));
     time.at(seconds(1), [&] { disk.remove_drive("D"); });
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), 68);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), FailureNumber::device_unavailable);
 }
 
 TEST_F(DiskProtection, AReadOnlyFileIsRead) {
@@ -192,19 +194,19 @@ TEST_F(DiskProtection, AReadOnlyFileIsRead) {
 TEST_F(DiskProtection, AReadOnlyFileIsNeitherWrittenNorKilled) {
     const std::string path = "D:\\Musique\\été.mp3";
     disk.set_read_only(path);
-    EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\Rock\\b.mp3", path); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill(path); }), 75);
+    EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\Rock\\b.mp3", path); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill(path); }), FailureNumber::path_access);
     EXPECT_EQ(disk.bytes(path), "abcdef");
 }
 
 TEST_F(DiskProtection, AReadOnlyFolderKeepsItsNames) {
     disk.set_read_only("D:\\Musique");
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create("D:\\Musique\\a.dfm"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Musique\\Jazz"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\Rock"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "D:\\été.mp3"); }), 75);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create("D:\\Musique\\a.dfm"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Musique\\Jazz"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\Rock"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "D:\\été.mp3"); }), FailureNumber::path_access);
 }
 
 TEST_F(DiskProtection, EndsWhenItIsTakenAway) {

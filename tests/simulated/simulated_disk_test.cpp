@@ -41,33 +41,34 @@ TEST_F(DiskFolders, ChDirLeavesTheDrive) {
 }
 
 TEST_F(DiskFolders, AMissingDriveIsFailure68) {
-    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("E:\\x"); }), 68);
-    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("\\\\serveur\\partage"); }), 68);
-    EXPECT_EQ(number_of_failure([&] { disk.ChDir("E:\\"); }), 68);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("E:\\a.mp3"); }), 68);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("E:\\*.mp3"); }), 68);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("E:\\x"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDrive("\\\\serveur\\partage"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDir("E:\\"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("E:\\a.mp3"); }), FailureNumber::device_unavailable);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("E:\\*.mp3"); }), FailureNumber::device_unavailable);
     EXPECT_EQ(disk.current_drive(), 'C');
 }
 
 TEST_F(DiskFolders, AMissingFolderIsFailure76) {
-    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Jazz"); }), 76);
-    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Musique\\été.mp3"); }), 76);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Jazz\\a.mp3"); }), 76);
-    EXPECT_EQ(number_of_failure([&] { disk.append("D:\\Jazz\\a.mp3", "x"); }), 76);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.replace("D:\\Jazz\\a.mp3"); }), 76);
-    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Jazz\\Cool"); }), 76);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Jazz"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.ChDir("D:\\Musique\\été.mp3"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Jazz\\a.mp3"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.append("D:\\Jazz\\a.mp3", "x"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.replace("D:\\Jazz\\a.mp3"); }), FailureNumber::path_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\Jazz\\Cool"); }), FailureNumber::path_not_found);
 }
 
 TEST_F(DiskFolders, AnUnpluggedDriveIsGoneWithItsFiles) {
     disk.remove_drive("D");
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), 68);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\été.mp3"); }), FailureNumber::device_unavailable);
     EXPECT_EQ(disk.used(), 0);
 }
 
 TEST_F(DiskFolders, AShareHoldsFiles) {
     disk.put_file("\\\\Serveur\\Partage\\a.mp3", "a");
     EXPECT_EQ(disk.Dir("\\\\serveur\\partage\\*.mp3"), "a.mp3");
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("\\\\serveur\\autre\\a.mp3"); }), 68);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("\\\\serveur\\autre\\a.mp3"); }),
+              FailureNumber::device_unavailable);
 }
 
 TEST_F(DiskFolders, MkDirMakesOneAndRmDirTakesIt) {
@@ -78,14 +79,14 @@ TEST_F(DiskFolders, MkDirMakesOneAndRmDirTakesIt) {
 }
 
 TEST_F(DiskFolders, AFolderThatHoldsSomethingStays) {
-    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\été.mp3"); }), 75);
+    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.RmDir("D:\\Musique\\été.mp3"); }), FailureNumber::path_access);
     EXPECT_TRUE(disk.exists("D:\\Musique\\Rock\\b.mp3"));
 }
 
 TEST_F(DiskFolders, ANameThatIsTakenMakesNoFolder) {
-    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\musique"); }), 75);
+    EXPECT_EQ(number_of_failure([&] { disk.MkDir("D:\\musique"); }), FailureNumber::path_access);
 }
 
 TEST_F(DiskDir, GivesTheDisksSpelling) {
@@ -138,20 +139,21 @@ TEST_F(DiskFiles, ReadAnyOfTheirBytes) {
 }
 
 TEST_F(DiskFiles, AMissingOneIsFailure53) {
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\a.mp3"); }), 53);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.facts("D:\\Musique\\a.mp3"); }), 53);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\a.mp3"); }), 53);
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\a.mp3", "D:\\b.mp3"); }), 53);
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\a.mp3", "D:\\b.mp3"); }), 53);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique\\a.mp3"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.facts("D:\\Musique\\a.mp3"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\a.mp3"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\a.mp3", "D:\\b.mp3"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\a.mp3", "D:\\b.mp3"); }),
+              FailureNumber::file_not_found);
 }
 
 TEST_F(DiskFiles, AFolderIsNone) {
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create("D:\\Musique"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.replace("D:\\Musique"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.append("D:\\Musique", "x"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique"); }), 75);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\"); }), 75);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open("D:\\Musique"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create("D:\\Musique"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.replace("D:\\Musique"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.append("D:\\Musique", "x"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique"); }), FailureNumber::path_access);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\"); }), FailureNumber::path_access);
 }
 
 TEST_F(DiskFiles, OpenOrCreateLeavesAnEmptyFile) {
@@ -260,7 +262,7 @@ TEST_F(DiskNames, KillOfAPatternTakesAllThatFit) {
     disk.ChDir("C:\\Sonarelle");
     disk.Kill("*.dfm");
     EXPECT_THAT(all_of(disk, "*.*"), ElementsAre("c.doc"));
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("*.dfm"); }), 53);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("*.dfm"); }), FailureNumber::file_not_found);
 }
 
 TEST_F(DiskNames, KillOfAPatternLeavesFolders) {
@@ -285,16 +287,18 @@ TEST_F(DiskNames, ARenameMayChangeTheSpellingAlone) {
 }
 
 TEST_F(DiskNames, ARenameTakesNobodysPlace) {
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "D:\\Musique\\Rock\\B.MP3"); }), 58);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "D:\\Musique\\Rock\\B.MP3"); }),
+              FailureNumber::file_exists);
     EXPECT_EQ(disk.bytes("D:\\Musique\\Rock\\b.mp3"), "b");
 }
 
 TEST_F(DiskNames, ARenameStaysOnItsDrive) {
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "C:\\été.mp3"); }), 74);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", "C:\\été.mp3"); }), FailureNumber::other_drive);
 }
 
 TEST_F(DiskNames, AFolderDoesNotGoIntoItself) {
-    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique", "D:\\Musique\\Rock\\Musique"); }), 75);
+    EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique", "D:\\Musique\\Rock\\Musique"); }),
+              FailureNumber::path_access);
 }
 
 TEST_F(DiskNames, ACopyIsAFileOfItsOwn) {
@@ -309,26 +313,28 @@ TEST_F(DiskNames, ACopyIsWrittenOverAnOldFile) {
 }
 
 TEST_F(DiskNames, ACopyOntoItselfIsRefused) {
-    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\été.mp3", "d:\\musique\\ÉTÉ.mp3"); }), 70);
+    EXPECT_EQ(number_of_failure([&] { disk.FileCopy("D:\\Musique\\été.mp3", "d:\\musique\\ÉTÉ.mp3"); }),
+              FailureNumber::permission_refused);
     EXPECT_EQ(disk.bytes("D:\\Musique\\été.mp3"), "abcdef");
 }
 
 TEST_F(DiskNames, WrongNamesAreFailure52) {
     for (const char* name : {"a*.mp3", "a?.mp3", "a<.mp3", "a>.mp3", "a|.mp3", "a\".mp3", "Łódź.mp3"}) {
         const std::string path = std::string{"D:\\Musique\\"} + name;
-        EXPECT_EQ(number_of_failure([&] { (void)disk.open(path); }), 52) << name;
-        EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create(path); }), 52) << name;
-        EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), 52) << name;
-        EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), 52) << name;
-        EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", path); }), 52) << name;
-        EXPECT_EQ(number_of_failure([&] { disk.MkDir(path); }), 52) << name;
+        EXPECT_EQ(number_of_failure([&] { (void)disk.open(path); }), FailureNumber::wrong_file_name) << name;
+        EXPECT_EQ(number_of_failure([&] { (void)disk.open_or_create(path); }), FailureNumber::wrong_file_name) << name;
+        EXPECT_EQ(number_of_failure([&] { (void)disk.replace(path); }), FailureNumber::wrong_file_name) << name;
+        EXPECT_EQ(number_of_failure([&] { disk.append(path, "x"); }), FailureNumber::wrong_file_name) << name;
+        EXPECT_EQ(number_of_failure([&] { disk.Name("D:\\Musique\\été.mp3", path); }), FailureNumber::wrong_file_name)
+            << name;
+        EXPECT_EQ(number_of_failure([&] { disk.MkDir(path); }), FailureNumber::wrong_file_name) << name;
     }
 }
 
 TEST_F(DiskNames, WrongPatternsAreFailure52) {
-    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("D:\\Mus*\\a.mp3"); }), 52);
-    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("D:\\Musique\\<.mp3"); }), 52);
-    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\|.mp3"); }), 52);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("D:\\Mus*\\a.mp3"); }), FailureNumber::wrong_file_name);
+    EXPECT_EQ(number_of_failure([&] { (void)disk.Dir("D:\\Musique\\<.mp3"); }), FailureNumber::wrong_file_name);
+    EXPECT_EQ(number_of_failure([&] { disk.Kill("D:\\Musique\\|.mp3"); }), FailureNumber::wrong_file_name);
 }
 
 } // namespace

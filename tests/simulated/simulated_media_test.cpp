@@ -23,14 +23,14 @@ protected:
         disk.put_file(track);
         media.set_length(track, 200);
     }
-    int failure_of_render(std::string_view path) {
+    FailureNumber failure_of_render(std::string_view path) {
         try {
             graph->RenderFile(path);
         } catch (const Failure& failure) {
             EXPECT_EQ(failure.source, path);
             return failure.number;
         }
-        return 0;
+        return FailureNumber::none;
     }
 
     Scheduler scheduler;
@@ -55,40 +55,40 @@ TEST_F(GraphRender, GivesTheLengthThatTheTestSet) {
 TEST_F(GraphRender, ResolvesANameInTheCurrentFolder) {
     disk.ChDrive("D:");
     disk.ChDir("D:\\Musique");
-    EXPECT_EQ(failure_of_render("été.mp3"), 0);
+    EXPECT_EQ(failure_of_render("été.mp3"), FailureNumber::none);
 }
 
 TEST_F(GraphRender, AMissingFileIsFailure53) {
     media.set_length("D:\\Musique\\parti.mp3", 200);
-    EXPECT_EQ(failure_of_render("D:\\Musique\\parti.mp3"), 53);
-    EXPECT_EQ(failure_of_render("D:\\Jazz\\parti.mp3"), 53);
-    EXPECT_EQ(failure_of_render("E:\\parti.mp3"), 53);
+    EXPECT_EQ(failure_of_render("D:\\Musique\\parti.mp3"), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of_render("D:\\Jazz\\parti.mp3"), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of_render("E:\\parti.mp3"), FailureNumber::file_not_found);
 }
 
 TEST_F(GraphRender, AFileThatVanishesAfterTheLookIsFailure53) {
     disk.vanish_after_look(track);
     ASSERT_EQ(disk.Dir(track), "Été.mp3");
-    EXPECT_EQ(failure_of_render(track), 53);
+    EXPECT_EQ(failure_of_render(track), FailureNumber::file_not_found);
 }
 
 TEST_F(GraphRender, AFileOfUnknownLengthIsUnplayable) {
     disk.put_file("D:\\Musique\\texte.mp3");
-    EXPECT_EQ(failure_of_render("D:\\Musique\\texte.mp3"), 1001);
+    EXPECT_EQ(failure_of_render("D:\\Musique\\texte.mp3"), FailureNumber::unplayable_file);
 }
 
 TEST_F(GraphRender, AnUnplayableFileIsFailure1001) {
     media.set_unplayable(track);
-    EXPECT_EQ(failure_of_render(track), 1001);
+    EXPECT_EQ(failure_of_render(track), FailureNumber::unplayable_file);
 }
 
 TEST_F(GraphRender, AFileThatTheDiskRefusesIsUnplayable) {
-    disk.refuse(track, 70);
-    EXPECT_EQ(failure_of_render(track), 1001);
+    disk.refuse(track, FailureNumber::permission_refused);
+    EXPECT_EQ(failure_of_render(track), FailureNumber::unplayable_file);
 }
 
 TEST_F(GraphRender, AFailedOneLeavesTheGraphEmpty) {
     media.set_unplayable(track);
-    EXPECT_EQ(failure_of_render(track), 1001);
+    EXPECT_EQ(failure_of_render(track), FailureNumber::unplayable_file);
     graph->Run();
     time.run_for(seconds(5));
     EXPECT_EQ(graph->get_Duration(), 0);

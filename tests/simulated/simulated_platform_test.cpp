@@ -77,7 +77,7 @@ TEST(SimulatedShell, WithoutProgramsNothingStarts) {
             start();
             ADD_FAILURE() << "it started";
         } catch (const Failure& failure) {
-            EXPECT_EQ(failure.number, failure_number::file_not_found);
+            EXPECT_EQ(failure.number, FailureNumber::file_not_found);
         }
     EXPECT_THAT(shell.started, IsEmpty());
 }
@@ -97,7 +97,7 @@ TEST(SimulatedShell, WithoutADriveThereIsNoDoor) {
         shell.set_cd_door(true);
         ADD_FAILURE() << "a door opened";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::device_unavailable);
+        EXPECT_EQ(failure.number, FailureNumber::device_unavailable);
     }
 }
 

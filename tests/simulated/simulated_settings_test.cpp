@@ -64,21 +64,21 @@ TEST(SimulatedSettings, ARefusedWriteChangesNothing) {
         settings.save_all(app, two);
         ADD_FAILURE() << "it was written";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::path_access);
+        EXPECT_EQ(failure.number, FailureNumber::path_access);
     }
     EXPECT_THAT(settings.all(app), ElementsAre(Setting{"Mix", "Mix", "6"}));
 }
 
 TEST(SimulatedSettings, ARefusalHasItsNumberAndEnds) {
     SimulatedSettings settings;
-    settings.refuse_writes(failure_number::device_fault);
+    settings.refuse_writes(FailureNumber::device_fault);
     try {
         settings.SaveSetting(app, "Mix", "Mix", "6");
         ADD_FAILURE() << "it was written";
     } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, failure_number::device_fault);
+        EXPECT_EQ(failure.number, FailureNumber::device_fault);
     }
-    settings.refuse_writes(0);
+    settings.refuse_writes(FailureNumber::none);
     settings.SaveSetting(app, "Mix", "Mix", "6");
     EXPECT_EQ(settings.GetSetting(app, "Mix", "Mix", ""), "6");
 }

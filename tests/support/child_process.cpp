@@ -20,7 +20,7 @@ constexpr unsigned nobody = 65534;
 
 int guarded(const std::function<void()>& work) {
     try {
-        return failure_of(work);
+        return static_cast<int>(failure_of(work));
     } catch (...) {
         return other_end;
     }
@@ -43,10 +43,10 @@ void give_up_rights() {
 
 } // namespace
 
-int failure_of(const std::function<void()>& work) {
+FailureNumber failure_of(const std::function<void()>& work) {
     try {
         work();
-        return 0;
+        return FailureNumber::none;
     } catch (const Failure& failure) {
         return failure.number;
     }
@@ -72,21 +72,21 @@ bool kill_child(pid_t child) {
     return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
 
-int failure_without_rights(const std::function<void()>& work) {
-    return end_of_child(start_child([&work] {
+FailureNumber failure_without_rights(const std::function<void()>& work) {
+    return FailureNumber{end_of_child(start_child([&work] {
         give_up_rights();
         work();
-    }));
+    }))};
 }
 
-int failure_on_full_disk(std::size_t bytes, const std::function<void()>& work) {
-    return end_of_child(start_child([&] {
+FailureNumber failure_on_full_disk(std::size_t bytes, const std::function<void()>& work) {
+    return FailureNumber{end_of_child(start_child([&] {
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{bytes, bytes};
         if (::setrlimit(RLIMIT_FSIZE, &limit) != 0)
             throw std::runtime_error{"no limit for the child"};
         work();
-    }));
+    }))};
 }
 
 } // namespace sonarelle::test

@@ -5,10 +5,12 @@
 #include <cstddef>
 #include <functional>
 
+#include "platform/failure.h"
+
 namespace sonarelle::test {
 
-/// The number of the failure that a piece of work ends in; 0 when it goes through.
-[[nodiscard]] int failure_of(const std::function<void()>& work);
+/// The number of the failure that a piece of work ends in; `none` when it goes through.
+[[nodiscard]] FailureNumber failure_of(const std::function<void()>& work);
 
 /// Starts the work in a process of its own.
 [[nodiscard]] pid_t start_child(const std::function<void()>& work);
@@ -20,9 +22,9 @@ namespace sonarelle::test {
 [[nodiscard]] bool kill_child(pid_t child);
 
 /// The failure of the work when a user does it who owns nothing.
-[[nodiscard]] int failure_without_rights(const std::function<void()>& work);
+[[nodiscard]] FailureNumber failure_without_rights(const std::function<void()>& work);
 
 /// The failure of the work on a disk where no file grows beyond `bytes`.
-[[nodiscard]] int failure_on_full_disk(std::size_t bytes, const std::function<void()>& work);
+[[nodiscard]] FailureNumber failure_on_full_disk(std::size_t bytes, const std::function<void()>& work);
 
 } // namespace sonarelle::test

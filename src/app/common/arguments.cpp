@@ -18,7 +18,7 @@ const Option& option_named(std::string_view name, std::span<const Option> allowe
 
 void check_characters(std::string_view word) {
     if (const auto foreign = first_foreign_character(word))
-        throw Failure{failure_number::wrong_call, std::string{word}, sentence_of_foreign(*foreign)};
+        throw Failure{FailureNumber::wrong_call, std::string{word}, sentence_of_foreign(*foreign)};
 }
 
 constexpr std::string_view end_of_options = "--";

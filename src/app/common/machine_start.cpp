@@ -45,7 +45,7 @@ void Machine::find_program_folder(Told& told) {
     }
     const std::string drive = parts_of(program_folder()).drive;
     if (!drive.ends_with(':'))
-        throw Failure{failure_number::device_unavailable, folders_.program,
+        throw Failure{FailureNumber::device_unavailable, folders_.program,
                       "le dossier du programme est sous le partage " + drive + " ; il lui faut une lettre de lecteur"};
 }
 

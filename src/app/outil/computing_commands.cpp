@@ -14,7 +14,7 @@ namespace {
 double duration_of(const std::string& word) {
     const double seconds = to_double(word, DecimalMark::point);
     if (seconds < 0)
-        throw Failure{failure_number::wrong_call, word, "une durée n'est pas négative"};
+        throw Failure{FailureNumber::wrong_call, word, "une durée n'est pas négative"};
     return seconds;
 }
 

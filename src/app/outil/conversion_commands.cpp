@@ -34,7 +34,7 @@ constexpr std::int64_t longest_text = 1 << 28;
 std::string text_of_file(Machine& machine, const std::string& file) {
     const auto opened = machine.open(file);
     if (opened->length() > longest_text)
-        throw Failure{failure_number::wrong_call, file, "ce fichier est trop grand pour une liste"};
+        throw Failure{FailureNumber::wrong_call, file, "ce fichier est trop grand pour une liste"};
     std::string bytes(static_cast<std::size_t>(opened->length()), '\0');
     bytes.resize(opened->read(0, std::as_writable_bytes(std::span{bytes})));
     return text_of_bytes(bytes);
@@ -54,7 +54,7 @@ bool is_station_path(std::string_view path) {
 std::string file_of_entry(const HostDisk& disk, const std::string& list, const std::string& entry) {
     std::string path = path_of_entry(entry);
     if (path.find("://") != std::string::npos)
-        throw Failure{failure_number::wrong_file_name, path, "une adresse n'est pas un fichier"};
+        throw Failure{FailureNumber::wrong_file_name, path, "une adresse n'est pas un fichier"};
     if (is_station_path(path))
         return disk.machine_path(path);
     std::ranges::replace(path, '\\', '/');
@@ -87,7 +87,7 @@ ReadRows rows_of_csv(Machine& machine, const std::string& file) {
     const CsvRow head = rows.empty() ? CsvRow{} : rows.front();
     const auto path_place = static_cast<std::size_t>(std::ranges::find(head, path_field) - head.begin());
     if (path_place == head.size())
-        throw Failure{failure_number::wrong_call, file, "la première ligne ne nomme pas le champ « chemin »"};
+        throw Failure{FailureNumber::wrong_call, file, "la première ligne ne nomme pas le champ « chemin »"};
     std::vector<std::string> paths;
     ReadJson list = ReadJson::array();
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
@@ -192,7 +192,7 @@ void convert(const Call& call) {
     const auto* reading = std::ranges::find(readings, from, &Reading::extension);
     const bool writes_text = from == "dfm" && (to == "m3u" || to == "m3u8" || to == "csv");
     if (!writes_text && (reading == readings.end() || to != "dfm"))
-        throw Failure{failure_number::wrong_file_name, to == "dfm" || from == "dfm" ? new_file : old_file,
+        throw Failure{FailureNumber::wrong_file_name, to == "dfm" || from == "dfm" ? new_file : old_file,
                       "de " + from + " vers " + to + " il n'y a pas de conversion"};
     Machine machine{call.options};
     ListTarget target{machine, new_file};

@@ -39,25 +39,25 @@ public:
     [[nodiscard]] std::string word() {
         std::string word;
         if (!(in_ >> word))
-            throw Failure{failure_number::wrong_call, "", "il manque un mot"};
+            throw Failure{FailureNumber::wrong_call, "", "il manque un mot"};
         return word;
     }
     [[nodiscard]] std::string rest() {
         std::string text;
         std::getline(in_ >> std::ws, text);
         if (text.empty())
-            throw Failure{failure_number::wrong_call, "", "il manque un mot"};
+            throw Failure{FailureNumber::wrong_call, "", "il manque un mot"};
         return text;
     }
     [[nodiscard]] bool is_over() { return (in_ >> std::ws).eof(); }
     void expect_end() {
         if (!is_over())
-            throw Failure{failure_number::wrong_call, "", "il y a un mot en trop"};
+            throw Failure{FailureNumber::wrong_call, "", "il y a un mot en trop"};
     }
     [[nodiscard]] int deck() {
         const std::string number = word();
         if (number != "1" && number != "2" && number != "3")
-            throw Failure{failure_number::wrong_call, number, "un lecteur est 1, 2 ou 3"};
+            throw Failure{FailureNumber::wrong_call, number, "un lecteur est 1, 2 ou 3"};
         return number.front() - '0';
     }
     [[nodiscard]] int number() { return to_integer(word(), DecimalMark::point).value(); }
@@ -74,7 +74,7 @@ Act act_on_deck(std::string_view gesture, Line& line) {
                 (station.main_window.deck(deck).*button).click();
             };
         }
-    throw Failure{failure_number::wrong_call, std::string{gesture}, "geste inconnu"};
+    throw Failure{FailureNumber::wrong_call, std::string{gesture}, "geste inconnu"};
 }
 
 /// A script names files as the command line does, or as lists do.
@@ -122,7 +122,7 @@ double time_of(const std::string& word) {
     try {
         return to_double(word, DecimalMark::point);
     } catch (const Failure&) {
-        throw Failure{failure_number::type_mismatch, word, "un temps en secondes est attendu"};
+        throw Failure{FailureNumber::type_mismatch, word, "un temps en secondes est attendu"};
     }
 }
 
@@ -130,7 +130,7 @@ Gesture gesture_of(const std::string& text, const DriveTable& drives) {
     Line line{text};
     const double at = time_of(line.word());
     if (at < 0)
-        throw Failure{failure_number::wrong_call, text, "le temps d'un geste n'est pas négatif"};
+        throw Failure{FailureNumber::wrong_call, text, "le temps d'un geste n'est pas négatif"};
     Act act = act_of(line, drives);
     line.expect_end();
     return {nearest_frame(at), std::move(act)};
@@ -151,7 +151,7 @@ std::vector<Gesture> read_gestures(std::istream& in, const std::string& source, 
         }
     }
     if (in.bad())
-        throw Failure{failure_number::device_fault, source, "lecture impossible"};
+        throw Failure{FailureNumber::device_fault, source, "lecture impossible"};
     return gestures;
 }
 

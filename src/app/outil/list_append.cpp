@@ -34,7 +34,7 @@ bool write_appended(Machine& machine, const std::string& list, const std::vector
         seen = file->facts();
         ListReader reader{std::move(file)};
         if (reader.rest() > 0)
-            throw Failure{failure_number::wrong_call, list,
+            throw Failure{FailureNumber::wrong_call, list,
                           "des octets suivent le dernier enregistrement et seraient perdus"};
         enreg_liste record;
         for (std::int64_t number = 1; number <= reader.count(); ++number) {
@@ -51,7 +51,7 @@ void append(const Call& call) {
     const std::string& list = call.arguments.filled_word(0, "FICHIER.dfm");
     const std::vector<std::string> words = audio_words(call.arguments, 1);
     if (extension_of(list) != "dfm")
-        throw Failure{failure_number::wrong_file_name, list, "un fichier .dfm est attendu"};
+        throw Failure{FailureNumber::wrong_file_name, list, "un fichier .dfm est attendu"};
     const std::int16_t volume = volume_of(call.arguments);
     std::optional<std::string> genre;
     if (call.arguments.has(genre_option.name))

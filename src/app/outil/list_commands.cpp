@@ -24,7 +24,7 @@ constexpr std::size_t longest_input = 1 << 29; // two million rows
 
 void check_extension(const std::string& file, std::string_view extension) {
     if (extension_of(file) != extension)
-        throw Failure{failure_number::wrong_file_name, file, "un fichier ." + std::string{extension} + " est attendu"};
+        throw Failure{FailureNumber::wrong_file_name, file, "un fichier ." + std::string{extension} + " est attendu"};
 }
 
 /// All of it; the JSON reader takes a disk's fault for its own.
@@ -34,10 +34,10 @@ std::string standard_input(std::istream& in) {
         in.read(block.data(), block.size());
         text.append(block.data(), static_cast<std::size_t>(in.gcount()));
         if (text.size() > longest_input)
-            throw Failure{failure_number::wrong_call, input_name, "plus d'un demi-milliard d'octets"};
+            throw Failure{FailureNumber::wrong_call, input_name, "plus d'un demi-milliard d'octets"};
     }
     if (in.bad())
-        throw Failure{failure_number::device_fault, input_name, "lecture impossible"};
+        throw Failure{FailureNumber::device_fault, input_name, "lecture impossible"};
     return text;
 }
 
@@ -98,7 +98,7 @@ void view(const Call& call) {
     else if (extension == "dfm")
         print_list<enreg_liste>(call, machine, file);
     else
-        throw Failure{failure_number::wrong_file_name, file, "un fichier .dfm ou .rfm est attendu"};
+        throw Failure{FailureNumber::wrong_file_name, file, "un fichier .dfm ou .rfm est attendu"};
 }
 
 void write(const Call& call) {
@@ -109,7 +109,7 @@ void write(const Call& call) {
     ListTarget written{machine, file};
     const ReadJson list = ReadJson::parse(standard_input(call.in), nullptr, false);
     if (list.is_discarded())
-        throw Failure{failure_number::wrong_call, input_name, "ce n'est pas du JSON"};
+        throw Failure{FailureNumber::wrong_call, input_name, "ce n'est pas du JSON"};
     for (const enreg_liste& record : records_of(list))
         written.write(record.bytes());
     written.commit();

@@ -63,7 +63,7 @@ public:
 
 private:
     [[noreturn]] void refuse(const std::string& reason) const {
-        throw Failure{failure_number::wrong_call, "enregistrement " + std::to_string(number_), reason};
+        throw Failure{FailureNumber::wrong_call, "enregistrement " + std::to_string(number_), reason};
     }
 
     [[noreturn]] void refuse_field(const char* key, const std::string& reason) const {
@@ -132,7 +132,7 @@ std::vector<enreg_liste> records_of(const ReadJson& list) {
     if (list.is_object())
         records = list.contains(records_key) ? &list[records_key] : nullptr;
     if (records == nullptr || !records->is_array())
-        throw Failure{failure_number::wrong_call, "entrée standard", "aucun tableau « enregistrements »"};
+        throw Failure{FailureNumber::wrong_call, "entrée standard", "aucun tableau « enregistrements »"};
     std::vector<enreg_liste> result;
     result.reserve(records->size());
     for (std::size_t i = 0; i < records->size(); ++i)

@@ -10,7 +10,7 @@ std::unique_ptr<RecordFile> open_if_there(Machine& machine, const std::string& f
     try {
         return machine.open(file);
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::file_not_found)
+        if (failure.number != FailureNumber::file_not_found)
             throw;
         return nullptr;
     }
@@ -25,7 +25,7 @@ ListTarget::ListTarget(Machine& machine, std::string file)
 
 void ListTarget::commit() {
     if (!replacement_->commit_over(seen_))
-        throw Failure{failure_number::path_access, file_, "un autre programme a changé ce fichier entre-temps"};
+        throw Failure{FailureNumber::path_access, file_, "un autre programme a changé ce fichier entre-temps"};
 }
 
 } // namespace sonarelle

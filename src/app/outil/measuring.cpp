@@ -19,7 +19,7 @@ void check_is_plain(const std::string& file) {
     std::error_code error;
     const auto status = std::filesystem::status(file, error);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-        throw Failure{failure_number::path_access, file, "ce n'est pas un fichier ordinaire"};
+        throw Failure{FailureNumber::path_access, file, "ce n'est pas un fichier ordinaire"};
 }
 
 } // namespace

@@ -30,7 +30,7 @@ Mix mix_of(const std::string& end, const std::vector<Setting>& settings, bool ov
     Station station{machine.platform};
     station.create_main_window();
     if (station.settings.premier_lancement.is_true())
-        throw Failure{failure_number::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
+        throw Failure{FailureNumber::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
     station.chain.lecteur_en_cours = 1;
     station.chain.mode_enchainement = !over_decks;
     station.main_window.deck(1).counter.caption = end;

@@ -184,7 +184,7 @@ private:
 
 void run_on_air(const LiveProgramme& live, HostSettings& settings) {
     if (LiveStation{live, settings}.run() > 0)
-        throw Failure{failure_number::device_fault, "sortie standard", "des lignes n'ont pas été lues"};
+        throw Failure{FailureNumber::device_fault, "sortie standard", "des lignes n'ont pas été lues"};
 }
 
 } // namespace sonarelle

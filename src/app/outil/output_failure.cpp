@@ -13,9 +13,8 @@ constexpr const char* output_name = "sortie standard";
 } // namespace
 
 Failure output_failure() {
-    return errno == ENOSPC || errno == EFBIG
-               ? failure_from(errno, Access::writing, output_name)
-               : Failure{failure_number::device_fault, output_name, "écriture impossible"};
+    return errno == ENOSPC || errno == EFBIG ? failure_from(errno, Access::writing, output_name)
+                                             : Failure{FailureNumber::device_fault, output_name, "écriture impossible"};
 }
 
 std::string sentence_of_errno(int error) {

@@ -68,7 +68,7 @@ Programme programme_of(const Arguments& arguments) {
     programme.list = arguments.filled_word(0, "LISTE.dfm");
     arguments.expect_at_most(1);
     if (extension_of(programme.list) != "dfm")
-        throw Failure{failure_number::wrong_file_name, programme.list, "un fichier .dfm est attendu"};
+        throw Failure{FailureNumber::wrong_file_name, programme.list, "un fichier .dfm est attendu"};
     if (arguments.has(length_option.name))
         programme.length = length_of(arguments.value(length_option.name, ""));
     programme.mode = mode_of(arguments.value(mode_option.name, "liste"));
@@ -81,7 +81,7 @@ void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
     if (station.list_window.rows.count() == 0)
-        throw Failure{failure_number::file_not_found, programme.list, "aucun enregistrement à passer"};
+        throw Failure{FailureNumber::file_not_found, programme.list, "aucun enregistrement à passer"};
 }
 
 void start_programme(Station& station, const Programme& programme) {

@@ -49,7 +49,7 @@ public:
         connect();
         station_->create_main_window();
         if (station_->settings.premier_lancement.is_true())
-            throw Failure{failure_number::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
+            throw Failure{FailureNumber::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
         time_.event([&] { open_programme(*station_, dialogs_, rehearsal_.programme, list); });
         open_outputs();
         time_.event([&] { start_programme(*station_, rehearsal_.programme); });
@@ -109,7 +109,7 @@ private:
     /// Who interrupts a run, or reads no more of it, doesn't wait for its end.
     void check_is_wanted() const {
         if (interrupted_)
-            throw Failure{failure_number::wrong_call, rehearsal_.programme.list, "répétition interrompue"};
+            throw Failure{FailureNumber::wrong_call, rehearsal_.programme.list, "répétition interrompue"};
         if (unwritten_)
             throw Failure{*unwritten_};
     }

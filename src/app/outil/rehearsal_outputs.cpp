@@ -21,7 +21,7 @@ bool are_one_file(const std::string& a, const std::string& b) {
 RehearsalOutputs::RehearsalOutputs(const std::optional<std::string>& rendering,
                                    const std::optional<std::string>& picture) {
     if (rendering && picture && are_one_file(*rendering, *picture))
-        throw Failure{failure_number::wrong_call, *picture, "--rendu et --image désignent le même fichier"};
+        throw Failure{FailureNumber::wrong_call, *picture, "--rendu et --image désignent le même fichier"};
     if (rendering) {
         rendering_file_.emplace(*rendering, *rendering);
         rendering_.emplace(rendering_file_->hidden_path());
@@ -50,7 +50,7 @@ void RehearsalOutputs::write_picture(std::string_view svg) {
 void OutputGuard::check(const std::string& read_file, std::string_view what) const {
     for (const auto& output : outputs_)
         if (output && are_one_file(*output, read_file))
-            throw Failure{failure_number::wrong_call, *output, "ce fichier est " + std::string{what}};
+            throw Failure{FailureNumber::wrong_call, *output, "ce fichier est " + std::string{what}};
 }
 
 bool OutputGuard::has_something_to_lose() const {

@@ -37,7 +37,7 @@ void read(const Call& call) {
             call.out << printable(setting.value) << '\n';
             return;
         }
-    throw Failure{failure_number::wrong_call, section + " " + key, "cette clé n'a pas de valeur"};
+    throw Failure{FailureNumber::wrong_call, section + " " + key, "cette clé n'a pas de valeur"};
 }
 
 void write(const Call& call) {

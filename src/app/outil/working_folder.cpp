@@ -27,7 +27,7 @@ std::string temporary_folder() {
     if (!error)
         return folder.string();
     const char* named = std::getenv("TMPDIR");
-    throw Failure{failure_number::path_not_found, named != nullptr ? named : "/tmp"};
+    throw Failure{FailureNumber::path_not_found, named != nullptr ? named : "/tmp"};
 }
 
 FileHandle locked_folder(const std::string& folder) {
@@ -76,7 +76,7 @@ std::string free_letter(const DriveTable& drives) {
     for (char letter = 'Z'; letter > 'A'; --letter)
         if (!drives.entries().contains(std::string(1, letter)))
             return std::string(1, letter);
-    throw Failure{failure_number::device_unavailable, "A: à Z:", "toutes les lettres de lecteur sont prises"};
+    throw Failure{FailureNumber::device_unavailable, "A: à Z:", "toutes les lettres de lecteur sont prises"};
 }
 
 } // namespace
@@ -101,9 +101,9 @@ std::string WorkingFolder::copy(const std::string& file) const {
     std::error_code error;
     std::filesystem::copy_file(file, station_folder(folder_) + "/programme.dfm", error);
     if (error == std::errc::no_such_file_or_directory)
-        throw Failure{failure_number::file_not_found, file};
+        throw Failure{FailureNumber::file_not_found, file};
     if (error == std::errc::no_space_on_device)
-        throw Failure{failure_number::disk_full, folder_};
+        throw Failure{FailureNumber::disk_full, folder_};
     if (error)
         throw failure_from(error.value(), Access::reading, file);
     return station_path() + "programme.dfm";

@@ -48,7 +48,7 @@ void ContainerFile::open() {
                        avformat_find_stream_info(format_, nullptr) >= 0;
     if (!known) {
         close();
-        throw Failure{disk_failed_ ? failure_number::device_fault : failure_number::unplayable_file, path_};
+        throw Failure{disk_failed_ ? FailureNumber::device_fault : FailureNumber::unplayable_file, path_};
     }
 }
 
@@ -71,7 +71,7 @@ bool ContainerFile::read(int stream, AVPacket& packet) {
         av_packet_unref(&packet);
     }
     if (disk_failed_)
-        throw Failure{failure_number::device_fault, path_};
+        throw Failure{FailureNumber::device_fault, path_};
     return false;
 }
 

@@ -51,7 +51,7 @@ public:
         if (stream_ == nullptr && has_pictures_ && file_.format().duration > 0)
             return;
         if (stream_ == nullptr || !start() || codec_->rate() < 1000 || codec_->rate() > 1'000'000)
-            throw Failure{failure_number::unplayable_file, path};
+            throw Failure{FailureNumber::unplayable_file, path};
         grid_ = frame_grid(*stream_->codecpar);
         rate_ = codec_->rate();
         first_stamp_ = codec_->timestamp();
@@ -146,7 +146,7 @@ private:
         file_.reopen();
         stream_ = file_.stream(AVMEDIA_TYPE_AUDIO);
         if (stream_ == nullptr || !start())
-            throw Failure{failure_number::device_fault};
+            throw Failure{FailureNumber::device_fault};
     }
 
     // To a frame of the grid a little before the sample. False when the file doesn't tell where it landed.

@@ -14,7 +14,7 @@ constexpr std::size_t opening_frames = 2400; // 50 ms
 
 PreparedFile prepare(SoundFiles& files, const std::string& path, const FileFacts& facts) {
     if (facts.is_folder)
-        throw Failure{failure_number::unplayable_file, path};
+        throw Failure{FailureNumber::unplayable_file, path};
     PreparedFile file{.path = path, .facts = facts, .seconds = 0, .decoder = {}, .opening = {}};
     file.decoder = std::make_unique<Decoder>(open_sample_source(files.open(path), path));
     if (file.decoder->has_sound()) {

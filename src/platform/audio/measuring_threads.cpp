@@ -20,7 +20,7 @@ MeasuredLength measure(SoundFiles& files, const std::string& path, std::atomic<b
         const FileFacts facts = files.facts(path);
         disk_answers = true;
         if (facts.is_folder)
-            throw Failure{failure_number::unplayable_file, path};
+            throw Failure{FailureNumber::unplayable_file, path};
         const auto source = open_sample_source(files.open(path), path);
         return {static_cast<double>(source->length()) / source->rate(), {}};
     } catch (const Failure& failure) {
@@ -28,7 +28,7 @@ MeasuredLength measure(SoundFiles& files, const std::string& path, std::atomic<b
         return {0, failure};
     } catch (const std::exception&) { // no memory for what a broken file claims to hold
         disk_answers = true;
-        return {0, Failure{failure_number::unplayable_file, path}};
+        return {0, Failure{FailureNumber::unplayable_file, path}};
     }
 }
 
@@ -40,7 +40,7 @@ struct MeasuringThreads::Work {
     /// A file from the asking to the taking.
     struct File {
         [[nodiscard]] bool hangs(DiskPatience& patience) const;
-        void fail(int number) {
+        void fail(FailureNumber number) {
             stage = Stage::measured;
             length = {0, Failure{number}};
         }
@@ -107,13 +107,13 @@ bool MeasuringThreads::Work::File::hangs(DiskPatience& patience) const {
 }
 
 void MeasuringThreads::Work::give_up(File& file, DiskPatience& patience) {
-    file.fail(failure_number::device_fault);
+    file.fail(FailureNumber::device_fault);
     if (*file.disk_answers)
         return;
     patience.remember(file.machine_path, file.disk_answers);
     for (auto& [path, other] : by_path)
         if (other.stage == Stage::waiting && patience.is_silent(other.machine_path))
-            other.fail(failure_number::device_fault);
+            other.fail(FailureNumber::device_fault);
 }
 
 MeasuringThreads::MeasuringThreads(std::shared_ptr<SoundFiles> files, Resolve resolve, DiskPatience patience)
@@ -163,7 +163,7 @@ void MeasuringThreads::ask(std::string_view path, bool first) {
     try {
         file.machine_path = resolve_(path);
         if (patience_.is_silent(file.machine_path))
-            file.fail(failure_number::device_fault);
+            file.fail(FailureNumber::device_fault);
     } catch (const Failure& failure) {
         file.stage = Work::Stage::measured;
         file.length.failure = failure;

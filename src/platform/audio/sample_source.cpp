@@ -9,7 +9,7 @@ namespace sonarelle {
 
 std::unique_ptr<SampleSource> open_sample_source(std::unique_ptr<RecordFile> file, const std::string& path) {
     if (file->length() == 0)
-        throw Failure{failure_number::unplayable_file, path};
+        throw Failure{FailureNumber::unplayable_file, path};
     if (auto wav = open_wav_source(file))
         return wav;
     if (auto mpeg = open_mpeg_source(file))

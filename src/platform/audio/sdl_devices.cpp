@@ -39,7 +39,7 @@ public:
         wanted.userdata = this;
         device_ = SDL_OpenAudioDevice(name.empty() ? nullptr : name.c_str(), 0, &wanted, nullptr, 0);
         if (device_ == 0)
-            throw Failure{failure_number::device_unavailable, name};
+            throw Failure{FailureNumber::device_unavailable, name};
         ++*open_devices_;
         SDL_PauseAudioDevice(device_, 0);
     }
@@ -101,7 +101,7 @@ std::vector<std::string> SdlDevices::names() {
 
 std::unique_ptr<OutputDevice> SdlDevices::open(const std::string& name, PullFrames pull) {
     if (!connect(*open_devices_ == 0))
-        throw Failure{failure_number::device_unavailable, name};
+        throw Failure{FailureNumber::device_unavailable, name};
     return std::make_unique<SdlDevice>(name, std::move(pull), open_devices_);
 }
 

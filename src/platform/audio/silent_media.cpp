@@ -56,7 +56,7 @@ public:
     [[nodiscard]] double get_StopTime() const override { return get_Duration(); }
     void put_Volume(Millibel attenuation) override {
         if (!loaded_ || !has_sound_)
-            throw Failure{failure_number::wrong_call};
+            throw Failure{FailureNumber::wrong_call};
         volume_ = attenuation;
     }
     [[nodiscard]] Millibel get_Volume() const override { return volume_; }

@@ -15,15 +15,15 @@ Failure failure_of(int error, const std::string& path) {
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return Failure{failure_number::file_not_found, path};
+        return Failure{FailureNumber::file_not_found, path};
     case EACCES:
     case EPERM:
-        return Failure{failure_number::permission_refused, path};
+        return Failure{FailureNumber::permission_refused, path};
     case EMFILE:
     case ENFILE:
-        return Failure{failure_number::too_many_files, path};
+        return Failure{FailureNumber::too_many_files, path};
     default:
-        return Failure{failure_number::device_fault, path};
+        return Failure{FailureNumber::device_fault, path};
     }
 }
 
@@ -52,7 +52,7 @@ public:
             if (count < 0 && errno == EINTR)
                 continue;
             if (count < 0)
-                throw Failure{failure_number::device_fault, path_};
+                throw Failure{FailureNumber::device_fault, path_};
             if (count == 0)
                 break;
             done += static_cast<std::size_t>(count);

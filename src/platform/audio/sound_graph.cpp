@@ -103,7 +103,7 @@ void SoundGraph::put_CurrentPosition(double position) {
 
 void SoundGraph::put_Volume(Millibel attenuation) {
     if (is_empty() || !has_sound_ || attenuation > Millibel{0} || attenuation < Millibel{-10000})
-        throw Failure{failure_number::wrong_call, path_};
+        throw Failure{FailureNumber::wrong_call, path_};
     if (attenuation == volume_)
         return;
     volume_ = attenuation;

@@ -81,7 +81,7 @@ WavFileOutput::WavFileOutput(const std::string& path)
       file_{path, std::ios::binary | std::ios::trunc},
       gathered_(gathered_samples) {
     if (!file_)
-        throw Failure{failure_number::path_access, path};
+        throw Failure{FailureNumber::path_access, path};
     const WavHead head = wav_head(0);
     std::memcpy(gathered_.data(), head.data(), head.size());
     filled_ = head.size() / sample_bytes;
@@ -125,7 +125,7 @@ void WavFileOutput::write_gathered() {
 
 void WavFileOutput::check() {
     if (!file_)
-        throw Failure{failure_number::disk_full, path_};
+        throw Failure{FailureNumber::disk_full, path_};
 }
 
 } // namespace sonarelle

@@ -23,7 +23,7 @@ void wait_for_lock(const FileHandle& file, const std::string& source) {
         if (errno != EWOULDBLOCK && errno != EINTR)
             return;
         if (std::chrono::steady_clock::now() > give_up)
-            throw Failure{failure_number::path_access, source, "Un autre programme garde ce fichier pour lui"};
+            throw Failure{FailureNumber::path_access, source, "Un autre programme garde ce fichier pour lui"};
         std::this_thread::sleep_for(std::chrono::milliseconds{1});
     }
 }

@@ -22,8 +22,8 @@ bool is_there(HostDisk& disk, const std::string& path) {
         return !disk.facts(path).is_folder;
     } catch (const Failure& failure) {
         // A disk that has a fault, or gives no right to look, says nothing of its files.
-        return failure.number == failure_number::device_fault || failure.number == failure_number::permission_refused ||
-               failure.number == failure_number::disk_not_ready;
+        return failure.number == FailureNumber::device_fault || failure.number == FailureNumber::permission_refused ||
+               failure.number == FailureNumber::disk_not_ready;
     }
 }
 

@@ -46,12 +46,12 @@ HostDisk::Place HostDisk::place_of(std::string_view path) const {
     const std::string name = absolute(path);
     return look(name, [name](const NameLookup::Place& found) -> Place {
         if (found.outcome == Outcome::folder_missing)
-            throw Failure{failure_number::path_not_found, name};
+            throw Failure{FailureNumber::path_not_found, name};
         return {name, found.path, found.outcome == Outcome::present};
     });
 }
 
-HostDisk::Place HostDisk::existing(std::string_view path, int number_when_missing) const {
+HostDisk::Place HostDisk::existing(std::string_view path, FailureNumber number_when_missing) const {
     Place place = place_of(path);
     if (!place.exists)
         throw Failure{number_when_missing, place.source};
@@ -85,7 +85,7 @@ void HostDisk::ChDir(std::string_view folder) {
         return found.outcome == Outcome::present && ::stat(found.path.c_str(), &kind) == 0 && S_ISDIR(kind.st_mode);
     });
     if (!is_folder)
-        throw Failure{failure_number::path_not_found, name};
+        throw Failure{FailureNumber::path_not_found, name};
     working_.set_folder(name);
 }
 
@@ -111,14 +111,14 @@ void HostDisk::remove_file(const Place& place) {
 
 void HostDisk::Name(std::string_view old_path, std::string_view new_path) {
     const Place to = place_of(new_path);
-    const Place from = existing(old_path, failure_number::file_not_found);
+    const Place from = existing(old_path, FailureNumber::file_not_found);
     if (!equal_ignoring_case(parts_of(from.source).drive, parts_of(to.source).drive))
-        throw Failure{failure_number::other_drive, to.source};
+        throw Failure{FailureNumber::other_drive, to.source};
     const bool only_case_changes = to.path == from.path;
     if (to.exists && !only_case_changes)
-        throw Failure{failure_number::file_exists, to.source};
+        throw Failure{FailureNumber::file_exists, to.source};
     if (is_root(from.source) || to.path.starts_with(from.path + "/"))
-        throw Failure{failure_number::path_access, to.source};
+        throw Failure{FailureNumber::path_access, to.source};
     const std::string new_name = folder_part(to.path) + std::string{name_of_path(to.source)};
     const int result =
         only_case_changes ? ::rename(from.path.c_str(), new_name.c_str()) : rename_to_new(from.path, new_name);
@@ -129,15 +129,15 @@ void HostDisk::Name(std::string_view old_path, std::string_view new_path) {
 void HostDisk::MkDir(std::string_view folder) {
     const Place place = place_of(folder);
     if (place.exists)
-        throw Failure{failure_number::path_access, place.source};
+        throw Failure{FailureNumber::path_access, place.source};
     if (::mkdir(place.path.c_str(), 0777) != 0)
         throw_errno(Access::writing, place.source);
 }
 
 void HostDisk::RmDir(std::string_view folder) {
-    const Place place = existing(folder, failure_number::path_not_found);
+    const Place place = existing(folder, FailureNumber::path_not_found);
     if (is_root(place.source))
-        throw Failure{failure_number::path_access, place.source};
+        throw Failure{FailureNumber::path_access, place.source};
     if (::rmdir(place.path.c_str()) != 0)
         throw_errno(Access::writing, place.source);
 }

@@ -78,7 +78,7 @@ private:
 
     /// For a name that may be new, in a folder that must be there.
     [[nodiscard]] Place place_of(std::string_view path) const;
-    [[nodiscard]] Place existing(std::string_view path, int number_when_missing) const;
+    [[nodiscard]] Place existing(std::string_view path, FailureNumber number_when_missing) const;
 
     [[nodiscard]] std::vector<std::string> matches(const PathPattern& pattern, FileAttributes attributes) const;
     static void remove_file(const Place& place);

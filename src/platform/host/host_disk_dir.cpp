@@ -105,14 +105,14 @@ std::vector<std::string> HostDisk::matches(const PathPattern& pattern, FileAttri
 void HostDisk::Kill(std::string_view path) {
     const PathPattern pattern = working_.pattern_of(path);
     if (pattern.is_one_name()) {
-        remove_file(existing(path, failure_number::file_not_found));
+        remove_file(existing(path, FailureNumber::file_not_found));
         return;
     }
     const std::vector<std::string> names = matches(pattern, FileAttributes::normal);
     if (names.empty())
-        throw Failure{failure_number::file_not_found, absolute(path)};
+        throw Failure{FailureNumber::file_not_found, absolute(path)};
     for (const std::string& name : names)
-        remove_file(existing(join_path(pattern.folder, name), failure_number::file_not_found));
+        remove_file(existing(join_path(pattern.folder, name), FailureNumber::file_not_found));
 }
 
 } // namespace sonarelle

@@ -50,12 +50,12 @@ bool is_same_file(const struct stat& a, const struct stat& b) {
 } // namespace
 
 void HostDisk::FileCopy(std::string_view from, std::string_view to) {
-    const Place from_place = existing(from, failure_number::file_not_found);
+    const Place from_place = existing(from, FailureNumber::file_not_found);
     OpenFile source = open_plain(from_place.path, O_RDONLY, Access::reading, from_place.source);
     const Place to_place = place_of(to);
     struct stat target {};
     if (::stat(to_place.path.c_str(), &target) == 0 && is_same_file(source.facts, target))
-        throw Failure{failure_number::permission_refused, to_place.source};
+        throw Failure{FailureNumber::permission_refused, to_place.source};
 
     SafeFile copy{to_place.path, to_place.source};
     HostRecordFile reader{std::move(source.handle), facts_of(source.facts), from_place.source};
@@ -83,7 +83,7 @@ std::unique_ptr<RecordFile> HostDisk::open_or_create(std::string_view path) {
     const std::string name = absolute(path);
     return look(name, [name](const NameLookup::Place& found) {
         if (found.outcome == Outcome::folder_missing)
-            throw Failure{failure_number::path_not_found, name};
+            throw Failure{FailureNumber::path_not_found, name};
         struct stat facts {};
         if (::stat(found.path.c_str(), &facts) != 0 && errno == ENOENT) // a link may be there and lead to nothing
             static_cast<void>(open_plain(found.path, O_WRONLY | O_CREAT, Access::writing, name));

@@ -22,9 +22,9 @@ auto HostDisk::look(const std::string& absolute_path, Use use) const {
 /// @throws Failure 76 without the folder, 53 without the file.
 inline void check_found(const NameLookup::Place& found, const std::string& source) {
     if (found.outcome == NameLookup::Outcome::folder_missing)
-        throw Failure{failure_number::path_not_found, source};
+        throw Failure{FailureNumber::path_not_found, source};
     if (found.outcome == NameLookup::Outcome::missing)
-        throw Failure{failure_number::file_not_found, source};
+        throw Failure{FailureNumber::file_not_found, source};
 }
 
 } // namespace sonarelle

@@ -25,7 +25,7 @@ void change_saved_table(const std::string& file, const std::function<void(DriveT
     try {
         table = load_drive_table(file);
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::device_fault)
+        if (failure.number != FailureNumber::device_fault)
             throw;
         is_damaged = true;
     }
@@ -41,19 +41,19 @@ void change_saved_table(const std::string& file, const std::function<void(DriveT
 DriveTable parsed_drive_table(std::string_view json, const std::string& relative_to) {
     const auto entries = nlohmann::json::parse(json, nullptr, false);
     if (!entries.is_object())
-        throw Failure{failure_number::device_fault, {}, std::string{damaged} + "ce n'est pas un groupe JSON"};
+        throw Failure{FailureNumber::device_fault, {}, std::string{damaged} + "ce n'est pas un groupe JSON"};
     DriveTable table;
     table.remove("C");
     const std::filesystem::path base{relative_to};
     for (const auto& [drive, folder] : entries.items()) {
         if (!folder.is_string() || folder.get_ref<const std::string&>().empty())
-            throw Failure{failure_number::device_fault,
+            throw Failure{FailureNumber::device_fault,
                           {},
                           std::string{damaged} + "le dossier de « " + drive + " » n'est pas un texte"};
         try {
             table.set(drive, absolute_machine_path((base / folder.get<std::string>()).string()));
         } catch (const Failure&) {
-            throw Failure{failure_number::device_fault,
+            throw Failure{FailureNumber::device_fault,
                           {},
                           std::string{damaged} + "« " + drive + " » n'est ni une lettre ni un partage"};
         }
@@ -68,7 +68,7 @@ std::string drive_table_text(const DriveTable& table) {
     try {
         return entries.dump(4) + "\n";
     } catch (const nlohmann::json::exception&) {
-        throw Failure{failure_number::wrong_call, {}, "Le nom d'un dossier n'est pas de l'UTF-8"};
+        throw Failure{FailureNumber::wrong_call, {}, "Le nom d'un dossier n'est pas de l'UTF-8"};
     }
 }
 
@@ -91,7 +91,7 @@ void set_saved_drive(const std::string& file, std::string_view drive, std::strin
 void remove_saved_drive(const std::string& file, std::string_view drive) {
     change_saved_table(file, [drive](DriveTable& table) {
         if (!table.remove(drive))
-            throw Failure{failure_number::device_unavailable, std::string{drive}, "Ce lecteur n'est pas dans la table"};
+            throw Failure{FailureNumber::device_unavailable, std::string{drive}, "Ce lecteur n'est pas dans la table"};
     });
 }
 

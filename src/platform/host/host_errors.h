@@ -10,7 +10,7 @@ namespace sonarelle {
 enum class Access { reading, writing };
 
 /// The station's failure number of an errno.
-[[nodiscard]] int failure_of_errno(int error, Access access);
+[[nodiscard]] FailureNumber failure_of_errno(int error, Access access);
 
 /// The Failure of an errno, in the words of what it means.
 [[nodiscard]] Failure failure_from(int error, Access access, const std::string& source);

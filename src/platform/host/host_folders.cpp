@@ -46,7 +46,7 @@ std::string spare_folder() {
         (temporary.starts_with('/') ? temporary : "/tmp") + "/station-sonarelle-" + std::to_string(::geteuid());
     static_cast<void>(::mkdir(folder.c_str(), 0700));
     if (!is_own_folder(folder))
-        throw Failure{failure_number::path_access, folder};
+        throw Failure{FailureNumber::path_access, folder};
     return folder;
 }
 

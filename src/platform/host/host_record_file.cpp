@@ -23,7 +23,7 @@ HostRecordFile::HostRecordFile(FileHandle file, const FileFacts& facts, std::str
 
 std::size_t HostRecordFile::read(std::int64_t position, std::span<std::byte> into) {
     if (position < 0)
-        throw Failure{failure_number::wrong_record_number, source_};
+        throw Failure{FailureNumber::wrong_record_number, source_};
     into = into.first(bytes_left(position, into.size())); // The file is as long as it was when it was opened.
     std::size_t done = copy_from_buffer(position, into);
     if (done == into.size())

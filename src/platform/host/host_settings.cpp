@@ -30,7 +30,7 @@ void HostSettings::save_all(std::string_view application, std::span<const Settin
     try {
         text = read();
     } catch (const Failure& failure) {
-        if (failure.number != failure_number::device_fault)
+        if (failure.number != FailureNumber::device_fault)
             throw;
         damaged = true;
     }

@@ -104,7 +104,7 @@ void HostShell::start_instead(const KnownProgram& known, std::string_view progra
         if (started)
             return;
     }
-    throw Failure{failure_number::file_not_found, std::string{program}};
+    throw Failure{FailureNumber::file_not_found, std::string{program}};
 }
 
 // posix_spawn copies no memory, so that starting an editor doesn't hold up the sound.
@@ -115,7 +115,7 @@ void HostShell::start(const std::string& program, const std::string& argument, s
     const ProgramAttributes attributes;
     pid_t started = 0;
     if (::posix_spawnp(&started, program.c_str(), nullptr, attributes.get(), arguments.data(), environ) != 0)
-        throw Failure{failure_number::file_not_found, std::string{named}};
+        throw Failure{FailureNumber::file_not_found, std::string{named}};
     programs_.push_back(started);
 }
 
@@ -129,7 +129,7 @@ void HostShell::set_cd_door(bool open) {
         if (drive.is_open() && ::ioctl(drive.get(), open ? CDROMEJECT : CDROMCLOSETRAY) == 0)
             return;
     }
-    throw Failure{failure_number::device_unavailable, "CD"};
+    throw Failure{FailureNumber::device_unavailable, "CD"};
 }
 
 } // namespace sonarelle

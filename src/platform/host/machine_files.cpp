@@ -74,7 +74,7 @@ OpenFile open_plain(const std::string& path, int flags, Access access, const std
     if (!file.handle.is_open() || ::fstat(file.handle.get(), &file.facts) != 0)
         throw_errno(access, source);
     if (!S_ISREG(file.facts.st_mode))
-        throw Failure{failure_number::path_access, source};
+        throw Failure{FailureNumber::path_access, source};
     return file;
 }
 

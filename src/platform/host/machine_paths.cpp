@@ -25,16 +25,16 @@ std::filesystem::path shell_folder() {
     return folder ? std::filesystem::path{folder.get()} : std::filesystem::path{"/"};
 }
 
-[[noreturn]] void refuse(std::string_view path, int number, std::string sentence) {
+[[noreturn]] void refuse(std::string_view path, FailureNumber number, std::string sentence) {
     throw Failure{number, std::string{path}, std::move(sentence)};
 }
 
 void check_characters(std::string_view path) {
     if (const auto foreign = first_foreign_character(path))
-        refuse(path, failure_number::wrong_file_name, sentence_of_foreign(*foreign));
+        refuse(path, FailureNumber::wrong_file_name, sentence_of_foreign(*foreign));
     const auto forbidden = path.find_first_of(forbidden_in_names);
     if (forbidden != std::string_view::npos)
-        refuse(path, failure_number::wrong_file_name,
+        refuse(path, FailureNumber::wrong_file_name,
                "Le caractère « " + std::string{path[forbidden]} + " » ne va pas dans un nom de fichier");
 }
 
@@ -59,10 +59,10 @@ std::string absolute_machine_path(std::string_view path) {
 
 std::string station_path_of(const DriveTable& table, std::string_view machine_path) {
     if (machine_path.find('\\') != std::string_view::npos)
-        refuse(machine_path, failure_number::wrong_file_name, "Le caractère « \\ » ne va pas dans un nom de fichier");
+        refuse(machine_path, FailureNumber::wrong_file_name, "Le caractère « \\ » ne va pas dans un nom de fichier");
     const auto path = table.station_path(absolute_machine_path(machine_path));
     if (!path)
-        refuse(machine_path, failure_number::device_unavailable, "Aucun lecteur n'atteint ce fichier");
+        refuse(machine_path, FailureNumber::device_unavailable, "Aucun lecteur n'atteint ce fichier");
     try {
         check_characters(*path);
     } catch (const Failure& failure) {

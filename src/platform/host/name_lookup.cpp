@@ -91,7 +91,7 @@ NameLookup::Place NameLookup::find(const std::string& base, const std::vector<st
     if (look_for(place.path, source) == Exact::yes)
         return place;
     if (!is_folder(base.empty() ? "/" : base))
-        throw Failure{failure_number::device_unavailable, source};
+        throw Failure{FailureNumber::device_unavailable, source};
 
     place.path = base;
     for (std::size_t i = 0; i < names.size(); ++i) {

@@ -23,7 +23,7 @@ std::string text_of(const std::string& name) {
     try {
         return nlohmann::json{{key, name}}.dump(4) + "\n";
     } catch (const nlohmann::json::exception&) {
-        throw Failure{failure_number::wrong_call, {}, "Le nom de la sortie n'est pas de l'UTF-8"};
+        throw Failure{FailureNumber::wrong_call, {}, "Le nom de la sortie n'est pas de l'UTF-8"};
     }
 }
 

@@ -31,7 +31,7 @@ std::vector<std::string> names_in(const std::string& folder) {
         return true;
     });
     if (!read)
-        throw Failure{failure_number::path_not_found, folder};
+        throw Failure{FailureNumber::path_not_found, folder};
     std::ranges::sort(names);
     return names;
 }
@@ -81,7 +81,7 @@ void fill_program_folder(const std::string& supplied, const std::string& program
     std::error_code error;
     std::filesystem::create_directories(program_folder, error);
     if (error)
-        throw Failure{failure_number::path_access, program_folder};
+        throw Failure{FailureNumber::path_access, program_folder};
 
     std::set<std::string> present;
     for (const std::string& name : names_in(program_folder))

@@ -42,7 +42,7 @@ std::filesystem::path end_of_links(std::filesystem::path path, const std::string
     std::error_code error;
     for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
         if (links == 40 || is_planted(path))
-            throw Failure{failure_number::path_access, source};
+            throw Failure{FailureNumber::path_access, source};
         path = path.parent_path() / std::filesystem::read_symlink(path, error);
     }
     return path;
@@ -103,7 +103,7 @@ SafeFile::SafeFile(std::string path, std::string source)
     folder_path_ = target.has_parent_path() ? target.parent_path().string() : ".";
     folder_ = FileHandle{::open(folder_path_.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)};
     if (!folder_.is_open() && (errno == ENOENT || errno == ENOTDIR))
-        throw Failure{failure_number::path_not_found, source_};
+        throw Failure{FailureNumber::path_not_found, source_};
     if (!folder_.is_open())
         throw_errno(Access::writing, source_);
     look_at_old_file();
@@ -122,7 +122,7 @@ void SafeFile::look_at_old_file() {
         return;
     }
     if (!S_ISREG(old.st_mode))
-        throw Failure{failure_number::path_access, source_};
+        throw Failure{FailureNumber::path_access, source_};
     // A write-protected file stays, though its folder would let it be replaced.
     if (::faccessat(folder_.get(), name_.c_str(), W_OK, AT_EACCESS) != 0)
         throw_errno(Access::writing, source_);
@@ -156,7 +156,7 @@ void SafeFile::create_beside() {
 
 void SafeFile::write(std::span<const std::byte> bytes) {
     if (hidden_.empty())
-        throw Failure{failure_number::device_fault, source_};
+        throw Failure{FailureNumber::device_fault, source_};
     while (!bytes.empty()) {
         const std::size_t part = std::min(bytes.size(), buffer_size - buffer_.size());
         buffer_.insert(buffer_.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(part));
@@ -210,7 +210,7 @@ std::optional<FileFacts> SafeFile::old_file() const {
 /// All bytes are on the disk, under the hidden name.
 void SafeFile::finish() {
     if (hidden_.empty())
-        throw Failure{failure_number::device_fault, source_};
+        throw Failure{FailureNumber::device_fault, source_};
     flush();
     take_over_rights();
     if (::fsync(file_.get()) != 0)

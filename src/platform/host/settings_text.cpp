@@ -97,7 +97,7 @@ SettingsText SettingsText::parsed(std::string_view json) {
         return result;
     const std::string_view before = json.substr(0, reader.position());
     const std::string line = std::to_string(1 + std::ranges::count(before, '\n'));
-    throw Failure{failure_number::device_fault,
+    throw Failure{FailureNumber::device_fault,
                   {},
                   "Fichier de réglages abîmé : " + reader.complaint() +
                       (reader.position() > 0 ? " (ligne " + line + ")" : std::string{})};
@@ -121,7 +121,7 @@ std::string SettingsText::json() const {
     try {
         return root.dump(4) + "\n";
     } catch (const nlohmann::json::exception&) {
-        throw Failure{failure_number::wrong_call, {}, "Un réglage contient un texte qui n'est pas de l'UTF-8"};
+        throw Failure{FailureNumber::wrong_call, {}, "Un réglage contient un texte qui n'est pas de l'UTF-8"};
     }
 }
 

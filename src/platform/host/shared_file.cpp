@@ -47,7 +47,7 @@ void check_is_plain(const FileHandle& file, const std::string& path) {
     if (::fstat(file.get(), &facts) != 0)
         throw_errno(Access::writing, path);
     if (!S_ISREG(facts.st_mode))
-        throw Failure{failure_number::device_fault, path, "Ce n'est pas un fichier ordinaire"};
+        throw Failure{FailureNumber::device_fault, path, "Ce n'est pas un fichier ordinaire"};
 }
 
 } // namespace
@@ -70,7 +70,7 @@ std::optional<std::string> read_shared_file(const std::string& path) {
         else if (errno != EINTR)
             throw_errno(Access::writing, path);
         if (text.size() > largest_file)
-            throw Failure{failure_number::device_fault, path, "Ce fichier est bien trop grand"};
+            throw Failure{FailureNumber::device_fault, path, "Ce fichier est bien trop grand"};
     }
 }
 
@@ -109,7 +109,7 @@ std::optional<Failure> set_aside_if_damaged(const std::string& path, const std::
         }
     };
     auto fault = fault_of();
-    if (fault && fault->number == failure_number::device_fault)
+    if (fault && fault->number == FailureNumber::device_fault)
         ErrorIndicator{}.skip([&] {
             const SharedFileLock lock{path};
             if (fault_of()) // another program may have mended it

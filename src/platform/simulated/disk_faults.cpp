@@ -30,7 +30,7 @@ void DiskFaults::meet(std::string_view path, Clock& clock) const {
         return;
     const std::string wanted = lower_case(path);
     Frames span;
-    std::optional<int> refusal;
+    std::optional<FailureNumber> refusal;
     for (const auto& [top, fault] : faults_) {
         if (!lies_at(top, wanted))
             continue;
@@ -65,7 +65,7 @@ void DiskFaults::check_read(std::string_view path, std::int64_t position, std::s
         return;
     const std::int64_t byte = *found->second.broken_byte;
     if (byte >= position && byte < position + static_cast<std::int64_t>(count))
-        throw Failure{failure_number::device_fault, std::string{path}};
+        throw Failure{FailureNumber::device_fault, std::string{path}};
 }
 
 } // namespace sonarelle

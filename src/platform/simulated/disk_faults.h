@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/failure.h"
 #include "platform/units.h"
 
 namespace sonarelle {
@@ -17,7 +18,7 @@ class Clock;
 /// it, one of a drive's root for the whole drive.
 class DiskFaults {
 public:
-    void refuse(std::string_view path, int failure_number) { at(path).refusal = failure_number; }
+    void refuse(std::string_view path, FailureNumber number) { at(path).refusal = number; }
     void delay(std::string_view path, Frames span) { at(path).span = span; }
     void break_at(std::string_view path, std::int64_t byte) { at(path).broken_byte = byte; }
     void vanish(std::string_view path) { at(path).vanishes = true; }
@@ -35,7 +36,7 @@ public:
 
 private:
     struct Fault {
-        std::optional<int> refusal;
+        std::optional<FailureNumber> refusal;
         std::optional<std::int64_t> broken_byte;
         Frames span;
         bool vanishes = false;

@@ -34,7 +34,7 @@ std::string drive_of(std::string_view drive) {
 void DiskSpace::take(std::size_t bytes, std::string_view path) {
     const auto wanted = static_cast<std::int64_t>(bytes);
     if (wanted > capacity_ - used_)
-        throw Failure{failure_number::disk_full, std::string{path}};
+        throw Failure{FailureNumber::disk_full, std::string{path}};
     used_ += wanted;
 }
 
@@ -59,10 +59,10 @@ DiskPlace DiskTree::locate(std::string_view absolute_path) const {
     const PathParts parts = parts_of(absolute_path);
     DiskPlace place{std::string{absolute_path}, nullptr, parts.drive, entry_in(drives_, parts.drive)};
     if (place.entry == nullptr)
-        throw Failure{failure_number::device_unavailable, place.path};
+        throw Failure{FailureNumber::device_unavailable, place.path};
     for (const std::string& name : parts.names) {
         if (place.entry == nullptr || !place.entry->is_folder())
-            throw Failure{failure_number::path_not_found, place.path};
+            throw Failure{FailureNumber::path_not_found, place.path};
         place.folder = place.entry;
         place.name = name;
         place.entry = entry_in(place.folder->entries, name);

@@ -14,26 +14,26 @@ namespace sonarelle {
 
 namespace {
 
-[[noreturn]] void fail(int number, std::string_view path) {
+[[noreturn]] void fail(FailureNumber number, std::string_view path) {
     throw Failure{number, std::string{path}};
 }
 
 /// For what changes the list of names in the entry's folder.
 void check_folder(const DiskPlace& place) {
     if (place.folder == nullptr || place.folder->read_only)
-        fail(failure_number::path_access, place.path);
+        fail(FailureNumber::path_access, place.path);
 }
 
 /// For what changes or removes the entry itself too.
 void check_writable(const DiskPlace& place) {
     check_folder(place);
     if (place.entry != nullptr && place.entry->read_only)
-        fail(failure_number::path_access, place.path);
+        fail(FailureNumber::path_access, place.path);
 }
 
 void check_is_file(const DiskPlace& place) {
     if (place.entry->is_folder())
-        fail(failure_number::path_access, place.path);
+        fail(FailureNumber::path_access, place.path);
 }
 
 bool is_asked_for(const DiskEntry& entry, FileAttributes attributes) {
@@ -71,7 +71,7 @@ void SimulatedDisk::ChDrive(std::string_view path) {
         return;
     const char letter = drive_letter_of(path);
     if (!tree_.has_drive({&letter, 1}))
-        fail(failure_number::device_unavailable, path);
+        fail(FailureNumber::device_unavailable, path);
     faults_.meet(std::string{letter} + ":\\", clock_);
     working_.set_drive(letter);
 }
@@ -82,7 +82,7 @@ void SimulatedDisk::ChDir(std::string_view folder) {
     faults_.meet(target, clock_);
     const DiskPlace place = tree_.locate(target);
     if (place.entry == nullptr || !place.entry->is_folder())
-        fail(failure_number::path_not_found, target);
+        fail(FailureNumber::path_not_found, target);
     working_.set_folder(target);
     if (faults_.take_leaving(target))
         (void)DiskTree::remove(place);
@@ -95,7 +95,7 @@ std::string SimulatedDisk::Dir(std::string_view pattern, FileAttributes attribut
     faults_.meet(absolute(pattern), clock_);
     PathPattern wanted = pattern_of(pattern);
     if (!tree_.has_drive(wanted.folder))
-        fail(failure_number::device_unavailable, wanted.folder);
+        fail(FailureNumber::device_unavailable, wanted.folder);
     if (wanted.name.empty())
         wanted.name += '*';
     for (const DiskEntry* entry : matches(wanted, attributes))
@@ -118,7 +118,7 @@ FileFacts SimulatedDisk::facts(std::string_view path) {
     faults_.meet(target, clock_);
     const DiskEntry* entry = tree_.locate(target).entry;
     if (entry == nullptr)
-        fail(failure_number::file_not_found, target);
+        fail(FailureNumber::file_not_found, target);
     return facts_of(*entry);
 }
 
@@ -127,13 +127,13 @@ void SimulatedDisk::Kill(std::string_view path) {
     std::vector<std::string> names{wanted.name};
     if (!wanted.is_one_name()) {
         if (!tree_.has_drive(wanted.folder))
-            fail(failure_number::device_unavailable, wanted.folder);
+            fail(FailureNumber::device_unavailable, wanted.folder);
         names.clear();
         for (const DiskEntry* file : matches(wanted, FileAttributes::normal))
             names.push_back(file->name);
     }
     if (names.empty())
-        fail(failure_number::file_not_found, absolute(path));
+        fail(FailureNumber::file_not_found, absolute(path));
     for (const std::string& name : names) {
         const DiskPlace place = file_at(join_path(wanted.folder, name));
         check_writable(place);
@@ -147,13 +147,13 @@ void SimulatedDisk::Name(std::string_view old_path, std::string_view new_path) {
     const DiskPlace from = place_of(old_path);
     const DiskPlace to = tree_.locate(target);
     if (from.entry == nullptr)
-        fail(failure_number::file_not_found, from.path);
+        fail(FailureNumber::file_not_found, from.path);
     if (!equal_ignoring_case(parts_of(from.path).drive, parts_of(target).drive))
-        fail(failure_number::other_drive, target);
+        fail(FailureNumber::other_drive, target);
     if (to.entry != nullptr && to.entry != from.entry)
-        fail(failure_number::file_exists, target);
+        fail(FailureNumber::file_exists, target);
     if (lower_case(target).starts_with(lower_case(from.path) + '\\'))
-        fail(failure_number::path_access, target);
+        fail(FailureNumber::path_access, target);
     check_folder(from);
     check_folder(to);
     DiskTree::put(to, DiskTree::remove(from));
@@ -164,7 +164,7 @@ void SimulatedDisk::FileCopy(std::string_view from, std::string_view to) {
     const auto content = source.entry->content;
     const DiskEntry* target = tree_.find(absolute(to));
     if (target != nullptr && target->content == content)
-        fail(failure_number::permission_refused, absolute(to));
+        fail(FailureNumber::permission_refused, absolute(to));
     const auto copy = replace(to);
     copy->write(std::as_bytes(std::span{content->bytes()}));
     copy->commit();
@@ -173,7 +173,7 @@ void SimulatedDisk::FileCopy(std::string_view from, std::string_view to) {
 void SimulatedDisk::MkDir(std::string_view folder) {
     const DiskPlace place = place_of(folder);
     if (place.entry != nullptr)
-        fail(failure_number::path_access, place.path);
+        fail(FailureNumber::path_access, place.path);
     check_writable(place);
     DiskTree::add(place);
 }
@@ -181,9 +181,9 @@ void SimulatedDisk::MkDir(std::string_view folder) {
 void SimulatedDisk::RmDir(std::string_view folder) {
     const DiskPlace place = place_of(folder);
     if (place.entry == nullptr)
-        fail(failure_number::path_not_found, place.path);
+        fail(FailureNumber::path_not_found, place.path);
     if (!place.entry->is_folder() || !place.entry->entries.empty())
-        fail(failure_number::path_access, place.path);
+        fail(FailureNumber::path_access, place.path);
     check_writable(place);
     (void)DiskTree::remove(place);
 }
@@ -267,7 +267,7 @@ bool SimulatedDisk::exists(std::string_view path) const {
 std::string SimulatedDisk::bytes(std::string_view path) const {
     const DiskEntry& entry = entry_at(path);
     if (entry.is_folder())
-        fail(failure_number::file_not_found, path);
+        fail(FailureNumber::file_not_found, path);
     return entry.content->bytes();
 }
 
@@ -282,7 +282,7 @@ void SimulatedDisk::set_hidden(std::string_view path, bool on) {
 DiskEntry& SimulatedDisk::entry_at(std::string_view path) const {
     DiskEntry* entry = tree_.find(absolute(path));
     if (entry == nullptr)
-        fail(failure_number::file_not_found, path);
+        fail(FailureNumber::file_not_found, path);
     return *entry;
 }
 
@@ -302,7 +302,7 @@ DiskPlace SimulatedDisk::place_of(std::string_view path) {
 DiskPlace SimulatedDisk::file_at(std::string_view path) {
     DiskPlace place = place_of(path);
     if (place.entry == nullptr)
-        fail(failure_number::file_not_found, place.path);
+        fail(FailureNumber::file_not_found, place.path);
     check_is_file(place);
     return place;
 }

@@ -73,7 +73,7 @@ public:
     void set_capacity(std::int64_t bytes) { space_.set_capacity(bytes); }
     [[nodiscard]] std::int64_t used() const { return space_.used(); }
     /// Every operation on the path fails.
-    void refuse(std::string_view path, int failure_number) { faults_.refuse(absolute(path), failure_number); }
+    void refuse(std::string_view path, FailureNumber number) { faults_.refuse(absolute(path), number); }
     /// `Dir` and `facts` find the file; at the first other operation it is gone.
     void vanish_after_look(std::string_view path) { faults_.vanish(absolute(path)); }
     /// The folder can be entered once, and is gone behind that with all that it holds.

@@ -10,7 +10,7 @@ namespace sonarelle {
 
 std::size_t SimulatedFile::read(std::int64_t position, std::span<std::byte> into) {
     if (position < 0)
-        throw Failure{failure_number::wrong_record_number, path_};
+        throw Failure{FailureNumber::wrong_record_number, path_};
     const std::string& bytes = content_->bytes();
     const auto begin = std::min(static_cast<std::size_t>(position), bytes.size());
     const std::size_t count = std::min(into.size(), bytes.size() - begin);
@@ -45,7 +45,7 @@ std::optional<FileFacts> SimulatedReplacement::commit_over(const std::optional<F
 
 void SimulatedReplacement::check_usable() const {
     if (content_ == nullptr)
-        throw Failure{failure_number::device_fault, path_};
+        throw Failure{FailureNumber::device_fault, path_};
 }
 
 } // namespace sonarelle

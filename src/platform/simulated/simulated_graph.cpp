@@ -63,7 +63,7 @@ void SimulatedGraph::put_CurrentPosition(double position) {
 void SimulatedGraph::put_Volume(Millibel attenuation) {
     const bool in_range = attenuation <= Millibel{0} && attenuation >= Millibel{-10000};
     if (is_empty() || file_.silent || !in_range)
-        throw Failure{failure_number::wrong_call, path_};
+        throw Failure{FailureNumber::wrong_call, path_};
     volume_ = attenuation;
     log(MediaAction::volume, attenuation.count());
 }

@@ -37,16 +37,16 @@ const SimulatedMedia::File& SimulatedMedia::open(std::string_view path) {
     try {
         (void)disk_.open(path);
     } catch (const Failure& failure) {
-        const bool missing = failure.number == failure_number::file_not_found ||
-                             failure.number == failure_number::path_not_found ||
-                             failure.number == failure_number::device_unavailable;
-        if (failure.number == failure_number::device_fault)
+        const bool missing = failure.number == FailureNumber::file_not_found ||
+                             failure.number == FailureNumber::path_not_found ||
+                             failure.number == FailureNumber::device_unavailable;
+        if (failure.number == FailureNumber::device_fault)
             throw;
-        throw Failure{missing ? failure_number::file_not_found : failure_number::unplayable_file, std::string{path}};
+        throw Failure{missing ? FailureNumber::file_not_found : FailureNumber::unplayable_file, std::string{path}};
     }
     const auto known = files_.find(lower_case(disk_.absolute(path)));
     if (known == files_.end() || known->second.seconds < 0)
-        throw Failure{failure_number::unplayable_file, std::string{path}};
+        throw Failure{FailureNumber::unplayable_file, std::string{path}};
     return known->second;
 }
 

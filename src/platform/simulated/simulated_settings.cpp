@@ -48,7 +48,7 @@ void SimulatedSettings::put(Values& values, const Setting& setting) {
 }
 
 void SimulatedSettings::check_writable() const {
-    if (refusal_ != 0)
+    if (refusal_ != FailureNumber::none)
         throw Failure{refusal_, "reglages.json"};
 }
 

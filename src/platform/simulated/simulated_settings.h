@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/failure.h"
 #include "platform/settings.h"
 
 namespace sonarelle {
@@ -19,8 +20,8 @@ public:
     void save_all(std::string_view application, std::span<const Setting> settings) override;
     [[nodiscard]] std::vector<Setting> all(std::string_view application) override;
 
-    /// Every write is this failure from now on; 0 ends it.
-    void refuse_writes(int failure_number = 75) { refusal_ = failure_number; }
+    /// Every write is this failure from now on; `none` ends it.
+    void refuse_writes(FailureNumber number = FailureNumber::path_access) { refusal_ = number; }
 
 private:
     using Values = std::vector<Setting>;
@@ -30,7 +31,7 @@ private:
     void check_writable() const;
 
     std::map<std::string, Values> applications_; // by name in lower case, values in the order of their first writing
-    int refusal_ = 0;
+    FailureNumber refusal_ = FailureNumber::none;
 };
 
 } // namespace sonarelle

@@ -6,13 +6,13 @@ namespace sonarelle {
 
 void SimulatedShell::set_cd_door(bool open) {
     if (!has_cd_drive)
-        throw Failure{failure_number::device_unavailable};
+        throw Failure{FailureNumber::device_unavailable};
     cd_door_open = open;
 }
 
 void SimulatedShell::start(std::string_view program, std::string_view file) {
     if (!has_programs)
-        throw Failure{failure_number::file_not_found, std::string{program.empty() ? file : program}};
+        throw Failure{FailureNumber::file_not_found, std::string{program.empty() ? file : program}};
     started.push_back({std::string{program}, std::string{file}});
 }
 

@@ -18,6 +18,7 @@ void check(bool holds) {
 }
 
 constexpr std::string_view path = "C:\\Sonarelle\\essai.dfm";
+constexpr std::string_view old_path = "C:\\Sonarelle\\essai.rfm";
 
 std::vector<RowTable::Row> rows_of(Station& station) {
     std::vector<RowTable::Row> rows;
@@ -52,7 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
 
     station.list_window.rows.clear();
-    station.list.nom_sauvegarde = path;
+    machine.disk.put_file(old_path, bytes);
+    station.list.nom_sauvegarde = old_path;
     station.legacy_list.A_Copen_rfm();
     check(station.list_window.rows.count() == static_cast<int>(size / enreg_rfm::size));
     return 0;

@@ -21,9 +21,9 @@ struct TrackNames {
     std::string on_main; ///< What the main window's title says behind the station's name.
 };
 
-/// What the windows say of the decks and of the chain. The routines tell it what has happened, and it alone turns that
-/// into captions, lamps and the state of buttons: the main window, the list window and the small player say the same,
-/// whichever of them the operator has before him. It raises no event of any part.
+/// What the windows say of the decks and of the chain. The routines tell it what has happened, and it turns that into
+/// captions, lamps and the state of buttons: the main window, the list window and the small player say the same,
+/// whichever of them the operator has before him.
 /// Window thread.
 class DeskDisplay {
 public:

@@ -21,8 +21,8 @@ public:
 
     [[nodiscard]] std::int64_t length() const { return file_.length(); }
 
-    /// `count` bytes (at most half the capacity) from `position`, valid until the next call; null when the file ends
-    /// before.
+    /// `count` bytes (at most a quarter of the capacity) from `position`, valid until the next call; null when the file
+    /// ends before.
     [[nodiscard]] const std::uint8_t* at(std::int64_t position, std::size_t count) {
         if (position < begin_ || position + static_cast<std::int64_t>(count) > end_)
             if (!move_to(position, count))

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
 #include "platform/audio/limiter.h"
@@ -89,6 +91,50 @@ TEST(Limiter, FindsAPeakInEveryPlaceOfABlock) {
         Limiter{}.apply(frames);
         EXPECT_FLOAT_EQ(frames[place], -Limiter::ceiling) << place;
     }
+}
+
+/// The same, frame by frame, in doubles.
+std::vector<double> limited_by_hand(const std::vector<float>& frames) {
+    std::vector<double> limited;
+    double gain = 1;
+    for (std::size_t at = 0; at < frames.size(); at += 2) {
+        gain += (1 - gain) / 2400;
+        if (gain > 0.9999)
+            gain = 1;
+        const double peak = std::max(std::abs(frames[at]), std::abs(frames[at + 1]));
+        gain = std::min(gain, double{Limiter::ceiling} / peak);
+        limited.insert(limited.end(), {frames[at] * gain, frames[at + 1] * gain});
+    }
+    return limited;
+}
+
+TEST(Limiter, FollowsTheGreaterChannelFromFrameToFrame) {
+    std::vector<float> frames;
+    for (int frame = 0; frame < 40'000; ++frame) {
+        const double swell = 1.6 * std::sin(frame * 0.0004);
+        frames.push_back(static_cast<float>(swell * std::sin(frame * 0.031)));
+        frames.push_back(static_cast<float>(swell * std::cos(frame * 0.047)));
+    }
+    const std::vector<double> expected = limited_by_hand(frames);
+    Limiter limiter;
+    for (std::span<float> rest{frames}; !rest.empty(); rest = rest.subspan(std::min<std::size_t>(rest.size(), 886)))
+        limiter.apply(rest.first(std::min<std::size_t>(rest.size(), 886)));
+    for (std::size_t sample = 0; sample < frames.size(); ++sample)
+        ASSERT_NEAR(frames[sample], expected[sample], 1e-4) << sample;
+}
+
+TEST(Limiter, LetsGoOneTenThousandthBeforeItIsTransparent) {
+    std::vector<float> frames = behind_a_peak(2.0F, 2.0F, 24'000);
+    Limiter{}.apply(frames);
+    std::size_t first = 0;
+    while (frames[2 * first] != quiet)
+        ++first;
+    const double half = Limiter::ceiling / 2;
+    EXPECT_NEAR(static_cast<double>(first), std::log(0.0001 / (1 - half)) / std::log1p(-1.0 / 2400), 100)
+        << "in steps of a float";
+    EXPECT_LT(frames[2 * first - 2], quiet);
+    EXPECT_TRUE(std::all_of(frames.begin() + std::ptrdiff_t(2 * first), frames.end(),
+                            [](float sample) { return sample == quiet; }));
 }
 
 } // namespace

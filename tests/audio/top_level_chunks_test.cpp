@@ -51,6 +51,43 @@ TEST(TopLevelChunks, OfAnMp4BeyondFourGigabytesTellTheirSizesBehindTheirName) {
     expect_told(mp4_head + "\0\0\0\x01mdat\0\0\0\0\0\0\0\x20"s + sound);
 }
 
+TEST(TopLevelChunks, OfAnAviFollowOneAnother) {
+    expect_told("RIFF\x14\0\0\0AVI "s + sound + "RIFF\x14\0\0\0AVIX"s + sound);
+}
+
+TEST(TopLevelChunks, EndWhereSomethingElseBegins) {
+    const std::string tag = "TAG" + std::string(125, 't');
+    EXPECT_EQ(of("RIFF\x14\0\0\0WAVE"s + sound + tag), Completeness::whole);
+    EXPECT_EQ(of("FORM\0\0\0\x14"
+                 "AIFF"s +
+                 sound + tag),
+              Completeness::whole);
+    EXPECT_EQ(of(mp4_head + std::string(8, '\0')), Completeness::whole) << "a box that goes to the end";
+}
+
+TEST(TopLevelChunks, TellTheirSizesInAllTheirBytes) {
+    EXPECT_EQ(of("RIFF\x00\x00\x01\x00WAVE"s + std::string(65'536 - 4, 's')), Completeness::whole);
+    EXPECT_EQ(of("RIFF\x00\x00\x01\x00WAVE"s + std::string(65'535 - 4, 's')), Completeness::cut);
+    EXPECT_EQ(of("FORM\x00\x01\x00\x00"
+                 "AIFF"s +
+                 std::string(65'536 - 4, 's')),
+              Completeness::whole);
+    EXPECT_EQ(of("RIFF\xFE\xFF\xFF\xFFWAVE"s + sound), Completeness::cut);
+}
+
+TEST(TopLevelChunks, AreLookedAtUpToAThousand) {
+    std::string boxes = mp4_head;
+    while (boxes.size() < 1001 * 16)
+        boxes += "\0\0\0\x10"
+                 "free12345678"s;
+    EXPECT_EQ(of(boxes), Completeness::unknown);
+    EXPECT_EQ(of(boxes.substr(0, 1000 * 16)), Completeness::whole);
+}
+
+TEST(TopLevelChunks, OfAnEmptyFileAreAllThere) {
+    EXPECT_EQ(of(""), Completeness::whole);
+}
+
 TEST(TopLevelChunks, OfAWriterThatCouldNotGoBackTellNothing) {
     EXPECT_EQ(of("RIFF\0\0\0\0WAVE"s + sound), Completeness::unknown);
     EXPECT_EQ(of("RIFF\xFF\xFF\xFF\xFFWAVE"s + sound), Completeness::unknown);

@@ -32,13 +32,16 @@ bool is_folder(Disk& disk, std::string_view folder) {
     }
 }
 
-/// As the disk lists it; a name with a wild card is found as another's.
-bool is_file_of(Disk& disk, std::string_view folder, std::string_view name) {
-    disk.ChDir(folder);
-    return equal_ignoring_case(disk.Dir(name), name);
+} // namespace
+
+void enter_folder_of(Disk& disk, std::string_view path) {
+    disk.ChDrive(path);
+    disk.ChDir(folder_of_path(path));
 }
 
-} // namespace
+bool is_listed(Disk& disk, std::string_view path) {
+    return equal_ignoring_case(trim(disk.Dir(path)), trim(name_of_path(path)));
+}
 
 FileFinding look_for_file(Disk& disk, std::string_view path) {
     const std::string_view name = name_of_path(path);
@@ -54,9 +57,13 @@ FileFinding look_for_file(Disk& disk, std::string_view path) {
     }
     if (name.empty())
         return finding;
-    if (!finding.folder.empty() && !is_folder(disk, finding.folder))
+    if (!finding.folder.empty() && !is_folder(disk, finding.folder)) {
         finding.state = FileState::folder_missing;
-    else if (!is_file_of(disk, finding.folder.empty() ? disk.current_folder() : finding.folder, name))
+        return finding;
+    }
+    if (!finding.folder.empty())
+        disk.ChDir(finding.folder);
+    if (!is_listed(disk, name))
         finding.state = FileState::missing;
     return finding;
 }

@@ -7,6 +7,13 @@
 
 namespace sonarelle {
 
+/// Makes the drive and the folder of a path the current ones.
+/// @throws Failure when one of them isn't there or doesn't answer.
+void enter_folder_of(Disk& disk, std::string_view path);
+
+/// Whether the disk lists a file under its own name, whatever the case: a name with a wild card is found as another's.
+[[nodiscard]] bool is_listed(Disk& disk, std::string_view path);
+
 enum class FileState {
     present,
     missing,

@@ -9,6 +9,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playlist/file_existence.h"
 #include "playlist/volume_table.h"
 #include "playout/air_view.h"
 #include "playout/file_title.h"
@@ -260,17 +261,14 @@ void DeckLoading::report_failed_open(Deck& deck, const Failure& failure) {
 }
 
 std::string DeckLoading::recup_path(const std::string& dest_chemin) {
-    const std::string name{name_of_path(dest_chemin)};
-    std::string found;
-    std::string folder;
+    bool there = false;
     ErrorIndicator{}.skip([&] {
-        folder = with_backslash(folder_of_path(dest_chemin));
-        desk_.platform.disk.ChDrive(dest_chemin);
-        desk_.platform.disk.ChDir(folder);
-        found = desk_.platform.disk.Dir(join_path(folder, name));
+        enter_folder_of(desk_.platform.disk, dest_chemin);
+        there = is_listed(desk_.platform.disk, dest_chemin);
     });
-    if (!name.empty() && equal_ignoring_case(found, name))
-        return join_path(folder, name);
+    const std::string name{name_of_path(dest_chemin)};
+    if (there && !name.empty())
+        return join_path(folder_of_path(dest_chemin), name);
     show_box(desk_.platform.dialogs, name + " n'existe pas ou plus", Icon::stop);
     return {};
 }

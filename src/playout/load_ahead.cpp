@@ -7,6 +7,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/text.h"
+#include "playlist/file_existence.h"
 #include "playout/air_view.h"
 
 namespace sonarelle {
@@ -23,6 +24,14 @@ int field_of(const std::string& text, std::size_t place) {
 
 std::string two_digits(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+/// A folder that refuses to be entered may list its files all the same.
+void enter_folder_or_stop(Disk& disk, std::string_view path) {
+    ErrorIndicator errors;
+    errors.skip([&] { enter_folder_of(disk, path); });
+    if (errors.number() == FailureNumber::device_unavailable || errors.number() == FailureNumber::path_not_found)
+        throw ListStopped{};
 }
 
 } // namespace
@@ -134,24 +143,19 @@ bool LoadAhead::is_file_there() {
                       " Pas de vérification d'existence de fichier (fichier sur le réseau)");
         return true;
     }
-    ErrorIndicator errors;
-    const auto enter_folder = [&] {
-        errors.skip([&] { desk_.platform.disk.ChDrive(path); });
-        errors.skip([&] { desk_.platform.disk.ChDir(folder_of_path(path)); });
-        if (errors.number() == FailureNumber::device_unavailable || errors.number() == FailureNumber::path_not_found)
-            throw ListStopped{};
-    };
-    enter_folder();
-    std::string found;
-    errors.clear();
-    errors.skip([&] { found = desk_.platform.disk.Dir(path); });
-    if (errors.is_set() && errors.number() != FailureNumber::device_fault)
-        throw Failure{errors.number(), path};
-    const bool there = equal_ignoring_case(trim(found), trim(name_of_path(path)));
-    if (errors.is_set())
+    Disk& disk = desk_.platform.disk;
+    enter_folder_or_stop(disk, path);
+    bool there = false;
+    try {
+        there = is_listed(disk, path);
+    } catch (const Failure& failure) {
+        if (failure.number != FailureNumber::device_fault)
+            throw;
         pass_over(passed_over::silent_disk);
-    else if (!there) {
-        enter_folder(); // it may have gone between the two looks
+        return false;
+    }
+    if (!there) {
+        enter_folder_or_stop(disk, path); // it may have gone between the two looks
         drop_invalid_row();
     }
     return there;

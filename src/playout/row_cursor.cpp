@@ -5,7 +5,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/random.h"
-#include "platform/text.h"
+#include "playlist/file_existence.h"
 
 namespace sonarelle {
 
@@ -74,18 +74,15 @@ RowCursor::Look RowCursor::look() {
 std::string RowCursor::detecte_fichier_liste(const std::string& chemin_fichier) {
     if (is_network_path(chemin_fichier))
         return chemin_fichier;
-    const std::string folder{folder_of_path(chemin_fichier)};
-    const std::string name{name_of_path(chemin_fichier)};
-    desk_.platform.disk.ChDrive(chemin_fichier);
-    desk_.platform.disk.ChDir(folder);
-    if (desk_.platform.disk.Dir(chemin_fichier).empty()) {
-        desk_.platform.disk.ChDir(folder); // it may have gone between the two looks
+    Disk& disk = desk_.platform.disk;
+    enter_folder_of(disk, chemin_fichier);
+    if (disk.Dir(chemin_fichier).empty()) {
+        enter_folder_of(disk, chemin_fichier); // it may have gone between the two looks
         remove_row();
         return {};
     }
-    std::string found = join_path(folder, name);
-    if (equal_ignoring_case(desk_.platform.disk.Dir(found), name))
-        return found;
+    if (is_listed(disk, chemin_fichier))
+        return join_path(folder_of_path(chemin_fichier), name_of_path(chemin_fichier));
     report_missing("Recherche de fichier", "Ce fichier est NON TROUVE !");
     return {};
 }

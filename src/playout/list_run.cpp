@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/calendar_text.h"
 #include "platform/failure.h"
 
 namespace sonarelle {
 
-ListRun::ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
-                 RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document)
+ListRun::ListRun(Desk& desk, AutoChain& chain, DeckTransport& transport, RunControl& run, ListSaveDialog& save_dialog,
+                 ListDocument& document)
     : desk_{desk},
       chain_{chain},
-      loading_{loading},
       transport_{transport},
-      journal_{journal},
       run_{run},
-      reading_{reading},
       save_dialog_{save_dialog},
       document_{document} {}
 
@@ -37,7 +33,7 @@ void ListRun::start_selected_row() {
         return save_dialog_.A_enreg_sous();
     for (Image* button : {&desk_.list_window.stop_decks, &desk_.list_window.zap})
         button->enabled = true;
-    const DestinationRecord record = reading_.read_for_the_air(row);
+    const DestinationRecord record = chain_.cursor.record_of(row);
     if (desk_.ring.sounds() && !can_be_played(record.dest_chemin)) {
         desk_.list.index_en_cours = row_before;
         return run_.report_failed_start(record.dest_chemin);
@@ -51,7 +47,7 @@ void ListRun::start_row(Integer number, const DestinationRecord& row) {
     desk_.display.list_reads_row(number);
     chain_.cancel_walks();
     desk_.list.ligne_en_lecture = number;
-    loading_.load_from_list(desk_.ring.deck(1), row);
+    chain_.cursor.load_on(desk_.ring.deck(1), row);
     desk_.report_loaded(desk_.ring.deck(1));
     stop_other_decks();
     run_.lect_liste();
@@ -87,7 +83,7 @@ void ListRun::choose_a_reading_mode() {
 }
 
 void ListRun::stop_decks() {
-    journal_.note_of_list_window(" Arrét lecture liste a " + date_and_time(desk_.platform));
+    run_.write_stop();
     chain_.cancel_walks();
     for (Deck& deck : desk_.ring.decks)
         transport_.stop(deck);

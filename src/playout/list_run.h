@@ -1,11 +1,9 @@
 #pragma once
 
 #include "playlist/list_save_dialog.h"
-#include "playlist/record_reading.h"
 #include "playout/auto_chain.h"
 #include "playout/deck_transport.h"
 #include "playout/desk.h"
-#include "playout/journal.h"
 #include "playout/run_control.h"
 
 namespace sonarelle {
@@ -13,8 +11,8 @@ namespace sonarelle {
 /// The transport of the list window: what starts a run and what stops it all.
 class ListRun {
 public:
-    ListRun(Desk& desk, AutoChain& chain, DeckLoading& loading, DeckTransport& transport, Journal& journal,
-            RunControl& run, RecordReading& reading, ListSaveDialog& save_dialog, ListDocument& document);
+    ListRun(Desk& desk, AutoChain& chain, DeckTransport& transport, RunControl& run, ListSaveDialog& save_dialog,
+            ListDocument& document);
 
     /// Plays the list from the selected row, alone. One that can't be played leaves what is on the air.
     void play_list();
@@ -35,11 +33,8 @@ private:
 
     Desk& desk_;
     AutoChain& chain_;
-    DeckLoading& loading_;
     DeckTransport& transport_;
-    Journal& journal_;
     RunControl& run_;
-    RecordReading& reading_;
     ListSaveDialog& save_dialog_;
     ListDocument& document_;
 };

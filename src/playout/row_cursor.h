@@ -72,6 +72,8 @@ public:
 
     /// The current row's record for the deck that it goes on, with the path under which its file was found.
     [[nodiscard]] DestinationRecord read_row();
+    /// Any row's record, as the list has it.
+    [[nodiscard]] DestinationRecord record_of(Integer row) { return reading_.read_for_the_air(row); }
     LoadResult load_on(Deck& deck, const DestinationRecord& row) { return loading_.load_from_list(deck, row); }
     /// Whether the load step has put the current row on that deck already.
     [[nodiscard]] bool is_loaded(const Deck& deck) const;

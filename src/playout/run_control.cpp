@@ -67,6 +67,10 @@ void RunControl::write_start(const std::string& path) {
     journal_.note(time + " Lecture de " + path);
 }
 
+void RunControl::write_stop() {
+    journal_.note_of_list_window(" Arrét lecture liste a " + date_and_time(desk_.platform));
+}
+
 void RunControl::stoppe_liste(const std::string& reason) {
     for (Timer* timer : desk_.window.chain_timers())
         timer->set_enabled(timer == &desk_.window.overlap_timer && is_overlap_under_way());

@@ -30,6 +30,8 @@ public:
     void stoppe_liste(const std::string& reason);
     /// Ends the chain's walks over the rows.
     std::function<void()> end_walks;
+    /// Journals that the operator stops the list.
+    void write_stop();
     /// The soft stop, before a deck is loaded by hand from a quick load list.
     void stoppe_list();
 

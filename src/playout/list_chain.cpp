@@ -15,7 +15,8 @@ ListChain::ListChain(Desk& desk, RowCursor& cursor, LoadAhead& load_ahead, DeckS
       start_{start},
       overlap_{overlap},
       run_{run},
-      walk_{"mix_walk", desk.platform.scheduler} {}
+      walk_{"mix_walk", desk.platform.scheduler, desk.list_window.rows,
+            [&run](const auto& turn) { run.under_trap("T4", turn); }} {}
 
 void ListChain::tick() {
     if (!desk_.chain.chaine_suspendue.is_true() && !walk_.under_way())
@@ -82,9 +83,7 @@ void ListChain::walk_to_follow(Deck& deck, RowWalk::Step step) {
         const bool list_chain = desk_.window.list_chain_timer.enabled() || desk_.chain.mode_enchainement.is_true();
         return list_chain && desk_.ring.is_main(deck) && !deck.pause_lecteur.is_true();
     };
-    const auto trap = [this](const std::function<void()>& statement) { run_.under_trap("T4", statement); };
-    walk_.start(
-        std::move(step), [this] { return desk_.row_count(); }, wanted, trap);
+    walk_.start(std::move(step), wanted);
 }
 
 bool ListChain::try_to_follow(Deck& deck) {

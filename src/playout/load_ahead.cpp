@@ -41,7 +41,8 @@ LoadAhead::LoadAhead(Desk& desk, RowCursor& cursor, RunControl& run, Journal& jo
       cursor_{cursor},
       run_{run},
       journal_{journal},
-      walk_{"load_walk", desk.platform.scheduler} {}
+      walk_{"load_walk", desk.platform.scheduler, desk.list_window.rows,
+            [](const auto& turn) { ErrorIndicator{}.skip(turn); }} {}
 
 void LoadAhead::compteur() {
     Label& label = desk_.list_window.remaining;
@@ -82,11 +83,10 @@ void LoadAhead::look() {
     if (!is_due())
         return leave();
     desk_.notices.take_warning_back();
-    const auto trap = [](const std::function<void()>& statement) { ErrorIndicator{}.skip(statement); };
     const auto wanted = [this, main = chain.lecteur_en_cours] {
         return loads_ahead() && !waits_for_special_mix(desk_) && desk_.chain.lecteur_en_cours == main;
     };
-    walk_.start([this] { return try_to_load_next(); }, [this] { return desk_.row_count(); }, wanted, trap);
+    walk_.start([this] { return try_to_load_next(); }, wanted);
     leave();
 }
 

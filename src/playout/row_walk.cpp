@@ -11,18 +11,17 @@ constexpr int longest_turn = 400; // rows; their disk may have to say of each th
 
 } // namespace
 
-RowWalk::RowWalk(std::string name, Scheduler& scheduler)
-    : pause_{std::move(name), 0, scheduler} {
+RowWalk::RowWalk(std::string name, Scheduler& scheduler, const RowTable& rows, Trap trap)
+    : rows_{rows},
+      trap_{std::move(trap)},
+      pause_{std::move(name), 0, scheduler} {
     pause_.set_interval(100);
     pause_.on_tick = [this] { take_a_later_turn(); };
 }
 
-void RowWalk::start(Step step, std::function<int()> turn, Wanted wanted,
-                    std::function<void(const std::function<void()>&)> trap) {
+void RowWalk::start(Step step, Wanted wanted) {
     step_ = std::move(step);
-    turn_ = std::move(turn);
     wanted_ = std::move(wanted);
-    trap_ = std::move(trap);
     take_a_turn();
 }
 
@@ -51,7 +50,7 @@ void RowWalk::take_a_turn() {
 // The step is kept alive by the copy: what it starts may cancel the walk.
 void RowWalk::walk_round() {
     const Step step = step_;
-    const int rows = std::clamp(turn_(), 1, longest_turn);
+    const int rows = std::clamp(rows_.count(), 1, longest_turn);
     rests_ = false;
     for (int row = 0; row < rows && step_ && !rests_; ++row) {
         begins_turn_ = row == 0;

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/row_table.h"
 #include "platform/timer.h"
 
 namespace sonarelle {
@@ -11,17 +12,17 @@ namespace sonarelle {
 /// station go on and takes another turn 100 ms later: a row that is added meanwhile is found, and nothing is held up.
 class RowWalk {
 public:
-    RowWalk(std::string name, Scheduler& scheduler);
+    /// Runs a turn that comes later, and takes what it throws.
+    using Trap = std::function<void(const std::function<void()>& turn)>;
+
+    RowWalk(std::string name, Scheduler& scheduler, const RowTable& rows, Trap trap);
 
     /// Looks at the next row; true ends the walk, whatever it came to.
     using Step = std::function<bool()>;
-
-    /// Who still needs the row: no, and a later turn ends the walk.
+    /// Whether the row that is looked for is still needed, asked before each later turn.
     using Wanted = std::function<bool()>;
 
-    /// Walks on with `step`. `turn` says how many rows a full turn has.
-    void start(Step step, std::function<int()> turn, Wanted wanted,
-               std::function<void(const std::function<void()>&)> trap);
+    void start(Step step, Wanted wanted);
     [[nodiscard]] bool under_way() const { return static_cast<bool>(step_); }
     void cancel();
     /// Ends this turn; the next one begins 100 ms later with the next row.
@@ -34,13 +35,13 @@ private:
     void take_a_turn();
     void walk_round();
 
+    const RowTable& rows_;
+    Trap trap_;
     Timer pause_;
     bool rests_ = false;
     bool begins_turn_ = false;
     Step step_;
-    std::function<int()> turn_;
     Wanted wanted_;
-    std::function<void(const std::function<void()>&)> trap_;
 };
 
 } // namespace sonarelle

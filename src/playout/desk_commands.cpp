@@ -27,7 +27,7 @@ bool DeskCommands::start(std::string_view program) {
     return ErrorIndicator{}.skip([&] { platform_.shell.start_program(program, {}); });
 }
 
-void DeskCommands::A_lecteur_CD_Win_Click() {
+void DeskCommands::start_cd_player() {
     if (start(cd_player))
         return;
     show_box(platform_.dialogs,
@@ -37,12 +37,12 @@ void DeskCommands::A_lecteur_CD_Win_Click() {
     static_cast<void>(start(media_player));
 }
 
-void DeskCommands::a_vol_Click() {
+void DeskCommands::open_volume_control() {
     if (!start(volume_control))
         show_box(platform_.dialogs, "sndvol32.exe est introuvable", Icon::information);
 }
 
-void DeskCommands::aideprog_Click() {
+void DeskCommands::open_help() {
     if (!start(settings_.chemin_programme + std::string{help_program}))
         show_box(platform_.dialogs, "L'aide est introuvable", Icon::information);
 }
@@ -51,14 +51,14 @@ void DeskCommands::move_cd_door(bool open) {
     ErrorIndicator{}.skip([&] { platform_.shell.set_cd_door(open); });
 }
 
-void DeskCommands::A_glisser_déplacer_Click() {
+void DeskCommands::toggle_dragging() {
     const bool allowed = !list_.glisser_autorise.is_true();
     list_.glisser_autorise = allowed;
     window_.A_glisser_déplacer.caption = allowed ? "Autoriser sur la liste, le glisser / déplacer"
                                                  : "Ne pas autoriser sur la liste, le glisser / déplacer";
 }
 
-void DeskCommands::Supprimer_recherche_Click() {
+void DeskCommands::forget_search_words() {
     const bool deleted = ErrorIndicator{}.skip([this] {
         enter_program_folder(platform_);
         platform_.disk.Kill(search_words);

@@ -17,24 +17,24 @@ public:
           list_{list},
           window_{window} {}
 
-    void A_lecteur_CD_Win_Click();
-    void a_vol_Click();
-    void aideprog_Click();
-    void A_Ouvrir_CD_Click() { move_cd_door(true); }
-    void A_fermer_CD_Click() { move_cd_door(false); }
+    void start_cd_player();
+    void open_volume_control();
+    void open_help();
+    void open_cd_door() { move_cd_door(true); }
+    void close_cd_door() { move_cd_door(false); }
 
-    void A_glisser_déplacer_Click();
-    void Supprimer_recherche_Click();
+    void toggle_dragging();
+    void forget_search_words();
 
-    void A_visuel_active_Click() { set_effect(true); }
-    void A_visuel_desactive_Click() { set_effect(false); }
-    void A_affichage1_Click() { choose_sound_picture(SoundPicture::oscilloscope); }
-    void A_affichage2_Click() { choose_sound_picture(SoundPicture::spectrum); }
+    void switch_effect_on() { set_effect(true); }
+    void switch_effect_off() { set_effect(false); }
+    void show_oscilloscope() { choose_sound_picture(SoundPicture::oscilloscope); }
+    void show_spectrum() { choose_sound_picture(SoundPicture::spectrum); }
     /// Shows the effect, or not, without storing it.
     void show_effect(bool on);
 
-    void aa_montrer_curseur_Click() { set_sliders(true); }
-    void aa_cacher_curseur_Click() { set_sliders(false); }
+    void show_sliders() { set_sliders(true); }
+    void hide_sliders() { set_sliders(false); }
 
 private:
     [[nodiscard]] bool start(std::string_view program);

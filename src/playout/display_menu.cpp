@@ -22,14 +22,14 @@ void DisplayMenu::show_main_window(WindowState state) {
     window_.show();
 }
 
-void DisplayMenu::Affiche_barre_Click() {
+void DisplayMenu::show_as_bar() {
     choose_view(window_.Affiche_barre);
     list_.hide();
     small_player_.hide();
     show_main_window(WindowState::minimised);
 }
 
-void DisplayMenu::Affiche_Fenetre_L_Click() {
+void DisplayMenu::show_list_alone() {
     choose_view(window_.Affiche_Fenetre_L);
     window_.Aligner_liste.enabled = true;
     list_.state = WindowState::normal;
@@ -37,7 +37,7 @@ void DisplayMenu::Affiche_Fenetre_L_Click() {
     show_main_window(WindowState::minimised);
 }
 
-void DisplayMenu::Affiche_Fenetre_P_Click() {
+void DisplayMenu::show_main_window_alone() {
     choose_view(window_.Affiche_Fenetre_P);
     window_.Aligner_liste.enabled = false;
     show_main_window(WindowState::normal);
@@ -53,7 +53,7 @@ void DisplayMenu::affiche_tout_Click() {
     list_.show();
 }
 
-void DisplayMenu::affiche_toujour_Click() {
+void DisplayMenu::keep_on_top() {
     choose_view(window_.affiche_toujour);
     window_.show();
 }
@@ -68,12 +68,12 @@ Twips DisplayMenu::room_beside() const {
     return platform_.screen().width - window_.width.get();
 }
 
-void DisplayMenu::A_centre_lecteur_Click() {
+void DisplayMenu::centre() {
     const Twips room_below = platform_.screen().height - window_.height.get();
     place(Twips{room_beside().count() / 2}, Twips{room_below.count() / 2});
 }
 
-void DisplayMenu::A_centre_lecteur_haut_Click() {
+void DisplayMenu::centre_at_top() {
     place(Twips{room_beside().count() / 2}, Twips{});
 }
 
@@ -93,12 +93,12 @@ void DisplayMenu::change_corner() {
     cote_haut_ = !cote_haut_;
 }
 
-void DisplayMenu::Aligner_liste_Click() {
+void DisplayMenu::align_list() {
     list_follows_ = true;
     place_list_below(window_.left, window_.width);
 }
 
-void DisplayMenu::liste_pleine_largeur_Click() {
+void DisplayMenu::widen_list() {
     list_follows_ = false;
     const ScreenArea screen = platform_.screen();
     place_list_below(screen.left, screen.width);
@@ -135,7 +135,7 @@ void DisplayMenu::a_mini_Click() {
     small_player_.show();
 }
 
-void DisplayMenu::ouvrir_liste_Click() {
+void DisplayMenu::open_list_window() {
     list_.state = WindowState::normal;
     list_.show();
 }

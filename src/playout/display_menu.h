@@ -21,22 +21,22 @@ public:
           small_player_{small_player},
           warning_{warning} {}
 
-    void Affiche_barre_Click();
-    void Affiche_Fenetre_L_Click();
-    void Affiche_Fenetre_P_Click();
+    void show_as_bar();
+    void show_list_alone();
+    void show_main_window_alone();
     void affiche_tout_Click();
-    void affiche_toujour_Click();
+    void keep_on_top();
 
-    void A_centre_lecteur_Click();
-    void A_centre_lecteur_haut_Click();
+    void centre();
+    void centre_at_top();
     void a_droite_haut_Click();
     void a_gauche_haut_Click();
     /// The key "²": one upper corner, then the other.
     void change_corner();
 
     /// Below the main window: as wide as it, or as wide as the screen.
-    void Aligner_liste_Click();
-    void liste_pleine_largeur_Click();
+    void align_list();
+    void widen_list();
     /// The main window has moved: the list goes with it, below it and as wide, unless it has the screen's width.
     void Aligne_liste_son();
     /// The list has come to the front: where it would hide the main window, it goes below it.
@@ -44,7 +44,7 @@ public:
 
     /// The small player takes the main window's place.
     void a_mini_Click();
-    void ouvrir_liste_Click();
+    void open_list_window();
 
     /// The menu bar hidden and shown again, with the labels that stand for it.
     void hide_menus();

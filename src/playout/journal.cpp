@@ -48,15 +48,15 @@ void Journal::note_of_list_window(const std::string& line) {
         show_box(platform_.dialogs, std::string{fault}, Icon::stop);
 }
 
-void Journal::Active_journal1_Click() {
+void Journal::keep_for_this_run() {
     choose(window_.Active_journal1, true);
 }
 
-void Journal::Active_journal_Click() {
+void Journal::keep_on() {
     choose(window_.Active_journal, true);
 }
 
-void Journal::A_desacive_J_Click() {
+void Journal::switch_off() {
     choose(window_.A_desacive_J, false);
 }
 
@@ -80,12 +80,12 @@ void Journal::close() {
         static_cast<void>(discard());
 }
 
-void Journal::A_purger_journal_Click() {
+void Journal::purge() {
     if (discard())
         notices_.inform("Ok journal supprimé");
 }
 
-void Journal::A_ouvre_journal_Click() {
+void Journal::open_in_editor() {
     ErrorIndicator{}.skip([this] {
         enter_program_folder(platform_);
         platform_.shell.start_program("Write", platform_.disk.absolute(journal_file));

@@ -38,11 +38,11 @@ public:
     /// Called with each line that `note` writes.
     std::function<void(const std::string&)> on_line;
 
-    void Active_journal1_Click();
-    void Active_journal_Click();
-    void A_desacive_J_Click();
-    void A_purger_journal_Click();
-    void A_ouvre_journal_Click();
+    void keep_for_this_run();
+    void keep_on();
+    void switch_off();
+    void purge();
+    void open_in_editor();
 
 private:
     void choose(const MenuItem& entry, bool active);

@@ -33,7 +33,7 @@ const PathEditor& editor_of(StationPath which) {
 
 } // namespace
 
-void OptionMenu::nom_radio_Click() {
+void OptionMenu::ask_station_name() {
     std::string& name = settings_.nom_radio;
     const std::string preset = name.empty() ? std::string{nameless} : name;
     const auto entered = platform_.dialogs.InputBox({" Nom de votre Radio ", "Saisie d'un nouveau nom", preset});
@@ -54,7 +54,7 @@ void OptionMenu::show_station_name() {
 }
 
 void OptionMenu::define(StationPath which) {
-    display_.Affiche_Fenetre_P_Click();
+    display_.show_main_window_alone();
     if (open_chooser)
         return open_chooser(which);
     const PathEditor& editor = editor_of(which);
@@ -74,7 +74,7 @@ void OptionMenu::store_path(StationPath which, const std::string& path) {
     remember(platform_, editor.key, trimmed);
 }
 
-void OptionMenu::Modifie_banniere_Click() {
+void OptionMenu::choose_banner() {
     const ChosenFile chosen = platform_.dialogs.open_file(
         {"Ouvrir une nouvelle banniere", settings_.chemin_programme, "", " fichier (*.swf)|*.swf"});
     if (chosen.cancelled || chosen.file_name.empty())

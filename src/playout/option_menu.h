@@ -24,14 +24,14 @@ public:
           display_{display},
           quick_load_{quick_load} {}
 
-    void nom_radio_Click();
-    void A_def_jingles_Click() { define(StationPath::jingles); }
-    void A_def_musique_Click() { define(StationPath::music); }
-    void a_editeur_audio_Click() { define(StationPath::audio_editor); }
+    void ask_station_name();
+    void define_jingle_folder() { define(StationPath::jingles); }
+    void define_music_folder() { define(StationPath::music); }
+    void define_audio_editor() { define(StationPath::audio_editor); }
     /// Takes a path that was chosen, shows it on its entry and stores it. Nothing for an empty one.
     void store_path(StationPath which, const std::string& path);
 
-    void Modifie_banniere_Click();
+    void choose_banner();
     void A_Rafraichir_Click();
 
     /// Opens a window in which the operator chooses a path, which then calls `store_path`. Without one an input box

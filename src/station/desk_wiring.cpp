@@ -48,19 +48,19 @@ DeskWiring::DeskWiring(Station& station)
 void DeskWiring::connect_display_menu() {
     Antenne_FM& window = station_.main_window;
     display_menu.active_text_combo = [this] { quick_load.active_text_combo(); };
-    window.Affiche_barre.on_click = [this] { display_menu.Affiche_barre_Click(); };
-    window.Affiche_Fenetre_L.on_click = [this] { display_menu.Affiche_Fenetre_L_Click(); };
-    window.Affiche_Fenetre_P.on_click = [this] { display_menu.Affiche_Fenetre_P_Click(); };
+    window.Affiche_barre.on_click = [this] { display_menu.show_as_bar(); };
+    window.Affiche_Fenetre_L.on_click = [this] { display_menu.show_list_alone(); };
+    window.Affiche_Fenetre_P.on_click = [this] { display_menu.show_main_window_alone(); };
     window.affiche_tout.on_click = [this] { display_menu.affiche_tout_Click(); };
-    window.affiche_toujour.on_click = [this] { display_menu.affiche_toujour_Click(); };
-    window.A_centre_lecteur.on_click = [this] { display_menu.A_centre_lecteur_Click(); };
-    window.A_centre_lecteur_haut.on_click = [this] { display_menu.A_centre_lecteur_haut_Click(); };
+    window.affiche_toujour.on_click = [this] { display_menu.keep_on_top(); };
+    window.A_centre_lecteur.on_click = [this] { display_menu.centre(); };
+    window.A_centre_lecteur_haut.on_click = [this] { display_menu.centre_at_top(); };
     window.a_droite_haut.on_click = [this] { display_menu.a_droite_haut_Click(); };
     window.a_gauche_haut.on_click = [this] { display_menu.a_gauche_haut_Click(); };
-    window.Aligner_liste.on_click = [this] { display_menu.Aligner_liste_Click(); };
-    window.liste_pleine_largeur.on_click = [this] { display_menu.liste_pleine_largeur_Click(); };
+    window.Aligner_liste.on_click = [this] { display_menu.align_list(); };
+    window.liste_pleine_largeur.on_click = [this] { display_menu.widen_list(); };
     window.a_mini.on_click = [this] { display_menu.a_mini_Click(); };
-    window.ouvrir_liste.on_click = [this] { display_menu.ouvrir_liste_Click(); };
+    window.ouvrir_liste.on_click = [this] { display_menu.open_list_window(); };
     window.ouvre_L.on_click = [this] {
         display_menu.affiche_tout_Click();
         station_.main_window.mix_list.set_value(true);
@@ -72,30 +72,30 @@ void DeskWiring::connect_display_menu() {
 
 void DeskWiring::connect_desk_commands() {
     Antenne_FM& window = station_.main_window;
-    window.A_lecteur_CD_Win.on_click = [this] { desk_commands.A_lecteur_CD_Win_Click(); };
-    window.a_vol.on_click = [this] { desk_commands.a_vol_Click(); };
-    window.A_Ouvrir_CD.on_click = [this] { desk_commands.A_Ouvrir_CD_Click(); };
-    window.A_fermer_CD.on_click = [this] { desk_commands.A_fermer_CD_Click(); };
-    window.A_glisser_déplacer.on_click = [this] { desk_commands.A_glisser_déplacer_Click(); };
-    window.Supprimer_recherche.on_click = [this] { desk_commands.Supprimer_recherche_Click(); };
-    window.A_visuel_active.on_click = [this] { desk_commands.A_visuel_active_Click(); };
-    window.A_visuel_desactive.on_click = [this] { desk_commands.A_visuel_desactive_Click(); };
-    window.A_affichage1.on_click = [this] { desk_commands.A_affichage1_Click(); };
-    window.A_affichage2.on_click = [this] { desk_commands.A_affichage2_Click(); };
-    window.aa_montrer_curseur.on_click = [this] { desk_commands.aa_montrer_curseur_Click(); };
-    window.aa_cacher_curseur.on_click = [this] { desk_commands.aa_cacher_curseur_Click(); };
-    window.aideprog.on_click = [this] { desk_commands.aideprog_Click(); };
+    window.A_lecteur_CD_Win.on_click = [this] { desk_commands.start_cd_player(); };
+    window.a_vol.on_click = [this] { desk_commands.open_volume_control(); };
+    window.A_Ouvrir_CD.on_click = [this] { desk_commands.open_cd_door(); };
+    window.A_fermer_CD.on_click = [this] { desk_commands.close_cd_door(); };
+    window.A_glisser_déplacer.on_click = [this] { desk_commands.toggle_dragging(); };
+    window.Supprimer_recherche.on_click = [this] { desk_commands.forget_search_words(); };
+    window.A_visuel_active.on_click = [this] { desk_commands.switch_effect_on(); };
+    window.A_visuel_desactive.on_click = [this] { desk_commands.switch_effect_off(); };
+    window.A_affichage1.on_click = [this] { desk_commands.show_oscilloscope(); };
+    window.A_affichage2.on_click = [this] { desk_commands.show_spectrum(); };
+    window.aa_montrer_curseur.on_click = [this] { desk_commands.show_sliders(); };
+    window.aa_cacher_curseur.on_click = [this] { desk_commands.hide_sliders(); };
+    window.aideprog.on_click = [this] { desk_commands.open_help(); };
     window.show_about.on_click = [this] { about.show_about(); };
     window.show_update_info.on_click = [this] { about.show_update_info(); };
 }
 
 void DeskWiring::connect_option_menu() {
     Antenne_FM& window = station_.main_window;
-    window.nom_radio.on_click = [this] { option_menu.nom_radio_Click(); };
-    window.A_def_jingles.on_click = [this] { option_menu.A_def_jingles_Click(); };
-    window.A_def_musique.on_click = [this] { option_menu.A_def_musique_Click(); };
-    window.a_editeur_audio.on_click = [this] { option_menu.a_editeur_audio_Click(); };
-    window.Modifie_banniere.on_click = [this] { option_menu.Modifie_banniere_Click(); };
+    window.nom_radio.on_click = [this] { option_menu.ask_station_name(); };
+    window.A_def_jingles.on_click = [this] { option_menu.define_jingle_folder(); };
+    window.A_def_musique.on_click = [this] { option_menu.define_music_folder(); };
+    window.a_editeur_audio.on_click = [this] { option_menu.define_audio_editor(); };
+    window.Modifie_banniere.on_click = [this] { option_menu.choose_banner(); };
     window.A_Rafraichir.on_click = [this] { option_menu.A_Rafraichir_Click(); };
 }
 

@@ -142,11 +142,11 @@ void Station::connect_chain_choices() {
 
 void Station::connect_menus() {
     main_window.A_purger_registre.on_click = [this] { settings_rewrite.A_purger_registre_Click(); };
-    main_window.Active_journal1.on_click = [this] { journal.Active_journal1_Click(); };
-    main_window.Active_journal.on_click = [this] { journal.Active_journal_Click(); };
-    main_window.A_desacive_J.on_click = [this] { journal.A_desacive_J_Click(); };
-    main_window.A_purger_journal.on_click = [this] { journal.A_purger_journal_Click(); };
-    main_window.A_ouvre_journal.on_click = [this] { journal.A_ouvre_journal_Click(); };
+    main_window.Active_journal1.on_click = [this] { journal.keep_for_this_run(); };
+    main_window.Active_journal.on_click = [this] { journal.keep_on(); };
+    main_window.A_desacive_J.on_click = [this] { journal.switch_off(); };
+    main_window.A_purger_journal.on_click = [this] { journal.purge(); };
+    main_window.A_ouvre_journal.on_click = [this] { journal.open_in_editor(); };
 }
 
 // Two entries of the main deck are greyed whenever the menu opens; without a main deck they stay as they are.

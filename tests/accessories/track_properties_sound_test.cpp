@@ -2,7 +2,7 @@
 
 #include "audio/sound_fixture.h"
 #include "platform/random.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
@@ -27,7 +27,7 @@ struct SoundingStation {
     std::string wav = sound.folder.counting_wav("titre.wav", 30);
     SimulatedDisk disk{sound.time};
     SimulatedSettings settings;
-    SimulatedDialogs dialogs{sound.time};
+    ScriptedDialogs dialogs{sound.time};
     SimulatedShell shell;
     Random random{1};
     Platform platform{sound.time,  sound.scheduler, disk,  settings,       dialogs,

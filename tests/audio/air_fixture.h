@@ -10,7 +10,7 @@
 #include "platform/media.h"
 #include "platform/random.h"
 #include "platform/scheduler.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
@@ -64,7 +64,7 @@ public:
 
     SimulatedDisk disk;
     SimulatedSettings settings;
-    SimulatedDialogs dialogs;
+    ScriptedDialogs dialogs;
     SimulatedShell shell;
     Random random{1};
     std::vector<std::pair<Frames, OnAirEvent>> events;

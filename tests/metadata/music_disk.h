@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/scheduler.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/virtual_time.h"
 
@@ -22,7 +22,7 @@ struct MusicDisk {
     Scheduler scheduler;
     VirtualTime clock{scheduler};
     SimulatedDisk disk{clock};
-    SimulatedDialogs dialogs{clock};
+    ScriptedDialogs dialogs{clock};
 };
 
 /// Bytes of a size that nothing takes for a tag or a frame.

@@ -80,7 +80,7 @@ private:
     void say(const std::string& detail) { detail_ = detail; }
     [[nodiscard]] Antenne_FM& window() { return world_.station.main_window; }
     [[nodiscard]] Liste_son& list() { return world_.station.list_window; }
-    [[nodiscard]] SimulatedDialogs& dialogs() { return world_.machine.dialogs; }
+    [[nodiscard]] ScriptedDialogs& dialogs() { return world_.machine.dialogs; }
 
     SoakWorld& world_;
     SoakOracle& oracle_;

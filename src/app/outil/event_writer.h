@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/units.h"
 #include "playout/on_air_event.h"
 

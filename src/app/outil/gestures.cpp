@@ -8,14 +8,14 @@
 #include "platform/failure.h"
 #include "platform/host/machine_paths.h"
 #include "platform/numbers.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/text.h"
 
 namespace sonarelle {
 
 namespace {
 
-using Act = std::function<void(Station&, SimulatedDialogs&)>;
+using Act = std::function<void(Station&, ScriptedDialogs&)>;
 
 /// A gesture on a deck's own button.
 struct DeckGesture {
@@ -70,7 +70,7 @@ Act act_on_deck(std::string_view gesture, Line& line) {
     for (const DeckGesture& known : deck_gestures)
         if (known.word == gesture) {
             const int deck = line.deck();
-            return [deck, button = known.button](Station& station, SimulatedDialogs&) {
+            return [deck, button = known.button](Station& station, ScriptedDialogs&) {
                 (station.main_window.deck(deck).*button).click();
             };
         }
@@ -85,18 +85,18 @@ std::string station_file(const std::string& file, const DriveTable& drives) {
 Act act_of(Line& line, const DriveTable& drives) {
     const std::string gesture = line.word();
     if (gesture == "zap" && line.is_over())
-        return [](Station& station, SimulatedDialogs&) { station.main_window.key_press(U'z'); };
+        return [](Station& station, ScriptedDialogs&) { station.main_window.key_press(U'z'); };
     if (gesture == "volume") {
         const int deck = line.deck();
         const int value = line.number();
-        return [deck, value](Station& station, SimulatedDialogs&) {
+        return [deck, value](Station& station, ScriptedDialogs&) {
             station.main_window.deck(deck).slider.set_value(value);
         };
     }
     if (gesture == "charge") {
         const int deck = line.deck();
         const std::string file = station_file(line.rest(), drives);
-        return [deck, file](Station& station, SimulatedDialogs& dialogs) {
+        return [deck, file](Station& station, ScriptedDialogs& dialogs) {
             GraphicButton& open = station.main_window.deck(deck).open;
             if (!open.is_reachable())
                 return; // no dialog comes, and the file must not wait for the next one
@@ -106,14 +106,14 @@ Act act_of(Line& line, const DriveTable& drives) {
     }
     if (gesture == "touche") {
         const std::string key = line.rest();
-        return [key](Station& station, SimulatedDialogs&) {
+        return [key](Station& station, ScriptedDialogs&) {
             std::string_view text = key;
             station.main_window.key_press(take_character(text));
         };
     }
     if (gesture == "repond") {
         const std::string words = line.rest();
-        return [words](Station&, SimulatedDialogs& dialogs) { dialogs.expect_words(words); };
+        return [words](Station&, ScriptedDialogs& dialogs) { dialogs.expect_words(words); };
     }
     return act_on_deck(gesture, line);
 }

@@ -11,12 +11,12 @@
 namespace sonarelle {
 
 class DriveTable;
-class SimulatedDialogs;
+class ScriptedDialogs;
 
 /// What the operator's hands do at a time of the rehearsal.
 struct Gesture {
     Frames at;
-    std::function<void(Station&, SimulatedDialogs&)> act;
+    std::function<void(Station&, ScriptedDialogs&)> act;
 };
 
 /// Reads lines of `SECONDES GESTE`; empty lines and those that begin with # are left out.

@@ -19,7 +19,7 @@
 #include "platform/failure.h"
 #include "platform/host/host_settings.h"
 #include "platform/host/machine_paths.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/timer.h"
 
 namespace sonarelle {
@@ -171,7 +171,7 @@ private:
     EventWriter events_{[this](std::string line) { return lines_.write(std::move(line)); }};
     SilenceWatch silence_;
     TapReader heard_{machine_.bus().taps()}; // from the bus's first frame on
-    SimulatedDialogs dialogs_{machine_.clock()};
+    ScriptedDialogs dialogs_{machine_.clock()};
     std::unique_ptr<Station> station_;
     std::unique_ptr<DeckWatch> watch_;
     Timer look_{"look", 0, machine_.scheduler()};

@@ -6,7 +6,7 @@
 
 #include "platform/failure.h"
 #include "platform/paths.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/text.h"
 #include "playlist/list_rows.h"
 
@@ -77,7 +77,7 @@ Programme programme_of(const Arguments& arguments) {
     return programme;
 }
 
-void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list) {
+void open_programme(Station& station, ScriptedDialogs& dialogs, const Programme& programme, const std::string& list) {
     dialogs.expect_open(list);
     station.list_window.A_liste.click();
     if (station.list_window.rows.count() == 0)

@@ -14,7 +14,7 @@
 
 namespace sonarelle {
 
-class SimulatedDialogs;
+class ScriptedDialogs;
 
 enum class ReadingMode { list, full_length, decks };
 
@@ -39,7 +39,7 @@ inline constexpr Option seed_option{"--graine", true};
 
 /// Opens the programme's list, which the station finds at this path of its own, as the operator does.
 /// @throws Failure for a list without rows.
-void open_programme(Station& station, SimulatedDialogs& dialogs, const Programme& programme, const std::string& list);
+void open_programme(Station& station, ScriptedDialogs& dialogs, const Programme& programme, const std::string& list);
 
 /// Chooses the reading mode and presses play.
 void start_programme(Station& station, const Programme& programme);

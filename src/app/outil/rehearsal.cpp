@@ -21,7 +21,7 @@
 #include "platform/failure.h"
 #include "platform/host/host_disk.h"
 #include "platform/random.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
 #include "platform/simulated/virtual_time.h"
@@ -172,7 +172,7 @@ private:
     VirtualTime time_{scheduler_};
     HostDisk disk_;
     SimulatedSettings settings_;
-    SimulatedDialogs dialogs_{time_};
+    ScriptedDialogs dialogs_{time_};
     SimulatedShell shell_;
     Random random_{rehearsal_.programme.seed};
     EventWriter events_{[this](const std::string& line) { return write(line); }};

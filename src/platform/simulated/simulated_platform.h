@@ -7,7 +7,7 @@
 #include "platform/platform.h"
 #include "platform/random.h"
 #include "platform/scheduler.h"
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_media.h"
 #include "platform/simulated/simulated_settings.h"
@@ -31,7 +31,7 @@ struct SimulatedPlatform {
     VirtualTime time{scheduler};
     SimulatedDisk disk{time};
     SimulatedSettings settings;
-    SimulatedDialogs dialogs{time};
+    ScriptedDialogs dialogs{time};
     SimulatedMedia media{time, disk};
     Random random;
     SimulatedShell shell;

@@ -1,4 +1,4 @@
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 
 #include <algorithm>
 #include <array>
@@ -100,7 +100,7 @@ void answer_in_words(Question& question, const std::string& words) {
 
 } // namespace
 
-Answer SimulatedDialogs::MsgBox(const MessageBox& box) {
+Answer ScriptedDialogs::MsgBox(const MessageBox& box) {
     Question question = question_of(QuestionKind::box, box.title, box.text);
     question.buttons = box.buttons;
     question.icon = box.icon;
@@ -108,22 +108,22 @@ Answer SimulatedDialogs::MsgBox(const MessageBox& box) {
     return ask(std::move(question)).button;
 }
 
-std::optional<std::string> SimulatedDialogs::InputBox(const sonarelle::InputBox& box) {
+std::optional<std::string> ScriptedDialogs::InputBox(const sonarelle::InputBox& box) {
     Question question = question_of(QuestionKind::input, box.title, box.prompt);
     question.preset = box.preset;
     Question answered = ask(std::move(question));
     return answered.cancelled ? std::nullopt : std::optional{std::move(answered.entered)};
 }
 
-ChosenFile SimulatedDialogs::open_file(const FileDialog& dialog) {
+ChosenFile ScriptedDialogs::open_file(const FileDialog& dialog) {
     return choose_file(QuestionKind::open_file, dialog);
 }
 
-ChosenFile SimulatedDialogs::save_file(const FileDialog& dialog) {
+ChosenFile ScriptedDialogs::save_file(const FileDialog& dialog) {
     return choose_file(QuestionKind::save_file, dialog);
 }
 
-ChosenFile SimulatedDialogs::choose_file(QuestionKind kind, const FileDialog& dialog) {
+ChosenFile ScriptedDialogs::choose_file(QuestionKind kind, const FileDialog& dialog) {
     Question question = question_of(kind, dialog.title, dialog.file_name);
     question.folder = dialog.folder;
     question.filter = dialog.filter;
@@ -131,16 +131,16 @@ ChosenFile SimulatedDialogs::choose_file(QuestionKind kind, const FileDialog& di
     return {answered.cancelled, answered.cancelled ? dialog.file_name : answered.entered};
 }
 
-std::optional<std::int32_t> SimulatedDialogs::choose_colour(std::int32_t preset) {
+std::optional<std::int32_t> ScriptedDialogs::choose_colour(std::int32_t preset) {
     const Question answered = ask(question_of(QuestionKind::colour, {}, std::to_string(preset)));
     return answered.cancelled ? std::nullopt : std::optional{answered.colour};
 }
 
-std::optional<Font> SimulatedDialogs::choose_font(const Font& preset) {
+std::optional<Font> ScriptedDialogs::choose_font(const Font& preset) {
     return ask(question_of(QuestionKind::font, {}, preset.family)).font;
 }
 
-void SimulatedDialogs::show_modal(Window& window) {
+void ScriptedDialogs::show_modal(Window& window) {
     const Question question = question_of(QuestionKind::window, window.name(), window.caption);
     const ShownWindow shown_window{window};
     const Question answered = ask(question);
@@ -148,7 +148,7 @@ void SimulatedDialogs::show_modal(Window& window) {
         answered.hands();
 }
 
-void SimulatedDialogs::expect_box(std::string_view part, Answer answer, Frames delay) {
+void ScriptedDialogs::expect_box(std::string_view part, Answer answer, Frames delay) {
     script_.push_back({"MsgBox \"" + std::string{part} + "\"",
                        [wanted = std::string{part}](const Question& question) {
                            return question.kind == QuestionKind::box &&
@@ -158,35 +158,35 @@ void SimulatedDialogs::expect_box(std::string_view part, Answer answer, Frames d
                        [answer](Question& question) { press(question, answer); }, delay});
 }
 
-void SimulatedDialogs::expect_input(std::string_view entered, Frames delay) {
+void ScriptedDialogs::expect_input(std::string_view entered, Frames delay) {
     const std::string text{entered};
     expect(
         QuestionKind::input, "InputBox", [text](Question& question) { question.entered = text; }, delay);
 }
 
-void SimulatedDialogs::expect_open(std::string_view file, Frames delay) {
+void ScriptedDialogs::expect_open(std::string_view file, Frames delay) {
     const std::string name{file};
     expect(
         QuestionKind::open_file, "open_file", [name](Question& question) { question.entered = name; }, delay);
 }
 
-void SimulatedDialogs::expect_save(std::string_view file, Frames delay) {
+void ScriptedDialogs::expect_save(std::string_view file, Frames delay) {
     const std::string name{file};
     expect(
         QuestionKind::save_file, "save_file", [name](Question& question) { question.entered = name; }, delay);
 }
 
-void SimulatedDialogs::expect_colour(std::int32_t colour, Frames delay) {
+void ScriptedDialogs::expect_colour(std::int32_t colour, Frames delay) {
     expect(
         QuestionKind::colour, "colour", [colour](Question& question) { question.colour = colour; }, delay);
 }
 
-void SimulatedDialogs::expect_font(const Font& font, Frames delay) {
+void ScriptedDialogs::expect_font(const Font& font, Frames delay) {
     expect(
         QuestionKind::font, "font", [font](Question& question) { question.font = font; }, delay);
 }
 
-void SimulatedDialogs::expect_window(std::string_view name, std::function<void()> hands, Frames delay) {
+void ScriptedDialogs::expect_window(std::string_view name, std::function<void()> hands, Frames delay) {
     script_.push_back({"window " + std::string{name},
                        [wanted = std::string{name}](const Question& question) {
                            return question.kind == QuestionKind::window && question.title == wanted;
@@ -194,36 +194,36 @@ void SimulatedDialogs::expect_window(std::string_view name, std::function<void()
                        [hands = std::move(hands)](Question& question) { question.hands = hands; }, delay});
 }
 
-void SimulatedDialogs::expect_cancel(Frames delay) {
+void ScriptedDialogs::expect_cancel(Frames delay) {
     script_.push_back({"cancel", [](const Question&) { return true; }, cancel, delay});
 }
 
-void SimulatedDialogs::expect_words(std::string_view words, Frames delay) {
+void ScriptedDialogs::expect_words(std::string_view words, Frames delay) {
     const std::string text{words};
     script_.push_back({"\"" + text + "\"", [](const Question&) { return true; },
                        [text](Question& question) { answer_in_words(question, text); }, delay});
 }
 
-void SimulatedDialogs::expect(QuestionKind kind, std::string description, Answering answer, Frames delay) {
+void ScriptedDialogs::expect(QuestionKind kind, std::string description, Answering answer, Frames delay) {
     script_.push_back({std::move(description), [kind](const Question& question) { return question.kind == kind; },
                        std::move(answer), delay});
 }
 
-std::vector<std::string> SimulatedDialogs::complaints() const {
+std::vector<std::string> ScriptedDialogs::complaints() const {
     std::vector<std::string> all = unexpected_;
     for (const Expectation& expectation : script_)
         all.push_back("never asked: " + expectation.description);
     return all;
 }
 
-void SimulatedDialogs::forget() {
+void ScriptedDialogs::forget() {
     script_.clear();
     asked_.clear();
     unexpected_.clear();
 }
 
 // A box that another timer opens while this one waits takes the next part of the script.
-Question SimulatedDialogs::ask(Question question) {
+Question ScriptedDialogs::ask(Question question) {
     question.asked_at = clock_.now();
     const Expectation expectation = next_for(question);
     try {
@@ -243,7 +243,7 @@ Question SimulatedDialogs::ask(Question question) {
     return question;
 }
 
-SimulatedDialogs::Expectation SimulatedDialogs::next_for(const Question& question) {
+ScriptedDialogs::Expectation ScriptedDialogs::next_for(const Question& question) {
     const bool is_foreseen = !script_.empty() && script_.front().fits(question);
     if (!is_foreseen && answers_by_default_)
         return {{}, {}, answer_by_default, {}};
@@ -254,7 +254,7 @@ SimulatedDialogs::Expectation SimulatedDialogs::next_for(const Question& questio
     return next;
 }
 
-void SimulatedDialogs::complain(const Question& question) {
+void ScriptedDialogs::complain(const Question& question) {
     std::string text = "unexpected: " + shown(question);
     if (!script_.empty())
         text += " (the script has " + script_.front().description + ")";

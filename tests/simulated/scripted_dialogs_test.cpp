@@ -1,4 +1,4 @@
-#include "platform/simulated/simulated_dialogs.h"
+#include "platform/simulated/scripted_dialogs.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ class Script : public testing::Test {
 protected:
     Scheduler scheduler;
     VirtualTime time{scheduler};
-    SimulatedDialogs dialogs{time};
+    ScriptedDialogs dialogs{time};
 };
 
 using ScriptedBox = Script;

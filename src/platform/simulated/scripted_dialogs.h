@@ -46,9 +46,9 @@ struct Question {
 
 /// Boxes that are answered by a script, in the order of asking. A question that the script doesn't foresee throws
 /// UnexpectedQuestion and is remembered; so is a part of the script that was never asked for.
-class SimulatedDialogs : public Dialogs {
+class ScriptedDialogs : public Dialogs {
 public:
-    explicit SimulatedDialogs(Clock& clock)
+    explicit ScriptedDialogs(Clock& clock)
         : clock_{clock} {}
 
     Answer MsgBox(const MessageBox& box) override;

@@ -33,7 +33,7 @@ void ChainModes::choose_deck_chain() {
 void ChainModes::choose_list_chain() {
     enter(running_mode::of_list);
     mix_.choose_list_fade();
-    desk_.window.Active_audio.enabled = true;
+    desk_.display.list_fade_offered(true);
     desk_.window.overlap.set_text(text_of(desk_.settings.mix_courant));
     desk_.display.list_has_no_mix_point();
 }
@@ -57,10 +57,10 @@ void ChainModes::enter(const RunningMode& mode) {
     if (mode.list_entry)
         desk_.list_window.A_a_zapping.checked = *mode.list_entry;
     if (mode.offers_prelisten)
-        desk_.list_window.A_precoute.enabled = *mode.offers_prelisten;
+        desk_.display.prelisten_offered(*mode.offers_prelisten);
     if (mode.offers_special_mix)
         for (Deck& deck : desk_.ring.decks)
-            deck.controls.special_mix.enabled = *mode.offers_special_mix;
+            desk_.display.special_mix_offered(deck, *mode.offers_special_mix);
     desk_.show_list_start();
 }
 
@@ -71,7 +71,7 @@ void ChainModes::toggle_list_chain() {
         mix_.choose_list_fade();
         enter(running_mode::list_entry_on);
         desk_.list_window.defined_end_mode.set_value(true);
-        desk_.window.Active_audio.enabled = true;
+        desk_.display.list_fade_offered(true);
     } else if (desk_.chain.mode_enchainement.is_true()) {
         enter(running_mode::list_entry_off);
         desk_.list_window.player_mode.set_value(true);
@@ -86,7 +86,7 @@ void ChainModes::choose_mix_titles() {
         return;
     choose_deck_chain();
     desk_.list.index_en_cours = 1;
-    desk_.window.Active_audio.enabled = false;
+    desk_.display.list_fade_offered(false);
     desk_.display.list_is_mixed_by("Mix lecteur");
 }
 
@@ -94,8 +94,8 @@ void ChainModes::choose_mix_list() {
     try {
         desk_.display.list_is_mixed_by("Mix liste");
         enter(running_mode::mix_list);
-        desk_.window.Active_audio.enabled = true;
-        desk_.window.Active_audio_zapping.enabled = true;
+        desk_.display.list_fade_offered(true);
+        desk_.display.zap_fade_offered();
         desk_.chain.chaine_suspendue = false;
         desk_.window.load_ahead.set_value(1);
         read_overlap();

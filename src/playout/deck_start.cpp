@@ -77,7 +77,7 @@ void DeckStart::arrange_buttons(Deck& deck) {
         desk_.display.leave_buttons_to(deck);
     }
     desk_.display.can_be_played(deck);
-    deck.controls.open.enabled = false;
+    desk_.display.keeps_its_file(deck);
 }
 
 void DeckStart::set_end_point(Deck& deck) {

@@ -12,7 +12,7 @@ constexpr double default_back = 0.2;
 } // namespace
 
 void DeckTransport::stop(Deck& deck) {
-    deck.controls.special_mix.enabled = true;
+    desk_.display.special_mix_offered(deck, true);
     if (deck.path.empty())
         return;
     if (desk_.ring.is_main(deck))
@@ -26,7 +26,7 @@ void DeckTransport::stop(Deck& deck) {
     volume_.vol_pour_stop();
     desk_.display.stopped(deck);
     desk_.chain.index_debut_aleatoire = desk_.chain.index_debut_aleatoire1 = 0;
-    desk_.window.caption = desk_.settings.nom_radio + desk_.list.chemin_fichier;
+    desk_.display.names_file(desk_.list.chemin_fichier);
     if (desk_.chain.mode_enchainement.is_true()) {
         mix_.end_special_mix();
         desk_.window.Active_audio_jingles.checked = false;
@@ -34,7 +34,7 @@ void DeckTransport::stop(Deck& deck) {
     } else {
         mix_.leave_special_mix(deck);
     }
-    desk_.list_window.time_of_day.enabled = true;
+    desk_.display.list_tells_the_time();
 }
 
 void DeckTransport::rewind(Deck& deck) {

@@ -34,13 +34,7 @@ DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
 void DeckVolume::adjust(Deck& deck) {
     ErrorIndicator{}.skip(
         [&] { deck.graph().put_Volume(Millibel{attenuation_of_slider(deck.controls.slider.value())}); });
-    show(deck);
-}
-
-void DeckVolume::show(Deck& deck) {
-    const std::string percent = std::to_string(100 - 5 * deck.controls.slider.value());
-    deck.controls.slider.hint = "Volume %" + percent;
-    deck.controls.percent.caption = percent + "%";
+    desk_.display.volume(deck);
 }
 
 void DeckVolume::apply_record(Deck& deck, Integer volume) {
@@ -52,7 +46,7 @@ void DeckVolume::apply_record(Deck& deck, Integer volume) {
             deck.controls.slider.set_value(slider_of_attenuation(20, volume.value()));
         deck.graph().put_Volume(Millibel{volume.value()});
     });
-    show(deck);
+    desk_.display.volume(deck);
 }
 
 void DeckVolume::apply_start(Deck& deck) {
@@ -110,15 +104,6 @@ void DeckVolume::A_sauve(Deck& deck) {
     } catch (const Failure& failure) {
         show_box(desk_.platform.dialogs, failure.what(), Icon::stop);
     }
-}
-
-void DeckVolume::scroll_title(Deck& deck) {
-    const std::string& title = deck.controls.title.caption;
-    const auto count = static_cast<double>(character_count(title));
-    if (count == 0)
-        return;
-    const auto kept = static_cast<std::size_t>(to_integer(count - 0.5).value());
-    deck.controls.title.caption = std::string{right(title, kept)} + std::string{left(title, 1)};
 }
 
 } // namespace sonarelle

@@ -16,9 +16,6 @@ public:
     /// Slider to texts, and to the graph where there is one. A file without sound is passed over.
     void adjust(Deck& deck);
 
-    /// Slider to its hint and percent.
-    static void show(Deck& deck);
-
     /// The attenuation of a record to slider and graph; nothing in a mix over decks. Volume 0 is full, and leaves the
     /// slider where it is.
     void apply_record(Deck& deck, Integer volume);
@@ -36,9 +33,6 @@ public:
 
     /// Moves a deck's slider by a step; beyond its ends it stays.
     void step(Deck& deck, int steps);
-
-    /// Turns the title by a character. An even one grows by one first, and then turns.
-    static void scroll_title(Deck& deck);
 
 private:
     void A_sauve(Deck& deck);

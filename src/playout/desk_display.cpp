@@ -1,6 +1,7 @@
 #include "playout/desk_display.h"
 
 #include "platform/application.h"
+#include "platform/text.h"
 #include "playout/file_title.h"
 
 namespace sonarelle {
@@ -29,6 +30,21 @@ void DeskDisplay::loaded_from_list(const std::string& name, const std::string& d
     list_.caption = cut_title(name, 16);
     list_.track_name.caption = cut_title(name, 16);
     list_.remaining.caption = duration;
+}
+
+void DeskDisplay::volume(Deck& deck) const {
+    const std::string percent = std::to_string(100 - 5 * deck.controls.slider.value());
+    deck.controls.slider.hint = "Volume %" + percent;
+    deck.controls.percent.caption = percent + "%";
+}
+
+void DeskDisplay::turn_title(Deck& deck) {
+    const std::string& title = deck.controls.title.caption;
+    const auto count = static_cast<double>(character_count(title));
+    if (count == 0)
+        return;
+    const auto kept = static_cast<std::size_t>(to_integer(count - 0.5).value());
+    deck.controls.title.caption = std::string{right(title, kept)} + std::string{left(title, 1)};
 }
 
 void DeskDisplay::rewound(Deck& deck) const {
@@ -102,14 +118,14 @@ void DeskDisplay::overlap_over(Deck& old, Deck& main) const {
 
 void DeskDisplay::special_mix_began(Deck& deck, Integer seconds) const {
     deck.controls.progress.caption = "Mixage spécial en cours (" + text_of(seconds) + " S)";
-    deck.controls.special_mix.enabled = false;
+    special_mix_offered(deck, false);
     chain_goes_on();
 }
 
 void DeskDisplay::special_mix_ended(Deck& deck) const {
     deck.controls.progress.value = 0;
     deck.controls.progress.caption = "";
-    deck.controls.special_mix.enabled = true;
+    special_mix_offered(deck, true);
 }
 
 void DeskDisplay::overlap() const {
@@ -190,6 +206,11 @@ void DeskDisplay::list_can_start(bool can) const {
 
 void DeskDisplay::list_starts() const {
     list_.play_list.picture = std::string{lamp_on};
+}
+
+void DeskDisplay::list_can_be_stopped() const {
+    list_.stop_decks.enabled = true;
+    list_.zap.enabled = true;
 }
 
 void DeskDisplay::list_stopped() const {

@@ -51,6 +51,13 @@ public:
     void ends_at(Deck& deck, const std::string& seconds) const { deck.controls.counter.caption = seconds; }
     void can_be_played(Deck& deck) const { deck.controls.play.enabled = true; }
     void can_be_zapped(Deck& deck) const { deck.controls.zap.enabled = true; }
+    void can_be_paused(Deck& deck) const { deck.controls.pause.enabled = true; }
+    /// No other file may be opened on a deck.
+    void keeps_its_file(Deck& deck) const { deck.controls.open.enabled = false; }
+    /// The slider's place, in percent.
+    void volume(Deck& deck) const;
+    /// Turns the title by a character. An even one grows by one first, and then turns.
+    static void turn_title(Deck& deck);
     /// A deck stands at its beginning, and another file may be opened on it.
     void rewound(Deck& deck) const;
     void paused(Deck& deck, bool is_paused) const;
@@ -71,6 +78,7 @@ public:
     /// The overlap of two tracks is over: `old` is released.
     void overlap_over(Deck& old, Deck& main) const;
 
+    void special_mix_offered(Deck& deck, bool offered) const { deck.controls.special_mix.enabled = offered; }
     void special_mix_began(Deck& deck, Integer seconds) const;
     void special_mix_ended(Deck& deck) const;
 
@@ -78,6 +86,9 @@ public:
     void overlap() const;
     /// The same, where the operator points at them.
     void overlap_hints() const;
+
+    void list_fade_offered(bool offered) const { window_.Active_audio.enabled = offered; }
+    void zap_fade_offered() const { window_.Active_audio_zapping.enabled = true; }
 
     /// The chain goes on by itself: its line names the station.
     void chain_goes_on() const { window_.chain_status.caption = "- - " + settings_.nom_radio + " - -"; }
@@ -107,6 +118,8 @@ public:
     /// Whether a list can be started, which it can't while it runs.
     void list_can_start(bool can) const;
     void list_starts() const;
+    void list_can_be_stopped() const;
+    void prelisten_offered(bool offered) const { list_.A_precoute.enabled = offered; }
     void list_stopped() const;
     void list_reads_row(Integer row) const;
     void list_has_no_file() const { list_.list_status.caption = "Non trouvé"; }
@@ -119,11 +132,13 @@ public:
     /// What is left of the main deck's track, as hh:mm:ss; and the time of day.
     void list_remaining(const std::string& time) const { list_.remaining.caption = time; }
     void list_time(const std::string& time) const { list_.time_of_day.caption = time; }
+    void list_tells_the_time() const { list_.time_of_day.enabled = true; }
     /// The operator may zap.
     void zap_allowed() const;
 
     /// The windows' titles before a track gives them its name; and behind the operator's change of the name.
     void station_named() const;
+    void names_file(const std::string& path) const { window_.caption = settings_.nom_radio + path; }
     void station_nameless() const;
     void station_renamed() const;
 

@@ -210,7 +210,7 @@ void ListChain::show_full_volume(Deck& deck) {
     if (!deck.has_graph() || deck.graph().get_Volume() != Millibel{0})
         return;
     deck.controls.slider.show_value(0);
-    DeckVolume::show(deck);
+    desk_.display.volume(deck);
 }
 
 } // namespace sonarelle

@@ -31,8 +31,7 @@ void ListRun::start_selected_row() {
     document_.show_file_in_use();
     if (desk_.list.fichier_liste.empty())
         return save_dialog_.A_enreg_sous();
-    for (Image* button : {&desk_.list_window.stop_decks, &desk_.list_window.zap})
-        button->enabled = true;
+    desk_.display.list_can_be_stopped();
     const DestinationRecord record = chain_.cursor.record_of(row);
     if (desk_.ring.sounds() && !can_be_played(record.dest_chemin)) {
         desk_.list.index_en_cours = row_before;

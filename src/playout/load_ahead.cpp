@@ -45,10 +45,10 @@ LoadAhead::LoadAhead(Desk& desk, RowCursor& cursor, RunControl& run, Journal& jo
             [](const auto& turn) { ErrorIndicator{}.skip(turn); }} {}
 
 void LoadAhead::compteur() {
-    Label& label = desk_.list_window.remaining;
-    int hours = field_of(label.caption, 1);
-    int minutes = field_of(label.caption, 4);
-    int seconds = field_of(label.caption, 7);
+    const std::string& shown = desk_.list_window.remaining.caption;
+    int hours = field_of(shown, 1);
+    int minutes = field_of(shown, 4);
+    int seconds = field_of(shown, 7);
     if (hours == 0 && minutes == 0 && seconds == 0)
         return;
     const auto count_down = [](int& field, int full) {
@@ -58,7 +58,7 @@ void LoadAhead::compteur() {
     };
     if (count_down(seconds, 60) && count_down(minutes, 60))
         count_down(hours, 24);
-    label.caption = two_digits(hours) + ":" + two_digits(minutes) + ":" + two_digits(seconds);
+    desk_.display.list_remaining(two_digits(hours) + ":" + two_digits(minutes) + ":" + two_digits(seconds));
 }
 
 void LoadAhead::tick() {

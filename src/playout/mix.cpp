@@ -124,7 +124,7 @@ void MixEngine::special_mix(Deck& deck) {
 }
 
 void MixEngine::start_special_mix(Deck& deck) {
-    deck.controls.pause.enabled = true;
+    desk_.display.can_be_paused(deck);
     deck.graph().RenderFile(deck.path);
     end_special_mix();
     const Integer whole = deck.whole_duration();

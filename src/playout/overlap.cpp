@@ -48,7 +48,7 @@ void Overlap::fade(Deck& old) {
         old.graph().put_Volume(Millibel{volume});
         const double share = static_cast<double>(quietest) / volume;
         old.controls.slider.show_value(to_integer(old.controls.slider.maximum / share).value());
-        DeckVolume::show(old);
+        desk_.display.volume(old);
     });
 }
 

@@ -234,7 +234,7 @@ void Station::connect_deck(Deck& deck) {
     controls.slider.on_change = [this, &deck] { deck_volume.adjust(deck); };
     controls.louder.on_click = [this, &deck] { deck_volume.step(deck, -1); };
     controls.quieter.on_click = [this, &deck] { deck_volume.step(deck, 1); };
-    controls.scroll_timer.on_tick = [&deck] { DeckVolume::scroll_title(deck); };
+    controls.scroll_timer.on_tick = [&deck] { DeskDisplay::turn_title(deck); };
     // A hand that falls on the largest key doesn't silence the station.
     controls.open.refuses_space =
         controls.stop.refuses_space = [this, &deck] { return role_of(desk, deck) == DeckRole::on_air; };

@@ -34,6 +34,16 @@ protected:
         fill_store();
         station.start(command_line);
     }
+    /// A list of tracks that are there, of 200 seconds each.
+    void put_list(std::string_view path, int tracks) {
+        std::vector<enreg_liste> records;
+        for (int number = 1; number <= tracks; ++number) {
+            const std::string track = "C:\\Musique\\titre " + std::to_string(number) + ".mp3";
+            machine.add_track(track, 200);
+            records.push_back(record_of(track));
+        }
+        machine.disk.put_file(path, bytes_of(records));
+    }
     [[nodiscard]] std::string journal_text() const { return machine.disk.bytes("C:\\Sonarelle\\journal.doc"); }
     [[nodiscard]] bool has_journal() { return !machine.disk.Dir("C:\\Sonarelle\\journal.doc").empty(); }
 

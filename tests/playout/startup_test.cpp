@@ -22,20 +22,10 @@ protected:
 
     void remove(std::string_view file) { machine.disk.Kill("C:\\Sonarelle\\" + std::string{file}); }
     void expect_fault(std::string_view part) { machine.dialogs.expect_box(part, Answer::ok); }
-    void put_list(std::string_view path, int tracks) {
-        std::vector<enreg_liste> records;
-        for (int number = 1; number <= tracks; ++number) {
-            const std::string track = "C:\\Musique\\titre " + std::to_string(number) + ".mp3";
-            machine.add_track(track, 200);
-            records.push_back(record_of(track));
-        }
-        machine.disk.put_file(path, bytes_of(records));
-    }
 };
 
 using FirstStart = StartupTest;
 using Splash = StartupTest;
-using CommandLine = StartupTest;
 using SecondDesk = StartupTest;
 
 } // namespace
@@ -74,15 +64,6 @@ TEST_F(FirstStart, IsFollowedByOneThatReachesTheMainWindow) {
     EXPECT_EQ(second.settings.mix_audio, 10);
     EXPECT_EQ(second.settings.mix_audio_vitesse, 35);
     EXPECT_EQ(second.settings.mix_audio_attenuation, 2);
-}
-
-TEST_F(CommandLine, OfAListThatIsNotThereNamesItAndMakesNone) {
-    fill_store();
-    machine.dialogs.expect_box("C:\\Listes\\non.dfm", Answer::ok);
-    station.start("\"C:\\Listes\\non.dfm\"");
-    EXPECT_FALSE(machine.disk.exists("C:\\Listes\\non.dfm"));
-    EXPECT_EQ(station.list.fichier_liste, "");
-    EXPECT_TRUE(window.visible);
 }
 
 TEST_F(SecondDesk, SaysThatSonarelleIsOnTheAir) {
@@ -323,79 +304,6 @@ TEST_F(StartupTest, PaintsTheWindows) {
     start();
     EXPECT_EQ(window.chain_status.fore_colour.get(), 16777215);
     EXPECT_EQ(station.list_window.rows.back_colour.get(), 9408399);
-}
-
-TEST_F(CommandLine, OfAListLoadsItAndPlays) {
-    put_list("C:\\Listes\\matin.dfm", 3);
-    start("\"C:\\Listes\\matin.dfm\"");
-    EXPECT_EQ(rows().count(), 3);
-    EXPECT_TRUE(window.visible);
-    EXPECT_TRUE(station.list_window.visible);
-    EXPECT_TRUE(window.mix_list.value());
-    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
-}
-
-TEST_F(CommandLine, OfAListPlaysWhereTheStoreCantBeWritten) {
-    put_list("C:\\Listes\\matin.dfm", 1);
-    fill_store();
-    machine.settings.refuse_writes();
-    station.start("\"C:\\Listes\\matin.dfm\"");
-    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
-}
-
-TEST_F(CommandLine, OfAListChainsItsTracks) {
-    put_list("C:\\Listes\\matin.dfm", 3);
-    start("\"C:\\Listes\\matin.dfm\"");
-    machine.run_for(seconds(230));
-    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 2.mp3"});
-}
-
-TEST_F(CommandLine, OfAnEndingInCapitalsIsAListToo) {
-    put_list("C:\\Listes\\MATIN.DFM", 1);
-    start("\"C:\\Listes\\MATIN.DFM\"");
-    EXPECT_EQ(rows().count(), 1);
-}
-
-TEST_F(CommandLine, OfATrackShowsTheSmallPlayerAlone) {
-    machine.add_track("C:\\Musique\\Le pont.mp3", 180);
-    start("\"C:\\Musique\\Le pont.mp3\"");
-    EXPECT_FALSE(window.visible);
-    EXPECT_EQ(window.state.get(), WindowState::minimised);
-    EXPECT_TRUE(station.small_player.visible);
-    EXPECT_TRUE(station.small_player.topmost);
-    EXPECT_EQ(station.small_player.caption.get(), "Le pont");
-    EXPECT_FALSE(window.deck(1).open.enabled);
-}
-
-TEST_F(CommandLine, OfATrackPlaysIt) {
-    machine.add_track("C:\\Musique\\Le pont.mp3", 180);
-    start("\"C:\\Musique\\Le pont.mp3\"");
-    machine.run_for(seconds(5));
-    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\Le pont.mp3"});
-    EXPECT_EQ(station.small_player.remaining.caption.get(), "175");
-}
-
-TEST_F(CommandLine, OfATrackThatCantBeOpenedSaysSo) {
-    machine.disk.put_file("C:\\Musique\\note.mp3", "rien");
-    machine.dialogs.expect_box("C:\\Musique\\note.mp3 Ne peut ouvrir ", Answer::ok);
-    start("\"C:\\Musique\\note.mp3\"");
-    EXPECT_EQ(machine.dialogs.last().icon, Icon::stop);
-}
-
-TEST_F(CommandLine, WithoutQuotesLosesItsFirstAndLastCharacter) {
-    machine.dialogs.expect_box(":\\Musique\\titre.mp Ne peut ouvrir ", Answer::ok);
-    start("C:\\Musique\\titre.mp3");
-}
-
-TEST_F(CommandLine, OfBlanksIsEmpty) {
-    start("   ");
-    EXPECT_TRUE(window.visible);
-    EXPECT_FALSE(station.small_player.visible);
-}
-
-TEST_F(CommandLine, OfOneCharacterIsNoFile) {
-    machine.dialogs.expect_box(" Ne peut ouvrir ", Answer::ok);
-    start("\"");
 }
 
 } // namespace sonarelle

@@ -111,6 +111,7 @@ QLayout* DeckPanel::transport(Dresser& dresser, int number) {
     auto* open = dresser.button(controls_.open, "Ouvrir");
     open->setAccessibleName("Ouvrir, lecteur " + QString::number(number));
     play_ = dresser.button(controls_.play, "▶");
+    play_->setAccessibleName("Lecture, lecteur " + QString::number(number));
     auto* stop = dresser.button(controls_.stop, "■");
     auto* pause = dresser.button(controls_.pause, "II");
     auto* back = dresser.button(controls_.back, "◀◀");

@@ -72,6 +72,7 @@ void ListView::tell_air() {
 
 QLayout* ListView::table_row() {
     auto* table = dresser_.table(window_.rows);
+    table->setAccessibleName("Liste");
     rows_ = static_cast<RowTableBinding*>(binding_of(window_.rows));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
@@ -86,8 +87,9 @@ QString ListView::title() const {
     return air_.title.isEmpty() ? WindowView::title() : air_.title;
 }
 
-StudioButton* ListView::lamp(Image& image) {
+StudioButton* ListView::lamp(Image& image, const char* name) {
     auto* button = dresser_.image(image, "●");
+    button->setAccessibleName(name);
     button->set_look(ButtonLook::lamp);
     button->setFixedSize(28, 28);
     return button;
@@ -113,8 +115,10 @@ QWidget* ListView::side_column() {
     for (const auto& [picture, option] : modes)
         column->addLayout(dresser_.mode(*picture, *option));
     heading("INSERTION");
-    column->addLayout(row_of({lamp(window_.jingles_switch), dresser_.label(window_.jingles_status, bold_text)}));
-    column->addLayout(row_of({lamp(window_.items_switch), dresser_.label(window_.items_status, bold_text)}));
+    column->addLayout(row_of(
+        {lamp(window_.jingles_switch, "Insertion de jingles"), dresser_.label(window_.jingles_status, bold_text)}));
+    column->addLayout(
+        row_of({lamp(window_.items_switch, "Insertion d'une liste"), dresser_.label(window_.items_status, bold_text)}));
     column->addStretch(1);
     return side;
 }
@@ -124,6 +128,7 @@ QLayout* ListView::button_row() {
     auto* zap = dresser_.image(window_.zap, "⇥ Zap (Z)", Accent::next);
     auto* stop = dresser_.image(window_.stop_decks, "■ Stopper");
     auto* place = dresser_.image(window_.show_playing_row, "◎ Position");
+    place->setAccessibleName("Position");
     auto* strip = dresser_.image(window_.side_picture);
     strip->set_look(ButtonLook::picture);
     strip->setFocusPolicy(Qt::NoFocus);

@@ -32,7 +32,7 @@ private:
     void tell_air();
     [[nodiscard]] QLayout* table_row();
     [[nodiscard]] QWidget* side_column();
-    [[nodiscard]] StudioButton* lamp(Image& image);
+    [[nodiscard]] StudioButton* lamp(Image& image, const char* name);
     [[nodiscard]] QLayout* button_row();
     [[nodiscard]] QLayout* status_row();
     [[nodiscard]] StudioButton* menu_button();

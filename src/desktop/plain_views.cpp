@@ -11,6 +11,7 @@
 #include "accessories/propriete.h"
 #include "desktop/panel.h"
 #include "desktop/progress_strip.h"
+#include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
 
 namespace sonarelle {
@@ -108,8 +109,10 @@ std::unique_ptr<WindowView> properties_view(Propriete& window, const DesktopServ
                                                              {&window.length_label, &window.length}}};
     int line = 1;
     for (const auto& [label, field] : fields) {
+        auto* box = dresser.text_box(*field);
+        box->setAccessibleName(to_qt(label->caption));
         grid->addWidget(dresser.label(*label, name), line, 0);
-        grid->addWidget(dresser.text_box(*field), line++, 1);
+        grid->addWidget(box, line++, 1);
     }
     grid->addWidget(dresser.label(window.start_back, step), 1, 2);
     grid->addWidget(dresser.label(window.mark_start, action), 1, 3);

@@ -75,6 +75,7 @@ QLayout* SmallPlayerView::buttons() {
     auto* row = new QHBoxLayout;
     for (const auto& [button, sign] : signs)
         row->addWidget(dresser_.button(*button, sign), 1);
+    binding_of(window_.quit)->widget()->setAccessibleName("Quitter");
     return row;
 }
 

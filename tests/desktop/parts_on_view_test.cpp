@@ -1,0 +1,89 @@
+// What holds of the parts of every window, in whatever order they stand.
+#include <QAccessible>
+#include <QGroupBox>
+
+#include "desktop/station_views.h"
+
+namespace sonarelle {
+
+namespace {
+
+/// A window of the station that has room, with every part to be seen and reached.
+class PartsOnView : public StationViews, public testing::WithParamInterface<std::size_t> {
+protected:
+    PartsOnView() {
+        for (Control* control : window().controls()) {
+            control->visible = control != &station.list_window.file_name; // which is never shown
+            control->enabled = true;
+        }
+        window().show();
+        settle();
+        view().resize(1600, 1000);
+        settle();
+    }
+
+    [[nodiscard]] Window& window() { return *station.windows().at(GetParam()); }
+    [[nodiscard]] QWidget& view() { return *desktop->widget_of(window()); }
+    /// The widget of every control, but for frames, in which others stand.
+    [[nodiscard]] std::vector<QWidget*> parts() {
+        std::vector<QWidget*> found;
+        for (const Control* control : window().controls()) {
+            auto* part = view().findChild<QWidget*>(QString::fromStdString(control->name()));
+            if (control->kind() != ControlKind::menu_item && qobject_cast<QGroupBox*>(part) == nullptr)
+                found.push_back(part);
+        }
+        return found;
+    }
+    [[nodiscard]] QRect place_of(const QWidget& part) { return {part.mapTo(&view(), QPoint{}), part.size()}; }
+};
+
+std::string name_of(const QWidget* part) {
+    return part->objectName().toStdString();
+}
+
+} // namespace
+
+TEST_P(PartsOnView, AreAllThere) {
+    for (const QWidget* part : parts())
+        EXPECT_TRUE(part != nullptr && part->parentWidget()->isVisible());
+}
+
+TEST_P(PartsOnView, StandApart) {
+    const auto all = parts();
+    for (auto one = all.begin(); one != all.end(); ++one)
+        for (auto other = one + 1; other != all.end(); ++other)
+            EXPECT_FALSE((*one)->isVisible() && (*other)->isVisible() && place_of(**one).intersects(place_of(**other)))
+                << name_of(*one) << " " << name_of(*other);
+}
+
+TEST_P(PartsOnView, HaveTheRoomThatTheyNeed) {
+    for (const QWidget* part : parts()) {
+        const QSize least = part->minimumSizeHint().boundedTo(part->maximumSize());
+        EXPECT_GE(part->width(), least.width()) << name_of(part);
+        EXPECT_GE(part->height(), least.height()) << name_of(part);
+    }
+}
+
+TEST_P(PartsOnView, ThatTheKeyboardReachesHaveAName) {
+    const bool has_captions = &window() != &station.options_window;
+    for (QWidget* part : parts())
+        if (has_captions && part->isVisible() && part->focusPolicy() & Qt::TabFocus) {
+            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(part);
+            ASSERT_NE(told, nullptr) << name_of(part);
+            EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name_of(part);
+        }
+}
+
+TEST_P(PartsOnView, ThatArePressedAreReachedByTheKeyboardToo) {
+    for (const Control* control : window().controls())
+        if (control->kind() == ControlKind::button || control->kind() == ControlKind::graphic_button) {
+            const auto* part = view().findChild<QWidget*>(QString::fromStdString(control->name()));
+            EXPECT_TRUE(part->focusPolicy() & Qt::TabFocus) << control->name();
+            EXPECT_FALSE(part->focusPolicy() & Qt::ClickFocus) << control->name();
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, PartsOnView, testing::Range<std::size_t>(0, 10),
+                         [](const auto& window) { return std::to_string(window.param); });
+
+} // namespace sonarelle

@@ -35,6 +35,33 @@ protected:
     QTemporaryDir lists;
 };
 
+/// The dialog that the station opens over a folder of lists, and the operator's hand in it.
+class FileThatIsChosen : public DesktopFixture {
+protected:
+    void in_dialog(std::function<void(DesktopFileDialog&)> act) {
+        QTimer::singleShot(0, [this, act = std::move(act)] {
+            auto* dialog = dynamic_cast<DesktopFileDialog*>(QApplication::activeModalWidget());
+            came = dialog != nullptr;
+            if (came)
+                act(*dialog);
+        });
+    }
+    void put(const char* name) {
+        QFile file{lists.filePath(name)};
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    QTemporaryDir lists;
+    DesktopDialogs dialogs{{[this](const std::string&) { return lists.path().toStdString(); },
+                            [](const std::string& path) { return "C:\\Listes\\" + path.substr(path.rfind('/') + 1); }},
+                           [](Window&) { return nullptr; }};
+    FileDialog asked{.title = "Ouvrir une liste",
+                     .folder = "C:\\Listes",
+                     .file_name = "soir.dfm",
+                     .filter = "fichier (*.dfm)|*.dfm|"};
+    bool came = false;
+};
+
 } // namespace
 
 TEST(FileFilters, HaveTheirPatternsSideBySide) {
@@ -108,6 +135,51 @@ TEST_F(FileDialogOnView, LeavesTheQuestionBeforeAFileIsWrittenOverToTheStation) 
     settle();
     EXPECT_EQ(questions, 0);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(FileThatIsChosen, IsAskedForInTheStationsWords) {
+    in_dialog([this](DesktopFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Ouvrir une liste");
+        EXPECT_EQ(dialog.nameFilters(), QStringList{"fichier (*.dfm)"});
+        EXPECT_EQ(dialog.directory().path(), lists.path());
+        dialog.reject();
+    });
+    static_cast<void>(dialogs.open_file(asked));
+    EXPECT_TRUE(came);
+}
+
+TEST_F(FileThatIsChosen, IsThereWhereItIsToBeOpened) {
+    put("matin.dfm");
+    in_dialog([this](DesktopFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        dialog.selectFile(lists.filePath("matin.dfm"));
+        dialog.accept();
+    });
+    const ChosenFile chosen = dialogs.open_file(asked);
+    EXPECT_TRUE(came);
+    EXPECT_FALSE(chosen.cancelled);
+    EXPECT_EQ(chosen.file_name, "C:\\Listes\\matin.dfm");
+}
+
+TEST_F(FileThatIsChosen, MayBeANewOneWhereItIsToBeSaved) {
+    in_dialog([](DesktopFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::AnyFile);
+        dialog.accept(); // the name that is offered
+    });
+    const ChosenFile chosen = dialogs.save_file(asked);
+    EXPECT_TRUE(came);
+    EXPECT_FALSE(chosen.cancelled);
+    EXPECT_EQ(chosen.file_name, "C:\\Listes\\soir.dfm");
+}
+
+TEST_F(FileThatIsChosen, IsTheOneThatWasOfferedAfterACancel) {
+    in_dialog([](DesktopFileDialog& dialog) { dialog.reject(); });
+    const ChosenFile chosen = dialogs.open_file(asked);
+    EXPECT_TRUE(came);
+    EXPECT_TRUE(chosen.cancelled);
+    EXPECT_EQ(chosen.file_name, "soir.dfm");
 }
 
 } // namespace sonarelle

@@ -39,6 +39,22 @@ TEST_F(InputBoxOnScreen, BeginsWithItsPresetAndGivesWhatWasTyped) {
     EXPECT_EQ(preset, "Antenne_FM");
 }
 
+TEST_F(InputBoxOnScreen, AsksInTheStationsWords) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QString prompt;
+    QString title;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        prompt = box->labelText();
+        title = box->windowTitle();
+        box->reject();
+    });
+    static_cast<void>(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}));
+    EXPECT_EQ(prompt, "Nom de votre Radio");
+    EXPECT_EQ(title, "Saisie");
+}
+
 TEST_F(InputBoxOnScreen, GivesNothingByCancel) {
     DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
     QTimer::singleShot(0, [] {

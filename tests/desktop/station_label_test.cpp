@@ -239,6 +239,48 @@ TEST_F(Texts, SpaceAndReturnPressAButtonAndOtherKeysDont) {
     EXPECT_EQ(presses, 2);
 }
 
+TEST_F(Texts, ButtonIsReachedByTheKeyboardAndShowsTheHand) {
+    StationLabel& label = button("Fichier");
+    EXPECT_EQ(label.focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+    label.set_pressable(false);
+    EXPECT_EQ(label.focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(label.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Texts, PlainOneMayBeCutAndFiguresAndButtonsMayNot) {
+    const auto least = [](const StationLabel::Style& style) { return StationLabel{style}.minimumSizeHint().width(); };
+    const auto wished = [](const StationLabel::Style& style) { return StationLabel{style}.sizeHint().width(); };
+    EXPECT_LT(least({.characters = 20}), wished({.characters = 20}) / 2);
+    EXPECT_EQ(least({.digits = true, .characters = 20}), wished({.digits = true, .characters = 20}));
+    EXPECT_EQ(least({.framed = true, .characters = 20}), wished({.framed = true, .characters = 20}));
+}
+
+TEST_F(Texts, ReleaseWithoutAPressOfItsOwnLeavesTheOtherButtonsAlone) {
+    StationLabel& label = button("Fichier");
+    const QImage rest = seen_in_window(label);
+    QTest::mousePress(&label, Qt::RightButton);
+    EXPECT_EQ(seen_in_window(label), rest);
+    QTest::mouseRelease(&label, Qt::RightButton);
+}
+
+TEST_F(Texts, OneWithAHintOfItsOwnTellsThat) {
+    StationLabel& label = put({.pixels = 20}, "Un titre bien trop long pour la place qu'il a");
+    label.setToolTip("La piste");
+    QHelpEvent rest{QEvent::ToolTip, QPoint{5, 5}, label.mapToGlobal(QPoint{5, 5})};
+    QCoreApplication::sendEvent(&label, &rest);
+    EXPECT_EQ(QToolTip::text(), "La piste");
+    QToolTip::hideText();
+}
+
+TEST_F(Texts, FocusOfAPlainTextIsSeen) {
+    StationLabel& label = put({.pixels = 14}, "Texte");
+    label.set_pressable(true);
+    QApplication::setActiveWindow(&panel);
+    label.setFocus();
+    EXPECT_GT(count_of(seen_in_window(label), studio::focus), 100);
+}
+
 TEST_F(Texts, PlainTextTakesNeitherPressNorFocus) {
     StationLabel& label = put({}, "Texte");
     int presses = 0;

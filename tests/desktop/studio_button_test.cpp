@@ -1,6 +1,7 @@
 // Buttons that are drawn, as pixels: their faces, their accents, and the lamps.
 #include "desktop/studio_button.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include "desktop/button_bindings.h"
@@ -139,6 +140,34 @@ TEST_F(StudioButtons, LampGlowsInItsColour) {
     EXPECT_EQ(count_of(shown(), studio::air), 0);
 }
 
+TEST_F(StudioButtons, OnlyALitCaptionIsBold) {
+    QFont font = button.font();
+    font.setBold(false);
+    button.setFont(font);
+    const auto width_of_caption = [this] {
+        const QImage face = shown().copy(4, 4, 132, 32);
+        const QColor ground = ground_in(face);
+        int first = face.width();
+        int last = 0;
+        for (int x = 0; x < face.width(); ++x)
+            if (count_of(face.copy(x, 0, 1, face.height()), ground) < face.height()) {
+                first = std::min(first, x);
+                last = x;
+            }
+        return last - first;
+    };
+    const int plain = width_of_caption();
+    button.set_accent(Accent::next);
+    EXPECT_GT(width_of_caption(), plain + 2);
+    button.set_accent(Accent::none);
+    EXPECT_EQ(width_of_caption(), plain);
+}
+
+TEST_F(StudioButtons, AreNamedByTheirCaptionUnderASign) {
+    button.set_symbol("■");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name), "Stopper");
+}
+
 TEST_F(ToldButtons, CaptionReadsInEveryTheme) {
     for (const Theme& theme : themes) {
         tell(theme);
@@ -157,6 +186,33 @@ TEST_F(ToldButtons, GroundThatCarriesItsInkIsTaken) {
     control.back_colour = 0x80FFFF;
     settle();
     EXPECT_EQ(ground(), QColor(0xff, 0xff, 0x80));
+}
+
+TEST_F(ToldButtons, PointerAndPressHaveTheirToldGrounds) {
+    control.fore_colour = 0x000000;
+    control.fore_colour_over = 0x000000;
+    control.fore_colour_down = 0xFFFFFF;
+    control.back_colour = 0x80FFFF;
+    control.back_colour_over = 0xFFFF80;
+    control.back_colour_down = 0x600000;
+    settle();
+    point_at(button);
+    EXPECT_EQ(ground(), mixed(QColor{0x80, 0xff, 0xff}, Qt::white, 0.10));
+    EXPECT_TRUE(is_near(ink_in(shown()), Qt::black, 40));
+    button.setDown(true);
+    EXPECT_EQ(ground(), mixed(QColor{0, 0, 0x60}, Qt::black, 0.35));
+    EXPECT_TRUE(is_near(ink_in(shown()), Qt::white, 40));
+}
+
+TEST_F(StudioButtons, PlainOneIsLighterUnderThePointerAndDarkerWhileItIsDown) {
+    Button plain{window, "b", "Stopper"};
+    const ButtonBinding binding{plain, button, services};
+    settle();
+    const int rest = ground().lightness();
+    point_at(button);
+    EXPECT_GT(ground().lightness(), rest);
+    button.setDown(true);
+    EXPECT_LT(ground().lightness(), rest);
 }
 
 } // namespace sonarelle

@@ -80,6 +80,19 @@ TEST_F(Titles, OneThatIsCutTurnsWithTheStation) {
     EXPECT_TRUE(becomes([&] { return seen(label) != before; }));
 }
 
+TEST_F(Titles, OneThatTurnsGoesOnByPixelsAndComesRoundAgain) {
+    show(90);
+    label.set_text("Trop long ici - ");
+    turn(1);
+    const QImage first = seen(label);
+    EXPECT_TRUE(becomes([&] { return seen(label) != first; }));
+    EXPECT_TRUE(becomes([&] {
+        if (!label.is_turning())
+            turn(1);
+        return seen(label) == first;
+    }));
+}
+
 TEST_F(Titles, AnotherOneStandsAtItsBeginning) {
     show(90);
     label.set_text("Un titre bien trop long - ");

@@ -3,6 +3,7 @@
 #include "desktop/button_bindings.h"
 #include "desktop/colours.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/pixels.h"
 #include "desktop/range_bindings.h"
 #include "desktop/text_bindings.h"
 
@@ -79,6 +80,34 @@ TEST_F(AnyBinding, LetsGoOfItsControl) {
     label.caption = "autre";
     settle();
     EXPECT_EQ(events, 0);
+}
+
+TEST_F(AnyBinding, PointerThatComesAndGoesIsTold) {
+    Label label{window, "l"};
+    int came = 0;
+    int left = 0;
+    label.on_mouse_move = [&] { ++came; };
+    StationLabel widget;
+    LabelBinding binding{label, widget, services};
+    binding.on_left = [&] { ++left; };
+    point_at(widget);
+    EXPECT_EQ(came, 1);
+    EXPECT_EQ(left, 0);
+    leave(widget);
+    EXPECT_EQ(came, 1);
+    EXPECT_EQ(left, 1);
+}
+
+TEST_F(AnyBinding, PointerThatNobodyFollowsIsNoEvent) {
+    Label label{window, "l"};
+    int left = 0;
+    StationLabel widget;
+    LabelBinding binding{label, widget, services};
+    binding.on_left = [&] { ++left; };
+    point_at(widget);
+    leave(widget);
+    EXPECT_EQ(events, 0);
+    EXPECT_EQ(left, 0);
 }
 
 TEST_F(LabelBindings, CaptionIsShownWithoutItsAccessMark) {
@@ -266,6 +295,25 @@ TEST_F(ProgressBindings, PressTellsItsPlaceInTheBarsUnits) {
     settle();
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {100, 8});
     EXPECT_EQ(place, 111);
+}
+
+TEST_F(ProgressBindings, MoveOverTheBarTellsItsPlaceInTheBarsUnits) {
+    ProgressBar bar{window, "p"};
+    bar.units_wide = 223;
+    int place = -1;
+    bar.on_mouse_move_at = [&](int x) { place = x; };
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    widget.on_move(0.5);
+    EXPECT_EQ(place, 111);
+}
+
+TEST_F(ProgressBindings, MoveThatNobodyAsksForIsNoEvent) {
+    ProgressBar bar{window, "p"};
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    widget.on_move(0.5);
+    EXPECT_EQ(events, 0);
 }
 
 TEST_F(RichTextBindings, TextGoesBothWays) {

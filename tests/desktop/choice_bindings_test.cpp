@@ -1,7 +1,9 @@
 #include <QTest>
+#include <QWheelEvent>
 
 #include "desktop/choice_bindings.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/pixels.h"
 
 namespace sonarelle {
 
@@ -11,6 +13,18 @@ using CheckBoxBindings = DesktopFixture;
 using OptionBindings = DesktopFixture;
 using ComboBoxBindings = DesktopFixture;
 using ListBoxBindings = DesktopFixture;
+
+/// Pixels of the mark that says "chosen".
+int green_in(QWidget& widget) {
+    const QImage picture = seen(widget);
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            count += pixel.green() > pixel.red() + 40 && pixel.green() > pixel.blue() + 20 ? 1 : 0;
+        }
+    return count;
+}
 
 TEST_F(CheckBoxBindings, ValueIsShown) {
     CheckBox box{window, "c", "Préchargement"};
@@ -79,6 +93,55 @@ TEST_F(OptionBindings, StaysClearWhereTheStationClearsItAgain) {
     settle();
     widget.click();
     EXPECT_FALSE(widget.isChecked());
+}
+
+TEST_F(CheckBoxBindings, TickIsTheAirsGreenOnABoxThatIsSeen) {
+    CheckBox box{window, "c", "Préchargement"};
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    settle();
+    widget.resize(160, 24);
+    EXPECT_GT(count_of(seen(widget), QColor(0x4a, 0x51, 0x5c)), 60);
+    EXPECT_EQ(green_in(widget), 0);
+    box.set_value(1);
+    settle();
+    EXPECT_GT(green_in(widget), 10);
+}
+
+TEST_F(CheckBoxBindings, CaptionIsShownInItsColour) {
+    CheckBox box{window, "c", "&Préchargement"};
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    box.fore_colour = 0x00FFFF;
+    settle();
+    EXPECT_EQ(widget.text(), "Préchargement");
+    EXPECT_EQ(widget.palette().color(QPalette::Active, QPalette::WindowText), QColor(0xff, 0xff, 0));
+    EXPECT_EQ(widget.palette().color(QPalette::Inactive, QPalette::WindowText), QColor(0xff, 0xff, 0));
+}
+
+TEST_F(OptionBindings, MarkIsTheAirsGreenOnARingThatIsSeen) {
+    OptionGroup group;
+    OptionButton option{window, group, "o1", "Mixer une &liste"};
+    QRadioButton widget;
+    const OptionBinding binding{option, widget, services};
+    settle();
+    EXPECT_EQ(widget.text(), "Mixer une liste");
+    widget.resize(160, 24);
+    EXPECT_GT(count_of(seen(widget), QColor(0x4a, 0x51, 0x5c)), 40);
+    EXPECT_EQ(green_in(widget), 0);
+    option.show_value(true);
+    settle();
+    EXPECT_GT(green_in(widget), 6);
+}
+
+TEST_F(OptionBindings, CaptionIsShownInItsColour) {
+    OptionGroup group;
+    OptionButton option{window, group, "o1", "Mixer une liste"};
+    QRadioButton widget;
+    const OptionBinding binding{option, widget, services};
+    option.fore_colour = 0x00FFFF;
+    settle();
+    EXPECT_EQ(widget.palette().color(QPalette::Active, QPalette::WindowText), QColor(0xff, 0xff, 0));
 }
 
 TEST_F(ComboBoxBindings, ItemsAndTextAreShown) {
@@ -162,6 +225,67 @@ TEST_F(ComboBoxBindings, FieldThatCantBeReachedAnyMoreGivesTheKeyboardToItsWindo
     box.enabled = false;
     settle();
     EXPECT_EQ(page.focusWidget(), &page);
+}
+
+TEST_F(ComboBoxBindings, TypingChoosesNoEntryAndAddsNone) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"Jazz", "Rock"};
+    settle();
+    QTest::keyClicks(widget.lineEdit(), "Ja");
+    EXPECT_EQ(widget.currentText(), "Ja"); // which nothing completes
+    QTest::keyClicks(widget.lineEdit(), "va");
+    QTest::keyClick(widget.lineEdit(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(widget.count(), 2);
+    EXPECT_EQ(box.text(), "Java");
+}
+
+TEST_F(ComboBoxBindings, SelectionOfTheStationIsShown) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"Jazz", "Rock"};
+    settle();
+    box.choose(1);
+    settle();
+    EXPECT_EQ(widget.currentIndex(), 1);
+    EXPECT_EQ(widget.currentText(), "Rock");
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(ComboBoxBindings, WheelTurnsThroughTheEntriesOnlyWithTheKeyboard) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.items = {"Jazz", "Rock"};
+    settle();
+    box.choose(0);
+    settle();
+    widget.show();
+    const auto turn = [&] {
+        QWheelEvent down{{5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false};
+        QCoreApplication::sendEvent(&widget, &down);
+        return widget.currentIndex();
+    };
+    QApplication::setActiveWindow(&widget);
+    widget.clearFocus();
+    EXPECT_EQ(turn(), 0);
+    widget.setFocus();
+    EXPECT_EQ(turn(), 1);
+}
+
+TEST_F(ListBoxBindings, SelectionOfNoRowIsNoEvent) {
+    ListBox box{window, "l"};
+    QListWidget widget;
+    const ListBoxBinding binding{box, widget, services};
+    box.items = {"un", "deux"};
+    settle();
+    widget.setCurrentRow(0);
+    widget.setCurrentRow(-1);
+    EXPECT_EQ(box.selected, 0);
+    EXPECT_EQ(events, 1);
 }
 
 TEST_F(ListBoxBindings, OtherItemsOfTheSameNumberAreShown) {

@@ -82,4 +82,30 @@ TEST(Colours, WhatCantBeReachedReadsAllTheSame) {
     EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::WindowText), studio::panel), readable);
 }
 
+TEST(Colours, EveryTextOfTheStudioReadsOnItsGround) {
+    const QPalette palette = studio_palette();
+    const std::array<std::pair<QPalette::ColorRole, QPalette::ColorRole>, 10> pairs{
+        {{QPalette::WindowText, QPalette::Window},
+         {QPalette::Text, QPalette::Base},
+         {QPalette::Text, QPalette::AlternateBase},
+         {QPalette::ButtonText, QPalette::Button},
+         {QPalette::ToolTipText, QPalette::ToolTipBase},
+         {QPalette::HighlightedText, QPalette::Highlight},
+         {QPalette::PlaceholderText, QPalette::Base},
+         {QPalette::Link, QPalette::Base},
+         {QPalette::Link, QPalette::Window},
+         {QPalette::BrightText, QPalette::Window}}};
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        for (const auto& [ink, ground] : pairs)
+            EXPECT_GE(contrast(palette.color(group, ink), palette.color(group, ground)), readable)
+                << ink << " " << ground;
+}
+
+TEST(Colours, GroundsOfTheStudioAreDark) {
+    const QPalette palette = studio_palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button,
+                            QPalette::ToolTipBase, QPalette::Highlight})
+        EXPECT_LT(palette.color(role).lightness(), 90) << role;
+}
+
 } // namespace sonarelle

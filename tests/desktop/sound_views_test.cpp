@@ -103,6 +103,10 @@ TEST_F(Meter, IsDarkInSilence) {
     EXPECT_EQ(lit(1), 0);
 }
 
+TEST_F(Meter, IsNamedForTheScreenReader) {
+    EXPECT_EQ(meter.accessibleName(), "Niveau");
+}
+
 TEST_F(Meter, EachChannelHasItsBar) {
     show_peaks(0.0631F, 0.01F); // -24 and -40 dB
     EXPECT_NEAR(lit(0), 50, 2);
@@ -189,6 +193,12 @@ TEST_F(SoundPictures, SpectrumHasABarABand) {
     EXPECT_TRUE(is_near(at(75, 40), studio::groove));
     EXPECT_TRUE(is_near(at(125, 97), studio::groove));
     EXPECT_TRUE(is_near(at(175, 97), studio::groove));
+}
+
+TEST_F(SoundPictures, AreDrawnAnewWhileTheyRun) {
+    show_running();
+    const int before = source.asked;
+    EXPECT_TRUE(becomes([&] { return source.asked >= before + 3; }));
 }
 
 TEST_F(SoundPictures, AsksForNothingWhileItIsOffOrHidden) {

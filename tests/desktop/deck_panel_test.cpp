@@ -55,6 +55,21 @@ TEST_F(DeckPanels, LampSaysWhatTheDeckIsToTheAir) {
     }
 }
 
+TEST_F(DeckPanels, LampGlowsWhileItIsLit) {
+    const auto glow = [this] { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(1, 7); };
+    show(DeckRole::empty);
+    const QColor dark = glow();
+    show(DeckRole::on_air);
+    EXPECT_TRUE(is_green(glow()));
+    show(DeckRole::empty);
+    EXPECT_EQ(glow(), dark);
+}
+
+TEST_F(DeckPanels, FilesAreDroppedAnywhereOnThem) {
+    EXPECT_EQ(panel().acceptDrops(), widget(deck().open).acceptDrops());
+    EXPECT_TRUE(panel().acceptDrops());
+}
+
 TEST_F(DeckPanels, WordSaysWhatTheDeckIsToTheAir) {
     const std::array<std::pair<DeckRole, const char*>, 4> words{{{DeckRole::loaded, "chargé"},
                                                                  {DeckRole::heard, "en lecture"},
@@ -171,6 +186,21 @@ TEST_F(DeckPanels, EachDeckHasItsOwnPanel) {
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(second->accent(), Accent::air);
     EXPECT_EQ(panel().accent(), Accent::none);
+}
+
+TEST_F(DeckPanels, PartsStayWhereTheyAreWhenTheMarkOfTheMainDeckComes) {
+    const auto places = [this] {
+        std::vector<QRect> all;
+        for (const QWidget* child : panel().findChildren<QWidget*>())
+            all.push_back(child->geometry());
+        return all;
+    };
+    deck().playing_mark.visible = false;
+    settle();
+    const auto before = places();
+    deck().playing_mark.visible = true;
+    settle();
+    EXPECT_EQ(places(), before);
 }
 
 TEST_F(DeckPanels, PressesReachTheirButtons) {

@@ -2,6 +2,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/plain_views.h"
+#include "platform/row_table.h"
 
 namespace sonarelle {
 
@@ -50,6 +51,52 @@ TEST_F(FormView, KeepsItsButtonsWholeWhenATextGrows) {
     settle();
     const auto* button = view->findChild<QWidget*>("fermer");
     EXPECT_TRUE(view->rect().contains(QRect{button->mapTo(view.get(), QPoint{}), button->size()}));
+}
+
+TEST_F(FormView, HasItsButtonsSideBySideBelowAllElse) {
+    const Button close{window, "fermer", "Fermer"};
+    const GraphicButton save{window, "sauver", "Sauver"};
+    const Label text{window, "texte", "Un texte"};
+    const TextBox box{window, "champ"};
+    const auto view = form_view(window, services);
+    window.show();
+    settle();
+    const auto top = [&](const Control& control) {
+        return view->findChild<QWidget*>(QString::fromStdString(control.name()))->mapTo(view.get(), QPoint{}).y();
+    };
+    EXPECT_EQ(top(close), top(save));
+    EXPECT_GT(top(close), top(box));
+    EXPECT_GT(top(box), top(text));
+}
+
+TEST_F(FormView, HasEveryKindOfControl) {
+    OptionGroup group;
+    const Label label{window, "label", "Texte"};
+    const TextBox text_box{window, "text_box"};
+    const CheckBox check_box{window, "check_box"};
+    const OptionButton option{window, group, "option"};
+    const Button button{window, "button"};
+    const GraphicButton graphic_button{window, "graphic_button"};
+    const Image image{window, "image"};
+    const Slider slider{window, "slider", 0, 10};
+    const ProgressBar progress_bar{window, "progress_bar"};
+    const ComboBox combo_box{window, "combo_box"};
+    const ListBox list_box{window, "list_box"};
+    const RowTable row_table{window, "row_table", {{"Chemin", Twips{900}}}};
+    const RichText rich_text{window, "rich_text"};
+    const Frame frame{window, "frame"};
+    const Movie movie{window, "movie"};
+    const MenuItem entry{window, "entry"};
+    const SoundDisplay display{window, "display"};
+    const auto view = form_view(window, services);
+    window.show();
+    settle();
+    for (const Control* control : window.controls()) {
+        const bool has_place = control != &entry && control != &display;
+        EXPECT_EQ(view->is_bound(*control), has_place) << control->name();
+        const auto* part = view->findChild<QWidget*>(QString::fromStdString(control->name()));
+        EXPECT_EQ(part != nullptr && part->isVisible(), has_place) << control->name();
+    }
 }
 
 } // namespace sonarelle

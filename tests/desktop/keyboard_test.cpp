@@ -215,6 +215,13 @@ TEST_F(KeyboardOfTheDesk, GoesToTheWindowWhenTheOverlapHasBeenTyped) {
     EXPECT_TRUE(window_has_keyboard());
 }
 
+TEST_F(KeyboardOfTheDesk, GoesToTheWindowByAPressOnItsGround) {
+    focus(window.overlap);
+    QTest::mouseClick(&main_view(), Qt::LeftButton, {}, {2, main_view().height() - 2});
+    settle();
+    EXPECT_TRUE(window_has_keyboard());
+}
+
 TEST_F(KeyboardOfTheDesk, TypesIntoTheOverlapAlone) {
     std::u32string seen;
     window.on_key_press = [&](char32_t c) { seen += c; };

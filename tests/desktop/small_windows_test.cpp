@@ -1,4 +1,5 @@
 // Where windows that have no place of their own come up.
+#include <QScreen>
 #include <QWindow>
 
 #include "desktop/station_views.h"
@@ -46,6 +47,22 @@ TEST_F(SmallWindows, ComeUpWhereTheOperatorLeftThem) {
     station.warning_window.hide();
     settle();
     EXPECT_EQ(warn().pos(), QPoint(20, 30));
+}
+
+TEST_F(SmallWindows, ComeUpWhereTheStationPutThem) {
+    show_desk_at(120, 40);
+    station.warning_window.left = Twips{15 * 20};
+    station.warning_window.top = Twips{15 * 30};
+    settle();
+    EXPECT_EQ(warn().pos(), QPoint(20, 30));
+}
+
+TEST_F(SmallWindows, StayOnTheScreenBelowALowDesk) {
+    show_desk_at(120, 40);
+    main_view().move(120, main_view().screen()->availableGeometry().bottom() - 200);
+    settle();
+    QWidget& warning = warn();
+    EXPECT_LE(warning.frameGeometry().bottom(), warning.screen()->availableGeometry().bottom());
 }
 
 TEST_F(SmallWindows, DontWaitForADeskThatIsHidden) {

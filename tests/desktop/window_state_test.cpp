@@ -59,6 +59,48 @@ TEST_F(StateOfAWindow, MaximisedByTheStationIsShown) {
     EXPECT_TRUE(view.isMaximized());
 }
 
+TEST_F(StateOfAWindow, StateOfTheStationIsNoEvent) {
+    show();
+    for (const WindowState state : {WindowState::maximised, WindowState::normal, WindowState::minimised}) {
+        window.state = state;
+        settle();
+    }
+    EXPECT_EQ(events, 0);
+    EXPECT_EQ(window.state.get(), WindowState::minimised);
+}
+
+TEST_F(StateOfAWindow, ComesBackFromAReducedOneByTheStation) {
+    show();
+    window.state = WindowState::minimised;
+    settle();
+    window.state = WindowState::normal;
+    settle();
+    EXPECT_FALSE(view.isMinimized());
+    EXPECT_FALSE(view.isMaximized());
+    EXPECT_TRUE(view.isVisible());
+}
+
+TEST_F(StateOfAWindow, PlaceAndSizeOfAReducedOneAreNotTaken) {
+    show();
+    view.move(40, 30);
+    view.resize(640, 480);
+    settle();
+    view.showMinimized();
+    view.resize(300, 200);
+    view.move(0, 0);
+    settle();
+    EXPECT_EQ(window.width.get(), Twips{9600});
+    EXPECT_EQ(window.left.get(), Twips{600});
+}
+
+TEST_F(StateOfAWindow, SizeIsNotTakenBeforeItIsSeen) {
+    view.resize(640, 480);
+    view.move(40, 30);
+    settle();
+    EXPECT_EQ(window.width.get(), Twips{0});
+    EXPECT_EQ(window.left.get(), Twips{0});
+}
+
 TEST_F(StateOfAWindow, OnTopIsTheNativeWindows) {
     window.topmost = true;
     show();

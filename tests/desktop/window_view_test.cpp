@@ -222,6 +222,20 @@ TEST_F(View, BecomesActiveWhenItIsShown) {
     EXPECT_GE(activations, 1);
 }
 
+TEST_F(View, BecomesActiveEachTimeTheOperatorComesBackToIt) {
+    int activations = 0;
+    show();
+    QApplication::setActiveWindow(&view);
+    settle();
+    feuille.on_activate = [&] { ++activations; };
+    QApplication::setActiveWindow(nullptr);
+    settle();
+    EXPECT_EQ(activations, 0);
+    QApplication::setActiveWindow(&view);
+    settle();
+    EXPECT_EQ(activations, 1);
+}
+
 TEST_F(MenuBinding, EntriesHangUnderTheirMenuWithALineBetweenGroups) {
     const auto actions = view.menus().menu(feuille.Fichier)->actions();
     ASSERT_EQ(actions.size(), 3);

@@ -143,9 +143,16 @@ private:
     }
 
     void rewind() {
+        reopen();
+        if (!start())
+            throw Failure{FailureNumber::device_fault};
+    }
+
+    // Before the first packet; to decode, there is `rewind`.
+    void reopen() {
         file_.reopen();
         stream_ = file_.stream(AVMEDIA_TYPE_AUDIO);
-        if (stream_ == nullptr || !start())
+        if (stream_ == nullptr)
             throw Failure{FailureNumber::device_fault};
     }
 
@@ -253,7 +260,7 @@ private:
 
     // The file says nothing: its packets are counted.
     [[nodiscard]] std::int64_t counted_length() {
-        rewind();
+        reopen();
         std::int64_t samples = 0;
         while (file_.read(stream_->index, *packet_)) {
             samples += in_samples(std::max<std::int64_t>(packet_->duration, 0));

@@ -115,7 +115,6 @@ void Decoder::seek(Frames frame) {
     position_ = frame;
     if (resampler_ == nullptr) {
         source_->seek(frame.count());
-        discard_ = 0;
         return;
     }
     const auto start = resampler_->start_before(frame.count());

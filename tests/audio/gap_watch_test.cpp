@@ -18,7 +18,7 @@ public:
             due_ += std::chrono::nanoseconds{block.count() * 62500 / 3 + drift};
         }
     }
-    void fall_behind(std::chrono::milliseconds time) { due_ += time; }
+    void fall_behind(std::chrono::nanoseconds time) { due_ += time; }
 
     GapWatch watch;
     std::int64_t drift = 0; ///< Nanoseconds a block.
@@ -102,6 +102,67 @@ TEST(GapWatch, BeginsAnewWithAnotherCard) {
     card.fall_behind(20ms);
     card.ask_for(seconds(8));
     EXPECT_EQ(card.watch.gaps().lost, milliseconds(20));
+}
+
+/// A card whose first request has come and whose next ones are those of whole spans.
+class SpannedCard : public PacedCard {
+public:
+    static constexpr Frames whole = PacedCard::block + Frames{46 * 2048}; // the least above two seconds
+    SpannedCard() { ask_for(block); }
+};
+
+TEST(GapWatch, TellsAGapAtTheEndOfTheSecondSpanBehindIt) {
+    SpannedCard card;
+    card.ask_for(SpannedCard::whole);
+    card.fall_behind(30ms);
+    card.ask_for(SpannedCard::whole + SpannedCard::whole - PacedCard::block);
+    EXPECT_EQ(card.watch.gaps().count, 0);
+    card.ask_for(PacedCard::block);
+    EXPECT_EQ(card.watch.gaps().count, 1);
+}
+
+TEST(GapWatch, TakesALateThreadRightBehindAGapForNoOther) {
+    SpannedCard card;
+    card.ask_for(SpannedCard::whole);
+    card.fall_behind(10ms);
+    card.ask_for(SpannedCard::whole + SpannedCard::whole);
+    ASSERT_EQ(card.watch.gaps().count, 1);
+    card.ask_for(SpannedCard::whole, 40ms);
+    card.ask_for(seconds(10));
+    EXPECT_EQ(card.watch.gaps().count, 1);
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(10));
+}
+
+TEST(GapWatch, TakesFiveMillisecondsForAGapAndNothingLess) {
+    PacedCard card;
+    card.ask_for(seconds(5));
+    card.fall_behind(5ms - 1us);
+    card.ask_for(seconds(10));
+    EXPECT_EQ(card.watch.gaps().count, 0);
+    card.fall_behind(5ms + 1us);
+    card.ask_for(seconds(10));
+    EXPECT_EQ(card.watch.gaps().lost, milliseconds(5));
+}
+
+TEST(GapWatch, TellsTheNearestFrame) {
+    for (const auto& [gap, frames] : {std::pair{10'010us, 480}, {10'011us, 481}}) { // 480.5 frames lie between
+        PacedCard card;
+        card.ask_for(seconds(5));
+        card.fall_behind(gap);
+        card.ask_for(seconds(10));
+        EXPECT_EQ(card.watch.gaps().lost, Frames{frames});
+    }
+}
+
+TEST(GapWatch, FollowsAFastClockAndFindsItsGap) {
+    PacedCard card;
+    card.drift = -42'667'000 / 2000;
+    card.ask_for(seconds(60));
+    EXPECT_EQ(card.watch.gaps().count, 0);
+    card.fall_behind(50ms);
+    card.ask_for(seconds(10));
+    EXPECT_EQ(card.watch.gaps().count, 1);
+    EXPECT_NEAR(in_seconds(card.watch.gaps().lost), 0.05, 0.003);
 }
 
 } // namespace

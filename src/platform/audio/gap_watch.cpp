@@ -17,7 +17,6 @@ std::chrono::nanoseconds time_of(Frames frames) {
 void GapWatch::asked(Frames before, Instant now) noexcept {
     if (restarts_.exchange(false, std::memory_order_relaxed)) {
         expected_.reset();
-        late_ = Time{0};
         earliest_ = Instant::max();
         span_end_ = before + span;
     }

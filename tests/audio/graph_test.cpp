@@ -4,6 +4,7 @@
 #include "platform/audio/silent_media.h"
 #include "platform/failure.h"
 #include "sound_fixture.h"
+#include "watched_files.h"
 
 namespace sonarelle {
 namespace {
@@ -83,6 +84,54 @@ TEST(SoundGraph, GoesOnAfterAPauseWithTheNextFrame) {
     EXPECT_EQ(bench.left(29999), counted(24999));
 }
 
+TEST(SoundGraph, FadesInTenMillisecondsWhenItHaltsAndIsSilent) {
+    const std::array<void (MediaGraph::*)(), 2> ways{&MediaGraph::Pause, &MediaGraph::Stop};
+    for (const auto halt : ways) {
+        SoundFixture bench;
+        const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+        graph->Run();
+        bench.run_for(Frames{20'000});
+        ((*graph).*halt)();
+        bench.run_for(Frames{10'000});
+        for (std::int64_t frame = 0; frame < 480; ++frame)
+            ASSERT_NEAR(bench.left(20'000 + frame), counted(20'000 + frame) * static_cast<float>(479 - frame) / 480,
+                        1e-6F);
+        EXPECT_EQ(bench.peak(20'480, 30'000), 0.0F);
+    }
+}
+
+TEST(SoundGraph, PausedAndRunAgainAndAgainGoesOnWithTheNextFrame) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 4));
+    std::int64_t now = 0;
+    std::int64_t position = 0;
+    for (const std::int64_t length : {7000, 500, 12'345, 3, 20'001}) {
+        graph->Run();
+        bench.run_for(Frames{length});
+        for (std::int64_t frame = now == 0 ? 0 : 480; frame < length; ++frame)
+            ASSERT_EQ(bench.left(now + frame), counted(position + frame)) << now << " + " << frame;
+        graph->Pause();
+        bench.run_for(Frames{1111});
+        now += length + 1111;
+        position += length;
+    }
+}
+
+TEST(SoundGraph, StateFollowsItsCommands) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+    graph->Run();
+    EXPECT_EQ(graph->GetState(), MediaState::running);
+    graph->Pause();
+    EXPECT_EQ(graph->GetState(), MediaState::paused);
+    graph->Run();
+    graph->Stop();
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+    EXPECT_EQ(graph->get_StopTime(), 2);
+    EXPECT_FALSE(graph->has_video());
+}
+
 TEST(SoundGraph, StopDoesNotRewind) {
     SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
@@ -126,6 +175,38 @@ TEST(SoundGraph, SeekBehindTheEndStandsAtTheEnd) {
     EXPECT_EQ(bench.peak(0, 4800), 0.0F);
 }
 
+TEST(SoundGraph, SeekBeforeTheBeginningStandsAtTheBeginning) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->put_CurrentPosition(0.5);
+    graph->put_CurrentPosition(-3);
+    EXPECT_EQ(graph->get_CurrentPosition(), 0);
+}
+
+TEST(SoundGraph, SoughtWhileItHaltsIsSilent) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 2));
+    graph->put_CurrentPosition(1);
+    bench.run_for(Frames{1000});
+    EXPECT_EQ(bench.peak(0, 1000), 0.0F);
+    EXPECT_EQ(graph->get_CurrentPosition(), 1);
+}
+
+TEST(SoundGraph, RunAtItsEndIsSilent) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 0.5));
+    graph->Run();
+    bench.run_for(seconds(1));
+    graph->Pause();
+    graph->Run();
+    bench.run_for(seconds(1));
+    EXPECT_EQ(bench.peak(24'000, 96'000), 0.0F);
+    EXPECT_EQ(graph->get_CurrentPosition(), 0.5);
+    graph->put_CurrentPosition(0.25);
+    bench.run_for(Frames{1000});
+    EXPECT_EQ(bench.left(96'999), counted(12'999));
+}
+
 TEST(SoundGraph, TwoSeeksOfOneInstantPlayTheSecond) {
     SoundFixture bench;
     const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
@@ -155,6 +236,28 @@ TEST(SoundGraph, AVolumeSetWhileRunningIsReachedInTenMilliseconds) {
     EXPECT_EQ(bench.left(1000), counted(1000));
     EXPECT_FLOAT_EQ(bench.left(1240), counted(1240) * 0.5F);
     EXPECT_EQ(bench.peak(1480, 2000), 0.0F);
+}
+
+TEST(SoundGraph, KeepsItsVolumeForTheNextFile) {
+    SoundFixture bench;
+    const auto path = bench.folder.counting_wav("a.wav", 1);
+    const auto graph = bench.graph(path);
+    graph->put_Volume(Millibel{-2000});
+    EXPECT_EQ(graph->get_Volume(), Millibel{-2000});
+    graph->RenderFile(path);
+    graph->Run();
+    bench.run_for(Frames{100});
+    EXPECT_FLOAT_EQ(bench.left(50), counted(50) * 0.1F);
+}
+
+TEST(SoundGraph, VolumeGoesFromFullToNothing) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 1));
+    graph->put_Volume(Millibel{-10'000});
+    EXPECT_EQ(graph->get_Volume(), Millibel{-10'000});
+    graph->put_Volume(Millibel{0});
+    EXPECT_EQ(graph->get_Volume(), Millibel{0});
+    EXPECT_EQ(failure_of([&] { bench.media.create_graph()->put_Volume(Millibel{0}); }), FailureNumber::wrong_call);
 }
 
 TEST(SoundGraph, VolumeOutsideItsRangeIsRefused) {
@@ -194,6 +297,41 @@ TEST(SoundGraph, EmptyHasNoLengthAndRunningItDoesNothing) {
     EXPECT_EQ(graph->GetState(), MediaState::stopped);
 }
 
+TEST(SoundGraph, WhoseNextFileFailsIsEmptyAndSilent) {
+    SoundFixture bench;
+    const auto film = bench.folder.encoded("film.avi", 2, "-f lavfi -i testsrc=d=2:s=64x48 -c:a libmp3lame");
+    const auto graph = bench.graph(film);
+    EXPECT_TRUE(graph->has_video());
+    graph->Run();
+    bench.run_for(Frames{10'000});
+    EXPECT_EQ(failure_of([&] { graph->RenderFile(bench.folder.path("absent.mp3")); }), FailureNumber::file_not_found);
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+    EXPECT_EQ(graph->get_Duration(), 0);
+    EXPECT_EQ(graph->get_CurrentPosition(), 0);
+    EXPECT_FALSE(graph->has_video());
+    EXPECT_EQ(failure_of([&] { graph->put_Volume(Millibel{0}); }), FailureNumber::wrong_call);
+    graph->put_CurrentPosition(1);
+    graph->Run();
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+    bench.run_for(Frames{10'000});
+    EXPECT_EQ(bench.peak(10'480, 20'000), 0.0F);
+}
+
+TEST(SoundGraph, PlaysItsNextFileFromTheBeginning) {
+    SoundFixture bench;
+    const auto graph = bench.graph(bench.folder.counting_wav("a.wav", 3));
+    graph->put_CurrentPosition(1);
+    graph->Run();
+    bench.run_for(Frames{10'000});
+    graph->RenderFile(bench.folder.counting_wav("b.wav", 2));
+    EXPECT_EQ(graph->get_Duration(), 2);
+    EXPECT_EQ(graph->GetState(), MediaState::stopped);
+    graph->Run();
+    bench.run_for(Frames{20'000});
+    for (std::int64_t frame = 480; frame < 20'000; ++frame)
+        ASSERT_EQ(bench.left(10'000 + frame), counted(frame)) << frame;
+}
+
 TEST(SoundGraph, SeveralSoundAtOnceAsTheirSum) {
     SoundFixture bench;
     const auto path = bench.folder.counting_wav("a.wav", 1);
@@ -207,16 +345,7 @@ TEST(SoundGraph, SeveralSoundAtOnceAsTheirSum) {
 }
 
 TEST(SoundGraph, TheNextGraphTakesOverAFileThatWasOpenedAndNotPlayed) {
-    struct CountingFiles final : SoundFiles {
-        MachineFiles machine;
-        int opened = 0;
-        FileFacts facts(const std::string& path) override { return machine.facts(path); }
-        std::unique_ptr<RecordFile> open(const std::string& path) override {
-            ++opened;
-            return machine.open(path);
-        }
-    };
-    auto files = std::make_shared<CountingFiles>();
+    const auto files = std::make_shared<WatchedFiles>();
     SoundFixture bench{files};
     const auto path = bench.folder.counting_wav("a.wav", 1);
     auto graph = bench.graph(path);

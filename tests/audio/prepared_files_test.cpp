@@ -32,5 +32,37 @@ TEST(PreparedFiles, KeepsTheLastFourAndForgetsTheOldest) {
         EXPECT_TRUE(files.take(path).has_value()) << path;
 }
 
+TEST(PreparedFiles, HaveNoPlaceForAFileThatWasTaken) {
+    PreparedFiles files;
+    for (const char* path : {"a", "b", "c", "d"})
+        files.keep(prepared(path));
+    EXPECT_TRUE(files.take("d").has_value());
+    files.keep(prepared("e"));
+    EXPECT_TRUE(files.take("a").has_value());
+}
+
+TEST(PreparedFiles, AreForgottenAfterTenSeconds) {
+    using namespace std::chrono_literals;
+    constexpr PreparedFiles::Instant now{1h};
+    PreparedFiles files;
+    files.keep(prepared("a"), now);
+    files.keep(prepared("b"), now + 1ns);
+    files.forget_old(now + 10s);
+    files.forget_old(now + 10s + 1ns);
+    EXPECT_FALSE(files.take("a").has_value());
+    EXPECT_TRUE(files.take("b").has_value());
+}
+
+TEST(PreparedFiles, GiveTheNewestOfOnePath) {
+    PreparedFiles files;
+    for (const double seconds : {1.0, 2.0}) {
+        PreparedFile file = prepared("a");
+        file.seconds = seconds;
+        files.keep(std::move(file));
+    }
+    EXPECT_EQ(files.take("a")->seconds, 2);
+    EXPECT_EQ(files.take("a")->seconds, 1);
+}
+
 } // namespace
 } // namespace sonarelle

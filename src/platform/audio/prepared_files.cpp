@@ -11,8 +11,8 @@ constexpr std::chrono::seconds kept_for{10};
 
 } // namespace
 
-void PreparedFiles::keep(PreparedFile file) {
-    files_.push_front({std::move(file), std::chrono::steady_clock::now()});
+void PreparedFiles::keep(PreparedFile file, Instant now) {
+    files_.push_front({std::move(file), now});
     if (files_.size() > most_kept)
         files_.pop_back();
 }
@@ -26,11 +26,8 @@ std::optional<PreparedFile> PreparedFiles::take(const std::string& path) {
     return file;
 }
 
-void PreparedFiles::forget_old() {
-    if (files_.empty())
-        return;
-    const auto limit = std::chrono::steady_clock::now() - kept_for;
-    files_.remove_if([limit](const Kept& kept) { return kept.since < limit; });
+void PreparedFiles::forget_old(Instant now) {
+    files_.remove_if([limit = now - kept_for](const Kept& kept) { return kept.since < limit; });
 }
 
 } // namespace sonarelle

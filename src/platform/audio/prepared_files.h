@@ -25,13 +25,14 @@ struct PreparedFile {
 /// one start. They are kept for seconds, so that no disk stays busy.
 class PreparedFiles {
 public:
-    void keep(PreparedFile file);
+    using Instant = std::chrono::steady_clock::time_point;
+
+    void keep(PreparedFile file, Instant now = std::chrono::steady_clock::now());
     /// What was prepared of this path; the file may have changed since.
     [[nodiscard]] std::optional<PreparedFile> take(const std::string& path);
-    void forget_old();
+    void forget_old(Instant now = std::chrono::steady_clock::now());
 
 private:
-    using Instant = std::chrono::steady_clock::time_point;
     struct Kept {
         PreparedFile file;
         Instant since;

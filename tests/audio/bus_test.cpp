@@ -99,6 +99,8 @@ public:
         return out;
     }
 
+    [[nodiscard]] Voice* voice() const { return voice_; }
+
     ProgrammeBus bus;
 
 private:
@@ -126,6 +128,59 @@ TEST(ProgrammeBus, GivesAVoiceBackOnceItHasFaded) {
     RealTimeWatch::begin();
     one.bus.housekeep();
     EXPECT_EQ(RealTimeWatch::end().allocations, 1);
+}
+
+TEST(ProgrammeBus, GivesBackEverythingWhenItGoes) {
+    const auto stream =
+        std::make_shared<SampleStream>(Frames{0}, Frames{1000}, std::size_t{1000}, std::make_shared<SoundTroubles>());
+    auto bus = std::make_unique<ProgrammeBus>();
+    const auto play = [&](Voice* voice, Frames at) {
+        bus->send({.kind = BusCommand::Kind::play, .at = at, .voice = voice, .ticket = new StreamTicket{stream}});
+    };
+    auto* sounding = new Voice;
+    auto* waiting = new Voice;
+    play(sounding, Frames{0});
+    std::vector<float> out(2 * 100);
+    bus->render(out.data(), 100);
+    for (int more = 0; more < 3000; ++more) // more than fit into the queue
+        play(waiting, seconds(60));
+    EXPECT_EQ(stream.use_count(), 3002);
+    bus.reset();
+    EXPECT_EQ(stream.use_count(), 1);
+}
+
+TEST(ProgrammeBus, ObeysAfterwardsWhatDidNotFitIntoTheQueue) {
+    OneVoice one;
+    for (int command = 0; command < 1100; ++command)
+        one.bus.send({.kind = BusCommand::Kind::gain, .voice = one.voice(), .gain = 0.5F});
+    one.play(Frames{0});
+    EXPECT_EQ(one.render(1)[1], 0.0F);
+    one.bus.housekeep();
+    EXPECT_EQ(one.render(1)[0], 0.5F * 0.001F);
+}
+
+TEST(ProgrammeBus, ObeysCommandsOnTheirFramesInTheMidstOfABlock) {
+    OneVoice one;
+    one.set_gain(0.25F);
+    one.play(Frames{3});
+    one.bus.send({.kind = BusCommand::Kind::halt, .at = Frames{400}, .voice = one.voice()});
+    one.bus.send({.kind = BusCommand::Kind::play, .at = Frames{900}, .voice = one.voice(), .position = Frames{397}});
+    const auto heard = one.render(1500);
+    for (int frame = 0; frame < 1500; ++frame) {
+        const double place = frame < 3 ? 0 : frame < 900 ? frame - 3 : frame - 900 + 397;
+        const double fade = frame < 400 || frame >= 900 ? 1 : std::max(0.0, 1 - (frame - 399) / 480.0);
+        ASSERT_NEAR(heard[static_cast<std::size_t>(2 * frame)], 0.25 * 0.001 * place * fade, 1e-6) << frame;
+    }
+    EXPECT_EQ(one.bus.late_commands(), 0);
+}
+
+TEST(ProgrammeBus, TakesJustTheLevelOfSilenceForSound) {
+    OneVoice one;
+    one.play(Frames{100'000});
+    (void)one.render(100'002); // frame 1 of the stream has a thousandth
+    EXPECT_EQ(one.bus.silence().until, Frames{100'001});
+    EXPECT_EQ(one.bus.silence().since, Frames{100'002});
+    EXPECT_EQ(one.bus.silence().known, Frames{100'002});
 }
 
 TEST(ProgrammeBus, TellsTheFrameOnWhichALongSilenceEnded) {

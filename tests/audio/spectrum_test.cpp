@@ -119,7 +119,10 @@ TEST(Spectrum, HearsWhatIsMissingAtTheBeginningAsSilence) {
     const auto newest = tone(3000, {1, 1}, 700);
     std::vector<float> padded(2 * (Spectrum::window_frames - 700));
     padded.insert(padded.end(), newest.begin(), newest.end());
-    EXPECT_EQ(bands_of(newest), bands_of(padded));
+    Spectrum spectrum{bands};
+    (void)spectrum.bands_of(tone(500, {1, 1}, Spectrum::window_frames));
+    const auto levels = spectrum.bands_of(newest);
+    EXPECT_EQ(std::vector<float>(levels.begin(), levels.end()), bands_of(padded));
 }
 
 TEST(Spectrum, GoesUpToHalfTheRateAndNoFurther) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "platform/audio/gain.h"
@@ -151,6 +152,103 @@ TEST_F(VoiceOnAir, HaltedFadesWhatWouldHaveComeNextInTenMilliseconds) {
     EXPECT_FLOAT_EQ(tail[2 * 239 + 1], 0.5F);
     EXPECT_EQ(tail[2 * 479 + 1], 0.0F);
     EXPECT_EQ(tail[2 * 480 + 1], 0.0F);
+}
+
+TEST_F(VoiceOnAir, GoesOnWithItsVolumeInAFade) {
+    put(3000);
+    play(Frames{0});
+    (void)hear(100);
+    voice.set_gain(0);
+    voice.halt(Frames{100});
+    const auto tail = hear(480);
+    for (std::size_t frame = 0; frame < 480; ++frame) {
+        const double gain = 1 - static_cast<double>(frame) / 480;
+        const double fade = 1 - static_cast<double>(frame + 1) / 480;
+        ASSERT_NEAR(tail[2 * frame + 1], gain * fade, 1e-6) << frame;
+    }
+    voice.play(nullptr, Frames{580}, Frames{100}, retired);
+    EXPECT_EQ(hear(1)[1], 0.0F);
+}
+
+TEST_F(VoiceOnAir, PlaysAndFadesAcrossTheEndOfItsRing) {
+    put(4096);
+    play(Frames{0});
+    (void)hear(4000);
+    put(1000);
+    const auto across = hear(200);
+    for (std::size_t frame = 0; frame < 200; ++frame)
+        ASSERT_FLOAT_EQ(across[2 * frame], unit * static_cast<float>(4000 + frame)) << frame;
+    put(3000);
+    put(96);
+    (void)hear(3800); // 192 frames before the end of the ring's second round
+    put(1000);
+    voice.halt(Frames{8000});
+    const auto tail = hear(500);
+    for (std::size_t frame = 0; frame < 500; ++frame) {
+        const double fade = std::max(0.0, 1 - static_cast<double>(frame + 1) / 480);
+        ASSERT_NEAR(tail[2 * frame], fade * unit * static_cast<float>(8000 + frame), 1e-5) << frame;
+    }
+}
+
+TEST_F(VoiceOnAir, FadesWhatIsThereOfAnEnd) {
+    put(300);
+    stream->finish();
+    play(Frames{0});
+    (void)hear(100);
+    voice.halt(Frames{100});
+    const auto tail = hear(480);
+    EXPECT_FLOAT_EQ(tail[2 * 199 + 1], 280.0F / 480);
+    for (std::size_t frame = 200; frame < 480; ++frame)
+        ASSERT_EQ(tail[2 * frame + 1], 0.0F) << frame;
+    EXPECT_EQ(starved(), 0);
+}
+
+TEST_F(VoiceOnAir, AddsToWhatOthersPlay) {
+    put(1000);
+    play(Frames{0});
+    std::vector<float> out(2 * 10, 0.5F);
+    voice.add_to(out, Frames{0});
+    EXPECT_EQ(out[2 * 9 + 1], 1.5F);
+    voice.halt(Frames{10});
+    std::ranges::fill(out, 0.5F);
+    voice.add_to(out, Frames{10});
+    EXPECT_FLOAT_EQ(out[1], 0.5F + 479.0F / 480);
+}
+
+TEST_F(VoiceOnAir, TakesAnotherStreamAndGivesTheOldOneBack) {
+    put(1000);
+    play(Frames{0});
+    (void)hear(100);
+    const auto other = std::make_shared<SampleStream>(Frames{500}, Frames{1000}, std::size_t{100}, troubles);
+    std::ranges::fill(other->room(), 0.25F);
+    other->written(100);
+    voice.play(new StreamTicket{other}, Frames{100}, Frames{500}, retired);
+    retired.free_all();
+    EXPECT_EQ(stream.use_count(), 1);
+    const auto heard = hear(150);
+    EXPECT_EQ(heard[0], 0.25F);
+    EXPECT_EQ(heard[2 * 99], 0.25F);
+    EXPECT_EQ(heard[2 * 100], 0.0F);
+    EXPECT_EQ(starved(), 50);
+}
+
+TEST_F(VoiceOnAir, EndsWithTheAnnouncedEndOfItsStream) {
+    put(4096);
+    play(Frames{0}, Frames{9900});
+    (void)hear(300);
+    EXPECT_EQ(starved(), 100) << "behind the end nothing is missing";
+}
+
+TEST_F(VoiceOnAir, IsDoneOnlyOnceItIsDropped) {
+    put(1000);
+    play(Frames{0});
+    EXPECT_FALSE(voice.is_done());
+    voice.halt(Frames{0});
+    EXPECT_FALSE(voice.is_done());
+    voice.drop(Frames{0}, retired);
+    EXPECT_TRUE(voice.is_done()) << "it was never heard";
+    retired.free_all();
+    EXPECT_EQ(stream.use_count(), 1);
 }
 
 TEST_F(VoiceOnAir, HaltedBeforeItWasHeardIsSilentAtOnce) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "memory_file.h"
 #include "platform/audio/wav_file_output.h"
 #include "platform/failure.h"
 #include "sound_fixture.h"
@@ -88,6 +89,30 @@ TEST(WavFileOutput, TellsThatTheDiskIsFullWhileItWrites) {
     EXPECT_EQ(errors.number(), FailureNumber::disk_full);
 }
 
+TEST(WavFileOutput, TellsAFolderThatIsNotThere) {
+    ErrorIndicator errors;
+    errors.skip([] { const WavFileOutput output{"/nulle/part/a.wav"}; });
+    EXPECT_EQ(errors.number(), FailureNumber::path_access);
+}
+
+TEST(WavFileOutput, IsAWholeFileWhenItIsDroppedOrClosedTwice) {
+    const SoundFolder folder;
+    const auto path = folder.path("a.wav");
+    {
+        WavFileOutput output{path};
+        output.write(std::vector<float>(2 * 100, 0.5F));
+    }
+    EXPECT_EQ(decoder_of(path)->duration(), 100.0 / 48'000);
+    EXPECT_EQ(samples_of(path), std::vector<std::int16_t>(2 * 100, 16'384));
+    WavFileOutput output{path};
+    output.close();
+    output.close();
+    EXPECT_EQ(std::filesystem::file_size(path), WavHead{}.size()) << "what was there before is gone";
+    std::ifstream file{path, std::ios::binary};
+    const std::string bytes{std::istreambuf_iterator<char>{file}, {}};
+    EXPECT_EQ(bytes, std::string(wav_head(0).data(), WavHead{}.size()));
+}
+
 TEST(WavFileOutput, GoesOnFromBlockToBlock) {
     const SoundFolder folder;
     WavFileOutput output{folder.path("a.wav")};
@@ -132,18 +157,26 @@ TEST(WavHead, CutRf64HasTheLengthOfWhatItHolds) {
     EXPECT_DOUBLE_EQ(decoder_of(path)->duration(), 3.0);
 }
 
-TEST(WavHead, TellsTheRateAndTheBytesOfASecondAndOfAFrame) {
-    const WavHead head = wav_head(48000ULL * 4);
-    const std::string_view bytes{head.data(), head.size()};
-    const std::size_t format = bytes.find("fmt ") + 8;
-    const auto number_at = [&](std::size_t at) {
-        std::uint32_t number = 0;
-        std::memcpy(&number, bytes.data() + format + at, sizeof number);
-        return number;
-    };
-    EXPECT_EQ(number_at(4), 48000U);
-    EXPECT_EQ(number_at(8), 48000U * 4);
-    EXPECT_EQ(number_at(12), 16U << 16 | 4U);
+std::string text_of(const WavHead& head) {
+    return {head.data(), head.size()};
+}
+
+// 48 kHz, stereo, 16 bit, and the room of the longer form.
+const std::string format = "fmt " + little_endian(16, 4) + little_endian(1, 2) + little_endian(2, 2) +
+                           little_endian(48'000, 4) + little_endian(192'000, 4) + little_endian(4, 2) +
+                           little_endian(16, 2);
+
+TEST(WavHead, IsAWholeHead) {
+    EXPECT_EQ(text_of(wav_head(192'000)), "RIFF" + little_endian(192'072, 4) + "WAVEJUNK" + little_endian(28, 4) +
+                                              std::string(28, '\0') + format + "data" + little_endian(192'000, 4));
+}
+
+TEST(WavHead, OfMoreThanFourGigabytesIsAWholeLongHead) {
+    const std::uint64_t bytes = 48'000ULL * 4 * 3600 * 10;
+    const std::string none = little_endian(UINT32_MAX, 4);
+    EXPECT_EQ(text_of(wav_head(bytes)), "RF64" + none + "WAVEds64" + little_endian(28, 4) +
+                                            little_endian(bytes + 72, 8) + little_endian(bytes, 8) +
+                                            little_endian(bytes / 4, 8) + little_endian(0, 4) + format + "data" + none);
 }
 
 TEST(WavHead, StaysTheShortOneUpToFourGigabytes) {

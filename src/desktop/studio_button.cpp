@@ -122,9 +122,11 @@ void StudioButton::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const bool over = is_under_pointer();
     QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
-    if (has_picture()) // whose signs are light
-        ground = mixed(studio::face, isDown() ? Qt::black : Qt::white, isDown() ? 0.35 : over ? 0.10 : 0);
     QColor ink = isDown() ? face_.ink_down : over ? face_.ink_over : face_.ink;
+    if (has_picture()) { // whose signs are light
+        ground = mixed(studio::face, isDown() ? Qt::black : Qt::white, isDown() ? 0.35 : over ? 0.10 : 0);
+        ink = legible(ink, ground);
+    }
     if (!isEnabled())
         painter.setOpacity(0.38);
     else if (accent_ != Accent::none)

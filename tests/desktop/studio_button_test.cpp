@@ -84,6 +84,13 @@ TEST_F(StudioButtons, AccentLightsTheFaceInItsColour) {
     }
 }
 
+TEST_F(StudioButtons, CaptionKeepsItsInkUntilItIsLit) {
+    button.set_face({Qt::black, Qt::yellow, Qt::black, Qt::yellow, Qt::black, Qt::yellow});
+    EXPECT_TRUE(is_near(ink_in(shown()), Qt::yellow, 30));
+    button.set_accent(Accent::trouble);
+    EXPECT_TRUE(is_near(ink_in(shown()), Qt::white, 30));
+}
+
 TEST_F(StudioButtons, AccentOfAButtonThatCantBeReachedIsDark) {
     button.setEnabled(false);
     const QImage rest = shown();
@@ -136,6 +143,7 @@ TEST_F(StudioButtons, LampGlowsInItsColour) {
     button.set_look(ButtonLook::lamp);
     button.set_accent(Accent::air);
     EXPECT_EQ(count_of(shown().copy(66, 16, 8, 8), studio::air), 64);
+    EXPECT_GT(count_of(shown(), mixed(studio::groove, studio::air, 0.35)), 40); // its halo
     button.set_accent(Accent::none);
     EXPECT_EQ(count_of(shown(), studio::air), 0);
 }
@@ -171,6 +179,23 @@ TEST_F(StudioButtons, AreNamedByTheirCaptionUnderASign) {
 TEST_F(ToldButtons, CaptionReadsInEveryTheme) {
     for (const Theme& theme : themes) {
         tell(theme);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name;
+        point_at(button);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name << ", pointer";
+        button.setDown(true);
+        EXPECT_GE(contrast_in(shown()), readable) << theme.name << ", down";
+        button.setDown(false);
+        leave(button);
+    }
+}
+
+TEST_F(ToldButtons, CaptionBesideAPictureReadsInEveryTheme) {
+    QPixmap picture{40, 40};
+    picture.fill(Qt::black);
+    button.set_pictures({picture, picture, picture});
+    for (const Theme& theme : themes) {
+        tell(theme);
+        button.set_pictures({picture, picture, picture});
         EXPECT_GE(contrast_in(shown()), readable) << theme.name;
         point_at(button);
         EXPECT_GE(contrast_in(shown()), readable) << theme.name << ", pointer";

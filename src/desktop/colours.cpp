@@ -23,7 +23,6 @@ QPalette studio_palette() {
     palette.setColor(QPalette::Base, studio::groove);
     palette.setColor(QPalette::AlternateBase, studio::panel);
     palette.setColor(QPalette::Text, studio::text);
-    palette.setColor(QPalette::Button, studio::face);
     palette.setColor(QPalette::ButtonText, studio::text);
     palette.setColor(QPalette::BrightText, studio::trouble);
     palette.setColor(QPalette::PlaceholderText, studio::quiet);

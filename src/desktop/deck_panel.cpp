@@ -147,7 +147,6 @@ QLayout* DeckPanel::volume(Dresser& dresser, Label& slider_stand_in) {
     // Full is at the top, and the keys follow the eye.
     slider->setInvertedAppearance(true);
     slider->setInvertedControls(true);
-    slider->setAccessibleName("Volume");
     slider->setMinimumHeight(70);
     auto* stand_in = dresser.label(slider_stand_in, {.characters = 3, .alignment = Qt::AlignCenter});
     auto* percent = dresser.label(controls_.percent, {.digits = true, .characters = 5, .alignment = Qt::AlignCenter});

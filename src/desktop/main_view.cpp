@@ -185,7 +185,6 @@ QWidget* MainView::status_line() {
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(18);
     auto* elapsed = dresser_.label(window_.elapsed, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
-    elapsed->setToolTip("Seconde en cours du lecteur principal");
     output_ = text_label(status);
     output_->setObjectName("output");
     played_ =

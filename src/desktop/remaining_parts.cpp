@@ -3,7 +3,6 @@
 #include <QBoxLayout>
 
 #include "desktop/flow_layout.h"
-#include "desktop/qt_text.h"
 
 namespace sonarelle {
 
@@ -27,7 +26,7 @@ bool is_button(const Control& control) {
 
 } // namespace
 
-QWidget* form_of_parts(Dresser& dresser, const Window& window) {
+QWidget* form_of_parts(Dresser& dresser) {
     auto* form = new QWidget;
     auto* column = new QVBoxLayout{form};
     column->setContentsMargins(14, 12, 14, 12);
@@ -48,7 +47,6 @@ QWidget* form_of_parts(Dresser& dresser, const Window& window) {
     }
     column->addStretch(1);
     column->addLayout(buttons);
-    form->setWindowTitle(to_qt(window.caption));
     return form;
 }
 

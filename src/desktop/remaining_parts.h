@@ -9,6 +9,6 @@ namespace sonarelle {
 [[nodiscard]] QWidget* remaining_parts(Dresser& dresser);
 
 /// The same as a form: one line a part, for windows that have no arrangement of their own.
-[[nodiscard]] QWidget* form_of_parts(Dresser& dresser, const Window& window);
+[[nodiscard]] QWidget* form_of_parts(Dresser& dresser);
 
 } // namespace sonarelle

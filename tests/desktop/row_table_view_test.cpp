@@ -1,45 +1,12 @@
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QTest>
 #include <set>
 
-#include "desktop/desktop_fixture.h"
-#include "desktop/pixels.h"
-#include "desktop/row_table_binding.h"
+#include "desktop/row_table_fixture.h"
 
 namespace sonarelle {
 
 namespace {
 
-class TableView : public DesktopFixture {
-protected:
-    void fill(int count) {
-        for (int row = 1; row <= count; ++row)
-            table.append({"D:\\titre " + std::to_string(row) + ".mp3", "0.10", "200.00", "Rock", "100", "00:03:20"});
-        settle();
-    }
-    [[nodiscard]] std::string shown(int row, int column = 0) const {
-        return widget.model()->index(row - 1, column).data().toString().toStdString();
-    }
-
-    void show() {
-        widget.resize(600, 300);
-        widget.show();
-        QApplication::setActiveWindow(&widget);
-        settle();
-    }
-    void press(int row, int column = 0, Qt::KeyboardModifiers keys = {}) {
-        const QRect cell = widget.visualRect(widget.model()->index(row - 1, column));
-        QTest::mouseClick(widget.viewport(), Qt::LeftButton, keys, cell.center());
-        settle();
-    }
-    [[nodiscard]] QLineEdit* editor() { return widget.findChild<QLineEdit*>(); }
-
-    RowTable table{window, "ListView1", {{"Chemin", Twips{3000}}, {"Début", Twips{900}}, {"Fin", Twips{9000}}}};
-    QTableView widget;
-    RowTableBinding binding{table, widget, services};
-};
+using TableView = TableFixture;
 
 TEST_F(TableView, ShowsTheRowsAndColumnsOfTheTable) {
     fill(3);
@@ -152,6 +119,29 @@ TEST_F(TableView, ArrowKeysChooseRowsAsPressesDo) {
     EXPECT_EQ(table.selected(), 2);
 }
 
+TEST_F(TableView, PressOnTheRowThatAnArrowChoseIsAClickToo) {
+    fill(3);
+    int clicks = 0;
+    table.on_click = [&] { ++clicks; };
+    show();
+    table.select(1);
+    settle();
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_EQ(clicks, 1);
+    press(2);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(table.selected(), 2);
+}
+
+TEST_F(TableView, BeginsWithTheSelectionOfTheTable) {
+    fill(3);
+    table.select(2);
+    QTableView later;
+    const RowTableBinding second{table, later, services};
+    EXPECT_EQ(later.currentIndex().row(), 1);
+    EXPECT_EQ(events, 0);
+}
+
 TEST_F(TableView, TabKeyStepsThroughNoCells) {
     fill(3);
     table.select(1);
@@ -176,16 +166,6 @@ TEST_F(TableView, HundredThousandRowsMakeNoWidgets) {
     fill(100000);
     EXPECT_EQ(widget.model()->rowCount(), 100000);
     EXPECT_EQ(widget.findChildren<QWidget*>().size(), before);
-}
-
-TEST_F(TableView, RowsOnTheAirAndNextAreTinted) {
-    fill(3);
-    binding.model().set_marks({.playing = 1, .next = 2});
-    const auto ground = [this](int row) { return widget.model()->index(row - 1, 0).data(Qt::BackgroundRole); };
-    EXPECT_TRUE(ground(1).isValid());
-    EXPECT_TRUE(ground(2).isValid());
-    EXPECT_NE(ground(1), ground(2));
-    EXPECT_FALSE(ground(3).isValid());
 }
 
 TEST_F(TableView, OpensNoEditorWhereEditingIsNotAutomatic) {
@@ -269,71 +249,6 @@ TEST_F(TableView, LettersAndKeysEditNoLabel) {
     QTest::keyClick(&widget, Qt::Key_F2);
     QTest::keyClick(&widget, Qt::Key_X);
     EXPECT_EQ(editor(), nullptr);
-}
-
-TEST_F(TableView, ColumnsAreAsWideAsTheStationWishesAndTheFirstTakesTheRest) {
-    show();
-    EXPECT_EQ(widget.columnWidth(1), 60);
-    EXPECT_EQ(widget.columnWidth(2), 104); // no other takes much from the paths
-    EXPECT_EQ(widget.columnWidth(0) + 164, widget.viewport()->width());
-    widget.resize(900, 300);
-    settle();
-    EXPECT_EQ(widget.columnWidth(1), 60);
-    EXPECT_EQ(widget.columnWidth(0) + 164, widget.viewport()->width());
-}
-
-TEST_F(TableView, CaptionsHaveTwoLinesAndRowsNoNumbers) {
-    show();
-    const QHeaderView& header = *widget.horizontalHeader();
-    EXPECT_GE(header.height(), 2 * header.fontMetrics().height());
-    EXPECT_TRUE(header.defaultAlignment().testFlag(Qt::AlignLeft));
-    EXPECT_TRUE(static_cast<int>(header.defaultAlignment()) & Qt::TextWordWrap);
-    EXPECT_TRUE(header.font().bold());
-    EXPECT_FALSE(widget.verticalHeader()->isVisible());
-}
-
-TEST_F(TableView, RowsHaveRoomForTheirText) {
-    fill(3);
-    show();
-    EXPECT_EQ(widget.rowHeight(1), widget.fontMetrics().height() + 10);
-}
-
-TEST_F(TableView, ScrollsByWholeRows) {
-    fill(500);
-    show();
-    table.ensure_visible(400);
-    settle();
-    EXPECT_EQ(widget.visualRect(widget.indexAt({5, 5})).top(), 0);
-    EXPECT_EQ(widget.verticalScrollBar()->value(), widget.rowAt(5));
-}
-
-TEST_F(TableView, ColoursOfTheStationAreTheRows) {
-    table.fore_colour = 0x000000;
-    table.back_colour = 0x80FFFF;
-    fill(1);
-    show();
-    settle();
-    EXPECT_EQ(ground_in(seen(*widget.viewport())), QColor(0xff, 0xff, 0x80));
-    EXPECT_TRUE(is_near(ink_in(seen(*widget.viewport())), Qt::black, 40));
-}
-
-TEST_F(TableView, SelectionOfAMarkedRowIsAnEdge) {
-    fill(3);
-    show();
-    binding.model().set_marks({.playing = 1, .next = 2});
-    const auto row = [this](int number) {
-        return seen(*widget.viewport()).copy(widget.visualRect(widget.model()->index(number - 1, 1)));
-    };
-    const QColor edge = widget.palette().color(QPalette::Highlight);
-    table.select(1);
-    settle();
-    EXPECT_GT(count_of(row(1), edge), 100);
-    EXPECT_LT(count_of(row(1), edge), 600);
-    EXPECT_EQ(count_of(row(2), edge), 0);
-    table.select(3);
-    settle();
-    EXPECT_EQ(count_of(row(1), edge), 0);
-    EXPECT_GT(count_of(row(3), edge), 600);
 }
 
 TEST_F(TableView, RowThatIsAddedOrTakenIsTheOnlyOneShownAnew) {

@@ -11,7 +11,6 @@ namespace sonarelle {
 
 namespace {
 
-using AnyBinding = DesktopFixture;
 using LabelBindings = DesktopFixture;
 using TextBoxBindings = DesktopFixture;
 using ButtonBindings = DesktopFixture;
@@ -19,96 +18,6 @@ using ImageBindings = DesktopFixture;
 using SliderBindings = DesktopFixture;
 using ProgressBindings = DesktopFixture;
 using RichTextBindings = DesktopFixture;
-
-class CountingShown : public Shown {
-public:
-    void show_value() override { ++shown; }
-    int shown = 0;
-};
-
-TEST_F(AnyBinding, TwentyChangesBetweenTwoPaintsAreShownOnce) {
-    CountingShown label;
-    for (int i = 0; i < 20; ++i)
-        updates.mark(label);
-    settle();
-    EXPECT_EQ(label.shown, 1);
-}
-
-TEST_F(AnyBinding, NamesTheWidgetAfterTheControl) {
-    Label label{window, "Étiquette"};
-    StationLabel widget;
-    const LabelBinding binding{label, widget, services};
-    EXPECT_EQ(widget.objectName(), "Étiquette");
-}
-
-TEST_F(AnyBinding, HintIsToolTipAndAccessibleName) {
-    Button button{window, "b"};
-    StudioButton widget;
-    const ButtonBinding binding{button, widget, services};
-    button.hint = "Stopper";
-    settle();
-    EXPECT_EQ(widget.toolTip(), "Stopper");
-    EXPECT_EQ(widget.accessibleName(), "Stopper");
-}
-
-TEST_F(AnyBinding, DisabledControlDisablesItsWidget) {
-    Button button{window, "b"};
-    StudioButton widget;
-    const ButtonBinding binding{button, widget, services};
-    button.enabled = false;
-    settle();
-    EXPECT_FALSE(widget.isEnabled());
-}
-
-TEST_F(AnyBinding, HiddenControlHidesItsWidget) {
-    QWidget parent;
-    Label label{window, "l"};
-    StationLabel widget{&parent};
-    const LabelBinding binding{label, widget, services};
-    parent.show();
-    label.visible = false;
-    settle();
-    EXPECT_FALSE(widget.isVisible());
-}
-
-TEST_F(AnyBinding, LetsGoOfItsControl) {
-    Label label{window, "l"};
-    {
-        StationLabel widget;
-        const LabelBinding binding{label, widget, services};
-    }
-    label.caption = "autre";
-    settle();
-    EXPECT_EQ(events, 0);
-}
-
-TEST_F(AnyBinding, PointerThatComesAndGoesIsTold) {
-    Label label{window, "l"};
-    int came = 0;
-    int left = 0;
-    label.on_mouse_move = [&] { ++came; };
-    StationLabel widget;
-    LabelBinding binding{label, widget, services};
-    binding.on_left = [&] { ++left; };
-    point_at(widget);
-    EXPECT_EQ(came, 1);
-    EXPECT_EQ(left, 0);
-    leave(widget);
-    EXPECT_EQ(came, 1);
-    EXPECT_EQ(left, 1);
-}
-
-TEST_F(AnyBinding, PointerThatNobodyFollowsIsNoEvent) {
-    Label label{window, "l"};
-    int left = 0;
-    StationLabel widget;
-    LabelBinding binding{label, widget, services};
-    binding.on_left = [&] { ++left; };
-    point_at(widget);
-    leave(widget);
-    EXPECT_EQ(events, 0);
-    EXPECT_EQ(left, 0);
-}
 
 TEST_F(LabelBindings, CaptionIsShownWithoutItsAccessMark) {
     Label label{window, "l"};
@@ -282,6 +191,28 @@ TEST_F(ProgressBindings, ValueCountsFromTheBeginningOfTheRange) {
     bar.value = 125;
     settle();
     EXPECT_DOUBLE_EQ(widget.share(), 0.25);
+}
+
+TEST_F(ProgressBindings, CaptionIsWrittenOverTheBar) {
+    ProgressBar bar{window, "p"};
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    widget.resize(200, 24);
+    settle();
+    EXPECT_EQ(count_of(seen(widget), studio::text), 0);
+    bar.caption = "&Vérification";
+    settle();
+    EXPECT_GT(count_of(seen(widget), studio::text), 20);
+}
+
+TEST_F(ProgressBindings, BarOfNoRangeIsEmpty) {
+    ProgressBar bar{window, "p"};
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    bar.maximum = 0;
+    bar.value = 5;
+    settle();
+    EXPECT_EQ(widget.share(), 0);
 }
 
 TEST_F(ProgressBindings, PressTellsItsPlaceInTheBarsUnits) {

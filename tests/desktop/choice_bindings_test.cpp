@@ -55,6 +55,28 @@ TEST_F(CheckBoxBindings, StaysClearWhereTheStationClearsItAgain) {
     EXPECT_FALSE(widget.isChecked());
 }
 
+TEST_F(CheckBoxBindings, PressThatTheStationDoesntTakeLeavesNoTick) {
+    CheckBox box{window, "c"};
+    QCheckBox widget;
+    const CheckBoxBinding binding{box, widget, services};
+    settle();
+    box.enabled = false; // and the box on the screen doesn't know yet
+    widget.click();
+    EXPECT_FALSE(widget.isChecked());
+}
+
+TEST_F(CheckBoxBindings, IsReachedByTheKeyboardAndKeepsNoKeyboardFromAPress) {
+    CheckBox box{window, "c"};
+    QCheckBox widget;
+    const CheckBoxBinding of_box{box, widget, services};
+    OptionGroup group;
+    OptionButton option{window, group, "o"};
+    QRadioButton radio;
+    const OptionBinding of_option{option, radio, services};
+    EXPECT_EQ(widget.focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(radio.focusPolicy(), Qt::TabFocus);
+}
+
 TEST_F(OptionBindings, ChoosingOneClearsTheOther) {
     OptionGroup group;
     OptionButton first{window, group, "o1"};

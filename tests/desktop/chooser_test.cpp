@@ -67,6 +67,36 @@ TEST_F(ChooserBindings, OpensItsListByAnArrow) {
     widget.hidePopup();
 }
 
+TEST_F(ChooserBindings, SpaceGivesTheKeyboardToTheWindowAndLettersDont) {
+    QWidget page;
+    widget.setParent(&page);
+    page.show();
+    widget.show();
+    QApplication::setActiveWindow(&page);
+    widget.setFocus(Qt::TabFocusReason);
+    std::u32string keys;
+    box.on_key_press = [&](char32_t key) { keys += key; };
+    QTest::keyClick(&widget, Qt::Key_D);
+    EXPECT_TRUE(widget.hasFocus());
+    QTest::keyClick(&widget, Qt::Key_Space);
+    EXPECT_FALSE(widget.hasFocus());
+    EXPECT_EQ(page.focusWidget(), &page);
+    EXPECT_EQ(keys, U"d ");
+    widget.setParent(nullptr);
+}
+
+TEST_F(ChooserBindings, ChoiceGivesTheKeyboardToTheWindow) {
+    QWidget page;
+    widget.setParent(&page);
+    page.show();
+    widget.show();
+    QApplication::setActiveWindow(&page);
+    widget.setFocus(Qt::TabFocusReason);
+    emit widget.activated(1);
+    EXPECT_EQ(page.focusWidget(), &page);
+    widget.setParent(nullptr);
+}
+
 TEST_F(ChooserBindings, WheelChoosesNothing) {
     QWheelEvent turn{{5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false};
     QCoreApplication::sendEvent(&widget, &turn);

@@ -85,6 +85,39 @@ protected:
 
 } // namespace
 
+TEST_F(AirHeaderTest, TellsNothingBeforeAnythingIsKnown) {
+    EXPECT_LT(red_share(), 0.01);
+    EXPECT_FALSE(label("air_silence").isVisible());
+    EXPECT_FALSE(label("air_notice").isVisible());
+    EXPECT_TRUE(label("remaining").isVisible());
+    EXPECT_EQ(label("remaining").text(), "00:00:00");
+}
+
+TEST_F(AirHeaderTest, StateHasItsInk) {
+    const auto ink = [this](DeckRole role) {
+        view.show_air(
+            {.role = role, .deck = 1, .title = {}, .left = {}, .next = "Ensuite : x", .notice = {}, .silence = {}});
+        settle();
+        return label("air_state").palette().color(QPalette::WindowText);
+    };
+    EXPECT_EQ(ink(DeckRole::on_air), mixed(studio::air, Qt::white, 0.25));
+    EXPECT_EQ(ink(DeckRole::heard), mixed(studio::air, Qt::white, 0.25));
+    EXPECT_EQ(ink(DeckRole::paused), mixed(studio::next, Qt::white, 0.25));
+    EXPECT_EQ(ink(DeckRole::empty), mixed(studio::text, Qt::white, 0.25));
+    EXPECT_EQ(label("air_next").palette().color(QPalette::WindowText), mixed(studio::next, Qt::white, 0.25));
+}
+
+TEST_F(AirHeaderTest, SaysWhatTheMainDeckDoes) {
+    const auto state = [this](DeckRole role) {
+        view.show_air({.role = role, .deck = 2, .title = {}, .left = {}, .next = {}, .notice = {}, .silence = {}});
+        return label("air_state").text();
+    };
+    EXPECT_EQ(state(DeckRole::on_air), "● À L'ANTENNE — Play 2");
+    EXPECT_EQ(state(DeckRole::paused), "EN PAUSE — Play 2");
+    EXPECT_EQ(state(DeckRole::ended), "EN ATTENTE");
+    EXPECT_EQ(state(DeckRole::loaded), "EN ATTENTE");
+}
+
 TEST_F(AirHeaderTest, IsRedWhileTheAirIsSilent) {
     be_silent_for("00:02");
     EXPECT_GT(red_share(), 0.6);

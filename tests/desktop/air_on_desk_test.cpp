@@ -126,6 +126,18 @@ TEST_F(AirOnDesk, SpecialMixIsToldAndTheAirGoesOnBelowIt) {
     EXPECT_NEAR(bar.share(), 0.40, 0.011);
 }
 
+TEST_F(AirOnDesk, SecondOfADeckIsThatOfItsBarWhileTheChainRuns) {
+    play_list();
+    machine.run_for(Frames{48000 * 30 + 20000});
+    settle();
+    auto& deck = station.main_window.deck(1);
+    auto& bar = part<ProgressStrip>(main_view(), deck.progress.name());
+    const auto labels = parts_of<StationLabel>(*bar.parentWidget());
+    const auto count = [&](const QString& text) { return std::ranges::count(labels, text, &StationLabel::text); };
+    EXPECT_GE(count(QString::number(deck.progress.value.get())), 1);
+    EXPECT_DOUBLE_EQ(bar.share(), deck.progress.value / 100.0);
+}
+
 TEST_F(AirOnDesk, SoundThatGoesOnAfterAStopIsTold) {
     play_list();
     run_for(97);

@@ -142,6 +142,7 @@ TEST_F(FileThatIsChosen, IsAskedForInTheStationsWords) {
         EXPECT_EQ(dialog.windowTitle(), "Ouvrir une liste");
         EXPECT_EQ(dialog.nameFilters(), QStringList{"fichier (*.dfm)"});
         EXPECT_EQ(dialog.directory().path(), lists.path());
+        EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog)); // which couldn't be kept open
         dialog.reject();
     });
     static_cast<void>(dialogs.open_file(asked));

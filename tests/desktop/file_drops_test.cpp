@@ -69,6 +69,32 @@ TEST_F(FileDropsOnAButton, ArePossibleOnThePanelAroundIt) {
     EXPECT_EQ(dropped, Paths{"C:/m/a.mp3"});
 }
 
+TEST_F(FileDropsOnAButton, AreNotHandedOverWhileTheyPassOverIt) {
+    QMimeData data;
+    data.setUrls({file("/m/a.mp3")});
+    QDragEnterEvent enter{{2, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+    QDragMoveEvent move{{4, 4}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+    for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move}) {
+        QCoreApplication::sendEvent(&panel, event);
+        EXPECT_TRUE(event->isAccepted());
+    }
+    settle();
+    EXPECT_EQ(dropped, Paths{});
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(FileDropsOnAButton, AreHandedOverOnceTheOtherProgramHasGone) {
+    QMimeData data;
+    data.setUrls({file("/m/a.mp3")});
+    QDragEnterEvent enter{{2, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+    QCoreApplication::sendEvent(&panel, &enter);
+    QDropEvent event{{2, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+    QCoreApplication::sendEvent(&panel, &event);
+    EXPECT_EQ(dropped, Paths{});
+    settle();
+    EXPECT_EQ(dropped, Paths{"C:/m/a.mp3"});
+}
+
 TEST_F(FileDropsOnAButton, OfAnAddressAreNotTaken) {
     EXPECT_FALSE(drop(panel, {QUrl{"https://sonarelle.example/a.mp3"}}));
 }

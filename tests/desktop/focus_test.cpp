@@ -6,6 +6,7 @@
 
 #include "desktop/colours.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/pixels.h"
 
 namespace sonarelle {
 
@@ -54,6 +55,16 @@ TEST_F(Focus, IsFramedOnASlider) {
 TEST_F(Focus, IsFramedOnAQuickLoadBox) {
     QComboBox box;
     EXPECT_GT(marked(box), 100);
+}
+
+TEST_F(Focus, LeavesTheControlItselfToBeSeen) {
+    QComboBox box;
+    box.addItem("Favoris");
+    box.resize(160, 30);
+    EXPECT_GE(contrast_in(seen(box)), readable);
+    QSlider slider{Qt::Horizontal};
+    slider.resize(160, 24);
+    EXPECT_GE(contrast_in(seen(slider)), 1.5);
 }
 
 } // namespace sonarelle

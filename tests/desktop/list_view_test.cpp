@@ -77,6 +77,14 @@ TEST_F(ListWindow, BothWindowsShowOneClockFromTheBeginning) {
     EXPECT_EQ(label(list().time_of_day).text(), part<StationLabel>(main_view(), "clock").text());
 }
 
+TEST_F(ListWindow, TellsTheAirAtOnce) {
+    list_view().show_air({.title = "Matin", .left = "00:01:00", .clock = "10:00:00"});
+    EXPECT_EQ(label(list().track_name).text(), "Matin");
+    EXPECT_EQ(label(list().remaining).text(), "00:01:00");
+    EXPECT_EQ(label(list().time_of_day).text(), "10:00:00");
+    EXPECT_EQ(list_view().windowTitle(), "Matin");
+}
+
 TEST_F(ListWindow, BothWindowsShowOneRemainder) {
     EXPECT_EQ(label(list().remaining).text(), part<StationLabel>(main_view(), "remaining").text());
 }

@@ -168,6 +168,34 @@ TEST_F(MainWindow, PointerThatLeavesALabelGivesItsColourBack) {
     EXPECT_EQ(main().display_label.fore_colour.get(), 0x808080);
 }
 
+TEST_F(MainWindow, PointerOverTheGroundsOfItsPartsIsOverTheWindow) {
+    int moves = 0;
+    main().on_mouse_move = [&] { ++moves; };
+    std::vector<QWidget*> grounds{&main_view().content(), &part(main_view(), "air_header"),
+                                  label("Label12").parentWidget()};
+    for (Panel* panel : parts_of<Panel>(main_view()))
+        grounds.push_back(panel);
+    for (QWidget* ground : grounds) {
+        moves = 0;
+        QMouseEvent move{QEvent::MouseMove, QPointF{2, 2}, QPointF{2, 2}, Qt::NoButton, Qt::NoButton, {}};
+        QCoreApplication::sendEvent(ground, &move);
+        EXPECT_EQ(moves, 1) << ground->objectName().toStdString();
+    }
+}
+
+TEST_F(MainWindow, BannerIsSeenWholeWhileNothingIsWrong) {
+    QWidget& banner = part(main_view(), main().banner.name());
+    EXPECT_TRUE(banner.isVisible());
+    EXPECT_EQ(banner.size(), QSize(475, 40));
+    EXPECT_EQ(banner.visibleRegion().boundingRect().size(), QSize(475, 40));
+    desktop->show_output("sortie : aucune carte son", true);
+    settle();
+    EXPECT_FALSE(banner.isVisible());
+    desktop->show_output("sortie : la carte son joue", false);
+    settle();
+    EXPECT_TRUE(banner.isVisible());
+}
+
 TEST_F(MainWindow, SlidersAreTurnedSoThatFullIsAtTheTop) {
     auto& slider = part<QSlider>(main_view(), main().deck(1).slider.name());
     EXPECT_TRUE(slider.invertedAppearance());

@@ -1,5 +1,7 @@
 // What an entry of a menu shows of the station's.
 #include <QMenu>
+#include <QTest>
+#include <QWindow>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
@@ -65,6 +67,67 @@ TEST_F(MenuEntries, CaptionAndHintFollow) {
     settle();
     EXPECT_EQ(shown(carte.Vider).text(), "Vider la liste");
     EXPECT_EQ(shown(carte.Vider).toolTip(), "Toutes les lignes");
+}
+
+TEST_F(MenuEntries, HintIsShownInTheMenu) {
+    EXPECT_TRUE(view.menus().menu(carte.Liste)->toolTipsVisible());
+}
+
+TEST_F(MenuEntries, LetGoOfTheirItems) {
+    {
+        Carte passing;
+        {
+            const WindowView closed{passing, services, {300, 200}};
+            passing.Lire.caption = "Écouter"; // and the view goes before it is shown
+        }
+        passing.Lire.caption = "Lire encore";
+        passing.popup(passing.Liste);
+        settle();
+    }
+    EXPECT_EQ(events, 0);
+}
+
+TEST_F(MenuEntries, MenuOpensWhereThePointerIsWithoutAPartToOpenUnder) {
+    carte.show();
+    settle();
+    Label hidden{carte, "hidden"};
+    for (const Control* under : {static_cast<const Control*>(nullptr), static_cast<const Control*>(&hidden)}) {
+        carte.popup(carte.Liste, under);
+        QMenu& menu = *view.menus().menu(carte.Liste);
+        EXPECT_TRUE(menu.isVisible());
+        EXPECT_TRUE(menu.geometry().adjusted(-2, -2, 2, 2).contains(QCursor::pos()));
+        menu.close();
+    }
+}
+
+TEST_F(MenuEntries, EntryThatIsNoMenuOpensNothing) {
+    carte.show();
+    settle();
+    carte.popup(carte.Lire);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(MenuEntries, ShortcutIsTheWindowsWhileTheBarIsHidden) {
+    int clicks = 0;
+    carte.Lire.on_click = [&] { ++clicks; };
+    carte.show();
+    settle();
+    QApplication::setActiveWindow(&view);
+    carte.Liste.visible = false;
+    settle();
+    QTest::keyClick(view.windowHandle(), Qt::Key_F6);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MenuEntries, AreToldAgainWhenTheMenuOpens) {
+    carte.Liste.on_open = [this] { carte.Vider.caption = "Vider (3)"; };
+    carte.show();
+    settle();
+    QMenu& menu = *view.menus().menu(carte.Liste);
+    menu.popup({0, 0});
+    EXPECT_EQ(shown(carte.Vider).text(), "Vider (3)");
+    EXPECT_EQ(events, 1);
+    menu.close();
 }
 
 TEST_F(MenuEntries, MenuInAMenuHangsThere) {

@@ -66,6 +66,7 @@ TEST_F(Banner, MovieStandsUntilItIsPlayed) {
     show("film.gif");
     ASSERT_NE(label.movie(), nullptr);
     EXPECT_FALSE(plays());
+    EXPECT_EQ(colour(), QColor(Qt::red));
     movie.Play();
     settle();
     EXPECT_TRUE(plays());

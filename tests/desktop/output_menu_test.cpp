@@ -42,6 +42,27 @@ protected:
 
 } // namespace
 
+TEST_F(OutputMenu, HangsBelowALine) {
+    const auto entries_of_options = main_view().menus().menu(station.main_window.Option_)->actions();
+    EXPECT_TRUE(entries_of_options[entries_of_options.size() - 2]->isSeparator());
+    EXPECT_EQ(entries_of_options.back()->text(), "Sortie audio");
+    EXPECT_EQ(entries_of_options.back()->menu()->objectName(), "Sortie_audio");
+}
+
+TEST_F(OutputMenu, EntriesAreAskedForEachTimeAndStandOnce) {
+    entries();
+    EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&&D"}));
+    for (const QAction* entry : entries())
+        EXPECT_TRUE(entry->isCheckable());
+}
+
+TEST_F(OutputMenu, ChoiceGoesThroughTheDoor) {
+    const int before = events;
+    entries()[1]->trigger();
+    EXPECT_EQ(chosen, "Studio");
+    EXPECT_GT(events, before);
+}
+
 TEST_F(OutputMenu, OffersTheDefaultOutputAndEachCard) {
     EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&&D"}));
 }

@@ -74,6 +74,16 @@ TEST_P(PartsOnView, ThatTheKeyboardReachesHaveAName) {
         }
 }
 
+TEST_F(StationViews, PictureOfTheSplashFillsIt) {
+    station.splash.show();
+    settle();
+    QWidget& splash = *desktop->widget_of(station.splash);
+    const QWidget& picture = part(splash, station.splash.picture.name());
+    EXPECT_GE(picture.width(), splash.width() - 10);
+    EXPECT_GE(picture.height(), splash.height() - 10);
+    EXPECT_TRUE(splash.windowFlags().testFlag(Qt::SplashScreen));
+}
+
 TEST_P(PartsOnView, ThatArePressedAreReachedByTheKeyboardToo) {
     for (const Control* control : window().controls())
         if (control->kind() == ControlKind::button || control->kind() == ControlKind::graphic_button) {

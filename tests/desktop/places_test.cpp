@@ -31,6 +31,26 @@ TEST_F(WindowPlaces, PartlyRightOfTheScreenIsNotTaken) {
     EXPECT_EQ(view.x() + view.frameGeometry().width(), right + 1);
 }
 
+TEST_F(WindowPlaces, ThatLiesBeyondTheScreenIsMendedBeforeItIsSeen) {
+    window.left = Twips{15 * 5000};
+    window.top = Twips{15 * 5000};
+    settle();
+    EXPECT_FALSE(view.isVisible());
+    EXPECT_EQ(window.left.get(), Twips{15 * view.x()});
+    EXPECT_EQ(window.top.get(), Twips{15 * view.y()});
+    EXPECT_TRUE(view.screen()->availableGeometry().contains(view.geometry()));
+}
+
+TEST_F(WindowPlaces, OnTheScreenIsTakenAsItIs) {
+    window.left = Twips{15 * 70};
+    window.top = Twips{15 * 90};
+    window.show();
+    settle();
+    EXPECT_EQ(view.pos(), QPoint(70, 90));
+    EXPECT_EQ(window.left.get(), Twips{15 * 70});
+    EXPECT_EQ(window.top.get(), Twips{15 * 90});
+}
+
 TEST_F(WindowPlaces, LeftOfTheScreenIsNotTaken) {
     window.left = Twips{-15 * 200};
     window.show();

@@ -137,6 +137,14 @@ TEST_F(Strip, PressAndMoveTellTheirPlace) {
     EXPECT_EQ(places, (std::vector{0.25, 0.75}));
 }
 
+TEST_F(Strip, PointerIsFollowedWithoutAButton) {
+    double place = -1;
+    strip.on_move = [&](double share) { place = share; };
+    QMouseEvent move{QEvent::MouseMove, QPointF{50, 10}, QPointF{50, 10}, Qt::NoButton, Qt::NoButton, {}};
+    QCoreApplication::sendEvent(&strip, &move);
+    EXPECT_EQ(place, 0.25);
+}
+
 TEST_F(Strip, PressThatNobodyWantsGoesToWhatLiesBehind) {
     QMouseEvent press{QEvent::MouseButtonPress, QPointF{50, 10}, QPointF{50, 10}, Qt::LeftButton, Qt::LeftButton, {}};
     QCoreApplication::sendEvent(&strip, &press);

@@ -94,6 +94,7 @@ TEST(LevelScale, GoesFromMinus48DecibelsToFull) {
 TEST(Loudness, IsWrittenAsStationsWriteIt) {
     EXPECT_EQ(loudness_text(-16.24), "−16,2 LUFS");
     EXPECT_EQ(loudness_text(1.0), "1,0 LUFS");
+    EXPECT_EQ(loudness_text(0.0), "0,0 LUFS");
     EXPECT_EQ(loudness_text({}), "— LUFS");
 }
 
@@ -112,6 +113,21 @@ TEST_F(Meter, EachChannelHasItsBar) {
     EXPECT_NEAR(lit(0), 50, 2);
     EXPECT_NEAR(lit(1), 17, 2);
     EXPECT_TRUE(is_near(at(0, 20), studio::air));
+}
+
+TEST_F(Meter, IsPaintedWhenTheLevelChanges) {
+    struct PaintCounter : QObject {
+        bool eventFilter(QObject* object, QEvent* event) override {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return QObject::eventFilter(object, event);
+        }
+        int paints = 0;
+    } counter;
+    show_peaks(0, 0);
+    meter.installEventFilter(&counter);
+    source.level.peak = {0.5F, 0.5F};
+    EXPECT_TRUE(becomes([&] { return counter.paints > 0; }));
+    meter.removeEventFilter(&counter);
 }
 
 TEST_F(Meter, IsRedAtTheTopOnly) {

@@ -93,6 +93,12 @@ TEST_F(StateOfAWindow, PlaceAndSizeOfAReducedOneAreNotTaken) {
     EXPECT_EQ(window.left.get(), Twips{600});
 }
 
+TEST_F(StateOfAWindow, WithoutASizeOfTheStationIsAsSmallAsItMay) {
+    show();
+    EXPECT_EQ(view.size(), QSize(300, 200));
+    EXPECT_EQ(view.minimumSize(), QSize(300, 200));
+}
+
 TEST_F(StateOfAWindow, SizeIsNotTakenBeforeItIsSeen) {
     view.resize(640, 480);
     view.move(40, 30);
@@ -156,6 +162,15 @@ TEST_F(StateOfAWindow, MovesOfThePointerAreTheWindows) {
     QTest::mouseMove(&view, {50, 60});
     QTest::mouseMove(&view, {70, 80});
     EXPECT_GE(moves, 1);
+}
+
+TEST_F(StateOfAWindow, BusyPointerIsNoOtherPlace) {
+    show();
+    view.move(40, 30);
+    settle();
+    window.mouse_pointer = 11;
+    settle();
+    EXPECT_EQ(view.pos(), QPoint(40, 30));
 }
 
 TEST_F(StateOfAWindow, HeldReturnKeyPressesItsButtonOnce) {

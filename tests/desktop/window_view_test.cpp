@@ -236,6 +236,44 @@ TEST_F(View, BecomesActiveEachTimeTheOperatorComesBackToIt) {
     EXPECT_EQ(activations, 1);
 }
 
+TEST_F(View, IsNotActiveOnceItIsHiddenAgain) {
+    int activations = 0;
+    feuille.on_activate = [&] { ++activations; };
+    feuille.show();
+    updates.flush();
+    activations = 0;
+    feuille.hide();
+    settle();
+    EXPECT_EQ(activations, 0);
+}
+
+TEST_F(View, ShownAgainIsNoOtherPlaceOrSize) {
+    show();
+    view.move(40, 30);
+    view.resize(640, 480);
+    settle();
+    feuille.hide();
+    settle();
+    show();
+    EXPECT_EQ(view.geometry().size(), QSize(640, 480));
+    EXPECT_EQ(view.pos(), QPoint(40, 30));
+}
+
+TEST_F(View, RightAndLeftPressesAreToldApart) {
+    std::string seen;
+    feuille.on_click = [&] { seen += "clic "; };
+    feuille.on_right_click = [&] { seen += "droit "; };
+    feuille.on_double_click = [&] { seen += "double "; };
+    show();
+    QTest::mouseClick(&view, Qt::RightButton);
+    EXPECT_EQ(seen, "droit ");
+    QTest::mouseClick(&view, Qt::MiddleButton);
+    EXPECT_EQ(seen, "droit ");
+    QMouseEvent twice{QEvent::MouseButtonDblClick, QPointF{5, 5}, QPointF{5, 5}, Qt::RightButton, Qt::RightButton, {}};
+    QCoreApplication::sendEvent(&view, &twice);
+    EXPECT_EQ(seen, "droit ");
+}
+
 TEST_F(MenuBinding, EntriesHangUnderTheirMenuWithALineBetweenGroups) {
     const auto actions = view.menus().menu(feuille.Fichier)->actions();
     ASSERT_EQ(actions.size(), 3);

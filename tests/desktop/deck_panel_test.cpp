@@ -59,7 +59,7 @@ TEST_F(DeckPanels, LampGlowsWhileItIsLit) {
     const auto glow = [this] { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(1, 7); };
     show(DeckRole::empty);
     const QColor dark = glow();
-    show(DeckRole::on_air);
+    show(DeckRole::heard); // whose plate is the dark one
     EXPECT_TRUE(is_green(glow()));
     show(DeckRole::empty);
     EXPECT_EQ(glow(), dark);

@@ -1,6 +1,7 @@
 // What holds of the parts of every window, in whatever order they stand.
 #include <QAccessible>
 #include <QGroupBox>
+#include <QLayout>
 
 #include "desktop/station_views.h"
 
@@ -37,6 +38,16 @@ protected:
     [[nodiscard]] QRect place_of(const QWidget& part) { return {part.mapTo(&view(), QPoint{}), part.size()}; }
 };
 
+/// Whether a layout or one inside it gives a widget its place.
+bool places(const QLayout* layout, const QWidget* part) {
+    if (layout == nullptr)
+        return false;
+    for (int at = 0; at < layout->count(); ++at)
+        if (QLayoutItem& item = *layout->itemAt(at); item.widget() == part || places(item.layout(), part))
+            return true;
+    return false;
+}
+
 std::string name_of(const QWidget* part) {
     return part->objectName().toStdString();
 }
@@ -46,6 +57,14 @@ std::string name_of(const QWidget* part) {
 TEST_P(PartsOnView, AreAllThere) {
     for (const QWidget* part : parts())
         EXPECT_TRUE(part != nullptr && part->parentWidget()->isVisible());
+}
+
+TEST_P(PartsOnView, HaveAPlaceOfTheirOwn) {
+    for (const Control* control : window().controls()) {
+        const bool is_part = control->kind() != ControlKind::menu_item && control->kind() != ControlKind::movie;
+        const auto* part = view().findChild<QWidget*>(QString::fromStdString(control->name()));
+        EXPECT_TRUE(!is_part || places(part->parentWidget()->layout(), part)) << control->name();
+    }
 }
 
 TEST_P(PartsOnView, StandApart) {

@@ -19,7 +19,9 @@ const AVCodec* decoder_of(AVCodecID id) {
 } // namespace
 
 CodecSession::CodecSession()
-    : frame_{allocated(av_frame_alloc())} {}
+    : frame_{allocated(av_frame_alloc())} {
+    av_log_set_level(AV_LOG_QUIET); // what matters is counted
+}
 
 std::unique_ptr<CodecSession> CodecSession::open(const AVCodecParameters& parameters) {
     const AVCodec* codec = decoder_of(parameters.codec_id);

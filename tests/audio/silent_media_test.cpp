@@ -92,6 +92,7 @@ TEST_F(SilentGraphs, AreSilentButWhileTheyRun) {
     expect_silence(seconds(3), Frames{});
     graph->Pause();
     time.run_for(seconds(3));
+    expect_silence(seconds(3), Frames{});
     graph->Run();
     time.run_for(seconds(1));
     expect_silence(seconds(7), seconds(6));

@@ -25,7 +25,6 @@ public:
             PreparedFile file = media_.opener_.open(media_.resolve_(path));
             has_sound_ = file.decoder->has_sound();
             has_video_ = file.decoder->has_pictures();
-            transport_ = {};
             transport_.open(file.seconds);
             media_.opener_.keep(std::move(file));
         } catch (const Failure& failure) {

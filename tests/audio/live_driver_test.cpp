@@ -181,6 +181,51 @@ TEST(LiveDriver, StopWakesTheLoopThatSleeps) {
     EXPECT_TRUE(wakes(live.driver));
 }
 
+TEST(LiveDriver, HasASecondForItsHousekeepingWhenNothingIsDue) {
+    LiveFixture live;
+    EXPECT_EQ(live.driver.poll(), 1s);
+    Timer timer{"Timer1", 1, live.scheduler};
+    timer.set_interval(Integer{200});
+    timer.on_tick = [] {};
+    timer.enable();
+    EXPECT_GE(live.driver.poll(), 1ms);
+    EXPECT_LE(live.driver.poll(), 200ms);
+}
+
+TEST(LiveDriver, StopEndsAWait) {
+    LiveFixture live;
+    live.driver.post([&] {
+        live.driver.stop();
+        live.clock.wait(seconds(3600));
+    });
+    live.driver.run();
+    EXPECT_TRUE(live.driver.is_stopped());
+    EXPECT_EQ(live.bus.rendered(), Frames{});
+}
+
+TEST(LiveDriver, LeavesTheClockAloneWhenItGoes) {
+    LiveFixture live;
+    {
+        LiveDriver other{live.scheduler, live.clock, live.bus, live.media};
+        EXPECT_TRUE(live.clock.run_until);
+        EXPECT_TRUE(live.clock.run_pending);
+    }
+    EXPECT_FALSE(live.clock.run_until);
+    EXPECT_FALSE(live.clock.run_pending);
+}
+
+TEST(LiveDriver, RunsWhatAnEventPostsBehindIt) {
+    LiveFixture live;
+    std::string order;
+    live.driver.post([&] {
+        live.driver.post([&] { order += 'b'; });
+        order += 'a';
+    });
+    live.driver.post([&] { order += 'c'; });
+    static_cast<void>(live.driver.poll());
+    EXPECT_EQ(order, "acb");
+}
+
 TEST(LiveDriver, OtherTimersRunOnWhileOneWaits) {
     LiveFixture live;
     Timer waiting{"Timer2", 2, live.scheduler};

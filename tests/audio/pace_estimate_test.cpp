@@ -57,5 +57,39 @@ TEST(PaceEstimate, BeginsAnewAfterAStall) {
     EXPECT_GE(pace.when_rendered(block + block + block), start + 5s + 42ms);
 }
 
+TEST(PaceEstimate, GivesTheMomentOfWhatIsRenderedAlreadyAsItWas) {
+    PaceEstimate pace;
+    pace.observe(Frames{4800}, Frames{480}, Frames{960}, start);
+    EXPECT_EQ(pace.when_rendered(Frames{4800}), start);
+    EXPECT_EQ(pace.when_rendered(Frames{100}), start);
+    EXPECT_EQ(pace.when_rendered(Frames{4801}), start + 10ms);
+    EXPECT_EQ(pace.when_rendered(Frames{5280}), start + 10ms);
+    EXPECT_EQ(pace.when_rendered(Frames{5281}), start + 20ms);
+}
+
+TEST(PaceEstimate, KeepsTheEarliestSightAndForgetsAThousandthOfTheTimeSince) {
+    PaceEstimate pace;
+    pace.observe(Frames{480}, Frames{480}, Frames{960}, start);
+    pace.observe(Frames{48'480}, Frames{480}, Frames{960}, start + 1s + 100ms);
+    EXPECT_EQ(pace.when_rendered(Frames{48'480}), start + 1s + 1100us);
+    pace.observe(Frames{96'480}, Frames{480}, Frames{960}, start + 2s);
+    EXPECT_EQ(pace.when_rendered(Frames{96'480}), start + 2s) << "seen earlier again";
+}
+
+TEST(PaceEstimate, TakesMoreThanItsReachAndAFifthOfASecondForAStall) {
+    for (const auto& [late, stalls] : {std::pair{220ms, false}, {221ms, true}}) { // the reach is 20 ms
+        PaceEstimate pace;
+        pace.observe(Frames{480}, Frames{480}, Frames{960}, start);
+        pace.observe(Frames{960}, Frames{480}, Frames{960}, start + 10ms + late);
+        EXPECT_EQ(pace.when_rendered(Frames{960}) == start + 10ms + late, stalls) << late.count();
+    }
+}
+
+TEST(PaceEstimate, KnowsNoBlockBeforeTheFirstOne) {
+    PaceEstimate pace;
+    pace.observe(Frames{0}, Frames{0}, Frames{0}, start);
+    EXPECT_EQ(pace.when_rendered(Frames{480}), start + 10ms);
+}
+
 } // namespace
 } // namespace sonarelle

@@ -83,6 +83,32 @@ TEST(PullBursts, AreForgottenOverALongSilence) {
     EXPECT_EQ(card.greatest_in_blocks(), 1);
 }
 
+TEST(PullBursts, EndTenMillisecondsBehindTheirFirstBlock) {
+    PullBursts bursts;
+    constexpr PullBursts::Instant now{1h};
+    bursts.pulled(Frames{100}, now);
+    bursts.pulled(Frames{20}, now + 10ms - 1ns);
+    EXPECT_EQ(bursts.greatest(), Frames{120});
+    bursts.pulled(Frames{119}, now + 10ms);
+    EXPECT_EQ(bursts.greatest(), Frames{120});
+    bursts.pulled(Frames{2}, now + 20ms - 1ns);
+    EXPECT_EQ(bursts.greatest(), Frames{121});
+}
+
+TEST(PullBursts, AreForgottenAMinuteBehindTheirOwn) {
+    PullBursts bursts;
+    constexpr PullBursts::Instant now{1h};
+    const auto greatest_after = [&](PullBursts::Instant pulled_at) {
+        bursts.pulled(Frames{10}, pulled_at);
+        return bursts.greatest();
+    };
+    bursts.pulled(Frames{500}, now);
+    EXPECT_EQ(greatest_after(now + 60s - 1ns), Frames{500});
+    EXPECT_EQ(greatest_after(now + 60s), Frames{500});
+    EXPECT_EQ(greatest_after(now + 120s - 1ns), Frames{500});
+    EXPECT_EQ(greatest_after(now + 120s), Frames{20}) << "two blocks on end";
+}
+
 TEST(PullReach, IsTwoBlocksWhereBlocksComeOneByOne) {
     ProgrammeBus bus;
     std::vector<float> block(2 * 1024);

@@ -285,6 +285,30 @@ TEST(BusTaps, ShowPeakAndTheNewestFrames) {
     EXPECT_TRUE(std::equal(newest.begin(), newest.end(), bench.heard.end() - 200));
 }
 
+TEST(BusTaps, GiveAsManyOfTheNewestFramesAsAreAskedForUpToHalf) {
+    constexpr std::size_t half = BusTaps::kept_frames / 2;
+    const auto taps = std::make_unique<BusTaps>();
+    for (int block = 0; block < 50; ++block) {
+        std::vector<float> frames;
+        for (int frame = 1000 * block; frame < 1000 * (block + 1); ++frame)
+            frames.insert(frames.end(), {static_cast<float>(frame), -static_cast<float>(frame)});
+        taps->take(frames, Level{}, Frames{1000 * block});
+    }
+    EXPECT_EQ(taps->end(), Frames{50'000});
+    for (const std::size_t asked : {std::size_t{0}, std::size_t{1}, std::size_t{777}, half, half + 5}) {
+        std::vector<float> frames(2 * asked + 2, 0.5F);
+        taps->newest(std::span{frames}.first(2 * asked));
+        const std::size_t given = std::min(asked, half);
+        for (std::size_t frame = 0; frame < given; ++frame) {
+            const auto number = static_cast<float>(50'000 - given + frame);
+            ASSERT_EQ(frames[2 * frame], number) << asked;
+            ASSERT_EQ(frames[2 * frame + 1], -number) << asked;
+        }
+        EXPECT_EQ(frames[2 * given], 0.5F) << asked;
+        EXPECT_EQ(frames[2 * given + 1], 0.5F) << asked;
+    }
+}
+
 TEST(BusTaps, KeepTheGreatestLevelOfEachChannelUntilItIsAskedFor) {
     const auto taps = std::make_unique<BusTaps>();
     const std::vector<float> frame(2);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "memory_file.h"
 #include "sound_fixture.h"
 
 namespace sonarelle {
@@ -73,6 +74,24 @@ TEST_F(Lossless, GivesOneChannelOnBothSides) {
             ASSERT_EQ(mono[2 * frame + 1], stereo[2 * frame]) << name;
         }
     }
+}
+
+TEST(PlainSound, OfThreeChannelsWithoutNamesGivesTheFirstTwo) {
+    std::string sound;
+    for (int frame = 0; frame < 48'000; ++frame)
+        for (const int step : {1, 2, 3})
+            sound += little_endian(static_cast<std::uint64_t>(frame * step % 10'000), 2);
+    const SoundFolder folder;
+    const auto heard = decoded(folder.file(
+        "a.wav", "RIFF" + little_endian(36 + sound.size(), 4) + "WAVEfmt " + little_endian(16, 4) +
+                     little_endian(1, 2) + little_endian(3, 2) + little_endian(48'000, 4) + little_endian(288'000, 4) +
+                     little_endian(6, 2) + little_endian(16, 2) + "data" + little_endian(sound.size(), 4) + sound));
+    ASSERT_EQ(heard.size(), 2U * 48'000);
+    for (int frame = 0; frame < 48'000; ++frame)
+        for (const int side : {0, 1})
+            ASSERT_NEAR(heard[static_cast<std::size_t>(2 * frame + side)],
+                        static_cast<float>(frame * (side + 1) % 10'000) / 32'768, 1e-6)
+                << frame;
 }
 
 } // namespace

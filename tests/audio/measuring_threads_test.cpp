@@ -237,6 +237,15 @@ TEST_F(MeasuringAhead, AsksADiskThatCameBackAgain) {
     EXPECT_EQ(length.seconds, 1);
 }
 
+TEST_F(MeasuringAhead, AsksADiskThatCameBackWithoutTheFileAgain) {
+    MeasuringThreads impatient{files, resolve, DiskPatience{500ms}};
+    EXPECT_EQ(failure_of(impatient, "C:/mort/disparu"), FailureNumber::device_fault);
+    files->let_go();
+    while (failure_of(impatient, "C:/mort/disparu") != FailureNumber::file_not_found) {
+        // the thread that was left behind is on its way back
+    }
+}
+
 TEST_F(MeasuringAhead, IsDroppedWhileADiskHangs) {
     {
         MeasuringThreads others{files, resolve, DiskPatience{}};

@@ -48,10 +48,9 @@ QRadioButton* Dresser::option(OptionButton& option) {
     return widget;
 }
 
-StudioButton* Dresser::button(Button& button, const QString& symbol, Accent accent) {
+StudioButton* Dresser::button(Button& button, const QString& symbol) {
     auto* widget = new StudioButton{parent()};
     widget->set_symbol(symbol);
-    widget->set_accent(accent);
     view_.keep(std::make_unique<ButtonBinding>(button, *widget, services()));
     return widget;
 }

@@ -34,7 +34,7 @@ public:
     QLineEdit* text_box(TextBox& box);
     QCheckBox* check_box(CheckBox& box);
     QRadioButton* option(OptionButton& option);
-    StudioButton* button(Button& button, const QString& symbol = {}, Accent accent = Accent::none);
+    StudioButton* button(Button& button, const QString& symbol = {});
     /// A picture; until its file is there, a symbol or a word.
     StudioButton* image(Image& image, const QString& symbol = {}, Accent accent = Accent::none);
     /// An option with its picture for a lamp: one indicator, lit while the option is chosen. Both can be pressed.

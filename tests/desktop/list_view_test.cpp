@@ -295,6 +295,16 @@ TEST_F(ListWindow, ButtonsReachTheirImages) {
     EXPECT_EQ(pressed, (std::vector<std::string>{"Image1", "Image2", "Image3", "Image4"}));
 }
 
+TEST_F(ListWindow, ButtonsOfTheAirAreLitInItsColours) {
+    for (Image* image : {&list().play_list, &list().zap, &list().stop_decks})
+        image->enabled = true;
+    settle();
+    const auto face = [this](const Image& image) { return ground_in(seen_in_window(part(list_view(), image.name()))); };
+    const QColor plain = face(list().stop_decks);
+    EXPECT_TRUE(is_near(face(list().play_list), mixed(plain, studio::air, 0.32), 4));
+    EXPECT_TRUE(is_near(face(list().zap), mixed(plain, studio::next, 0.32), 4));
+}
+
 TEST_F(ListWindow, NoControlIsMissing) {
     for (const Control* control : list().controls())
         EXPECT_TRUE(control->kind() == ControlKind::menu_item || list_view().is_bound(*control)) << control->name();

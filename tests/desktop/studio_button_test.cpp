@@ -206,6 +206,16 @@ TEST_F(ToldButtons, CaptionBesideAPictureReadsInEveryTheme) {
     }
 }
 
+TEST_F(ToldButtons, InkOfAPaleFaceGivesWayBesideAPicture) {
+    control.fore_colour = 0x000000;
+    control.back_colour = 0x80FFFF;
+    settle();
+    QPixmap picture{40, 40};
+    picture.fill(Qt::black);
+    button.set_pictures({picture, picture, picture});
+    EXPECT_TRUE(is_near(ink_in(shown()), Qt::white, 20));
+}
+
 TEST_F(ToldButtons, GroundThatCarriesItsInkIsTaken) {
     control.fore_colour = 0x000000;
     control.back_colour = 0x80FFFF;

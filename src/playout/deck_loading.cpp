@@ -198,6 +198,7 @@ void DeckLoading::open_dropped(Deck& deck, const std::vector<std::string>& paths
     desk_.chain.ajout_externe = true;
     open(deck);
     desk_.chain.ajout_externe = false;
+    desk_.show_list_start();
 }
 
 bool DeckLoading::is_file_chosen() const {

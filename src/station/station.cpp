@@ -250,6 +250,7 @@ void Station::stop_deck(Deck& deck) {
 void Station::load_row_on_deck(int deck, const DestinationRecord& row) {
     deck_loading.load_from_list(deck_ring.deck(deck), row);
     mix_engine.select_bouton();
+    desk.show_list_start();
 }
 
 // The volume 0 of an old list is no silence but a value that it never had.

@@ -88,6 +88,25 @@ TEST_F(DeckOpening, RowForADeckThatWentOnTheAirBehindItsMenuAsksFirst) {
     EXPECT_EQ(station.chain.chemin_lecture2, track(2));
 }
 
+TEST_F(DeckOpening, DropThatCutsTheListLetsItBeStarted) {
+    play_list_for(5);
+    EXPECT_FALSE(station.list_window.play_list.enabled);
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
+    controls(1).open.drop_files({std::string{song}});
+    EXPECT_TRUE(station.list_window.play_list.enabled);
+}
+
+TEST_F(DeckOpening, RowThatCutsTheListLetsItBeStarted) {
+    play_list_for(80);
+    station.list_window.Load_Pl.open();
+    machine.run_for(seconds(25));
+    EXPECT_FALSE(station.list_window.play_list.enabled);
+    rows().select(3);
+    machine.dialogs.expect_box("titre 2 est à l'antenne", Answer::yes);
+    station.list_window.char2.click();
+    EXPECT_TRUE(station.list_window.play_list.enabled);
+}
+
 TEST_F(DeckOpening, RowForADeckThatFadesIsTakenAfterAYes) {
     play_list_for(98);
     rows().select(3);

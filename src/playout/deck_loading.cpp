@@ -1,5 +1,6 @@
 #include "playout/deck_loading.h"
 
+#include <optional>
 #include <utility>
 
 #include "configuration/settings_store.h"
@@ -151,11 +152,18 @@ void DeckLoading::open_by_hand(Deck& deck) {
     desk_.show_list_start();
 }
 
+// Behind the question the chain may bring another track on the deck, which no Yes was given to cut.
 bool DeckLoading::may_be_cut(const Deck& deck) {
-    return !deck.sounds() || desk_.platform.dialogs.MsgBox(
-                                 {name_without_ending(deck.path) + " est à l'antenne\nCouper le lecteur " +
-                                      deck.name() + " pour y ouvrir un autre fichier ?",
-                                  std::string{application_title}, Buttons::yes_no, Icon::warning, 2}) == Answer::yes;
+    std::optional<std::string> agreed;
+    while (deck.sounds() && deck.path != agreed) {
+        agreed = deck.path;
+        if (desk_.platform.dialogs.MsgBox({name_without_ending(*agreed) + " est à l'antenne\nCouper le lecteur " +
+                                               deck.name() + " pour y ouvrir un autre fichier ?",
+                                           std::string{application_title}, Buttons::yes_no, Icon::warning, 2}) !=
+            Answer::yes)
+            return false;
+    }
+    return true;
 }
 
 // The last failure on the way says what to tell the operator when nothing came of it.

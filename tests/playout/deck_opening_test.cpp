@@ -54,6 +54,15 @@ TEST_F(DeckOpening, OnADeckThatFadesAsksToo) {
     EXPECT_EQ(machine.media.on_air().size(), 2U);
 }
 
+TEST_F(DeckOpening, AsksAnewWhenAnotherTrackCameOnTheDeckBehindTheQuestion) {
+    play_list_for(98);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes, seconds(200));
+    machine.dialogs.expect_box("titre 4 est à l'antenne", Answer::no);
+    controls(1).open.click();
+    EXPECT_EQ(machine.media.on_air().back(), track(4));
+    EXPECT_EQ(station.chain.chemin_lecture, track(4));
+}
+
 TEST_F(DeckOpening, OnAStoppedDeckAsksNothing) {
     play_list_for(5);
     controls(1).stop.click();

@@ -21,9 +21,12 @@ RowToDeck::RowToDeck(const Platform& platform, ListState& list, ChainState& chai
 void RowToDeck::send(int deck) {
     ErrorIndicator{}.skip([&] {
         const Integer row = window_.rows.selected();
-        if (list_.fichier_liste.empty() || !decks_.may_be_loaded(deck))
+        if (list_.fichier_liste.empty())
             return;
-        sent_ = reading_.lire_enreg_destinataire(row, sent_);
+        DestinationRecord record = reading_.lire_enreg_destinataire(row, sent_);
+        if (record.dest_chemin.empty() || !decks_.may_be_loaded(deck)) // behind whose question rows may go
+            return;
+        sent_ = std::move(record);
         list_.chemin_fichier = chain_.path_of_deck(deck) = sent_.dest_chemin;
         decks_.load(deck, sent_);
     });

@@ -1,5 +1,7 @@
 #include "playlist/row_to_deck.h"
 
+#include <functional>
+
 #include "support/station_fixture.h"
 
 namespace sonarelle {
@@ -8,13 +10,17 @@ namespace {
 
 class RowToDeckTest : public StationFixture {
 protected:
-    RowToDeck row_to_deck{
-        machine.platform,
-        station.list,
-        station.chain,
-        station.list_window,
-        station.record_reading,
-        {[](int) { return true; }, [this](int deck, const DestinationRecord&) { loaded.push_back(deck); }}};
+    RowToDeck row_to_deck{machine.platform,
+                          station.list,
+                          station.chain,
+                          station.list_window,
+                          station.record_reading,
+                          {[this](int) {
+                               behind_the_question();
+                               return true;
+                           },
+                           [this](int deck, const DestinationRecord&) { loaded.push_back(deck); }}};
+    std::function<void()> behind_the_question = [] {};
     std::vector<int> loaded;
 };
 
@@ -59,6 +65,26 @@ TEST_F(RowToDeckTest, DoesNothingWithoutAList) {
     rows().select(1);
     row_to_deck.Charg1_son();
     EXPECT_TRUE(loaded.empty());
+}
+
+TEST_F(RowToDeckTest, LeavesTheDeckItsFileWhenNothingCanBeRead) {
+    open_list("C:\\matin.dfm", {record_of("C:\\a.mp3")});
+    rows().select(1);
+    station.chain.chemin_lecture2 = "C:\\b.mp3";
+    station.list.fichier_liste = "*.dfm";
+    row_to_deck.charg2_son();
+    EXPECT_EQ(station.chain.chemin_lecture2, "C:\\b.mp3");
+    EXPECT_TRUE(loaded.empty());
+}
+
+TEST_F(RowToDeckTest, SendsTheRowThatWasSelectedThoughOneBeforeItWentBehindTheQuestion) {
+    open_list("C:\\matin.dfm", {record_of("C:\\a.mp3"), record_of("C:\\b.mp3"), record_of("C:\\c.mp3")});
+    rows().select(2);
+    behind_the_question = [this] {
+        machine.disk.put_file("C:\\matin.dfm", bytes_of({record_of("C:\\b.mp3"), record_of("C:\\c.mp3")}));
+    };
+    row_to_deck.Charg1_son();
+    EXPECT_EQ(station.chain.chemin_lecture, "C:\\b.mp3");
 }
 
 TEST_F(RowToDeckTest, OffersTheTwoDecksThatAreNotOnTheAir) {

@@ -12,12 +12,12 @@ namespace {
 
 void fill(DestinationRecord& destination, const enreg_liste& record) {
     destination.dest_chemin = record.trimmed_chemin();
-    destination.dest_debut = 0; // that of another record is none of this one
-    destination.dest_fin = text_of(end_point_to_integer(record.trimmed_fin_lecture()));
     destination.dest_genre = record.trimmed_genre();
     destination.dest_volume = record.volume();
     destination.dest_debut = record.debut_lecture();
     destination.dest_duree = record.duree_piste();
+    // Last, since it may be no number, and nothing else of the record before belongs to this one.
+    destination.dest_fin = text_of(end_point_to_integer(record.trimmed_fin_lecture()));
 }
 
 } // namespace

@@ -204,15 +204,16 @@ TEST_F(QuickLoadTest, ATrackOfABoxBeginsAtItsOwnStartWhateverIsReadMeanwhile) {
     EXPECT_EQ(station.deck_ring.deck(2).graph().get_CurrentPosition(), 2.0);
 }
 
-TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasNoStartOfAnotherRecord) {
+TEST_F(QuickLoadTest, ATrackOfABoxWithoutAnEndHasItsOwnStartAndVolume) {
     machine.add_track(track(1), 100);
-    const std::vector records{record_of(track(1), "90", 100, 30.0), record_of(track(1), "")};
+    const std::vector records{record_of(track(1), "90", 50, 30.0), record_of(track(1), "", 80, 2.0)};
     machine.disk.put_file(favourites, bytes_of(records));
     choose_favourites(favourites);
     window.favourites.choose(0);
     window.favourites.choose(1);
     window.lect2.click();
-    EXPECT_EQ(station.deck_ring.deck(2).debut_piste, 0.0);
+    EXPECT_EQ(station.deck_ring.deck(2).debut_piste, 2.0);
+    EXPECT_EQ(station.deck_ring.deck(2).volume_piste, Integer{-800});
 }
 
 TEST_F(QuickLoadTest, AJingleGoesOnEachDeck) {

@@ -17,6 +17,7 @@ void ChainModes::choose_manual_mode() {
         desk_.notices.inform("les trois lecteurs doivent etre chargés\navant de passer en mode manuel ");
         return;
     }
+    mix_.end_special_mix(); // which no chain would end
     enter(running_mode::by_hand);
     desk_.window.mix_titles.set_value(true); // which, by hand, chooses no chain
     desk_.display.decks_wait_for_hands();

@@ -120,6 +120,17 @@ TEST_F(SpecialMixEnd, ListThatStartsOnItsDeckEndsIt) {
     EXPECT_EQ(station.chain.lecteur_mix_special, 0);
 }
 
+TEST_F(SpecialMixEnd, ManualModeEndsItWithoutOfferingAnother) {
+    mix_on(2);
+    station.chain.chemin_lecture3 = track(3);
+    window.a_mode_manuel.click();
+    EXPECT_EQ(controls(1).slider.value(), 0);
+    EXPECT_FALSE(window.Active_audio_jingles.checked);
+    EXPECT_EQ(station.chain.lecteur_mix_special, 0);
+    EXPECT_EQ(controls(2).progress.caption.get(), "");
+    EXPECT_FALSE(controls(2).special_mix.enabled);
+}
+
 TEST_F(SpecialMixEnd, DeckThatTheRingDropsIsEmpty) {
     mix_on(3);
     controls(1).zap.click();

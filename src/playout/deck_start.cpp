@@ -1,9 +1,9 @@
 #include "playout/deck_start.h"
-#include "platform/calendar_text.h"
 
 #include <cstdint>
 #include <utility>
 
+#include "platform/calendar_text.h"
 #include "playout/file_title.h"
 
 namespace sonarelle {

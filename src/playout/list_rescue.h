@@ -11,8 +11,7 @@
 namespace sonarelle {
 
 /// Takes the list up again when a fault has ended the air: the chain was stopped by one, or stands still, or searches
-/// in vain, behind a track that has come to its end. What the operator stops,
-/// pauses or runs by hand is his.
+/// in vain, behind a track that has come to its end. What the operator stops, pauses or runs by hand is his.
 class ListRescue {
 public:
     ListRescue(Desk& desk, AutoChain& chain, ListRun& run, Journal& journal)

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/failure.h"
-#include "playout/deck_volume.h"
 
 namespace sonarelle {
 

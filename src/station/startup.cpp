@@ -230,7 +230,7 @@ void Startup::play_on_small_player() {
     parts_.loading.charge_lire(ligne_commande_);
     window_.state = WindowState::minimised;
     player.topmost = true;
-    player.caption = parts_.desk.ring.deck(1).controls.title.caption.get();
+    player.caption = deck.controls.title.caption.get();
     player.show();
     parts_.press_play(deck);
 }

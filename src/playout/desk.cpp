@@ -18,9 +18,9 @@ void Desk::show_list_start() const {
 
 bool Desk::list_runs() const {
     const int row = list.ligne_en_lecture.value();
-    const bool chained = chain.mode_enchainement.is_true() && window.list_chain_timer.enabled();
-    return chain.air == AirState::on && chained && ring.has_main_deck() && !ring.main_deck().rests() && row >= 1 &&
-           row <= row_count() && equal_ignoring_case(list_window.rows.text(row), ring.main_deck().path);
+    return chain.air == AirState::on && window.list_chain_timer.enabled() && ring.has_main_deck() &&
+           !ring.main_deck().rests() && row >= 1 && row <= row_count() &&
+           equal_ignoring_case(list_window.rows.text(row), ring.main_deck().path);
 }
 
 void Desk::report_loaded(const Deck& deck) const {

@@ -211,6 +211,16 @@ TEST_F(RunControlTest, RunningListCannotBeStartedAgain) {
     EXPECT_FALSE(list_can_be_started());
 }
 
+TEST_F(RunControlTest, RunningListWithoutFadesCannotBeStartedAgain) {
+    open_tracks({100, 100});
+    start_list();
+    station.main_window.Désactive_audio.click();
+    EXPECT_FALSE(list_can_be_started());
+    machine.run_for(seconds(150));
+    ASSERT_EQ(rows_started(), (std::vector<int>{1, 2}));
+    EXPECT_FALSE(list_can_be_started());
+}
+
 TEST_F(RunControlTest, StoppedListCanBeStartedAgain) {
     open_tracks({100, 100});
     start_list();

@@ -85,6 +85,7 @@ void QuickLoad::load(Deck& deck, const Box& box) {
     run_.stoppe_list();
     loading_.load_record(deck, chosen_, std::string{trim(box.box.text())});
     desk_.display.can_be_played(deck);
+    desk_.show_list_start();
 }
 
 } // namespace sonarelle

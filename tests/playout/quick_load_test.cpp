@@ -272,6 +272,18 @@ TEST_F(QuickLoadTest, OnADeckThatSoundsIsTakenAfterAYes) {
     EXPECT_TRUE(window.mix_titles.value());
 }
 
+TEST_F(QuickLoadTest, OnTheDeckOfAListBesideMixedTitlesLetsItBeStarted) {
+    put_favourite("C:\\Musique\\favori.mp3");
+    play_list_for(20);
+    window.mix_titles.click();
+    station.list_window.defined_end_mode.click();
+    ASSERT_FALSE(station.list_window.play_list.enabled);
+    window.favourites.choose(0);
+    machine.dialogs.expect_box("titre 1 est à l'antenne", Answer::yes);
+    window.lect1.click();
+    EXPECT_TRUE(station.list_window.play_list.enabled);
+}
+
 TEST_F(QuickLoadTest, JingleOnADeckThatFadesAsksFirst) {
     put_favourite("C:\\Musique\\favori.mp3");
     machine.dialogs.expect_open(favourites);

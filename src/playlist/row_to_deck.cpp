@@ -23,8 +23,9 @@ void RowToDeck::send(int deck) {
         const Integer row = window_.rows.selected();
         if (list_.fichier_liste.empty())
             return;
+        // Before the question, behind which rows may go.
         DestinationRecord record = reading_.lire_enreg_destinataire(row, sent_);
-        if (record.dest_chemin.empty() || !decks_.may_be_loaded(deck)) // behind whose question rows may go
+        if (record.dest_chemin.empty() || !decks_.may_be_loaded(deck))
             return;
         sent_ = std::move(record);
         list_.chemin_fichier = chain_.path_of_deck(deck) = sent_.dest_chemin;

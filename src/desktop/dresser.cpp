@@ -71,6 +71,11 @@ QBoxLayout* Dresser::mode(Image& lamp, OptionButton& chosen) {
     view_.keep(std::make_unique<LampBinding>(lamp, *light, services()));
     auto* words = option(chosen);
     words->setProperty(lamp_stands_beside, true);
+    // The light shows the choice, so a press of it leaves that chosen, whatever else the station makes of it.
+    QObject::connect(light, &QAbstractButton::clicked, words, [words] {
+        if (!words->isChecked())
+            words->click();
+    });
     view_.binding_of(chosen)->on_shown = [light, words, &chosen] {
         light->set_accent(chosen.value() ? Accent::air : Accent::none);
         light->setAccessibleName(words->text());

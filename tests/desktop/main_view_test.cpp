@@ -68,6 +68,18 @@ TEST_F(MainWindow, LampAndWordsOfAChainBothChooseIt) {
     EXPECT_EQ(word_presses, 1);
 }
 
+TEST_F(MainWindow, LampOfAChainStaysWithTheChainThatWasChosenByIt) {
+    main().mix_list.set_value(true);
+    QTest::mouseClick(&part(main_view(), "Image12"), Qt::LeftButton);
+    settle();
+    EXPECT_TRUE(main().mix_titles.value());
+    EXPECT_TRUE(lamp_is_lit(main().deck_chain_lamp));
+    QTest::mouseClick(&part(main_view(), "Image13"), Qt::LeftButton);
+    settle();
+    EXPECT_TRUE(main().mix_list.value());
+    EXPECT_TRUE(lamp_is_lit(main().list_chain_lamp));
+}
+
 TEST_F(MainWindow, OutputIsTold) {
     desktop->show_output("sortie : la carte son joue", false);
     EXPECT_EQ(label("output").text(), "sortie : la carte son joue");

@@ -127,6 +127,8 @@ std::string path_to_come(Desk& desk, const IsMissing& is_missing) {
         return {};
     const Deck& next = desk.ring.deck(next_deck(desk.chain.lecteur_en_cours.value()));
     const bool from_list = desk.chain.mode_enchainement.is_true();
+    if (!from_list && !desk.window.mix_titles.value())
+        return {};
     const bool prepared = !from_list || desk.chain.chargement_fait.is_true();
     if (prepared && role_of(desk, next) == DeckRole::loaded)
         return next.path;

@@ -249,4 +249,16 @@ TEST_F(AirView, NothingFollowsByItselfInManualMode) {
     EXPECT_EQ(to_come(), "");
 }
 
+TEST_F(AirView, PromisesNothingWhereTheChainOverDecksFollowsNothing) {
+    open_tracks({200, 200, 200});
+    station.main_window.mix_list.click();
+    start_list();
+    machine.add_track(track(9), 60);
+    open_on(2, track(9));
+    station.main_window.a_mode_auto.click();
+    EXPECT_EQ(to_come(), "");
+    station.main_window.mix_titles.click();
+    EXPECT_EQ(to_come(), "titre 9");
+}
+
 } // namespace sonarelle

@@ -76,6 +76,16 @@ void DeskDisplay::started(Deck& deck, const TrackNames& names) const {
 void DeskDisplay::mark_main(const Deck& main) const {
     for (Deck& deck : ring_.decks)
         deck.controls.playing_mark.visible = deck.number() == main.number();
+    offer_entries_beside(main); // their keys work while no menu is open
+}
+
+void DeskDisplay::offer_entries_beside(const Deck& main) const {
+    for (const Deck& deck : ring_.decks) {
+        const auto place = static_cast<std::size_t>(deck.number() - 1);
+        const bool beside = deck.number() != main.number();
+        window_.play_entries()[place]->enabled = beside;
+        window_.special_mix_entries()[place]->enabled = beside;
+    }
 }
 
 void DeskDisplay::leave_buttons_to(const Deck& main) const {

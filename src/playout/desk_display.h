@@ -67,6 +67,8 @@ public:
     void started(Deck& deck, const TrackNames& names) const;
     /// Marks the deck that plays.
     void mark_main(const Deck& main) const;
+    /// The entries that play or mix another deck than the main one, and their keys.
+    void offer_entries_beside(const Deck& main) const;
     /// Which buttons can be reached while a deck begins, the chain being on: the main one goes on to be played and
     /// zapped, the others wait for it.
     void leave_buttons_to(const Deck& main) const;

@@ -158,14 +158,8 @@ void Station::connect_play_menu() {
         main_window.unload_entries()[place]->on_click = [this, &deck] { deck_transport.unload(deck); };
     }
     main_window.lire_play.on_open = [this] {
-        if (!deck_ring.has_main_deck())
-            return;
-        for (const Deck& deck : deck_ring.decks) {
-            const auto place = static_cast<std::size_t>(deck.number() - 1);
-            const bool main = deck_ring.is_main(deck);
-            main_window.play_entries()[place]->enabled = !main;
-            main_window.special_mix_entries()[place]->enabled = !main;
-        }
+        if (deck_ring.has_main_deck())
+            desk.display.offer_entries_beside(deck_ring.main_deck());
     };
 }
 

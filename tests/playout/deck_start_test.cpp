@@ -236,4 +236,17 @@ TEST_F(DeckStartTest, WithoutAFadeCutsTheTrackBefore) {
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{track(2)});
 }
 
+TEST_F(DeckStartTest, KeysOfTheOtherDecksWorkBehindAMenuThatWasOpenBefore) {
+    open_tracks({100, 100});
+    start_list();
+    auto& window = station.main_window;
+    window.lire_play.open();
+    EXPECT_FALSE(window.special_mix_entries()[0]->enabled);
+    machine.run_for(seconds(120)); // the second deck plays
+    EXPECT_TRUE(window.special_mix_entries()[0]->enabled);
+    EXPECT_TRUE(window.play_entries()[0]->enabled);
+    EXPECT_FALSE(window.special_mix_entries()[1]->enabled);
+    EXPECT_FALSE(window.play_entries()[1]->enabled);
+}
+
 } // namespace sonarelle

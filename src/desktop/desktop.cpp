@@ -154,6 +154,7 @@ void Desktop::show_decks() {
 void Desktop::show_air() {
     const Deck* deck = deck_on_air(desk_);
     const QString title = to_qt(name_on_air(desk_));
+    const QString silence = to_qt(silence_text(desk_));
     const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
     main_->show_air({.role = air_role(desk_),
                      .deck = deck == nullptr ? 0 : deck->number(),
@@ -162,10 +163,10 @@ void Desktop::show_air() {
                      .next = what_follows(),
                      .suspended = waits_for_special_mix(desk_),
                      .notice = notice(),
-                     .silence = to_qt(silence_text(desk_))});
+                     .silence = silence});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
-    list_->show_air({.title = title, .left = left, .clock = clock_});
-    player_->show_air(air_role(desk_), title);
+    list_->show_air({.title = title, .left = left, .clock = clock_, .silence = silence});
+    player_->show_air(air_role(desk_), title, silence);
 }
 
 QString Desktop::what_follows() {

@@ -62,7 +62,9 @@ void ListView::show_air(const ListAir& air) {
 // From the load on the station's own labels speak of the track to come, and their clock waits for the chain's tick; the
 // operator reads what is on the air, in both windows the same.
 void ListView::tell_air() {
-    title_->set_text(air_.title.isEmpty() ? to_qt(window_.track_name.caption.get()) : air_.title);
+    const QString known = air_.title.isEmpty() ? to_qt(window_.track_name.caption.get()) : air_.title;
+    title_->set_text(air_.silence.isEmpty() ? known : "SILENCE depuis " + air_.silence);
+    title_->set_alarming(!air_.silence.isEmpty());
     remaining_->set_text(air_.left);
     remaining_->setAccessibleName("Temps restant");
     clock_->set_text(air_.clock);

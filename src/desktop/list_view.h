@@ -10,9 +10,10 @@ namespace sonarelle {
 
 /// What the list window tells of the air.
 struct ListAir {
-    QString title; ///< Empty while nothing is on.
-    QString left;  ///< Time to the end of play.
-    QString clock; ///< Time of day.
+    QString title;     ///< Empty while nothing is on.
+    QString left;      ///< Time to the end of play.
+    QString clock;     ///< Time of day.
+    QString silence{}; ///< How long a silence that is told has lasted; empty for none.
 };
 
 /// The list window: the rows, what is on and how long it lasts, the list's buttons.

@@ -79,9 +79,10 @@ QLayout* SmallPlayerView::buttons() {
     return row;
 }
 
-void SmallPlayerView::show_air(DeckRole role, const QString& title) {
+void SmallPlayerView::show_air(DeckRole role, const QString& title, const QString& silence) {
     role_ = role;
-    state_->set_text(state_word(role));
+    state_->set_text(silence.isEmpty() ? state_word(role) : "SILENCE " + silence);
+    state_->set_alarming(!silence.isEmpty());
     title_->set_text(title);
     show_seconds();
 }

@@ -12,7 +12,8 @@ public:
     SmallPlayerView(mini_lecteur& window, const DesktopServices& services);
 
     /// What the main deck is to the air, and its title.
-    void show_air(DeckRole role, const QString& title);
+    /// `silence`: how long one that is told has lasted; empty for none.
+    void show_air(DeckRole role, const QString& title, const QString& silence = {});
 
 private:
     [[nodiscard]] QLayout* reading();

@@ -39,6 +39,13 @@ void StationLabel::set_style(const Style& style) {
     updateGeometry();
 }
 
+void StationLabel::set_alarming(bool alarming) {
+    if (alarming == alarming_)
+        return;
+    alarming_ = alarming;
+    update();
+}
+
 void StationLabel::set_text(const QString& text) {
     if (text == text_)
         return;
@@ -105,6 +112,8 @@ QColor StationLabel::ground() const {
 QColor StationLabel::ink() const {
     const QColor told = palette().color(QPalette::WindowText);
     const QColor below = ground();
+    if (alarming_)
+        return legible(mixed(studio::trouble, Qt::white, 0.25), below);
     return isEnabled() ? legible(style_.quiet ? mixed(told, below, 0.25) : told, below) : told;
 }
 

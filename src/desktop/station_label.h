@@ -29,6 +29,8 @@ public:
     virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
     void set_style(const Style& style);
+    /// In the colour of trouble, whatever ink it was given.
+    void set_alarming(bool alarming);
     /// Makes it a button for mouse and keyboard.
     void set_pressable(bool pressable);
 
@@ -62,6 +64,7 @@ private:
     Style style_;
     QString text_;
     bool pressable_ = false;
+    bool alarming_ = false;
     bool down_ = false;
 };
 

@@ -57,6 +57,17 @@ TEST_F(ListWindow, NamesWhatIsLoadedWhileNothingIsOn) {
     EXPECT_EQ(label(list().track_name).text(), "Jingle bonjour");
 }
 
+TEST_F(ListWindow, TellsASilenceInTheColourOfTrouble) {
+    list_view().show_air({.title = {}, .left = "00:00:00", .clock = "12:00:00", .silence = "01:37"});
+    EXPECT_EQ(label(list().track_name).text(), "SILENCE depuis 01:37");
+    const QColor ink = ink_in(seen_in_window(label(list().track_name)));
+    EXPECT_GT(ink.red(), ink.green() + 40);
+    list_view().show_air({.title = "Matin", .left = "00:00:31", .clock = "12:00:00"});
+    EXPECT_EQ(label(list().track_name).text(), "Matin");
+    const QColor calm = ink_in(seen_in_window(label(list().track_name)));
+    EXPECT_LT(calm.red(), calm.green() + 40);
+}
+
 TEST_F(ListWindow, RemainderIsTheDesksWhateverItsOwnLabelSays) {
     list_view().show_air({.title = "Matin", .left = "00:00:31", .clock = "12:00:00"});
     list().remaining.caption = "00:00:34";

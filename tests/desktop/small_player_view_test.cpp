@@ -1,4 +1,7 @@
 // The small player on the screen: what it says, and its keys.
+#include "desktop/small_player_view.h"
+
+#include "desktop/pixels.h"
 #include "desktop/station_label.h"
 #include "desktop/whole_desk_fixture.h"
 
@@ -103,6 +106,17 @@ TEST_F(PlayerOnView, OpensTheMainWindowsMenuWhileThatIsHidden) {
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->objectName(), "Option_");
     menu->close();
+}
+
+TEST_F(PlayerOnView, TellsASilenceWhateverHidesBehindIt) {
+    play();
+    auto& player = dynamic_cast<SmallPlayerView&>(view());
+    player.show_air(DeckRole::ended, {}, "01:37");
+    EXPECT_EQ(label("player_state").text(), "SILENCE 01:37");
+    const QColor ink = ink_in(seen_in_window(label("player_state")));
+    EXPECT_GT(ink.red(), ink.green() + 40);
+    player.show_air(DeckRole::on_air, "titre 1");
+    EXPECT_EQ(label("player_state").text(), "● À L'ANTENNE");
 }
 
 } // namespace sonarelle

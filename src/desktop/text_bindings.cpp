@@ -89,12 +89,16 @@ RichTextBinding::RichTextBinding(RichText& text, QTextEdit& widget, const Deskto
                 text_.on_change();
         });
     });
-    connect(&edit_, &QTextEdit::selectionChanged, this, [this] {
-        run([this] {
-            const QTextCursor cursor = edit_.textCursor();
-            text_.selection_start = cursor.selectionStart();
-            text_.selection_length = cursor.selectionEnd() - cursor.selectionStart();
-        });
+    // The place of who is typing is an empty selection.
+    connect(&edit_, &QTextEdit::selectionChanged, this, [this] { take_selection(); });
+    connect(&edit_, &QTextEdit::cursorPositionChanged, this, [this] { take_selection(); });
+}
+
+void RichTextBinding::take_selection() {
+    run([this] {
+        const QTextCursor cursor = edit_.textCursor();
+        text_.selection_start = cursor.selectionStart();
+        text_.selection_length = cursor.selectionEnd() - cursor.selectionStart();
     });
 }
 

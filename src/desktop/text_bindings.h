@@ -51,6 +51,8 @@ protected:
     void paint(QPalette& palette) const override;
 
 private:
+    void take_selection();
+
     RichText& text_;
     QTextEdit& edit_;
 };

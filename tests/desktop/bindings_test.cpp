@@ -87,6 +87,20 @@ TEST_F(TextBoxBindings, TypingChangesTheControlACharacterAtATime) {
     EXPECT_EQ(seen, (std::vector<std::string>{"1", "12"}));
 }
 
+TEST_F(TextBoxBindings, TypingInTheMidstGoesOnThere) {
+    TextBox box{window, "t"};
+    QLineEdit widget;
+    const TextBoxBinding binding{box, widget, services};
+    box.set_text("ad");
+    settle();
+    widget.setCursorPosition(1);
+    for (const char letter : {'b', 'c'}) {
+        QTest::keyClick(&widget, letter);
+        settle();
+    }
+    EXPECT_EQ(box.text(), "abcd");
+}
+
 TEST_F(TextBoxBindings, WhatTheStationWritesIsNoEvent) {
     TextBox box{window, "t"};
     QLineEdit widget;
@@ -256,6 +270,20 @@ TEST_F(RichTextBindings, TextGoesBothWays) {
     EXPECT_EQ(widget.toPlainText(), "Bonjour");
     QTest::keyClicks(&widget, "!");
     EXPECT_EQ(text.text.get(), "!Bonjour");
+}
+
+TEST_F(RichTextBindings, TypingInTheMidstGoesOnThere) {
+    RichText text{window, "r"};
+    QTextEdit widget;
+    const RichTextBinding binding{text, widget, services};
+    text.text = "ad";
+    settle();
+    widget.moveCursor(QTextCursor::Right);
+    for (const char letter : {'b', 'c'}) {
+        QTest::keyClick(&widget, letter);
+        settle();
+    }
+    EXPECT_EQ(text.text.get(), "abcd");
 }
 
 TEST_F(RichTextBindings, SelectionGoesBothWays) {

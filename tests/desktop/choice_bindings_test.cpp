@@ -213,6 +213,20 @@ TEST_F(ComboBoxBindings, TypedTextIsTheControls) {
     EXPECT_EQ(widget.currentText(), "Rock");
 }
 
+TEST_F(ComboBoxBindings, TypingInTheMidstGoesOnThere) {
+    ComboBox box{window, "c"};
+    QComboBox widget;
+    const ComboBoxBinding binding{box, widget, services};
+    box.set_text("ad");
+    settle();
+    widget.lineEdit()->setCursorPosition(1);
+    for (const char letter : {'b', 'c'}) {
+        QTest::keyClick(widget.lineEdit(), letter);
+        settle();
+    }
+    EXPECT_EQ(box.text(), "abcd");
+}
+
 TEST_F(ComboBoxBindings, SpaceIsTypedWhereTheControlDoesNotAnswerIt) {
     ComboBox box{window, "c", "Hip"};
     QComboBox widget;

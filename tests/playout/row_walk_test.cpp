@@ -12,6 +12,7 @@ using Paths = std::vector<std::string>;
 class RowWalkTest : public ChainFixture {
 protected:
     static constexpr std::string_view by_hand = "C:\\main.mp3";
+    static constexpr std::string_view added = "C:\\neuf.mp3";
 
     void start_list_of_one_row() {
         open_tracks({100});
@@ -22,8 +23,8 @@ protected:
         open_on(deck, by_hand);
     }
     void add_row() {
-        machine.add_track("C:\\neuf.mp3", 100);
-        rows().append({"C:\\neuf.mp3", "0.10", "100.00", "Rock", "100", ""});
+        machine.add_track(added, 100);
+        rows().append({std::string{added}, "0.10", "100.00", "Rock", "100", ""});
         station.list_document.sauve_tout();
     }
 };
@@ -48,6 +49,24 @@ TEST_F(RowWalkTest, ForTheLoadEndsOnceAnotherDeckIsTheMainOne) {
     add_row();
     machine.run_for(seconds(1));
     EXPECT_EQ(station.chain.chemin_lecture3, "");
+}
+
+TEST_F(RowWalkTest, ForTheLoadGoesOnWhenAnotherDeckIsStopped) {
+    start_list_of_one_row();
+    machine.run_for(seconds(88));
+    controls(3).stop.click();
+    add_row();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(station.chain.chemin_lecture2, added);
+}
+
+TEST_F(RowWalkTest, ForTheLoadEndsWhenTheDeckOnTheAirIsStopped) {
+    start_list_of_one_row();
+    machine.run_for(seconds(88));
+    controls(1).stop.click();
+    add_row();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(station.chain.chemin_lecture2, "");
 }
 
 TEST_F(RowWalkTest, ForTheMixEndsOnceTheOperatorMixesTitles) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <thread>
 
+#include "support/child_process.h"
 #include "support/private_folder.h"
 
 namespace sonarelle::test {
@@ -106,6 +107,23 @@ TEST_F(Presence, ShareAndEmptyRowCountAsThere) {
     ASSERT_TRUE(eventually([&] { return files.is_missing("M:\\absent.mp3"); }));
     EXPECT_FALSE(files.is_missing("\\\\serveur\\partage\\titre.mp3"));
     EXPECT_FALSE(files.is_missing(""));
+}
+
+TEST_F(Presence, FileThatMayNotBeLookedAtCountsAsThere) {
+    folder.put("ailleurs/titre.mp3");
+    folder.set_rights("ailleurs", 0);
+    EXPECT_EQ(failure_without_rights([this] {
+                  FilePresence files = presence();
+                  bool is_missing = !eventually([&] { return files.is_missing("M:\\absent.mp3"); });
+                  for (int again = 0; again < 20; ++again) { // each time the disk is asked anew
+                      is_missing = files.is_missing("M:\\ailleurs\\titre.mp3") || is_missing;
+                      std::this_thread::sleep_for(std::chrono::milliseconds{15});
+                  }
+                  if (is_missing)
+                      throw Failure{FailureNumber::file_not_found};
+              }),
+              FailureNumber::none);
+    folder.set_rights("ailleurs", 0755);
 }
 
 } // namespace sonarelle::test

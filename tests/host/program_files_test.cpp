@@ -62,11 +62,13 @@ TEST_F(ProgramFiles, AreCopiedToTheLastByte) {
     EXPECT_EQ(folder.bytes("data/station/jingles topH1.jpg"), folder.bytes("share/jingles topH1.jpg"));
 }
 
-TEST_F(ProgramFiles, LeaveAPictureOfTheOperatorAlone) {
-    folder.put("data/station/fond_noir1.jpg", "mine");
+TEST_F(ProgramFiles, LeaveThePicturesOfTheOperatorAlone) {
+    for (const char* own : {"data/station/fond_noir1.jpg", "data/station/jingles topH1.jpg"})
+        folder.put(own, "mine");
     fill();
 
-    EXPECT_EQ(folder.bytes("data/station/fond_noir1.jpg"), "mine");
+    for (const char* own : {"data/station/fond_noir1.jpg", "data/station/jingles topH1.jpg"})
+        EXPECT_EQ(folder.bytes(own), "mine") << own;
 }
 
 TEST_F(ProgramFiles, LeaveAPictureAloneWhateverItsCase) {

@@ -69,4 +69,13 @@ TEST_F(SilenceWatchTest, EndsItsSilenceWithTheProgramme) {
     EXPECT_EQ(told_in_blocks_of(1000), (Silences{{0, 3 * frame_rate}}));
 }
 
+TEST_F(SilenceWatchTest, TakesWhatWasNotHeardForSoundInItsPlace) {
+    add(2 * frame_rate, 0, 0);
+    watch.take(air);
+    watch.skip(Frames{1000});
+    watch.take(air);
+    watch.end();
+    EXPECT_EQ(told, (Silences{{0, 2 * frame_rate}, {2 * frame_rate + 1000, 2 * frame_rate}}));
+}
+
 } // namespace sonarelle::test

@@ -123,6 +123,10 @@ class Starts(Unattended):
         self.station.mkdir(exist_ok=True)
         (self.station / name).write_text(text)
 
+    def assert_holds_the_first_values(self, settings):
+        values = json.loads(settings.read_text())["Sonarelle V6"]["Config"]
+        self.assertEqual((values["Mix_audio"], values["Mix_audio_vitesse"]), ("10", "35"))
+
     def test_with_damaged_settings_are_told_and_play(self):
         self.spoil("reglages.json", '{"sonarelle":5')
         events = self.events()
@@ -130,6 +134,11 @@ class Starts(Unattended):
         self.assertIn("Fichier de réglages abîmé", "".join(self.warnings(events)))
         self.assertIn("Fichier de réglages abîmé", self.journal())
         self.assertEqual((self.station / "reglages.json.abime").read_text(), '{"sonarelle":5')
+        self.assert_holds_the_first_values(self.station / "reglages.json")
+
+    def test_without_settings_play_by_the_first_ones(self):
+        self.assertEqual(self.events()[-1]["departs"], 1)
+        self.assert_holds_the_first_values(self.station / "reglages.json")
 
     def test_with_a_damaged_drive_table_are_told_and_play(self):
         self.spoil("lecteurs.json", '{"D":5}')
@@ -156,6 +165,7 @@ class Starts(Unattended):
         events = [json.loads(line) for line in run.stdout.splitlines()]
         self.assertEqual(events[-1]["departs"], 1)
         self.assertIn("n'est pas accessible", "".join(self.warnings(events)))
+        self.assert_holds_the_first_values(next(temporary.glob("*/reglages.json")))
         journal = next(temporary.glob("*/journal.doc")).read_bytes().decode("cp1252")
         self.assertIn("Lecture de", journal)
 

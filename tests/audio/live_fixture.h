@@ -30,7 +30,10 @@ public:
                 last_state = state;
                 losses += state == OutputState::paced ? 1 : 0;
             },
-            [this](OutputGaps gaps) { lost_in_gaps = gaps.lost.count(); });
+            [this](OutputGaps gaps) {
+                lost_in_gaps = gaps.lost.count();
+                ++times_gaps_were_told;
+            });
     }
     /// Lives until a condition holds; the test's own limit of time is the only one.
     void live_until(const std::function<bool()>& condition) {
@@ -56,6 +59,7 @@ public:
     std::atomic<OutputState> last_state{OutputState::opening};
     std::atomic<int> losses{0};                ///< How often the clock took over.
     std::atomic<std::int64_t> lost_in_gaps{0}; ///< Frames, as last told.
+    std::atomic<int> times_gaps_were_told{0};
     std::vector<SoundReport> reports;
     Scheduler scheduler;
     ProgrammeBus bus;

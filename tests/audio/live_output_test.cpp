@@ -97,7 +97,7 @@ TEST(LiveOutput, ARunningGraphIsWhereTheClockSaysAfterALoss) {
     EXPECT_EQ(heard[heard.size() - 2], counted(last - begin.count()));
 }
 
-TEST(LiveOutput, TellsTheGapsOfADevice) {
+TEST(LiveOutput, TellsTheGapsOfADeviceOnceAMinute) {
     LiveFixture live;
     live.go_on_air();
     live.live_for(seconds(3));
@@ -105,6 +105,10 @@ TEST(LiveOutput, TellsTheGapsOfADevice) {
     live.live_until([&] { return live.lost_in_gaps > 0; });
     EXPECT_GE(live.lost_in_gaps, milliseconds(50).count());
     EXPECT_EQ(live.output->state(), OutputState::playing);
+
+    live.card->falls_behind = 60;
+    live.live_for(seconds(8));
+    EXPECT_EQ(live.times_gaps_were_told, 1);
 }
 
 TEST(LiveOutput, TheLossOfADeviceDoesNotMoveTheTicks) {

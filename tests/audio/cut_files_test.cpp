@@ -60,9 +60,12 @@ INSTANTIATE_TEST_SUITE_P(
                                      Cut{"open.ogg", "-c:a libvorbis"}, Cut{"new.opus", "-c:a libopus"},
                                      Cut{"cd.wav", ""}, Cut{"law.wav", "-c:a pcm_alaw"}, Cut{"two.wma", "-b:a 128k"},
                                      Cut{"streamed.m4a", "-c:a aac -movflags faststart"},
-                                     Cut{"sound.avi", "-c:a libmp3lame"}, Cut{"apple.aiff", ""},
-                                     Cut{"sound.mpg", "-c:a mp2"}, Cut{"sound.mka", "-c:a libvorbis"},
-                                     Cut{"sound.aac", "-c:a aac"}),
+                                     Cut{"sound.avi", "-c:a libmp3lame"},
+                                     Cut{"film.avi", "-f lavfi -i testsrc=d=10:s=64x48 -c:a libmp3lame"},
+                                     Cut{"film.mp4", "-f lavfi -i testsrc=d=10:s=64x48 -c:v mpeg4 -c:a aac "
+                                                     "-movflags faststart"},
+                                     Cut{"apple.aiff", ""}, Cut{"sound.mpg", "-c:a mp2"},
+                                     Cut{"sound.mka", "-c:a libvorbis"}, Cut{"sound.aac", "-c:a aac"}),
                      testing::Values(1, 10, 50, 99)),
     [](const auto& tested) {
         std::string name = std::get<0>(tested.param).name;

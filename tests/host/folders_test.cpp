@@ -39,12 +39,14 @@ TEST(HostFolders, LieWhereTheXdgVariablesSay) {
     PrivateFolder folder;
     const Variable data{"XDG_DATA_HOME", folder.path("data")};
     const Variable config{"XDG_CONFIG_HOME", folder.path("config")};
+    const Variable cache{"XDG_CACHE_HOME", folder.path("cache")};
     const HostFolders folders = host_folders(std::nullopt);
 
     EXPECT_EQ(folders.program, folder.path("data/sonarelle"));
     EXPECT_EQ(folders.settings, folder.path("config/sonarelle/reglages.json"));
     EXPECT_EQ(folders.drive_table, folder.path("config/sonarelle/lecteurs.json"));
     EXPECT_EQ(folders.output_choice, folder.path("config/sonarelle/sortie.json"));
+    EXPECT_EQ(folders.waveforms, folder.path("cache/sonarelle/ondes"));
 }
 
 TEST(HostFolders, AreNotMadeByLooking) {
@@ -62,10 +64,12 @@ TEST(HostFolders, LieBelowTheHomeWithoutTheVariables) {
     const Variable home{"HOME", folder.path()};
     const Variable data{"XDG_DATA_HOME", std::nullopt};
     const Variable config{"XDG_CONFIG_HOME", "relative"};
+    const Variable cache{"XDG_CACHE_HOME", std::nullopt};
     const HostFolders folders = host_folders(std::nullopt);
 
     EXPECT_EQ(folders.program, folder.path(".local/share/sonarelle"));
     EXPECT_EQ(folders.settings, folder.path(".config/sonarelle/reglages.json"));
+    EXPECT_EQ(folders.waveforms, folder.path(".cache/sonarelle/ondes"));
 }
 
 TEST(HostFolders, AllLieInTheFolderThatIsNamed) {
@@ -76,6 +80,7 @@ TEST(HostFolders, AllLieInTheFolderThatIsNamed) {
     EXPECT_EQ(folders.settings, folder.path("station/reglages.json"));
     EXPECT_EQ(folders.drive_table, folder.path("station/lecteurs.json"));
     EXPECT_EQ(folders.output_choice, folder.path("station/sortie.json"));
+    EXPECT_EQ(folders.waveforms, folder.path("station/ondes"));
 }
 
 TEST(HostCalendar, CountsInTheOperatorsTimeZone) {

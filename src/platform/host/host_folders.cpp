@@ -53,8 +53,9 @@ std::string spare_folder() {
 HostFolders host_folders(const std::optional<std::string>& folder) {
     const std::string program = folder ? absolute_machine_path(*folder) : user_folder("XDG_DATA_HOME", ".local/share");
     const std::string configuration = folder ? program : user_folder("XDG_CONFIG_HOME", ".config");
-    return {program, configuration + "/reglages.json", configuration + "/lecteurs.json",
-            configuration + "/sortie.json"};
+    const std::string cache = folder ? program : user_folder("XDG_CACHE_HOME", ".cache");
+    return {program, configuration + "/reglages.json", configuration + "/lecteurs.json", configuration + "/sortie.json",
+            cache + "/ondes"};
 }
 
 } // namespace sonarelle

@@ -11,6 +11,7 @@ struct HostFolders {
     std::string settings;      ///< The settings file.
     std::string drive_table;   ///< The file of the drive table, beside it.
     std::string output_choice; ///< The file of the chosen sound output, there too.
+    std::string waveforms;     ///< The folder of what can be made anew: the waveforms of files.
 };
 
 /// The folders of the user, by the XDG variables, or with `folder` all in that one. Names alone: a folder is made by

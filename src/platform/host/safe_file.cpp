@@ -9,13 +9,13 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstdint>
 #include <filesystem>
 
 #include "platform/failure.h"
 #include "platform/host/file_lock.h"
 #include "platform/host/host_errors.h"
 #include "platform/host/machine_files.h"
+#include "platform/host/name_hash.h"
 
 namespace sonarelle {
 
@@ -46,20 +46,6 @@ std::filesystem::path end_of_links(std::filesystem::path path, const std::string
         path = path.parent_path() / std::filesystem::read_symlink(path, error);
     }
     return path;
-}
-
-std::uint64_t hash_of(std::string_view text) {
-    std::uint64_t hash = 0xCBF29CE484222325U; // FNV-1a
-    for (const char c : text)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-    return hash;
-}
-
-std::string in_hexadecimal(std::uint64_t number) {
-    std::string digits;
-    for (int shift = 60; shift >= 0; shift -= 4)
-        digits += "0123456789abcdef"[(number >> shift) & 0xFU];
-    return digits;
 }
 
 bool still_has_name(int folder, const std::string& name, int file) {

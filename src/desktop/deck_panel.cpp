@@ -67,9 +67,9 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     left->addWidget(title_);
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);
-    left->addWidget(progress_);
+    progress_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding); // the shape takes what height there is
+    left->addWidget(progress_, 1);
     left->addLayout(transport(dresser, number));
-    left->addStretch(1);
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(12, 10, 10, 10);
     row->setSpacing(10);
@@ -184,6 +184,7 @@ void DeckPanel::show_look(const DeckLook& look) {
         const bool shown = look.role != DeckRole::empty && second && whole > 0;
         return shown ? std::optional{*second / whole} : std::nullopt;
     };
+    progress_->set_sound(look.sound, whole);
     progress_->set_marks(share(look.mix_point), share(look.end_point));
     if (look.elapsed && whole > 0) {
         progress_->set_share(*look.elapsed / whole);

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "desktop/dresser.h"
 #include "desktop/panel.h"
+#include "platform/waveform.h"
 #include "playout/air_view.h"
 #include "windows/deck_controls.h"
 
@@ -12,10 +14,11 @@ namespace sonarelle {
 /// What is seen of a deck, beside what its controls say.
 struct DeckLook {
     DeckRole role = DeckRole::empty;
-    QString heard;                   ///< The name of the file that is heard; empty for none.
-    std::optional<int> elapsed;      ///< Second of the file, where the deck's bar doesn't follow it.
-    std::optional<double> mix_point; ///< Seconds.
-    std::optional<double> end_point; ///< Seconds.
+    QString heard;                           ///< The name of the file that is heard; empty for none.
+    std::optional<int> elapsed;              ///< Second of the file, where the deck's bar doesn't follow it.
+    std::optional<double> mix_point;         ///< Seconds.
+    std::optional<double> end_point;         ///< Seconds.
+    std::shared_ptr<const Waveform> sound{}; ///< Null until it is known.
 };
 
 /// One deck of the main window.

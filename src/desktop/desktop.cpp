@@ -140,6 +140,8 @@ void Desktop::show_decks() {
                       .elapsed = std::nullopt,
                       .mix_point = std::nullopt,
                       .end_point = seconds_of(deck)};
+        if (services_.waveform_of && look.role != DeckRole::empty)
+            look.sound = services_.waveform_of(deck.path);
         if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
             ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
         if (look.end_point)

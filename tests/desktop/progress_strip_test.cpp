@@ -23,6 +23,33 @@ protected:
     ProgressStrip strip;
 };
 
+/// A strip of 400 pixels over 40 seconds: ten loud, ten silent, twenty at half.
+class SoundStrip : public Strip {
+protected:
+    SoundStrip() {
+        sound->peaks.resize(40, 128);
+        std::fill_n(sound->peaks.begin(), 10, 255);
+        std::fill_n(sound->peaks.begin() + 10, 10, 0);
+        strip.resize(400, 60);
+        strip.set_sound(sound, 40);
+    }
+    /// In the middle of the bar of the shape that stands nearest to a share of the width.
+    [[nodiscard]] QColor middle_at(double share) {
+        return seen(strip).pixelColor(static_cast<int>(share * 100) * 4 + 1, 30);
+    }
+    /// How high that bar is.
+    [[nodiscard]] int height_at(double share) {
+        const QImage image = seen(strip);
+        int height = 0;
+        for (int y = 0; y < image.height(); ++y)
+            height += is_near(image.pixelColor(static_cast<int>(share * 100) * 4 + 1, y), studio::wave) ? 1 : 0;
+        return height;
+    }
+    [[nodiscard]] int whole_height() const { return strip.height() - 8; }
+
+    std::shared_ptr<Waveform> sound = std::make_shared<Waveform>(Waveform{1, {}});
+};
+
 } // namespace
 
 TEST_F(Strip, IsFilledAsFarAsTheSoundIs) {
@@ -125,6 +152,43 @@ TEST_F(Strip, TextIsWrittenOverTheBarAndReads) {
     EXPECT_GE(contrast_in(seen(strip)), readable);
     strip.set_share(1);
     EXPECT_GE(contrast_in(seen(strip)), readable);
+}
+
+TEST_F(SoundStrip, IsTheShapeOfTheSound) {
+    EXPECT_EQ(height_at(0.1), whole_height());
+    EXPECT_EQ(height_at(0.4), 2) << "silence is a line";
+    EXPECT_NEAR(height_at(0.6), 0.66 * whole_height(), 2) << "half of full scale";
+}
+
+TEST_F(SoundStrip, ShowsWhatWasPlayedInItsColour) {
+    strip.set_share(0.12);
+    EXPECT_TRUE(is_near(middle_at(0.06), studio::air));
+    EXPECT_TRUE(is_near(middle_at(0.18), studio::wave));
+}
+
+TEST_F(SoundStrip, HasACursorWhereItPlays) {
+    EXPECT_EQ(count_of(seen(strip), studio::cursor), 0);
+    strip.set_share(0.5);
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(200, 5), studio::cursor));
+}
+
+TEST_F(SoundStrip, IsDarkerBehindItsEnd) {
+    strip.set_marks({}, 0.7);
+    EXPECT_TRUE(is_near(middle_at(0.6), studio::wave));
+    EXPECT_TRUE(is_near(middle_at(0.9), studio::wave_unheard));
+}
+
+TEST_F(SoundStrip, StandsForAsManySecondsAsTheBar) {
+    strip.set_sound(sound, 80); // twice as long as the shape, which then ends in the middle
+    EXPECT_EQ(height_at(0.05), whole_height());
+    EXPECT_EQ(height_at(0.9), 2);
+}
+
+TEST_F(SoundStrip, IsABarAgainWithoutTheSound) {
+    strip.set_sound(nullptr, 40);
+    strip.set_share(0.5);
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 4), studio::air));
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(300, 4), studio::groove));
 }
 
 TEST_F(Strip, PressAndMoveTellTheirPlace) {

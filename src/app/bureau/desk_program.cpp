@@ -49,7 +49,8 @@ DeskProgram::DeskProgram(Machine& machine, const std::string& file)
       dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }},
       station_{platform()},
       pictures_{[this](const std::string& name) { return picture_path(name); }},
-      services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_, path_forms()},
+      services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_, path_forms(),
+                [this](const std::string& path) { return waveforms_.of(path); }},
       desktop_{station_.windows(), station_.desk, services_, probe_.reading()},
       pulse_{live_.driver().wake_descriptor(), [this] {
                  std::chrono::nanoseconds rest{};

@@ -7,6 +7,7 @@
 #include "app/bureau/sound_probe.h"
 #include "app/common/live_machine.h"
 #include "app/common/machine.h"
+#include "app/common/waveforms.h"
 #include "desktop/desktop.h"
 #include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_shell.h"
@@ -60,6 +61,7 @@ private:
     Station station_;
     UpdateQueue updates_;
     PictureStore pictures_;
+    Waveforms waveforms_{machine_.drives(), machine_.folders().waveforms};
     DesktopServices services_;
     FilePresence presence_{machine_.drives()};
     SoundProbe probe_{live_.bus().taps()};

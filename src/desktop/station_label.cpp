@@ -1,6 +1,5 @@
 #include "desktop/station_label.h"
 
-#include <QApplication>
 #include <QEnterEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -10,18 +9,9 @@
 #include <algorithm>
 
 #include "desktop/colours.h"
+#include "desktop/text_size.h"
 
 namespace sonarelle {
-
-namespace {
-
-// The pixels of a style hold for a system text of 13; a greater one makes all greater.
-double text_scale() {
-    const QFontMetrics usual{QApplication::font()};
-    return std::max(1.0, usual.height() / 17.0);
-}
-
-} // namespace
 
 StationLabel::StationLabel(const Style& style, QWidget* parent)
     : QWidget{parent} {
@@ -30,10 +20,7 @@ StationLabel::StationLabel(const Style& style, QWidget* parent)
 
 void StationLabel::set_style(const Style& style) {
     style_ = style;
-    QFont font = QApplication::font();
-    font.setPixelSize(static_cast<int>(style.pixels * text_scale()));
-    font.setBold(style.bold);
-    setFont(font);
+    setFont(studio_font(style.pixels, style.bold));
     setSizePolicy(style.wrapped ? QSizePolicy::Expanding : QSizePolicy::Preferred,
                   style.wrapped ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
     updateGeometry();

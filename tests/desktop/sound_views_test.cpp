@@ -41,7 +41,7 @@ struct Source {
 class Meter : public DesktopFixture {
 protected:
     Meter() {
-        meter.resize(106, 100); // two bars of 50
+        meter.resize(216, 64); // bars of 200
         meter.on_loudness = [this](const QString& text) { told.push_back(text.toStdString()); };
     }
     void show_peaks(float left, float right) {
@@ -50,16 +50,26 @@ protected:
         const int before = source.asked;
         EXPECT_TRUE(becomes([&] { return source.asked >= before + 2; }));
     }
-    [[nodiscard]] QColor at(int channel, int height) {
-        return seen(meter).pixelColor(channel == 0 ? 25 : 81, 99 - height);
+    /// The middle of a channel's bar at a hundredth of its length.
+    [[nodiscard]] QColor at(int channel, int share) {
+        return seen(meter).pixelColor(16 + 2 * share, channel == 0 ? 8 : 36);
     }
-    /// How far up a bar is lit, in hundredths.
+    /// How far a bar is lit, in hundredths.
     [[nodiscard]] int lit(int channel) {
-        int height = 0;
-        while (height < 100 && !is_near(at(channel, height), studio::groove))
-            ++height;
-        return height;
+        int share = 0;
+        while (share < 100 && is_near(at(channel, share), studio::air))
+            ++share;
+        return share;
     }
+    /// Where the line of the greatest peak stands, in hundredths; -1 for none.
+    [[nodiscard]] int held(int channel) {
+        const QImage image = seen(meter);
+        for (int x = 215; x >= 16; --x)
+            if (is_near(image.pixelColor(x, channel == 0 ? 8 : 36), studio::cursor))
+                return (x - 16) / 2;
+        return -1;
+    }
+    [[nodiscard]] bool is_overloaded(int channel) { return is_near(at(channel, 97), studio::trouble); }
 
     Source source;
     LevelMeter meter{source.reading()};
@@ -82,11 +92,11 @@ protected:
 
 } // namespace
 
-TEST(LevelScale, GoesFromMinus48DecibelsToFull) {
+TEST(LevelScale, GoesFromMinus60DecibelsToFull) {
     EXPECT_EQ(share_of_scale(0), 0);
-    EXPECT_EQ(share_of_scale(0.001), 0);
-    EXPECT_NEAR(share_of_scale(0.0631), 0.5, 0.001); // -24 dB
-    EXPECT_NEAR(share_of_scale(0.5), 0.8746, 0.001);
+    EXPECT_EQ(share_of_scale(0.0009), 0);
+    EXPECT_NEAR(share_of_scale(0.0316228), 0.5, 0.001); // -30 dB
+    EXPECT_NEAR(share_of_scale(0.1), 0.6667, 0.001);
     EXPECT_EQ(share_of_scale(1), 1);
     EXPECT_EQ(share_of_scale(2), 1);
 }
@@ -109,10 +119,9 @@ TEST_F(Meter, IsNamedForTheScreenReader) {
 }
 
 TEST_F(Meter, EachChannelHasItsBar) {
-    show_peaks(0.0631F, 0.01F); // -24 and -40 dB
+    show_peaks(0.0316228F, 0.01F); // -30 and -40 dB
     EXPECT_NEAR(lit(0), 50, 2);
-    EXPECT_NEAR(lit(1), 17, 2);
-    EXPECT_TRUE(is_near(at(0, 20), studio::air));
+    EXPECT_NEAR(lit(1), 33, 2);
 }
 
 TEST_F(Meter, IsPaintedWhenTheLevelChanges) {
@@ -130,21 +139,60 @@ TEST_F(Meter, IsPaintedWhenTheLevelChanges) {
     meter.removeEventFilter(&counter);
 }
 
-TEST_F(Meter, IsRedAtTheTopOnly) {
-    show_peaks(1, 0.5F);
-    EXPECT_TRUE(is_near(at(0, 99), studio::trouble));
-    EXPECT_TRUE(is_near(at(0, 70), studio::air));
-    EXPECT_EQ(count_of(seen(meter).copy(56, 0, 50, 100), studio::trouble), 0);
+TEST_F(Meter, LineStaysWhereThePeakWas) {
+    show_peaks(0.0316228F, 0.01F);
+    source.level.peak = {0, 0};
+    EXPECT_TRUE(becomes([&] { return lit(0) < 30; }));
+    EXPECT_NEAR(held(0), 49, 2);
+    EXPECT_NEAR(held(1), 32, 2);
+}
+
+TEST_F(Meter, LineFallsAfterAWhile) {
+    show_peaks(0.1F, 0.1F);
+    source.level.peak = {0, 0};
+    EXPECT_TRUE(becomes([&] { return held(0) == -1; }));
+}
+
+TEST_F(Meter, LineGoesUpAtOnce) {
+    show_peaks(0.01F, 0);
+    show_peaks(0.1F, 0);
+    EXPECT_NEAR(held(0), 66, 2);
+    EXPECT_EQ(held(1), -1);
+}
+
+TEST_F(Meter, EndIsRedBeyondFullScaleAlone) {
+    show_peaks(0.99F, 1);
+    EXPECT_FALSE(is_overloaded(0));
+    EXPECT_TRUE(is_overloaded(1));
+    EXPECT_EQ(count_of(seen(meter).copy(0, 0, 216, 24), studio::trouble), 0);
+}
+
+TEST_F(Meter, EndIsDarkAgainAfterAWhile) {
+    show_peaks(1, 1);
+    source.level.peak = {0, 0};
+    EXPECT_TRUE(becomes([&] { return !is_overloaded(0); }));
+}
+
+TEST_F(Meter, HasNoOtherColourThanGreen) {
+    show_peaks(0.97F, 0.97F);
+    EXPECT_EQ(count_of(seen(meter), studio::next), 0);
+    EXPECT_EQ(count_of(seen(meter), studio::trouble), 0);
+}
+
+TEST_F(Meter, ScaleAndLettersRead) {
+    show_peaks(0, 0);
+    const QImage image = seen(meter);
+    EXPECT_GE(contrast_in(image.copy(0, 50, 216, 14)), readable);
+    EXPECT_GE(contrast_in(image.copy(0, 0, 14, 24)), readable);
 }
 
 TEST_F(Meter, FallsSlowly) {
     show_peaks(1, 1);
-    EXPECT_EQ(lit(0), 100);
+    EXPECT_EQ(held(0), 99);
     source.level.peak = {0, 0};
     const int before = source.asked;
-    EXPECT_TRUE(becomes([&] { return source.asked >= before + 2; }));
-    EXPECT_GT(lit(0), 10);
-    EXPECT_LT(lit(0), 99);
+    EXPECT_TRUE(becomes([&] { return lit(0) < 80; }));
+    EXPECT_GE(source.asked, before + 6) << "three hundredths a look";
     EXPECT_TRUE(becomes([&] { return lit(0) == 0; }));
 }
 
@@ -169,7 +217,7 @@ TEST_F(Meter, AsksForNothingWhileItIsHidden) {
 
 TEST_F(Meter, WithoutASourceStaysDark) {
     LevelMeter silent{SoundReading{}};
-    silent.resize(106, 100);
+    silent.resize(216, 64);
     silent.show();
     QTest::qWait(some_readings);
     EXPECT_EQ(count_of(seen(silent), studio::air), 0);

@@ -39,6 +39,9 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
       next_{new StationLabel{{.pixels = 15, .characters = 16}}},
       remaining_{new StationLabel{
           {.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter}}},
+      left_word_{new StationLabel{{.pixels = 12, .bold = true, .quiet = true, .characters = 5, .alignment = right}}},
+      to_mix_{new StationLabel{{.pixels = 12, .bold = true, .digits = true, .characters = 15}}},
+      time_{new QWidget},
       silence_{new StationLabel{{.pixels = 48, .bold = true, .digits = true, .characters = 18, .alignment = right}}},
       notice_{new StationLabel{{.pixels = 32, .bold = true, .alignment = right}}},
       clock_{new StationLabel{{.pixels = 20, .digits = true, .characters = 8, .alignment = right}}},
@@ -53,12 +56,18 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
     movie->setFixedSize(banner_size);
     notice_->setFixedSize(banner_size);
     remaining_->set_text("00:00:00");
+    left_word_->set_text("RESTE");
+    auto* time = new QVBoxLayout{time_};
+    time->setContentsMargins(0, 0, 0, 0);
+    time->setSpacing(0);
+    time->addWidget(remaining_);
+    time->addLayout(row_of({nullptr, left_word_, to_mix_, nullptr}, 4));
     auto* grid = new QGridLayout{this};
     grid->setContentsMargins(8, 0, 8, 0);
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(4);
     grid->addLayout(column_of({heading_, title_, next_, mark(dresser, window)}, 2), 0, 0, 2, 1);
-    grid->addWidget(remaining_, 0, 1, 2, 1);
+    grid->addWidget(time_, 0, 1, 2, 1);
     grid->addWidget(clock_, 0, 2);
     grid->addWidget(banner_, 1, 2);
     grid->addWidget(notice_, 1, 2);
@@ -81,6 +90,7 @@ void AirHeader::name_labels() {
                                       {title_, "air_title"},
                                       {next_, "air_next"},
                                       {remaining_, "remaining"},
+                                      {to_mix_, "air_to_mix"},
                                       {silence_, "air_silence"},
                                       {notice_, "air_notice"},
                                       {clock_, "clock"}})
@@ -94,6 +104,7 @@ void AirHeader::show_air(const AirLook& look) {
     look_ = look;
     title_->set_text(look.title);
     remaining_->set_text(look.left);
+    to_mix_->set_text(look.to_mix ? "· MIX DANS " + QString::number(*look.to_mix) + " s" : QString{});
     next_->set_text(look.next);
     show_heading();
     show_alarm();
@@ -125,7 +136,7 @@ void AirHeader::show_alarm() {
     notice_->set_text(card_lost_ ? "CARTE SON PERDUE" : look_.notice);
     const bool noticed = !notice_->text().isEmpty() && !silent;
     silence_->setVisible(silent);
-    remaining_->setVisible(!silent);
+    time_->setVisible(!silent);
     notice_->setVisible(noticed);
     banner_->setVisible(!silent && !noticed && !look_.suspended);
     setAccessibleName(silent ? silence_->text() : notice_->text());
@@ -143,8 +154,9 @@ void AirHeader::colour_labels() {
     const QColor state = is_heard ? studio::air : look_.role == DeckRole::paused ? studio::next : studio::text;
     colour(*heading_, ink(state));
     colour(*next_, ink(studio::next));
+    colour(*to_mix_, ink(studio::next));
     colour(*notice_, ink(studio::next));
-    for (StationLabel* label : {title_, remaining_, silence_, clock_})
+    for (StationLabel* label : {title_, remaining_, left_word_, silence_, clock_})
         if (alarms())
             colour(*label, Qt::white);
         else

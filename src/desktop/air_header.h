@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "desktop/station_label.h"
 #include "playout/air_view.h"
@@ -15,7 +16,8 @@ struct AirLook {
     DeckRole role = DeckRole::empty; ///< That of the deck that the air is told by.
     int deck = 0;                    ///< Its number.
     QString title;
-    QString left; ///< Time to the end of play.
+    QString left;                ///< Time to the end of play.
+    std::optional<int> to_mix{}; ///< Seconds until the next track comes in; nothing where none does.
     QString next;
     bool suspended = false; ///< The chain waits for a special mix, which `next` says in more words than usual.
     QString notice;         ///< A trouble that leaves the air as it is; empty for none.
@@ -49,8 +51,11 @@ private:
     StationLabel* title_;
     StationLabel* next_;
     StationLabel* remaining_;
-    StationLabel* silence_; ///< In the place of the remaining time and of the banner.
-    StationLabel* notice_;  ///< A lost card, or what the look tells, in the banner's place.
+    StationLabel* left_word_; ///< What the remaining time is,
+    StationLabel* to_mix_;    ///< and in how long the next track comes in.
+    QWidget* time_;           ///< These three.
+    StationLabel* silence_;   ///< In the place of the remaining time and of the banner.
+    StationLabel* notice_;    ///< A lost card, or what the look tells, in the banner's place.
     StationLabel* clock_;
     QWidget* banner_;
     AirLook look_;

@@ -162,6 +162,7 @@ void Desktop::show_air() {
                      .deck = deck == nullptr ? 0 : deck->number(),
                      .title = title,
                      .left = left,
+                     .to_mix = seconds_to_mix(desk_),
                      .next = what_follows(),
                      .suspended = waits_for_special_mix(desk_),
                      .notice = notice(),

@@ -104,6 +104,15 @@ int seconds_left(Desk& desk) {
     return std::max(0, left);
 }
 
+std::optional<int> seconds_to_mix(Desk& desk) {
+    const bool over_decks = desk.window.deck_chain_timer.enabled() && desk.window.mix_titles.value();
+    const bool chained = over_decks || desk.window.list_chain_timer.enabled();
+    if (!chained || desk.is_manual() || waits_for_special_mix(desk) || main_role(desk) != DeckRole::on_air)
+        return std::nullopt;
+    const int left = seconds_left(desk) - desk.settings.mix_courant.value();
+    return left > 0 ? std::optional{left} : std::nullopt;
+}
+
 std::string name_heard(const Desk& desk, const Deck& deck) {
     const DeckRole role = role_of(desk, deck);
     return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};

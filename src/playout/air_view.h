@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,9 @@ enum class DeckRole {
 [[nodiscard]] std::string name_on_air(Desk& desk);
 /// Whole seconds from now to the end of play of what is on the air; 0 for nothing.
 [[nodiscard]] int seconds_left(Desk& desk);
+
+/// Whole seconds to the mix point, at which the chain brings the next track; nothing where it brings none.
+[[nodiscard]] std::optional<int> seconds_to_mix(Desk& desk);
 
 /// The name of what is heard on a deck, or paused on the main one, without its ending; empty for nothing.
 [[nodiscard]] std::string name_heard(const Desk& desk, const Deck& deck);

@@ -263,4 +263,22 @@ TEST_F(AirHeaderTest, WordsReadOnRedWhateverTheWindowsGround) {
         EXPECT_GE(contrast_in(seen_in_window(label(name))), 4.2) << name;
 }
 
+TEST_F(AirHeaderTest, TellsInHowLongTheNextTrackComesIn) {
+    play();
+    EXPECT_EQ(label("air_to_mix").text(), "");
+    view.show_air({.role = DeckRole::on_air,
+                   .deck = 2,
+                   .title = "Matin sur le port",
+                   .left = "00:02:10",
+                   .to_mix = 124,
+                   .next = "Ensuite : Jingle bonjour",
+                   .notice = {},
+                   .silence = {}});
+    settle();
+    EXPECT_EQ(label("air_to_mix").text(), "· MIX DANS 124 s");
+    const QColor ink = ink_in(seen_in_window(label("air_to_mix")));
+    EXPECT_GT(ink.red(), ink.blue() + 40) << "amber";
+    expect_whole(label("air_to_mix"));
+}
+
 } // namespace sonarelle

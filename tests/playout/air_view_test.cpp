@@ -261,4 +261,35 @@ TEST_F(AirView, PromisesNothingWhereTheChainOverDecksFollowsNothing) {
     EXPECT_EQ(to_come(), "titre 9");
 }
 
+TEST_F(AirView, CountsDownToTheMix) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(100));
+    EXPECT_EQ(seconds_to_mix(station.desk), 94); // to the second 194
+    machine.run_for(seconds(93));
+    EXPECT_EQ(seconds_to_mix(station.desk), 1);
+    machine.run_for(seconds(2));
+    EXPECT_EQ(seconds_to_mix(station.desk), 193) << "that of the next track";
+}
+
+TEST_F(AirView, CountsDownOverDecksToo) {
+    open_on_all({100, 100, 100});
+    station.main_window.mix_titles.click();
+    controls(1).play.click();
+    machine.run_for(seconds(10));
+    EXPECT_EQ(seconds_to_mix(station.desk), 84);
+}
+
+TEST_F(AirView, CountsDownToNoMixWhereNoneComes) {
+    open_on_all({100, 100, 100});
+    EXPECT_EQ(seconds_to_mix(station.desk), std::nullopt) << "nothing plays";
+    station.main_window.mix_titles.click();
+    controls(1).play.click();
+    controls(1).pause.click();
+    EXPECT_EQ(seconds_to_mix(station.desk), std::nullopt) << "paused";
+    controls(1).pause.click();
+    station.main_window.a_mode_manuel.click();
+    EXPECT_EQ(seconds_to_mix(station.desk), std::nullopt) << "by hand";
+}
+
 } // namespace sonarelle

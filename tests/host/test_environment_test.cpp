@@ -18,6 +18,10 @@ TEST(TestEnvironment, KeepsTheUsersStationOutOfReach) {
     EXPECT_TRUE(variable("XDG_DATA_HOME").ends_with("/test-home/data"));
 }
 
+TEST(TestEnvironment, KeepsTheUsersCacheOutOfReach) {
+    EXPECT_TRUE(variable("XDG_CACHE_HOME").ends_with("/test-home/cache"));
+}
+
 TEST(TestEnvironment, NamesTheCommandLine) {
     EXPECT_TRUE(variable("SONARELLE_OUTIL").ends_with("/sonarelle-outil"));
 }

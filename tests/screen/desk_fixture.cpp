@@ -26,6 +26,7 @@ constexpr auto patience = 15s; // far more than a busy machine needs
 void set_environment(const PrivateFolder& folder) {
     for (const auto& [name, value] : {std::pair{"XDG_CONFIG_HOME", "config"},
                                       {"XDG_DATA_HOME", "data"},
+                                      {"XDG_CACHE_HOME", "cache"},
                                       {"XDG_RUNTIME_DIR", "run"},
                                       {"PULSE_RUNTIME_PATH", "run"}})
         ::setenv(name, folder.path(value).c_str(), 1);

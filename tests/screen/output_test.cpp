@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <cstdlib>
 
 #include "desktop/station_label.h"
@@ -24,6 +25,25 @@ protected:
         });
     }
 
+    /// The output's menu; null until the desk has it.
+    [[nodiscard]] static QMenu* menu_of_outputs() {
+        for (QWidget* widget : QApplication::allWidgets())
+            if (auto* menu = qobject_cast<QMenu*>(widget); menu != nullptr && menu->objectName() == "Sortie_audio")
+                return menu;
+        return nullptr;
+    }
+    /// The one that is always there.
+    static bool choose_the_default_output() {
+        QMenu* menu = menu_of_outputs();
+        if (menu == nullptr)
+            return false;
+        emit menu->aboutToShow();
+        menu->actions().front()->trigger();
+        return true;
+    }
+
+    static constexpr std::string_view kept_choice = "config/sonarelle/sortie.json";
+
 private:
     [[nodiscard]] const StationLabel& label() {
         return *widget_of(station().main_window)->findChild<StationLabel*>("output");
@@ -40,6 +60,17 @@ TEST_F(OutputOnScreen, IsRedWithoutASoundCard) {
 
 TEST_F(OutputOnScreen, IsQuietWithOne) {
     tells("dummy", "sortie : la carte son joue", false);
+}
+
+TEST_F(OutputOnScreen, ChosenFromTheMenuIsRememberedForTheNextStart) {
+    ::setenv("SDL_AUDIODRIVER", "dummy", 1);
+    operate("", [this] {
+        wait_for_the_keyboard();
+        EXPECT_FALSE(folder().exists(kept_choice));
+        EXPECT_TRUE(seen<bool>([] { return choose_the_default_output(); }));
+        until("the choice on the disk", [this] { return folder().exists(kept_choice); });
+    });
+    EXPECT_NE(folder().bytes(kept_choice).find("\"sortie\": \"\""), std::string::npos);
 }
 
 } // namespace sonarelle::test

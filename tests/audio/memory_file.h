@@ -30,8 +30,8 @@ private:
 /// A number as a file has it, its lowest byte first.
 [[nodiscard]] inline std::string little_endian(std::uint64_t value, std::size_t bytes) {
     std::string text;
-    for (std::size_t byte = 0; byte < bytes; ++byte)
-        text += static_cast<char>(value >> 8 * byte);
+    for (std::size_t byte = 0; byte < bytes; ++byte, value >>= 8)
+        text += static_cast<char>(value);
     return text;
 }
 

@@ -4,6 +4,8 @@
 #include <atomic>
 #include <list>
 #include <optional>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 #include "platform/audio/sound_files.h"
@@ -40,11 +42,12 @@ struct Waveforms::Work {
     [[nodiscard]] std::optional<std::string> next();
     [[nodiscard]] File& file_of(const std::string& path) SONARELLE_REQUIRES(mutex);
     void put(const std::string& path, std::shared_ptr<const Waveform> waveform);
+    [[nodiscard]] std::shared_ptr<const Waveform> read_idly(const std::string& path);
     /// Null when it can't be read, or isn't wanted any more.
     [[nodiscard]] std::shared_ptr<const Waveform> read(const std::string& path);
 
     const DriveTable drives;
-    HostDisk disk{drives}; // the helper's alone, like the store
+    HostDisk disk{drives}; // the reader's alone, like the store
     MachineFiles files;
     WaveformStore store;
     std::atomic<bool> ends = false;
@@ -54,9 +57,22 @@ struct Waveforms::Work {
 };
 
 void Waveforms::Work::run() {
-    become_idle_thread();
     while (const std::optional<std::string> path = next())
-        put(*path, read(*path));
+        put(*path, read_idly(*path));
+}
+
+// A thread that may be kept from the processor for long never holds a lock that the window thread could wait for.
+std::shared_ptr<const Waveform> Waveforms::Work::read_idly(const std::string& path) {
+    std::shared_ptr<const Waveform> waveform;
+    try {
+        std::thread reader{[&] {
+            become_idle_thread();
+            waveform = read(path);
+        }};
+        reader.join();
+    } catch (const std::system_error&) { // no thread to be had: the next look tries again
+    }
+    return waveform;
 }
 
 std::optional<std::string> Waveforms::Work::next() {

@@ -105,9 +105,11 @@ int seconds_left(Desk& desk) {
 }
 
 std::optional<int> seconds_to_mix(Desk& desk) {
-    const bool over_decks = desk.window.deck_chain_timer.enabled() && desk.window.mix_titles.value();
-    const bool chained = over_decks || desk.window.list_chain_timer.enabled();
-    if (!chained || desk.is_manual() || waits_for_special_mix(desk) || main_role(desk) != DeckRole::on_air)
+    if (desk.is_manual() || waits_for_special_mix(desk) || main_role(desk) != DeckRole::on_air)
+        return std::nullopt;
+    const bool over_decks = desk.window.deck_chain_timer.enabled() && desk.window.mix_titles.value() &&
+                            !desk.ring.after(desk.ring.main_deck()).path.empty();
+    if (!over_decks && !desk.window.list_chain_timer.enabled())
         return std::nullopt;
     const int left = seconds_left(desk) - desk.settings.mix_courant.value();
     return left > 0 ? std::optional{left} : std::nullopt;

@@ -280,6 +280,14 @@ TEST_F(AirView, CountsDownOverDecksToo) {
     EXPECT_EQ(seconds_to_mix(station.desk), 84);
 }
 
+TEST_F(AirView, CountsDownToNoMixOverDecksWithoutAFileOnTheNext) {
+    open_on_all({100});
+    station.main_window.mix_titles.click();
+    controls(1).play.click();
+    machine.run_for(seconds(10));
+    EXPECT_EQ(seconds_to_mix(station.desk), std::nullopt);
+}
+
 TEST_F(AirView, CountsDownToNoMixWhereNoneComes) {
     open_on_all({100, 100, 100});
     EXPECT_EQ(seconds_to_mix(station.desk), std::nullopt) << "nothing plays";

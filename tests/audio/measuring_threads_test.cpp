@@ -12,6 +12,7 @@
 #include <set>
 #include <thread>
 
+#include "memory_file.h"
 #include "platform/failure.h"
 #include "support/private_folder.h"
 
@@ -60,7 +61,7 @@ public:
             throw std::bad_alloc{};
         if (path.starts_with("/disque/long/"))
             free_.wait(lock, [this] { return !hangs_; });
-        return std::make_unique<Bytes>(files_.at(path));
+        return std::make_unique<MemoryFile>(files_.at(path));
     }
     /// How often a folder that hangs was asked.
     [[nodiscard]] unsigned hung() {
@@ -73,22 +74,6 @@ public:
     }
 
 private:
-    class Bytes final : public RecordFile {
-    public:
-        explicit Bytes(std::string bytes)
-            : bytes_{std::move(bytes)} {}
-        [[nodiscard]] std::int64_t length() const override { return static_cast<std::int64_t>(bytes_.size()); }
-        std::size_t read(std::int64_t position, std::span<std::byte> into) override {
-            const auto from = std::min(bytes_.size(), static_cast<std::size_t>(position));
-            const std::size_t count = std::min(into.size(), bytes_.size() - from);
-            std::memcpy(into.data(), bytes_.data() + from, count);
-            return count;
-        }
-
-    private:
-        std::string bytes_;
-    };
-
     std::mutex mutex_;
     std::condition_variable free_;
     std::map<std::string, std::string> files_;

@@ -34,17 +34,19 @@ void colour(QWidget& label, const QColor& ink) {
 } // namespace
 
 AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
-    : heading_{new StationLabel{{.pixels = 12, .characters = 20}}},
-      title_{new StationLabel{{.pixels = 19, .bold = true, .wrapped = true, .characters = 14}}},
-      next_{new StationLabel{{.pixels = 15, .characters = 16}}},
+    : heading_{new StationLabel{{.type = Type::small, .characters = 20}}},
+      title_{new StationLabel{{.type = Type::deck_title, .bold = true, .wrapped = true, .characters = 14}}},
+      next_{new StationLabel{{.type = Type::following, .characters = 16}}},
       remaining_{new StationLabel{
-          {.pixels = 60, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter}}},
-      left_word_{new StationLabel{{.pixels = 12, .bold = true, .quiet = true, .characters = 5, .alignment = right}}},
-      to_mix_{new StationLabel{{.pixels = 12, .bold = true, .digits = true, .characters = 15}}},
+          {.type = Type::remaining, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter}}},
+      left_word_{
+          new StationLabel{{.type = Type::small, .bold = true, .quiet = true, .characters = 5, .alignment = right}}},
+      to_mix_{new StationLabel{{.type = Type::small, .bold = true, .digits = true, .characters = 15}}},
       time_{new QWidget},
-      silence_{new StationLabel{{.pixels = 48, .bold = true, .digits = true, .characters = 18, .alignment = right}}},
-      notice_{new StationLabel{{.pixels = 32, .bold = true, .alignment = right}}},
-      clock_{new StationLabel{{.pixels = 20, .digits = true, .characters = 8, .alignment = right}}},
+      silence_{
+          new StationLabel{{.type = Type::clock, .bold = true, .digits = true, .characters = 18, .alignment = right}}},
+      notice_{new StationLabel{{.type = Type::air_title, .bold = true, .alignment = right}}},
+      clock_{new StationLabel{{.type = Type::deck_title, .digits = true, .characters = 8, .alignment = right}}},
       banner_{new QWidget} {
     setMouseTracking(true);
     setObjectName("air_header");
@@ -72,6 +74,7 @@ AirHeader::AirHeader(Dresser& dresser, Antenne_FM& window)
     grid->addWidget(banner_, 1, 2);
     grid->addWidget(notice_, 1, 2);
     grid->addWidget(silence_, 1, 1, 1, 2);
+    setMinimumHeight(112);
     grid->setColumnStretch(0, 1);
     show_alarm();
 }

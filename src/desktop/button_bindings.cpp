@@ -27,7 +27,7 @@ struct Plate {
 };
 
 Plate plate_of(Colour ink, Colour ground) {
-    return {ground_for(ink, ground, studio::face), to_qt(ink, studio::text)};
+    return {ground_for(ink, ground, studio::control), to_qt(ink, studio::text)};
 }
 
 } // namespace

@@ -18,22 +18,21 @@ double luminance(const QColor& colour) {
 } // namespace
 
 QPalette studio_palette() {
-    QPalette palette{studio::face, studio::ground};
+    QPalette palette{studio::control, studio::window};
     palette.setColor(QPalette::WindowText, studio::text);
-    palette.setColor(QPalette::Base, studio::groove);
-    palette.setColor(QPalette::AlternateBase, studio::panel);
+    palette.setColor(QPalette::Base, studio::well);
+    palette.setColor(QPalette::AlternateBase, studio::card);
     palette.setColor(QPalette::Text, studio::text);
     palette.setColor(QPalette::ButtonText, studio::text);
     palette.setColor(QPalette::BrightText, studio::trouble);
-    palette.setColor(QPalette::PlaceholderText, studio::quiet);
-    palette.setColor(QPalette::ToolTipBase, studio::panel);
-    palette.setColor(QPalette::ToolTipText, studio::text);
-    palette.setColor(QPalette::Highlight, QColor{0x2f, 0x4d, 0x80});
+    palette.setColor(QPalette::PlaceholderText, studio::caption);
+    palette.setColor(QPalette::ToolTipBase, studio::tip);
+    palette.setColor(QPalette::ToolTipText, studio::on_primary);
+    palette.setColor(QPalette::Highlight, studio::selection);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, studio::focus);
-    const QColor faded = studio::faded;
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, faded);
+        palette.setColor(QPalette::Disabled, role, studio::off);
     return palette;
 }
 

@@ -13,10 +13,10 @@ namespace sonarelle {
 namespace {
 
 constexpr int least_transport_height = 36;
-constexpr StationLabel::Style aside{.pixels = 11, .quiet = true, .characters = 11};
-constexpr StationLabel::Style figure{.pixels = 38, .digits = true, .characters = 5};
+constexpr StationLabel::Style aside{.type = Type::tiny, .quiet = true, .characters = 11};
+constexpr StationLabel::Style figure{.type = Type::figure, .digits = true, .characters = 5};
 constexpr StationLabel::Style right_figure{
-    .pixels = 38, .digits = true, .characters = 5, .alignment = Qt::AlignRight | Qt::AlignVCenter};
+    .type = Type::figure, .digits = true, .characters = 5, .alignment = Qt::AlignRight | Qt::AlignVCenter};
 
 StationLabel* aside_label(const QString& text, Qt::Alignment alignment = Qt::AlignLeft) {
     auto* label = new StationLabel{aside};
@@ -63,7 +63,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     auto* left = new QVBoxLayout;
     left->setSpacing(5);
     left->addLayout(heading(number));
-    title_ = dresser.title(controls.title, {.pixels = 19, .bold = true, .characters = 16});
+    title_ = dresser.title(controls.title, {.type = Type::deck_title, .bold = true, .characters = 16});
     left->addWidget(title_);
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);

@@ -50,14 +50,14 @@ QRadioButton* Dresser::option(OptionButton& option) {
 
 StudioButton* Dresser::button(Button& button, const QString& symbol) {
     auto* widget = new StudioButton{parent()};
-    widget->set_symbol(symbol);
+    widget->set_words(symbol);
     view_.keep(std::make_unique<ButtonBinding>(button, *widget, services()));
     return widget;
 }
 
 StudioButton* Dresser::image(Image& image, const QString& symbol, Accent accent) {
     auto* widget = new StudioButton{parent()};
-    widget->set_symbol(symbol);
+    widget->set_words(symbol);
     widget->set_accent(accent);
     view_.keep(std::make_unique<ImageBinding>(image, *widget, services()));
     return widget;

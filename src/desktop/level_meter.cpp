@@ -48,7 +48,7 @@ LevelMeter::LevelMeter(const SoundReading& reading, QWidget* parent)
     timer_.setInterval(interval);
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
     setAccessibleName("Niveau");
-    setFont(studio_font(11));
+    setFont(studio_font(Type::tiny));
 }
 
 void LevelMeter::showEvent(QShowEvent*) {
@@ -104,7 +104,7 @@ void LevelMeter::paintEvent(QPaintEvent*) {
         const QRectF bar{static_cast<double>(bars.left()), channel * (height + gap), static_cast<double>(bars.width()),
                          height};
         paint_channel(painter, bar, shown_[static_cast<std::size_t>(channel)]);
-        painter.setPen(legible(studio::quiet, palette().color(QPalette::Window)));
+        painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));
         painter.drawText(QRectF{0, bar.top(), letter_width, height}, Qt::AlignLeft | Qt::AlignVCenter,
                          channel == 0 ? "G" : "D");
     }
@@ -112,10 +112,10 @@ void LevelMeter::paintEvent(QPaintEvent*) {
 }
 
 void LevelMeter::paint_channel(QPainter& painter, const QRectF& bar, const Shown& shown) const {
-    painter.fillRect(bar, studio::groove);
+    painter.fillRect(bar, studio::well);
     const double end = bar.width() * overload_share;
     const QRectF overload{bar.right() - end, bar.top(), end, bar.height()};
-    painter.fillRect(overload, studio::face);
+    painter.fillRect(overload, studio::control);
     painter.fillRect(QRectF{bar.left(), bar.top(), bar.width() * shown.level, bar.height()}, studio::air);
     if (shown.overload_looks > 0)
         painter.fillRect(overload, studio::trouble);
@@ -124,7 +124,7 @@ void LevelMeter::paint_channel(QPainter& painter, const QRectF& bar, const Shown
 }
 
 void LevelMeter::paint_scale(QPainter& painter, const QRect& bars) const {
-    painter.setPen(legible(studio::quiet, palette().color(QPalette::Window)));
+    painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));
     const QFontMetrics metrics{font()};
     for (const Figure& figure : figures) {
         if (!figure.is_always_shown && bars.width() < least_wide)

@@ -14,8 +14,9 @@ namespace {
 
 constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
 // White on a middle grey reads well when it is bold and of this size.
-constexpr StationLabel::Style bold_text{.pixels = 14, .bold = true, .characters = 18};
-constexpr StationLabel::Style button_text{.pixels = 14, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
+constexpr StationLabel::Style bold_text{.type = Type::medium, .bold = true, .characters = 18};
+constexpr StationLabel::Style button_text{
+    .type = Type::medium, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
 
 } // namespace
 
@@ -39,13 +40,14 @@ QLayout* ListView::header() {
     auto* panel = new Panel{&content()};
     auto* row = new QHBoxLayout{panel};
     row->setContentsMargins(14, 6, 14, 6);
-    title_ = dresser_.label(window_.track_name, {.pixels = 20, .bold = true, .characters = 20});
-    auto* list = dresser_.label(window_.file_in_use, {.pixels = 13, .quiet = true, .characters = 20});
+    title_ = dresser_.label(window_.track_name, {.type = Type::deck_title, .bold = true, .characters = 20});
+    auto* list = dresser_.label(window_.file_in_use, {.type = Type::base, .quiet = true, .characters = 20});
     remaining_ = dresser_.label(
-        window_.remaining, {.pixels = 50, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
-    clock_ =
-        dresser_.label(window_.time_of_day,
-                       {.pixels = 20, .digits = true, .characters = 9, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+        window_.remaining,
+        {.type = Type::clock, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
+    clock_ = dresser_.label(
+        window_.time_of_day,
+        {.type = Type::deck_title, .digits = true, .characters = 9, .alignment = Qt::AlignRight | Qt::AlignVCenter});
     for (const Label* label : {&window_.track_name, &window_.remaining, &window_.time_of_day})
         binding_of(*label)->on_shown = [this] { tell_air(); };
     row->addLayout(column_of({title_, list}, 2), 1);
@@ -104,7 +106,7 @@ QWidget* ListView::side_column() {
     column->setContentsMargins(12, 10, 12, 10);
     column->setSpacing(6);
     const auto heading = [column](const QString& text) {
-        auto* label = new StationLabel{{.pixels = 11, .quiet = true}};
+        auto* label = new StationLabel{{.type = Type::tiny, .quiet = true}};
         label->set_text(text);
         column->addWidget(label);
     };

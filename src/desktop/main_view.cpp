@@ -22,11 +22,11 @@ namespace sonarelle {
 namespace {
 
 constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
-constexpr StationLabel::Style panel_heading{.pixels = 11, .quiet = true, .characters = 14};
-constexpr StationLabel::Style status{.pixels = 12, .quiet = true, .characters = 24};
-constexpr StationLabel::Style trouble{.pixels = 14, .bold = true, .characters = 24};
+constexpr StationLabel::Style panel_heading{.type = Type::tiny, .quiet = true, .characters = 14};
+constexpr StationLabel::Style status{.type = Type::small, .quiet = true, .characters = 24};
+constexpr StationLabel::Style trouble{.type = Type::medium, .bold = true, .characters = 24};
 constexpr StationLabel::Style menu_word{
-    .pixels = 13, .framed = true, .underlined = true, .characters = 8, .alignment = Qt::AlignCenter};
+    .type = Type::base, .framed = true, .underlined = true, .characters = 8, .alignment = Qt::AlignCenter};
 
 StationLabel* text_label(const StationLabel::Style& style, const QString& text = {}) {
     auto* label = new StationLabel{style};
@@ -129,7 +129,7 @@ Panel* MainView::chain_panel() {
     auto* more = dresser_.image(window_.overlap_more, "+");
     less->setAccessibleName("Superposition moins une seconde");
     more->setAccessibleName("Superposition plus une seconde");
-    auto* unit = text_label({.pixels = 11, .quiet = true, .characters = 17}, "s de superposition");
+    auto* unit = text_label({.type = Type::tiny, .quiet = true, .characters = 17}, "s de superposition");
     unit->setMinimumWidth(unit->sizeHint().width());
     auto* companion = dresser_.slider(window_.overlap_steps, Qt::Horizontal);
     companion->setAccessibleName("Superposition");
@@ -148,7 +148,7 @@ Panel* MainView::quick_load_panel() {
     column->addWidget(dresser_.label(window_.running_chain, panel_heading));
     column->addWidget(dresser_.combo_box(window_.favourites));
     column->addWidget(dresser_.combo_box(window_.jingles));
-    column->addWidget(text_label({.pixels = 11, .quiet = true, .characters = 18}, "espace : choisir le lecteur"));
+    column->addWidget(text_label({.type = Type::tiny, .quiet = true, .characters = 18}, "espace : choisir le lecteur"));
     column->addStretch(1);
     return panel;
 }
@@ -166,7 +166,7 @@ Panel* MainView::effect_panel(const SoundReading& sound) {
 Panel* MainView::meter_panel(const SoundReading& sound) {
     auto* panel = new Panel{&content()};
     auto* column = column_in(panel, {});
-    auto* heading = text_label({.pixels = 13, .bold = true, .digits = true, .characters = 10}, "— LUFS");
+    auto* heading = text_label({.type = Type::base, .bold = true, .digits = true, .characters = 10}, "— LUFS");
     auto* meter = new LevelMeter{sound};
     auto* frame = dresser_.frame(window_.meters);
     frame->setFlat(true);
@@ -184,11 +184,12 @@ QWidget* MainView::status_line() {
     auto* row = new QHBoxLayout{line};
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(18);
-    auto* elapsed = dresser_.label(window_.elapsed, {.pixels = 12, .quiet = true, .digits = true, .characters = 5});
+    auto* elapsed =
+        dresser_.label(window_.elapsed, {.type = Type::small, .quiet = true, .digits = true, .characters = 5});
     output_ = text_label(status);
     output_->setObjectName("output");
-    played_ =
-        text_label({.pixels = 12, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    played_ = text_label(
+        {.type = Type::small, .quiet = true, .characters = 24, .alignment = Qt::AlignRight | Qt::AlignVCenter});
     row->addWidget(dresser_.label(window_.chain_status, status), 2);
     row->addWidget(elapsed);
     row->addWidget(output_, 4);

@@ -14,8 +14,8 @@ namespace {
 // Menus lie over panels of the windows' own colour, so theirs is lighter.
 QPalette menu_palette() {
     QPalette palette = studio_palette();
-    palette.setColor(QPalette::Window, studio::face);
-    palette.setColor(QPalette::Base, studio::face);
+    palette.setColor(QPalette::Window, studio::control);
+    palette.setColor(QPalette::Base, studio::control);
     return palette;
 }
 

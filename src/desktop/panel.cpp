@@ -9,7 +9,7 @@ namespace sonarelle {
 
 Panel::Panel(QWidget* parent)
     : QWidget{parent},
-      plate_{studio::panel} {
+      plate_{studio::card} {
     setMouseTracking(true);
     tell_ground();
 }
@@ -40,7 +40,7 @@ void Panel::paintEvent(QPaintEvent*) {
     plate.setAlphaF(0.94F);
     painter.setBrush(plate);
     painter.setPen(
-        QPen{accent_ == Accent::none ? studio::edge : colour_of(accent_), accent_ == Accent::none ? 1.0 : 2.0});
+        QPen{accent_ == Accent::none ? studio::line : colour_of(accent_), accent_ == Accent::none ? 1.0 : 2.0});
     painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 8, 8);
 }
 

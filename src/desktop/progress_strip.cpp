@@ -72,7 +72,7 @@ void ProgressStrip::paintEvent(QPaintEvent*) {
     QPainterPath outline;
     outline.addRoundedRect(bar, 5, 5);
     painter.setPen(Qt::NoPen);
-    painter.fillPath(outline, studio::groove);
+    painter.fillPath(outline, studio::well);
     painter.setClipPath(outline);
     if (sound_ && seconds_ > 0)
         paint_sound(painter, bar);

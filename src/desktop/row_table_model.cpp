@@ -17,7 +17,7 @@ RowTableModel::RowTableModel(RowTable& table, UpdateQueue& updates)
     : table_{table},
       updates_{updates},
       count_{table.count()},
-      ground_{studio::groove},
+      ground_{studio::well},
       ink_{studio::text} {
     table_.observe_rows(this);
 }

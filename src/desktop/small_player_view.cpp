@@ -43,14 +43,16 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
 }
 
 QLayout* SmallPlayerView::reading() {
-    state_ = new StationLabel{{.pixels = 13, .bold = true, .characters = 15}};
+    state_ = new StationLabel{{.type = Type::base, .bold = true, .characters = 15}};
     state_->setObjectName("player_state");
-    title_ = new StationLabel{{.pixels = 15, .bold = true, .characters = 16}};
+    title_ = new StationLabel{{.type = Type::following, .bold = true, .characters = 16}};
     title_->setObjectName("player_title");
-    seconds_ = dresser_.label(
-        window_.remaining,
-        {.pixels = 28, .bold = true, .digits = true, .characters = 4, .alignment = Qt::AlignRight | Qt::AlignVCenter});
-    unit_ = new StationLabel{{.pixels = 15, .characters = 2}};
+    seconds_ = dresser_.label(window_.remaining, {.type = Type::air_title,
+                                                  .bold = true,
+                                                  .digits = true,
+                                                  .characters = 4,
+                                                  .alignment = Qt::AlignRight | Qt::AlignVCenter});
+    unit_ = new StationLabel{{.type = Type::following, .characters = 2}};
     unit_->set_text("s");
     auto* row = new QHBoxLayout;
     row->addWidget(state_);

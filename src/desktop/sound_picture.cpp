@@ -51,7 +51,7 @@ void SoundPictureView::start_or_stop() {
 
 void SoundPictureView::paintEvent(QPaintEvent*) {
     QPainter painter{this};
-    painter.fillRect(rect(), studio::groove);
+    painter.fillRect(rect(), studio::well);
     if (!timer_.isActive())
         return;
     if (picture_ == SoundPicture::oscilloscope)

@@ -13,6 +13,12 @@
 
 namespace sonarelle {
 
+namespace {
+
+constexpr double capital_spacing = 107; // percent
+
+} // namespace
+
 StationLabel::StationLabel(const Style& style, QWidget* parent)
     : QWidget{parent} {
     set_style(style);
@@ -20,10 +26,25 @@ StationLabel::StationLabel(const Style& style, QWidget* parent)
 
 void StationLabel::set_style(const Style& style) {
     style_ = style;
-    setFont(studio_font(style.pixels, style.bold));
+    set_type();
     setSizePolicy(style.wrapped ? QSizePolicy::Expanding : QSizePolicy::Preferred,
                   style.wrapped ? QSizePolicy::MinimumExpanding : QSizePolicy::Fixed);
     updateGeometry();
+}
+
+void StationLabel::set_step(Step step) {
+    step_ = step;
+    set_type();
+    updateGeometry();
+}
+
+void StationLabel::set_type() {
+    QFont font = studio_font(style_.type, step_, style_.bold);
+    if (style_.capitals) {
+        font.setWeight(QFont::DemiBold);
+        font.setLetterSpacing(QFont::PercentageSpacing, capital_spacing);
+    }
+    setFont(font);
 }
 
 void StationLabel::set_alarming(bool alarming) {
@@ -107,7 +128,7 @@ QColor StationLabel::ink() const {
 void StationLabel::paint_frame(QPainter& painter) const {
     const QPen focus{studio::focus, 2};
     if (style_.framed) {
-        painter.setPen(hasFocus() ? focus : QPen{studio::edge, 1});
+        painter.setPen(hasFocus() ? focus : QPen{studio::line, 1});
         painter.setBrush(ground());
         painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 6, 6);
     } else if (hasFocus()) {

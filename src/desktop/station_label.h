@@ -3,17 +3,20 @@
 #include <QWidget>
 #include <functional>
 
+#include "desktop/stepped.h"
+
 namespace sonarelle {
 
 /// A text that changes often and never moves what stands beside it: its size depends on its style alone.
 /// What it has no room for is told whole where the pointer rests on it.
 /// Digits stand in cells of one width where the style asks for it. It can be pressed, by mouse and keyboard.
-class StationLabel : public QWidget {
+class StationLabel : public QWidget, public Stepped {
 public:
     struct Style {
-        int pixels = 14; ///< At the system's usual text size; grows with it.
+        Type type = Type::medium;
         bool bold = false;
         bool quiet = false;      ///< A heading or an aside.
+        bool capitals = false;   ///< Wide-spaced ones, as headings have.
         bool digits = false;     ///< In cells of one width.
         bool framed = false;     ///< Drawn as a button.
         bool underlined = false; ///< The letter behind a mark in the text.
@@ -29,6 +32,7 @@ public:
     virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
     void set_style(const Style& style);
+    void set_step(Step step) override;
     /// In the colour of trouble, whatever ink it was given.
     void set_alarming(bool alarming);
     /// Makes it a button for mouse and keyboard.
@@ -54,6 +58,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void set_type();
     [[nodiscard]] bool is_cut() const;
     [[nodiscard]] QColor ground() const;
     [[nodiscard]] QColor ink() const;
@@ -62,6 +67,7 @@ private:
     void paint_in_cells(QPainter& painter, const QRect& area) const;
 
     Style style_;
+    Step step_ = Step::compact;
     QString text_;
     bool pressable_ = false;
     bool alarming_ = false;

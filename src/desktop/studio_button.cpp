@@ -1,16 +1,18 @@
 #include "desktop/studio_button.h"
 
-#include <QApplication>
 #include <QPainter>
 #include <algorithm>
 
 #include "desktop/colours.h"
+#include "desktop/text_size.h"
 
 namespace sonarelle {
 
 namespace {
 
 constexpr int least_text_width = 8;
+constexpr int padding = 20;
+constexpr int ring = 2; ///< Of the focus: its width, and its distance from the face.
 
 // A picture without its edge.
 QRect inside(const QPixmap& picture) {
@@ -29,17 +31,34 @@ QColor colour_of(Accent accent) {
         return studio::next;
     case Accent::trouble:
         return studio::trouble;
+    case Accent::primary:
+        return studio::primary;
     case Accent::none:
         break;
     }
-    return studio::edge;
+    return studio::line;
 }
 
 StudioButton::StudioButton(QWidget* parent)
     : QAbstractButton{parent},
-      face_{studio::face, studio::text, studio::edge, studio::text, studio::groove, studio::text} {
+      face_{studio::control, studio::text, studio::control_over, studio::text, studio::window, studio::text} {
     setFocusPolicy(Qt::TabFocus); // a space bar after a click would press it again
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    set_step(step_);
+}
+
+void StudioButton::set_step(Step step) {
+    step_ = step;
+    QFont font = studio_font(size_ == ButtonSize::small ? Type::small : Type::base, step);
+    font.setWeight(QFont::DemiBold);
+    setFont(font);
+    updateGeometry();
+    update();
+}
+
+void StudioButton::set_size(ButtonSize size) {
+    size_ = size;
+    set_step(step_);
 }
 
 void StudioButton::set_face(const Face& face) {
@@ -60,15 +79,26 @@ const QPixmap& StudioButton::shown_picture() const {
     return isDown() ? pictures_.down : is_under_pointer() ? pictures_.over : pictures_.rest;
 }
 
-// A word stays beside a picture; a sign was there in its stead.
-bool StudioButton::has_text_beside() const {
-    return has_face() && shown_text().size() > 2;
+void StudioButton::set_sign(Sign sign, const QString& words, const QString& narrow_words) {
+    sign_ = sign;
+    set_words(words, narrow_words);
 }
 
-void StudioButton::set_symbol(const QString& symbol) {
-    symbol_ = symbol;
+void StudioButton::set_words(const QString& words, const QString& narrow_words) {
+    words_ = words;
+    narrow_words_ = narrow_words.isEmpty() ? words : narrow_words;
     updateGeometry();
     update();
+}
+
+QString StudioButton::shown_text() const {
+    const QString& words = step_ == Step::narrow ? narrow_words_ : words_;
+    return words.isEmpty() && sign_ == Sign::none ? text() : words;
+}
+
+// A word stays beside a picture; a sign of the font was there in its stead.
+bool StudioButton::has_text_beside() const {
+    return sign_ != Sign::none ? !shown_text().isEmpty() : has_face() && shown_text().size() > 2;
 }
 
 void StudioButton::set_accent(Accent accent) {
@@ -76,6 +106,10 @@ void StudioButton::set_accent(Accent accent) {
         return;
     accent_ = accent;
     update();
+}
+
+bool StudioButton::is_lit() const {
+    return accent_ != Accent::none && (isEnabled() || accent_ == Accent::air);
 }
 
 void StudioButton::set_look(ButtonLook look) {
@@ -88,23 +122,39 @@ void StudioButton::set_least_width(int pixels) {
     updateGeometry();
 }
 
+int StudioButton::sign_size() const {
+    return size_ == ButtonSize::small ? fontMetrics().height() - 2 : scaled(lengths_of(step_).sign);
+}
+
+int StudioButton::height_of_face() const {
+    const StepLengths& lengths = lengths_of(step_);
+    const int height = size_ == ButtonSize::normal    ? lengths.button
+                       : size_ == ButtonSize::control ? lengths.control
+                                                      : lengths.small_button;
+    return scaled(height);
+}
+
 QSize StudioButton::sizeHint() const {
     const QFontMetrics metrics{font()};
-    const int height = metrics.height() + 14;
+    const int height = height_of_face();
     if (!has_face() && has_picture())
         return (pictures_.rest.size() / 2).boundedTo({480, height});
     if (!has_face() && shown_text().isEmpty())
         return {0, 0};
-    int width = !has_picture() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) + 20 : 0;
+    const bool is_sign_alone = sign_ != Sign::none && !has_text_beside();
+    int width = is_sign_alone ? 0 : !has_picture() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) : 0;
     if (has_picture())
         width += inside(pictures_.rest).width() / 2;
-    return {std::max(least_width_, width), height};
+    else if (sign_ != Sign::none)
+        width += sign_size() + (is_sign_alone ? 0 : studio::grid);
+    const bool is_picture_alone = has_picture() && !has_text_beside();
+    return {std::max(least_width_, width + (is_picture_alone ? 0 : padding)), height};
 }
 
 QSize StudioButton::minimumSizeHint() const {
     if (!has_face())
         return sizeHint().boundedTo({24, 24});
-    return {std::min(sizeHint().width(), std::max(least_width_, 34)), QFontMetrics{font()}.height() + 10};
+    return {std::min(sizeHint().width(), least_width_), height_of_face()};
 }
 
 void StudioButton::enterEvent(QEnterEvent* event) {
@@ -117,75 +167,118 @@ void StudioButton::leaveEvent(QEvent* event) {
     update();
 }
 
+StudioButton::Plate StudioButton::plate_at_rest() const {
+    switch (is_lit() ? accent_ : Accent::none) {
+    case Accent::air:
+        return {studio::air_fill, studio::air, Qt::white};
+    case Accent::next:
+        return {studio::next, studio::next, studio::on_next};
+    case Accent::trouble:
+        return {studio::trouble_fill, studio::trouble, Qt::white};
+    case Accent::primary:
+        return {studio::primary, studio::primary, studio::on_primary};
+    case Accent::none:
+        break;
+    }
+    const bool over = is_under_pointer();
+    const QColor line = over || isDown() ? studio::field_line : studio::line;
+    if (has_picture()) { // whose signs are light
+        const QColor ground = isDown() ? studio::window : over ? studio::control_over : studio::control;
+        return {ground, line, legible(face_.ink, ground)};
+    }
+    if (isDown())
+        return {face_.ground_down, line, face_.ink_down};
+    return over ? Plate{face_.ground_over, line, face_.ink_over} : Plate{face_.ground, line, face_.ink};
+}
+
+// A lit one is a little lighter under the pointer and darker while it is down, in its own colour.
+StudioButton::Plate StudioButton::plate() const {
+    Plate shown = plate_at_rest();
+    if (is_lit() && isEnabled() && (isDown() || underMouse()))
+        shown.ground = mixed(shown.ground, isDown() ? Qt::black : Qt::white, 0.12);
+    if (!isEnabled() && !is_lit()) {
+        const QColor behind = palette().color(QPalette::Window);
+        shown = {Qt::transparent, mixed(behind, studio::line, 0.6), legible(studio::off, behind)};
+    }
+    return shown;
+}
+
 void StudioButton::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const bool over = is_under_pointer();
-    QColor ground = isDown() ? face_.ground_down : over ? face_.ground_over : face_.ground;
-    QColor ink = isDown() ? face_.ink_down : over ? face_.ink_over : face_.ink;
-    if (has_picture()) { // whose signs are light
-        ground = mixed(studio::face, isDown() ? Qt::black : Qt::white, isDown() ? 0.35 : over ? 0.10 : 0);
-        ink = legible(ink, ground);
-    }
-    if (!isEnabled())
-        painter.setOpacity(0.38);
-    else if (accent_ != Accent::none)
-        ink = readable_on(lit(ground));
-    paint_face(painter, ground);
+    const Plate shown = plate();
+    paint_face(painter, shown);
     if (look_ == ButtonLook::lamp && !has_picture())
         paint_lamp(painter);
     else
-        paint_content(painter, ink);
+        paint_content(painter, shown.ink);
 }
 
-QColor StudioButton::lit(const QColor& ground) const {
-    return mixed(ground, colour_of(accent_), 0.32);
-}
-
-void StudioButton::paint_face(QPainter& painter, QColor ground) const {
-    const QRectF area = QRectF{rect()}.adjusted(1, 1, -1, -1);
-    const bool is_lit = isEnabled() && accent_ != Accent::none;
-    if (is_lit)
-        ground = lit(ground);
-    painter.setBrush(has_face() ? QBrush{ground} : QBrush{Qt::NoBrush});
-    painter.setPen(!has_face() ? QPen{Qt::NoPen} : QPen{is_lit ? colour_of(accent_) : studio::edge, 1});
-    painter.drawRoundedRect(area, 5, 5);
+// The ring of the focus stands off the face, so that it is seen on any colour.
+void StudioButton::paint_face(QPainter& painter, const Plate& plate) const {
+    QRectF area = QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5);
+    const int corner = size_ == ButtonSize::small ? studio::small_radius : studio::radius;
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen{studio::focus, 2});
-        painter.drawRoundedRect(area, 5, 5);
+        painter.setPen(QPen{studio::focus, ring});
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), corner, corner);
+        area.adjust(2 * ring, 2 * ring, -2 * ring, -2 * ring);
     }
+    if (!has_face())
+        return;
+    painter.setBrush(plate.ground);
+    painter.setPen(QPen{plate.line, 1});
+    painter.drawRoundedRect(area, corner, corner);
 }
 
 // Dark it is a ring, so that its colour isn't all that tells it from a lit one.
 void StudioButton::paint_lamp(QPainter& painter) const {
-    const bool is_lit = accent_ != Accent::none;
     const QPointF centre = QRectF{rect()}.center();
-    painter.setPen(Qt::NoPen);
-    if (is_lit) {
-        painter.setBrush(mixed(studio::groove, colour_of(accent_), 0.35));
-        painter.drawEllipse(centre, 9, 9);
+    const double half = std::min(width(), height()) * 0.22;
+    if (accent_ != Accent::none) {
+        painter.setPen(Qt::NoPen);
         painter.setBrush(colour_of(accent_));
     } else {
-        const QColor ring = is_under_pointer() ? studio::text : studio::quiet;
-        painter.setPen(QPen{legible(ring, palette().color(QPalette::Window)), 1.5});
+        const QColor line = is_under_pointer() ? studio::text : studio::caption;
+        painter.setPen(QPen{legible(line, palette().color(QPalette::Window)), 1.5});
         painter.setBrush(Qt::NoBrush);
     }
-    painter.drawEllipse(centre, 6, 6);
+    painter.drawEllipse(centre, half, half);
 }
 
 void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
-    QRect area = has_face() ? rect().adjusted(5, 3, -5, -3) : rect();
-    if (has_picture())
+    const int side = has_face() ? studio::half_grid : 0;
+    QRect area = rect().adjusted(side, 0, -side, 0);
+    if (sign_ != Sign::none)
+        area = paint_with_sign(painter, area, ink);
+    else if (has_picture())
         area = paint_picture(painter, area);
-    if (area.width() < least_text_width)
-        return;
+    if (area.width() >= least_text_width)
+        paint_text(painter, area, ink);
+}
+
+void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor& ink) const {
     QFont shown = font();
-    if (accent_ != Accent::none && isEnabled())
+    if (is_lit())
         shown.setBold(true);
     painter.setFont(shown);
     painter.setPen(ink);
-    painter.drawText(area, Qt::AlignCenter, QFontMetrics{shown}.elidedText(shown_text(), Qt::ElideRight, area.width()));
+    const bool beside = sign_ != Sign::none;
+    painter.drawText(area, beside ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter,
+                     QFontMetrics{shown}.elidedText(shown_text(), Qt::ElideRight, area.width()));
+}
+
+// Sign and words stand in the middle together. Returns the room of the words.
+QRect StudioButton::paint_with_sign(QPainter& painter, const QRect& area, const QColor& ink) const {
+    const int sign = std::min(sign_size(), area.width());
+    QFont bold = font();
+    bold.setBold(true);
+    const int words = has_text_beside() ? QFontMetrics{bold}.horizontalAdvance(shown_text()) : 0;
+    const int gap = words == 0 ? 0 : step_ == Step::narrow ? studio::half_grid : studio::grid;
+    const int left = area.left() + std::max(0, (area.width() - sign - gap - words) / 2);
+    paint_sign(painter, sign_, QRectF(left, area.top(), sign, area.height()), sign, ink);
+    const int after = left + sign + gap;
+    return words == 0 ? QRect{} : QRect{after, area.top(), area.right() + 1 - after, area.height()};
 }
 
 // Pictures are drawn at twice their size and have a face of their own, whose edge is left out: the button draws its
@@ -203,7 +296,10 @@ QRect StudioButton::paint_picture(QPainter& painter, const QRect& area) const {
     // Of the picture's own face nothing shows where the button is lit.
     if (look_ != ButtonLook::picture)
         painter.setCompositionMode(QPainter::CompositionMode_Lighten);
+    if (!isEnabled())
+        painter.setOpacity(0.5);
     painter.drawPixmap(place, picture, source);
+    painter.setOpacity(1);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     return text ? QRect{place.right(), area.top(), area.right() - place.right(), area.height()} : QRect{};
 }

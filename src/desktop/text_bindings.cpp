@@ -8,7 +8,7 @@
 namespace sonarelle {
 
 QColor field_ground(const Control& control) {
-    return ground_for(control.fore_colour, control.back_colour, studio::groove);
+    return ground_for(control.fore_colour, control.back_colour, studio::well);
 }
 
 void paint_text_field(QPalette& palette, const Control& control) {

@@ -2,9 +2,17 @@
 
 #include <QFont>
 
+#include "desktop/tokens.h"
+
 namespace sonarelle {
 
-/// The studio's type at a height that holds for a system text of 13 pixels; a greater one makes all greater.
-[[nodiscard]] QFont studio_font(int pixels, bool bold = false);
+/// How much greater the system's text is than the studio's own, 1 at least: all lengths that hold text grow by it.
+[[nodiscard]] double text_factor();
+
+/// Pixels at the system's text size.
+[[nodiscard]] int scaled(int pixels);
+
+/// The studio's type.
+[[nodiscard]] QFont studio_font(Type type, Step step = Step::compact, bool bold = false);
 
 } // namespace sonarelle

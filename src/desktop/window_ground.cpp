@@ -28,7 +28,7 @@ QColor mean_of(const QPixmap& picture) {
 
 void WindowGround::show(const Window& window, PictureStore& pictures, QWidget& content) {
     const Colour ink = ink_of(window);
-    colour_ = ground_for(ink, window.back_colour, studio::ground);
+    colour_ = ground_for(ink, window.back_colour, studio::window);
     const QPixmap picture = pictures.picture(window.picture);
     if (picture.cacheKey() != picture_.cacheKey()) {
         picture_ = picture;
@@ -37,7 +37,7 @@ void WindowGround::show(const Window& window, PictureStore& pictures, QWidget& c
     QPalette told = content.palette();
     told.setColor(QPalette::Window, picture_.isNull() ? colour_ : mean_);
     content.setPalette(told);
-    const QColor plate = ground_for(ink, window.back_colour, studio::panel);
+    const QColor plate = ground_for(ink, window.back_colour, studio::card);
     for (QWidget* part : content.findChildren<QWidget*>())
         if (auto* panel = dynamic_cast<Panel*>(part))
             panel->set_plate(plate);

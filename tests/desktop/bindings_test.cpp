@@ -305,7 +305,7 @@ TEST_F(RichTextBindings, SelectionGoesBothWays) {
 
 TEST(StudioColours, DesktopsTextReadsOnTheFaceOfToldButtons) {
     for (const Colour told : {0x8F8F8F, 49152, 192, 12583104, 12615680, 16033024, 65280})
-        EXPECT_GE(contrast(studio::text, ground_for(desktop_text, told, studio::face)), readable) << told;
+        EXPECT_GE(contrast(studio::text, ground_for(desktop_text, told, studio::control)), readable) << told;
 }
 
 } // namespace

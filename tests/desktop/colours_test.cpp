@@ -44,31 +44,31 @@ TEST(Colours, BlackOrWhiteReadsOnEveryGround) {
 
 TEST(Colours, InkThatReadsIsKept) {
     const QColor ink{0xff, 0xff, 0x00};
-    EXPECT_EQ(legible(ink, studio::panel), ink);
+    EXPECT_EQ(legible(ink, studio::card), ink);
 }
 
 TEST(Colours, InkThatDoesntReadGivesWay) {
-    EXPECT_EQ(legible(QColor{0, 0, 0xff}, studio::panel), QColor(Qt::white));
+    EXPECT_EQ(legible(QColor{0, 0, 0xff}, studio::card), QColor(Qt::white));
     EXPECT_EQ(legible(QColor{0xff, 0xff, 0x80}, QColor{0xf0, 0xf0, 0xf0}), QColor(Qt::black));
 }
 
 TEST(Colours, ToldGroundThatCarriesItsInkIsTaken) {
-    EXPECT_EQ(ground_for(black, white, studio::panel), QColor(Qt::white));
+    EXPECT_EQ(ground_for(black, white, studio::card), QColor(Qt::white));
 }
 
 TEST(Colours, ToldGroundThatDoesntIsABreathOnTheStudios) {
-    const QColor mix = ground_for(blue, green, studio::panel);
+    const QColor mix = ground_for(blue, green, studio::card);
     EXPECT_GE(contrast(Qt::white, mix), 10);
     EXPECT_GT(mix.green(), mix.red() + 15);
     EXPECT_GT(mix.green(), mix.blue() + 10);
 }
 
 TEST(Colours, GreyOfAFirstStartLeavesTheStudioDark) {
-    EXPECT_GE(contrast(Qt::white, ground_for(white, grey, studio::panel)), 10);
+    EXPECT_GE(contrast(Qt::white, ground_for(white, grey, studio::card)), 10);
 }
 
 TEST(Colours, GroundOfTheDesktopIsTheStudios) {
-    EXPECT_EQ(ground_for(blue, desktop_face, studio::panel), studio::panel);
+    EXPECT_EQ(ground_for(blue, desktop_face, studio::card), studio::card);
 }
 
 TEST(Colours, ShareOfOneInAnother) {
@@ -79,7 +79,7 @@ TEST(Colours, ShareOfOneInAnother) {
 
 TEST(Colours, WhatCantBeReachedReadsAllTheSame) {
     const QPalette palette = studio_palette();
-    EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::WindowText), studio::panel), readable);
+    EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::WindowText), studio::card), readable);
 }
 
 TEST(Colours, EveryTextOfTheStudioReadsOnItsGround) {
@@ -103,9 +103,10 @@ TEST(Colours, EveryTextOfTheStudioReadsOnItsGround) {
 
 TEST(Colours, GroundsOfTheStudioAreDark) {
     const QPalette palette = studio_palette();
-    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button,
-                            QPalette::ToolTipBase, QPalette::Highlight})
+    for (const auto role :
+         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::Highlight})
         EXPECT_LT(palette.color(role).lightness(), 90) << role;
+    EXPECT_GT(palette.color(QPalette::ToolTipBase).lightness(), 200); // a tip stands off all of them
 }
 
 } // namespace sonarelle

@@ -43,12 +43,12 @@ protected:
 } // namespace
 
 TEST_F(DeckPanels, LampSaysWhatTheDeckIsToTheAir) {
-    const std::array<std::pair<DeckRole, QColor>, 6> lamps{{{DeckRole::empty, studio::edge},
+    const std::array<std::pair<DeckRole, QColor>, 6> lamps{{{DeckRole::empty, studio::line},
                                                             {DeckRole::loaded, studio::next},
                                                             {DeckRole::heard, studio::air},
                                                             {DeckRole::on_air, studio::air},
                                                             {DeckRole::paused, studio::next},
-                                                            {DeckRole::ended, studio::edge}}};
+                                                            {DeckRole::ended, studio::line}}};
     for (const auto& [role, colour] : lamps) {
         show(role);
         EXPECT_TRUE(is_near(lamp(), colour)) << static_cast<int>(role) << lamp().name().toStdString();
@@ -137,13 +137,13 @@ TEST_F(DeckPanels, MarksStandAtTheMixAndAtTheEnd) {
     show(DeckRole::on_air);
     EXPECT_TRUE(is_near(bar_at(60), studio::next));
     EXPECT_TRUE(is_near(bar_at(90), studio::trouble));
-    EXPECT_TRUE(is_near(bar_at(75), studio::groove));
+    EXPECT_TRUE(is_near(bar_at(75), studio::well));
 }
 
 TEST_F(DeckPanels, DeckWithoutAFileHasNoMarks) {
     show(DeckRole::empty);
-    EXPECT_TRUE(is_near(bar_at(60), studio::groove));
-    EXPECT_TRUE(is_near(bar_at(90), studio::groove));
+    EXPECT_TRUE(is_near(bar_at(60), studio::well));
+    EXPECT_TRUE(is_near(bar_at(90), studio::well));
 }
 
 TEST_F(DeckPanels, BarWithoutALengthHasNoMarks) {
@@ -177,7 +177,7 @@ TEST_F(DeckPanels, TrueSecondStandsWhereTheBarRests) {
     main_view().show_look(1, {.role = DeckRole::on_air, .heard = {}, .elapsed = 75, .mix_point = {}, .end_point = {}});
     EXPECT_TRUE(says("75"));
     EXPECT_TRUE(is_near(bar_at(70), studio::air));
-    EXPECT_TRUE(is_near(bar_at(80), studio::groove));
+    EXPECT_TRUE(is_near(bar_at(80), studio::well));
 }
 
 TEST_F(DeckPanels, EachDeckHasItsOwnPanel) {

@@ -311,9 +311,8 @@ TEST_F(ListWindow, ButtonsOfTheAirAreLitInItsColours) {
         image->enabled = true;
     settle();
     const auto face = [this](const Image& image) { return ground_in(seen_in_window(part(list_view(), image.name()))); };
-    const QColor plain = face(list().stop_decks);
-    EXPECT_TRUE(is_near(face(list().play_list), mixed(plain, studio::air, 0.32), 4));
-    EXPECT_TRUE(is_near(face(list().zap), mixed(plain, studio::next, 0.32), 4));
+    EXPECT_TRUE(is_near(face(list().play_list), studio::air_fill, 4));
+    EXPECT_TRUE(is_near(face(list().zap), studio::next, 4));
 }
 
 TEST_F(ListWindow, NoControlIsMissing) {

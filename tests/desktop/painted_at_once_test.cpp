@@ -56,7 +56,7 @@ TEST_F(PaintedAtOnce, IsAButton) {
     });
     expect_painted(button, "accent", [&] { button.set_accent(Accent::air); });
     expect_painted(
-        button, "sign", [&] { button.set_symbol("■"); }, true);
+        button, "sign", [&] { button.set_words("■"); }, true);
     expect_painted(
         button, "look", [&] { button.set_look(ButtonLook::lamp); }, true);
     expect_painted(
@@ -81,7 +81,7 @@ TEST_F(PaintedAtOnce, IsAPanelAndItsLamp) {
 }
 
 TEST_F(PaintedAtOnce, IsAText) {
-    StationLabel label{{.pixels = 14}};
+    StationLabel label{{.type = Type::medium}};
     label.resize(200, 30);
     label.set_pressable(true);
     expect_painted(label, "text", [&] { label.set_text("Texte"); });
@@ -89,13 +89,13 @@ TEST_F(PaintedAtOnce, IsAText) {
         label, "press", [&] { QTest::mousePress(&label, Qt::LeftButton); }, true);
     expect_painted(
         label, "release", [&] { QTest::mouseRelease(&label, Qt::LeftButton); }, true);
-    StationLabel wrapped{{.pixels = 14, .wrapped = true}};
+    StationLabel wrapped{{.type = Type::medium, .wrapped = true}};
     wrapped.resize(200, 60);
     expect_painted(wrapped, "wrapped text", [&] { wrapped.set_text("Texte"); });
 }
 
 TEST_F(PaintedAtOnce, IsATitle) {
-    TitleLabel title{{.pixels = 14}};
+    TitleLabel title{{.type = Type::medium}};
     title.resize(300, 30);
     expect_painted(title, "title", [&] { title.set_text("Matin - "); });
     expect_painted(title, "heard", [&] { title.set_heard("Soir"); });

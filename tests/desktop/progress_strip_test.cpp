@@ -56,12 +56,12 @@ TEST_F(Strip, IsFilledAsFarAsTheSoundIs) {
     strip.set_share(0.5);
     EXPECT_TRUE(is_near(at(0.25), studio::air));
     EXPECT_TRUE(is_near(at(0.48), studio::air));
-    EXPECT_TRUE(is_near(at(0.52), studio::groove));
-    EXPECT_TRUE(is_near(at(0.75), studio::groove));
+    EXPECT_TRUE(is_near(at(0.52), studio::well));
+    EXPECT_TRUE(is_near(at(0.75), studio::well));
 }
 
 TEST_F(Strip, IsEmptyAtFirst) {
-    EXPECT_TRUE(is_near(at(0.02), studio::groove));
+    EXPECT_TRUE(is_near(at(0.02), studio::well));
 }
 
 TEST_F(Strip, ShareStaysBetweenNothingAndTheWhole) {
@@ -81,14 +81,14 @@ TEST_F(Strip, MarksStandWhereTheNextBeginsAndThisEnds) {
     strip.set_marks(0.6, 0.9);
     EXPECT_TRUE(has_mark(0.6, studio::next));
     EXPECT_TRUE(has_mark(0.9, studio::trouble));
-    EXPECT_TRUE(has_mark(0.75, studio::groove));
+    EXPECT_TRUE(has_mark(0.75, studio::well));
 }
 
 TEST_F(Strip, MarkOfTheNextMovesAlone) {
     strip.set_marks(0.6, 0.9);
     strip.set_marks(0.4, 0.9);
     EXPECT_TRUE(has_mark(0.4, studio::next));
-    EXPECT_TRUE(has_mark(0.6, studio::groove));
+    EXPECT_TRUE(has_mark(0.6, studio::well));
     EXPECT_TRUE(has_mark(0.9, studio::trouble));
 }
 
@@ -97,14 +97,14 @@ TEST_F(Strip, MarkOfTheEndMovesAlone) {
     strip.set_marks(0.4, 0.7);
     EXPECT_TRUE(has_mark(0.4, studio::next));
     EXPECT_TRUE(has_mark(0.7, studio::trouble));
-    EXPECT_TRUE(has_mark(0.9, studio::groove));
+    EXPECT_TRUE(has_mark(0.9, studio::well));
 }
 
 TEST_F(Strip, MarksGo) {
     strip.set_marks(0.4, 0.9);
     strip.set_marks({}, {});
-    EXPECT_TRUE(has_mark(0.4, studio::groove));
-    EXPECT_TRUE(has_mark(0.9, studio::groove));
+    EXPECT_TRUE(has_mark(0.4, studio::well));
+    EXPECT_TRUE(has_mark(0.9, studio::well));
 }
 
 TEST_F(Strip, MarkBesideTheBarIsNotDrawn) {
@@ -188,7 +188,7 @@ TEST_F(SoundStrip, IsABarAgainWithoutTheSound) {
     strip.set_sound(nullptr, 40);
     strip.set_share(0.5);
     EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 4), studio::air));
-    EXPECT_TRUE(is_near(seen(strip).pixelColor(300, 4), studio::groove));
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(300, 4), studio::well));
 }
 
 TEST_F(Strip, PressAndMoveTellTheirPlace) {

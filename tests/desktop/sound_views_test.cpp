@@ -254,9 +254,9 @@ TEST_F(SoundPictures, SpectrumHasABarABand) {
     show_running();
     EXPECT_TRUE(is_near(at(25, 2), studio::air));
     EXPECT_TRUE(is_near(at(75, 60), studio::air));
-    EXPECT_TRUE(is_near(at(75, 40), studio::groove));
-    EXPECT_TRUE(is_near(at(125, 97), studio::groove));
-    EXPECT_TRUE(is_near(at(175, 97), studio::groove));
+    EXPECT_TRUE(is_near(at(75, 40), studio::well));
+    EXPECT_TRUE(is_near(at(125, 97), studio::well));
+    EXPECT_TRUE(is_near(at(175, 97), studio::well));
 }
 
 TEST_F(SoundPictures, AreDrawnAnewWhileTheyRun) {
@@ -316,7 +316,7 @@ TEST_F(SoundPictures, ControlChoosesThePicture) {
     EXPECT_TRUE(is_near(at(50, 10), studio::air));
     display.Affichage = SoundPicture::oscilloscope;
     settle();
-    EXPECT_TRUE(is_near(at(50, 10), studio::groove));
+    EXPECT_TRUE(is_near(at(50, 10), studio::well));
 }
 
 } // namespace sonarelle

@@ -27,7 +27,7 @@ protected:
             label.set_text(turned(label.text()));
     }
 
-    TitleLabel label{{.pixels = 19, .bold = true}};
+    TitleLabel label{{.type = Type::deck_title, .bold = true}};
 };
 
 } // namespace
@@ -99,7 +99,7 @@ TEST_F(Titles, AnotherOneStandsAtItsBeginning) {
     turn(3);
     label.set_text("Un autre titre, trop long lui aussi - ");
     EXPECT_FALSE(label.is_turning());
-    TitleLabel fresh{{.pixels = 19, .bold = true}};
+    TitleLabel fresh{{.type = Type::deck_title, .bold = true}};
     fresh.resize(90, 30);
     fresh.set_text("Un autre titre, trop long lui aussi - ");
     EXPECT_EQ(seen(label), seen(fresh));
@@ -145,7 +145,7 @@ TEST_F(Titles, AnotherNameOfWhatIsHeardTurnsFromItsBeginning) {
     ASSERT_TRUE(becomes([&] { return seen(label) != before; }));
     label.set_heard("Une chanson bien trop longue");
     turn(1);
-    TitleLabel fresh{{.pixels = 19, .bold = true}};
+    TitleLabel fresh{{.type = Type::deck_title, .bold = true}};
     fresh.resize(90, 30);
     fresh.set_text("Un titre ... - ");
     fresh.set_heard("Une chanson bien trop longue");

@@ -34,7 +34,7 @@ protected:
     QTemporaryDir folder;
     Label label{window, "label", "Texte"};
     WindowView view{window, services, {300, 200}};
-    StationLabel* words = Dresser{view}.label(label, {.pixels = 40, .bold = true});
+    StationLabel* words = Dresser{view}.label(label, {.type = Type::clock, .bold = true});
     Panel panel{&view.content()};
 };
 
@@ -60,7 +60,7 @@ TEST_F(GroundOfAWindow, IsTheStudiosAgainWithoutItsPicture) {
     settle();
     window.picture = "";
     settle();
-    EXPECT_EQ(corner(), studio::ground);
+    EXPECT_EQ(corner(), studio::window);
 }
 
 TEST_F(GroundOfAWindow, IsReadableWhateverThePicture) {

@@ -127,6 +127,8 @@ void SettingsLoad::read_texts() {
     read("Chemin_dossier_jingles", settings_.chemin_jingles);
     read("Chemin_dernier_fichier", settings_.chemin_musique);
     read("Chemin_editeur_audio", settings_.chemin_editeur_audio);
+    read("Programme_aide", settings_.programme_aide);
+    read("Programme_journal", settings_.programme_journal);
     read("Chemin_programme", settings_.chemin_programme);
     // A store that couldn't be written has no folder to give; the files beside the program are needed all the same.
     if (settings_.chemin_programme.empty())

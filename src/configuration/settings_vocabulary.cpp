@@ -52,6 +52,8 @@ constexpr std::array vocabulary{
     SettingRow{config,   "Nb_fichier_aleatoire1",         Form::integer,  nullopt, "0",                     "0",                     nullopt,                 &S::nb_fichier_aleatoire1},
     SettingRow{config,   "Chemin_fichier_aleatoire1",     Form::path,     nullopt, "Aucun fichier",         "Aucun fichier",         nullopt,                 &S::chemin_fichier_aleatoire1},
     SettingRow{config,   "Veille_antenne",                Form::integer,  "5",     "5",                     "5",                     "5",                     &S::veille_antenne},
+    SettingRow{config,   "Programme_aide",                Form::path,     nullopt, "",                      "",                      nullopt,                 &S::programme_aide},
+    SettingRow{config,   "Programme_journal",             Form::path,     nullopt, "",                      "",                      nullopt,                 &S::programme_journal},
 
     SettingRow{position, "Position_haut",                 Form::position, nullopt, "100",                   "100",                   "100",                   &S::position_haut},
     SettingRow{position, "Position_gauche",               Form::position, nullopt, "100",                   "100",                   "100",                   &S::position_gauche},

@@ -312,6 +312,8 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
         return;
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
         show_first_menu();
+    else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier)
+        services_.run_event([this] { window_.ask_for_help(); });
     else
         QWidget::keyPressEvent(event);
 }

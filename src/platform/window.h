@@ -61,6 +61,8 @@ public:
     /// He asked for the menu bar, which was hidden.
     void call_menus() const { raise(on_menus_called); }
     void right_click() const { raise(on_right_click); }
+    /// He asked what can be done here.
+    void ask_for_help() const { raise(on_help); }
     /// It has come to the front, and can be seen.
     void activate() const { raise(on_activate); }
     /// He reduced it; a `state` that the station sets is none of his doing.
@@ -89,6 +91,7 @@ public:
     std::function<void()> on_double_click;
     std::function<void()> on_menus_called;
     std::function<void()> on_right_click;
+    std::function<void()> on_help;
     std::function<void()> on_activate;
     std::function<void()> on_move;
     std::function<void()> on_reduce;

@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view cd_player = "C:\\WINDOWS\\CDPLAYER.EXE";
 constexpr std::string_view media_player = "C:\\Program Files\\Windows Media Player\\wmplayer.exe";
 constexpr std::string_view volume_control = "C:\\WINDOWS\\system32\\sndvol32.exe";
-constexpr std::string_view help_program = "Aide_Sonarine.exe";
 constexpr std::string_view search_words = "recherche.dit";
 
 std::string yes_or_no(bool yes) {
@@ -42,8 +41,11 @@ void DeskCommands::open_volume_control() {
         show_box(platform_.dialogs, "sndvol32.exe est introuvable", Icon::information);
 }
 
-void DeskCommands::open_help() {
-    if (!start(settings_.chemin_programme + std::string{help_program}))
+void DeskCommands::open_help(const Window& asker) {
+    const bool opened = settings_.programme_aide.empty()
+                            ? ErrorIndicator{}.skip([&] { platform_.shell.show_guide(asker.name()); })
+                            : start(settings_.programme_aide);
+    if (!opened)
         show_box(platform_.dialogs, "L'aide est introuvable", Icon::information);
 }
 

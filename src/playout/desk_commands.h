@@ -19,7 +19,8 @@ public:
 
     void start_cd_player();
     void open_volume_control();
-    void open_help();
+    /// At what the guide says of a window.
+    void open_help(const Window& asker);
     void open_cd_door() { move_cd_door(true); }
     void close_cd_door() { move_cd_door(false); }
 

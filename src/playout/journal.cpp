@@ -5,6 +5,7 @@
 #include "platform/dialogs.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
+#include "platform/paths.h"
 #include "platform/scheduler.h"
 #include "platform/shell.h"
 #include "platform/text.h"
@@ -85,11 +86,14 @@ void Journal::purge() {
         notices_.inform("Ok journal supprimé");
 }
 
-void Journal::open_in_editor() {
-    ErrorIndicator{}.skip([this] {
-        enter_program_folder(platform_);
-        platform_.shell.start_program("Write", platform_.disk.absolute(journal_file));
-    });
+// A program that is no longer there leaves the reader of the desk.
+void Journal::open() {
+    const std::string path = join_path(platform_.program_folder, journal_file);
+    const std::string& program = settings_.programme_journal;
+    const bool started =
+        !program.empty() && ErrorIndicator{}.skip([&] { platform_.shell.start_program(program, path); });
+    if (!started)
+        ErrorIndicator{}.skip([&] { platform_.shell.show_journal(path); });
 }
 
 } // namespace sonarelle

@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "playout/notices.h"
 #include "state/chain_state.h"
+#include "state/station_settings.h"
 #include "windows/antenne_fm.h"
 
 namespace sonarelle {
@@ -13,8 +14,10 @@ namespace sonarelle {
 /// The play log of the station, `journal.doc` in the program's folder: one entry a line, appended and flushed at once.
 class Journal {
 public:
-    Journal(const Platform& platform, ChainState& chain, Antenne_FM& window, Notices& notices)
+    Journal(const Platform& platform, const StationSettings& settings, ChainState& chain, Antenne_FM& window,
+            Notices& notices)
         : platform_{platform},
+          settings_{settings},
           chain_{chain},
           window_{window},
           notices_{notices} {}
@@ -42,13 +45,15 @@ public:
     void keep_on();
     void switch_off();
     void purge();
-    void open_in_editor();
+    /// Shows it, by the operator's own program where the settings name one.
+    void open();
 
 private:
     void choose(const MenuItem& entry, bool active);
     [[nodiscard]] bool append_line();
 
     const Platform& platform_;
+    const StationSettings& settings_;
     ChainState& chain_;
     Antenne_FM& window_;
     Notices& notices_;

@@ -36,8 +36,10 @@ struct StationSettings {
     std::string logo_fichier; ///< Picture of the file manager.
     std::string logo;         ///< Picture of the list window's menu.
     std::string banniere;
-    std::string effet_visuel; ///< "Oui" or "Non".
-    std::string load_combo1;  ///< Lists of the quick load boxes.
+    std::string effet_visuel;      ///< "Oui" or "Non".
+    std::string programme_aide;    ///< The operator's own program for the help; empty for the desktop's reader.
+    std::string programme_journal; ///< The same for the journal.
+    std::string load_combo1;       ///< Lists of the quick load boxes.
     std::string load_combo2;
 
     Flag valide_fichier_aleatoire; ///< Jingles are inserted by draw.

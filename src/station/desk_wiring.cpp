@@ -84,7 +84,9 @@ void DeskWiring::connect_desk_commands() {
     window.A_affichage2.on_click = [this] { desk_commands.show_spectrum(); };
     window.aa_montrer_curseur.on_click = [this] { desk_commands.show_sliders(); };
     window.aa_cacher_curseur.on_click = [this] { desk_commands.hide_sliders(); };
-    window.aideprog.on_click = [this] { desk_commands.open_help(); };
+    window.aideprog.on_click = [&window] { window.ask_for_help(); };
+    for (Window* asker : station_.windows())
+        asker->on_help = [this, asker] { desk_commands.open_help(*asker); };
     window.show_about.on_click = [this] { about.show_about(); };
     window.show_update_info.on_click = [this] { about.show_update_info(); };
 }

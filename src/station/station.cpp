@@ -22,7 +22,7 @@ Station::Station(const Platform& platform)
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
                   list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
-      journal{platform_, chain, main_window, notices},
+      journal{platform_, settings, chain, main_window, notices},
       deck_volume{desk, [this] { list_document.show_changed_record(list.ligne_en_lecture.value()); }},
       mix_engine{desk, deck_volume},
       deck_loading{desk, deck_volume, mix_engine},
@@ -146,7 +146,7 @@ void Station::connect_menus() {
     main_window.Active_journal.on_click = [this] { journal.keep_on(); };
     main_window.A_desacive_J.on_click = [this] { journal.switch_off(); };
     main_window.A_purger_journal.on_click = [this] { journal.purge(); };
-    main_window.A_ouvre_journal.on_click = [this] { journal.open_in_editor(); };
+    main_window.A_ouvre_journal.on_click = [this] { journal.open(); };
 }
 
 // Two entries of the main deck are greyed whenever the menu opens; without a main deck they stay as they are.

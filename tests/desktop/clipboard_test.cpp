@@ -3,7 +3,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/desktop_shell.h"
-#include "platform/simulated/simulated_shell.h"
+#include "platform/simulated/simulated_platform.h"
 
 namespace sonarelle {
 
@@ -11,8 +11,8 @@ namespace {
 
 class ClipboardOfTheDesktop : public DesktopFixture {
 protected:
-    SimulatedShell machine;
-    DesktopShell shell{machine};
+    SimulatedPlatform machine;
+    DesktopShell shell{machine.shell, machine.disk, {}};
 };
 
 } // namespace

@@ -79,7 +79,6 @@ TEST(HostShell, KnowsWhatTheMenusName) {
         ASSERT_NE(known, nullptr) << program;
         EXPECT_FALSE(known->instead.empty()) << program;
     }
-    EXPECT_EQ(known_program("C:\\Sonarelle\\Aide_Sonarine.exe")->document, "guide.md");
     EXPECT_EQ(known_program("gimp"), nullptr);
 }
 
@@ -87,6 +86,14 @@ TEST(HostShell, DocumentThatIsNotThereFails) {
     ShellFixture bench;
 
     EXPECT_EQ(failure_of([&] { bench.shell.open_document("D:\\aide.txt"); }), FailureNumber::file_not_found);
+}
+
+TEST(HostShell, HasNoScreenToShowATextOn) {
+    ShellFixture bench;
+    bench.folder.put("journal.doc");
+
+    EXPECT_EQ(failure_of([&] { bench.shell.show_guide("Antenne_FM"); }), FailureNumber::file_not_found);
+    EXPECT_EQ(failure_of([&] { bench.shell.show_journal("D:\\journal.doc"); }), FailureNumber::file_not_found);
 }
 
 TEST(HostShell, KeepsTheClipboard) {

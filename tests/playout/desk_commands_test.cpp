@@ -23,6 +23,7 @@ protected:
 };
 
 using Programs = DeskCommandsTest;
+using Help = DeskCommandsTest;
 using VisualEffect = DeskCommandsTest;
 using Cursors = DeskCommandsTest;
 
@@ -58,9 +59,38 @@ TEST_F(Programs, OfTheVolumeIsStartedOrReportedMissing) {
     window.a_vol.click();
 }
 
-TEST_F(Programs, OfTheHelpLieInTheProgramsFolder) {
+TEST_F(Help, IsTheGuideAtTheDesk) {
+    window.aideprog.click();
+    EXPECT_THAT(machine.shell.guide_shown_for, ElementsAre("Antenne_FM"));
+    EXPECT_THAT(programs(), IsEmpty());
+}
+
+TEST_F(Help, IsTheGuideAtTheWindowThatAsks) {
+    std::vector<std::string> askers;
+    for (Window* asker : station.windows()) {
+        asker->ask_for_help();
+        askers.push_back(asker->name());
+    }
+    EXPECT_EQ(machine.shell.guide_shown_for, askers);
+}
+
+TEST_F(Help, WithoutAGuideIsReportedMissing) {
+    machine.shell.has_guide = false;
+    machine.dialogs.expect_box("L'aide est introuvable", Answer::ok);
+    window.aideprog.click();
+    EXPECT_EQ(machine.dialogs.last().icon, Icon::information);
+}
+
+TEST_F(Help, IsTheOperatorsOwnProgramWhereHeHasSetOne) {
+    set("Programme_aide", "C:\\Sonarelle\\Aide_Sonarine.exe");
+    station.settings_load.Chargement_parametres();
     window.aideprog.click();
     EXPECT_THAT(programs(), ElementsAre("C:\\Sonarelle\\Aide_Sonarine.exe"));
+    EXPECT_THAT(machine.shell.guide_shown_for, IsEmpty());
+}
+
+TEST_F(Help, ByAProgramThatIsMissingIsReportedMissing) {
+    station.settings.programme_aide = "C:\\Sonarelle\\Aide_Sonarine.exe";
     machine.shell.has_programs = false;
     machine.dialogs.expect_box("L'aide est introuvable", Answer::ok);
     window.aideprog.click();

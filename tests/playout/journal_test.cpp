@@ -149,16 +149,27 @@ TEST_F(JournalTest, PurgeWithoutAFileSaysNothing) {
     EXPECT_TRUE(machine.dialogs.asked().empty());
 }
 
-TEST_F(JournalTest, OpensInTheTextEditor) {
-    station.main_window.A_ouvre_journal.click();
-    EXPECT_EQ(machine.shell.started, (std::vector<SimulatedShell::Start>{{"Write", "C:\\Sonarelle\\journal.doc"}}));
-}
-
-TEST_F(JournalTest, OpensInTheTextEditorWhateverTheCurrentFolder) {
+TEST_F(JournalTest, OpensInTheReaderOfTheDeskWhateverTheCurrentFolder) {
     machine.disk.put_folder("C:\\Musique");
     machine.disk.ChDir("C:\\Musique");
     station.main_window.A_ouvre_journal.click();
+    EXPECT_EQ(machine.shell.journals_shown, std::vector<std::string>{"C:\\Sonarelle\\journal.doc"});
+    EXPECT_TRUE(machine.shell.started.empty());
+}
+
+TEST_F(JournalTest, OpensInTheOperatorsOwnProgramWhereHeHasSetOne) {
+    machine.settings.SaveSetting(settings_application, "Config", "Programme_journal", "Write");
+    station.settings_load.Chargement_parametres();
+    station.main_window.A_ouvre_journal.click();
     EXPECT_EQ(machine.shell.started, (std::vector<SimulatedShell::Start>{{"Write", "C:\\Sonarelle\\journal.doc"}}));
+    EXPECT_TRUE(machine.shell.journals_shown.empty());
+}
+
+TEST_F(JournalTest, OpensInTheReaderOfTheDeskWhereTheOperatorsProgramIsMissing) {
+    station.settings.programme_journal = "Write";
+    machine.shell.has_programs = false;
+    station.main_window.A_ouvre_journal.click();
+    EXPECT_EQ(machine.shell.journals_shown, std::vector<std::string>{"C:\\Sonarelle\\journal.doc"});
 }
 
 TEST_F(JournalTest, ThatCannotBeWrittenHoldsNothingUp) {

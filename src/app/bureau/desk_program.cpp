@@ -33,6 +33,11 @@ std::string filled_program_folder(Machine& machine) {
     return folder;
 }
 
+QString guide_file() {
+    const auto supplied = supplied_files();
+    return supplied ? QString::fromStdString(*supplied + "/guide/guide.md") : QString{};
+}
+
 /// The form in which the station gets its command line.
 std::string quoted(const std::string& path) {
     return path.empty() ? path : '"' + path + '"';
@@ -47,6 +52,7 @@ DeskProgram::DeskProgram(Machine& machine, const std::string& file)
       program_folder_{filled_program_folder(machine)},
       live_{machine.drives(), std::random_device{}()},
       dialogs_{path_forms(), [this](Window& window) { return desktop_.widget_of(window); }},
+      shell_{live_.shell(), live_.disk(), guide_file()},
       station_{platform()},
       pictures_{[this](const std::string& name) { return picture_path(name); }},
       services_{[this](const std::function<void()>& event) { run_event(event); }, updates_, pictures_, path_forms(),

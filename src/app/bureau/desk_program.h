@@ -57,7 +57,7 @@ private:
     std::string program_folder_;
     LiveMachine live_;
     DesktopDialogs dialogs_;
-    DesktopShell shell_{live_.shell()};
+    DesktopShell shell_;
     Station station_;
     UpdateQueue updates_;
     PictureStore pictures_;

@@ -15,7 +15,6 @@
 #include "platform/failure.h"
 #include "platform/host/file_handle.h"
 #include "platform/host/known_programs.h"
-#include "platform/paths.h"
 
 namespace sonarelle {
 
@@ -92,8 +91,6 @@ void HostShell::start_program(std::string_view program, std::string_view file) {
 }
 
 void HostShell::start_instead(const KnownProgram& known, std::string_view program, std::string_view file) {
-    if (!known.document.empty())
-        return open_document(join_path(folder_of_path(program), known.document));
     for (const std::string_view candidate : known.instead) {
         const auto blank = candidate.find(' ');
         std::string argument{blank == std::string_view::npos ? std::string_view{} : candidate.substr(blank + 1)};
@@ -121,6 +118,14 @@ void HostShell::start(const std::string& program, const std::string& argument, s
 
 void HostShell::forget_ended_programs() {
     std::erase_if(programs_, [](pid_t program) { return ::waitpid(program, nullptr, WNOHANG) != 0; });
+}
+
+void HostShell::show_guide(std::string_view window) {
+    throw Failure{FailureNumber::file_not_found, std::string{window}};
+}
+
+void HostShell::show_journal(std::string_view path) {
+    throw Failure{FailureNumber::file_not_found, std::string{path}};
 }
 
 void HostShell::set_cd_door(bool open) {

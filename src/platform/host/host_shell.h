@@ -26,6 +26,8 @@ public:
     [[nodiscard]] bool InternetGetConnectedState() override;
     void open_document(std::string_view path_or_address) override;
     void start_program(std::string_view program, std::string_view file) override;
+    void show_guide(std::string_view window) override;
+    void show_journal(std::string_view path) override;
     void set_cd_door(bool open) override;
     [[nodiscard]] std::string clipboard_text() override { return clipboard_; }
     void set_clipboard_text(std::string_view text) override { clipboard_ = text; }

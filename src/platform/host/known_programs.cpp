@@ -23,7 +23,7 @@ constexpr std::array<Name, 4> information{"hardinfo2", "hardinfo", "kinfocenter"
 constexpr std::array programs{
     KnownProgram{"write", text_viewers},         KnownProgram{"cdplayer.exe", cd_players},
     KnownProgram{"wmplayer.exe", media_players}, KnownProgram{"sndvol32.exe", volume_controls},
-    KnownProgram{"msinfo32.exe", information},   KnownProgram{"aide_sonarine.exe", {}, "guide.md"},
+    KnownProgram{"msinfo32.exe", information},
 };
 
 } // namespace

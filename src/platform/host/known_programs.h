@@ -9,7 +9,6 @@ namespace sonarelle {
 struct KnownProgram {
     std::string_view name;                       ///< Lower case, without a folder.
     std::span<const std::string_view> instead{}; ///< Tried in this order; a word behind a blank is an argument.
-    std::string_view document{};                 ///< A file beside the program, which the desktop opens instead.
 };
 
 /// The row of a program, by its path or its bare name in any case; none for a program that is taken as it is.

@@ -4,6 +4,12 @@
 
 namespace sonarelle {
 
+void SimulatedShell::show_guide(std::string_view window) {
+    if (!has_guide)
+        throw Failure{FailureNumber::file_not_found, "guide"};
+    guide_shown_for.emplace_back(window);
+}
+
 void SimulatedShell::set_cd_door(bool open) {
     if (!has_cd_drive)
         throw Failure{FailureNumber::device_unavailable};

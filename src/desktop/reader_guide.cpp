@@ -23,7 +23,6 @@ namespace {
 constexpr int contents_width = 230;
 constexpr int picture_width = 560;
 constexpr int around_pictures = 110; // margins, and a scroll bar
-constexpr int least_height = 400;
 
 struct Topic {
     std::string_view window;
@@ -99,7 +98,7 @@ GuideReader::GuideReader(GuidePage* text)
     text_->setOpenLinks(false);
     contents_->setAccessibleName("Sommaire");
     contents_->setFixedWidth(scaled(contents_width));
-    setMinimumSize(scaled(contents_width) + picture_width + around_pictures, least_height);
+    setMinimumWidth(scaled(contents_width) + picture_width + around_pictures);
     page().addWidget(contents_);
     page().addWidget(text_, 1);
     connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { follow(link); });

@@ -28,8 +28,10 @@ QTextCharFormat format_of(const QTextFragment& fragment, int heading) {
     format.setProperty(QTextFormat::FontPixelSize, pixels(type_of(heading)));
     if (format.fontFixedPitch())
         format.setFontFamilies({QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
-    if (format.isAnchor())
+    if (format.isAnchor()) {
         format.setForeground(studio::focus);
+        format.setFontUnderline(true);
+    }
     return format;
 }
 

@@ -18,6 +18,7 @@ namespace sonarelle {
 namespace {
 
 constexpr QSize usual_size{960, 540}; // with its frame on a screen of 1024 by 600
+constexpr int least_height = 360;
 
 } // namespace
 
@@ -36,6 +37,7 @@ ReaderWindow::ReaderWindow(const QString& title, const SearchedText& text)
     column->addLayout(page_, 1);
     column->addWidget(sentence_);
     page_->setSpacing(studio::grid);
+    setMinimumHeight(least_height);
     resize(usual_size);
     connect(new QShortcut{Qt::Key_Escape, this}, &QShortcut::activated, this, [this] { close(); });
     connect(new QShortcut{QKeySequence::Find, this}, &QShortcut::activated, this, [this] { search_->take_keyboard(); });
@@ -62,14 +64,19 @@ void ReaderWindow::stay_before(const QWidget* asker) {
     windowHandle()->setTransientParent(held_by);
 }
 
+// What is on the air stays on view, as far as the screen has room below it.
 void ReaderWindow::place_over(const QWidget* asker) {
     if (asker == nullptr)
         return;
     const QRect room = asker->screen()->availableGeometry();
-    resize(usual_size.boundedTo(room.size()).expandedTo(minimumSize()));
-    const QPoint place = asker->geometry().center() - rect().center();
-    move(std::clamp(place.x(), room.left(), room.right() + 1 - width()),
-         std::clamp(place.y(), room.top(), room.bottom() + 1 - height()));
+    const QSize frame = asker->frameSize() - asker->size();
+    const int top = asker->pos().y() + asker->height() / 3;
+    const QSize space{room.width() - frame.width(), room.bottom() + 1 - top - frame.height()};
+    resize(usual_size.boundedTo(space).expandedTo(minimumSize()));
+    const QSize whole = size() + frame;
+    const int left = asker->geometry().center().x() - whole.width() / 2;
+    move(std::max(room.left(), std::min(left, room.right() + 1 - whole.width())),
+         std::max(room.top(), std::min(top, room.bottom() + 1 - whole.height())));
 }
 
 void ReaderWindow::tell(const QString& sentence) {

@@ -75,6 +75,13 @@ TEST_F(Guide, GivesTheKeyboardBackToTheWindowThatAsked) {
     EXPECT_EQ(QApplication::activeWindow(), desktop->widget_of(station.list_window));
 }
 
+TEST_F(Guide, LeavesTheHeaderOfTheDeskOnView) {
+    const QWidget& desk = *desktop->widget_of(station.main_window);
+    press(Qt::Key_F1);
+    EXPECT_GE(reader("guide")->frameGeometry().top(), desk.geometry().top() + 150);
+    EXPECT_LE(reader("guide")->frameGeometry().bottom(), desk.screen()->availableGeometry().bottom());
+}
+
 TEST_F(Guide, IsReadBesideAWindowThatHoldsAllOthers) {
     QWidget& properties = *desktop->widget_of(station.properties_window);
     properties.setWindowModality(Qt::ApplicationModal);

@@ -7,8 +7,10 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/colours.h"
+#include "desktop/figures.h"
 #include "desktop/text_size.h"
 
 namespace sonarelle {
@@ -86,8 +88,14 @@ int StationLabel::heightForWidth(int width) const {
     return QFontMetrics{font()}.boundingRect(room, Qt::TextWordWrap, text_).height() + 8;
 }
 
+int StationLabel::width_of_text() const {
+    const int text = style_.digits ? width_of_figures(font(), text_)
+                                   : static_cast<int>(std::ceil(QFontMetricsF{font()}.horizontalAdvance(text_)));
+    return text + 2 * margin();
+}
+
 bool StationLabel::is_cut() const {
-    return !style_.wrapped && fontMetrics().horizontalAdvance(text_) > width() - 2 * margin();
+    return !style_.wrapped && width_of_text() > width();
 }
 
 bool StationLabel::event(QEvent* event) {
@@ -149,7 +157,7 @@ void StationLabel::paint_text(QPainter& painter, const QRect& area) const {
     if (style_.wrapped)
         painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextWordWrap, text_);
     else if (style_.digits)
-        paint_in_cells(painter, area);
+        draw_figures(painter, area, style_.alignment, text_);
     else
         paint_line(painter, area);
 }
@@ -158,28 +166,6 @@ void StationLabel::paint_line(QPainter& painter, const QRect& area) const {
     const int marks = style_.underlined ? Qt::TextShowMnemonic : 0;
     painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine | marks,
                      fontMetrics().elidedText(text_, Qt::ElideRight, area.width(), marks));
-}
-
-// Digits in cells of the widest one, so that nothing jumps when a second passes.
-void StationLabel::paint_in_cells(QPainter& painter, const QRect& area) const {
-    const QFontMetrics metrics{font()};
-    int cell = 0;
-    for (char digit = '0'; digit <= '9'; ++digit)
-        cell = std::max(cell, metrics.horizontalAdvance(QChar{digit}));
-    const auto width_of = [&](QChar c) { return c.isDigit() ? cell : metrics.horizontalAdvance(c); };
-    int total = 0;
-    for (const QChar c : text_)
-        total += width_of(c);
-    int x = area.left();
-    if (style_.alignment & Qt::AlignRight)
-        x = area.right() - total;
-    else if (style_.alignment & Qt::AlignHCenter)
-        x = area.left() + (area.width() - total) / 2;
-    for (const QChar c : text_) {
-        const int width = width_of(c);
-        painter.drawText(QRect{x, area.top(), width, area.height()}, Qt::AlignHCenter | Qt::AlignVCenter, QString{c});
-        x += width;
-    }
 }
 
 // The background of the window takes the presses on a text that is no button.

@@ -40,6 +40,10 @@ public:
 
     std::function<void()> on_press;
 
+    /// What its text needs to stand whole.
+    [[nodiscard]] int width_of_text() const;
+    /// The ink that its text has where it stands.
+    [[nodiscard]] QColor ink() const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return style_.wrapped; }
@@ -61,10 +65,8 @@ private:
     void set_type();
     [[nodiscard]] bool is_cut() const;
     [[nodiscard]] QColor ground() const;
-    [[nodiscard]] QColor ink() const;
     void paint_frame(QPainter& painter) const;
     void paint_line(QPainter& painter, const QRect& area) const;
-    void paint_in_cells(QPainter& painter, const QRect& area) const;
 
     Style style_;
     Step step_ = Step::compact;

@@ -91,6 +91,11 @@ void StudioButton::set_words(const QString& words, const QString& narrow_words) 
     update();
 }
 
+void StudioButton::set_marked(const QString& caption) {
+    marked_ = caption;
+    update();
+}
+
 QString StudioButton::shown_text() const {
     const QString& words = step_ == Step::narrow ? narrow_words_ : words_;
     return words.isEmpty() && sign_ == Sign::none ? text() : words;
@@ -263,9 +268,10 @@ void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor
         shown.setBold(true);
     painter.setFont(shown);
     painter.setPen(ink);
-    const bool beside = sign_ != Sign::none;
-    painter.drawText(area, beside ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter,
-                     QFontMetrics{shown}.elidedText(shown_text(), Qt::ElideRight, area.width()));
+    const int place = sign_ != Sign::none ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
+    const int marks = marked_.isEmpty() ? 0 : Qt::TextShowMnemonic;
+    const QString text = marked_.isEmpty() ? shown_text() : marked_;
+    painter.drawText(area, place | marks, QFontMetrics{shown}.elidedText(text, Qt::ElideRight, area.width(), marks));
 }
 
 // Sign and words stand in the middle together. Returns the room of the words.

@@ -34,6 +34,8 @@ public:
     void set_sign(Sign sign, const QString& words = {}, const QString& narrow_words = {});
     /// Shown where there is a caption; the caption still names the button. The narrow step may have words of its own.
     void set_words(const QString& words, const QString& narrow_words = {});
+    /// Its caption with a mark before the letter that calls it, which is underlined.
+    void set_marked(const QString& caption);
     /// One that can't be reached shows air all the same: it is a lamp then.
     void set_accent(Accent accent);
     [[nodiscard]] Accent accent() const { return accent_; }
@@ -78,6 +80,7 @@ private:
     Sign sign_ = Sign::none;
     QString words_;
     QString narrow_words_;
+    QString marked_;
     Accent accent_ = Accent::none;
     ButtonLook look_ = ButtonLook::face;
     ButtonSize size_ = ButtonSize::normal;

@@ -127,8 +127,8 @@ QLabel* Dresser::movie(Movie& movie) {
     return widget;
 }
 
-QTableView* Dresser::table(RowTable& table) {
-    auto* widget = new QTableView{parent()};
+RowTableView* Dresser::table(RowTable& table) {
+    auto* widget = new RowTableView{parent()};
     view_.keep(std::make_unique<RowTableBinding>(table, *widget, services()));
     return widget;
 }

@@ -46,7 +46,7 @@ public:
     QTextEdit* rich_text(RichText& text);
     QGroupBox* frame(Frame& frame);
     QLabel* movie(Movie& movie);
-    QTableView* table(RowTable& table);
+    RowTableView* table(RowTable& table);
 
     /// The usual widget of its kind; null for a menu entry and for what only its own window can show.
     QWidget* usual(Control& control);

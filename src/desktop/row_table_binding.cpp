@@ -1,11 +1,6 @@
 #include "desktop/row_table_binding.h"
 
 #include <QEvent>
-#include <QHeaderView>
-#include <QPainter>
-#include <QScrollBar>
-#include <QStyledItemDelegate>
-#include <algorithm>
 
 #include "desktop/colours.h"
 #include "desktop/text_bindings.h"
@@ -15,38 +10,16 @@ namespace sonarelle {
 namespace {
 
 constexpr int twips_per_pixel = 15;
-constexpr int widest_other = 104;
-
-/// Leaves the row on the air and the next one their colours when they are selected: an edge shows the selection.
-class MarkedRowDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        QStyleOptionViewItem shown = option;
-        const bool marked = index.data(Qt::BackgroundRole).isValid();
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        if (marked)
-            shown.state &= ~QStyle::State_Selected;
-        shown.state &= ~QStyle::State_HasFocus;
-        QStyledItemDelegate::paint(painter, shown, index);
-        if (!marked || !selected)
-            return;
-        painter->setPen(QPen{option.palette.color(QPalette::Highlight), 2});
-        painter->drawLine(option.rect.topLeft(), option.rect.topRight());
-        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    }
-};
 
 } // namespace
 
-RowTableBinding::RowTableBinding(RowTable& table, QTableView& widget, const DesktopServices& services)
+RowTableBinding::RowTableBinding(RowTable& table, RowTableView& widget, const DesktopServices& services)
     : Binding{table, widget, services},
       table_{table},
       view_{widget},
       model_{table, services.updates} {
-    view_.setModel(&model_);
-    dress();
+    view_.show_rows(model_);
+    view_.set_columns(wished_columns());
     view_.viewport()->installEventFilter(this);
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this](const QItemSelection& chosen) { rows_chosen(chosen); });
@@ -79,39 +52,20 @@ bool RowTableBinding::eventFilter(QObject* object, QEvent* event) {
     return Binding::eventFilter(object, event);
 }
 
-void RowTableBinding::dress() {
-    view_.setSelectionBehavior(QAbstractItemView::SelectRows);
-    view_.setSelectionMode(QAbstractItemView::SingleSelection);
-    view_.setShowGrid(false);
-    view_.setWordWrap(false);
-    view_.setTabKeyNavigation(false);
-    view_.setEditTriggers(QAbstractItemView::SelectedClicked);
-    view_.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    view_.verticalHeader()->hide();
-    view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    view_.verticalHeader()->setDefaultSectionSize(view_.fontMetrics().height() + 10);
-    view_.setItemDelegate(new MarkedRowDelegate{&view_});
-    embolden(*view_.horizontalHeader());
-    dress_header(*view_.horizontalHeader());
-}
-
-// The first column takes what the others leave; their captions have two lines.
-void RowTableBinding::dress_header(QHeaderView& header) {
-    QFont font = header.font();
-    font.setPixelSize(12);
-    header.setFont(font);
-    header.setDefaultAlignment(static_cast<Qt::Alignment>(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap));
-    header.setMinimumHeight(2 * QFontMetrics{font}.height() + 8);
-    header.setHighlightSections(false);
-    for (std::size_t column = 0; column < table_.columns().size(); ++column)
-        if (const int width = table_.columns()[column].width.count(); width > 0)
-            view_.setColumnWidth(static_cast<int>(column), std::min(width / twips_per_pixel, widest_other));
-    header.setSectionResizeMode(0, QHeaderView::Stretch);
+// As wide as the station wishes, until a view knows better; the first takes what the others leave.
+std::vector<ColumnLook> RowTableBinding::wished_columns() const {
+    std::vector<ColumnLook> looks;
+    for (const Column& column : table_.columns()) {
+        const int width = looks.empty() ? 0 : column.width.count() / twips_per_pixel;
+        looks.push_back({.narrow = width, .compact = width, .large = width});
+    }
+    return looks;
 }
 
 void RowTableBinding::show_state() {
     const QColor ground = field_ground(table_);
-    model_.set_colours(ground, legible(to_qt(table_.fore_colour, readable_on(ground)), ground));
+    model_.set_colours({ground, legible(to_qt(table_.fore_colour, readable_on(ground)), ground)});
+    view_.show_colours();
 }
 
 void RowTableBinding::paint(QPalette& palette) const {

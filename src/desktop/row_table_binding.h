@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QHeaderView>
-#include <QTableView>
-
 #include "desktop/binding.h"
 #include "desktop/row_table_model.h"
+#include "desktop/row_table_view.h"
 
 namespace sonarelle {
 
 /// A table of rows. A hundred thousand of them cost no widgets: the view asks for those that it paints.
 class RowTableBinding : public Binding {
 public:
-    RowTableBinding(RowTable& table, QTableView& widget, const DesktopServices& services);
+    RowTableBinding(RowTable& table, RowTableView& widget, const DesktopServices& services);
 
     [[nodiscard]] RowTableModel& model() { return model_; }
 
@@ -23,13 +21,12 @@ protected:
 private:
     void press(int row);
     void rows_chosen(const QItemSelection& chosen);
-    void dress();
-    void dress_header(QHeaderView& header);
+    [[nodiscard]] std::vector<ColumnLook> wished_columns() const;
     void select(int row);
     void scroll_to(int row);
 
     RowTable& table_;
-    QTableView& view_;
+    RowTableView& view_;
     RowTableModel model_;
     bool selecting_ = false;
     bool chosen_by_press_ = false;

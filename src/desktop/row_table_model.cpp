@@ -1,24 +1,17 @@
 #include "desktop/row_table_model.h"
 
-#include "desktop/colours.h"
+#include <array>
+
 #include "desktop/qt_text.h"
+#include "desktop/tokens.h"
 
 namespace sonarelle {
-
-namespace {
-
-bool is_number(const std::string& text) {
-    return !text.empty() && text.find_first_not_of("0123456789.,: ") == std::string::npos;
-}
-
-} // namespace
 
 RowTableModel::RowTableModel(RowTable& table, UpdateQueue& updates)
     : table_{table},
       updates_{updates},
       count_{table.count()},
-      ground_{studio::well},
-      ink_{studio::text} {
+      colours_{studio::well, studio::text} {
     table_.observe_rows(this);
 }
 
@@ -28,65 +21,47 @@ RowTableModel::~RowTableModel() {
 }
 
 int RowTableModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(table_.columns().size());
+    return parent.isValid() ? 0 : static_cast<int>(table_.columns().size()) + 1;
 }
 
 QVariant RowTableModel::data(const QModelIndex& index, int role) const {
     const int row = index.row() + 1;
     if (!index.isValid() || row > table_.count())
         return {};
+    if (role == state_role)
+        return static_cast<int>(state_of(row));
+    if (index.column() == number_column())
+        return number_data(row, role);
     const std::string& text = table_.sub_item(row, static_cast<std::size_t>(index.column()));
-    switch (role) {
-    case Qt::DisplayRole:
-    case Qt::EditRole:
-    case Qt::ToolTipRole:
-        return to_qt(text);
-    case Qt::BackgroundRole:
-        return background(row);
-    case Qt::ForegroundRole:
-        return ink_of(row);
-    case Qt::TextAlignmentRole:
-        return static_cast<int>((is_number(text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    case Qt::FontRole:
-        return font_of(row, text);
-    default:
-        return {};
-    }
+    const bool is_text = role == Qt::DisplayRole || role == Qt::EditRole || role == Qt::ToolTipRole;
+    return is_text ? QVariant{to_qt(text)} : QVariant{};
 }
 
-QVariant RowTableModel::background(int row) const {
+// The state is a sign and a colour on the screen, and words to who hears it.
+QVariant RowTableModel::number_data(int row, int role) const {
+    static constexpr std::array states{"", ", à l'antenne", ", suivant", ", fichier absent"};
+    const QString number = QString::number(row);
+    if (role == Qt::AccessibleTextRole)
+        return number + states[static_cast<std::size_t>(state_of(row))];
+    return role == Qt::DisplayRole ? QVariant{number} : QVariant{};
+}
+
+RowState RowTableModel::state_of(int row) const {
     if (row == marks_.playing)
-        return mixed(ground_, studio::air, 0.55);
+        return RowState::air;
     if (row == marks_.next)
-        return mixed(ground_, studio::next, 0.50);
-    if (lacks_file(row))
-        return mixed(ground_, studio::trouble, 0.45);
-    return {};
+        return RowState::next;
+    return lacks_file(row) ? RowState::missing : RowState::plain;
 }
 
 bool RowTableModel::lacks_file(int row) const {
-    return row != marks_.playing && is_missing && is_missing(table_.text(row));
-}
-
-// A missing file is struck out as well, so that its colour doesn't speak alone.
-QFont RowTableModel::font_of(int row, const std::string& text) const {
-    QFont font;
-    font.setBold(row == marks_.playing);
-    font.setStrikeOut(lacks_file(row));
-    if (is_number(text))
-        font.setFamily("DejaVu Sans"); // figures of one width
-    return font;
-}
-
-QVariant RowTableModel::ink_of(int row) const {
-    const QVariant ground = background(row);
-    return ground.isValid() ? QVariant{legible(ink_, ground.value<QColor>())} : QVariant{};
+    return is_missing && is_missing(table_.text(row));
 }
 
 QVariant RowTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-        return to_qt(table_.columns()[static_cast<std::size_t>(section)].caption);
-    return {};
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+        return {};
+    return section == number_column() ? "N°" : to_qt(table_.columns()[static_cast<std::size_t>(section)].caption);
 }
 
 Qt::ItemFlags RowTableModel::flags(const QModelIndex& index) const {
@@ -150,11 +125,6 @@ void RowTableModel::apply_change() {
         endResetModel();
         selection_waits_ = true;
     }
-}
-
-void RowTableModel::set_colours(const QColor& ground, const QColor& ink) {
-    ground_ = ground;
-    ink_ = ink;
 }
 
 void RowTableModel::set_marks(const RowMarks& marks) {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QColor>
-#include <QFont>
 #include <functional>
 
+#include "desktop/row_colours.h"
 #include "desktop/update_queue.h"
 #include "platform/row_table.h"
 
@@ -17,8 +16,8 @@ struct RowMarks {
     friend bool operator==(const RowMarks&, const RowMarks&) = default;
 };
 
-/// The rows of a table, read where they are. What changes between two paints is told to the view once, and many rows
-/// at a time as one new table.
+/// The rows of a table, read where they are, and behind its columns one with the rows' numbers. What changes between
+/// two paints is told to the view once, and many rows at a time as one new table.
 class RowTableModel : public QAbstractTableModel, public Shown, private RowTableObserver {
 public:
     RowTableModel(RowTable& table, UpdateQueue& updates);
@@ -26,8 +25,13 @@ public:
     RowTableModel(const RowTableModel&) = delete;
     RowTableModel& operator=(const RowTableModel&) = delete;
 
+    /// The state of an index's row, as a RowState.
+    static constexpr int state_role = Qt::UserRole;
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : count_; }
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int number_column() const { return columnCount() - 1; }
+    [[nodiscard]] const RowTable& table() const { return table_; }
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
@@ -36,8 +40,9 @@ public:
     void show_value() override;
     /// Paints the marked rows anew if they are others.
     void set_marks(const RowMarks& marks);
-    /// Of the rows that no mark colours.
-    void set_colours(const QColor& ground, const QColor& ink);
+    void set_colours(const RowColours& colours) { colours_ = colours; }
+    [[nodiscard]] const RowColours& colours() const { return colours_; }
+    [[nodiscard]] RowState state_of(int row) const;
 
     /// Paints all rows anew: what `is_missing` says of them has changed.
     void repaint_all();
@@ -62,9 +67,7 @@ private:
     void apply_change();
     void repaint_row(int row);
     [[nodiscard]] bool lacks_file(int row) const;
-    [[nodiscard]] QFont font_of(int row, const std::string& text) const;
-    [[nodiscard]] QVariant background(int row) const;
-    [[nodiscard]] QVariant ink_of(int row) const;
+    [[nodiscard]] QVariant number_data(int row, int role) const;
 
     RowTable& table_;
     UpdateQueue& updates_;
@@ -74,8 +77,7 @@ private:
     bool selection_waits_ = false;
     int shown_row_ = 0;
     RowMarks marks_;
-    QColor ground_;
-    QColor ink_;
+    RowColours colours_;
 };
 
 } // namespace sonarelle

@@ -16,10 +16,13 @@ constexpr std::array types{
     TypeRow{11, 13},  // tiny
     TypeRow{12, 14},  // small
     TypeRow{13, 15},  // base
+    TypeRow{13, 16},  // row
     TypeRow{14, 17},  // medium
     TypeRow{14, 22},  // following
+    TypeRow{16, 20},  // list_title
     TypeRow{18, 26},  // deck_title
     TypeRow{22, 38},  // figure
+    TypeRow{34, 42},  // list_remaining
     TypeRow{34, 56},  // clock
     TypeRow{24, 44},  // air_title
     TypeRow{62, 124}, // remaining
@@ -50,6 +53,11 @@ constexpr StepLengths large{.margin = 12,
                             .gap = 8,
                             .volume = 88};
 
+constexpr ListLengths compact_list{
+    .header = 44, .modes = 40, .foot = 44, .head = 30, .row = 27, .choice = 30, .button = 32};
+constexpr ListLengths large_list{
+    .header = 48, .modes = 44, .foot = 48, .head = 34, .row = 31, .choice = 36, .button = 36};
+
 } // namespace
 
 int pixels_of(Type type, Step step) {
@@ -59,6 +67,10 @@ int pixels_of(Type type, Step step) {
 
 const StepLengths& lengths_of(Step step) {
     return step == Step::large ? large : compact;
+}
+
+const ListLengths& list_lengths_of(Step step) {
+    return step == Step::large ? large_list : compact_list;
 }
 
 } // namespace sonarelle

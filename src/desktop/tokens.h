@@ -48,6 +48,15 @@ inline constexpr QColor wave_unheard{0x3a, 0x41, 0x49}; ///< and behind its end 
 inline constexpr QColor cursor{0xff, 0xff, 0xff};
 inline constexpr QColor knob{0xdf, 0xe4, 0xe9};
 
+// Rows of a list on a light ground; on a dark one they take the grounds above.
+inline constexpr QColor air_row{0x6f, 0xd3, 0x9c};
+inline constexpr QColor next_row{0xf0, 0xbe, 0x69};
+inline constexpr QColor next_row_dark{0x4a, 0x35, 0x11};
+inline constexpr QColor missing_row{0xe5, 0xa9, 0xa6};
+inline constexpr QColor missing_row_dark{0x33, 0x1a, 0x1d};
+inline constexpr QColor on_missing_row{0x5e, 0x07, 0x10};
+inline constexpr QColor selected_row{0x26, 0x30, 0x3c};
+
 // Pixels at a text of 13.
 inline constexpr int small_radius = 4; ///< Small button, row, waveform.
 inline constexpr int radius = 6;       ///< Button, field.
@@ -60,7 +69,21 @@ inline constexpr int half_grid = 4;
 enum class Step { narrow, compact, large };
 
 /// What a text is, which gives its size in each step.
-enum class Type { tiny, small, base, medium, following, deck_title, figure, clock, air_title, remaining };
+enum class Type {
+    tiny,
+    small,
+    base,
+    row,
+    medium,
+    following,
+    list_title,
+    deck_title,
+    figure,
+    list_remaining,
+    clock,
+    air_title,
+    remaining
+};
 
 /// The step of the desk at a size of its window.
 [[nodiscard]] constexpr Step step_of(QSize window) {
@@ -81,5 +104,13 @@ struct StepLengths {
     int volume; ///< Width of a deck's column of volume.
 };
 [[nodiscard]] const StepLengths& lengths_of(Step step);
+
+/// Lengths of the list window, in pixels.
+struct ListLengths {
+    int header, modes, foot; ///< Heights of its strips; the rows have the rest.
+    int head, row;
+    int choice, button; ///< Heights of the reading modes and of the foot's buttons.
+};
+[[nodiscard]] const ListLengths& list_lengths_of(Step step);
 
 } // namespace sonarelle

@@ -37,8 +37,7 @@ protected:
     /// Which row of the list is marked as the next one.
     [[nodiscard]] int amber_row() {
         for (int row = 1; row <= list().rows.count(); ++row) {
-            const auto ground = list_view().rows().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
-            if (ground.red() > ground.blue() + 20)
+            if (list_view().rows().state_of(row) == RowState::next)
                 return row;
         }
         return 0;
@@ -197,13 +196,10 @@ TEST_F(AirOnDesk, DeskAtRestTellsNothing) {
 TEST_F(AirOnDesk, RowsFollowTheAir) {
     play_list();
     run_for(90);
-    const auto ground = [this](int row) {
-        return list_view().rows().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
-    };
-    EXPECT_GT(ground(1).green(), ground(1).red() + 20);
-    EXPECT_GT(ground(2).red(), ground(2).blue() + 20);
+    EXPECT_EQ(list_view().rows().state_of(1), RowState::air);
+    EXPECT_EQ(list_view().rows().state_of(2), RowState::next);
     run_for(10);
-    EXPECT_GT(ground(2).green(), ground(2).red() + 20);
+    EXPECT_EQ(list_view().rows().state_of(2), RowState::air);
 }
 
 TEST_F(AirOnDesk, DrawnRowIsTheNextOne) {

@@ -35,8 +35,8 @@ protected:
     }
     [[nodiscard]] QLineEdit* editor() { return widget.findChild<QLineEdit*>(); }
 
-    RowTable table{window, "ListView1", {{"Chemin", Twips{3000}}, {"Début", Twips{900}}, {"Fin", Twips{9000}}}};
-    QTableView widget;
+    RowTable table{window, "ListView1", {{"Chemin", Twips{3000}}, {"Début", Twips{900}}, {"Fin", Twips{1560}}}};
+    RowTableView widget;
     RowTableBinding binding{table, widget, services};
 };
 

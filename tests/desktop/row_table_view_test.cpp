@@ -11,7 +11,7 @@ using TableView = TableFixture;
 TEST_F(TableView, ShowsTheRowsAndColumnsOfTheTable) {
     fill(3);
     EXPECT_EQ(widget.model()->rowCount(), 3);
-    EXPECT_EQ(widget.model()->columnCount(), 3);
+    EXPECT_EQ(widget.model()->columnCount(), 4); // with their numbers
     EXPECT_EQ(shown(2), "D:\\titre 2.mp3");
 }
 
@@ -136,7 +136,7 @@ TEST_F(TableView, PressOnTheRowThatAnArrowChoseIsAClickToo) {
 TEST_F(TableView, BeginsWithTheSelectionOfTheTable) {
     fill(3);
     table.select(2);
-    QTableView later;
+    RowTableView later;
     const RowTableBinding second{table, later, services};
     EXPECT_EQ(later.currentIndex().row(), 1);
     EXPECT_EQ(events, 0);
@@ -208,7 +208,7 @@ TEST_F(TableView, PressOnAnyCellSelectsItsWholeRow) {
     show();
     press(2, 1);
     EXPECT_EQ(table.selected(), 2);
-    EXPECT_EQ(widget.selectionModel()->selectedIndexes().size(), 3);
+    EXPECT_EQ(widget.selectionModel()->selectedIndexes().size(), 4); // with its number
 }
 
 TEST_F(TableView, HasOneSelectedRowAtMost) {
@@ -268,7 +268,7 @@ TEST_F(TableView, RowThatIsAddedOrTakenIsTheOnlyOneShownAnew) {
 
 TEST_F(TableView, KeepsItsRowsAfterItsView) {
     {
-        QTableView passing;
+        RowTableView passing;
         const RowTableBinding second{table, passing, services};
     }
     fill(2);

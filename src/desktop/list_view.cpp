@@ -1,59 +1,106 @@
 #include "desktop/list_view.h"
 
 #include <QBoxLayout>
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QRadioButton>
+#include <array>
 #include <set>
 
+#include "desktop/card_strip.h"
+#include "desktop/label_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
+#include "desktop/text_run.h"
+#include "desktop/text_size.h"
+#include "desktop/toggle.h"
 
 namespace sonarelle {
 
 namespace {
 
-constexpr QSize least_size{1000, 560}; // with its frame on a screen of 1024 by 600
-// White on a middle grey reads well when it is bold and of this size.
-constexpr StationLabel::Style bold_text{.type = Type::medium, .bold = true, .characters = 18};
-constexpr StationLabel::Style button_text{
-    .type = Type::medium, .framed = true, .characters = 8, .alignment = Qt::AlignCenter};
+constexpr QSize least_size{1000, 230}; // pixels: its strips and two rows
+constexpr int edge = 20;               // pixels, left of what is read
+constexpr int foot_edge = 12;
+constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+constexpr StationLabel::Style heading{.type = Type::tiny, .quiet = true, .capitals = true, .characters = 18};
+constexpr StationLabel::Style aside{.type = Type::small, .quiet = true};
+
+std::vector<ColumnLook> column_looks() {
+    return {{},
+            {.short_heading = "Début (s)", .narrow = 88, .compact = 216, .large = 264, .figures = true},
+            {.short_heading = "Fin (s)", .narrow = 80, .compact = 200, .large = 248, .figures = true},
+            {.narrow = 112, .compact = 128, .large = 176},
+            {.narrow = 88, .compact = 96, .large = 128, .figures = true},
+            {.narrow = 100, .compact = 112, .large = 152, .figures = true}};
+}
+
+StationLabel* words(const StationLabel::Style& style, const QString& text) {
+    auto* label = new StationLabel{style};
+    label->set_text(text);
+    return label;
+}
+
+QHBoxLayout* row_in(QWidget& strip, int left) {
+    auto* row = new QHBoxLayout{&strip};
+    row->setContentsMargins(left, 0, foot_edge, 0);
+    row->setSpacing(studio::grid);
+    return row;
+}
 
 } // namespace
 
 ListView::ListView(Liste_son& window, const DesktopServices& services)
-    : WindowView{window, services, least_size},
+    : WindowView{window, services, {least_size.width(), scaled(least_size.height())}},
       window_{window} {
     build_rows();
+    order_keyboard();
+    take_step(wanted_step());
+    binding_of(window_.rows)->widget()->setFocus(); // at the first
 }
 
 void ListView::build_rows() {
     auto* rows = new QVBoxLayout{&content()};
-    rows->setContentsMargins(12, 10, 12, 6);
-    rows->setSpacing(8);
-    rows->addLayout(header());
-    rows->addLayout(table_row(), 1);
-    rows->addLayout(button_row());
-    rows->addLayout(status_row());
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(header());
+    rows->addWidget(modes());
+    rows->addWidget(table(), 1);
+    rows->addWidget(foot());
+    if (QWidget* rest = remaining_parts(dresser_))
+        rows->addWidget(rest);
 }
 
-QLayout* ListView::header() {
-    auto* panel = new Panel{&content()};
-    auto* row = new QHBoxLayout{panel};
-    row->setContentsMargins(14, 6, 14, 6);
-    title_ = dresser_.label(window_.track_name, {.type = Type::deck_title, .bold = true, .characters = 20});
-    auto* list = dresser_.label(window_.file_in_use, {.type = Type::base, .quiet = true, .characters = 20});
+QWidget* ListView::header() {
+    header_ = new CardStrip;
     remaining_ = dresser_.label(
         window_.remaining,
-        {.type = Type::clock, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
-    clock_ = dresser_.label(
-        window_.time_of_day,
-        {.type = Type::deck_title, .digits = true, .characters = 9, .alignment = Qt::AlignRight | Qt::AlignVCenter});
+        {.type = Type::list_remaining, .bold = true, .digits = true, .characters = 7, .alignment = Qt::AlignCenter});
+    clock_ = dresser_.label(window_.time_of_day,
+                            {.type = Type::deck_title, .digits = true, .characters = 8, .alignment = right});
+    auto* zap =
+        dresser_.label(window_.zap_status, {.type = Type::base, .bold = true, .characters = 15, .alignment = right});
+    remaining_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* others = row_of({nullptr, zap, clock_}, 2 * studio::grid);
+    auto* row = row_in(*header_, edge);
+    row->addLayout(header_texts(), 1);
+    row->addWidget(remaining_);
+    row->addLayout(others, 1);
     for (const Label* label : {&window_.track_name, &window_.remaining, &window_.time_of_day})
         binding_of(*label)->on_shown = [this] { tell_air(); };
-    row->addLayout(column_of({title_, list}, 2), 1);
-    row->addWidget(remaining_);
-    row->addWidget(clock_, 1);
-    return column_of({panel});
+    return header_;
+}
+
+QLayout* ListView::header_texts() {
+    title_ = dresser_.label(window_.track_name, {.type = Type::list_title, .bold = true, .characters = 20});
+    progress_ = dresser_.label(window_.progress, aside);
+    running_deck_ = dresser_.label(window_.running_deck, aside);
+    state_ = new TextRun{{dresser_.label(window_.list_status, aside), progress_, running_deck_,
+                          dresser_.label(window_.file_in_use, aside)}};
+    for (const Label* label : {&window_.list_status, &window_.progress, &window_.running_deck, &window_.file_in_use})
+        binding_of(*label)->on_shown = [this] { tell_list(); };
+    auto* column = column_of({title_, state_}, 0);
+    column->setAlignment(Qt::AlignVCenter);
+    return column;
 }
 
 void ListView::show_air(const ListAir& air) {
@@ -74,86 +121,115 @@ void ListView::tell_air() {
         setWindowTitle(title());
 }
 
-QLayout* ListView::table_row() {
-    auto* table = dresser_.table(window_.rows);
-    table->setAccessibleName("Liste");
-    rows_ = static_cast<RowTableBinding*>(binding_of(window_.rows));
-    table->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    row->addWidget(table, 1);
-    row->addWidget(side_column());
-    return row;
+// The deck of the chain over decks is no news of a list, and a list that rests has no second to tell.
+void ListView::tell_list() {
+    running_deck_->setVisible(!window_.reads_the_list());
+    progress_->setVisible(progress_->text().startsWith('('));
+    state_->arrange();
 }
 
 QString ListView::title() const {
     return air_.title.isEmpty() ? WindowView::title() : air_.title;
 }
 
-StudioButton* ListView::lamp(Image& image, const char* name) {
-    auto* button = dresser_.image(image, "●");
-    button->setAccessibleName(name);
-    button->set_look(ButtonLook::lamp);
-    button->setFixedSize(28, 28);
-    return button;
-}
-
-QWidget* ListView::side_column() {
-    auto* side = new Panel{&content()};
-    side->setFixedWidth(236);
-    auto* column = new QVBoxLayout{side};
-    column->setContentsMargins(12, 10, 12, 10);
-    column->setSpacing(6);
-    const auto heading = [column](const QString& text) {
-        auto* label = new StationLabel{{.type = Type::tiny, .quiet = true}};
-        label->set_text(text);
-        column->addWidget(label);
-    };
-    heading("MODE DE LECTURE");
-    const std::array<std::pair<Image*, OptionButton*>, 4> modes{
+QWidget* ListView::modes() {
+    modes_ = new CardStrip{true};
+    auto* row = row_in(*modes_, edge);
+    headings_ = {words(heading, "MODE DE LECTURE"), words(heading, "INSERTION")};
+    row->addWidget(headings_[0]);
+    const std::array<std::pair<Image*, OptionButton*>, 4> choices{
         {{&window_.player_lamp, &window_.player_mode},
          {&window_.random_lamp, &window_.random_mode},
          {&window_.defined_end_lamp, &window_.defined_end_mode},
          {&window_.full_length_lamp, &window_.full_length_mode}}};
-    for (const auto& [picture, option] : modes)
-        column->addLayout(dresser_.mode(*picture, *option));
-    heading("INSERTION");
-    column->addLayout(row_of(
-        {lamp(window_.jingles_switch, "Insertion de jingles"), dresser_.label(window_.jingles_status, bold_text)}));
-    column->addLayout(
-        row_of({lamp(window_.items_switch, "Insertion d'une liste"), dresser_.label(window_.items_status, bold_text)}));
-    column->addStretch(1);
-    return side;
+    for (const auto& [picture, option] : choices) {
+        row->addLayout(dresser_.mode(*picture, *option));
+        stops_.push_back(binding_of(*option)->widget());
+        binding_of(*option)->on_shown = [this, before = binding_of(*option)->on_shown] {
+            before();
+            tell_list();
+        };
+    }
+    row->addStretch(1);
+    row->addWidget(headings_[1]);
+    row->addLayout(insertion(window_.jingles_switch, window_.jingles_status, 11, "Insertion de jingles"));
+    row->addLayout(insertion(window_.items_switch, window_.items_status, 8, "Insertion d'une liste"));
+    return modes_;
 }
 
-QLayout* ListView::button_row() {
-    auto* play = dresser_.image(window_.play_list, "▶ lecture liste", Accent::air);
-    auto* zap = dresser_.image(window_.zap, "⇥ Zap (Z)", Accent::next);
-    auto* stop = dresser_.image(window_.stop_decks, "■ Stopper");
-    auto* place = dresser_.image(window_.show_playing_row, "◎ Position");
+// The switch says what its words say.
+QLayout* ListView::insertion(Image& image, Label& label, int longest, const char* name) {
+    auto* toggle = new Toggle{&content()};
+    toggle->setAccessibleName(name);
+    keep(std::make_unique<ToggleBinding>(image, *toggle, services()));
+    auto* text = dresser_.label(label, {.type = Type::base, .bold = true, .characters = longest});
+    toggle->take_presses_on(*text);
+    binding_of(label)->on_shown = [toggle, text] { toggle->setChecked(text->text().contains(" On")); };
+    stops_.push_back(toggle);
+    return row_of({toggle, text}, studio::half_grid);
+}
+
+QWidget* ListView::table() {
+    auto* table = dresser_.table(window_.rows);
+    table->setAccessibleName("Liste");
+    table->set_columns(column_looks());
+    rows_ = static_cast<RowTableBinding*>(binding_of(window_.rows));
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
+    stops_.push_back(table);
+    setFocusProxy(table);
+    return table;
+}
+
+QWidget* ListView::foot() {
+    foot_ = new CardStrip;
+    auto* row = row_in(*foot_, foot_edge);
+    transport(*row);
+    row->addWidget(side_picture(), 1); // it takes what the buttons leave
+    for (StudioButton* button : {entry(window_.save_as), menu_button()}) {
+        button->set_size(ButtonSize::control);
+        row->addWidget(button);
+        stops_.push_back(button);
+    }
+    return foot_;
+}
+
+void ListView::transport(QBoxLayout& row) {
+    play_ = dresser_.image(window_.play_list);
+    auto* zap = dresser_.image(window_.zap, {}, Accent::next);
+    auto* stop = dresser_.image(window_.stop_decks);
+    auto* place = dresser_.image(window_.show_playing_row);
+    play_->set_sign(Sign::play, "lecture liste");
+    zap->set_sign(Sign::zap, "Zap (Z)");
+    stop->set_sign(Sign::stop, "Stopper (S)");
+    place->set_sign(Sign::place, "Position");
     place->setAccessibleName("Position");
+    // It can't be pressed while the list runs, and is its lamp then.
+    binding_of(window_.play_list)->on_shown = [this] {
+        play_->set_accent(window_.play_list.enabled ? Accent::none : Accent::air);
+        play_->setAccessibleDescription(window_.play_list.enabled ? "" : "la liste est en lecture");
+    };
+    transport_ = {play_, zap, stop};
+    for (StudioButton* button : {play_, zap, stop, place}) {
+        button->set_size(ButtonSize::control);
+        button->installEventFilter(this);
+        row.addWidget(button);
+        stops_.push_back(button);
+    }
+}
+
+StudioButton* ListView::side_picture() {
     auto* strip = dresser_.image(window_.side_picture);
     strip->set_look(ButtonLook::picture);
     strip->setFocusPolicy(Qt::NoFocus);
     strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* row = row_of({play, zap, stop, place, strip});
-    row->setStretchFactor(strip, 1); // it takes what the buttons leave
-    row->addWidget(dresser_.label(window_.save_as, button_text));
-    row->addWidget(menu_button());
-    return row;
+    return strip;
 }
 
-QLayout* ListView::status_row() {
-    auto* column = new QVBoxLayout;
-    auto* row = row_of({dresser_.label(window_.list_status, bold_text), dresser_.label(window_.progress, bold_text),
-                        dresser_.label(window_.running_deck, bold_text), nullptr,
-                        dresser_.label(window_.zap_status, bold_text)},
-                       18);
-    if (QWidget* rest = remaining_parts(dresser_))
-        column->addWidget(rest);
-    column->addLayout(row);
-    return column;
+StudioButton* ListView::entry(Label& label) {
+    auto* button = new StudioButton{&content()};
+    keep(std::make_unique<LabelButtonBinding>(label, *button, services()));
+    return button;
 }
 
 StudioButton* ListView::menu_button() {
@@ -188,6 +264,49 @@ void ListView::show_row_menu() {
         all_entries_->popup(QCursor::pos());
     else
         menus().popup(window_.Load_Pl);
+}
+
+void ListView::order_keyboard() {
+    for (std::size_t stop = 1; stop < stops_.size(); ++stop)
+        setTabOrder(stops_[stop - 1], stops_[stop]);
+}
+
+// No hand that falls on the space bar starts, zaps or stops the list; Return does.
+bool ListView::eventFilter(QObject* object, QEvent* event) {
+    const bool is_key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (is_key && std::ranges::find(transport_, object) != transport_.end())
+        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
+    return WindowView::eventFilter(object, event);
+}
+
+void ListView::follow_step(Step of_desk) {
+    desk_step_ = of_desk;
+    if (wanted_step() != step_)
+        take_step(wanted_step());
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+    WindowView::resizeEvent(event);
+    if (wanted_step() != step_)
+        take_step(wanted_step());
+}
+
+Step ListView::wanted_step() const {
+    constexpr int any_height = 640; // pixels: a list is as high as it likes
+    const Step own = step_of({width(), any_height});
+    return own == Step::large && desk_step_ && *desk_step_ != Step::large ? Step::compact : own;
+}
+
+void ListView::take_step(Step step) {
+    step_ = step;
+    give_step(content(), step);
+    const ListLengths& lengths = list_lengths_of(step);
+    header_->setFixedHeight(scaled(lengths.header));
+    modes_->setFixedHeight(scaled(lengths.modes));
+    foot_->setFixedHeight(scaled(lengths.foot));
+    remaining_->setMaximumHeight(scaled(lengths.header)); // figures have nothing below their line
+    for (StationLabel* text : headings_)
+        text->setVisible(step != Step::narrow);
 }
 
 } // namespace sonarelle

@@ -1,12 +1,16 @@
 #pragma once
 
-#include <functional>
+#include <array>
+#include <optional>
 
 #include "desktop/dresser.h"
 #include "desktop/panel.h"
 #include "playlist/liste_son.h"
 
 namespace sonarelle {
+
+class CardStrip;
+class TextRun;
 
 /// What the list window tells of the air.
 struct ListAir {
@@ -16,36 +20,60 @@ struct ListAir {
     QString silence{}; ///< How long a silence that is told has lasted; empty for none.
 };
 
-/// The list window: the rows, what is on and how long it lasts, the list's buttons.
+/// The list window: what is on and how long it lasts, the modes, the rows, the list's buttons. Its step is the desk's,
+/// or by its own width while it knows none, and the narrow one wherever it is.
 class ListView : public WindowView {
 public:
     ListView(Liste_son& window, const DesktopServices& services);
 
     [[nodiscard]] RowTableModel& rows() { return rows_->model(); }
     void show_air(const ListAir& air);
+    /// The desk's step is another.
+    void follow_step(Step of_desk);
 
 protected:
     [[nodiscard]] QString title() const override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void build_rows();
-    [[nodiscard]] QLayout* header();
-    void tell_air();
-    [[nodiscard]] QLayout* table_row();
-    [[nodiscard]] QWidget* side_column();
-    [[nodiscard]] StudioButton* lamp(Image& image, const char* name);
-    [[nodiscard]] QLayout* button_row();
-    [[nodiscard]] QLayout* status_row();
+    [[nodiscard]] QWidget* header();
+    [[nodiscard]] QLayout* header_texts();
+    [[nodiscard]] QWidget* modes();
+    [[nodiscard]] QLayout* insertion(Image& image, Label& label, int longest, const char* name);
+    [[nodiscard]] QWidget* table();
+    [[nodiscard]] QWidget* foot();
+    void transport(QBoxLayout& row);
+    [[nodiscard]] StudioButton* side_picture();
+    [[nodiscard]] StudioButton* entry(Label& label);
     [[nodiscard]] StudioButton* menu_button();
+    void order_keyboard();
     void fill_menu(QMenu& menu);
     void show_row_menu();
+    void tell_air();
+    void tell_list();
+    [[nodiscard]] Step wanted_step() const;
+    void take_step(Step step);
 
     Liste_son& window_;
     Dresser dresser_{*this};
     ListAir air_;
+    std::optional<Step> desk_step_;
+    Step step_ = Step::compact;
+    CardStrip* header_ = nullptr;
+    CardStrip* modes_ = nullptr;
+    CardStrip* foot_ = nullptr;
     StationLabel* title_ = nullptr;
     StationLabel* remaining_ = nullptr;
     StationLabel* clock_ = nullptr;
+    StationLabel* progress_ = nullptr;
+    StationLabel* running_deck_ = nullptr;
+    TextRun* state_ = nullptr; ///< What the list is doing.
+    StudioButton* play_ = nullptr;
+    std::array<StationLabel*, 2> headings_{}; ///< The narrow step has no room for them.
+    std::vector<QWidget*> stops_;             ///< Of the keyboard, in their order.
+    std::vector<QWidget*> transport_;
     RowTableBinding* rows_ = nullptr;
     QMenu* all_entries_ = nullptr;
 };

@@ -1,47 +1,7 @@
-// The list window: what it tells of the air, its modes, its rows and their menu.
-#include "desktop/list_view.h"
-
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QTest>
-
-#include "desktop/station_views.h"
+// The list window: what it tells of the air, its rows and their menu.
+#include "desktop/list_window_fixture.h"
 
 namespace sonarelle {
-
-namespace {
-
-class ListWindow : public StationViews {
-protected:
-    ListWindow() { show_windows(); }
-
-    [[nodiscard]] Liste_son& list() { return station.list_window; }
-    [[nodiscard]] StationLabel& label(const Label& told) { return part<StationLabel>(list_view(), told.name()); }
-    [[nodiscard]] QTableView& table() { return part<QTableView>(list_view(), "ListView1"); }
-    [[nodiscard]] QModelIndex cell(int row, int column = 0) { return table().model()->index(row - 1, column); }
-
-    /// The right button over the rows; the menu that it opens.
-    QMenu* right_click() {
-        const QPoint place = table().visualRect(cell(1)).center();
-        QContextMenuEvent click{QContextMenuEvent::Mouse, place, table().viewport()->mapToGlobal(place)};
-        QCoreApplication::sendEvent(table().viewport(), &click);
-        settle();
-        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    }
-    /// What the button "Menu" opens.
-    QMenu* press_menu_button() {
-        const auto buttons = parts_of<StudioButton>(list_view());
-        const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
-        if (button != buttons.end())
-            (*button)->click();
-        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    }
-    [[nodiscard]] static bool offers(QMenu& menu, const QString& entry) {
-        return std::ranges::any_of(menu.actions(), [&](const QAction* action) { return action->text() == entry; });
-    }
-};
-
-} // namespace
 
 TEST_F(ListWindow, NamesWhatIsOnTheAirWhateverItsOwnLabelSays) {
     list_view().show_air({.title = "Matin sur le port", .left = "00:00:10", .clock = "12:00:00"});
@@ -100,60 +60,38 @@ TEST_F(ListWindow, BothWindowsShowOneRemainder) {
     EXPECT_EQ(label(list().remaining).text(), part<StationLabel>(main_view(), "remaining").text());
 }
 
-TEST_F(ListWindow, ModeHasOneIndicatorThatFollowsItsOption) {
-    const std::array<std::pair<Image*, OptionButton*>, 4> modes{{{&list().player_lamp, &list().player_mode},
-                                                                 {&list().random_lamp, &list().random_mode},
-                                                                 {&list().defined_end_lamp, &list().defined_end_mode},
-                                                                 {&list().full_length_lamp, &list().full_length_mode}}};
-    for (const auto& [image, option] : modes) {
-        option->show_value(true);
-        settle();
-        for (const auto& [lamp, other] : modes) {
-            const QImage shown = seen_in_window(part(list_view(), lamp->name()));
-            EXPECT_EQ(count_of(shown, studio::air) > 40, other == option) << lamp->name();
-        }
-    }
-}
-
-TEST_F(ListWindow, PictureOfAModeCantContradictIt) {
+TEST_F(ListWindow, SaysWhatTheListIsDoingInOneLine) {
+    list().list_status.caption = "En cours index N° : (7)";
+    list().progress.caption = "( 63 / 69 )";
+    list().file_in_use.caption = "Dans fichier M:\\demonstration.dfm";
     list().full_length_mode.show_value(true);
     settle();
-    const QImage before = seen(list_view());
-    list().player_lamp.picture = "bouton_on.jpg";
-    list().full_length_lamp.picture = "bouton_off.jpg";
+    const int after_status = right_of(list().list_status);
+    EXPECT_GT(label(list().progress).x(), after_status);
+    EXPECT_GT(label(list().file_in_use).x(), right_of(list().progress));
+    list().list_status.caption = "Nb de morceaux : 13 (9)";
     settle();
-    EXPECT_EQ(seen(list_view()), before);
+    EXPECT_NE(right_of(list().list_status), after_status);
+    EXPECT_GT(label(list().progress).x(), right_of(list().list_status));
 }
 
-TEST_F(ListWindow, OptionDrawsNoMarkBesideItsLamp) {
-    auto& option = part<QRadioButton>(list_view(), "Option1");
-    const QImage clear = seen_in_window(option);
+TEST_F(ListWindow, ListThatRestsTellsNoSecond) {
+    list().progress.caption = "( 63 / 69 )";
+    settle();
+    EXPECT_TRUE(label(list().progress).isVisible());
+    list().progress.caption = "Liste";
+    settle();
+    EXPECT_FALSE(label(list().progress).isVisible());
+}
+
+TEST_F(ListWindow, DeckOfTheOtherChainIsNotToldWhileAListIsRead) {
+    list().running_deck.caption = "Play 1 Mix lecteur";
     list().player_mode.show_value(true);
     settle();
-    EXPECT_EQ(seen_in_window(option), clear);
-}
-
-TEST_F(ListWindow, LampAndWordsOfAModeBothChooseIt) {
-    int lamp_presses = 0;
-    int word_presses = 0;
-    list().random_lamp.on_click = [&] { ++lamp_presses; };
-    list().random_mode.on_click = [&] { ++word_presses; };
-    QTest::mouseClick(&part(list_view(), "Image9"), Qt::LeftButton);
-    part<QRadioButton>(list_view(), "Option2").click();
-    EXPECT_EQ(lamp_presses, 1);
-    EXPECT_EQ(word_presses, 1);
-}
-
-TEST_F(ListWindow, LampOfAModeIsNoStopOfTheKeyboard) {
-    for (const Image* lamp :
-         {&list().player_lamp, &list().random_lamp, &list().defined_end_lamp, &list().full_length_lamp})
-        EXPECT_EQ(part(list_view(), lamp->name()).focusPolicy(), Qt::NoFocus) << lamp->name();
-}
-
-TEST_F(ListWindow, SwitchesShowTheirPictureAndTheirWord) {
-    list().jingles_status.caption = "Jingle On";
+    EXPECT_TRUE(label(list().running_deck).isVisible());
+    list().random_mode.show_value(true);
     settle();
-    EXPECT_EQ(label(list().jingles_status).text(), "Jingle On");
+    EXPECT_FALSE(label(list().running_deck).isVisible());
 }
 
 TEST_F(ListWindow, RightButtonOpensTheRowsMenu) {
@@ -208,25 +146,21 @@ TEST_F(ListWindow, MenuButtonOffersNoEntryWithoutWords) {
 
 TEST_F(ListWindow, RowOnTheAirNextAndMissingAreTold) {
     rows_of_three();
-    const auto ground = [this](int row) { return cell(row).data(Qt::BackgroundRole).value<QColor>(); };
-    EXPECT_GT(ground(1).green(), ground(1).red() + 20);
-    EXPECT_GT(ground(2).red(), ground(2).blue() + 20);
-    EXPECT_GT(ground(3).red(), ground(3).green() + 20);
-    EXPECT_TRUE(cell(1).data(Qt::FontRole).value<QFont>().bold());
-    EXPECT_FALSE(cell(2).data(Qt::FontRole).value<QFont>().bold());
-}
-
-TEST_F(ListWindow, RowOfAMissingFileIsStruckOut) {
-    rows_of_three();
-    EXPECT_TRUE(cell(3).data(Qt::FontRole).value<QFont>().strikeOut());
-    EXPECT_FALSE(cell(1).data(Qt::FontRole).value<QFont>().strikeOut());
-    EXPECT_FALSE(cell(2).data(Qt::FontRole).value<QFont>().strikeOut());
+    EXPECT_EQ(state(1), RowState::air);
+    EXPECT_EQ(state(2), RowState::next);
+    EXPECT_EQ(state(3), RowState::missing);
 }
 
 TEST_F(ListWindow, RowOnTheAirIsNeverCalledMissing) {
     rows_of_three();
     list_view().rows().set_marks({.playing = 3, .next = 0});
-    EXPECT_FALSE(cell(3).data(Qt::FontRole).value<QFont>().strikeOut());
+    EXPECT_EQ(state(3), RowState::air);
+}
+
+TEST_F(ListWindow, RowThatWaitsOnADeckIsNeverCalledMissing) {
+    rows_of_three();
+    list_view().rows().set_marks({.playing = 1, .next = 3});
+    EXPECT_EQ(state(3), RowState::next);
 }
 
 TEST_F(ListWindow, MissingFilesAreMarkedWhenTheDiskHasAnswered) {
@@ -238,7 +172,8 @@ TEST_F(ListWindow, MissingFilesAreMarkedWhenTheDiskHasAnswered) {
     QObject::connect(table().model(), &QAbstractItemModel::dataChanged, [&] { ++repainted; });
     gone = news = true;
     EXPECT_TRUE(becomes([&] { return repainted > 0; }));
-    EXPECT_TRUE(cell(2).data(Qt::FontRole).value<QFont>().strikeOut());
+    list_view().rows().set_marks({});
+    EXPECT_EQ(state(2), RowState::missing);
 }
 
 TEST_F(ListWindow, MarksThatMoveRepaintTheirRowsOnly) {
@@ -272,15 +207,6 @@ TEST_F(ListWindow, SelectedRowOnTheAirKeepsItsColour) {
     EXPECT_NE(middle(3), plain);
 }
 
-TEST_F(ListWindow, FiguresStandToTheRightAndWordsToTheLeft) {
-    rows_of_three();
-    const auto side = [this](int column) { return cell(1, column).data(Qt::TextAlignmentRole).toInt(); };
-    EXPECT_TRUE(side(0) & Qt::AlignLeft);
-    EXPECT_TRUE(side(1) & Qt::AlignRight);
-    EXPECT_TRUE(side(3) & Qt::AlignLeft);
-    EXPECT_TRUE(side(5) & Qt::AlignRight);
-}
-
 TEST_F(ListWindow, WholePathIsTheRowsToolTip) {
     rows_of_three();
     EXPECT_EQ(cell(2).data(Qt::ToolTipRole).toString(), "C:\\deux.mp3");
@@ -293,31 +219,6 @@ TEST_F(ListWindow, ColumnsHaveTheirCaptions) {
     EXPECT_TRUE(caption(0).startsWith("Chemin complet")) << caption(0).toStdString();
     EXPECT_EQ(caption(3), "Genre");
     EXPECT_FALSE(table().model()->headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
-}
-
-TEST_F(ListWindow, ButtonsReachTheirImages) {
-    std::vector<std::string> pressed;
-    for (Image* image : {&list().play_list, &list().zap, &list().stop_decks, &list().show_playing_row}) {
-        image->enabled = true;
-        image->on_click = [&pressed, image] { pressed.push_back(image->name()); };
-        settle();
-        part<StudioButton>(list_view(), image->name()).click();
-    }
-    EXPECT_EQ(pressed, (std::vector<std::string>{"Image1", "Image2", "Image3", "Image4"}));
-}
-
-TEST_F(ListWindow, ButtonsOfTheAirAreLitInItsColours) {
-    for (Image* image : {&list().play_list, &list().zap, &list().stop_decks})
-        image->enabled = true;
-    settle();
-    const auto face = [this](const Image& image) { return ground_in(seen_in_window(part(list_view(), image.name()))); };
-    EXPECT_TRUE(is_near(face(list().play_list), studio::air_fill, 4));
-    EXPECT_TRUE(is_near(face(list().zap), studio::next, 4));
-}
-
-TEST_F(ListWindow, NoControlIsMissing) {
-    for (const Control* control : list().controls())
-        EXPECT_TRUE(control->kind() == ControlKind::menu_item || list_view().is_bound(*control)) << control->name();
 }
 
 } // namespace sonarelle

@@ -75,7 +75,7 @@ TEST_P(Themes, LabelThatThePointerLeavesIsAsBefore) {
 TEST_P(Themes, RowsRead) {
     rows_of_three();
     for (int row = 0; row < 3; ++row) {
-        auto& table = part<QTableView>(list_view(), "ListView1");
+        auto& table = part<RowTableView>(list_view(), "ListView1");
         const QRect cell = table.visualRect(table.model()->index(row, 0));
         EXPECT_GE(contrast_in(seen(*table.viewport()).copy(cell)), as_seen) << row;
     }
@@ -96,7 +96,7 @@ TEST_F(StationViews, ThemeReachesThePanels) {
 TEST_F(StationViews, ToldGroundThatCarriesTheToldInkIsTheWindows) {
     show_windows();
     wear({"clair", 0, 0, 0x400000, 0xFFFFFF, 0xC0FFFF, 0xC0FFFF});
-    EXPECT_EQ(seen(list_view()).pixelColor(3, list_view().height() / 2), QColor(0xff, 0xff, 0xc0));
+    EXPECT_EQ(seen(main_view()).pixelColor(3, main_view().height() / 2), QColor(0xff, 0xff, 0xc0));
     EXPECT_GE(contrast_in(seen_in_window(part<QRadioButton>(list_view(), "Option1"))), readable);
 }
 

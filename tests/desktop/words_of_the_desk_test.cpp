@@ -32,6 +32,8 @@ TEST_F(WordsOfTheDesk, NameThePartsOfTheMainWindow) {
 }
 
 TEST_F(WordsOfTheDesk, NameThePartsOfTheList) {
+    list_view().resize(1280, 293);
+    settle();
     EXPECT_EQ(count(list_view(), "MODE DE LECTURE"), 1);
     EXPECT_EQ(count(list_view(), "INSERTION"), 1);
 }

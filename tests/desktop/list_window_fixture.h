@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QTest>
+
+#include "desktop/list_view.h"
+#include "desktop/station_views.h"
+#include "desktop/toggle.h"
+
+namespace sonarelle {
+
+/// The list window on view, beside the desk.
+class ListWindow : public StationViews {
+protected:
+    ListWindow() { show_windows(); }
+
+    [[nodiscard]] Liste_son& list() { return station.list_window; }
+    [[nodiscard]] StationLabel& label(const Label& told) { return part<StationLabel>(list_view(), told.name()); }
+    /// Where a text of the station ends, in its line.
+    [[nodiscard]] int right_of(const Label& told) { return label(told).geometry().right(); }
+    [[nodiscard]] RowTableView& table() { return part<RowTableView>(list_view(), "ListView1"); }
+    [[nodiscard]] QModelIndex cell(int row, int column = 0) { return table().model()->index(row - 1, column); }
+    [[nodiscard]] RowState state(int row) { return list_view().rows().state_of(row); }
+
+    /// The right button over the rows; the menu that it opens.
+    QMenu* right_click() {
+        const QPoint place = table().visualRect(cell(1)).center();
+        QContextMenuEvent click{QContextMenuEvent::Mouse, place, table().viewport()->mapToGlobal(place)};
+        QCoreApplication::sendEvent(table().viewport(), &click);
+        settle();
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
+    /// What the button "Menu" opens.
+    QMenu* press_menu_button() {
+        const auto buttons = parts_of<StudioButton>(list_view());
+        const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
+        if (button != buttons.end())
+            (*button)->click();
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
+    [[nodiscard]] static bool offers(QMenu& menu, const QString& entry) {
+        return std::ranges::any_of(menu.actions(), [&](const QAction* action) { return action->text() == entry; });
+    }
+};
+
+} // namespace sonarelle

@@ -209,6 +209,8 @@ public:
     Property<std::string> caption{*this, {}};
     std::function<void(int x)> on_mouse_move_at;
     std::function<void(int x)> on_click_at;
+    /// Why a press moves nothing at this moment, in the operator's words; empty where it does.
+    std::function<std::string()> refusal;
 
 private:
     void raise_at(const std::function<void(int)>& event, int x) const {

@@ -64,6 +64,9 @@ public:
     void open_video(std::string_view caption);
     void close_video() { video_.reset(); }
 
+    /// The second of the file at which it starts.
+    [[nodiscard]] double start_of_play() const { return start_by_hand.value_or(debut_piste); }
+
     /// Seconds without their decimals. @throws Failure 6 beyond 16 bits, 91 without a graph.
     [[nodiscard]] Integer whole_position() const { return to_integer(Fix(graph().get_CurrentPosition())); }
     [[nodiscard]] Integer whole_duration() const { return to_integer(Fix(graph().get_Duration())); }
@@ -78,6 +81,7 @@ public:
     std::string& path;
     std::string fin_piste;  ///< End of play of the record on the deck, seconds as text; empty without a record.
     double debut_piste = 0; ///< Start of play of that record, seconds.
+    std::optional<double> start_by_hand; ///< Where the operator wants the next start instead, seconds.
     std::optional<Integer> volume_piste; ///< Its attenuation, hundredths of a decibel; none without a record.
     std::string duree_piste;             ///< Whole seconds of the file, as text.
     Flag pause_lecteur;                  ///< The deck is paused.

@@ -93,6 +93,7 @@ LoadResult DeckLoading::render_from_list(Deck& deck, const DestinationRecord& ro
 // What a hand loads plays to its end.
 void DeckLoading::take_record(Deck& deck, const DestinationRecord& record) {
     deck.debut_piste = record.dest_debut;
+    deck.start_by_hand.reset();
     deck.fin_piste.clear();
     deck.volume_piste = record.dest_volume;
 }

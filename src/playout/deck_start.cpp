@@ -106,8 +106,9 @@ void DeckStart::begin_sound(Deck& deck) {
     desk_.display.list_remaining(loading_.duration_text(length));
     if (length >= shortest_good_file) {
         deck.controls.progress.maximum = deck.whole_duration().value();
-        deck.graph().put_CurrentPosition(deck.debut_piste);
+        deck.graph().put_CurrentPosition(deck.start_of_play());
     }
+    deck.start_by_hand.reset();
     mix_.Choix_mix();
     deck.graph().Run();
     align_timers();

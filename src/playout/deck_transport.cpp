@@ -1,6 +1,12 @@
 #include "playout/deck_transport.h"
 
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
 #include "platform/failure.h"
+#include "playout/air_view.h"
 
 namespace sonarelle {
 
@@ -55,6 +61,8 @@ void DeckTransport::toggle_pause(Deck& deck) {
         deck.graph().Pause();
         volume_.vol_pour_stop();
     } else {
+        if (const auto start = std::exchange(deck.start_by_hand, std::nullopt))
+            deck.graph().put_CurrentPosition(*start);
         deck.graph().Run();
         if (desk_.ring.is_main(deck) && desk_.chain.air == AirState::off)
             desk_.set_air(AirState::on);
@@ -87,8 +95,46 @@ void DeckTransport::back(Deck& deck) {
 
 void DeckTransport::seek(Deck& deck, double target) {
     deck.graph().put_CurrentPosition(target);
+    tell_what_is_left(deck);
+}
+
+void DeckTransport::tell_what_is_left(Deck& deck) {
     const double left = deck.graph().get_Duration() - deck.graph().get_CurrentPosition();
     ErrorIndicator{}.skip([&] { desk_.display.list_remaining(loading_.duration_text(left)); });
+}
+
+// A tenth of a second is finer than a hand, and keeps a whole second whole.
+void DeckTransport::go_to(Deck& deck, double share) {
+    if (!why_it_stays(deck).empty())
+        return;
+    const double target = std::round(share * deck.controls.progress.maximum * 10) / 10;
+    const bool is_paused = deck.has_graph() && deck.graph().GetState() == MediaState::paused;
+    if (!is_paused) {
+        deck.start_by_hand = target;
+        return;
+    }
+    deck.graph().put_CurrentPosition(std::min(target, deck.graph().get_Duration()));
+    deck.controls.progress.value = deck.whole_position().value();
+    if (desk_.ring.is_main(deck))
+        tell_what_is_left(deck);
+}
+
+std::string DeckTransport::why_it_stays(const Deck& deck) const {
+    switch (role_of(desk_, deck)) {
+    case DeckRole::on_air:
+    case DeckRole::heard:
+        return "À l'antenne : le curseur ne se déplace pas";
+    case DeckRole::loaded:
+    case DeckRole::paused:
+        return {};
+    case DeckRole::ended:
+        if (!deck.path.empty())
+            return !deck.is_at_its_end() ? "" : "Fin du fichier : le curseur ne se déplace plus";
+        break;
+    case DeckRole::empty:
+        break;
+    }
+    return "Aucun fichier sur ce lecteur";
 }
 
 void DeckTransport::unload(Deck& deck) {

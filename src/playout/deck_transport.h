@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "playout/deck_loading.h"
 #include "playout/deck_start.h"
 #include "playout/deck_volume.h"
@@ -29,12 +31,19 @@ public:
     void forward(Deck& deck);
     void back(Deck& deck);
 
+    /// The operator pressed the bar of a deck, at a share of it from 0 to 1. A paused deck goes on from there, and one
+    /// that waits will begin there. Nothing while `why_it_stays` has a reason.
+    void go_to(Deck& deck, double share);
+    /// Why a press of the bar moves nothing, in the operator's words; empty where it does.
+    [[nodiscard]] std::string why_it_stays(const Deck& deck) const;
+
     /// Takes the file off a deck that isn't the main one.
     void unload(Deck& deck);
 
 private:
     void rewind(Deck& deck);
     void seek(Deck& deck, double target);
+    void tell_what_is_left(Deck& deck);
 
     Desk& desk_;
     DeckLoading& loading_;

@@ -93,6 +93,13 @@ DestinationRecord RowCursor::read_row() {
     return record;
 }
 
+LoadResult RowCursor::load_on(Deck& deck, const DestinationRecord& row) {
+    const std::optional<double> wanted = is_loaded(deck) ? deck.start_by_hand : std::nullopt;
+    const LoadResult result = loading_.load_from_list(deck, row);
+    deck.start_by_hand = wanted;
+    return result;
+}
+
 bool RowCursor::is_loaded(const Deck& deck) const {
     return desk_.chain.chargement_fait.is_true() && deck.path == desk_.list.chemin_fichier;
 }

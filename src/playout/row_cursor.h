@@ -74,7 +74,8 @@ public:
     [[nodiscard]] DestinationRecord read_row();
     /// Any row's record, as the list has it.
     [[nodiscard]] DestinationRecord record_of(Integer row) { return reading_.read_for_the_air(row); }
-    LoadResult load_on(Deck& deck, const DestinationRecord& row) { return loading_.load_from_list(deck, row); }
+    /// A row that the deck holds already is rendered anew, and starts where the operator wanted it.
+    LoadResult load_on(Deck& deck, const DestinationRecord& row);
     /// Whether the load step has put the current row on that deck already.
     [[nodiscard]] bool is_loaded(const Deck& deck) const;
 

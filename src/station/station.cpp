@@ -223,6 +223,10 @@ void Station::connect_deck(Deck& deck) {
     controls.pause.on_click = [this, &deck] { deck_transport.toggle_pause(deck); };
     controls.forward.on_click = [this, &deck] { deck_transport.forward(deck); };
     controls.back.on_click = [this, &deck] { deck_transport.back(deck); };
+    controls.progress.on_click_at = [this, &deck](int x) {
+        deck_transport.go_to(deck, static_cast<double>(x) / DeckControls::bar_units);
+    };
+    controls.progress.refusal = [this, &deck] { return deck_transport.why_it_stays(deck); };
     controls.special_mix.on_click = [this, &deck] { mix_engine.special_mix(deck); };
     controls.keep_volume.on_click = [this, &deck] { deck_volume.keep_in_record(deck); };
     controls.slider.on_change = [this, &deck] { deck_volume.adjust(deck); };

@@ -28,6 +28,7 @@ DeckControls::DeckControls(Window& window, Scheduler& scheduler, const DeckNames
     pause.hint = "Pause / Lecture";
     forward.hint = "Avancer";
     back.hint = "Reculer";
+    progress.units_wide = bar_units;
     playing_mark.visible = false;
     slider.hint = "Volume %100";
     special_mix.hint = "Mixage spécial sur lecteur en cours (" + std::string{names.mix_key} + ") avec : ";

@@ -92,6 +92,8 @@ inline constexpr std::string_view resume_caption = "=>";
 struct DeckControls {
     DeckControls(Window& window, Scheduler& scheduler, const DeckNames& names);
 
+    static constexpr int bar_units = 1'000'000; ///< Fine enough for a tenth of a second in nine hours.
+
     Label title;
     Label counter; ///< The end point in whole seconds, as text; the chain reads it back.
     ProgressBar progress;

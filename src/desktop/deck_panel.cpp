@@ -67,6 +67,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     left->addWidget(title_);
     left->addLayout(figures(dresser));
     progress_ = dresser.progress(controls.progress);
+    progress_->setAccessibleName("Position, lecteur " + QString::number(number));
     progress_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding); // the shape takes what height there is
     left->addWidget(progress_, 1);
     left->addLayout(transport(dresser, number));

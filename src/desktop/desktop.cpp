@@ -17,6 +17,7 @@
 #include "desktop/studio_style.h"
 #include "platform/calendar_text.h"
 #include "platform/failure.h"
+#include "platform/numbers.h"
 #include "playout/air_view.h"
 
 namespace sonarelle {
@@ -48,6 +49,11 @@ std::optional<double> seconds_of(Deck& deck) {
     bool is_number = false;
     const double end = to_qt(deck.controls.counter.caption.get()).toDouble(&is_number);
     return is_number && end > 0 ? std::optional{end} : std::nullopt;
+}
+
+/// A deck that waits for its start, which is at its start of play.
+bool begins_anew(const Deck& deck, DeckRole role) {
+    return (role == DeckRole::loaded || role == DeckRole::ended) && deck.controls.progress.value == 0;
 }
 
 } // namespace
@@ -142,6 +148,8 @@ void Desktop::show_decks() {
                       .end_point = seconds_of(deck)};
         if (services_.waveform_of && look.role != DeckRole::empty)
             look.sound = services_.waveform_of(deck.path);
+        if (begins_anew(deck, look.role)) // the bar stands at 0
+            look.elapsed = static_cast<int>(Fix(deck.start_of_play()));
         if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
             ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
         if (look.end_point)

@@ -1,8 +1,10 @@
 #include "desktop/progress_strip.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -16,7 +18,10 @@ namespace {
 constexpr double bar_width = 3;
 constexpr double bar_pitch = 4;
 constexpr double least_bar_height = 2; // silence is a line
+constexpr int unknown_height = 8;      // a shape that isn't there is no loud sound
 constexpr double lift = 0.6;           // so that a quiet piece has a shape too
+
+constexpr QSizeF flag{12, 8};
 
 } // namespace
 
@@ -33,6 +38,7 @@ void ProgressStrip::set_share(double share) {
         return;
     share_ = bounded;
     update();
+    tell_moved(*this, place());
 }
 
 void ProgressStrip::set_marks(std::optional<double> next, std::optional<double> end) {
@@ -40,6 +46,13 @@ void ProgressStrip::set_marks(std::optional<double> next, std::optional<double> 
         return;
     next_ = next;
     end_ = end;
+    update();
+}
+
+void ProgressStrip::set_start(std::optional<double> start) {
+    if (start == start_)
+        return;
+    start_ = start;
     update();
 }
 
@@ -55,74 +68,173 @@ void ProgressStrip::set_fill(const QColor& fill) {
     update();
 }
 
+void ProgressStrip::set_output(bool has_output) {
+    if (has_output == has_output_)
+        return;
+    has_output_ = has_output;
+    update();
+}
+
 void ProgressStrip::set_sound(std::shared_ptr<const Waveform> sound, double seconds) {
+    if (!std::exchange(has_sound_, true))
+        updateGeometry();
     if (sound == sound_ && seconds == seconds_)
         return;
-    if ((sound == nullptr) != (sound_ == nullptr))
-        updateGeometry();
     sound_ = std::move(sound);
     seconds_ = seconds;
     update();
 }
 
+void ProgressStrip::set_key_steps(double step, double long_step) {
+    key_step_ = step;
+    long_key_step_ = long_step;
+}
+
 void ProgressStrip::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF bar = QRectF{rect()}.adjusted(0, 2, 0, -2);
     QPainterPath outline;
-    outline.addRoundedRect(bar, 5, 5);
-    painter.setPen(Qt::NoPen);
+    outline.addRoundedRect(rect(), studio::small_radius, studio::small_radius);
     painter.fillPath(outline, studio::well);
     painter.setClipPath(outline);
     if (sound_ && seconds_ > 0)
-        paint_sound(painter, bar);
+        paint_sound(painter);
     else
-        paint_fill(painter, bar);
+        paint_fill(painter);
+    paint_marks(painter);
     painter.setClipping(false);
-    paint_mark(painter, next_, studio::next);
-    paint_mark(painter, end_, studio::trouble);
-    if (!text_.isEmpty()) {
-        painter.setPen(studio::text);
-        painter.drawText(rect(), Qt::AlignCenter, text_);
-    }
+    paint_text(painter);
+    if (!hasFocus())
+        return;
+    painter.setPen(QPen{studio::focus, 2});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), studio::small_radius, studio::small_radius);
 }
 
-void ProgressStrip::paint_fill(QPainter& painter, const QRectF& bar) const {
-    painter.fillRect(QRectF{bar.left(), bar.top(), bar.width() * share_, bar.height()}, fill_);
+QColor ProgressStrip::colour_at(double share) const {
+    if (share < shown_share())
+        return has_output_ ? fill_ : studio::second;
+    const bool is_heard = (!start_ || share >= *start_) && (!end_ || share <= *end_);
+    return is_heard ? studio::wave : studio::wave_unheard;
 }
 
-// What was played in the bar's colour, what is to come grey, and darker what will not be heard.
-void ProgressStrip::paint_sound(QPainter& painter, const QRectF& bar) const {
-    const double seconds_per_pixel = seconds_ / bar.width();
-    for (double x = 0; x < bar.width(); x += bar_pitch) {
+void ProgressStrip::paint_fill(QPainter& painter) const {
+    const double tall = has_sound_ ? std::min(unknown_height, height()) : height();
+    painter.fillRect(QRectF{0, (height() - tall) / 2.0, width() * shown_share(), tall}, colour_at(-1));
+}
+
+void ProgressStrip::paint_sound(QPainter& painter) const {
+    const double middle = height() / 2.0;
+    const double seconds_per_pixel = seconds_ / width();
+    for (double x = 0; x < width(); x += bar_pitch) {
         const int peak = sound_->peak_between(x * seconds_per_pixel, (x + bar_pitch) * seconds_per_pixel);
-        const double height = std::max(least_bar_height, std::pow(peak / 255.0, lift) * (bar.height() - 4));
-        const double share = x / bar.width();
-        const QColor& colour = share < share_                      ? fill_
-                               : end_.has_value() && share > *end_ ? studio::wave_unheard
-                                                                   : studio::wave;
-        painter.fillRect(QRectF{bar.left() + x, bar.center().y() - height / 2, bar_width, height}, colour);
+        const double tall = std::max(least_bar_height, std::pow(peak / 255.0, lift) * (height() - 8));
+        painter.fillRect(QRectF{x, middle - tall / 2, bar_width, tall}, colour_at(x / width()));
     }
-    if (share_ > 0)
-        painter.fillRect(QRectF{bar.left() + bar.width() * share_ - 1, bar.top(), 2, bar.height()}, studio::cursor);
 }
 
-void ProgressStrip::paint_mark(QPainter& painter, std::optional<double> place, const QColor& colour) const {
+void ProgressStrip::paint_marks(QPainter& painter) const {
+    paint_line(painter, start_, 2, studio::text);
+    paint_line(painter, next_, 2, studio::next);
+    if (next_ && *next_ >= 0 && *next_ <= 1) {
+        const double x = std::round(*next_ * width());
+        QPainterPath triangle{QPointF{x - flag.width() / 2, 0}};
+        triangle.lineTo(x + flag.width() / 2, 0);
+        triangle.lineTo(x, flag.height());
+        painter.fillPath(triangle, studio::next);
+    }
+    paint_line(painter, end_, 3, studio::trouble);
+    if (has_sound_ && shown_share() > 0)
+        paint_line(painter, shown_share(), 2, studio::cursor);
+}
+
+void ProgressStrip::paint_line(QPainter& painter, std::optional<double> place, int width, const QColor& colour) const {
     if (!place || *place < 0 || *place > 1)
         return;
-    const double x = std::clamp(*place * width(), 1.0, width() - 2.0);
-    painter.fillRect(QRectF{x - 1, 0, 3, static_cast<double>(height())}, colour);
+    const double x = std::clamp(std::round(*place * this->width()) - 1, 0.0, this->width() - 1.0 * width);
+    painter.fillRect(QRectF{x, 0, 1.0 * width, 1.0 * height()}, colour);
+}
+
+// On a plate of its own: white on the green of a played part doesn't read.
+void ProgressStrip::paint_text(QPainter& painter) const {
+    if (text_.isEmpty())
+        return;
+    const QRectF place = painter.boundingRect(QRectF{rect()}, Qt::AlignCenter, text_);
+    QColor plate = studio::well;
+    plate.setAlphaF(0.85F);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plate);
+    painter.drawRoundedRect(place.adjusted(-6, -1, 6, 1), studio::small_radius, studio::small_radius);
+    painter.setPen(studio::text);
+    painter.drawText(rect(), Qt::AlignCenter, text_);
+}
+
+double ProgressStrip::share_at(const QMouseEvent& event) const {
+    return std::clamp(event.position().x() / std::max(1, width()), 0.0, 1.0);
+}
+
+bool ProgressStrip::is_refused(const QPoint& pointer) {
+    const QString reason = refusal ? refusal() : QString{};
+    if (!reason.isEmpty())
+        QToolTip::showText(pointer, reason, this);
+    return !reason.isEmpty();
+}
+
+void ProgressStrip::drag_to(double share, const QPoint& pointer) {
+    dragged_ = share;
+    if (seconds_ > 0)
+        QToolTip::showText(pointer, place_text(place()), this);
+    update();
+}
+
+void ProgressStrip::choose(double share, const QPoint& pointer) {
+    if (!is_refused(pointer))
+        on_seek(share);
 }
 
 void ProgressStrip::mousePressEvent(QMouseEvent* event) {
-    event->setAccepted(on_press != nullptr && event->button() == Qt::LeftButton);
-    if (event->isAccepted())
-        on_press(event->position().x() / std::max(1, width()));
+    event->setAccepted(on_seek != nullptr && event->button() == Qt::LeftButton);
+    const QPoint pointer = event->globalPosition().toPoint();
+    if (event->isAccepted() && !is_refused(pointer))
+        drag_to(share_at(*event), pointer);
 }
 
 void ProgressStrip::mouseMoveEvent(QMouseEvent* event) {
+    if (dragged_ && event->buttons().testFlag(Qt::LeftButton))
+        drag_to(share_at(*event), event->globalPosition().toPoint());
     if (on_move)
-        on_move(event->position().x() / std::max(1, width()));
+        on_move(share_at(*event));
+}
+
+// Only where the hand lets go is a seek: each one empties the buffers of what is read ahead, and is heard.
+void ProgressStrip::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !dragged_)
+        return;
+    QToolTip::hideText();
+    dragged_.reset();
+    update();
+    choose(share_at(*event), event->globalPosition().toPoint()); // the air may have come to it meanwhile
+}
+
+void ProgressStrip::move_to(double second) {
+    if (on_seek && seconds_ > 0)
+        choose(std::clamp(second / seconds_, 0.0, 1.0), mapToGlobal(rect().center()));
+}
+
+void ProgressStrip::keyPressEvent(QKeyEvent* event) {
+    const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? long_key_step_ : key_step_;
+    const bool is_plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    const int key = is_plain && on_seek ? event->key() : 0;
+    if (key == Qt::Key_Left)
+        move_to(place() - step);
+    else if (key == Qt::Key_Right)
+        move_to(place() + step);
+    else if (key == Qt::Key_Home)
+        move_to(0);
+    else if (key == Qt::Key_End)
+        move_to(seconds_);
+    else
+        QWidget::keyPressEvent(event);
 }
 
 } // namespace sonarelle

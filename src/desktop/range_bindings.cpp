@@ -26,7 +26,14 @@ ProgressBinding::ProgressBinding(ProgressBar& bar, ProgressStrip& widget, const 
       bar_{bar},
       strip_{widget} {
     const auto place = [this](double share) { return static_cast<int>(share * bar_.units_wide); };
-    strip_.on_press = [this, place](double share) { run([&] { bar_.click_at(place(share)); }); };
+    if (bar_.on_click_at) {
+        strip_.on_seek = [this, place](double share) {
+            run([&] { bar_.click_at(place(share)); });
+            this->services().updates.mark(*this); // the place of a deck that waits is no value of its bar
+        };
+        strip_.setFocusPolicy(Qt::TabFocus);
+    }
+    strip_.refusal = [this] { return bar_.refusal ? to_qt(bar_.refusal()) : QString{}; };
     strip_.on_move = [this, place](double share) {
         if (bar_.on_mouse_move_at)
             run([&] { bar_.move_over(place(share)); });

@@ -1,5 +1,8 @@
 // Both windows tell one truth of the air, while a list runs.
 #include "desktop/progress_strip.h"
+
+#include <QToolTip>
+
 #include "desktop/station_views.h"
 #include "desktop/title_label.h"
 #include "platform/failure.h"
@@ -135,6 +138,31 @@ TEST_F(AirOnDesk, SecondOfADeckIsThatOfItsBarWhileTheChainRuns) {
     const auto count = [&](const QString& text) { return std::ranges::count(labels, text, &StationLabel::text); };
     EXPECT_GE(count(QString::number(deck.progress.value.get())), 1);
     EXPECT_DOUBLE_EQ(bar.share(), deck.progress.value / 100.0);
+}
+
+TEST_F(AirOnDesk, DeckThatWaitsShowsAtOnceWhereItWillBegin) {
+    play_list(3.2);
+    run_for(90);
+    auto& bar = part<ProgressStrip>(main_view(), station.main_window.deck(2).progress.name());
+    EXPECT_NEAR(bar.share(), 0.03, 1e-6) << "at the start of play of its row";
+    const int before = events;
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, bar.height() / 2});
+    settle();
+    EXPECT_NEAR(bar.share(), 0.5, 0.02);
+    EXPECT_EQ(events, before + 1);
+}
+
+TEST_F(AirOnDesk, BarOnTheAirSaysWhyItStays) {
+    play_list();
+    run_for(20);
+    auto& bar = part<ProgressStrip>(main_view(), station.main_window.deck(1).progress.name());
+    const int before = events;
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, {bar.width() / 2, bar.height() / 2});
+    settle();
+    EXPECT_EQ(QToolTip::text(), "À l'antenne : le curseur ne se déplace pas");
+    EXPECT_EQ(events, before);
+    EXPECT_DOUBLE_EQ(bar.share(), 0.2);
+    EXPECT_EQ(bar.accessibleName(), "Position, lecteur 1");
 }
 
 TEST_F(AirOnDesk, SoundThatGoesOnAfterAStopIsTold) {

@@ -1,4 +1,5 @@
 #include <QTest>
+#include <QToolTip>
 
 #include "desktop/button_bindings.h"
 #include "desktop/colours.h"
@@ -240,6 +241,31 @@ TEST_F(ProgressBindings, PressTellsItsPlaceInTheBarsUnits) {
     settle();
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {100, 8});
     EXPECT_EQ(place, 111);
+}
+
+TEST_F(ProgressBindings, PressThatTheStationRefusesIsToldAndIsNoEvent) {
+    ProgressBar bar{window, "p"};
+    bar.on_click_at = [](int) {};
+    bar.refusal = [] { return "À l'antenne"; };
+    ProgressStrip widget;
+    widget.resize(200, 16);
+    const ProgressBinding binding{bar, widget, services};
+    settle();
+    widget.show();
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {100, 8});
+    EXPECT_EQ(events, 0);
+    EXPECT_EQ(QToolTip::text(), "À l'antenne");
+}
+
+TEST_F(ProgressBindings, OnlyABarWithPlacesTakesTheKeyboard) {
+    ProgressBar bar{window, "p"};
+    ProgressStrip plain;
+    { const ProgressBinding binding{bar, plain, services}; }
+    EXPECT_EQ(plain.focusPolicy(), Qt::NoFocus);
+    bar.on_click_at = [](int) {};
+    ProgressStrip widget;
+    const ProgressBinding binding{bar, widget, services};
+    EXPECT_EQ(widget.focusPolicy(), Qt::TabFocus);
 }
 
 TEST_F(ProgressBindings, MoveOverTheBarTellsItsPlaceInTheBarsUnits) {

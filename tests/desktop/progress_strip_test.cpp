@@ -1,6 +1,7 @@
 // A deck's bar: how far the sound is, where the next one begins and where this one ends.
 #include "desktop/progress_strip.h"
 
+#include <QPainter>
 #include <QTest>
 
 #include "desktop/desktop_fixture.h"
@@ -184,35 +185,96 @@ TEST_F(SoundStrip, StandsForAsManySecondsAsTheBar) {
     EXPECT_EQ(height_at(0.9), 2);
 }
 
-TEST_F(SoundStrip, IsABarAgainWithoutTheSound) {
+TEST_F(SoundStrip, IsASlimBarWithoutTheSound) {
     strip.set_sound(nullptr, 40);
     strip.set_share(0.5);
-    EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 4), studio::air));
-    EXPECT_TRUE(is_near(seen(strip).pixelColor(300, 4), studio::well));
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 30), studio::air));
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 4), studio::well));
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(300, 30), studio::well));
 }
 
-TEST_F(Strip, PressAndMoveTellTheirPlace) {
-    std::vector<double> places;
-    strip.on_press = [&](double share) { places.push_back(share); };
-    strip.on_move = [&](double share) { places.push_back(share); };
-    QTest::mousePress(&strip, Qt::LeftButton, {}, {50, 10});
-    QTest::mouseMove(&strip, {150, 10});
-    QTest::mousePress(&strip, Qt::RightButton, {}, {100, 10});
-    EXPECT_EQ(places, (std::vector{0.25, 0.75}));
+TEST_F(Strip, HasTheSameRoomForASoundThatIsKnownAndForOneThatIsNot) {
+    strip.set_sound(nullptr, 40);
+    const QSize unknown = strip.sizeHint();
+    strip.set_sound(std::make_shared<Waveform>(Waveform{1, {255}}), 40);
+    EXPECT_EQ(strip.sizeHint(), unknown);
+    EXPECT_EQ(unknown.height(), 40);
 }
 
-TEST_F(Strip, PointerIsFollowedWithoutAButton) {
-    double place = -1;
-    strip.on_move = [&](double share) { place = share; };
-    QMouseEvent move{QEvent::MouseMove, QPointF{50, 10}, QPointF{50, 10}, Qt::NoButton, Qt::NoButton, {}};
-    QCoreApplication::sendEvent(&strip, &move);
-    EXPECT_EQ(place, 0.25);
+TEST_F(Strip, LiesInAWellOfRoundCorners) {
+    strip.setAutoFillBackground(true);
+    strip.setPalette(QPalette{Qt::white});
+    EXPECT_TRUE(is_near(seen(strip).pixelColor(100, 0), studio::well));
+    EXPECT_FALSE(is_near(seen(strip).pixelColor(0, 0), studio::well));
 }
 
-TEST_F(Strip, PressThatNobodyWantsGoesToWhatLiesBehind) {
-    QMouseEvent press{QEvent::MouseButtonPress, QPointF{50, 10}, QPointF{50, 10}, Qt::LeftButton, Qt::LeftButton, {}};
-    QCoreApplication::sendEvent(&strip, &press);
-    EXPECT_FALSE(press.isAccepted());
+TEST_F(SoundStrip, NextOneHasAFlag) {
+    strip.set_marks(0.25, {});
+    const QImage image = seen(strip);
+    EXPECT_TRUE(is_near(image.pixelColor(96, 1), studio::next));
+    EXPECT_TRUE(is_near(image.pixelColor(103, 1), studio::next));
+    EXPECT_FALSE(is_near(image.pixelColor(96, 9), studio::next));
+    EXPECT_TRUE(is_near(image.pixelColor(100, 58), studio::next)) << "the line goes on below it";
+}
+
+TEST_F(SoundStrip, EndIsALineOfThreePixels) {
+    strip.set_marks({}, 0.25);
+    const QImage image = seen(strip);
+    for (int x = 98; x <= 102; ++x)
+        EXPECT_EQ(is_near(image.pixelColor(x, 2), studio::trouble), x >= 99 && x <= 101) << x;
+}
+
+TEST_F(SoundStrip, WhatNoOutputPlaysIsGrey) {
+    strip.set_share(0.12);
+    strip.set_output(false);
+    EXPECT_TRUE(is_near(middle_at(0.06), studio::second));
+    strip.set_output(true);
+    EXPECT_TRUE(is_near(middle_at(0.06), studio::air));
+}
+
+TEST_F(SoundStrip, IsDarkerBeforeItsStart) {
+    strip.set_start(0.1);
+    EXPECT_TRUE(is_near(middle_at(0.06), studio::wave_unheard));
+    EXPECT_TRUE(is_near(middle_at(0.15), studio::wave));
+}
+
+TEST_F(SoundStrip, TextReadsOverThePlayedShape) {
+    sound->peaks.assign(40, 255);
+    strip.set_share(1);
+    const QImage bare = seen(strip);
+    strip.set_text("Mixage spécial en cours (40 S)");
+    EXPECT_GE(contrast_in(seen(strip).copy(120, 22, 160, 16)), readable);
+    EXPECT_NE(seen(strip), bare);
+}
+
+TEST_F(SoundStrip, OfNoLengthIsAnEmptyWell) {
+    strip.set_sound(sound, 0);
+    strip.on_seek = [](double) { ADD_FAILURE() << "there is no place in it"; };
+    strip.setFocusPolicy(Qt::TabFocus);
+    QTest::keyClick(&strip, Qt::Key_Right);
+    EXPECT_EQ(count_of(seen(strip), studio::wave), 0);
+}
+
+TEST_F(SoundStrip, OfADayIsItsWholeShape) {
+    constexpr double nine_hours = 9 * 3600;
+    sound->column_seconds = nine_hours / 40;
+    strip.set_sound(sound, nine_hours);
+    EXPECT_EQ(height_at(0.1), whole_height());
+    EXPECT_EQ(height_at(0.4), 2);
+}
+
+TEST_F(SoundStrip, IsSharpOnAScreenOfTwiceThePixels) {
+    strip.set_marks(0.25, {});
+    QImage fine{strip.size() * 2, QImage::Format_RGB32};
+    fine.setDevicePixelRatio(2);
+    QPainter painter{&fine};
+    strip.render(&painter);
+    painter.end();
+    for (int x = 0; x < 6; ++x) // the bar that stands at 8: three points wide
+        EXPECT_TRUE(is_near(fine.pixelColor(16 + x, 60), studio::wave)) << x;
+    EXPECT_TRUE(is_near(fine.pixelColor(16 + 6, 60), studio::well));
+    for (int x = 198; x < 202; ++x)
+        EXPECT_TRUE(is_near(fine.pixelColor(x, 110), studio::next)) << x;
 }
 
 } // namespace sonarelle

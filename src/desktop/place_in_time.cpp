@@ -1,0 +1,66 @@
+#include "desktop/place_in_time.h"
+
+#include <QAccessibleWidget>
+#include <QWidget>
+#include <algorithm>
+
+namespace sonarelle {
+
+namespace {
+
+class PlaceAccess : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    PlaceAccess(QWidget* widget, PlaceInTime& place)
+        : QAccessibleWidget{widget},
+          place_{place} {}
+
+    [[nodiscard]] QAccessible::Role role() const override {
+        return place_.can_move() ? QAccessible::Slider : QAccessible::ProgressBar;
+    }
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        if (kind != QAccessible::Value || place_.whole() <= 0)
+            return QAccessibleWidget::text(kind);
+        return place_text(place_.place()) + " sur " + place_text(place_.whole());
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QVariant currentValue() const override { return place_.place(); }
+    void setCurrentValue(const QVariant& value) override { place_.move_to(value.toDouble()); }
+    [[nodiscard]] QVariant maximumValue() const override { return place_.whole(); }
+    [[nodiscard]] QVariant minimumValue() const override { return 0.0; }
+    [[nodiscard]] QVariant minimumStepSize() const override { return 0.1; }
+
+private:
+    PlaceInTime& place_;
+};
+
+QAccessibleInterface* place_access(const QString&, QObject* object) {
+    auto* place = dynamic_cast<PlaceInTime*>(object);
+    return place == nullptr ? nullptr : new PlaceAccess{static_cast<QWidget*>(object), *place};
+}
+
+} // namespace
+
+PlaceInTime::PlaceInTime() {
+    QAccessible::installFactory(&place_access); // the toolkit keeps one of a kind
+}
+
+QString place_text(double seconds) {
+    const auto whole = static_cast<int>(std::max(0.0, seconds));
+    const auto two_digits = [](int number) { return QString::number(number).rightJustified(2, '0'); };
+    const QString in_hour = two_digits(whole / 60 % 60) + ":" + two_digits(whole % 60);
+    return whole < 3600 ? in_hour : QString::number(whole / 3600) + ":" + in_hour;
+}
+
+void tell_moved(QWidget& widget, double second) {
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent moved{&widget, second};
+    QAccessible::updateAccessibility(&moved);
+}
+
+} // namespace sonarelle

@@ -14,7 +14,7 @@ Propriete::Propriete(Scheduler& scheduler)
         back->hint = "Reculer";
     for (Label* forward : {&start_forward, &end_forward})
         forward->hint = "Avancer";
-    for (Label* later : {&stop, &mark_end})
+    for (Label* later : {&stop, &mark_end, &modified})
         later->visible = false;
     bar.units_wide = bar_units;
     bar.maximum = 0;

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <functional>
+#include <optional>
+#include <string>
 
 #include "platform/controls.h"
 #include "platform/timer.h"
@@ -41,6 +44,15 @@ struct Propriete : Window {
 
     Button close{*this, "AnyButton1", "Fermer"};
     Button save{*this, "AnyButton2", "Sauvegarder"};
+    Label modified{*this, "modified", "modifié"}; ///< Seen while the fields say anything else than the record.
+
+    Property<std::string> path{*this, {}}; ///< The row's file.
+    /// Where the marks stand, in seconds of the file; nothing for a field that holds no number.
+    Property<std::optional<double>> start_mark{*this, {}};
+    Property<std::optional<double>> end_mark{*this, {}};
+    /// The operator moves a mark on the picture of the sound to a second of the file.
+    std::function<void(double)> on_start_moved;
+    std::function<void(double)> on_end_moved;
 
     Timer progress_timer; ///< Moves the progress bar.
     Timer start_timer;    ///< Copies the position into the start.

@@ -33,6 +33,7 @@ TrackProperties::TrackProperties(const Platform& platform, const StationSettings
       start_{window.start, window.start_timer},
       end_{window.end, window.end_timer} {
     connect_actions();
+    connect_picture();
     connect_looks();
 }
 
@@ -46,8 +47,6 @@ void TrackProperties::connect_actions() {
     on_press(window_.start_forward, [this] { step(start_, one_step); });
     on_press(window_.end_back, [this] { step_back(end_); });
     on_press(window_.end_forward, [this] { step(end_, one_step); });
-    window_.bar.on_mouse_move_at = [this](int x) { tell_place(x); };
-    window_.bar.on_click_at = [this](int x) { ErrorIndicator{}.skip([&] { go_to_place(x); }); };
     window_.progress_timer.on_tick = [this] { ErrorIndicator{}.skip([this] { show_progress(); }); };
     for (const Mark* mark : {&start_, &end_})
         mark->timer.on_tick = [this, mark] { ErrorIndicator{}.skip([&] { show_position(*mark); }); };
@@ -58,6 +57,16 @@ void TrackProperties::connect_actions() {
         if (key == escape_key)
             close();
     };
+}
+
+void TrackProperties::connect_picture() {
+    window_.bar.on_mouse_move_at = [this](int x) { tell_place(x); };
+    window_.bar.on_click_at = [this](int x) { ErrorIndicator{}.skip([&] { go_to_place(x); }); };
+    window_.bar.refusal = [this] { return graph_ ? "" : "Lancer d'abord la lecture"; };
+    window_.on_start_moved = [this](double second) { move_start(second); };
+    window_.on_end_moved = [this](double second) { move_end(second); };
+    for (TextBox* field : {&window_.start, &window_.end, &window_.genre, &window_.volume, &window_.length})
+        field->on_change = [this] { show_changes(); };
 }
 
 void TrackProperties::connect_looks() {
@@ -103,7 +112,7 @@ bool TrackProperties::fill_finds_a_volume(int row) {
     DestinationRecord record = read.value_or(DestinationRecord{});
     record.convertir_valeur_son_ecriture();
     row_ = row;
-    path_ = record.dest_chemin;
+    window_.path = record.dest_chemin;
     changed_ = false;
     window_.file_name.caption = record.dest_nom_fichier;
     window_.start.set_text(text_of(record.dest_debut, platform_.decimal_mark));
@@ -111,6 +120,8 @@ bool TrackProperties::fill_finds_a_volume(int row) {
     window_.genre.set_text(record.dest_genre);
     window_.volume.set_text(text_of(record.dest_volume));
     window_.length.set_text(record.dest_duree);
+    saved_ = row_to_write();
+    show_changes();
     return !read || record.dest_volume_pourcent != 0;
 }
 
@@ -128,7 +139,7 @@ void TrackProperties::play() {
     stop();
     graph_.reset();
     auto graph = platform_.media.create_graph();
-    graph->RenderFile(path_);
+    graph->RenderFile(window_.path.get());
     graph_ = std::move(graph);
     window_.bar.maximum = to_long(graph_->get_Duration());
     window_.stop.visible = true;
@@ -194,13 +205,41 @@ void TrackProperties::show_progress() {
 
 void TrackProperties::tell_place(int x) {
     ProgressBar& bar = window_.bar;
-    bar.hint = "lecteur chargé (F8) avec : " + path_;
+    bar.hint = "lecteur chargé (F8) avec : " + window_.path.get();
     if (bar.maximum > 0)
         bar.caption = std::to_string(percent_of(x)) + "%";
 }
 
 void TrackProperties::go_to_place(int x) {
     graph().put_CurrentPosition(percent_of(x) * graph().get_Duration() / 100);
+    show_progress();
+}
+
+// The start never passes the end.
+void TrackProperties::move_start(double second) {
+    const double end = window_.end_mark.get().value_or(second);
+    put(start_, std::max(0.0, std::min(second, end)));
+}
+
+void TrackProperties::move_end(double second) {
+    put(end_, std::max(second, window_.start_mark.get().value_or(0)));
+}
+
+// Where a hand has put it, no tick copies the position over it.
+void TrackProperties::put(const Mark& mark, double second) {
+    mark.timer.disable();
+    mark.field.set_text(Format(second, start_pattern, platform_.decimal_mark));
+}
+
+void TrackProperties::show_changes() {
+    const auto place_in = [](const std::function<double()>& read) {
+        std::optional<double> place;
+        ErrorIndicator{}.skip([&] { place = read(); });
+        return place;
+    };
+    window_.start_mark = place_in([this] { return to_double(window_.start.text(), platform_.decimal_mark); });
+    window_.end_mark = place_in([this] { return end_point_to_double(window_.end.text()); });
+    window_.modified.visible = row_to_write() != saved_;
 }
 
 void TrackProperties::save() {
@@ -227,12 +266,20 @@ void TrackProperties::write_row() {
     const enreg_liste row = edited_row();
     list_.write_record(row_.value(), row);
     changed_ = true;
+    saved_ = row;
+    show_changes();
     list_.show_record(row_.value(), row);
+}
+
+std::optional<enreg_liste> TrackProperties::row_to_write() const {
+    std::optional<enreg_liste> row;
+    ErrorIndicator{}.skip([&] { row = edited_row(); });
+    return row;
 }
 
 enreg_liste TrackProperties::edited_row() const {
     enreg_liste row;
-    row.set_chemin(path_);
+    row.set_chemin(window_.path.get());
     row.set_debut_lecture(to_double(window_.start.text(), platform_.decimal_mark));
     row.set_fin_lecture(window_.end.text());
     row.set_genre(window_.genre.text());

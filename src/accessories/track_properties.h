@@ -2,7 +2,7 @@
 
 #include <functional>
 #include <memory>
-#include <string>
+#include <optional>
 
 #include "accessories/propriete.h"
 #include "platform/media.h"
@@ -35,6 +35,7 @@ private:
     };
 
     void connect_actions();
+    void connect_picture();
     void connect_looks();
     void on_press(Label& label, std::function<void()> act);
 
@@ -53,8 +54,14 @@ private:
     void tell_place(int x);
     void go_to_place(int x);
 
+    void move_start(double second);
+    void move_end(double second);
+    void put(const Mark& mark, double second);
+    void show_changes();
+
     void save();
     void write_row();
+    [[nodiscard]] std::optional<enreg_liste> row_to_write() const;
     [[nodiscard]] enreg_liste edited_row() const;
     void close();
 
@@ -72,9 +79,9 @@ private:
     Mark start_;
     Mark end_;
     std::shared_ptr<MediaGraph> graph_;
-    std::string path_;     ///< The row's file. Others measure files meanwhile, so it is kept here.
-    Integer row_;          ///< Its number. The chain reads other records meanwhile.
-    bool changed_ = false; ///< It was saved.
+    Integer row_;                      ///< The row's number. The chain reads other records meanwhile.
+    bool changed_ = false;             ///< It was saved.
+    std::optional<enreg_liste> saved_; ///< The row as the list has it; nothing where the fields can't be written.
 };
 
 } // namespace sonarelle

@@ -12,6 +12,7 @@
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
 #include "desktop/plain_views.h"
+#include "desktop/properties_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/small_player_view.h"
 #include "desktop/studio_style.h"
@@ -34,7 +35,7 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
     if (auto* splash = dynamic_cast<Chargement*>(&window))
         return splash_view(*splash, services);
     if (auto* properties = dynamic_cast<Propriete*>(&window))
-        return properties_view(*properties, services);
+        return std::make_unique<PropertiesView>(*properties, services);
     return form_view(window, services);
 }
 

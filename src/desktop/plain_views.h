@@ -5,15 +5,11 @@
 namespace sonarelle {
 
 struct Chargement;
-struct Propriete;
 
 /// A window shown as a form of its parts.
 [[nodiscard]] std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services);
 
 /// The splash: its picture alone.
 [[nodiscard]] std::unique_ptr<WindowView> splash_view(Chargement& window, const DesktopServices& services);
-
-/// A row's properties: the fields, and start and end set by ear.
-[[nodiscard]] std::unique_ptr<WindowView> properties_view(Propriete& window, const DesktopServices& services);
 
 } // namespace sonarelle

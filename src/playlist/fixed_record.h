@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] const std::array<std::byte, Size>& bytes() const { return bytes_; }
     [[nodiscard]] std::array<std::byte, Size>& bytes() { return bytes_; }
+    friend bool operator==(const FixedRecord&, const FixedRecord&) = default;
 
 protected:
     [[nodiscard]] std::string text(std::size_t offset, std::size_t width) const {

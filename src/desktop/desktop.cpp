@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QStyle>
 #include <QTime>
+#include <QToolTip>
 #include <algorithm>
 
 #include "accessories/chargement.h"
@@ -11,11 +12,11 @@
 #include "desktop/colours.h"
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
+#include "desktop/menu_style.h"
 #include "desktop/plain_views.h"
 #include "desktop/properties_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/small_player_view.h"
-#include "desktop/studio_style.h"
 #include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -60,8 +61,9 @@ bool begins_anew(const Deck& deck, DeckRole role) {
 } // namespace
 
 void dress_application() {
-    QApplication::setStyle(new StudioStyle); // which the application then owns
+    QApplication::setStyle(new MenuStyle); // which the application then owns
     QApplication::setPalette(studio_palette());
+    QToolTip::setPalette(studio_palette());
     QFont font = QApplication::font();
     if (QFontDatabase::families().contains("Inter"))
         font.setFamily("Inter");

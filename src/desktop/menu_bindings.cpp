@@ -1,51 +1,61 @@
 #include "desktop/menu_bindings.h"
 
+#include <QActionGroup>
 #include <QCursor>
 #include <algorithm>
 
-#include "desktop/colours.h"
+#include "desktop/fitted_text.h"
+#include "desktop/menu_style.h"
 #include "desktop/mnemonics.h"
 #include "desktop/qt_text.h"
+#include "desktop/text_size.h"
 
 namespace sonarelle {
 
 namespace {
 
-// Menus lie over panels of the windows' own colour, so theirs is lighter.
-QPalette menu_palette() {
-    QPalette palette = studio_palette();
-    palette.setColor(QPalette::Window, studio::control);
-    palette.setColor(QPalette::Base, studio::control);
-    return palette;
-}
+constexpr int longest_entry = 480; // pixels at a text of 13
 
 } // namespace
 
 MenuItemBinding::MenuItemBinding(MenuItem& item, QWidget& window, const DesktopServices& services)
     : item_{item},
       services_{services} {
-    if (!item.entries().empty()) {
-        menu_ = std::make_unique<QMenu>(&window);
-        menu_->setObjectName(to_qt(item.name()));
-        menu_->setToolTipsVisible(true);
-        menu_->setPalette(menu_palette());
-        action_ = menu_->menuAction();
-        connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
-            services_.run_event([this] { item_.open(); });
-            services_.updates.flush();
-        });
-    } else {
-        action_ = new QAction{this};
-        connect(action_, &QAction::triggered, this, [this] {
-            services_.run_event([this] { item_.click(); });
-            services_.updates.mark(*this); // the press turned the mark, which is the station's
-        });
-    }
+    if (item.entries().empty())
+        make_action();
+    else
+        make_menu(window);
     action_->setObjectName(to_qt(item.name()));
+    action_->setProperty(entry_destroys, item.destroys);
     // A shortcut works while the menu bar is hidden, too.
     window.addAction(action_);
     item.observe(this);
     show_value();
+}
+
+void MenuItemBinding::make_menu(QWidget& window) {
+    menu_ = std::make_unique<QMenu>(&window);
+    menu_->setObjectName(to_qt(item_.name()));
+    menu_->setToolTipsVisible(true);
+    action_ = menu_->menuAction();
+    connect(menu_.get(), &QMenu::aboutToShow, this, [this] {
+        services_.run_event([this] { item_.open(); });
+        services_.updates.flush();
+    });
+}
+
+void MenuItemBinding::make_action() {
+    action_ = new QAction{this};
+    // A group of its own draws a dot, and leaves to the station which of the others is cleared.
+    if (item_.is_one_of_many) {
+        auto* group = new QActionGroup{this};
+        group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+        group->addAction(action_);
+    }
+    connect(action_, &QAction::triggered, this, [this] {
+        services_.run_event([this] { item_.click(); });
+        services_.updates.mark(*this); // the press turned the mark, which is the station's
+    });
 }
 
 MenuItemBinding::~MenuItemBinding() {
@@ -53,9 +63,22 @@ MenuItemBinding::~MenuItemBinding() {
     item_.observe(nullptr);
 }
 
+QString MenuItemBinding::whole_words() const {
+    const QString caption = plain_caption(item_.caption);
+    if (!item_.opens_box || caption.endsWith("..") || caption.endsWith(u'…'))
+        return caption;
+    const QString words = caption.trimmed();
+    return words + (words.endsWith(':') ? " …" : "…");
+}
+
+QString MenuItemBinding::words() const {
+    return fitting_line(whole_words(), QFontMetrics{studio_font(Type::base)}, scaled(longest_entry));
+}
+
 void MenuItemBinding::show_value() {
-    action_->setText(to_qt(item_.caption));
-    action_->setToolTip(to_qt(item_.hint));
+    const bool is_cut = words() != whole_words();
+    action_->setText(words().replace("&", "&&"));
+    action_->setToolTip(item_.hint.get().empty() && is_cut ? whole_words() : to_qt(item_.hint));
     action_->setShortcut(QKeySequence{to_qt(item_.shortcut)});
     action_->setEnabled(item_.enabled);
     action_->setVisible(item_.visible);
@@ -91,8 +114,21 @@ MenuItemBinding& MenuBindings::entry(MenuItem& item) {
         if (child->begins_group())
             menu->addSeparator();
         menu->addAction(&entry(*child).action());
+        entry(*child).on_shown = [this, &item] { mark_letters(item); };
     }
+    if (menu != nullptr)
+        mark_letters(item);
     return binding;
+}
+
+// Each entry of a menu answers to a letter of its own.
+void MenuBindings::mark_letters(const MenuItem& menu) {
+    QStringList words;
+    for (MenuItem* child : menu.entries())
+        words += entry(*child).words();
+    const QStringList marked = with_mnemonics(words);
+    for (qsizetype place = 0; MenuItem * child : menu.entries())
+        entry(*child).action().setText(marked[place++]);
 }
 
 QAction& MenuBindings::action(MenuItem& item) {

@@ -24,12 +24,17 @@ public:
     [[nodiscard]] QAction& action() const { return *action_; }
     /// Null for an entry without entries.
     [[nodiscard]] QMenu* menu() const { return menu_.get(); }
+    /// Its caption on the screen: with dots where it opens a box, its path as long as a menu is wide.
+    [[nodiscard]] QString words() const;
 
     /// Called after each update.
     std::function<void()> on_shown;
 
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
+    void make_menu(QWidget& window);
+    void make_action();
+    [[nodiscard]] QString whole_words() const;
 
     MenuItem& item_;
     const DesktopServices& services_;
@@ -54,6 +59,7 @@ public:
 
 private:
     MenuItemBinding& entry(MenuItem& item);
+    void mark_letters(const MenuItem& menu);
     void show_bar(QMenuBar& bar) const;
 
     Window& window_;

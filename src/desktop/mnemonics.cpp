@@ -27,6 +27,7 @@ QStringList with_mnemonics(const QStringList& captions) {
     QStringList marked;
     QString taken;
     for (QString caption : captions) {
+        caption.replace("&", "&&");
         const auto letters = letters_of(caption);
         const auto free = std::ranges::find_if(
             letters, [&](auto place) { return !taken.contains(caption[place], Qt::CaseInsensitive); });

@@ -40,6 +40,11 @@ QSize frame_size() {
     return frame;
 }
 
+// Its letters are its own.
+bool menu_is_open() {
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr;
+}
+
 // The place of a length that begins here, brought within the room as far as it fits.
 int within(int start, int length, int room_start, int room_length) {
     return std::max(room_start, std::min(start, room_start + room_length - length));
@@ -225,9 +230,10 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         // Alt with a letter calls a menu or a button, and types nothing.
         const bool calls = key->modifiers().testFlag(Qt::AltModifier);
-        if (!calls && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape)) {
+        if (!calls && !menu_is_open() && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape)) {
             pass_characters(key->text());
-            if (window_.answers_space && key->key() == Qt::Key_Space)
+            // The key that opens a menu chooses nothing in it.
+            if (menu_is_open() || (window_.answers_space && key->key() == Qt::Key_Space))
                 return true;
         }
     }

@@ -290,6 +290,9 @@ public:
     Property<std::string> caption;
     Property<std::string> shortcut; ///< As "F5" or "Ctrl+Y".
     Property<bool> checked{*this, false};
+    bool opens_box = false;      ///< It shows a box or a window of its own, in which the work is done.
+    bool is_one_of_many = false; ///< At most one of its group is checked.
+    bool destroys = false;       ///< It deletes what can't be had back.
     std::function<void()> on_click;
     std::function<void()> on_open;
 
@@ -297,6 +300,12 @@ private:
     std::vector<MenuItem*> entries_;
     bool begins_group_ = false;
 };
+
+/// Gives a trait to entries of the menus.
+inline void mark_entries(bool MenuItem::*trait, std::initializer_list<MenuItem*> entries) {
+    for (MenuItem* entry : entries)
+        entry->*trait = true;
+}
 
 /// A place for a movie, by its file's name.
 class Movie : public Control {

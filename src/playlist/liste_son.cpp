@@ -23,6 +23,11 @@ Liste_son::Liste_son()
     modifier_chemin_non.checked = true;
     coller.enabled = false;
     Convertion.hang({{&A_Copen_rfm, &A_Convertir_dfm}});
+    mark_entries(&MenuItem::opens_box,
+                 {&A_liste, &A_Charge, &A_enreg_sous, &A_Copen_rfm, &A_Convertir_dfm, &Supprimer_fichier,
+                  &Modifier_lettre_lecteur, &Modifier_volume, &a_debutpiste, &a_debutpiste_fichier, &a_modif});
+    mark_entries(&MenuItem::is_one_of_many, {&A_sauve, &a_Ne_pas_Sauve, &modifier_chemin, &modifier_chemin_non});
+    mark_entries(&MenuItem::destroys, {&Supprimer_fichier});
     play_list.hint = "lecture liste";
     zap.hint = "Zapper rapidement sur le fichier suvant (Z)";
     stop_decks.hint = "Stopper tous les lecteurs";

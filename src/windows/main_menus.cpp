@@ -7,6 +7,7 @@ MainMenus::MainMenus()
     A_desacive_J.checked = true;
     A_affichage1.checked = true; // what the display shows until another is chosen
     hang_menus();
+    mark_menus();
 }
 
 void MainMenus::hang_menus() {
@@ -45,6 +46,25 @@ void MainMenus::hang_menus() {
 
     cha.hang({{&lect1, &lect2, &lect3}});
     char_F.hang({{&lect1_F, &lect2_F, &lect3_F}});
+}
+
+void MainMenus::mark_menus() {
+    mark_entries(&MenuItem::opens_box,
+                 {&ouvre_L, &A_gere, &ecoute, &a_assosiation, &A_ouvre_journal, &Quitter_, &choose_favourites,
+                  &choose_jingles, &Afficher_C_aleatoire, &pre_char, &nom_radio, &A_def_jingles, &A_def_musique,
+                  &a_editeur_audio, &Modifie_banniere, &A_purger_registre, &aideprog, &show_about, &show_update_info});
+    mark_entries(&MenuItem::is_one_of_many,
+                 {&A_ordre_continue, &A_ordre_aléatoire, &aa_montrer_curseur, &aa_cacher_curseur, &A_visuel_active,
+                  &A_visuel_desactive, &A_affichage1, &A_affichage2});
+    const auto exclude = [](const auto& group) {
+        for (MenuItem* entry : group)
+            entry->is_one_of_many = true;
+    };
+    exclude(fade_rules());
+    exclude(chain_modes());
+    exclude(journal_choices());
+    exclude(views());
+    mark_entries(&MenuItem::destroys, {&A_purger_journal, &Supprimer_recherche, &A_purger_registre});
 }
 
 } // namespace sonarelle

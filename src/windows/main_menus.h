@@ -128,6 +128,7 @@ struct MainMenus : Window {
 
 private:
     void hang_menus();
+    void mark_menus();
 };
 
 /// Checks one entry of an exclusive group of a menu and clears the others.

@@ -120,9 +120,7 @@ TEST_F(ListWindow, MenuButtonOffersEveryEntryThatHangsUnderNoOther) {
     for (QMenu* menu : list_view().findChildren<QMenu*>()) {
         if (!offers(*menu, "Charger liste (C)"))
             continue;
-        EXPECT_EQ(std::ranges::count_if(menu->actions(),
-                                        [](const QAction* action) { return action->text() == "Charger liste (C)"; }),
-                  1);
+        EXPECT_EQ(count_of_entry(*menu, "Charger liste (C)"), 1);
         return;
     }
     FAIL() << "no menu offers the loading of a list";

@@ -39,9 +39,14 @@ protected:
             (*button)->click();
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
-    [[nodiscard]] static bool offers(QMenu& menu, const QString& entry) {
-        return std::ranges::any_of(menu.actions(), [&](const QAction* action) { return action->text() == entry; });
+    /// How often a menu has an entry, with or without the dots of one that opens a box.
+    [[nodiscard]] static auto count_of_entry(QMenu& menu, const QString& entry) {
+        return std::ranges::count_if(menu.actions(), [&](const QAction* action) {
+            const QString words = action->text().remove('&');
+            return words == entry || words == entry + "…";
+        });
     }
+    [[nodiscard]] static bool offers(QMenu& menu, const QString& entry) { return count_of_entry(menu, entry) > 0; }
 };
 
 } // namespace sonarelle

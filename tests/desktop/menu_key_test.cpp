@@ -61,4 +61,32 @@ TEST_F(Keyboard, F10OpensNothingWhereAllMenusAreHidden) {
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
+TEST_F(Keyboard, LettersOfAnOpenMenuAreNoCommands) {
+    std::u32string seen;
+    int chosen = 0;
+    feuille.on_key_press = [&](char32_t c) { seen += c; };
+    feuille.Ouvrir.on_click = [&] { ++chosen; };
+    show();
+    QApplication::setActiveWindow(&view);
+    feuille.popup(feuille.Fichier);
+    settle();
+    QTest::sendKeyEvent(QTest::Click, view.windowHandle(), Qt::Key_O, "o", Qt::NoModifier);
+    settle();
+    EXPECT_EQ(seen, U"");
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(Keyboard, KeyThatOpensAMenuChoosesNothingInIt) {
+    int chosen = 0;
+    feuille.on_key_press = [&](char32_t) { feuille.popup(feuille.Fichier); };
+    feuille.Ouvrir.on_click = [&] { ++chosen; };
+    show();
+    QApplication::setActiveWindow(&view);
+    QTest::sendKeyEvent(QTest::Click, view.windowHandle(), Qt::Key_O, "o", Qt::NoModifier);
+    settle();
+    EXPECT_EQ(chosen, 0);
+    EXPECT_TRUE(menu_of(feuille.Fichier).isVisible());
+    menu_of(feuille.Fichier).hide();
+}
+
 } // namespace sonarelle

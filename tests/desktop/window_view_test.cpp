@@ -277,9 +277,9 @@ TEST_F(View, RightAndLeftPressesAreToldApart) {
 TEST_F(MenuBinding, EntriesHangUnderTheirMenuWithALineBetweenGroups) {
     const auto actions = view.menus().menu(feuille.Fichier)->actions();
     ASSERT_EQ(actions.size(), 3);
-    EXPECT_EQ(actions[0]->text(), "Ouvrir");
+    EXPECT_EQ(actions[0]->text(), "&Ouvrir");
     EXPECT_TRUE(actions[1]->isSeparator());
-    EXPECT_EQ(actions[2]->text(), "Quitter");
+    EXPECT_EQ(actions[2]->text(), "&Quitter");
 }
 
 TEST_F(MenuBinding, ChoosingAnEntryIsItsClick) {

@@ -1,10 +1,12 @@
 #include "desktop/binding.h"
 
-#include <QEvent>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include "desktop/colours.h"
 #include "desktop/file_drops.h"
 #include "desktop/qt_text.h"
+#include "desktop/tips.h"
 
 namespace sonarelle {
 
@@ -36,12 +38,12 @@ void Binding::show_value() {
         return;
     showing_ = true;
     const QString hint = to_qt(control_.hint);
-    if (widget_->toolTip() != hint)
-        widget_->setToolTip(hint);
     show_state();
     const QString name = hint.isEmpty() ? caption() : hint;
     if (!name.isEmpty() && widget_->accessibleName() != name) // else the view's own holds
         widget_->setAccessibleName(name);
+    if (widget_->toolTip() != tip())
+        widget_->setToolTip(tip());
     QPalette palette = widget_->palette();
     paint(palette);
     if (palette != widget_->palette())
@@ -53,6 +55,22 @@ void Binding::show_value() {
     showing_ = false;
     if (on_shown)
         on_shown();
+}
+
+// What can be worked is named by its tip, too; a text that is read says itself what it is.
+QString Binding::tip() const {
+    const QString hint = to_qt(control_.hint);
+    const bool can_be_worked = widget_->focusPolicy() != Qt::NoFocus && control_.kind() != ControlKind::row_table;
+    if (!hint.isEmpty() || !can_be_worked)
+        return hint;
+    return caption().isEmpty() ? widget_->accessibleName() : caption();
+}
+
+bool Binding::show_tip(QPoint place) const {
+    if (widget_->toolTip().isEmpty())
+        return false;
+    QToolTip::showText(place, tip_of(widget_->toolTip(), key_), widget_);
+    return true;
 }
 
 // The toolkit would hand it on to the next part, and the space bar with it.
@@ -69,6 +87,8 @@ void Binding::paint(QPalette& palette) const {
 }
 
 bool Binding::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::ToolTip && object == widget_ && show_tip(static_cast<QHelpEvent*>(event)->globalPos()))
+        return true;
     if (event->type() == QEvent::Enter && control_.on_mouse_move)
         run([this] { control_.mouse_move(); });
     if (event->type() == QEvent::Leave && control_.on_mouse_move && on_left)

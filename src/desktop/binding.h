@@ -31,6 +31,9 @@ public:
     /// Files for the control may be dropped on this widget, too.
     void take_drops_on(QWidget& widget);
 
+    /// The key that does what a press of the control does, for its tip; empty for none.
+    void set_key(const QString& key) { key_ = key; }
+
     /// The pointer has left a part that heard of it.
     std::function<void()> on_left;
 
@@ -57,11 +60,14 @@ protected:
 
 private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
+    [[nodiscard]] QString tip() const;
+    [[nodiscard]] bool show_tip(QPoint place) const;
 
     Control& control_;
     QPointer<QWidget> widget_;
     std::unique_ptr<FileDrops> drops_; ///< Null where the station takes no files.
     const DesktopServices& services_;
+    QString key_;
     bool showing_ = false;
 };
 

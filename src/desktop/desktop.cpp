@@ -87,6 +87,7 @@ Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopS
         if (main_ != nullptr && opens_over_the_desk(view->window_value()))
             view->open_over(*main_);
     connect_readings();
+    name_keys(keys_of(desk_.window));
 }
 
 Desktop::~Desktop() = default;
@@ -107,6 +108,17 @@ void Desktop::watch(Control& control, std::function<void()> show) {
             };
             return;
         }
+}
+
+void Desktop::name_keys(const std::vector<NamedKey>& keys) {
+    for (const auto& [control, key] : keys)
+        if (Binding* binding = main_ == nullptr ? nullptr : main_->binding_of(*control))
+            binding->set_key(to_qt(key));
+}
+
+void Desktop::name_keys_of_decks() {
+    for (const Deck& deck : desk_.ring.decks)
+        name_keys(keys_of_deck(deck.controls, desk_.ring.is_main(deck)));
 }
 
 // What is told in one window and read at a glance in the other.
@@ -159,6 +171,7 @@ void Desktop::show_decks() {
             look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
         main_->show_look(deck.number(), look);
     }
+    name_keys_of_decks();
     main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
     show_air();
     show_list();

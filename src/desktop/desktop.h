@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/desktop_services.h"
+#include "desktop/key_table.h"
 #include "desktop/sound_reading.h"
 #include "playout/desk.h"
 
@@ -61,6 +62,8 @@ public:
 
 private:
     void connect_readings();
+    void name_keys(const std::vector<NamedKey>& keys);
+    void name_keys_of_decks();
     void watch(Control& control, std::function<void()> show);
     void show_second();
     void show_decks();

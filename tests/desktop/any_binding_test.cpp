@@ -44,7 +44,7 @@ TEST_F(AnyBinding, OutlivesItsWidget) {
     EXPECT_EQ(binding.widget(), nullptr);
 }
 
-TEST_F(AnyBinding, HintThatGoesLeavesTheCaptionAsItsName) {
+TEST_F(AnyBinding, HintThatGoesLeavesTheCaptionAsItsNameAndTip) {
     Button button{window, "b", "&Stopper"};
     StudioButton widget;
     const ButtonBinding binding{button, widget, services};
@@ -54,7 +54,7 @@ TEST_F(AnyBinding, HintThatGoesLeavesTheCaptionAsItsName) {
     button.hint = "";
     settle();
     EXPECT_EQ(widget.accessibleName(), "Stopper");
-    EXPECT_EQ(widget.toolTip(), "");
+    EXPECT_EQ(widget.toolTip(), "Stopper");
 }
 
 TEST_F(AnyBinding, TellsEachTimeThatItWasShown) {

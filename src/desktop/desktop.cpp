@@ -97,6 +97,10 @@ QWidget* Desktop::widget_of(const Window& window) const {
     return found == views_.end() ? nullptr : found->get();
 }
 
+QString Desktop::name_on_air() const {
+    return to_qt(sonarelle::name_on_air(desk_));
+}
+
 void Desktop::watch(Control& control, std::function<void()> show) {
     for (const auto& view : views_)
         if (Binding* binding = view->binding_of(control)) {
@@ -179,7 +183,7 @@ void Desktop::show_decks() {
 
 void Desktop::show_air() {
     const Deck* deck = deck_on_air(desk_);
-    const QString title = to_qt(name_on_air(desk_));
+    const QString title = name_on_air();
     const QString silence = to_qt(silence_text(desk_));
     const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
     main_->show_air({.role = air_role(desk_),

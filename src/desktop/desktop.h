@@ -53,6 +53,9 @@ public:
     /// Null for a window that isn't the station's.
     [[nodiscard]] QWidget* widget_of(const Window& window) const;
 
+    /// Empty for nothing.
+    [[nodiscard]] QString name_on_air() const;
+
     /// What plays, on the main window's status line; in red where it is a trouble.
     void show_output(const std::string& text, bool is_trouble);
     /// Hangs "Sortie audio" into the option menu.

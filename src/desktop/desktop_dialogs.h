@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
+#include "desktop/message_box.h"
 #include "desktop/path_forms.h"
 #include "platform/dialogs.h"
 
@@ -13,7 +15,7 @@ namespace sonarelle {
 class DesktopDialogs : public Dialogs {
 public:
     /// `widget_of` gives what a window of the station is on the screen, null for none.
-    DesktopDialogs(PathForms paths, std::function<QWidget*(Window&)> widget_of);
+    DesktopDialogs(PathForms paths, std::function<QWidget*(Window&)> widget_of, NameOnAir name_on_air = {});
 
     Answer MsgBox(const MessageBox& box) override;
     [[nodiscard]] std::optional<std::string> InputBox(const sonarelle::InputBox& box) override;
@@ -28,6 +30,16 @@ private:
 
     PathForms paths_;
     std::function<QWidget*(Window&)> widget_of_;
+    NameOnAir name_on_air_;
+    /// What was typed last: the next box of its question has it still where the station refused it, which it does
+    /// before the operator's event has ended.
+    struct Typed {
+        std::string title, prompt;
+        QString words;
+        bool is_refused = false;
+    };
+    Typed typed_;
+    QTimer verdict_; ///< Goes while the station may refuse it.
 };
 
 /// The filter of a file dialog in Qt's form: "fichier (*.dfm)|*.dfm" makes "fichier (*.dfm)".

@@ -1,8 +1,8 @@
 #include "desktop/desktop_file_dialog.h"
 
 #include <QFileInfo>
-#include <QMessageBox>
 
+#include "desktop/message_box.h"
 #include "desktop/qt_text.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
@@ -34,7 +34,7 @@ void DesktopFileDialog::accept() {
         try {
             chosen_ = paths_.to_station(from_qt(files.front()));
         } catch (const Failure& failure) {
-            QMessageBox::warning(this, windowTitle(), to_qt(failure.what()));
+            tell(this, from_qt(windowTitle()), failure.what(), Icon::warning);
             return;
         }
     }

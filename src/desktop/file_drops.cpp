@@ -2,12 +2,12 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
+#include "desktop/message_box.h"
 #include "desktop/qt_text.h"
 #include "platform/failure.h"
 
@@ -59,10 +59,7 @@ void FileDrops::hand_over(const QStringList& files) {
         for (const QString& file : files)
             paths.push_back(services_.paths.to_station(from_qt(file)));
     } catch (const Failure& failure) {
-        QMessageBox box{QMessageBox::Warning, QApplication::applicationDisplayName(), to_qt(failure.what()),
-                        QMessageBox::Ok, QApplication::activeWindow()};
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
+        tell(window_below_a_box(), from_qt(QApplication::applicationDisplayName()), failure.what(), Icon::warning);
         return;
     }
     services_.run_event([&] { control_.drop_files(paths); });

@@ -1,7 +1,7 @@
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "desktop/box_view.h"
 #include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_file_dialog.h"
 #include "desktop/desktop_fixture.h"
@@ -103,7 +103,7 @@ TEST_F(FileDialogOnView, FileThatTheStationCantHoldIsRefusedByNameAndTheDialogSt
     dialog.show();
     QString told;
     QTimer::singleShot(0, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        if (auto* box = dynamic_cast<BoxView*>(QApplication::activeModalWidget())) {
             told = box->text();
             box->accept();
         }
@@ -126,7 +126,7 @@ TEST_F(FileDialogOnView, LeavesTheQuestionBeforeAFileIsWrittenOverToTheStation) 
     dialog.show();
     int questions = 0;
     QTimer::singleShot(0, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        if (auto* box = dynamic_cast<BoxView*>(QApplication::activeModalWidget())) {
             ++questions;
             box->reject();
         }

@@ -1,10 +1,10 @@
 #include <QDropEvent>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
 
+#include "desktop/box_view.h"
 #include "desktop/button_bindings.h"
 #include "desktop/desktop_fixture.h"
 #include "platform/failure.h"
@@ -109,7 +109,7 @@ TEST_F(FileDropsOnAButton, OutsideAllDrivesAreRefusedByName) {
     QString told;
     QTimer::singleShot(0, &panel, [&] {
         QTimer::singleShot(50, &panel, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            auto* box = dynamic_cast<BoxView*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             told = box->text();
             box->accept();

@@ -1,8 +1,9 @@
-#include <QInputDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include "desktop/desktop_dialogs.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/input_box.h"
 
 namespace sonarelle {
 
@@ -16,7 +17,7 @@ TEST_F(InputBoxOnScreen, IsWideEnoughForAPath) {
     DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
     int width = 0;
     QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
         width = box->width();
         box->reject();
@@ -29,10 +30,10 @@ TEST_F(InputBoxOnScreen, BeginsWithItsPresetAndGivesWhatWasTyped) {
     DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
     QString preset;
     QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        preset = box->textValue();
-        box->setTextValue("Radio été");
+        preset = box->field().text();
+        box->field().setText("Radio été");
         box->accept();
     });
     EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), "Radio été");
@@ -44,9 +45,9 @@ TEST_F(InputBoxOnScreen, AsksInTheStationsWords) {
     QString prompt;
     QString title;
     QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        prompt = box->labelText();
+        prompt = box->text();
         title = box->windowTitle();
         box->reject();
     });
@@ -58,10 +59,79 @@ TEST_F(InputBoxOnScreen, AsksInTheStationsWords) {
 TEST_F(InputBoxOnScreen, GivesNothingByCancel) {
     DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
     QTimer::singleShot(0, [] {
-        if (auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget()))
+        if (auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget()))
             box->reject();
     });
     EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), std::nullopt);
+}
+
+TEST_F(InputBoxOnScreen, HasAllItsWordsSelectedUnderTheKeyboard) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QTimer::singleShot(0, [&] {
+        auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->focusWidget(), &box->field());
+        EXPECT_EQ(box->field().selectedText(), "Antenne_FM");
+        QTest::keyClicks(&box->field(), "Nuit");
+        QTest::keyClick(&box->field(), Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), "Nuit");
+}
+
+TEST_F(InputBoxOnScreen, GivesNothingByEscape) {
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QTimer::singleShot(0, [&] {
+        if (auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget()))
+            QTest::keyClick(&box->field(), Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialogs.InputBox({"Nom de votre Radio", "Saisie", "Antenne_FM"}), std::nullopt);
+}
+
+namespace {
+
+/// A field whose words the station takes or refuses.
+class AskedAgain : public DesktopFixture {
+protected:
+    void type(const QString& words) {
+        QTimer::singleShot(0, [this, words] {
+            auto* box = dynamic_cast<InputBoxView*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            first = box->field().text();
+            box->field().setText(words);
+            box->accept();
+        });
+        static_cast<void>(dialogs.InputBox({"Début", "Lecture a :", "0.10"}));
+    }
+    void tell(Icon icon) {
+        QTimer::singleShot(0, [] {
+            if (auto* box = dynamic_cast<BoxView*>(QApplication::activeModalWidget()))
+                box->accept();
+        });
+        dialogs.MsgBox({.text = "Type incompatible", .title = "Sonarelle", .icon = icon});
+    }
+
+    DesktopDialogs dialogs{{}, [](Window&) { return nullptr; }};
+    QString first;
+};
+
+} // namespace
+
+TEST_F(AskedAgain, HasTheWordsThatWereRefused) {
+    type("trois");
+    tell(Icon::stop);
+    type("3");
+    EXPECT_EQ(first, "trois");
+    tell(Icon::information);
+    type("4");
+    EXPECT_EQ(first, "0.10");
+}
+
+TEST_F(AskedAgain, BeginsAnewWhereTheTroubleWasAnother) {
+    type("3");
+    settle();
+    tell(Icon::stop);
+    type("4");
+    EXPECT_EQ(first, "0.10");
 }
 
 } // namespace sonarelle

@@ -1,8 +1,6 @@
 #include "screen/desk_fixture.h"
 
 #include <QComboBox>
-#include <QMessageBox>
-#include <QPushButton>
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -11,6 +9,7 @@
 #include <sstream>
 
 #include "configuration/settings_store.h"
+#include "desktop/box_view.h"
 #include "platform/failure.h"
 #include "platform/host/machine_paths.h"
 
@@ -221,18 +220,18 @@ void DeskFixture::wait_for_box() {
 
 std::string DeskFixture::box() {
     return seen<std::string>([]() -> std::string {
-        const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        const auto* open = dynamic_cast<BoxView*>(QApplication::activeModalWidget());
         return open == nullptr ? "" : open->text().toStdString();
     });
 }
 
 void DeskFixture::answer(const std::string& caption) {
     const auto find = [&]() -> QWidget* {
-        const auto* open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        const auto* open = dynamic_cast<BoxView*>(QApplication::activeModalWidget());
         if (open == nullptr || !open->isActiveWindow()) // it has its place when it has the keyboard
             return nullptr;
-        for (QAbstractButton* button : open->buttons())
-            if (button->text().remove('&') == QString::fromStdString(caption))
+        for (auto* button : open->findChildren<QAbstractButton*>())
+            if (button->text().remove('&').section(',', 0, 0) == QString::fromStdString(caption))
                 return button;
         return nullptr;
     };

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QMessageBox>
 #include <QTranslator>
 #include <iostream>
 #include <span>
@@ -9,6 +8,7 @@
 #include "app/common/arguments.h"
 #include "app/common/common_options.h"
 #include "app/common/quiet_signals.h"
+#include "desktop/message_box.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 
@@ -36,7 +36,7 @@ int refuse(std::string_view sentence, int status) {
 
 /// Who starts the desk from a menu sees no terminal.
 void show_refusal(std::string_view sentence) {
-    QMessageBox::critical(nullptr, "Sonarelle", QString::fromUtf8(sentence.data(), qsizetype(sentence.size())));
+    tell(nullptr, "Sonarelle", std::string{sentence}, Icon::stop);
 }
 
 } // namespace

@@ -3,38 +3,44 @@
 #include <QBoxLayout>
 #include <array>
 
-#include "desktop/panel.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
+#include "desktop/text_size.h"
 
 namespace sonarelle {
 
 namespace {
 
-constexpr QSize least_size{420, 110};
+constexpr QSize least_size{420, 110}; // pixels at a text of 13
 
-QString state_word(DeckRole role) {
+struct StateLook {
+    const char* word;
+    Accent lamp;
+};
+
+StateLook look_of(DeckRole role) {
     switch (role) {
     case DeckRole::on_air:
-        return "● À L'ANTENNE";
+        return {"À l'antenne", Accent::air};
     case DeckRole::paused:
-        return "II EN PAUSE";
+        return {"En pause", Accent::next};
     default:
-        return "■ EN ATTENTE";
+        return {"En attente", Accent::none};
     }
 }
 
 } // namespace
 
 SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& services)
-    : WindowView{window, services, least_size},
+    : WindowView{window, services, {scaled(least_size.width()), scaled(least_size.height())}},
       window_{window} {
     auto* panel = new Panel;
     auto* rows = new QVBoxLayout{panel};
+    rows->setContentsMargins(12, studio::grid, 12, studio::grid);
     rows->addLayout(reading());
     rows->addLayout(buttons());
     auto* column = new QVBoxLayout{&content()};
-    column->setContentsMargins(6, 6, 6, 6);
+    column->setContentsMargins(studio::grid, studio::grid, studio::grid, studio::grid);
     column->addWidget(panel);
     if (QWidget* rest = remaining_parts(dresser_))
         column->addWidget(rest);
@@ -43,9 +49,10 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
 }
 
 QLayout* SmallPlayerView::reading() {
-    state_ = new StationLabel{{.type = Type::base, .bold = true, .characters = 15}};
+    lamp_ = new Lamp;
+    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 14}};
     state_->setObjectName("player_state");
-    title_ = new StationLabel{{.type = Type::following, .bold = true, .characters = 16}};
+    title_ = new StationLabel{{.type = Type::deck_title, .bold = true, .characters = 16}};
     title_->setObjectName("player_title");
     seconds_ = dresser_.label(window_.remaining, {.type = Type::air_title,
                                                   .bold = true,
@@ -55,6 +62,8 @@ QLayout* SmallPlayerView::reading() {
     unit_ = new StationLabel{{.type = Type::following, .characters = 2}};
     unit_->set_text("s");
     auto* row = new QHBoxLayout;
+    row->setSpacing(studio::grid);
+    row->addWidget(lamp_);
     row->addWidget(state_);
     row->addWidget(title_, 1);
     for (StationLabel* part : {seconds_, unit_}) {
@@ -67,32 +76,52 @@ QLayout* SmallPlayerView::reading() {
 }
 
 QLayout* SmallPlayerView::buttons() {
-    const std::array<std::pair<GraphicButton*, const char*>, 7> signs{{{&window_.back, "◀◀"},
-                                                                       {&window_.play, "▶"},
-                                                                       {&window_.stop, "■"},
-                                                                       {&window_.forward, "▶▶"},
-                                                                       {&window_.next, "⇥"},
-                                                                       {&window_.show_main_window, "☰"},
-                                                                       {&window_.quit, "✕"}}};
+    const std::array<std::pair<GraphicButton*, Sign>, 7> signs{{{&window_.back, Sign::back},
+                                                                {&window_.play, Sign::play},
+                                                                {&window_.stop, Sign::stop},
+                                                                {&window_.forward, Sign::forward},
+                                                                {&window_.next, Sign::zap},
+                                                                {&window_.show_main_window, Sign::rows},
+                                                                {&window_.quit, Sign::quit}}};
     auto* row = new QHBoxLayout;
-    for (const auto& [button, sign] : signs)
-        row->addWidget(dresser_.button(*button, sign), 1);
+    row->setSpacing(studio::half_grid);
+    for (const auto& [button, sign] : signs) {
+        StudioButton* face = dresser_.button(*button);
+        face->set_sign(sign);
+        row->addWidget(face, 1);
+        if (button == &window_.next)
+            next_ = face;
+    }
     binding_of(window_.quit)->widget()->setAccessibleName("Quitter");
+    binding_of(window_.quit)->set_key("Q");
     return row;
 }
 
 void SmallPlayerView::show_air(DeckRole role, const QString& title, const QString& silence) {
     role_ = role;
-    state_->set_text(silence.isEmpty() ? state_word(role) : "SILENCE " + silence);
+    const auto [word, lamp] = look_of(role);
+    state_->set_text(silence.isEmpty() ? QString{word}.toUpper() : "SILENCE " + silence);
     state_->set_alarming(!silence.isEmpty());
+    lamp_->set_accent(silence.isEmpty() ? lamp : Accent::trouble);
+    next_->set_accent(role == DeckRole::on_air ? Accent::next : Accent::none);
     title_->set_text(title);
     show_seconds();
+}
+
+QString SmallPlayerView::title() const {
+    const QString state = state_->text().startsWith("SILENCE") ? state_->text() : look_of(role_).word;
+    if (title_->text().isEmpty())
+        return state;
+    const QString named = state + " : " + title_->text();
+    return has_seconds() ? named + ", reste " + seconds_->text() + " s" : named;
 }
 
 // Of a deck that has stopped none is left.
 void SmallPlayerView::show_seconds() {
     for (StationLabel* part : {seconds_, unit_})
-        part->setVisible(role_ == DeckRole::on_air || role_ == DeckRole::paused);
+        part->setVisible(has_seconds());
+    if (windowTitle() != title())
+        setWindowTitle(title());
 }
 
 } // namespace sonarelle

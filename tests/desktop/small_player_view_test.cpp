@@ -47,21 +47,21 @@ protected:
 
 TEST_F(PlayerOnView, SaysThatItIsOnTheAirAndWhatPlays) {
     play();
-    EXPECT_EQ(label("player_state").text(), "● À L'ANTENNE");
+    EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
     EXPECT_EQ(label("player_title").text(), "titre 1");
 }
 
 TEST_F(PlayerOnView, SaysThatTheDeckIsPaused) {
     play();
     press(Qt::Key_P, "p");
-    EXPECT_EQ(label("player_state").text(), "II EN PAUSE");
+    EXPECT_EQ(label("player_state").text(), "EN PAUSE");
 }
 
 TEST_F(PlayerOnView, ShowsNoSecondsOfADeckThatHasStopped) {
     play();
     EXPECT_TRUE(label("label1").isVisible());
     press(Qt::Key_Space, " ");
-    EXPECT_EQ(label("player_state").text(), "■ EN ATTENTE");
+    EXPECT_EQ(label("player_state").text(), "EN ATTENTE");
     EXPECT_FALSE(label("label1").isVisible());
 }
 
@@ -116,7 +116,40 @@ TEST_F(PlayerOnView, TellsASilenceWhateverHidesBehindIt) {
     const QColor ink = ink_in(seen_in_window(label("player_state")));
     EXPECT_GT(ink.red(), ink.green() + 40);
     player.show_air(DeckRole::on_air, "titre 1");
-    EXPECT_EQ(label("player_state").text(), "● À L'ANTENNE");
+    EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
+}
+
+TEST_F(PlayerOnView, NamesStateTitleAndTimeOnItsFrame) {
+    EXPECT_EQ(view().windowTitle(), "En attente");
+    play();
+    const QString seconds = label("label1").text();
+    EXPECT_EQ(view().windowTitle(), "À l'antenne : titre 1, reste " + seconds + " s");
+    press(Qt::Key_P, "p");
+    EXPECT_TRUE(view().windowTitle().startsWith("En pause : titre 1")) << view().windowTitle().toStdString();
+    auto& player = dynamic_cast<SmallPlayerView&>(view());
+    player.show_air(DeckRole::ended, {}, "01:37");
+    EXPECT_EQ(view().windowTitle(), "SILENCE 01:37");
+}
+
+TEST_F(PlayerOnView, HoldsALongTitleAtItsLeastWidth) {
+    view().resize(view().minimumSize());
+    dynamic_cast<SmallPlayerView&>(view()).show_air(DeckRole::on_air, QString(200, u'm'));
+    settle();
+    EXPECT_EQ(view().width(), view().minimumWidth());
+    for (const char* name : {"player_state", "player_title", "label1", "Command5"}) {
+        const auto& part = *view().findChild<QWidget*>(name);
+        EXPECT_TRUE(view().rect().contains(QRect{part.mapTo(&view(), QPoint{}), part.size()})) << name;
+    }
+    EXPECT_GE(label("label1").width(), label("label1").minimumSizeHint().width());
+}
+
+TEST_F(PlayerOnView, DrawsItsButtonsBySigns) {
+    for (const char* name : {"Command1", "Command2", "Command3", "Command4", "Command5", "Command6", "Command7"}) {
+        auto& button = dynamic_cast<StudioButton&>(*view().findChild<QWidget*>(name));
+        EXPECT_EQ(button.text(), "") << name;
+        EXPECT_NE(button.accessibleName(), "") << name;
+        EXPECT_GE(contrast_in(seen_in_window(button)), readable) << name;
+    }
 }
 
 } // namespace sonarelle

@@ -48,7 +48,7 @@ private:
 std::unique_ptr<WindowView> form_view(Window& window, const DesktopServices& services) {
     auto view = std::make_unique<FormWindow>(window, services, least_form);
     Dresser dresser{*view};
-    QWidget* form = form_of_parts(dresser);
+    QWidget* form = form_of_parts(dresser, window.default_button);
     auto* area = new QScrollArea;
     area->setWidget(form);
     area->setWidgetResizable(true);

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 
 #include "desktop/flow_layout.h"
+#include "desktop/panel.h"
 
 namespace sonarelle {
 
@@ -20,32 +21,46 @@ QWidget* remaining_parts(Dresser& dresser) {
 
 namespace {
 
+constexpr int side = 16; // pixels around the lines of a form
+
 bool is_button(const Control& control) {
     return control.kind() == ControlKind::button || control.kind() == ControlKind::graphic_button;
 }
 
+// The one that return presses is told from the others.
+QWidget* form_button(Dresser& dresser, Control& control, const Control* main_button) {
+    StudioButton* button = dresser.button(static_cast<Button&>(control));
+    if (&control == main_button)
+        button->set_accent(Accent::primary);
+    return button;
+}
+
+QWidget* form_line(Dresser& dresser, Control& control) {
+    if (control.kind() == ControlKind::label)
+        return dresser.label(static_cast<Label&>(control), {.wrapped = true, .characters = 40});
+    return dresser.usual(control);
+}
+
 } // namespace
 
-QWidget* form_of_parts(Dresser& dresser) {
+QWidget* form_of_parts(Dresser& dresser, const Control* main_button) {
     auto* form = new QWidget;
-    auto* column = new QVBoxLayout{form};
-    column->setContentsMargins(14, 12, 14, 12);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
+    auto* card = new Panel;
+    auto* lines = new QVBoxLayout{card};
+    lines->setContentsMargins(side, side, side, side);
+    lines->setSpacing(studio::grid);
+    auto* buttons = row_of({nullptr}, studio::grid);
     for (Control* control : dresser.undressed()) {
-        QWidget* widget = nullptr;
-        if (control->kind() == ControlKind::label)
-            widget = dresser.label(static_cast<Label&>(*control), {.bold = true, .wrapped = true, .characters = 40});
-        else
-            widget = dresser.usual(*control);
-        if (widget == nullptr)
-            continue;
         if (is_button(*control))
-            buttons->addWidget(widget);
-        else
-            column->addWidget(widget);
+            buttons->addWidget(form_button(dresser, *control, main_button));
+        else if (QWidget* line = form_line(dresser, *control))
+            lines->addWidget(line);
     }
-    column->addStretch(1);
+    lines->addStretch(1);
+    auto* column = new QVBoxLayout{form};
+    column->setContentsMargins(studio::grid, studio::grid, studio::grid, studio::grid);
+    column->setSpacing(studio::grid);
+    column->addWidget(card, 1);
     column->addLayout(buttons);
     return form;
 }

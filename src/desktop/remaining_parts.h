@@ -8,7 +8,8 @@ namespace sonarelle {
 /// none. They wrap into as many lines as they need.
 [[nodiscard]] QWidget* remaining_parts(Dresser& dresser);
 
-/// The same as a form: one line a part, for windows that have no arrangement of their own.
-[[nodiscard]] QWidget* form_of_parts(Dresser& dresser);
+/// The same as a form, for windows that have no arrangement of their own: one line a part on a card, the buttons below.
+/// `main_button` may be null.
+[[nodiscard]] QWidget* form_of_parts(Dresser& dresser, const Control* main_button);
 
 } // namespace sonarelle

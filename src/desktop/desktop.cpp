@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QStyle>
@@ -255,6 +256,7 @@ void Desktop::offer_outputs(OutputChoice choice) {
 // Cards come and go, so the entries are made when they are looked at.
 void Desktop::fill_outputs() {
     output_menu_->clear();
+    output_entries_ = std::make_unique<QActionGroup>(nullptr);
     std::vector<std::string> names = outputs_.names();
     const std::string chosen = outputs_.chosen();
     if (!chosen.empty() && std::ranges::find(names, chosen) == names.end())
@@ -263,6 +265,7 @@ void Desktop::fill_outputs() {
     for (const std::string& name : names) {
         QAction* action = output_menu_->addAction(name.empty() ? "Sortie par défaut" : to_qt(name).replace("&", "&&"));
         action->setCheckable(true);
+        output_entries_->addAction(action);
         action->setChecked(name == chosen);
         QObject::connect(action, &QAction::triggered, output_menu_.get(),
                          [this, name] { services_.run_event([&] { outputs_.choose(name); }); });

@@ -12,6 +12,7 @@
 #include "desktop/sound_reading.h"
 #include "playout/desk.h"
 
+class QActionGroup;
 class QMenu;
 class QWidget;
 
@@ -88,6 +89,7 @@ private:
     OutputChoice outputs_;
     MissingFiles missing_;
     std::unique_ptr<QMenu> output_menu_;
+    std::unique_ptr<QActionGroup> output_entries_; ///< Of which one is chosen.
 };
 
 } // namespace sonarelle

@@ -197,6 +197,7 @@ void Desktop::show_air() {
                      .notice = notice(),
                      .silence = silence});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
+    list_->follow_step(step_of(main_->size()));
     list_->show_air({.title = title, .left = left, .clock = clock_, .silence = silence});
     player_->show_air(air_role(desk_), title, silence);
 }

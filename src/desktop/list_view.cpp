@@ -7,6 +7,7 @@
 #include <set>
 
 #include "desktop/card_strip.h"
+#include "desktop/chip.h"
 #include "desktop/label_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
@@ -80,7 +81,8 @@ QWidget* ListView::header() {
     auto* zap =
         dresser_.label(window_.zap_status, {.type = Type::base, .bold = true, .characters = 15, .alignment = right});
     remaining_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    auto* others = row_of({nullptr, zap, clock_}, 2 * studio::grid);
+    changed_ = new Chip{"liste modifiée"};
+    auto* others = row_of({nullptr, changed_, zap, clock_}, 2 * studio::grid);
     auto* row = row_in(*header_, edge);
     row->addLayout(header_texts(), 1);
     row->addWidget(remaining_);
@@ -94,8 +96,8 @@ QLayout* ListView::header_texts() {
     title_ = dresser_.label(window_.track_name, {.type = Type::list_title, .bold = true, .characters = 20});
     progress_ = dresser_.label(window_.progress, aside);
     running_deck_ = dresser_.label(window_.running_deck, aside);
-    state_ = new TextRun{{dresser_.label(window_.list_status, aside), progress_, running_deck_,
-                          dresser_.label(window_.file_in_use, aside)}};
+    file_ = dresser_.label(window_.file_in_use, aside);
+    state_ = new TextRun{{dresser_.label(window_.list_status, aside), progress_, running_deck_, file_}};
     for (const Label* label : {&window_.list_status, &window_.progress, &window_.running_deck, &window_.file_in_use})
         binding_of(*label)->on_shown = [this] { tell_list(); };
     auto* column = column_of({title_, state_}, 0);
@@ -125,7 +127,19 @@ void ListView::tell_air() {
 void ListView::tell_list() {
     running_deck_->setVisible(!window_.reads_the_list());
     progress_->setVisible(progress_->text().startsWith('('));
+    tell_changes();
     state_->arrange();
+}
+
+// Changes that no file of the operator's has yet are told in brackets behind the list's name, and are a state of the
+// list rather than a part of the name.
+void ListView::tell_changes() {
+    const QString told = to_qt(window_.file_in_use.caption.get());
+    const qsizetype bracket = told.endsWith(" : modifications non enregistrées)") ? told.lastIndexOf(" (") : -1;
+    file_->set_text(told.left(bracket));
+    changed_->setVisible(bracket >= 0);
+    changed_->setToolTip(bracket < 0 ? QString{} : told.sliced(bracket + 2).chopped(1));
+    changed_->setAccessibleDescription(changed_->toolTip());
 }
 
 QString ListView::title() const {

@@ -10,6 +10,7 @@
 namespace sonarelle {
 
 class CardStrip;
+class Chip;
 class TextRun;
 
 /// What the list window tells of the air.
@@ -53,6 +54,7 @@ private:
     void show_row_menu();
     void tell_air();
     void tell_list();
+    void tell_changes();
     [[nodiscard]] Step wanted_step() const;
     void take_step(Step step);
 
@@ -69,6 +71,8 @@ private:
     StationLabel* clock_ = nullptr;
     StationLabel* progress_ = nullptr;
     StationLabel* running_deck_ = nullptr;
+    StationLabel* file_ = nullptr;
+    Chip* changed_ = nullptr;
     TextRun* state_ = nullptr; ///< What the list is doing.
     StudioButton* play_ = nullptr;
     std::array<StationLabel*, 2> headings_{}; ///< The narrow step has no room for them.

@@ -22,6 +22,8 @@ protected:
         list().full_length_mode.show_value(true);
         list().zap.enabled = true;
         list_view().show_air({.title = "Carnet de voyage", .left = "00:00:12", .clock = "10:54:02"});
+        main_view().resize(1920, 700); // a large desk, so that the width alone decides
+        list_view().follow_step(Step::large);
         settle();
     }
     void take(QSize size) {
@@ -173,6 +175,8 @@ TEST_F(LayoutOfTheList, NarrowOneSaysLess) {
 }
 
 TEST_F(LayoutOfTheList, IsLargeByItsWidthWhileItKnowsNoDesk) {
+    desktop.reset();
+    desktop.emplace(std::vector<Window*>{&station.list_window}, station.desk, services, SoundReading{});
     take({1599, 360});
     EXPECT_EQ(table().rowHeight(0), 27);
     take({1600, 360});
@@ -187,6 +191,26 @@ TEST_F(LayoutOfTheList, HasTheDesksStep) {
     EXPECT_EQ(table().rowHeight(0), 31);
     take({1280, 293}); // too narrow for it
     EXPECT_EQ(table().rowHeight(0), 27);
+}
+
+TEST_F(LayoutOfTheList, IsReadFromAsFarAsTheDesk) {
+    take({1920, 360});
+    main_view().resize(1920, 600);
+    EXPECT_TRUE(becomes([this] { return table().rowHeight(0) == 27; }));
+    main_view().resize(1920, 700);
+    EXPECT_TRUE(becomes([this] { return table().rowHeight(0) == 31; }));
+}
+
+TEST_F(LayoutOfTheList, HasRoomForEverythingThatItMaySay) {
+    list().file_in_use.caption = "Dans fichier liste.dfm (matin.dfm : modifications non enregistrées)";
+    for (const QSize size : sizes) {
+        SCOPED_TRACE(size.width());
+        take(size);
+        const QRect chip = place(*parts_of<Chip>(list_view()).front());
+        EXPECT_GT(chip.left(), place(label(list().remaining)).right());
+        EXPECT_LT(chip.right(), place(label(list().zap_status)).left());
+        expect_whole_texts();
+    }
 }
 
 TEST_F(LayoutOfTheList, LongStateEndsInDotsAndIsToldWhole) {

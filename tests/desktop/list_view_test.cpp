@@ -75,6 +75,22 @@ TEST_F(ListWindow, SaysWhatTheListIsDoingInOneLine) {
     EXPECT_GT(label(list().progress).x(), right_of(list().list_status));
 }
 
+TEST_F(ListWindow, SaysThatTheListWasChangedBesideItsName) {
+    Chip& chip = *parts_of<Chip>(list_view()).front();
+    station.list.nom_sauvegarde = "C:\\Listes\\matin.dfm";
+    station.list.fichier_liste = "C:\\Listes\\matin.dfm";
+    station.list_document.show_file_in_use();
+    settle();
+    EXPECT_FALSE(chip.isVisible());
+    EXPECT_EQ(label(list().file_in_use).text(), "Dans fichier C:\\Listes\\matin.dfm");
+    station.list.fichier_liste = station.list_document.default_list_file().name();
+    station.list_document.show_file_in_use();
+    settle();
+    EXPECT_TRUE(chip.isVisible());
+    EXPECT_EQ(label(list().file_in_use).text(), "Dans fichier liste.dfm");
+    EXPECT_EQ(chip.toolTip(), "matin.dfm : modifications non enregistrées");
+}
+
 TEST_F(ListWindow, ListThatRestsTellsNoSecond) {
     list().progress.caption = "( 63 / 69 )";
     settle();

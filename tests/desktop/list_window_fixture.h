@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QTest>
 
+#include "desktop/chip.h"
 #include "desktop/list_view.h"
 #include "desktop/station_views.h"
 #include "desktop/toggle.h"

@@ -268,10 +268,11 @@ void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor
         shown.setBold(true);
     painter.setFont(shown);
     painter.setPen(ink);
-    const int place = sign_ != Sign::none ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
+    const Qt::Alignment place = sign_ != Sign::none ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
     const int marks = marked_.isEmpty() ? 0 : Qt::TextShowMnemonic;
     const QString text = marked_.isEmpty() ? shown_text() : marked_;
-    painter.drawText(area, place | marks, QFontMetrics{shown}.elidedText(text, Qt::ElideRight, area.width(), marks));
+    painter.drawText(area, static_cast<int>(place) | marks,
+                     QFontMetrics{shown}.elidedText(text, Qt::ElideRight, area.width(), marks));
 }
 
 // Sign and words stand in the middle together. Returns the room of the words.

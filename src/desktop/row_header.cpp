@@ -50,7 +50,8 @@ void RowHeader::paintSection(QPainter* painter, const QRect& area, int section) 
     painter->fillRect(area, colours_.head());
     painter->setFont(font());
     painter->setPen(colours_.heading());
-    painter->drawText(room, (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
+    const Qt::Alignment place = (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+    painter->drawText(room, static_cast<int>(place),
                       painter->fontMetrics().elidedText(heading(section), Qt::ElideRight, room.width()));
 }
 

@@ -50,8 +50,8 @@ void RowHeader::paintSection(QPainter* painter, const QRect& area, int section) 
     painter->fillRect(area, colours_.head());
     painter->setFont(font());
     painter->setPen(colours_.heading());
-    const Qt::Alignment place = (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
-    painter->drawText(room, static_cast<int>(place),
+    const Qt::Alignment side = (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+    painter->drawText(room, static_cast<int>(side),
                       painter->fontMetrics().elidedText(heading(section), Qt::ElideRight, room.width()));
 }
 

@@ -64,7 +64,7 @@ MenuItemBinding::~MenuItemBinding() {
 }
 
 QString MenuItemBinding::whole_words() const {
-    const QString caption = plain_caption(item_.caption);
+    QString caption = plain_caption(item_.caption);
     if (!item_.opens_box || caption.endsWith("..") || caption.endsWith(u'…'))
         return caption;
     const QString words = caption.trimmed();

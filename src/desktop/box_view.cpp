@@ -181,8 +181,10 @@ void BoxView::fit_to_screen() {
 
 QPoint BoxView::place() const {
     const QRect screen = room();
-    const bool has_window = !over_.isNull() && over_->isVisible() && !over_->isMinimized();
-    const QRect below = has_window ? QRect{over_->mapToGlobal(QPoint{}), over_->size()} : screen;
+    const bool is_open = !over_.isNull() && over_->isVisible() && !over_->isMinimized();
+    const QRect window = is_open ? QRect{over_->mapToGlobal(QPoint{}), over_->size()} : QRect{};
+    const bool has_window = window.intersects(screen);
+    const QRect below = has_window ? window : screen;
     const QPoint wished{below.center().x() - width() / 2, below.top() + below.height() / 3 - height() / 2};
     const auto within = [](int start, int length, int room_start, int room_length) {
         return std::max(room_start, std::min(start, room_start + room_length - length));

@@ -211,6 +211,7 @@ void WindowView::activated() {
 
 // The first window to come was placed before anyone knew how thick frames are.
 void WindowView::make_room_for_frame() {
+    window_.take_frame(twips(frameGeometry().height() - height()));
     if (!awaits_frame_ || frameGeometry() == geometry())
         return;
     awaits_frame_ = false;
@@ -298,6 +299,7 @@ void WindowView::resizeEvent(QResizeEvent* event) {
 void WindowView::keep_place() {
     if (!isVisible() || isMinimized() || isMaximized())
         return;
+    window_.take_frame(twips(frameGeometry().height() - height()));
     keep_size();
     was_placed_ = true;
     window_.left = twips(pos().x());
@@ -307,8 +309,11 @@ void WindowView::keep_place() {
 void WindowView::keep_size() {
     if (!isVisible() || isMinimized() || isMaximized())
         return;
+    const bool is_new = window_.width.get() != twips(width()) || window_.height.get() != twips(height());
     window_.width = twips(width());
     window_.height = twips(height());
+    if (is_new)
+        window_.grow();
 }
 
 // Buttons and menus are there without a mouse, too.

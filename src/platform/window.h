@@ -65,6 +65,17 @@ public:
     void ask_for_help() const { raise(on_help); }
     /// It has come to the front, and can be seen.
     void activate() const { raise(on_activate); }
+    /// The desktop has put a frame round it, which is as thick.
+    void take_frame(Twips above_and_below) {
+        if (frame_height_ == above_and_below)
+            return;
+        frame_height_ = above_and_below;
+        raise(on_move);
+    }
+    /// What the frame adds to its height; none while no frame is known.
+    [[nodiscard]] Twips frame_height() const { return frame_height_; }
+    /// It has another size.
+    void grow() const { raise(on_move); }
     /// He reduced it; a `state` that the station sets is none of his doing.
     void reduce() const { raise(on_reduce); }
     /// Shows a menu under one of its parts, or at the pointer.
@@ -93,7 +104,7 @@ public:
     std::function<void()> on_right_click;
     std::function<void()> on_help;
     std::function<void()> on_activate;
-    std::function<void()> on_move;
+    std::function<void()> on_move; ///< Another place, size or frame.
     std::function<void()> on_reduce;
     std::function<void()> on_unload_request;
     std::function<void(MenuItem&, const Control* under)> on_popup;
@@ -104,6 +115,7 @@ private:
 
     std::vector<Control*> controls_;
     int shows_ = 0;
+    Twips frame_height_{};
 };
 
 inline WindowPlace::WindowPlace(Window& window)

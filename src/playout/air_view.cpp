@@ -120,12 +120,18 @@ std::string name_heard(const Desk& desk, const Deck& deck) {
     return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
 }
 
-std::string silence_text(const Desk& desk) {
+std::optional<int> silent_seconds(const Desk& desk) {
     if (!desk.chain.silent_since)
         return {};
-    const std::int64_t whole = (desk.platform.clock.now() - *desk.chain.silent_since).count() / frame_rate;
-    const auto two_digits = [](std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-    return two_digits(whole / 60) + ":" + two_digits(whole % 60);
+    return static_cast<int>((desk.platform.clock.now() - *desk.chain.silent_since).count() / frame_rate);
+}
+
+std::string silence_text(const Desk& desk) {
+    const auto seconds = silent_seconds(desk);
+    if (!seconds)
+        return {};
+    const auto two_digits = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+    return two_digits(*seconds / 60) + ":" + two_digits(*seconds % 60);
 }
 
 bool is_stopped_by_a_fault(const Desk& desk) {

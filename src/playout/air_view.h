@@ -45,7 +45,9 @@ enum class DeckRole {
 /// The name of what is heard on a deck, or paused on the main one, without its ending; empty for nothing.
 [[nodiscard]] std::string name_heard(const Desk& desk, const Deck& deck);
 
-/// How long a silence that is told has lasted, as mm:ss; empty for none.
+/// Whole seconds that a silence that is told has lasted; nothing for none.
+[[nodiscard]] std::optional<int> silent_seconds(const Desk& desk);
+/// The same as mm:ss; empty for none.
 [[nodiscard]] std::string silence_text(const Desk& desk);
 
 /// A fault has stopped the chain, and nothing follows what is on the air.

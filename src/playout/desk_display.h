@@ -12,6 +12,7 @@
 namespace sonarelle {
 
 inline constexpr std::string_view waiting_title = " - En attente";
+inline constexpr std::string_view missing_title = "Non trouvé";
 inline constexpr std::string_view empty_title = "(Aucun fichier en cours)";
 
 /// How a started track is named.
@@ -38,7 +39,7 @@ public:
     /// A deck waits for its turn, or has nothing that it could play.
     void waits(Deck& deck) const { deck.controls.title.caption = std::string{waiting_title}; }
     void is_empty(Deck& deck) const { deck.controls.title.caption = std::string{empty_title}; }
-    void has_no_file(Deck& deck) const { deck.controls.title.caption = "Non trouvé"; }
+    void has_no_file(Deck& deck) const { deck.controls.title.caption = std::string{missing_title}; }
     /// A file came on a deck. `duration` as hh:mm:ss.
     void loaded(Deck& deck, const std::string& duration, const std::string& title) const;
     /// Names the file that came on a deck, which the small player's "next" can follow again.

@@ -3,11 +3,16 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "configuration/window_place.h"
+#include "playout/opening_layout.h"
+
 namespace sonarelle {
 
 namespace {
 
 constexpr int frame_thickness = 600; // twips: a title bar and a little
+constexpr Twips usual_frame{24 * 15};
+constexpr Twips never_placed{100}; // what a first start stores
 
 } // namespace
 
@@ -111,20 +116,46 @@ void DisplayMenu::Aligne_liste_son() {
     place_list_below(window_.left, window_.width);
 }
 
-// At a first start both windows have one place.
+// At a first start both windows have one place, and the first to come is placed before its frame is known.
 void DisplayMenu::uncover_main_window() {
     const auto near = [](Twips a, Twips b) { return std::abs((a - b).count()) < frame_thickness; };
-    if (list_.state == WindowState::normal && near(list_.left, window_.left) && near(list_.top, window_.top))
+    const bool hides = near(list_.top, window_.top) || near(list_.top, window_.top.get() + window_.height.get());
+    if (list_.state == WindowState::normal && near(list_.left, window_.left) && hides)
         place_list_below(window_.left, window_.width);
 }
 
-// A list that would stand below the screen's lower edge covers the main window's foot instead.
+// A list that finds too little room below is lower, and below a desk that was moved down it covers its foot. On a
+// screen that can't hold both it takes all, and the operator has one window or the other before him.
 void DisplayMenu::place_list_below(Twips left, Twips width) {
     const ScreenArea screen = platform_.screen();
-    const Twips lowest = screen.top + screen.height - list_.height.get();
+    const Twips frame = window_.frame_height();
+    const Twips below = window_.top.get() + window_.height.get() + frame;
+    const Twips foot = screen.top + screen.height - frame;
     list_.left = left;
     list_.width = width;
-    list_.top = std::max(screen.top, std::min(window_.top.get() + window_.height.get(), lowest));
+    if (screen.height - frame - frame < window_.height.get() + least_list_height)
+        list_.height = screen.height - frame;
+    else if (foot - below >= least_list_height)
+        list_.height = std::min(list_.height.get(), foot - below);
+    list_.top = std::max(screen.top, std::min(below, foot - list_.height.get()));
+}
+
+void DisplayMenu::open_windows() {
+    const Twips frame = std::max(window_.frame_height(), usual_frame);
+    const OpeningLayout layout = opening_layout(platform_.screen(), frame);
+    if (!restore_size(platform_, window_, main_window_place)) {
+        window_.width = layout.width;
+        window_.height = layout.desk_height;
+    }
+    if (!restore_size(platform_, list_, list_window_place)) {
+        list_.width = layout.width;
+        list_.height = layout.list_height;
+    }
+    if (window_.left.get() != never_placed || window_.top.get() != never_placed)
+        return;
+    window_.left = layout.left;
+    window_.top = layout.top;
+    place_list_below(window_.left, window_.width);
 }
 
 void DisplayMenu::a_mini_Click() {

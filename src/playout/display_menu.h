@@ -42,6 +42,10 @@ public:
     /// The list has come to the front: where it would hide the main window, it goes below it.
     void uncover_main_window();
 
+    /// Both as they come up: as large as they were left, else as the screen lets them be; at a first start docked in
+    /// the middle of the screen.
+    void open_windows();
+
     /// The small player takes the main window's place.
     void a_mini_Click();
     void open_list_window();

@@ -134,6 +134,8 @@ void Startup::create_under_trap() {
     parts_.options.show_station_name();
     window_.top = Twips{settings_.position_haut.value()};
     window_.left = Twips{settings_.position_gauche.value()};
+    if (arrange_windows)
+        arrange_windows();
     parts_.quick_load.Charge_combo(3);
     parts_.quick_load.Charge_combo(4);
     parts_.quick_load.active_text_combo();

@@ -51,6 +51,8 @@ public:
     /// What a run of the station finds: the settings are read, nothing plays.
     void read_settings();
 
+    /// Gives the windows their size and, at a first start, their place.
+    std::function<void()> arrange_windows;
     /// Loads the picture of the file manager, by its file's name, where there is one.
     std::function<void(const std::string& file)> show_file_manager_picture;
 

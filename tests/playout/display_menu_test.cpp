@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "playout/desk_fixture.h"
+#include "playout/opening_layout.h"
 
 namespace sonarelle {
 
@@ -157,6 +158,7 @@ TEST_F(Places, OfTheKeyOfTheSquareAreTheTwoUpperCornersInTurn) {
 TEST_F(Places, OfTheListAreBelowTheMainWindow) {
     window.left = Twips{600};
     window.top = Twips{0};
+    window.height = height_with_menus;
     list.height = Twips{4000};
     window.Aligner_liste.click();
     EXPECT_EQ(list.left.get(), Twips{600});
@@ -173,6 +175,43 @@ TEST_F(Places, OfTheListStayOnTheScreen) {
     list.height = Twips{4000};
     window.Aligner_liste.click();
     EXPECT_EQ(list.top.get(), Twips{7520});
+}
+
+TEST_F(Places, OfTheListAreBelowTheMainWindowsFrame) {
+    window.top = Twips{0};
+    window.height = height_without_menus;
+    list.height = Twips{3500};
+    window.take_frame(Twips{360});
+    window.Aligner_liste.click();
+    EXPECT_EQ(list.top.get(), height_without_menus + Twips{360});
+    EXPECT_EQ(list.height.get(), Twips{3500});
+}
+
+TEST_F(Places, OfAListThatHasLessRoomAreAsHighAsThat) {
+    machine.screen.height = Twips{11520};
+    window.top = Twips{0};
+    window.height = Twips{7700};
+    list.height = docked_list_height;
+    window.Aligner_liste.click();
+    EXPECT_EQ(list.top.get(), Twips{7700});
+    EXPECT_EQ(list.height.get(), Twips{11520 - 7700});
+}
+
+TEST_F(Places, OfAListThatHasNoRoomBesideTheDeskAreTheWholeScreen) {
+    machine.screen.height = Twips{9000};
+    window.top = Twips{0};
+    window.height = Twips{8640};
+    window.Aligner_liste.click();
+    EXPECT_EQ(list.top.get(), Twips{0});
+    EXPECT_EQ(list.height.get(), Twips{9000});
+}
+
+TEST_F(Places, OfAListOnViewFollowAMainWindowThatGrows) {
+    list.show();
+    window.top = Twips{0};
+    window.height = Twips{7000};
+    window.grow();
+    EXPECT_EQ(list.top.get(), Twips{7000});
 }
 
 TEST_F(Places, OfAListOnViewFollowTheMainWindow) {

@@ -71,4 +71,21 @@ private:
     bool showing_ = false;
 };
 
+/// Stands for a control that another part of the view shows. It has no size.
+class UnseenPart : public QWidget {
+public:
+    explicit UnseenPart(QWidget* parent)
+        : QWidget{parent} {
+        setFixedSize(0, 0);
+    }
+};
+
+class UnseenBinding : public Binding {
+public:
+    using Binding::Binding;
+
+protected:
+    void show_state() override {}
+};
+
 } // namespace sonarelle

@@ -1,22 +1,14 @@
 #include "desktop/dresser.h"
 
-#include <QBoxLayout>
-
 #include "desktop/button_bindings.h"
 #include "desktop/choice_bindings.h"
-#include "desktop/panel.h"
 #include "desktop/range_bindings.h"
+#include "desktop/segments.h"
 #include "desktop/studio_style.h"
 #include "desktop/text_bindings.h"
 #include "desktop/title_label.h"
 
 namespace sonarelle {
-
-namespace {
-
-constexpr QSize lamp_size{26, 26};
-
-} // namespace
 
 StationLabel* Dresser::label(Label& label, const StationLabel::Style& style) {
     auto* widget = new StationLabel{style, parent()};
@@ -63,10 +55,9 @@ StudioButton* Dresser::image(Image& image, const QString& symbol, Accent accent)
     return widget;
 }
 
-QBoxLayout* Dresser::mode(Image& lamp, OptionButton& chosen) {
+Segment* Dresser::mode(Image& lamp, OptionButton& chosen) {
     auto* light = new StudioButton{parent()};
     light->set_look(ButtonLook::lamp);
-    light->setFixedSize(lamp_size);
     light->setFocusPolicy(Qt::NoFocus); // the keyboard has the option
     view_.keep(std::make_unique<LampBinding>(lamp, *light, services()));
     auto* words = option(chosen);
@@ -76,11 +67,12 @@ QBoxLayout* Dresser::mode(Image& lamp, OptionButton& chosen) {
         if (!words->isChecked())
             words->click();
     });
-    view_.binding_of(chosen)->on_shown = [light, words, &chosen] {
-        light->set_accent(chosen.value() ? Accent::air : Accent::none);
+    auto* segment = new Segment{*light, *words};
+    view_.binding_of(chosen)->on_shown = [light, words, segment] {
+        segment->show_choice();
         light->setAccessibleName(words->text());
     };
-    return row_of({light, words, nullptr});
+    return segment;
 }
 
 QSlider* Dresser::slider(Slider& slider, Qt::Orientation orientation) {
@@ -131,6 +123,11 @@ RowTableView* Dresser::table(RowTable& table) {
     auto* widget = new RowTableView{parent()};
     view_.keep(std::make_unique<RowTableBinding>(table, *widget, services()));
     return widget;
+}
+
+void Dresser::unseen(Control& control) {
+    auto* widget = new UnseenPart{parent()};
+    view_.keep(std::make_unique<UnseenBinding>(control, *widget, services()));
 }
 
 QWidget* Dresser::usual(Control& control) {

@@ -6,7 +6,6 @@
 #include "desktop/window_view.h"
 #include "platform/controls.h"
 
-class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -20,6 +19,7 @@ class QTextEdit;
 namespace sonarelle {
 
 class ProgressStrip;
+class Segment;
 class TitleLabel;
 
 /// Makes the widget of a control and binds the two. The widget belongs to the window's content until it is laid out.
@@ -37,8 +37,8 @@ public:
     StudioButton* button(Button& button, const QString& symbol = {});
     /// A picture; until its file is there, a symbol or a word.
     StudioButton* image(Image& image, const QString& symbol = {}, Accent accent = Accent::none);
-    /// An option with its picture for a lamp: one indicator, lit while the option is chosen. Both can be pressed.
-    QBoxLayout* mode(Image& lamp, OptionButton& option);
+    /// An option with its picture for a lamp: one segment, lit while the option is chosen. Both can be pressed.
+    Segment* mode(Image& lamp, OptionButton& option);
     QSlider* slider(Slider& slider, Qt::Orientation orientation);
     ProgressStrip* progress(ProgressBar& bar);
     QComboBox* combo_box(ComboBox& box);
@@ -48,6 +48,8 @@ public:
     QLabel* movie(Movie& movie);
     RowTableView* table(RowTable& table);
 
+    /// A control that another part of the view shows.
+    void unseen(Control& control);
     /// The usual widget of its kind; null for a menu entry and for what only its own window can show.
     QWidget* usual(Control& control);
     /// All parts that no call has dressed yet.

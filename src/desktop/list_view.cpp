@@ -11,6 +11,7 @@
 #include "desktop/label_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
+#include "desktop/segments.h"
 #include "desktop/text_run.h"
 #include "desktop/text_size.h"
 #include "desktop/toggle.h"
@@ -115,7 +116,7 @@ void ListView::show_air(const ListAir& air) {
 void ListView::tell_air() {
     const QString known = air_.title.isEmpty() ? to_qt(window_.track_name.caption.get()) : air_.title;
     title_->set_text(air_.silence.isEmpty() ? known : "SILENCE depuis " + air_.silence);
-    title_->set_alarming(!air_.silence.isEmpty());
+    title_->set_ink(air_.silence.isEmpty() ? QColor{} : studio::trouble_text);
     remaining_->set_text(air_.left);
     remaining_->setAccessibleName("Temps restant");
     clock_->set_text(air_.clock);
@@ -156,14 +157,16 @@ QWidget* ListView::modes() {
          {&window_.random_lamp, &window_.random_mode},
          {&window_.defined_end_lamp, &window_.defined_end_mode},
          {&window_.full_length_lamp, &window_.full_length_mode}}};
+    std::vector<Segment*> segments;
     for (const auto& [picture, option] : choices) {
-        row->addLayout(dresser_.mode(*picture, *option));
+        segments.push_back(dresser_.mode(*picture, *option));
         stops_.push_back(binding_of(*option)->widget());
         binding_of(*option)->on_shown = [this, before = binding_of(*option)->on_shown] {
             before();
             tell_list();
         };
     }
+    row->addWidget(new SegmentedChoice{segments});
     row->addStretch(1);
     row->addWidget(headings_[1]);
     row->addLayout(insertion(window_.jingles_switch, window_.jingles_status, 11, "Insertion de jingles"));

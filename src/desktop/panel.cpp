@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "desktop/colours.h"
+#include "desktop/text_size.h"
 
 namespace sonarelle {
 
@@ -21,8 +22,17 @@ void Panel::set_plate(const QColor& plate) {
 
 void Panel::tell_ground() {
     QPalette told = palette();
-    told.setColor(QPalette::Window, accent_ == Accent::air ? mixed(plate_, studio::air, 0.10) : plate_);
+    told.setColor(QPalette::Window, card());
     setPalette(told);
+}
+
+// A light plate, under a dark ink, takes a breath of the accent.
+QColor Panel::card() const {
+    if (accent_ == Accent::none || plate_ != studio::card)
+        return mixed(plate_, colour_of(accent_), accent_ == Accent::none ? 0 : 0.12);
+    return accent_ == Accent::air    ? studio::air_card
+           : accent_ == Accent::next ? studio::next_card
+                                     : studio::trouble_card;
 }
 
 void Panel::set_accent(Accent accent) {
@@ -36,17 +46,21 @@ void Panel::set_accent(Accent accent) {
 void Panel::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor plate = palette().color(QPalette::Window);
-    plate.setAlphaF(0.94F);
-    painter.setBrush(plate);
-    painter.setPen(
-        QPen{accent_ == Accent::none ? studio::line : colour_of(accent_), accent_ == Accent::none ? 1.0 : 2.0});
-    painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 8, 8);
+    const double line = accent_ == Accent::none ? 1 : 2;
+    painter.setBrush(card());
+    painter.setPen(QPen{colour_of(accent_), line});
+    painter.drawRoundedRect(QRectF{rect()}.adjusted(line / 2, line / 2, -line / 2, -line / 2), studio::card_radius,
+                            studio::card_radius);
 }
 
 Lamp::Lamp(QWidget* parent)
     : QWidget{parent} {
-    setFixedSize(14, 14);
+    set_step(Step::compact);
+}
+
+void Lamp::set_step(Step step) {
+    const int size = scaled(step == Step::large ? 14 : 10);
+    setFixedSize(size, size);
 }
 
 void Lamp::set_accent(Accent accent) {
@@ -60,15 +74,9 @@ void Lamp::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const QColor colour = colour_of(accent_);
-    if (accent_ != Accent::none) {
-        QColor glow = colour;
-        glow.setAlphaF(0.3F);
-        painter.setBrush(glow);
-        painter.drawEllipse(rect());
-    }
+    const QColor colour = accent_ == Accent::none ? studio::field_line : colour_of(accent_);
     painter.setBrush(colour);
-    painter.drawEllipse(rect().adjusted(2, 2, -2, -2));
+    painter.drawEllipse(rect());
 }
 
 namespace {

@@ -8,7 +8,7 @@ class QBoxLayout;
 
 namespace sonarelle {
 
-/// A plate on which parts of a window stand; its edge is lit for the air and for what comes next.
+/// A card on which parts of a window stand; it is lit for the air, for what comes next and for a trouble.
 class Panel : public QWidget {
 public:
     explicit Panel(QWidget* parent = nullptr);
@@ -23,18 +23,19 @@ protected:
 
 private:
     void tell_ground();
+    [[nodiscard]] QColor card() const;
 
     Accent accent_ = Accent::none;
     QColor plate_;
 };
 
 /// A lamp: lit in its colour, or dark.
-class Lamp : public QWidget {
+class Lamp : public QWidget, public Stepped {
 public:
     explicit Lamp(QWidget* parent = nullptr);
 
     void set_accent(Accent accent);
-    [[nodiscard]] QSize sizeHint() const override { return {14, 14}; }
+    void set_step(Step step) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <array>
 
+#include "desktop/colours.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
 #include "desktop/text_size.h"
@@ -101,7 +102,7 @@ void SmallPlayerView::show_air(DeckRole role, const QString& title, const QStrin
     role_ = role;
     const auto [word, lamp] = look_of(role);
     state_->set_text(silence.isEmpty() ? QString{word}.toUpper() : "SILENCE " + silence);
-    state_->set_alarming(!silence.isEmpty());
+    state_->set_ink(silence.isEmpty() ? QColor{} : studio::trouble_text);
     lamp_->set_accent(silence.isEmpty() ? lamp : Accent::trouble);
     next_->set_accent(role == DeckRole::on_air ? Accent::next : Accent::none);
     title_->set_text(title);

@@ -18,6 +18,7 @@ namespace sonarelle {
 namespace {
 
 constexpr double capital_spacing = 107; // percent
+constexpr int fitted_slack = 4;         // pixels: wide-spaced letters are measured a little short
 
 } // namespace
 
@@ -49,10 +50,10 @@ void StationLabel::set_type() {
     setFont(font);
 }
 
-void StationLabel::set_alarming(bool alarming) {
-    if (alarming == alarming_)
+void StationLabel::set_ink(const QColor& ink) {
+    if (ink == ink_)
         return;
-    alarming_ = alarming;
+    ink_ = ink;
     update();
 }
 
@@ -60,9 +61,20 @@ void StationLabel::set_text(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
-    if (style_.wrapped)
+    if (style_.wrapped || style_.fitted)
         updateGeometry();
     update();
+}
+
+void StationLabel::set_narrow_text(const QString& text) {
+    narrow_text_ = text;
+    updateGeometry();
+    update();
+}
+
+const QString& StationLabel::shown_text() const {
+    const bool has_room = step_ != Step::narrow && width_of(text_) <= width() - 2 * margin();
+    return narrow_text_.isEmpty() || has_room ? text_ : narrow_text_;
 }
 
 void StationLabel::set_pressable(bool pressable) {
@@ -71,16 +83,39 @@ void StationLabel::set_pressable(bool pressable) {
     setCursor(pressable ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
+void StationLabel::set_fill(const QColor& fill) {
+    if (fill == fill_)
+        return;
+    fill_ = fill;
+    update();
+}
+
+// The mark of a letter isn't drawn.
+int StationLabel::width_of(const QString& text) const {
+    QString drawn = text;
+    if (style_.underlined)
+        drawn.remove('&');
+    return static_cast<int>(std::ceil(QFontMetricsF{font()}.horizontalAdvance(drawn)));
+}
+
+// Digits reach neither above capitals nor below the line.
+int StationLabel::line_height() const {
+    return style_.digits ? font().pixelSize() * 92 / 100 : fontMetrics().height() + 2;
+}
+
 QSize StationLabel::sizeHint() const {
-    const QFontMetrics metrics{font()};
-    const int width = metrics.horizontalAdvance('0') * style_.characters + 2 * margin();
-    return {width, style_.wrapped ? heightForWidth(width) : metrics.height() + (style_.framed ? 12 : 2)};
+    const int words =
+        style_.fitted ? width_of(text_) + fitted_slack : fontMetrics().horizontalAdvance('0') * style_.characters;
+    const int width = words + 2 * margin();
+    return {width, style_.wrapped ? heightForWidth(width) : line_height() + (style_.framed ? 10 : 0)};
 }
 
 QSize StationLabel::minimumSizeHint() const {
-    const QFontMetrics metrics{font()};
-    const int least = style_.digits || style_.framed ? sizeHint().width() : metrics.horizontalAdvance("000");
-    return {least, metrics.height() + (style_.framed ? 8 : 2)};
+    const int height = style_.digits ? line_height() : fontMetrics().height();
+    if (!narrow_text_.isEmpty())
+        return {width_of(narrow_text_) + fitted_slack + 2 * margin(), height};
+    const bool is_fixed = style_.digits || style_.framed || style_.fitted;
+    return {is_fixed ? sizeHint().width() : fontMetrics().horizontalAdvance("000"), height};
 }
 
 int StationLabel::heightForWidth(int width) const {
@@ -89,13 +124,11 @@ int StationLabel::heightForWidth(int width) const {
 }
 
 int StationLabel::width_of_text() const {
-    const int text = style_.digits ? width_of_figures(font(), text_)
-                                   : static_cast<int>(std::ceil(QFontMetricsF{font()}.horizontalAdvance(text_)));
-    return text + 2 * margin();
+    return (style_.digits ? width_of_figures(font(), shown_text()) : width_of(shown_text())) + 2 * margin();
 }
 
 bool StationLabel::is_cut() const {
-    return !style_.wrapped && width_of_text() > width();
+    return !style_.wrapped && !style_.shrinking && width_of_text() > width();
 }
 
 bool StationLabel::event(QEvent* event) {
@@ -118,7 +151,10 @@ void StationLabel::leaveEvent(QEvent* event) {
 // A framed text lies on a plate of its own, which is lighter under the pointer and darker while it is pressed.
 QColor StationLabel::ground() const {
     const QColor around = palette().color(QPalette::Window);
-    if (!style_.framed)
+    if (fill_.isValid())
+        return fill_;
+    const bool is_plain = style_.flat && !down_ && !underMouse();
+    if (!style_.framed || is_plain)
         return around;
     if (down_)
         return mixed(around, Qt::black, 0.35);
@@ -128,15 +164,17 @@ QColor StationLabel::ground() const {
 QColor StationLabel::ink() const {
     const QColor told = palette().color(QPalette::WindowText);
     const QColor below = ground();
-    if (alarming_)
-        return legible(mixed(studio::trouble, Qt::white, 0.25), below);
+    if (ink_.isValid())
+        return legible(ink_, below);
     return isEnabled() ? legible(style_.quiet ? mixed(told, below, 0.25) : told, below) : told;
 }
 
 void StationLabel::paint_frame(QPainter& painter) const {
     const QPen focus{studio::focus, 2};
+    if (fill_.isValid())
+        painter.fillRect(rect(), fill_);
     if (style_.framed) {
-        painter.setPen(hasFocus() ? focus : QPen{studio::line, 1});
+        painter.setPen(hasFocus() ? focus : style_.flat ? QPen{Qt::NoPen} : QPen{studio::line, 1});
         painter.setBrush(ground());
         painter.drawRoundedRect(QRectF{rect()}.adjusted(1, 1, -1, -1), 6, 6);
     } else if (hasFocus()) {
@@ -156,16 +194,24 @@ void StationLabel::paintEvent(QPaintEvent*) {
 void StationLabel::paint_text(QPainter& painter, const QRect& area) const {
     if (style_.wrapped)
         painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextWordWrap, text_);
-    else if (style_.digits)
+    else if (style_.digits) {
+        painter.setFont(font_that_fits(area.width()));
         draw_figures(painter, area, style_.alignment, text_);
-    else
+    } else
         paint_line(painter, area);
 }
 
 void StationLabel::paint_line(QPainter& painter, const QRect& area) const {
     const int marks = style_.underlined ? Qt::TextShowMnemonic : 0;
     painter.drawText(area, static_cast<int>(style_.alignment) | Qt::TextSingleLine | marks,
-                     fontMetrics().elidedText(text_, Qt::ElideRight, area.width(), marks));
+                     fontMetrics().elidedText(shown_text(), Qt::ElideRight, area.width(), marks));
+}
+
+QFont StationLabel::font_that_fits(int width) const {
+    QFont font = this->font();
+    if (const int total = width_of_figures(font, text_); style_.shrinking && total > width)
+        font.setPixelSize(std::max(1, font.pixelSize() * width / total));
+    return font;
 }
 
 // The background of the window takes the presses on a text that is no button.

@@ -7,7 +7,8 @@
 
 namespace sonarelle {
 
-/// A text that changes often and never moves what stands beside it: its size depends on its style alone.
+/// A text that changes often and never moves what stands beside it: its size depends on its style alone, but where it
+/// is fitted.
 /// What it has no room for is told whole where the pointer rests on it.
 /// Digits stand in cells of one width where the style asks for it. It can be pressed, by mouse and keyboard.
 class StationLabel : public QWidget, public Stepped {
@@ -17,11 +18,15 @@ public:
         bool bold = false;
         bool quiet = false;      ///< A heading or an aside.
         bool capitals = false;   ///< Wide-spaced ones, as headings have.
-        bool digits = false;     ///< In cells of one width.
+        bool digits = false;     ///< In cells of one width, as high as digits are.
+        bool shrinking = false;  ///< Digits that grow smaller rather than lose one.
         bool framed = false;     ///< Drawn as a button.
+        bool flat = false;       ///< A button whose plate is seen under the pointer alone.
         bool underlined = false; ///< The letter behind a mark in the text.
         bool wrapped = false;    ///< As many lines as it takes.
-        int characters = 12;     ///< The width that it asks for.
+        bool fitted = false;     ///< As wide as its text: for words that don't change while others stand beside them.
+        bool name = false;       ///< A name of any length, which may end in dots.
+        int characters = 12;     ///< The width that it asks for otherwise.
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
 
@@ -31,10 +36,14 @@ public:
 
     virtual void set_text(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
+    /// What stands there in the narrow step, and wherever the other has no room.
+    void set_narrow_text(const QString& text);
     void set_style(const Style& style);
     void set_step(Step step) override;
-    /// In the colour of trouble, whatever ink it was given.
-    void set_alarming(bool alarming);
+    /// An ink that stands before the told one, wherever it reads; an invalid colour takes it back.
+    void set_ink(const QColor& ink);
+    /// A ground of its own; an invalid colour takes it back.
+    void set_fill(const QColor& fill);
     /// Makes it a button for mouse and keyboard.
     void set_pressable(bool pressable);
 
@@ -44,6 +53,10 @@ public:
     [[nodiscard]] int width_of_text() const;
     /// The ink that its text has where it stands.
     [[nodiscard]] QColor ink() const;
+    /// Whether its text ends in dots, for want of room.
+    [[nodiscard]] bool is_cut() const;
+    [[nodiscard]] bool holds_a_name() const { return style_.name; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return style_.wrapped; }
@@ -63,7 +76,10 @@ protected:
 
 private:
     void set_type();
-    [[nodiscard]] bool is_cut() const;
+    [[nodiscard]] const QString& shown_text() const;
+    [[nodiscard]] int width_of(const QString& text) const;
+    [[nodiscard]] int line_height() const;
+    [[nodiscard]] QFont font_that_fits(int width) const;
     [[nodiscard]] QColor ground() const;
     void paint_frame(QPainter& painter) const;
     void paint_line(QPainter& painter, const QRect& area) const;
@@ -71,8 +87,10 @@ private:
     Style style_;
     Step step_ = Step::compact;
     QString text_;
+    QString narrow_text_;
     bool pressable_ = false;
-    bool alarming_ = false;
+    QColor ink_;
+    QColor fill_;
     bool down_ = false;
 };
 

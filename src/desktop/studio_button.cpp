@@ -12,7 +12,10 @@ namespace {
 
 constexpr int least_text_width = 8;
 constexpr int padding = 20;
-constexpr int ring = 2; ///< Of the focus: its width, and its distance from the face.
+constexpr int narrow_padding = 12;
+constexpr double lamp_radius = 4;
+constexpr int face_inset = 2; ///< Of the words from the edge, at least.
+constexpr int ring = 2;       ///< Of the focus: its width, and its distance from the face.
 
 // A picture without its edge.
 QRect inside(const QPixmap& picture) {
@@ -49,7 +52,8 @@ StudioButton::StudioButton(QWidget* parent)
 
 void StudioButton::set_step(Step step) {
     step_ = step;
-    QFont font = studio_font(size_ == ButtonSize::small ? Type::small : Type::base, step);
+    const bool is_small = size_ == ButtonSize::small || (size_ == ButtonSize::control && step == Step::narrow);
+    QFont font = studio_font(is_small ? Type::small : Type::base, step);
     font.setWeight(QFont::DemiBold);
     setFont(font);
     updateGeometry();
@@ -97,8 +101,15 @@ void StudioButton::set_marked(const QString& caption) {
 }
 
 QString StudioButton::shown_text() const {
-    const QString& words = step_ == Step::narrow ? narrow_words_ : words_;
-    return words.isEmpty() && sign_ == Sign::none ? text() : words;
+    if (words_.isEmpty())
+        return sign_ == Sign::none ? text() : QString{};
+    return step_ == Step::narrow || !has_room_for(words_) ? narrow_words_ : words_;
+}
+
+// Without a picture, which leaves its words out.
+bool StudioButton::has_room_for(const QString& words) const {
+    const int sign = sign_ == Sign::none ? 0 : sign_size() + sign_gap();
+    return QFontMetrics{shown_font()}.horizontalAdvance(words) + sign <= width() - 2 * face_inset;
 }
 
 // A word stays beside a picture; a sign of the font was there in its stead.
@@ -147,13 +158,17 @@ QSize StudioButton::sizeHint() const {
     if (!has_face() && shown_text().isEmpty())
         return {0, 0};
     const bool is_sign_alone = sign_ != Sign::none && !has_text_beside();
-    int width = is_sign_alone ? 0 : !has_picture() || has_text_beside() ? metrics.horizontalAdvance(shown_text()) : 0;
+    const QString wished = words_.isEmpty() || step_ == Step::narrow ? shown_text() : words_;
+    int width = is_sign_alone ? 0 : !has_picture() || has_text_beside() ? metrics.horizontalAdvance(wished) : 0;
     if (has_picture())
         width += inside(pictures_.rest).width() / 2;
     else if (sign_ != Sign::none)
         width += sign_size() + (is_sign_alone ? 0 : studio::grid);
     const bool is_picture_alone = has_picture() && !has_text_beside();
-    return {std::max(least_width_, width + (is_picture_alone ? 0 : padding)), height};
+    return {std::max(least_width_, width + (is_picture_alone        ? 0
+                                            : step_ == Step::narrow ? narrow_padding
+                                                                    : padding)),
+            height};
 }
 
 QSize StudioButton::minimumSizeHint() const {
@@ -239,7 +254,7 @@ void StudioButton::paint_face(QPainter& painter, const Plate& plate) const {
 // Dark it is a ring, so that its colour isn't all that tells it from a lit one.
 void StudioButton::paint_lamp(QPainter& painter) const {
     const QPointF centre = QRectF{rect()}.center();
-    const double half = std::min(width(), height()) * 0.22;
+    const double half = std::min(lamp_radius, std::min(width(), height()) / 2.0 - 1);
     if (accent_ != Accent::none) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(colour_of(accent_));
@@ -252,7 +267,7 @@ void StudioButton::paint_lamp(QPainter& painter) const {
 }
 
 void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
-    const int side = has_face() ? studio::half_grid : 0;
+    const int side = has_face() ? face_inset : 0;
     QRect area = rect().adjusted(side, 0, -side, 0);
     if (sign_ != Sign::none)
         area = paint_with_sign(painter, area, ink);
@@ -262,10 +277,28 @@ void StudioButton::paint_content(QPainter& painter, const QColor& ink) const {
         paint_text(painter, area, ink);
 }
 
-void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor& ink) const {
+QFont StudioButton::shown_font() const {
     QFont shown = font();
     if (is_lit())
         shown.setBold(true);
+    return shown;
+}
+
+int StudioButton::words_width() const {
+    const bool shows_words = sign_ != Sign::none ? has_text_beside() : !has_picture();
+    return shows_words ? QFontMetrics{shown_font()}.horizontalAdvance(shown_text()) : 0;
+}
+
+int StudioButton::sign_gap() const {
+    return step_ == Step::narrow ? studio::half_grid : studio::grid;
+}
+
+bool StudioButton::is_cut() const {
+    return has_face() && words_width() > 0 && !has_room_for(shown_text());
+}
+
+void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor& ink) const {
+    const QFont shown = shown_font();
     painter.setFont(shown);
     painter.setPen(ink);
     const Qt::Alignment place = sign_ != Sign::none ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
@@ -278,10 +311,8 @@ void StudioButton::paint_text(QPainter& painter, const QRect& area, const QColor
 // Sign and words stand in the middle together. Returns the room of the words.
 QRect StudioButton::paint_with_sign(QPainter& painter, const QRect& area, const QColor& ink) const {
     const int sign = std::min(sign_size(), area.width());
-    QFont bold = font();
-    bold.setBold(true);
-    const int words = has_text_beside() ? QFontMetrics{bold}.horizontalAdvance(shown_text()) : 0;
-    const int gap = words == 0 ? 0 : step_ == Step::narrow ? studio::half_grid : studio::grid;
+    const int words = words_width();
+    const int gap = words == 0 ? 0 : sign_gap();
     const int left = area.left() + std::max(0, (area.width() - sign - gap - words) / 2);
     paint_sign(painter, sign_, QRectF(left, area.top(), sign, area.height()), sign, ink);
     const int after = left + sign + gap;

@@ -44,6 +44,9 @@ public:
     void set_least_width(int pixels);
     void set_step(Step step) override;
 
+    /// Whether its words end in dots, for want of room.
+    [[nodiscard]] bool is_cut() const;
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -59,6 +62,7 @@ private:
     [[nodiscard]] bool is_under_pointer() const { return isEnabled() && underMouse(); }
     [[nodiscard]] bool is_lit() const;
     [[nodiscard]] QString shown_text() const;
+    [[nodiscard]] bool has_room_for(const QString& words) const;
     [[nodiscard]] int sign_size() const;
     [[nodiscard]] int height_of_face() const;
     [[nodiscard]] const QPixmap& shown_picture() const;
@@ -72,6 +76,9 @@ private:
     void paint_lamp(QPainter& painter) const;
     void paint_content(QPainter& painter, const QColor& ink) const;
     void paint_text(QPainter& painter, const QRect& area, const QColor& ink) const;
+    [[nodiscard]] QFont shown_font() const;
+    [[nodiscard]] int words_width() const;
+    [[nodiscard]] int sign_gap() const;
     QRect paint_with_sign(QPainter& painter, const QRect& area, const QColor& ink) const;
     QRect paint_picture(QPainter& painter, const QRect& area) const;
 

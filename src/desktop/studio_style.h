@@ -7,7 +7,7 @@ namespace sonarelle {
 /// A property of an option: a lamp stands beside it and shows whether it is chosen, so it draws no mark of its own.
 inline constexpr const char* lamp_stands_beside = "lamp_stands_beside";
 
-/// The toolkit's plain style, with the keyboard's focus drawn as on the studio's own buttons.
+/// The toolkit's plain style, with its controls drawn in the studio's tokens.
 class StudioStyle : public QProxyStyle {
 public:
     StudioStyle()
@@ -21,6 +21,8 @@ public:
                       const QString& text, QPalette::ColorRole role) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                       const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* data) const override;
 };

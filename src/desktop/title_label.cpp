@@ -49,13 +49,25 @@ void TitleLabel::set_text(const QString& text) {
     }
 }
 
-void TitleLabel::set_heard(const QString& name) {
-    if (name == heard_)
+void TitleLabel::set_file(const QString& name) {
+    if (name == file_)
         return;
-    heard_ = name;
+    file_ = name;
     step_.stop();
     shift_ = 0;
     update();
+}
+
+// What parts a turning title from its beginning isn't part of one that stands still.
+QString TitleLabel::shown() const {
+    if (!file_.isEmpty())
+        return file_;
+    QString still = title_.still().trimmed();
+    if (still.startsWith("- "))
+        still.remove(0, 2);
+    if (still.endsWith(" -"))
+        still.chop(2);
+    return still;
 }
 
 bool TitleLabel::fits(int width) const {
@@ -69,7 +81,7 @@ void TitleLabel::turn_on() {
 }
 
 void TitleLabel::paint_text(QPainter& painter, const QRect& area) const {
-    const QString still = heard_.isEmpty() ? title_.still() : heard_ + " - ";
+    const QString still = file_.isEmpty() ? title_.still() : file_ + " - ";
     if (!is_turning() || fits(area.width()))
         return painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                                 fontMetrics().elidedText(shown(), Qt::ElideRight, area.width()));

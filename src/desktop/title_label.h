@@ -17,7 +17,7 @@ private:
     QString still_;
 };
 
-/// The title of a deck: the name of what is heard on it, and of any other deck what the station says. One that fits
+/// The title of a deck: the name of its file, and of a deck without one what the station says. One that fits
 /// stands still, whatever the station turns; one that is cut turns while the station turns it, by pixels, and ends in
 /// dots otherwise.
 class TitleLabel : public StationLabel {
@@ -25,10 +25,10 @@ public:
     explicit TitleLabel(const Style& style, QWidget* parent = nullptr);
 
     void set_text(const QString& text) override;
-    /// Empty where nothing is heard.
-    void set_heard(const QString& name);
+    /// The name of the file that it speaks of; empty leaves it to the station.
+    void set_file(const QString& name);
     /// What stands there, or turns.
-    [[nodiscard]] const QString& shown() const { return heard_.isEmpty() ? title_.still() : heard_; }
+    [[nodiscard]] QString shown() const;
     [[nodiscard]] bool is_turning() const { return step_.isActive(); }
 
 protected:
@@ -39,7 +39,7 @@ private:
     void turn_on();
 
     TurnedTitle title_;
-    QString heard_;
+    QString file_;
     QTimer step_; ///< Goes while the title turns and is cut.
     QTimer rest_; ///< Until the station has missed a turn.
     int shift_ = 0;

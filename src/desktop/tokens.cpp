@@ -6,26 +6,28 @@ namespace sonarelle {
 
 namespace {
 
-// The narrow step has the compact one's type: it saves words instead.
+// The narrow step saves words before it saves type.
 struct TypeRow {
+    int narrow;
     int compact;
     int large;
 };
 
 constexpr std::array types{
-    TypeRow{11, 13},  // tiny
-    TypeRow{12, 14},  // small
-    TypeRow{13, 15},  // base
-    TypeRow{13, 16},  // row
-    TypeRow{14, 17},  // medium
-    TypeRow{14, 22},  // following
-    TypeRow{16, 20},  // list_title
-    TypeRow{18, 26},  // deck_title
-    TypeRow{22, 38},  // figure
-    TypeRow{34, 42},  // list_remaining
-    TypeRow{34, 56},  // clock
-    TypeRow{24, 44},  // air_title
-    TypeRow{62, 124}, // remaining
+    TypeRow{11, 11, 13},  // tiny
+    TypeRow{12, 12, 14},  // small
+    TypeRow{13, 13, 15},  // base
+    TypeRow{13, 13, 16},  // row
+    TypeRow{14, 14, 17},  // medium
+    TypeRow{14, 14, 22},  // following
+    TypeRow{16, 16, 20},  // list_title
+    TypeRow{18, 18, 26},  // deck_title
+    TypeRow{20, 22, 38},  // figure
+    TypeRow{34, 34, 42},  // list_remaining
+    TypeRow{34, 34, 56},  // clock
+    TypeRow{24, 24, 44},  // air_title
+    TypeRow{62, 62, 124}, // remaining
+    TypeRow{38, 44, 88},  // alarm
 };
 
 constexpr StepLengths compact{.margin = 8,
@@ -62,7 +64,7 @@ constexpr ListLengths large_list{
 
 int pixels_of(Type type, Step step) {
     const TypeRow& row = types[static_cast<std::size_t>(type)];
-    return step == Step::large ? row.large : row.compact;
+    return step == Step::large ? row.large : step == Step::narrow ? row.narrow : row.compact;
 }
 
 const StepLengths& lengths_of(Step step) {

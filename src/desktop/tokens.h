@@ -82,7 +82,8 @@ enum class Type {
     list_remaining,
     clock,
     air_title,
-    remaining
+    remaining,
+    alarm
 };
 
 /// The step of the desk at a size of its window.

@@ -37,7 +37,8 @@ void WindowGround::show(const Window& window, PictureStore& pictures, QWidget& c
     QPalette told = content.palette();
     told.setColor(QPalette::Window, picture_.isNull() ? colour_ : mean_);
     content.setPalette(told);
-    const QColor plate = ground_for(ink, window.back_colour, studio::card);
+    const bool reads = contrast(to_qt(ink, studio::text), studio::card) >= readable;
+    const QColor plate = reads ? studio::card : studio::tip;
     for (QWidget* part : content.findChildren<QWidget*>())
         if (auto* panel = dynamic_cast<Panel*>(part))
             panel->set_plate(plate);

@@ -1,53 +1,78 @@
 #include "desktop/deck_panel.h"
 
 #include <QBoxLayout>
+#include <QGridLayout>
 #include <QSlider>
 
 #include "desktop/colours.h"
 #include "desktop/progress_strip.h"
 #include "desktop/qt_text.h"
+#include "desktop/text_size.h"
+#include "desktop/time_text.h"
 #include "desktop/title_label.h"
+#include "desktop/volume_bar.h"
 
 namespace sonarelle {
 
 namespace {
 
-constexpr int least_transport_height = 36;
-constexpr StationLabel::Style aside{.type = Type::tiny, .quiet = true, .characters = 11};
-constexpr StationLabel::Style figure{.type = Type::figure, .digits = true, .characters = 5};
-constexpr StationLabel::Style right_figure{
-    .type = Type::figure, .digits = true, .characters = 5, .alignment = Qt::AlignRight | Qt::AlignVCenter};
+constexpr auto at_right = Qt::AlignRight | Qt::AlignVCenter;
 
-StationLabel* aside_label(const QString& text, Qt::Alignment alignment = Qt::AlignLeft) {
-    auto* label = new StationLabel{aside};
-    auto style = aside;
-    style.alignment = alignment | Qt::AlignVCenter;
-    label->set_style(style);
+/// Heights of a deck's rows and widths of its transport, in pixels; the zap has what is left besides.
+struct DeckLengths {
+    int heading, title, details, figures, least_wave;
+    std::array<int, 8> transport;
+    int gap;
+};
+
+constexpr std::size_t zap_place = 6;
+constexpr DeckLengths narrow{20, 24, 16, 36, 40, {30, 40, 30, 30, 30, 30, 36, 44}, 4};
+constexpr DeckLengths compact{20, 24, 16, 36, 40, {36, 52, 36, 36, 36, 36, 36, 56}, 4};
+constexpr DeckLengths large{22, 32, 18, 54, 106, {48, 72, 48, 48, 48, 48, 48, 88}, 8};
+
+const DeckLengths& deck_lengths_of(Step step) {
+    return step == Step::large ? large : step == Step::narrow ? narrow : compact;
+}
+
+StationLabel* label_of(const StationLabel::Style& style, const QString& text = {}) {
+    auto* label = new StationLabel{style};
     label->set_text(text);
     return label;
 }
 
 struct RoleLook {
-    Accent frame;
+    Accent card;
     Accent lamp;
-    const char* word;
+    QString word;
 };
 
-RoleLook look_of(DeckRole role) {
-    switch (role) {
+RoleLook look_of(const DeckLook& look) {
+    if (look.is_refused)
+        return {Accent::trouble, Accent::trouble, "NON TROUVÉ"};
+    switch (look.role) {
     case DeckRole::loaded:
-        return {Accent::next, Accent::next, "chargé"};
+        return look.is_next ? RoleLook{Accent::next, Accent::next, "CHARGÉ, SUIVANT"}
+                            : RoleLook{Accent::none, Accent::none, "CHARGÉ"};
     case DeckRole::heard:
-        return {Accent::none, Accent::air, "en lecture"};
+        return {Accent::none, Accent::air, "EN LECTURE"};
     case DeckRole::on_air:
-        return {Accent::air, Accent::air, "à l'antenne"};
+        return look.is_unheard ? RoleLook{Accent::trouble, Accent::trouble, "JOUE SANS SORTIE"}
+                               : RoleLook{Accent::air, Accent::air, "À L'ANTENNE"};
     case DeckRole::paused:
-        return {Accent::air, Accent::next, "en pause"};
+        return {Accent::air, Accent::next, "EN PAUSE"};
     case DeckRole::ended:
+        return {Accent::none, Accent::none, look.file.isEmpty() ? "" : "ARRÊTÉ"};
     case DeckRole::empty:
         break;
     }
     return {Accent::none, Accent::none, ""};
+}
+
+QColor ink_of(Accent accent) {
+    return accent == Accent::air       ? studio::air_text
+           : accent == Accent::next    ? studio::next_text
+           : accent == Accent::trouble ? studio::trouble_text
+                                       : studio::text;
 }
 
 } // namespace
@@ -56,130 +81,155 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     : Panel{parent},
       view_{view},
       controls_{controls},
+      number_{number},
+      grid_{new QGridLayout{this}},
       lamp_{new Lamp{this}},
-      state_{aside_label({}, Qt::AlignRight)},
-      elapsed_{new StationLabel{figure, this}} {
+      name_{label_of({.type = Type::small, .bold = true, .capitals = true, .fitted = true},
+                     "LECTEUR " + QString::number(number))},
+      state_{label_of({.type = Type::small, .bold = true, .characters = 12})},
+      kind_{label_of({.type = Type::small, .quiet = true, .characters = 5, .alignment = at_right})},
+      details_{label_of({.type = Type::small, .quiet = true, .characters = 24})},
+      elapsed_{label_of({.type = Type::figure, .bold = true, .digits = true, .shrinking = true, .characters = 4}, "0")},
+      left_{label_of({.type = Type::figure,
+                      .bold = true,
+                      .digits = true,
+                      .shrinking = true,
+                      .characters = 7,
+                      .alignment = at_right})} {
     Dresser dresser{view};
-    auto* left = new QVBoxLayout;
-    left->setSpacing(5);
-    left->addLayout(heading(number));
-    title_ = dresser.title(controls.title, {.type = Type::deck_title, .bold = true, .characters = 16});
-    left->addWidget(title_);
-    left->addLayout(figures(dresser));
-    progress_ = dresser.progress(controls.progress);
-    progress_->setAccessibleName("Position, lecteur " + QString::number(number));
-    progress_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding); // the shape takes what height there is
-    left->addWidget(progress_, 1);
-    left->addLayout(transport(dresser, number));
-    auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(12, 10, 10, 10);
-    row->setSpacing(10);
-    row->addLayout(left, 1);
-    row->addLayout(volume(dresser, slider_stand_in));
+    build_labels(dresser);
+    build_transport(dresser);
+    build_volume(dresser, slider_stand_in);
+    lay_out();
+    set_step(Step::compact);
     view.binding_of(controls.open)->take_drops_on(*this);
-    view.binding_of(controls.progress)->on_shown = [this] { show_elapsed(); };
+    view.binding_of(controls.progress)->on_shown = [this] { show_times(); };
+    show_look({});
 }
 
-QLayout* DeckPanel::heading(int number) {
-    auto* name = aside_label("LECTEUR " + QString::number(number));
-    auto* row = row_of({lamp_, name, nullptr, state_});
-    // The station's own mark of the main deck: the lamp shows it.
-    auto* mark = Dresser{view_}.image(controls_.playing_mark, "▶");
-    mark->set_look(ButtonLook::picture);
-    mark->setMaximumSize(18, 18);
-    mark->setFocusPolicy(Qt::NoFocus);
-    // The deck's parts stay where they are when it comes.
-    QSizePolicy room = mark->sizePolicy();
-    room.setRetainSizeWhenHidden(true);
-    mark->setSizePolicy(room);
-    row->addWidget(mark);
+void DeckPanel::build_labels(Dresser& dresser) {
+    title_ = dresser.title(controls_.title, {.type = Type::deck_title, .bold = true, .name = true, .characters = 16});
+    end_ = dresser.label(controls_.counter,
+                         {.type = Type::figure, .bold = true, .digits = true, .shrinking = true, .characters = 4});
+    progress_ = dresser.progress(controls_.progress);
+    progress_->setAccessibleName("Position, lecteur " + QString::number(number_));
+    progress_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding); // the shape takes what height there is
+    const StationLabel::Style word{.type = Type::tiny, .quiet = true, .characters = 6};
+    words_ = {label_of(word, "écoulé"), label_of(word, "fin"), label_of(word, "reste")};
+    dresser.unseen(controls_.playing_mark); // the lamp shows the main deck
+}
+
+void DeckPanel::build_transport(Dresser& dresser) {
+    const QString number = QString::number(number_);
+    const QString next = QString::number(number_ % 3 + 1);
+    constexpr std::array keys{"F8", "F9", "F11"};
+    const QString key = keys[static_cast<std::size_t>(number_ - 1)];
+    buttons_ = {dresser.button(controls_.open), dresser.button(controls_.play),
+                dresser.button(controls_.stop), dresser.button(controls_.pause),
+                dresser.button(controls_.back), dresser.button(controls_.forward),
+                dresser.button(controls_.zap),  dresser.button(controls_.special_mix)};
+    constexpr std::array signs{Sign::open, Sign::play, Sign::stop, Sign::pause, Sign::back, Sign::forward};
+    for (std::size_t place = 0; place < signs.size(); ++place)
+        buttons_[place]->set_sign(signs[place]);
+    buttons_[zap_place]->set_sign(Sign::zap, "Play " + next, next);
+    buttons_.back()->set_words("Mix " + key, key);
+    buttons_[0]->setAccessibleName("Ouvrir, lecteur " + number);
+    buttons_[1]->setAccessibleName("Lecture, lecteur " + number);
+}
+
+void DeckPanel::build_volume(Dresser& dresser, Label& slider_stand_in) {
+    slider_ = dresser.slider(controls_.slider, Qt::Vertical);
+    // Full is at the top, and the keys follow the eye.
+    slider_->setInvertedAppearance(true);
+    slider_->setInvertedControls(true);
+    dresser.unseen(slider_stand_in); // the bar stands there
+    bar_ = new VolumeBar;
+    view_.binding_of(controls_.slider)->on_shown = [this] { show_volume(); };
+    percent_ = dresser.label(controls_.percent,
+                             {.type = Type::base, .bold = true, .characters = 5, .alignment = Qt::AlignCenter});
+    volume_buttons_ = {dresser.button(controls_.quieter), dresser.button(controls_.louder),
+                       dresser.button(controls_.keep_volume)};
+    volume_buttons_[0]->set_sign(Sign::minus);
+    volume_buttons_[1]->set_sign(Sign::plus);
+    volume_buttons_[2]->set_words("Vol.");
+    for (StudioButton* button : volume_buttons_) {
+        button->set_size(ButtonSize::small);
+        button->set_least_width(24);
+    }
+}
+
+QLayout* DeckPanel::heading() {
+    auto* row = row_of({lamp_, name_, state_, kind_}, studio::grid);
+    row->setStretchFactor(state_, 1);
     return row;
 }
 
-QLayout* DeckPanel::figures(Dresser& dresser) {
-    auto* end = dresser.label(controls_.counter, right_figure);
+QLayout* DeckPanel::figures() {
     auto* grid = new QGridLayout;
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
-    grid->addWidget(elapsed_, 0, 0, Qt::AlignLeft);
-    grid->addWidget(end, 0, 1, Qt::AlignRight);
-    grid->addWidget(aside_label("écoulé"), 1, 0);
-    grid->addWidget(aside_label("fin", Qt::AlignRight), 1, 1);
-    elapsed_->set_text("0");
-    return grid;
-}
-
-QLayout* DeckPanel::transport(Dresser& dresser, int number) {
-    auto* open = dresser.button(controls_.open, "Ouvrir");
-    open->setAccessibleName("Ouvrir, lecteur " + QString::number(number));
-    play_ = dresser.button(controls_.play, "▶");
-    play_->setAccessibleName("Lecture, lecteur " + QString::number(number));
-    auto* stop = dresser.button(controls_.stop, "■");
-    auto* pause = dresser.button(controls_.pause, "II");
-    auto* back = dresser.button(controls_.back, "◀◀");
-    auto* forward = dresser.button(controls_.forward, "▶▶");
-    zap_ = dresser.button(controls_.zap, "→ Play" + QString::number(number % 3 + 1));
-    constexpr std::array keys{"F8", "F9", "F11"};
-    auto* mix =
-        dresser.button(controls_.special_mix, QStringLiteral("Mix ") + keys[static_cast<std::size_t>(number - 1)]);
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(5);
-    grid->setVerticalSpacing(5);
-    grid->addWidget(open, 0, 0, 1, 3);
-    int column = 3;
-    for (StudioButton* button : {play_, stop, pause}) {
-        grid->addWidget(button, 0, column, 1, 3);
-        column += 3;
+    const std::array<StationLabel*, 3> figures{elapsed_, end_, left_};
+    for (int column = 0; column < 3; ++column) {
+        const auto place = static_cast<std::size_t>(column);
+        const Qt::Alignment side = column == 2 ? Qt::AlignRight : Qt::AlignLeft;
+        grid->addWidget(words_[place], 0, column, side);
+        grid->addWidget(figures[place], 1, column, side);
+        grid->setColumnStretch(column, column == 2 ? 0 : 1);
     }
-    grid->addWidget(back, 1, 0, 1, 2);
-    grid->addWidget(forward, 1, 2, 1, 2);
-    grid->addWidget(zap_, 1, 4, 1, 5);
-    grid->addWidget(mix, 1, 9, 1, 3);
-    for (StudioButton* button : {open, play_, stop, pause, back, forward, zap_, mix})
-        button->setMinimumHeight(least_transport_height);
-    for (int i = 0; i < 12; ++i)
-        grid->setColumnStretch(i, 1);
     return grid;
 }
 
-QLayout* DeckPanel::volume(Dresser& dresser, Label& slider_stand_in) {
-    auto* louder = dresser.button(controls_.louder, "+");
-    auto* quieter = dresser.button(controls_.quieter, "−");
-    auto* slider = dresser.slider(controls_.slider, Qt::Vertical);
-    // Full is at the top, and the keys follow the eye.
-    slider->setInvertedAppearance(true);
-    slider->setInvertedControls(true);
-    slider->setMinimumHeight(70);
-    auto* stand_in = dresser.label(slider_stand_in, {.characters = 3, .alignment = Qt::AlignCenter});
-    auto* percent = dresser.label(controls_.percent, {.digits = true, .characters = 5, .alignment = Qt::AlignCenter});
-    auto* keep = dresser.button(controls_.keep_volume, "Vol.");
-    auto* column = new QVBoxLayout;
-    column->setSpacing(4);
-    for (StudioButton* button : {louder, quieter, keep})
-        button->set_least_width(44);
-    column->addWidget(louder, 0, Qt::AlignHCenter);
-    column->addWidget(slider, 1, Qt::AlignHCenter);
-    column->addWidget(stand_in, 0, Qt::AlignHCenter);
-    column->addWidget(quieter, 0, Qt::AlignHCenter);
-    column->addWidget(percent, 0, Qt::AlignHCenter);
-    column->addWidget(keep, 0, Qt::AlignHCenter);
-    column->addStretch(0); // the slider may be hidden
+QLayout* DeckPanel::transport() {
+    auto* row = row_of({}, studio::half_grid);
+    for (StudioButton* button : buttons_)
+        row->addWidget(button);
+    row->setStretchFactor(buttons_[zap_place], 1);
+    return row;
+}
+
+QLayout* DeckPanel::volume() {
+    auto* steps = row_of({volume_buttons_[0], volume_buttons_[1]}, studio::half_grid);
+    auto* column = column_of({percent_}, studio::half_grid);
+    column->addWidget(slider_, 1, Qt::AlignHCenter);
+    column->addWidget(bar_, 1, Qt::AlignHCenter);
+    column->addLayout(steps);
+    column->addWidget(volume_buttons_[2]);
     return column;
 }
 
-void DeckPanel::show_elapsed() {
-    elapsed_->set_text(QString::number(controls_.progress.value.get()));
+void DeckPanel::lay_out() {
+    grid_->addLayout(heading(), 0, 0);
+    grid_->addWidget(title_, 1, 0);
+    grid_->addWidget(details_, 2, 0);
+    grid_->addLayout(figures(), 3, 0);
+    grid_->addWidget(progress_, 4, 0);
+    grid_->addLayout(volume(), 0, 1, 5, 1);
+    grid_->addLayout(transport(), 5, 0, 1, 2);
+    grid_->setColumnStretch(0, 1);
+    grid_->setRowStretch(4, 1);
+}
+
+void DeckPanel::set_step(Step step) {
+    const StepLengths& lengths = lengths_of(step);
+    const DeckLengths& own = deck_lengths_of(step);
+    const QSize margin = lengths.card_margin;
+    grid_->setContentsMargins(margin.width(), margin.height(), margin.width(), margin.height());
+    grid_->setVerticalSpacing(studio::half_grid);
+    grid_->setHorizontalSpacing(lengths.margin + studio::half_grid);
+    grid_->setColumnMinimumWidth(1, scaled(lengths.volume));
+    const std::array rows{own.heading, own.title, own.details, own.figures, own.least_wave};
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        grid_->setRowMinimumHeight(static_cast<int>(row), scaled(rows[row]));
+    kind_->setVisible(step != Step::narrow);
+    for (std::size_t place = 0; place < buttons_.size(); ++place) {
+        buttons_[place]->set_least_width(scaled(own.transport[place]));
+        buttons_[place]->setMaximumWidth(place == zap_place ? QWIDGETSIZE_MAX : scaled(own.transport[place]));
+    }
 }
 
 void DeckPanel::show_look(const DeckLook& look) {
-    const auto [frame, lamp, word] = look_of(look.role);
-    const bool on_air = look.role == DeckRole::on_air;
-    set_accent(frame);
-    lamp_->set_accent(lamp);
-    play_->set_accent(on_air ? Accent::air : Accent::none);
-    zap_->set_accent(on_air ? Accent::next : Accent::none);
-    state_->set_text(word);
-    title_->set_heard(look.heard);
-    progress_->set_fill(lamp == Accent::air ? studio::air : studio::next);
+    look_ = look;
+    show_state();
     const double whole = controls_.progress.maximum;
     const auto share = [&](std::optional<double> second) -> std::optional<double> {
         const bool shown = look.role != DeckRole::empty && second && whole > 0;
@@ -187,10 +237,47 @@ void DeckPanel::show_look(const DeckLook& look) {
     };
     progress_->set_sound(look.sound, whole);
     progress_->set_marks(share(look.mix_point), share(look.end_point));
-    if (look.elapsed && whole > 0) {
-        progress_->set_share(*look.elapsed / whole);
-        elapsed_->set_text(QString::number(*look.elapsed));
-    }
+    show_times();
+}
+
+void DeckPanel::show_state() {
+    const auto [card, lamp, word] = look_of(look_);
+    const bool on_air = look_.role == DeckRole::on_air;
+    set_accent(card);
+    lamp_->set_accent(lamp);
+    state_->set_text(word);
+    state_->set_ink(ink_of(card));
+    kind_->set_text(look_.kind);
+    buttons_[1]->set_accent(on_air ? Accent::air : Accent::none);
+    buttons_[zap_place]->set_accent(on_air ? Accent::next : Accent::none);
+    title_->set_file(look_.file);
+    progress_->set_fill(lamp == Accent::next ? studio::next : studio::air);
+    progress_->set_output(!look_.is_unheard);
+}
+
+// While the slider is hidden the bar in its place can't be moved.
+void DeckPanel::show_volume() {
+    const Slider& slider = controls_.slider;
+    const int span = slider.maximum - slider.minimum;
+    bar_->setVisible(!slider.visible);
+    bar_->set_share(span > 0 ? 1.0 * (slider.maximum - slider.value()) / span : 1);
+}
+
+void DeckPanel::show_times() {
+    const bool is_empty = look_.role == DeckRole::empty;
+    const double whole = controls_.progress.maximum;
+    const int elapsed = look_.elapsed.value_or(static_cast<int>(controls_.progress.value.get()));
+    if (look_.elapsed && whole > 0)
+        progress_->set_share(*look_.elapsed / whole);
+    elapsed_->set_text(QString::number(elapsed));
+    const int end = static_cast<int>(look_.end_point.value_or(0));
+    left_->set_text(clock_text(is_empty ? 0 : look_.left.value_or(end - elapsed)));
+    QString details = clock_text(is_empty ? 0 : static_cast<int>(whole));
+    if (!is_empty && look_.mix_point)
+        details += "  ·  mix a " + QString::number(static_cast<int>(*look_.mix_point)) + " s";
+    if (look_.role == DeckRole::ended && !look_.file.isEmpty())
+        details += "  ·  En attente";
+    details_->set_text(details);
 }
 
 } // namespace sonarelle

@@ -2,6 +2,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QStyle>
 #include <QTime>
@@ -18,6 +19,7 @@
 #include "desktop/properties_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/small_player_view.h"
+#include "desktop/time_text.h"
 #include "platform/calendar_text.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -160,33 +162,46 @@ void Desktop::show_missing() {
 }
 
 void Desktop::show_decks() {
-    for (Deck& deck : desk_.ring.decks) {
-        DeckLook look{.role = role_of(desk_, deck),
-                      .heard = to_qt(name_heard(desk_, deck)),
-                      .elapsed = std::nullopt,
-                      .mix_point = std::nullopt,
-                      .end_point = seconds_of(deck)};
-        if (services_.waveform_of && look.role != DeckRole::empty)
-            look.sound = services_.waveform_of(deck.path);
-        if (begins_anew(deck, look.role)) // the bar stands at 0
-            look.elapsed = static_cast<int>(Fix(deck.start_of_play()));
-        if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
-            ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
-        if (look.end_point)
-            look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
-        main_->show_look(deck.number(), look);
-    }
+    for (Deck& deck : desk_.ring.decks)
+        main_->show_look(deck.number(), look_of(deck));
     name_keys_of_decks();
     main_->show_played("Nombre de fichiers lus : " + QString::number(desk_.chain.nb_fichiers_ecoutes.value()));
     show_air();
     show_list();
 }
 
+DeckLook Desktop::look_of(Deck& deck) {
+    DeckLook look;
+    look.role = role_of(desk_, deck);
+    look.end_point = seconds_of(deck);
+    look.is_refused = deck.controls.title.caption.get() == missing_title;
+    if (look.role == DeckRole::empty)
+        return look;
+    const bool sounds = look.role == DeckRole::on_air || look.role == DeckRole::heard;
+    look.is_next = desk_.ring.has_main_deck() && deck.number() == next_deck(desk_.ring.main_deck().number());
+    look.is_unheard = sounds && lost_.isValid();
+    look.file = to_qt(name_without_ending(deck.path));
+    look.kind = QFileInfo{to_qt(deck.path)}.suffix().toUpper();
+    if (deck_on_air(desk_) == &deck)
+        look.left = seconds_left(desk_);
+    if (services_.waveform_of)
+        look.sound = services_.waveform_of(deck.path);
+    if (begins_anew(deck, look.role)) // the bar stands at 0
+        look.elapsed = static_cast<int>(Fix(deck.start_of_play()));
+    if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
+        ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
+    if (look.end_point)
+        look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
+    return look;
+}
+
 void Desktop::show_air() {
     const Deck* deck = deck_on_air(desk_);
     const QString title = name_on_air();
     const QString silence = to_qt(silence_text(desk_));
-    const QString left = QTime{0, 0}.addSecs(seconds_left(desk_)).toString("HH:mm:ss");
+    const QString left = clock_text(seconds_left(desk_));
+    const auto silent = silent_seconds(desk_);
+    const QString since = silent ? QTime::fromString(clock_, "HH:mm:ss").addSecs(-*silent).toString("HH:mm:ss") : "";
     main_->show_air({.role = air_role(desk_),
                      .deck = deck == nullptr ? 0 : deck->number(),
                      .title = title,
@@ -195,11 +210,27 @@ void Desktop::show_air() {
                      .next = what_follows(),
                      .suspended = waits_for_special_mix(desk_),
                      .notice = notice(),
-                     .silence = silence});
+                     .silence = silence,
+                     .silent_since = since,
+                     .lost_for = lost_.isValid() ? clock_text(static_cast<int>(lost_.elapsed() / 1000)).mid(3) : "",
+                     .station = station_line()});
     main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
     list_->follow_step(step_of(main_->size()));
     list_->show_air({.title = title, .left = left, .clock = clock_, .silence = silence});
     player_->show_air(air_role(desk_), title, silence);
+}
+
+QString Desktop::station_line() const {
+    const bool writes = desk_.chain.journal_actif.is_true();
+    return to_qt(desk_.settings.nom_radio) + (writes ? "  ·  journal activé" : "  ·  journal désactivé");
+}
+
+// Its length stands behind it once a deck holds it.
+QString Desktop::length_beside(const std::string& next) {
+    for (Deck& deck : desk_.ring.decks)
+        if (deck.path == next && role_of(desk_, deck) == DeckRole::loaded)
+            return " (" + clock_text(static_cast<int>(deck.controls.progress.maximum)) + ")";
+    return {};
 }
 
 QString Desktop::what_follows() {
@@ -213,7 +244,8 @@ QString Desktop::what_follows() {
     const std::string next = path_to_come(desk_, is_missing);
     if (next.empty())
         return {};
-    return "Ensuite : " + to_qt(name_without_ending(next)) + (is_missing(next) ? " (fichier absent)" : "");
+    return "Ensuite : " + to_qt(name_without_ending(next)) +
+           (is_missing(next) ? " (fichier absent)" : length_beside(next));
 }
 
 QString Desktop::notice() const {
@@ -232,8 +264,14 @@ void Desktop::show_list() {
 }
 
 void Desktop::show_output(const std::string& text, bool is_trouble) {
-    if (main_ != nullptr)
-        main_->show_output(to_qt(text), is_trouble);
+    if (main_ == nullptr)
+        return;
+    if (!is_trouble)
+        lost_.invalidate();
+    else if (!lost_.isValid())
+        lost_.start();
+    main_->show_output(to_qt(text), is_trouble);
+    show_decks();
 }
 
 void Desktop::mark_missing(MissingFiles files) {

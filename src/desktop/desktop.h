@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
 #include <functional>
@@ -19,6 +20,7 @@ class QWidget;
 namespace sonarelle {
 
 class ListView;
+struct DeckLook;
 class MainView;
 class SmallPlayerView;
 class WindowView;
@@ -71,7 +73,10 @@ private:
     void watch(Control& control, std::function<void()> show);
     void show_second();
     void show_decks();
+    [[nodiscard]] DeckLook look_of(Deck& deck);
     void show_air();
+    [[nodiscard]] QString station_line() const;
+    [[nodiscard]] QString length_beside(const std::string& next);
     [[nodiscard]] QString what_follows();
     [[nodiscard]] QString notice() const;
     void show_list();
@@ -85,7 +90,8 @@ private:
     ListView* list_ = nullptr;
     SmallPlayerView* player_ = nullptr;
     QTimer second_;
-    QString clock_; ///< Of the second that is shown, in both windows.
+    QString clock_;      ///< Of the second that is shown, in both windows.
+    QElapsedTimer lost_; ///< Runs while no sound card plays.
     OutputChoice outputs_;
     MissingFiles missing_;
     std::unique_ptr<QMenu> output_menu_;

@@ -7,14 +7,17 @@
 #include "desktop/sound_reading.h"
 #include "windows/antenne_fm.h"
 
+class QVBoxLayout;
+
 namespace sonarelle {
 
-/// The main window: what is on and how long it lasts, three decks, the chain and the quick loads.
+/// The main window: what is on and how long it lasts, three decks, the chain and the quick loads. Its type and its
+/// lengths follow its size.
 class MainView : public WindowView {
 public:
     MainView(Antenne_FM& window, const DesktopServices& services, const SoundReading& sound);
 
-    void show_air(const AirLook& look) { header_->show_air(look); }
+    void show_air(const AirLook& look);
     void show_clock(const QString& time) { header_->show_clock(time); }
     void show_look(int deck, const DeckLook& look) { decks_[static_cast<std::size_t>(deck - 1)]->show_look(look); }
     /// What the window's frame names: the station and what is on the air. Empty: the window's own caption.
@@ -24,25 +27,26 @@ public:
 
 protected:
     [[nodiscard]] QString title() const override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void build_rows(const SoundReading& sound);
+    void take_step(Step step);
     [[nodiscard]] QWidget* menu_labels();
-    [[nodiscard]] QLayout* deck_row();
-    [[nodiscard]] QLayout* lower_row(const SoundReading& sound);
-    [[nodiscard]] Panel* chain_panel();
-    [[nodiscard]] Panel* quick_load_panel();
-    [[nodiscard]] Panel* effect_panel(const SoundReading& sound);
-    [[nodiscard]] Panel* meter_panel(const SoundReading& sound);
+    [[nodiscard]] QWidget* deck_row();
     [[nodiscard]] QWidget* status_line();
 
     Antenne_FM& window_;
     Dresser dresser_{*this};
+    QVBoxLayout* rows_ = nullptr;
+    QWidget* menu_strip_ = nullptr; ///< The labels that stand for the menu bar.
     AirHeader* header_ = nullptr;
     std::array<DeckPanel*, 3> decks_{};
     QString air_title_;
     StationLabel* output_ = nullptr;
+    StationLabel* silence_ = nullptr;
     StationLabel* played_ = nullptr;
+    Step step_ = Step::compact;
 };
 
 } // namespace sonarelle

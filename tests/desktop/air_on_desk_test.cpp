@@ -170,7 +170,7 @@ TEST_F(AirOnDesk, SoundThatGoesOnAfterAStopIsTold) {
     run_for(97);
     station.main_window.deck(2).stop.click();
     settle();
-    EXPECT_EQ(desk_says("air_state"), "● EN LECTURE — Play 1");
+    EXPECT_EQ(desk_says("air_state"), "EN LECTURE — Play 1");
     EXPECT_EQ(desk_says("air_title"), "un");
     EXPECT_EQ(desk_says("remaining"), "00:00:03");
 }
@@ -194,8 +194,8 @@ TEST_F(AirOnDesk, ListThatAFaultHasStoppedIsToldWhileItsTrackPlaysOn) {
     run_for(50);
     machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
     run_for(38);
-    EXPECT_EQ(desk_says("air_state"), "● À L'ANTENNE — Play 1");
-    EXPECT_EQ(desk_says("air_notice"), "LISTE STOPPÉE");
+    EXPECT_EQ(desk_says("air_state"), "À L'ANTENNE — Play 1");
+    EXPECT_EQ(desk_says("air_station"), "LISTE STOPPÉE");
     EXPECT_EQ(desk_says("air_next"), "Ensuite : rien");
 }
 
@@ -210,7 +210,7 @@ TEST_F(AirOnDesk, DecksThatAFaultHasStoppedAreNoList) {
     station.main_window.deck(1).play.click();
     machine.disk.Kill("C:\\Musique\\2.mp3");
     run_for(97);
-    EXPECT_EQ(desk_says("air_notice"), "ENCHAÎNEMENT STOPPÉ");
+    EXPECT_EQ(desk_says("air_station"), "ENCHAÎNEMENT STOPPÉ");
 }
 
 TEST_F(AirOnDesk, DeskAtRestTellsNothing) {

@@ -3,6 +3,7 @@
 
 #include "desktop/station_views.h"
 #include "desktop/title_label.h"
+#include "desktop/volume_bar.h"
 
 namespace sonarelle {
 
@@ -16,12 +17,23 @@ protected:
         show_windows();
     }
     void show(DeckRole role) {
-        main_view().show_look(1, {.role = role, .heard = {}, .elapsed = {}, .mix_point = 60.0, .end_point = 90.0});
+        DeckLook look;
+        look.role = role;
+        look.is_next = true;
+        look.mix_point = 60.0;
+        look.end_point = 90.0;
+        main_view().show_look(1, look);
+    }
+    static DeckLook look_of(DeckRole role, const QString& file = {}) {
+        DeckLook look;
+        look.role = role;
+        look.file = file;
+        return look;
     }
     [[nodiscard]] DeckControls& deck() { return station.main_window.deck(1); }
     [[nodiscard]] QWidget& widget(const Control& control) { return part(main_view(), control.name()); }
     [[nodiscard]] DeckPanel& panel() { return *dynamic_cast<DeckPanel*>(widget(deck().title).parentWidget()); }
-    [[nodiscard]] QColor lamp() { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(7, 7); }
+    [[nodiscard]] QColor lamp() { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(5, 5); }
     [[nodiscard]] bool says(const QString& word) {
         const auto labels = parts_of<StationLabel>(panel());
         return std::ranges::any_of(labels, [&](const StationLabel* label) { return label->text() == word; });
@@ -43,26 +55,16 @@ protected:
 } // namespace
 
 TEST_F(DeckPanels, LampSaysWhatTheDeckIsToTheAir) {
-    const std::array<std::pair<DeckRole, QColor>, 6> lamps{{{DeckRole::empty, studio::line},
+    const std::array<std::pair<DeckRole, QColor>, 6> lamps{{{DeckRole::empty, studio::field_line},
                                                             {DeckRole::loaded, studio::next},
                                                             {DeckRole::heard, studio::air},
                                                             {DeckRole::on_air, studio::air},
                                                             {DeckRole::paused, studio::next},
-                                                            {DeckRole::ended, studio::line}}};
+                                                            {DeckRole::ended, studio::field_line}}};
     for (const auto& [role, colour] : lamps) {
         show(role);
         EXPECT_TRUE(is_near(lamp(), colour)) << static_cast<int>(role) << lamp().name().toStdString();
     }
-}
-
-TEST_F(DeckPanels, LampGlowsWhileItIsLit) {
-    const auto glow = [this] { return seen_in_window(*parts_of<Lamp>(panel()).front()).pixelColor(1, 7); };
-    show(DeckRole::empty);
-    const QColor dark = glow();
-    show(DeckRole::heard); // whose plate is the dark one
-    EXPECT_TRUE(is_green(glow()));
-    show(DeckRole::empty);
-    EXPECT_EQ(glow(), dark);
 }
 
 TEST_F(DeckPanels, FilesAreDroppedAnywhereOnThem) {
@@ -71,17 +73,17 @@ TEST_F(DeckPanels, FilesAreDroppedAnywhereOnThem) {
 }
 
 TEST_F(DeckPanels, WordSaysWhatTheDeckIsToTheAir) {
-    const std::array<std::pair<DeckRole, const char*>, 4> words{{{DeckRole::loaded, "chargé"},
-                                                                 {DeckRole::heard, "en lecture"},
-                                                                 {DeckRole::on_air, "à l'antenne"},
-                                                                 {DeckRole::paused, "en pause"}}};
+    const std::array<std::pair<DeckRole, const char*>, 4> words{{{DeckRole::loaded, "CHARGÉ, SUIVANT"},
+                                                                 {DeckRole::heard, "EN LECTURE"},
+                                                                 {DeckRole::on_air, "À L'ANTENNE"},
+                                                                 {DeckRole::paused, "EN PAUSE"}}};
     for (const auto& [role, word] : words) {
         show(role);
         for (const auto& [other, of_other] : words)
             EXPECT_EQ(says(of_other), other == role) << word << " / " << of_other;
     }
     show(DeckRole::ended);
-    EXPECT_FALSE(says("en pause"));
+    EXPECT_FALSE(says("EN PAUSE"));
 }
 
 TEST_F(DeckPanels, FrameIsLitForTheAirAndForWhatComes) {
@@ -163,25 +165,83 @@ TEST_F(DeckPanels, ElapsedSecondsFollowTheBar) {
     EXPECT_FALSE(says("73"));
 }
 
-TEST_F(DeckPanels, TitleIsTheNameOfWhatIsHeard) {
+TEST_F(DeckPanels, TitleIsTheNameOfItsFile) {
     deck().title.caption = "Jingle la suite - ";
     settle();
-    main_view().show_look(
-        1, {.role = DeckRole::on_air, .heard = "La rue", .elapsed = {}, .mix_point = {}, .end_point = {}});
+    main_view().show_look(1, look_of(DeckRole::on_air, "La rue"));
     EXPECT_EQ(part<TitleLabel>(main_view(), deck().title.name()).shown(), "La rue");
-    main_view().show_look(1, {.role = DeckRole::ended, .heard = {}, .elapsed = {}, .mix_point = {}, .end_point = {}});
-    EXPECT_EQ(part<TitleLabel>(main_view(), deck().title.name()).shown(), "Jingle la suite - ");
+    main_view().show_look(1, look_of(DeckRole::ended));
+    EXPECT_EQ(part<TitleLabel>(main_view(), deck().title.name()).shown(), "Jingle la suite");
 }
 
 TEST_F(DeckPanels, TrueSecondStandsWhereTheBarRests) {
-    main_view().show_look(1, {.role = DeckRole::on_air, .heard = {}, .elapsed = 75, .mix_point = {}, .end_point = {}});
+    DeckLook look = look_of(DeckRole::on_air);
+    look.elapsed = 75;
+    main_view().show_look(1, look);
     EXPECT_TRUE(says("75"));
     EXPECT_TRUE(is_near(bar_at(70), studio::air));
     EXPECT_TRUE(is_near(bar_at(80), studio::well));
 }
 
+TEST_F(DeckPanels, DeckThatNobodyWaitsForIsPlain) {
+    main_view().show_look(1, look_of(DeckRole::loaded, "La rue"));
+    EXPECT_EQ(panel().accent(), Accent::none);
+    EXPECT_TRUE(says("CHARGÉ"));
+    main_view().show_look(1, look_of(DeckRole::ended, "La rue"));
+    EXPECT_TRUE(says("ARRÊTÉ"));
+}
+
+TEST_F(DeckPanels, TroubleIsRedAndHasAWord) {
+    DeckLook look = look_of(DeckRole::on_air, "La rue");
+    look.is_unheard = true;
+    main_view().show_look(1, look);
+    EXPECT_EQ(panel().accent(), Accent::trouble);
+    EXPECT_TRUE(says("JOUE SANS SORTIE"));
+    look = look_of(DeckRole::empty);
+    look.is_refused = true;
+    main_view().show_look(1, look);
+    EXPECT_EQ(panel().accent(), Accent::trouble);
+    EXPECT_TRUE(says("NON TROUVÉ"));
+}
+
+TEST_F(DeckPanels, DetailsAreLengthMixPointAndThatItWaits) {
+    DeckLook look = look_of(DeckRole::on_air, "La rue");
+    look.mix_point = 94.0;
+    main_view().show_look(1, look);
+    EXPECT_TRUE(says("00:01:40  ·  mix a 94 s"));
+    main_view().show_look(1, look_of(DeckRole::ended, "La rue"));
+    EXPECT_TRUE(says("00:01:40  ·  En attente"));
+    main_view().show_look(1, look_of(DeckRole::empty));
+    EXPECT_TRUE(says("00:00:00"));
+}
+
+TEST_F(DeckPanels, RestIsThatOfTheAirWhereTheAirIsToldByIt) {
+    DeckLook look = look_of(DeckRole::on_air, "La rue");
+    look.end_point = 90.0;
+    main_view().show_look(1, look);
+    EXPECT_TRUE(says("00:00:40")); // the bar is at 50
+    look.left = 39;
+    main_view().show_look(1, look);
+    EXPECT_TRUE(says("00:00:39"));
+}
+
+TEST_F(DeckPanels, VolumeIsSeenWhileItsSliderIsHidden) {
+    VolumeBar& bar = *parts_of<VolumeBar>(panel()).front();
+    station.main_window.show_sliders(false);
+    deck().slider.set_value(20);
+    settle();
+    EXPECT_TRUE(bar.isVisible());
+    const int quiet = count_of(seen_in_window(bar), studio::second);
+    deck().slider.set_value(0);
+    settle();
+    EXPECT_GT(count_of(seen_in_window(bar), studio::second), quiet + 100);
+    station.main_window.show_sliders(true);
+    settle();
+    EXPECT_FALSE(bar.isVisible());
+}
+
 TEST_F(DeckPanels, EachDeckHasItsOwnPanel) {
-    main_view().show_look(2, {.role = DeckRole::on_air, .heard = {}, .elapsed = {}, .mix_point = {}, .end_point = {}});
+    main_view().show_look(2, look_of(DeckRole::on_air));
     auto* second = dynamic_cast<DeckPanel*>(widget(station.main_window.deck(2).title).parentWidget());
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(second->accent(), Accent::air);

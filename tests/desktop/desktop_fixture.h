@@ -29,8 +29,10 @@ public:
 
     /// What the windows' loop does between two events.
     void settle() {
-        updates.flush();
-        QCoreApplication::processEvents();
+        for (int turn = 0; turn < 2; ++turn) { // what is shown asks for another place in the next turn
+            updates.flush();
+            QCoreApplication::processEvents();
+        }
         updates.flush();
     }
 

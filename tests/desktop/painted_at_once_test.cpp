@@ -98,7 +98,7 @@ TEST_F(PaintedAtOnce, IsATitle) {
     TitleLabel title{{.type = Type::medium}};
     title.resize(300, 30);
     expect_painted(title, "title", [&] { title.set_text("Matin - "); });
-    expect_painted(title, "heard", [&] { title.set_heard("Soir"); });
+    expect_painted(title, "heard", [&] { title.set_file("Soir"); });
 }
 
 TEST_F(PaintedAtOnce, IsAPictureOfTheSound) {

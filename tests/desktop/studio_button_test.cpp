@@ -157,7 +157,7 @@ TEST_F(StudioButtons, LampIsARingWhileItIsDark) {
 TEST_F(StudioButtons, LampGlowsInItsColour) {
     button.set_look(ButtonLook::lamp);
     button.set_accent(Accent::air);
-    EXPECT_EQ(count_of(shown().copy(66, 16, 8, 8), studio::air), 64);
+    EXPECT_EQ(count_of(shown().copy(68, 18, 4, 4), studio::air), 16);
     button.set_accent(Accent::none);
     EXPECT_EQ(count_of(shown(), studio::air), 0);
 }

@@ -117,20 +117,20 @@ TEST_F(Titles, OneThatTheStationTurnsNoMoreComesToRest) {
 TEST_F(Titles, NameOfWhatIsHeardStandsBeforeTheStationsTitle) {
     show(400);
     label.set_text("Jingle la suite - ");
-    label.set_heard("La rue des tilleuls");
+    label.set_file("La rue des tilleuls");
     EXPECT_EQ(label.shown(), "La rue des tilleuls");
     const QImage heard = seen(label);
     turn(3);
     EXPECT_EQ(seen(label), heard);
-    label.set_heard({});
-    EXPECT_EQ(label.shown(), "Jingle la suite - ");
+    label.set_file({});
+    EXPECT_EQ(label.shown(), "Jingle la suite");
     EXPECT_NE(seen(label), heard);
 }
 
 TEST_F(Titles, LongNameOfWhatIsHeardTurnsWithTheStation) {
     show(90);
     label.set_text("Un titre ... - ");
-    label.set_heard("Un titre bien trop long");
+    label.set_file("Un titre bien trop long");
     EXPECT_FALSE(label.is_turning());
     turn(1);
     EXPECT_TRUE(label.is_turning());
@@ -139,16 +139,16 @@ TEST_F(Titles, LongNameOfWhatIsHeardTurnsWithTheStation) {
 TEST_F(Titles, AnotherNameOfWhatIsHeardTurnsFromItsBeginning) {
     show(90);
     label.set_text("Un titre ... - ");
-    label.set_heard("Un titre bien trop long");
+    label.set_file("Un titre bien trop long");
     turn(1);
     const QImage before = seen(label);
     ASSERT_TRUE(becomes([&] { return seen(label) != before; }));
-    label.set_heard("Une chanson bien trop longue");
+    label.set_file("Une chanson bien trop longue");
     turn(1);
     TitleLabel fresh{{.type = Type::deck_title, .bold = true}};
     fresh.resize(90, 30);
     fresh.set_text("Un titre ... - ");
-    fresh.set_heard("Une chanson bien trop longue");
+    fresh.set_file("Une chanson bien trop longue");
     fresh.set_text(turned(fresh.text()));
     EXPECT_EQ(seen(label), seen(fresh));
 }

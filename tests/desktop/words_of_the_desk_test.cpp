@@ -24,11 +24,14 @@ protected:
 } // namespace
 
 TEST_F(WordsOfTheDesk, NameThePartsOfTheMainWindow) {
+    station.main_window.sound_display.visible = true;
+    settle();
     for (const char* text : {"LECTEUR 1", "LECTEUR 2", "LECTEUR 3", "ENCHAÎNEMENT", "EFFET VISUEL",
                              "espace : choisir le lecteur", "s de superposition", "— LUFS"})
         EXPECT_EQ(count(main_view(), text), 1) << text;
     EXPECT_EQ(count(main_view(), "écoulé"), 3);
     EXPECT_EQ(count(main_view(), "fin"), 3);
+    EXPECT_EQ(count(main_view(), "reste"), 3);
 }
 
 TEST_F(WordsOfTheDesk, NameThePartsOfTheList) {

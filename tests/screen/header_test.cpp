@@ -29,7 +29,7 @@ TEST_F(HeaderOnScreen, ClockGoesBeforeAnythingPlays) {
 
 TEST_F(HeaderOnScreen, NamesWhatIsHeardAndWhatComesNext) {
     operate(list_of(2, 40), [this] {
-        reads("air_state", "● À L'ANTENNE — Play 1");
+        reads("air_state", "À L'ANTENNE — Play 1");
         reads("air_title", "piste1");
         reads("air_next", "Ensuite : piste2");
         reads("remaining", "00:00:38");
@@ -40,7 +40,7 @@ TEST_F(HeaderOnScreen, TellsAPause) {
     operate("", [this] {
         load_decks();
         key("F5");
-        reads("air_state", "● À L'ANTENNE — Play 1");
+        reads("air_state", "À L'ANTENNE — Play 1");
         key("p");
         reads("air_state", "EN PAUSE — Play 1");
     });

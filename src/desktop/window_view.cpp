@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "desktop/colours.h"
+#include "desktop/frame_watch.h"
 #include "desktop/picture_store.h"
 #include "desktop/qt_text.h"
 #include "platform/controls.h"
@@ -121,7 +122,8 @@ void WindowView::show_place() {
         window_.left = twips(shown.x());
         window_.top = twips(shown.y());
         move(shown);
-        awaits_frame_ = frame_size().isNull();
+        awaits_frame_ = frameGeometry() == geometry();
+        wished_ = shown;
     }
     was_placed_ = was_placed_ || is_given;
 }
@@ -192,6 +194,8 @@ void WindowView::place_over_owner() {
 
 void WindowView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (!event->spontaneous())
+        watch_for_frame(*this, [this] { make_room_for_frame(); });
     watch_keys();
     // Where keys are commands, none of them falls on a button that nobody went to.
     if (window_.on_key_press && focusWidget() == nullptr)
@@ -209,13 +213,15 @@ void WindowView::activated() {
         services_.run_event([this] { window_.activate(); });
 }
 
-// The first window to come was placed before anyone knew how thick frames are.
+// A place is the frame's, and one that was given before there was a frame became that of what is in it.
 void WindowView::make_room_for_frame() {
     window_.take_frame(twips(frameGeometry().height() - height()));
     if (!awaits_frame_ || frameGeometry() == geometry())
         return;
     awaits_frame_ = false;
-    move(on_screen(pos()));
+    const QSize room = screen()->availableGeometry().size() - (frameGeometry().size() - size());
+    resize(size().boundedTo(room).expandedTo(minimumSize()));
+    move(on_screen(wished_));
 }
 
 // Characters reach the window before the part that has the focus, each once: on the way into the native window.
@@ -290,9 +296,10 @@ void WindowView::moveEvent(QMoveEvent* event) {
     keep_place();
 }
 
+// Its place, too, may be another by now, in the station's mind; a size is no news of that.
 void WindowView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    keep_place();
+    keep_size();
 }
 
 // The station places one window by another, so it must know where the operator put it.

@@ -94,7 +94,8 @@ private:
     bool showing_ = false;
     bool watches_keys_ = false;
     bool was_placed_ = false;
-    bool awaits_frame_ = false; ///< It was placed while no window had a frame.
+    bool awaits_frame_ = false; ///< It was placed before its frame was known,
+    QPoint wished_;             ///< here.
     int shows_ = 0;             ///< How many of the window's were answered.
 };
 

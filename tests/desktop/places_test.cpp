@@ -51,6 +51,18 @@ TEST_F(WindowPlaces, OnTheScreenIsTakenAsItIs) {
     EXPECT_EQ(window.top.get(), Twips{15 * 90});
 }
 
+TEST_F(WindowPlaces, AreTakenTogetherWithASize) {
+    window.show();
+    settle();
+    window.left = Twips{15 * 70};
+    window.top = Twips{15 * 90};
+    window.width = Twips{15 * 420};
+    window.height = Twips{15 * 310};
+    settle();
+    EXPECT_EQ(view.pos(), QPoint(70, 90));
+    EXPECT_EQ(view.size(), QSize(420, 310));
+}
+
 TEST_F(WindowPlaces, LeftOfTheScreenIsNotTaken) {
     window.left = Twips{-15 * 200};
     window.show();

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <thread>
+#include <utility>
 
 #include "configuration/settings_store.h"
 #include "desktop/box_view.h"
@@ -153,8 +155,9 @@ void DeskFixture::click_at(const std::function<QWidget*()>& find, const std::str
         const QWidget* widget = find();
         if (widget == nullptr || !widget->isVisible() || !widget->isEnabled())
             return false;
-        place = widget->mapToGlobal(widget->rect().center());
-        return true;
+        // A window that has just come may yet be moved by the desktop.
+        const QPoint before = std::exchange(place, widget->mapToGlobal(widget->rect().center()));
+        return place == before;
     });
     screen_.hand("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()) + " click " +
                  std::to_string(button));
@@ -225,17 +228,26 @@ std::string DeskFixture::box() {
     });
 }
 
+// By the keyboard, which the box has from its first moment on.
 void DeskFixture::answer(const std::string& caption) {
-    const auto find = [&]() -> QWidget* {
+    bool is_focused = false;
+    const auto find = [&] {
         const auto* open = dynamic_cast<BoxView*>(QApplication::activeModalWidget());
-        if (open == nullptr || !open->isActiveWindow()) // it has its place when it has the keyboard
-            return nullptr;
+        if (open == nullptr || !open->isActiveWindow())
+            return false;
         for (auto* button : open->findChildren<QAbstractButton*>())
-            if (button->text().remove('&').section(',', 0, 0) == QString::fromStdString(caption))
-                return button;
-        return nullptr;
+            if (button->text().remove('&').section(',', 0, 0) == QString::fromStdString(caption)) {
+                is_focused = button->hasFocus();
+                return true;
+            }
+        return false;
     };
-    click_at(find, "button " + caption, 1);
+    eventually("button " + caption, find);
+    for (int stops = 0; !is_focused && stops < 4; ++stops) {
+        key("Tab");
+        eventually("button " + caption, find);
+    }
+    key("Return");
 }
 
 void DeskFixture::keep_picture_of_failure() {

@@ -249,6 +249,7 @@ TEST_F(KeysOnScreen, LTellsInManualModeThatItIsManual) {
 TEST_F(KeysOnScreen, TheSquareSignGoesFromCornerToCorner) {
     at_the_keyboard([this] {
         const auto left = [this] { return station().main_window.left.get().count(); };
+        operators_event([this] { station().main_window.width = Twips{15 * 1000}; }); // it came as wide as the screen
         key("twosuperior");
         eventually("the right corner", [&] { return left() > 1000; });
         key("twosuperior");

@@ -45,12 +45,12 @@ protected:
     static constexpr std::string_view kept_choice = "config/sonarelle/sortie.json";
 
 private:
-    [[nodiscard]] const StationLabel& label() {
+    [[nodiscard]] StationLabel& label() {
         return *widget_of(station().main_window)->findChild<StationLabel*>("output");
     }
     [[nodiscard]] bool is_red() {
-        const QColor ink = label().palette().color(QPalette::WindowText);
-        return ink.red() > 2 * ink.green() - 60 && ink.red() > ink.blue() + 60;
+        const QColor ground = label().grab().toImage().pixelColor(1, 1);
+        return ground.red() > ground.green() + 100 && ground.red() > ground.blue() + 100;
     }
 };
 

@@ -40,7 +40,7 @@ void Binding::show_value() {
     const QString hint = to_qt(control_.hint);
     show_state();
     const QString name = hint.isEmpty() ? caption() : hint;
-    if (!name.isEmpty() && widget_->accessibleName() != name) // else the view's own holds
+    if (!names_itself() && !name.isEmpty() && widget_->accessibleName() != name) // else the view's own holds
         widget_->setAccessibleName(name);
     if (widget_->toolTip() != tip())
         widget_->setToolTip(tip());
@@ -59,7 +59,7 @@ void Binding::show_value() {
 
 // What can be worked is named by its tip, too; a text that is read says itself what it is.
 QString Binding::tip() const {
-    const QString hint = to_qt(control_.hint);
+    QString hint = to_qt(control_.hint);
     const bool can_be_worked = widget_->focusPolicy() != Qt::NoFocus && control_.kind() != ControlKind::row_table;
     if (!hint.isEmpty() || !can_be_worked)
         return hint;

@@ -47,6 +47,8 @@ protected:
     virtual void paint(QPalette& palette) const;
     /// What a screen reader calls it where there is no hint.
     [[nodiscard]] virtual QString caption() const { return {}; }
+    /// A text that is read says itself what it is.
+    [[nodiscard]] virtual bool names_itself() const { return false; }
 
     /// Hands over what the operator did; what the binding itself writes to the widget is none of his doing.
     void run(const std::function<void()>& event) const {

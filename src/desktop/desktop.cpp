@@ -15,6 +15,7 @@
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
 #include "desktop/menu_style.h"
+#include "desktop/part_access.h"
 #include "desktop/plain_views.h"
 #include "desktop/properties_view.h"
 #include "desktop/qt_text.h"
@@ -64,6 +65,7 @@ bool begins_anew(const Deck& deck, DeckRole role) {
 } // namespace
 
 void dress_application() {
+    tell_screen_readers_of_parts();
     QApplication::setStyle(new MenuStyle); // which the application then owns
     QApplication::setPalette(studio_palette());
     QToolTip::setPalette(studio_palette());

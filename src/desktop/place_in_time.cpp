@@ -19,7 +19,8 @@ public:
     }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        if (kind != QAccessible::Value || place_.whole() <= 0)
+        const bool is_told = kind == QAccessible::Description && !widget()->accessibleDescription().isEmpty();
+        if ((kind != QAccessible::Value && kind != QAccessible::Description) || is_told || place_.whole() <= 0)
             return QAccessibleWidget::text(kind);
         return place_text(place_.place()) + " sur " + place_text(place_.whole());
     }

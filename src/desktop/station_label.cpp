@@ -1,5 +1,6 @@
 #include "desktop/station_label.h"
 
+#include <QAccessible>
 #include <QEnterEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -60,10 +61,24 @@ void StationLabel::set_ink(const QColor& ink) {
 void StationLabel::set_text(const QString& text) {
     if (text == text_)
         return;
+    const QString before = QAccessible::isActive() ? spoken() : QString{};
     text_ = text;
     if (style_.wrapped || style_.fitted)
         updateGeometry();
     update();
+    if (QAccessible::isActive() && spoken() != before) {
+        QAccessibleEvent renamed{this, QAccessible::NameChanged};
+        QAccessible::updateAccessibility(&renamed);
+    }
+}
+
+QString StationLabel::spoken() const {
+    QString words = text_;
+    if (style_.underlined)
+        words.remove('&');
+    if (accessibleName().isEmpty() || accessibleName() == words)
+        return words;
+    return pressable_ ? accessibleName() : accessibleName() + " : " + words;
 }
 
 void StationLabel::set_narrow_text(const QString& text) {

@@ -46,6 +46,7 @@ public:
     void set_fill(const QColor& fill);
     /// Makes it a button for mouse and keyboard.
     void set_pressable(bool pressable);
+    [[nodiscard]] bool is_pressable() const { return pressable_; }
 
     std::function<void()> on_press;
 
@@ -56,6 +57,8 @@ public:
     /// Whether its text ends in dots, for want of room.
     [[nodiscard]] bool is_cut() const;
     [[nodiscard]] bool holds_a_name() const { return style_.name; }
+    /// What a screen reader says: its text, behind what the text is of.
+    [[nodiscard]] virtual QString spoken() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

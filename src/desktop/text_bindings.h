@@ -21,6 +21,7 @@ public:
 protected:
     void show_state() override;
     [[nodiscard]] QString caption() const override;
+    [[nodiscard]] bool names_itself() const override { return true; }
 
 private:
     Label& label_;

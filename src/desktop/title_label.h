@@ -29,6 +29,7 @@ public:
     void set_file(const QString& name);
     /// What stands there, or turns.
     [[nodiscard]] QString shown() const;
+    [[nodiscard]] QString spoken() const override { return shown(); }
     [[nodiscard]] bool is_turning() const { return step_.isActive(); }
 
 protected:

@@ -121,6 +121,7 @@ TEST_F(SeekStrip, KeyOfTheWindowGoesOnToIt) {
 TEST_F(SeekStrip, TellsAScreenReaderWhereItIs) {
     strip.set_share(0.315);
     EXPECT_EQ(told().text(QAccessible::Value), "01:03 sur 03:20");
+    EXPECT_EQ(told().text(QAccessible::Description), "01:03 sur 03:20");
     ASSERT_NE(told().valueInterface(), nullptr);
     EXPECT_DOUBLE_EQ(told().valueInterface()->currentValue().toDouble(), 63);
     EXPECT_DOUBLE_EQ(told().valueInterface()->maximumValue().toDouble(), 200);

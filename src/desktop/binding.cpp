@@ -39,7 +39,8 @@ void Binding::show_value() {
     showing_ = true;
     const QString hint = to_qt(control_.hint);
     show_state();
-    const QString name = hint.isEmpty() ? caption() : hint;
+    const QString told = hint.isEmpty() ? caption() : hint;
+    const QString name = spoken_name_.isEmpty() ? told : spoken_name_;
     if (!names_itself() && !name.isEmpty() && widget_->accessibleName() != name) // else the view's own holds
         widget_->setAccessibleName(name);
     if (widget_->toolTip() != tip())

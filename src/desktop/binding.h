@@ -34,6 +34,10 @@ public:
     /// The key that does what a press of the control does, for its tip; empty for none.
     void set_key(const QString& key) { key_ = key; }
 
+    /// What a screen reader calls the part where the station's words don't tell it from its like; those describe it
+    /// then.
+    void set_spoken_name(const QString& name) { spoken_name_ = name; }
+
     /// The pointer has left a part that heard of it.
     std::function<void()> on_left;
 
@@ -70,6 +74,7 @@ private:
     std::unique_ptr<FileDrops> drops_; ///< Null where the station takes no files.
     const DesktopServices& services_;
     QString key_;
+    QString spoken_name_; ///< Empty where the station's words will do.
     bool showing_ = false;
 };
 

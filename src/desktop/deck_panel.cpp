@@ -100,6 +100,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
     build_labels(dresser);
     build_transport(dresser);
     build_volume(dresser, slider_stand_in);
+    name_parts();
     lay_out();
     set_step(Step::compact);
     view.binding_of(controls.open)->take_drops_on(*this);
@@ -112,7 +113,6 @@ void DeckPanel::build_labels(Dresser& dresser) {
     end_ = dresser.label(controls_.counter,
                          {.type = Type::figure, .bold = true, .digits = true, .shrinking = true, .characters = 4});
     progress_ = dresser.progress(controls_.progress);
-    progress_->setAccessibleName("Position, lecteur " + QString::number(number_));
     progress_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding); // the shape takes what height there is
     const StationLabel::Style word{.type = Type::tiny, .quiet = true, .characters = 6};
     words_ = {label_of(word, "écoulé"), label_of(word, "fin"), label_of(word, "reste")};
@@ -120,7 +120,6 @@ void DeckPanel::build_labels(Dresser& dresser) {
 }
 
 void DeckPanel::build_transport(Dresser& dresser) {
-    const QString number = QString::number(number_);
     const QString next = QString::number(number_ % 3 + 1);
     constexpr std::array keys{"F8", "F9", "F11"};
     const QString key = keys[static_cast<std::size_t>(number_ - 1)];
@@ -133,8 +132,26 @@ void DeckPanel::build_transport(Dresser& dresser) {
         buttons_[place]->set_sign(signs[place]);
     buttons_[zap_place]->set_sign(Sign::zap, "Play " + next, next);
     buttons_.back()->set_words("Mix " + key, key);
-    buttons_[0]->setAccessibleName("Ouvrir, lecteur " + number);
-    buttons_[1]->setAccessibleName("Lecture, lecteur " + number);
+}
+
+// The decks are the same but for their number.
+void DeckPanel::name_parts() {
+    const QString next = QString::number(number_ % 3 + 1);
+    for (const auto& [control, name] : std::initializer_list<std::pair<const Control*, QString>>{
+             {&controls_.open, "Ouvrir"},
+             {&controls_.play, "Lecture"},
+             {&controls_.stop, "Stopper"},
+             {&controls_.pause, "Pause"},
+             {&controls_.back, "Reculer"},
+             {&controls_.forward, "Avancer"},
+             {&controls_.zap, "Zapper sur Play" + next},
+             {&controls_.special_mix, "Mixage spécial"},
+             {&controls_.progress, "Position"},
+             {&controls_.slider, "Volume"},
+             {&controls_.quieter, "Moins fort"},
+             {&controls_.louder, "Plus fort"},
+             {&controls_.keep_volume, "Garder le volume dans la liste"}})
+        view_.binding_of(*control)->set_spoken_name(name + ", lecteur " + QString::number(number_));
 }
 
 void DeckPanel::build_volume(Dresser& dresser, Label& slider_stand_in) {

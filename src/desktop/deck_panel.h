@@ -43,6 +43,7 @@ private:
     void build_labels(Dresser& dresser);
     void build_transport(Dresser& dresser);
     void build_volume(Dresser& dresser, Label& slider_stand_in);
+    void name_parts();
     void lay_out();
     [[nodiscard]] QLayout* heading();
     [[nodiscard]] QLayout* figures();

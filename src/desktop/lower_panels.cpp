@@ -137,8 +137,10 @@ Panel* quick_load_panel(WindowView& view, Antenne_FM& window) {
         quick_load_heading,
         label_of({.type = Type::small, .quiet = true, .fitted = true, .alignment = Qt::AlignRight | Qt::AlignVCenter},
                  "espace : choisir le lecteur")};
-    for (const auto& [box, sign] : {std::pair{&window.favourites, Sign::star}, {&window.jingles, Sign::note}}) {
+    for (const auto& [box, sign, name] :
+         {std::tuple{&window.favourites, Sign::star, "Favoris"}, {&window.jingles, Sign::note, "Jingles"}}) {
         QComboBox* chooser = dresser.combo_box(*box);
+        view.binding_of(*box)->set_spoken_name(name);
         chooser->setProperty(sign_before_text, static_cast<int>(sign));
         panel->column().addWidget(chooser);
     }

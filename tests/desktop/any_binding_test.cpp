@@ -57,6 +57,17 @@ TEST_F(AnyBinding, HintThatGoesLeavesTheCaptionAsItsNameAndTip) {
     EXPECT_EQ(widget.toolTip(), "Stopper");
 }
 
+TEST_F(AnyBinding, SpokenNameStandsBeforeTheHintWhichDescribes) {
+    Button button{window, "b"};
+    StudioButton widget;
+    ButtonBinding binding{button, widget, services};
+    binding.set_spoken_name("Pause, lecteur 2");
+    button.hint = "Pause / Lecture";
+    settle();
+    EXPECT_EQ(widget.accessibleName(), "Pause, lecteur 2");
+    EXPECT_EQ(widget.toolTip(), "Pause / Lecture");
+}
+
 TEST_F(AnyBinding, TellsEachTimeThatItWasShown) {
     Label label{window, "l"};
     StationLabel widget;

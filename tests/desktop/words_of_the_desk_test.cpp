@@ -52,11 +52,25 @@ TEST_F(WordsOfTheDesk, TellTheDecksApartForTheScreenReader) {
     for (int number = 1; number <= 3; ++number) {
         const DeckControls& deck = station.main_window.deck(number);
         const QString end = ", lecteur " + QString::number(number);
-        EXPECT_EQ(part(main_view(), deck.open.name()).accessibleName(), "Ouvrir" + end);
-        EXPECT_EQ(part(main_view(), deck.play.name()).accessibleName(), "Lecture" + end);
-        EXPECT_TRUE(part(main_view(), deck.slider.name()).accessibleName().startsWith("Volume"));
+        for (const auto& [control, name] : std::initializer_list<std::pair<const Control*, QString>>{
+                 {&deck.open, "Ouvrir"},
+                 {&deck.play, "Lecture"},
+                 {&deck.stop, "Stopper"},
+                 {&deck.pause, "Pause"},
+                 {&deck.back, "Reculer"},
+                 {&deck.forward, "Avancer"},
+                 {&deck.zap, "Zapper sur Play" + QString::number(number % 3 + 1)},
+                 {&deck.special_mix, "Mixage spécial"},
+                 {&deck.progress, "Position"},
+                 {&deck.slider, "Volume"},
+                 {&deck.quieter, "Moins fort"},
+                 {&deck.louder, "Plus fort"},
+                 {&deck.keep_volume, "Garder le volume dans la liste"}})
+            EXPECT_EQ(part(main_view(), control->name()).accessibleName(), name + end);
     }
     EXPECT_EQ(part(main_view(), station.main_window.overlap.name()).accessibleName(), "Superposition en secondes");
+    EXPECT_EQ(part(main_view(), station.main_window.favourites.name()).accessibleName(), "Favoris");
+    EXPECT_EQ(part(main_view(), station.main_window.jingles.name()).accessibleName(), "Jingles");
     EXPECT_EQ(part(main_view(), "remaining").accessibleName(), "Temps restant");
 }
 

@@ -194,7 +194,6 @@ QWidget* ListView::table() {
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
     stops_.push_back(table);
-    setFocusProxy(table);
     return table;
 }
 
@@ -281,6 +280,11 @@ void ListView::show_row_menu() {
         all_entries_->popup(QCursor::pos());
     else
         menus().popup(window_.Load_Pl);
+}
+
+// The table has the window's keyboard. As a proxy it would have the window's place in the round of the tab key, too.
+void ListView::focusInEvent(QFocusEvent*) {
+    binding_of(window_.rows)->widget()->setFocus();
 }
 
 void ListView::order_keyboard() {

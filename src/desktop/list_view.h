@@ -35,6 +35,7 @@ public:
 protected:
     [[nodiscard]] QString title() const override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:

@@ -45,6 +45,13 @@ TEST_F(KeyboardOfTheList, GoesFromTheModesToTheFoot) {
                                              "ListView1", "Image1", "Image2", "Image3", "Image4", "Label8"}));
 }
 
+TEST_F(KeyboardOfTheList, ComesRoundToTheModes) {
+    part(list_view(), "Label8").setFocus(Qt::TabFocusReason);
+    for (int stop = 0; stop < 2; ++stop) // by the button of all commands
+        key(Qt::Key_Tab, "\t");
+    EXPECT_EQ(focus(), "Option1");
+}
+
 TEST_F(KeyboardOfTheList, SpaceBarPressesNoTransport) {
     for (const Image* image : transport()) {
         part(list_view(), image->name()).setFocus(Qt::TabFocusReason);

@@ -110,7 +110,7 @@ void SmallPlayerView::show_air(DeckRole role, const QString& title, const QStrin
 }
 
 QString SmallPlayerView::title() const {
-    const QString state = state_->text().startsWith("SILENCE") ? state_->text() : look_of(role_).word;
+    QString state = state_->text().startsWith("SILENCE") ? state_->text() : look_of(role_).word;
     if (title_->text().isEmpty())
         return state;
     const QString named = state + " : " + title_->text();

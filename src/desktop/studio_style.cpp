@@ -29,7 +29,6 @@ int StudioStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     switch (metric) {
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return has_lamp(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_RadioButtonLabelSpacing:
         return has_lamp(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_IndicatorWidth:

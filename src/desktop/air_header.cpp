@@ -125,7 +125,6 @@ void AirHeader::name_labels() {
     remaining_->setAccessibleName("Temps restant");
 }
 
-// Three equal columns, as of the decks below; the words of a silence take more of the middle.
 void AirHeader::set_step(Step step) {
     const StepLengths& lengths = lengths_of(step);
     setFixedHeight(scaled(lengths.header));
@@ -176,12 +175,14 @@ void AirHeader::show_words() {
                                                : look_.station);
 }
 
+// Three equal columns, as of the decks below; the words of a silence take more of the middle.
 void AirHeader::show_time() {
     remaining_->set_text(look_.left);
     to_mix_->set_text(look_.to_mix ? "·  MIX DANS " + QString::number(*look_.to_mix) + " s" : QString{});
     silence_->set_text("SILENCE depuis " + look_.silence);
-    for (QWidget* part : {remaining_, left_word_, to_mix_})
+    for (QWidget* part : {remaining_, left_word_})
         part->setVisible(!is_silent());
+    to_mix_->setVisible(!is_silent() && look_.to_mix.has_value());
     for (QWidget* part : {silence_, remedy_})
         part->setVisible(is_silent());
     grid_->setColumnStretch(0, 2);

@@ -118,18 +118,7 @@ void MarkHandle::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void MarkHandle::keyPressEvent(QKeyEvent* event) {
-    const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? long_key_step : key_step;
-    const bool is_plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
-    const int key = is_plain ? event->key() : 0;
-    if (key == Qt::Key_Left)
-        move_to(place() - step);
-    else if (key == Qt::Key_Right)
-        move_to(place() + step);
-    else if (key == Qt::Key_Home)
-        move_to(0);
-    else if (key == Qt::Key_End)
-        move_to(whole());
-    else
+    if (!move_by_key(*this, *event, key_step, long_key_step))
         QWidget::keyPressEvent(event);
 }
 

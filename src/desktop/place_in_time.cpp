@@ -1,6 +1,7 @@
 #include "desktop/place_in_time.h"
 
 #include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QWidget>
 #include <algorithm>
 
@@ -55,6 +56,28 @@ QString place_text(double seconds) {
     const auto two_digits = [](int number) { return QString::number(number).rightJustified(2, '0'); };
     const QString in_hour = two_digits(whole / 60 % 60) + ":" + two_digits(whole % 60);
     return whole < 3600 ? in_hour : QString::number(whole / 3600) + ":" + in_hour;
+}
+
+bool move_by_key(PlaceInTime& moved, const QKeyEvent& key, double step, double long_step) {
+    if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0)
+        return false;
+    const double by = key.modifiers().testFlag(Qt::ShiftModifier) ? long_step : step;
+    switch (key.key()) {
+    case Qt::Key_Left:
+        moved.move_to(moved.place() - by);
+        return true;
+    case Qt::Key_Right:
+        moved.move_to(moved.place() + by);
+        return true;
+    case Qt::Key_Home:
+        moved.move_to(0);
+        return true;
+    case Qt::Key_End:
+        moved.move_to(moved.whole());
+        return true;
+    default:
+        return false;
+    }
 }
 
 void tell_moved(QWidget& widget, double second) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QKeyEvent;
 class QWidget;
 
 namespace sonarelle {
@@ -24,6 +25,9 @@ public:
 
 /// A place for the eye: mm:ss, and h:mm:ss from an hour on.
 [[nodiscard]] QString place_text(double seconds);
+
+/// Takes the arrow keys by a step, with Shift by a long one, and Home and End; seconds. False for any other key.
+[[nodiscard]] bool move_by_key(PlaceInTime& moved, const QKeyEvent& key, double step, double long_step);
 
 /// A screen reader is told that the place of a widget is another.
 void tell_moved(QWidget& widget, double second);

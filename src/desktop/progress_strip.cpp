@@ -64,6 +64,8 @@ void ProgressStrip::set_text(const QString& text) {
 }
 
 void ProgressStrip::set_fill(const QColor& fill) {
+    if (fill == fill_)
+        return;
     fill_ = fill;
     update();
 }
@@ -222,18 +224,7 @@ void ProgressStrip::move_to(double second) {
 }
 
 void ProgressStrip::keyPressEvent(QKeyEvent* event) {
-    const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? long_key_step_ : key_step_;
-    const bool is_plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
-    const int key = is_plain && on_seek ? event->key() : 0;
-    if (key == Qt::Key_Left)
-        move_to(place() - step);
-    else if (key == Qt::Key_Right)
-        move_to(place() + step);
-    else if (key == Qt::Key_Home)
-        move_to(0);
-    else if (key == Qt::Key_End)
-        move_to(seconds_);
-    else
+    if (!on_seek || !move_by_key(*this, *event, key_step_, long_key_step_))
         QWidget::keyPressEvent(event);
 }
 

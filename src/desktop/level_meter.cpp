@@ -1,9 +1,11 @@
 #include "desktop/level_meter.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "desktop/colours.h"
 #include "desktop/text_size.h"
@@ -20,7 +22,9 @@ constexpr double overload_share = 0.06;
 constexpr double full = 0.999;
 constexpr int letter_width = 16;
 constexpr int gap = 4;
+constexpr int line_width = 2;
 constexpr int least_wide = 160; // pixels in which all figures have room
+constexpr int figure_looks = 8; // between two figures of the loudness, so that each can be read
 
 struct Figure {
     int decibels;
@@ -67,11 +71,27 @@ void LevelMeter::look() {
     std::array<Shown, 2> now{};
     for (std::size_t channel = 0; channel < 2; ++channel)
         now[channel] = next(shown_[channel], static_cast<double>(reading.peak[channel]));
-    if (now != shown_) {
-        shown_ = now;
-        update();
-    }
+    const std::array<Shown, 2> before = std::exchange(shown_, now);
+    for (std::size_t channel = 0; channel < 2; ++channel)
+        if (before[channel] != now[channel])
+            update(difference(bar(channel), before[channel], now[channel]));
     tell(reading);
+}
+
+QRectF LevelMeter::bar(std::size_t channel) const {
+    const int figures_height = QFontMetrics{font()}.height();
+    const double high = (height() - figures_height - gap) / 2.0;
+    return {letter_width, static_cast<double>(channel) * (high + gap), static_cast<double>(width() - letter_width),
+            high};
+}
+
+// What moved, so that a look paints neither the letters nor the scale anew.
+QRect LevelMeter::difference(const QRectF& bar, const Shown& before, const Shown& now) {
+    const double least = std::min({before.level, now.level, before.held, now.held});
+    const bool ends_alike = (before.overload_looks > 0) == (now.overload_looks > 0);
+    const double greatest = ends_alike ? std::max({before.level, now.level, before.held, now.held}) : 1.0;
+    const double left = bar.left() + bar.width() * least - line_width;
+    return QRectF{left, bar.top(), bar.left() + bar.width() * greatest - left, bar.height()}.toAlignedRect();
 }
 
 LevelMeter::Shown LevelMeter::next(const Shown& shown, double peak) {
@@ -87,6 +107,12 @@ LevelMeter::Shown LevelMeter::next(const Shown& shown, double peak) {
 }
 
 void LevelMeter::tell(const LevelReading& reading) {
+    const bool is_due = looks_to_figure_ <= 0 || reading.lufs.has_value() != has_loudness_;
+    --looks_to_figure_;
+    if (!is_due)
+        return;
+    looks_to_figure_ = figure_looks;
+    has_loudness_ = reading.lufs.has_value();
     QString text = loudness_text(reading.lufs);
     if (text == loudness_)
         return;
@@ -95,20 +121,23 @@ void LevelMeter::tell(const LevelReading& reading) {
         on_loudness(loudness_);
 }
 
-void LevelMeter::paintEvent(QPaintEvent*) {
+void LevelMeter::paintEvent(QPaintEvent* event) {
     QPainter painter{this};
-    const QFontMetrics metrics{font()};
-    const QRect bars{letter_width, 0, width() - letter_width, height() - metrics.height()};
-    const double height = (bars.height() - gap) / 2.0;
-    for (int channel = 0; channel < 2; ++channel) {
-        const QRectF bar{static_cast<double>(bars.left()), channel * (height + gap), static_cast<double>(bars.width()),
-                         height};
-        paint_channel(painter, bar, shown_[static_cast<std::size_t>(channel)]);
-        painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));
-        painter.drawText(QRectF{0, bar.top(), letter_width, height}, Qt::AlignLeft | Qt::AlignVCenter,
+    for (std::size_t channel = 0; channel < 2; ++channel)
+        paint_channel(painter, bar(channel), shown_[channel]);
+    painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));
+    if (event->rect().left() < letter_width)
+        paint_letters(painter);
+    if (event->rect().bottom() >= bar(1).bottom())
+        paint_scale(painter);
+}
+
+void LevelMeter::paint_letters(QPainter& painter) const {
+    for (std::size_t channel = 0; channel < 2; ++channel) {
+        const QRectF beside = bar(channel);
+        painter.drawText(QRectF{0, beside.top(), letter_width, beside.height()}, Qt::AlignLeft | Qt::AlignVCenter,
                          channel == 0 ? "G" : "D");
     }
-    paint_scale(painter, bars);
 }
 
 void LevelMeter::paint_channel(QPainter& painter, const QRectF& bar, const Shown& shown) const {
@@ -120,12 +149,14 @@ void LevelMeter::paint_channel(QPainter& painter, const QRectF& bar, const Shown
     if (shown.overload_looks > 0)
         painter.fillRect(overload, studio::trouble);
     if (shown.held > 0)
-        painter.fillRect(QRectF{bar.left() + bar.width() * shown.held - 2, bar.top(), 2, bar.height()}, studio::cursor);
+        painter.fillRect(
+            QRectF{bar.left() + bar.width() * shown.held - line_width, bar.top(), line_width, bar.height()},
+            studio::cursor);
 }
 
-void LevelMeter::paint_scale(QPainter& painter, const QRect& bars) const {
-    painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));
+void LevelMeter::paint_scale(QPainter& painter) const {
     const QFontMetrics metrics{font()};
+    const QRect bars = bar(0).toAlignedRect();
     for (const Figure& figure : figures) {
         if (!figure.is_always_shown && bars.width() < least_wide)
             continue;

@@ -14,7 +14,7 @@ class LevelMeter : public QWidget {
 public:
     explicit LevelMeter(const SoundReading& reading, QWidget* parent = nullptr);
 
-    /// Called with the loudness as text, when it is another.
+    /// Called with the loudness as text, when it is another: a few times a second at most.
     std::function<void(const QString&)> on_loudness;
 
     [[nodiscard]] QSize sizeHint() const override { return {150, 64}; }
@@ -39,12 +39,18 @@ private:
     void tell(const LevelReading& reading);
     [[nodiscard]] static Shown next(const Shown& shown, double peak);
     void paint_channel(QPainter& painter, const QRectF& bar, const Shown& shown) const;
-    void paint_scale(QPainter& painter, const QRect& bars) const;
+    void paint_letters(QPainter& painter) const;
+    void paint_scale(QPainter& painter) const;
+    [[nodiscard]] QRectF bar(std::size_t channel) const;
+    /// What of a bar has to be painted anew.
+    [[nodiscard]] static QRect difference(const QRectF& bar, const Shown& before, const Shown& now);
 
     SoundReading reading_;
     QTimer timer_;
     std::array<Shown, 2> shown_{};
     QString loudness_;
+    bool has_loudness_ = false;
+    int looks_to_figure_ = 0; ///< Until the next figure of the loudness.
 };
 
 /// A level as a share of a scale from -60 dB to full.

@@ -88,8 +88,10 @@ void StationLabel::set_narrow_text(const QString& text) {
 }
 
 const QString& StationLabel::shown_text() const {
+    if (narrow_text_.isEmpty())
+        return text_;
     const bool has_room = step_ != Step::narrow && width_of(text_) <= width() - 2 * margin();
-    return narrow_text_.isEmpty() || has_room ? text_ : narrow_text_;
+    return has_room ? text_ : narrow_text_;
 }
 
 void StationLabel::set_pressable(bool pressable) {

@@ -139,6 +139,38 @@ TEST_F(Meter, IsPaintedWhenTheLevelChanges) {
     meter.removeEventFilter(&counter);
 }
 
+TEST_F(Meter, PaintsWhatMovedAlone) {
+    struct Painted : QObject {
+        bool eventFilter(QObject* object, QEvent* event) override {
+            if (event->type() == QEvent::Paint)
+                rects |= static_cast<QPaintEvent*>(event)->region();
+            return QObject::eventFilter(object, event);
+        }
+        QRegion rects;
+    } painted;
+    show_peaks(0.0316228F, 0.0316228F); // -30 dB: 116 of 216 pixels
+    settle();
+    meter.installEventFilter(&painted);
+    source.level.peak = {0.1F, 0.1F};
+    EXPECT_TRUE(becomes([&] { return !painted.rects.isEmpty(); }));
+    meter.removeEventFilter(&painted);
+    EXPECT_GT(painted.rects.boundingRect().left(), 16);
+    EXPECT_LT(painted.rects.boundingRect().right(), 160);
+    EXPECT_FALSE(painted.rects.intersects(QRect{0, 50, 216, 14})) << "the scale";
+}
+
+TEST_F(Meter, ShowsOnTheScreenWhatItIsPaintedAs) {
+    show_peaks(1, 0.1F);
+    source.level.peak = {0, 0.5F};
+    for (int look = 0; look < 45; ++look) {
+        const int before = source.asked;
+        ASSERT_TRUE(becomes([&] { return source.asked > before; }));
+        settle();
+        const QImage screen = meter.screen()->grabWindow(meter.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+        ASSERT_EQ(screen, meter.grab().toImage().convertToFormat(QImage::Format_RGB32)) << "look " << look;
+    }
+}
+
 TEST_F(Meter, LineStaysWhereThePeakWas) {
     show_peaks(0.0316228F, 0.01F);
     source.level.peak = {0, 0};
@@ -203,6 +235,29 @@ TEST_F(Meter, TellsAnotherLoudnessOnce) {
     source.level.lufs = -18.0;
     EXPECT_TRUE(becomes([&] { return told.size() == 2; }));
     EXPECT_EQ(told, (std::vector<std::string>{"−20,0 LUFS", "−18,0 LUFS"}));
+}
+
+TEST_F(Meter, LeavesAFigureOfTheLoudnessForAMoment) {
+    source.level.lufs = -20.0;
+    show_peaks(0.5F, 0.5F);
+    const auto before = told.size();
+    const int asked = source.asked;
+    while (source.asked < asked + 24) {
+        *source.level.lufs += 0.1;
+        QTest::qWait(1);
+    }
+    EXPECT_LE(told.size(), before + 4);
+    EXPECT_GE(told.size(), before + 2);
+}
+
+TEST_F(Meter, TellsSilenceAtOnce) {
+    source.level.lufs = -20.0;
+    show_peaks(0.5F, 0.5F);
+    ASSERT_TRUE(becomes([&] { return told.size() == 1; }));
+    const int asked = source.asked;
+    source.level.lufs = {};
+    EXPECT_TRUE(becomes([&] { return told.back() == "— LUFS"; }));
+    EXPECT_LE(source.asked, asked + 3);
 }
 
 TEST_F(Meter, AsksForNothingWhileItIsHidden) {

@@ -166,9 +166,12 @@ void AirHeader::show_words() {
                                    : heading_of(look_.role));
     title_->set_text(lost && !is_silent() ? "CARTE SON PERDUE" : look_.title);
     const QString unheard = look_.title.isEmpty() ? QString{} : " : " + look_.title + " joue sans sortie";
-    next_->set_text(is_silent() ? "dernier titre diffusé, arrêté à " + look_.silent_since
-                    : lost      ? "depuis " + look_.lost_for + unheard
-                                : look_.next);
+    const QString following = is_silent() ? "dernier titre diffusé, arrêté à " + look_.silent_since
+                              : lost      ? "depuis " + look_.lost_for + unheard
+                                          : look_.next;
+    const bool tells_more = !alarms() && !look_.then.isEmpty();
+    next_->set_text(tells_more ? following + ", puis " + look_.then : following);
+    next_->set_narrow_text(tells_more ? following : QString{});
     station_->set_text(!look_.notice.isEmpty() ? look_.notice
                        : is_silent()           ? "noté au journal"
                        : lost                  ? "reprise dès le retour de la carte"

@@ -22,6 +22,7 @@ struct AirLook {
     QString left;                ///< Time to the end of play.
     std::optional<int> to_mix{}; ///< Seconds until the next track comes in; nothing where none does.
     QString next;
+    QString then{};         ///< The name of what comes behind that; empty for none.
     bool suspended = false; ///< The chain waits for a special mix, which `next` says in more words than usual.
     QString notice;         ///< A trouble that leaves the air as it is; empty for none.
     QString silence;        ///< How long the air has been silent, mm:ss; empty while it is as it should be.

@@ -183,6 +183,7 @@ DeckLook Desktop::look_of(Deck& deck) {
     look.is_next = desk_.ring.has_main_deck() && deck.number() == next_deck(desk_.ring.main_deck().number());
     look.is_unheard = sounds && lost_.isValid();
     look.file = to_qt(name_without_ending(deck.path));
+    look.genre = to_qt(deck.genre);
     look.kind = QFileInfo{to_qt(deck.path)}.suffix().toUpper();
     if (deck_on_air(desk_) == &deck)
         look.left = seconds_left(desk_);
@@ -202,6 +203,7 @@ void Desktop::show_air() {
     const QString title = name_on_air();
     const QString silence = to_qt(silence_text(desk_));
     const QString left = clock_text(seconds_left(desk_));
+    const auto [next, then] = what_follows();
     const auto silent = silent_seconds(desk_);
     const QString since = silent ? QTime::fromString(clock_, "HH:mm:ss").addSecs(-*silent).toString("HH:mm:ss") : "";
     main_->show_air({.role = air_role(desk_),
@@ -209,7 +211,8 @@ void Desktop::show_air() {
                      .title = title,
                      .left = left,
                      .to_mix = seconds_to_mix(desk_),
-                     .next = what_follows(),
+                     .next = next,
+                     .then = then,
                      .suspended = waits_for_special_mix(desk_),
                      .notice = notice(),
                      .silence = silence,
@@ -235,19 +238,22 @@ QString Desktop::length_beside(const std::string& next) {
     return {};
 }
 
-QString Desktop::what_follows() {
+// What comes next, in words, and the name of what comes then.
+std::pair<QString, QString> Desktop::what_follows() {
     if (waits_for_special_mix(desk_))
-        return "chaîne suspendue : mixage spécial";
+        return {"chaîne suspendue : mixage spécial", {}};
     if (is_stopped_by_a_fault(desk_))
-        return "Ensuite : rien";
+        return {"Ensuite : rien", {}};
     const auto is_missing = [this](const std::string& path) {
         return missing_.is_missing && missing_.is_missing(path);
     };
-    const std::string next = path_to_come(desk_, is_missing);
-    if (next.empty())
+    const std::vector<std::string> paths = paths_to_come(desk_, is_missing);
+    if (paths.empty())
         return {};
-    return "Ensuite : " + to_qt(name_without_ending(next)) +
-           (is_missing(next) ? " (fichier absent)" : length_beside(next));
+    const std::string& next = paths.front();
+    return {"Ensuite : " + to_qt(name_without_ending(next)) +
+                (is_missing(next) ? " (fichier absent)" : length_beside(next)),
+            paths.size() > 1 && !is_missing(paths.back()) ? to_qt(name_without_ending(paths.back())) : QString{}};
 }
 
 QString Desktop::notice() const {

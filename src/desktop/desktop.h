@@ -77,7 +77,7 @@ private:
     void show_air();
     [[nodiscard]] QString station_line() const;
     [[nodiscard]] QString length_beside(const std::string& next);
-    [[nodiscard]] QString what_follows();
+    [[nodiscard]] std::pair<QString, QString> what_follows();
     [[nodiscard]] QString notice() const;
     void show_list();
     void show_missing();

@@ -82,6 +82,8 @@ QString StationLabel::spoken() const {
 }
 
 void StationLabel::set_narrow_text(const QString& text) {
+    if (text == narrow_text_)
+        return;
     narrow_text_ = text;
     updateGeometry();
     update();
@@ -129,7 +131,7 @@ QSize StationLabel::sizeHint() const {
 
 QSize StationLabel::minimumSizeHint() const {
     const int height = style_.digits ? line_height() : fontMetrics().height();
-    if (!narrow_text_.isEmpty())
+    if (!narrow_text_.isEmpty() && !style_.name)
         return {width_of(narrow_text_) + fitted_slack + 2 * margin(), height};
     const bool is_fixed = style_.digits || style_.framed || style_.fitted;
     return {is_fixed ? sizeHint().width() : fontMetrics().horizontalAdvance("000"), height};

@@ -50,7 +50,9 @@ public:
 
     std::function<void()> on_press;
 
-    /// What its text needs to stand whole.
+    /// The text that is drawn: the narrow one where the other has no room.
+    [[nodiscard]] const QString& shown_text() const;
+    /// What that needs to stand whole.
     [[nodiscard]] int width_of_text() const;
     /// The ink that its text has where it stands.
     [[nodiscard]] QColor ink() const;
@@ -79,7 +81,6 @@ protected:
 
 private:
     void set_type();
-    [[nodiscard]] const QString& shown_text() const;
     [[nodiscard]] int width_of(const QString& text) const;
     [[nodiscard]] int line_height() const;
     [[nodiscard]] QFont font_that_fits(int width) const;

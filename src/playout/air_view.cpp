@@ -31,22 +31,52 @@ bool is_drawn(const Desk& desk) {
 
 constexpr int rows_looked_at = 100; // each second
 
-/// The chain goes over rows of the file that is on the air already.
-std::string path_in_list_order(const Desk& desk, const IsMissing& is_missing) {
-    const RowTable& rows = desk.list_window.rows;
-    int row = desk.list.index_en_cours.value();
-    std::string next;
+/// A row and its file; neither where there is none.
+struct RowToCome {
+    int row = 0;
+    std::string path;
+};
+
+/// The chain goes over rows of the file that is on the air before.
+RowToCome row_behind(const RowTable& rows, const RowToCome& before, const IsMissing& is_missing) {
+    int row = before.row;
+    RowToCome next;
     for (int looked_at = 0; looked_at < std::min(rows.count(), rows_looked_at); ++looked_at) {
         row = row < rows.count() ? row + 1 : 1;
         const std::string& path = rows.text(row);
-        if (path == desk.chain.chemin_precedent)
+        if (path == before.path)
             continue;
         if (!is_missing(path))
-            return path;
-        if (next.empty())
-            next = path;
+            return {row, path};
+        if (next.row == 0)
+            next = {row, path};
     }
     return next;
+}
+
+std::vector<std::string> paths_in_list_order(const Desk& desk, const IsMissing& is_missing) {
+    const RowTable& rows = desk.list_window.rows;
+    const RowToCome on_air{desk.list.index_en_cours.value(), desk.chain.chemin_precedent};
+    const RowToCome next = row_behind(rows, on_air, is_missing);
+    if (next.row == 0)
+        return {};
+    const RowToCome then = row_behind(rows, next, is_missing);
+    return then.row == 0 ? std::vector{next.path} : std::vector{next.path, then.path};
+}
+
+/// Without a list the decks follow each other round the ring.
+std::vector<std::string> paths_on_decks(const Desk& desk, const Deck& next) {
+    const Deck& then = desk.ring.deck(next_deck(next.number()));
+    return role_of(desk, then) == DeckRole::loaded ? std::vector{next.path, then.path} : std::vector{next.path};
+}
+
+/// A row that is loaded ahead has its place behind the one on the air, where no draw put it.
+std::vector<std::string> paths_behind_loaded(const Desk& desk, const Deck& next, const IsMissing& is_missing) {
+    if (is_drawn(desk))
+        return {next.path};
+    const RowToCome loaded{desk.list.index_en_cours.value() + 1, next.path};
+    const RowToCome then = row_behind(desk.list_window.rows, loaded, is_missing);
+    return then.row == 0 ? std::vector{next.path} : std::vector{next.path, then.path};
 }
 
 } // namespace
@@ -139,7 +169,7 @@ bool is_stopped_by_a_fault(const Desk& desk) {
            !desk.window.list_chain_timer.enabled();
 }
 
-std::string path_to_come(Desk& desk, const IsMissing& is_missing) {
+std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing) {
     if (!is_on(main_role(desk)) || desk.is_manual() || is_stopped_by_a_fault(desk))
         return {};
     const Deck& next = desk.ring.deck(next_deck(desk.chain.lecteur_en_cours.value()));
@@ -148,8 +178,8 @@ std::string path_to_come(Desk& desk, const IsMissing& is_missing) {
         return {};
     const bool prepared = !from_list || desk.chain.chargement_fait.is_true();
     if (prepared && role_of(desk, next) == DeckRole::loaded)
-        return next.path;
-    return from_list && !is_drawn(desk) ? path_in_list_order(desk, is_missing) : std::string{};
+        return from_list ? paths_behind_loaded(desk, next, is_missing) : paths_on_decks(desk, next);
+    return from_list && !is_drawn(desk) ? paths_in_list_order(desk, is_missing) : std::vector<std::string>{};
 }
 
 } // namespace sonarelle

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "playout/desk.h"
 
@@ -54,9 +55,9 @@ enum class DeckRole {
 [[nodiscard]] bool is_stopped_by_a_fault(const Desk& desk);
 
 using IsMissing = std::function<bool(const std::string& path)>;
-/// The file that follows the main deck's. The chain goes over rows whose file is missing, as far as `is_missing` knows;
-/// where it knows that of all that are near, this is the next one of them. Empty when nothing follows by itself, or a
-/// draw has yet to choose.
-[[nodiscard]] std::string path_to_come(Desk& desk, const IsMissing& is_missing);
+/// The files that follow the main deck's, two at most. The chain goes over rows whose file is missing, as far as
+/// `is_missing` knows; where it knows that of all that are near, the next one of them stands for them. None when
+/// nothing follows by itself; a draw has yet to choose what comes behind.
+[[nodiscard]] std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing);
 
 } // namespace sonarelle

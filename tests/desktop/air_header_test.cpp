@@ -85,6 +85,28 @@ protected:
 
 } // namespace
 
+TEST_F(AirHeaderTest, TellsWhatComesThenWhereThereIsRoom) {
+    AirLook shown;
+    shown.role = DeckRole::on_air;
+    shown.next = "Ensuite : Jingle horaire (00:00:03)";
+    shown.then = "Nuit au phare";
+    view.resize(1600, 560);
+    show(shown);
+    EXPECT_EQ(label("air_next").shown_text(), "Ensuite : Jingle horaire (00:00:03), puis Nuit au phare");
+    view.resize(1000, 459);
+    settle();
+    EXPECT_EQ(label("air_next").shown_text(), "Ensuite : Jingle horaire (00:00:03)");
+}
+
+TEST_F(AirHeaderTest, TellsNothingThatComesThenInAnAlarm) {
+    AirLook shown;
+    shown.next = "Ensuite : x";
+    shown.then = "y";
+    show(shown);
+    be_silent_for("00:12");
+    EXPECT_EQ(label("air_next").shown_text(), "dernier titre diffusé, arrêté à 10:53:50");
+}
+
 TEST_F(AirHeaderTest, TellsNothingBeforeAnythingIsKnown) {
     EXPECT_LT(red_share(), 0.01);
     EXPECT_FALSE(label("air_silence").isVisible());

@@ -179,7 +179,7 @@ TEST_F(AirOnDesk, WhatFollowsIsTheFirstRowWhoseFileIsThere) {
     desktop->mark_missing({[](const std::string& path) { return path == "C:\\Musique\\deux.mp3"; }, {}});
     play_list();
     run_for(1);
-    EXPECT_EQ(desk_says("air_next"), "Ensuite : trois");
+    EXPECT_EQ(desk_says("air_next"), "Ensuite : trois, puis un");
 }
 
 TEST_F(AirOnDesk, WhatFollowsIsToldAsMissingWhereNoFileIsThere) {

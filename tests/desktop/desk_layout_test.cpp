@@ -51,6 +51,7 @@ protected:
         look.is_refused = draw(8) == 0;
         look.file = names[draw(5)];
         look.kind = toss() ? "MP3" : "FLAC";
+        look.genre = std::array{"", "Jazz", "Folk, World & Country"}.at(static_cast<std::size_t>(draw(3)));
         look.end_point = length;
         look.mix_point = length - 6.0;
         main_view().show_look(number, look);
@@ -65,6 +66,7 @@ protected:
         if (toss())
             look.to_mix = draw(32400);
         look.next = "Ensuite : " + QString{names[draw(5)]} + " (00:00:03)";
+        look.then = toss() ? names[draw(5)] : "";
         look.notice = draw(4) == 0 ? "ENCHAÎNEMENT STOPPÉ" : "";
         look.silence = draw(4) == 0 ? "99:59" : "";
         look.silent_since = "10:53:50";

@@ -11,11 +11,14 @@ namespace {
 
 class AirView : public ChainFixture {
 protected:
-    [[nodiscard]] std::string to_come() {
-        return name_without_ending(path_to_come(station.desk, [this](const std::string& path) {
+    /// What follows the track on the air, by its place: the next one is the first.
+    [[nodiscard]] std::string to_come(std::size_t place = 0) {
+        const std::vector<std::string> paths = paths_to_come(station.desk, [this](const std::string& path) {
             return std::ranges::find(missing, path) != missing.end();
-        }));
+        });
+        return place < paths.size() ? name_without_ending(paths[place]) : std::string{};
     }
+    [[nodiscard]] std::string then() { return to_come(1); }
     [[nodiscard]] std::vector<DeckRole> roles() {
         std::vector<DeckRole> roles;
         for (const Deck& deck : station.deck_ring.decks)
@@ -65,6 +68,44 @@ TEST_F(AirView, NamesTheFirstRowBehindTheLastOne) {
     EXPECT_EQ(to_come(), "titre 1");
 }
 
+TEST_F(AirView, NamesTheRowBehindTheNextOneBeforeAndAfterItIsLoaded) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(then(), "titre 3");
+    machine.run_for(seconds(189));
+    EXPECT_EQ(then(), "titre 3");
+    machine.run_for(seconds(6));
+    EXPECT_EQ(then(), "titre 1") << "round the end";
+}
+
+TEST_F(AirView, NamesNothingBehindALoadedDraw) {
+    open_tracks({200, 200, 200});
+    start_list();
+    station.chain.ordre_aleatoire = true;
+    machine.run_for(seconds(190));
+    EXPECT_NE(to_come(), "");
+    EXPECT_EQ(then(), "");
+}
+
+TEST_F(AirView, NamesTheThirdDeckBehindTheNextOne) {
+    open_on_all({60, 60, 60});
+    station.main_window.mix_titles.click();
+    controls(1).play.click();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "titre 2");
+    EXPECT_EQ(then(), "titre 3");
+}
+
+TEST_F(AirView, NamesNoDeckWithoutAFileBehindTheNextOne) {
+    open_on_all({60, 60});
+    station.main_window.mix_titles.click();
+    controls(1).play.click();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(to_come(), "titre 2");
+    EXPECT_EQ(then(), "");
+}
+
 TEST_F(AirView, GoesOverRowsOfTheFileOnTheAir) {
     machine.add_track("C:\\a.mp3", 100);
     machine.add_track("C:\\b.mp3", 100);
@@ -74,6 +115,7 @@ TEST_F(AirView, GoesOverRowsOfTheFileOnTheAir) {
     start_list();
     machine.run_for(seconds(1));
     EXPECT_EQ(to_come(), "b");
+    EXPECT_EQ(then(), "a");
 }
 
 TEST_F(AirView, GoesOverRowsWhoseFileIsMissingAsTheChainDoes) {

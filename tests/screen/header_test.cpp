@@ -37,7 +37,7 @@ TEST_F(HeaderOnScreen, NamesWhatIsHeardAndWhatComesNext) {
     operate(list_of(2, 40), [this] {
         reads("air_state", "À L'ANTENNE — Play 1");
         reads("air_title", "piste1");
-        reads("air_next", "Ensuite : piste2");
+        reads("air_next", "Ensuite : piste2, puis piste1");
         reads("remaining", "00:00:38");
     });
 }

@@ -86,7 +86,7 @@ DeckPanel::DeckPanel(WindowView& view, DeckControls& controls, Label& slider_sta
       lamp_{new Lamp{this}},
       name_{label_of({.type = Type::small, .bold = true, .capitals = true, .fitted = true},
                      "LECTEUR " + QString::number(number))},
-      state_{label_of({.type = Type::small, .bold = true, .characters = 12})},
+      state_{label_of({.type = Type::small, .bold = true, .fitted = true})},
       kind_{label_of({.type = Type::small, .quiet = true, .characters = 5, .alignment = at_right})},
       details_{label_of({.type = Type::small, .quiet = true, .characters = 24})},
       elapsed_{label_of({.type = Type::figure, .bold = true, .digits = true, .shrinking = true, .characters = 4}, "0")},
@@ -177,7 +177,7 @@ void DeckPanel::build_volume(Dresser& dresser, Label& slider_stand_in) {
 
 QLayout* DeckPanel::heading() {
     auto* row = row_of({lamp_, name_, state_, kind_}, studio::grid);
-    row->setStretchFactor(state_, 1);
+    row->setStretchFactor(kind_, 1);
     return row;
 }
 
@@ -264,7 +264,8 @@ void DeckPanel::show_state() {
     lamp_->set_accent(lamp);
     state_->set_text(word);
     state_->set_ink(ink_of(card));
-    kind_->set_text(look_.kind);
+    kind_->set_text(look_.genre.isEmpty() ? look_.kind : look_.kind + " · " + look_.genre);
+    kind_->set_narrow_text(look_.kind);
     buttons_[1]->set_accent(on_air ? Accent::air : Accent::none);
     buttons_[zap_place]->set_accent(on_air ? Accent::next : Accent::none);
     title_->set_file(look_.file);

@@ -24,6 +24,7 @@ struct DeckLook {
     bool is_refused = false;                 ///< Its file isn't there, or can't be played.
     QString file{};                          ///< The name of the file on it, without its ending; empty for none.
     QString kind{};                          ///< What its ending says, in capitals.
+    QString genre{};                         ///< Of its record; empty for none.
     std::optional<int> elapsed{};            ///< Second of the file, where the deck's bar doesn't follow it.
     std::optional<int> left{};               ///< Seconds to its end, where the air is told by it.
     std::optional<double> mix_point{};       ///< Seconds.

@@ -65,6 +65,7 @@ void Deck::drop_graph() {
 void Deck::forget_record() {
     fin_piste.clear();
     debut_piste = 0;
+    genre.clear();
     start_by_hand.reset();
     volume_piste.reset();
 }

@@ -81,6 +81,7 @@ public:
     std::string& path;
     std::string fin_piste;  ///< End of play of the record on the deck, seconds as text; empty without a record.
     double debut_piste = 0; ///< Start of play of that record, seconds.
+    std::string genre;      ///< Of that record.
     std::optional<double> start_by_hand; ///< Where the operator wants the next start instead, seconds.
     std::optional<Integer> volume_piste; ///< Its attenuation, hundredths of a decibel; none without a record.
     std::string duree_piste;             ///< Whole seconds of the file, as text.

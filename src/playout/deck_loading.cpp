@@ -93,6 +93,7 @@ LoadResult DeckLoading::render_from_list(Deck& deck, const DestinationRecord& ro
 // What a hand loads plays to its end.
 void DeckLoading::take_record(Deck& deck, const DestinationRecord& record) {
     deck.debut_piste = record.dest_debut;
+    deck.genre = record.dest_genre;
     deck.start_by_hand.reset();
     deck.fin_piste.clear();
     deck.volume_piste = record.dest_volume;
@@ -124,6 +125,7 @@ void DeckLoading::charge_lire(const std::string& path) {
     deck.create_graph();
     desk_.chain.lecteur_en_cours = 1;
     deck.path = path;
+    deck.genre.clear();
     desk_.display.named(deck, name_of(path));
     Failure failure{FailureNumber::unplayable_file};
     try {

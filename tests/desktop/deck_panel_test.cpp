@@ -67,6 +67,20 @@ TEST_F(DeckPanels, LampSaysWhatTheDeckIsToTheAir) {
     }
 }
 
+TEST_F(DeckPanels, GenreStandsBesideTheKindWhereThereIsRoom) {
+    DeckLook look = look_of(DeckRole::on_air, "un");
+    look.kind = "MP3";
+    look.genre = "Jazz";
+    main_view().show_look(1, look);
+    settle();
+    EXPECT_TRUE(says("MP3 · Jazz"));
+    look.genre = "Musique électronique de danse et de fête";
+    main_view().show_look(1, look);
+    settle();
+    const auto labels = parts_of<StationLabel>(panel());
+    EXPECT_TRUE(std::ranges::any_of(labels, [](const StationLabel* label) { return label->shown_text() == "MP3"; }));
+}
+
 TEST_F(DeckPanels, FilesAreDroppedAnywhereOnThem) {
     EXPECT_EQ(panel().acceptDrops(), widget(deck().open).acceptDrops());
     EXPECT_TRUE(panel().acceptDrops());

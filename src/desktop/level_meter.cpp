@@ -53,6 +53,7 @@ LevelMeter::LevelMeter(const SoundReading& reading, QWidget* parent)
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
     setAccessibleName("Niveau");
     setFont(studio_font(Type::tiny));
+    setAttribute(Qt::WA_OpaquePaintEvent); // the card and the window's picture below rest meanwhile
 }
 
 void LevelMeter::showEvent(QShowEvent*) {
@@ -123,6 +124,7 @@ void LevelMeter::tell(const LevelReading& reading) {
 
 void LevelMeter::paintEvent(QPaintEvent* event) {
     QPainter painter{this};
+    painter.fillRect(event->rect(), palette().color(QPalette::Window));
     for (std::size_t channel = 0; channel < 2; ++channel)
         paint_channel(painter, bar(channel), shown_[channel]);
     painter.setPen(legible(studio::caption, palette().color(QPalette::Window)));

@@ -19,6 +19,7 @@ SoundPictureView::SoundPictureView(const SoundReading& reading, QWidget* parent)
     : QWidget{parent},
       reading_{reading},
       frames_(2 * wave_frames) {
+    setAttribute(Qt::WA_OpaquePaintEvent); // the card and the window's picture below rest meanwhile
     timer_.setInterval(interval);
     connect(&timer_, &QTimer::timeout, this, [this] { update(); });
 }

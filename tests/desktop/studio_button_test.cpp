@@ -40,6 +40,7 @@ protected:
         font.setBold(true);
         button.setFont(font);
         button.setText("Stopper");
+        button.setFocusPolicy(Qt::NoFocus); // its bright ring would be taken for the ink
         button.setGeometry(10, 10, 140, 40);
         panel.resize(160, 60);
         panel.show();

@@ -260,6 +260,15 @@ TEST_F(AirHeaderTest, MovesNothingBelowItInAlarm) {
     EXPECT_EQ(header().geometry(), before);
 }
 
+TEST_F(AirHeaderTest, BannerIsGoneWhileTheAirIsSilent) {
+    view.resize(1920, 672);
+    const QWidget& banner = *view.findChild<QWidget*>(QString::fromStdString(main_window.banner.name()));
+    be_silent_for("00:02");
+    EXPECT_FALSE(banner.isVisible());
+    play();
+    EXPECT_TRUE(banner.isVisible());
+}
+
 TEST_F(AirHeaderTest, SaysWhichDeckIsHeardWhileTheMainOneIsSilent) {
     show_role(DeckRole::heard, 3);
     EXPECT_EQ(label("air_state").text(), "EN LECTURE — Play 3");

@@ -152,6 +152,31 @@ TEST_F(AirOnDesk, DeckThatWaitsShowsAtOnceWhereItWillBegin) {
     EXPECT_EQ(events, before + 1);
 }
 
+TEST_F(AirOnDesk, DeckThatWasStoppedShowsWhereItWillBegin) {
+    play_list(20);
+    run_for(30);
+    station.main_window.deck(1).stop.click();
+    settle();
+    const auto& bar = part<ProgressStrip>(main_view(), station.main_window.deck(1).progress.name());
+    EXPECT_NEAR(bar.share(), 0.20, 1e-6);
+    const auto labels = parts_of<StationLabel>(*bar.parentWidget());
+    EXPECT_GE(std::ranges::count(labels, "20", &StationLabel::text), 1);
+}
+
+TEST_F(AirOnDesk, LossOfTheCardIsCountedFromItsBeginningHoweverOftenItIsTold) {
+    play_list();
+    run_for(20);
+    EXPECT_TRUE(becomes([this] {
+        desktop->show_output("sortie : aucune carte son", true);
+        return !desk_says("air_next").starts_with("depuis 00:00");
+    }));
+    EXPECT_EQ(desk_says("air_title"), "CARTE SON PERDUE");
+    desktop->show_output("sortie : carte", false);
+    EXPECT_EQ(desk_says("air_title"), "un");
+    desktop->show_output("sortie : aucune carte son", true);
+    EXPECT_EQ(desk_says("air_next"), "depuis 00:00 : un joue sans sortie");
+}
+
 TEST_F(AirOnDesk, BarOnTheAirSaysWhyItStays) {
     play_list();
     run_for(20);

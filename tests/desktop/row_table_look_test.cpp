@@ -122,6 +122,18 @@ TEST_F(LookOfATable, PathOfAMissingFileIsStruckOutAndNothingElse) {
         EXPECT_FALSE(is_struck_out(row, 0)) << row;
 }
 
+TEST_F(LookOfATable, LongPathShowsItsBeginningAndItsEnd) {
+    fill(1); // which has the edge of the table
+    const std::string folder = "\\" + std::string(200, 'a') + "\\";
+    for (const std::string& path :
+         {"D:" + folder + "matin.mp3", "D:" + folder + "soir.mp3", "E:" + folder + "matin.mp3"})
+        table.append({path});
+    settle();
+    show();
+    EXPECT_NE(cell(2), cell(3)) << "the names of their files differ";
+    EXPECT_NE(cell(2), cell(4)) << "their drives differ";
+}
+
 TEST_F(LookOfATable, StateIsToldInWordsToTheScreenReader) {
     show_states();
     const auto said = [this](int row) {

@@ -31,6 +31,12 @@ protected:
     static Frames seconds(int count) { return Frames{std::int64_t{count} * 48000}; }
     [[nodiscard]] QWidget& view() { return widget_of(station.small_player); }
     [[nodiscard]] StationLabel& label(const char* name) { return *view().findChild<StationLabel*>(name); }
+    [[nodiscard]] QColor lamp() {
+        for (QWidget* child : view().findChildren<QWidget*>())
+            if (auto* found = dynamic_cast<Lamp*>(child))
+                return seen_in_window(*found).pixelColor(found->rect().center());
+        return {};
+    }
     void press(Qt::Key code, const QString& text) {
         key(view(), code, text);
         settle();
@@ -117,6 +123,18 @@ TEST_F(PlayerOnView, TellsASilenceWhateverHidesBehindIt) {
     EXPECT_GT(ink.red(), ink.green() + 40);
     player.show_air(DeckRole::on_air, "titre 1");
     EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
+}
+
+TEST_F(PlayerOnView, LampHasTheColourOfTheState) {
+    auto& player = dynamic_cast<SmallPlayerView&>(view());
+    player.show_air(DeckRole::on_air, "titre 1");
+    EXPECT_TRUE(is_near(lamp(), studio::air));
+    player.show_air(DeckRole::paused, "titre 1");
+    EXPECT_TRUE(is_near(lamp(), studio::next));
+    player.show_air(DeckRole::ended, {}, "01:37");
+    EXPECT_TRUE(is_near(lamp(), studio::trouble));
+    player.show_air(DeckRole::ended, {});
+    EXPECT_TRUE(is_near(lamp(), studio::field_line));
 }
 
 TEST_F(PlayerOnView, NamesStateTitleAndTimeOnItsFrame) {

@@ -69,6 +69,15 @@ protected:
                 return (x - 16) / 2;
         return -1;
     }
+    /// How long the longest upright stroke of a channel's letter is.
+    [[nodiscard]] int stroke(int channel) {
+        const QImage letter = seen(meter).copy(0, channel == 0 ? 0 : 28, 14, 22);
+        const QColor ink = ink_in(letter);
+        int longest = 0;
+        for (int x = 0; x < letter.width(); ++x)
+            longest = std::max(longest, count_of(letter.copy(x, 0, 1, letter.height()), ink));
+        return longest;
+    }
     [[nodiscard]] bool is_overloaded(int channel) { return is_near(at(channel, 97), studio::trouble); }
 
     Source source;
@@ -216,6 +225,11 @@ TEST_F(Meter, ScaleAndLettersRead) {
     const QImage image = seen(meter);
     EXPECT_GE(contrast_in(image.copy(0, 50, 216, 14)), readable);
     EXPECT_GE(contrast_in(image.copy(0, 0, 14, 24)), readable);
+}
+
+TEST_F(Meter, LeftStandsAboveRight) {
+    show_peaks(0, 0);
+    EXPECT_GT(stroke(1), stroke(0)) << "a D has a straight back, a G has none";
 }
 
 TEST_F(Meter, FallsSlowly) {

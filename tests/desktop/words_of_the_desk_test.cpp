@@ -34,6 +34,17 @@ TEST_F(WordsOfTheDesk, NameThePartsOfTheMainWindow) {
     EXPECT_EQ(count(main_view(), "reste"), 3);
 }
 
+TEST_F(WordsOfTheDesk, NameTheChainThatRunsAndNoPanelTwice) {
+    station.main_window.running_chain.caption = "Mixer une liste";
+    settle();
+    const auto shown = count(main_view(), "Mixer une liste");
+    station.main_window.running_chain.caption = "Chargement rapide";
+    settle();
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(count(main_view(), "Chargement rapide"), 0);
+    EXPECT_EQ(count(main_view(), "CHARGEMENT RAPIDE"), 1);
+}
+
 TEST_F(WordsOfTheDesk, NameThePartsOfTheList) {
     list_view().resize(1280, 293);
     settle();

@@ -21,7 +21,10 @@ namespace sonarelle {
 
 namespace {
 
-constexpr int overlap_width = 44; // pixels
+// Pixels.
+constexpr int overlap_width = 44;
+constexpr int heading_height = 18;
+constexpr int edge = 7; // above the heading, and below the last row
 const QString quick_load_heading = "CHARGEMENT RAPIDE";
 
 StationLabel* label_of(const StationLabel::Style& style, const QString& text = {}) {
@@ -35,7 +38,8 @@ class HeadedPanel : public Panel, public Stepped {
 public:
     HeadedPanel(const QString& heading, StationLabel* aside = nullptr)
         : column_{new QVBoxLayout{this}},
-          heading_{label_of({.type = Type::tiny, .quiet = true, .capitals = true, .fitted = true}, heading)} {
+          heading_{label_of({.type = Type::tiny, .quiet = true, .capitals = true, .fitted = true}, heading)},
+          aside_{aside} {
         auto* head = row_of({heading_}, studio::grid);
         if (aside != nullptr)
             head->addWidget(aside, 1);
@@ -49,14 +53,18 @@ public:
 
     void set_step(Step step) override {
         const int side = lengths_of(step).card_margin.width();
-        column_->setContentsMargins(side, studio::grid, side, studio::grid);
+        column_->setContentsMargins(side, edge, side, edge);
         column_->setSpacing(lengths_of(step).gap);
-        heading_->setFixedHeight(scaled(16));
+        // The rows below stay where they are, whatever comes and goes beside the heading.
+        for (StationLabel* words : {heading_, aside_})
+            if (words != nullptr)
+                words->setFixedHeight(scaled(heading_height));
     }
 
 private:
     QVBoxLayout* column_;
     StationLabel* heading_;
+    StationLabel* aside_;
 };
 
 /// The arrow keys in the overlap's field take its steps.

@@ -69,6 +69,8 @@ inline void expect_laid_out(QWidget& root, const std::string& where) {
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const QRect place = place_in(*parts[i], root);
         EXPECT_TRUE(is_whole(*parts[i])) << where << ": clipped " << name_of(*parts[i]);
+        const QSize least = parts[i]->minimumSizeHint().boundedTo(parts[i]->maximumSize());
+        EXPECT_GE(place.height(), least.height()) << where << ": too low " << name_of(*parts[i]);
         EXPECT_TRUE(root.rect().contains(place)) << where << ": beyond the window " << name_of(*parts[i]);
         for (std::size_t j = i + 1; j < parts.size(); ++j)
             if (!parts[i]->isAncestorOf(parts[j]) && !parts[j]->isAncestorOf(parts[i])) {

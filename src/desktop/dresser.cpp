@@ -2,6 +2,7 @@
 
 #include "desktop/button_bindings.h"
 #include "desktop/choice_bindings.h"
+#include "desktop/label_button.h"
 #include "desktop/range_bindings.h"
 #include "desktop/segments.h"
 #include "desktop/studio_style.h"
@@ -37,6 +38,12 @@ QCheckBox* Dresser::check_box(CheckBox& box) {
 QRadioButton* Dresser::option(OptionButton& option) {
     auto* widget = new QRadioButton{parent()};
     view_.keep(std::make_unique<OptionBinding>(option, *widget, services()));
+    return widget;
+}
+
+StudioButton* Dresser::label_button(Label& label) {
+    auto* widget = new StudioButton{parent()};
+    view_.keep(std::make_unique<LabelButtonBinding>(label, *widget, services()));
     return widget;
 }
 

@@ -34,6 +34,8 @@ public:
     QLineEdit* text_box(TextBox& box);
     QCheckBox* check_box(CheckBox& box);
     QRadioButton* option(OptionButton& option);
+    /// A label that is pressed, as a button with its caption.
+    StudioButton* label_button(Label& label);
     StudioButton* button(Button& button, const QString& symbol = {});
     /// A picture; until its file is there, a symbol or a word.
     StudioButton* image(Image& image, const QString& symbol = {}, Accent accent = Accent::none);

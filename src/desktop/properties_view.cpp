@@ -72,7 +72,7 @@ Panel* PropertiesView::sound_panel() {
     start_ = grip(MarkHandle::Side::start, window_.start_label, window_.on_start_moved);
     end_ = grip(MarkHandle::Side::end, window_.end_label, window_.on_end_moved);
     rows->addWidget(strip_, 1);
-    rows->addLayout(row_of({action(window_.play, 9), action(window_.stop, 9), nullptr}));
+    rows->addLayout(row_of({action(window_.play), action(window_.stop), nullptr}, studio::grid));
     auto* marks = new QGridLayout;
     marks->setHorizontalSpacing(studio::grid);
     marks->setVerticalSpacing(studio::grid);
@@ -101,11 +101,8 @@ void PropertiesView::add_mark(QGridLayout& grid, Label& name, TextBox& field, st
     grid.addWidget(dresser_.label(name, name_style), line, 0);
     grid.addWidget(number_field(field, name), line, 1);
     grid.addWidget(plain_text(unit_style, "s"), line, 2);
-    int column = 3;
-    for (Label* label : actions) {
-        grid.addWidget(action(*label, column == 5 ? 9 : 3, &name), line, column);
-        ++column;
-    }
+    for (int column = 3; Label * label : actions)
+        grid.addWidget(action(*label, &name), line, column++);
 }
 
 Panel* PropertiesView::record_panel() {
@@ -138,13 +135,13 @@ QLineEdit* PropertiesView::number_field(TextBox& field, const Label& name) {
     return box;
 }
 
-// Its hint alone may not say which line it belongs to.
-StationLabel* PropertiesView::action(Label& label, int characters, const Label* of) {
-    auto* widget = dresser_.label(
-        label, {.type = Type::base, .framed = true, .characters = characters, .alignment = Qt::AlignCenter});
-    if (of != nullptr)
-        widget->setAccessibleDescription(plain_caption(of->caption));
-    return widget;
+// Its hint alone doesn't say which line it belongs to.
+StudioButton* PropertiesView::action(Label& label, const Label* line) {
+    StudioButton* button = dresser_.label_button(label);
+    button->set_size(ButtonSize::control);
+    if (line != nullptr)
+        binding_of(label)->set_spoken_name(plain_caption(line->caption) + " : " + to_qt(label.hint));
+    return button;
 }
 
 QLayout* PropertiesView::foot() {

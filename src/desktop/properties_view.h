@@ -28,7 +28,7 @@ private:
     void add_mark(QGridLayout& grid, Label& name, TextBox& field, std::initializer_list<Label*> actions);
     void add_field(QBoxLayout& row, Label& name, TextBox& field, const QString& unit, int characters);
     [[nodiscard]] QLineEdit* number_field(TextBox& field, const Label& name);
-    [[nodiscard]] StationLabel* action(Label& label, int characters, const Label* of = nullptr);
+    [[nodiscard]] StudioButton* action(Label& label, const Label* line = nullptr);
     [[nodiscard]] MarkHandle* grip(MarkHandle::Side side, const Label& name, std::function<void(double)>& moved);
 
     void show_sound();

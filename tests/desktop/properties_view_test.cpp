@@ -4,9 +4,12 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QToolTip>
+#include <QWindow>
+#include <set>
 
 #include "desktop/mark_handle.h"
 #include "desktop/progress_strip.h"
+#include "desktop/qt_text.h"
 #include "desktop/station_views.h"
 
 namespace sonarelle {
@@ -227,6 +230,50 @@ TEST_F(PropertiesOnView, TellWhatIsNotSavedBesideTheButtonThatSaves) {
     ASSERT_TRUE(modified.isVisible());
     EXPECT_LT(modified.geometry().right(), save.geometry().left());
     EXPECT_LT(save.geometry().left() - modified.geometry().right(), 20);
+}
+
+TEST_F(PropertiesOnView, ActionsArePressedByTabReturnAndSpace) {
+    for (Label* label : window.actions()) {
+        int presses = 0;
+        label->visible = true;
+        label->on_click = [&presses] { ++presses; };
+        settle();
+        auto& button = part<StudioButton>(view(), label->name());
+        EXPECT_EQ(button.text(), to_qt(label->caption));
+        button.setFocus(Qt::TabFocusReason);
+        QTest::sendKeyEvent(QTest::Click, view().windowHandle(), Qt::Key_Return, "\r", Qt::NoModifier);
+        EXPECT_EQ(presses, 1) << label->name();
+        QTest::sendKeyEvent(QTest::Click, view().windowHandle(), Qt::Key_Space, " ", Qt::NoModifier);
+        EXPECT_EQ(presses, 2) << label->name();
+        QTest::mouseClick(&button, Qt::LeftButton);
+        EXPECT_EQ(presses, 3) << label->name();
+    }
+}
+
+TEST_F(PropertiesOnView, TabKeyGoesOverTheActionsLineByLine) {
+    for (Label* label : window.actions())
+        label->visible = true;
+    settle();
+    const std::vector<const Control*> expected{
+        &window.play,       &window.stop, &window.start,    &window.start_back,  &window.start_forward,
+        &window.mark_start, &window.end,  &window.end_back, &window.end_forward, &window.mark_end};
+    part(view(), window.play.name()).setFocus(Qt::TabFocusReason);
+    for (const Control* control : expected) {
+        ASSERT_NE(view().focusWidget(), nullptr);
+        EXPECT_EQ(view().focusWidget()->objectName(), to_qt(control->name()));
+        QTest::keyClick(view().focusWidget(), Qt::Key_Tab);
+    }
+}
+
+TEST_F(PropertiesOnView, ScreenReaderTellsTheActionsOfTheLinesApart) {
+    std::set<QString> names;
+    for (Label* label : window.actions()) {
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&part(view(), label->name()));
+        EXPECT_EQ(told->role(), QAccessible::Button) << label->name();
+        names.insert(told->text(QAccessible::Name));
+    }
+    EXPECT_EQ(names.size(), window.actions().size());
+    EXPECT_TRUE(names.contains("Fin de piste : Reculer"));
 }
 
 TEST_F(PropertiesOnView, NumbersStandAtTheRight) {

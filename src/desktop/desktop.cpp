@@ -15,6 +15,7 @@
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
 #include "desktop/menu_style.h"
+#include "desktop/mnemonics.h"
 #include "desktop/part_access.h"
 #include "desktop/plain_views.h"
 #include "desktop/properties_view.h"
@@ -60,6 +61,14 @@ std::optional<double> seconds_of(Deck& deck) {
 /// A deck that waits for its start, which is at its start of play.
 bool begins_anew(const Deck& deck, DeckRole role) {
     return (role == DeckRole::loaded || role == DeckRole::ended) && deck.controls.progress.value == 0;
+}
+
+/// The line above the entries that delete, which are a menu's last ones; null where it has none.
+QAction* line_above_what_destroys(const QMenu& menu) {
+    const auto entries = menu.actions();
+    const auto found =
+        std::ranges::find_if(entries, [](const QAction* entry) { return entry->property(entry_destroys).toBool(); });
+    return found == entries.begin() || found == entries.end() ? nullptr : *std::prev(found);
 }
 
 } // namespace
@@ -295,8 +304,9 @@ void Desktop::offer_outputs(OutputChoice choice) {
     outputs_ = std::move(choice);
     output_menu_ = std::make_unique<QMenu>("Sortie audio");
     output_menu_->setObjectName("Sortie_audio");
-    options->addSeparator();
-    options->addMenu(output_menu_.get());
+    options->insertMenu(line_above_what_destroys(*options), output_menu_.get());
+    options->insertSeparator(output_menu_->menuAction());
+    mark_letters(*options);
     QObject::connect(output_menu_.get(), &QMenu::aboutToShow, output_menu_.get(), [this] { fill_outputs(); });
 }
 
@@ -317,6 +327,7 @@ void Desktop::fill_outputs() {
         QObject::connect(action, &QAction::triggered, output_menu_.get(),
                          [this, name] { services_.run_event([&] { outputs_.choose(name); }); });
     }
+    mark_letters(*output_menu_);
 }
 
 } // namespace sonarelle

@@ -4,11 +4,9 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <array>
-#include <set>
 
 #include "desktop/card_strip.h"
 #include "desktop/chip.h"
-#include "desktop/label_button.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
 #include "desktop/segments.h"
@@ -192,7 +190,9 @@ QWidget* ListView::table() {
     table->set_columns(column_looks());
     rows_ = static_cast<RowTableBinding*>(binding_of(window_.rows));
     table->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(table, &QWidget::customContextMenuRequested, this, [this] { show_row_menu(); });
+    connect(table, &QWidget::customContextMenuRequested, this, [this, table](QPoint place) {
+        menus().menu(window_.Load_Pl)->popup(table->viewport()->mapToGlobal(place));
+    });
     stops_.push_back(table);
     return table;
 }
@@ -202,7 +202,7 @@ QWidget* ListView::foot() {
     auto* row = row_in(*foot_, foot_edge);
     transport(*row);
     row->addWidget(side_picture(), 1); // it takes what the buttons leave
-    for (StudioButton* button : {entry(window_.save_as), menu_button()}) {
+    for (StudioButton* button : {dresser_.label_button(window_.save_as), menu_button()}) {
         button->set_size(ButtonSize::control);
         row->addWidget(button);
         stops_.push_back(button);
@@ -242,44 +242,18 @@ StudioButton* ListView::side_picture() {
     return strip;
 }
 
-StudioButton* ListView::entry(Label& label) {
-    auto* button = new StudioButton{&content()};
-    keep(std::make_unique<LabelButtonBinding>(label, *button, services()));
-    return button;
-}
-
 StudioButton* ListView::menu_button() {
     auto* button = new StudioButton{&content()};
     button->setText("Menu");
+    button->set_marked("&Menu");
+    button->setShortcut(access_keys("&Menu"));
     button->setAccessibleName("Toutes les commandes de la liste");
-    all_entries_ = new QMenu{this};
-    fill_menu(*all_entries_);
+    button->setToolTip(button->accessibleName());
     connect(button, &QAbstractButton::clicked, this, [this, button] {
-        all_entries_->popup(button->mapToGlobal(QPoint{0, -all_entries_->sizeHint().height()}));
+        QMenu* menu = menus().menu(window_.Load_Pl);
+        menu->popup(button->mapToGlobal(QPoint{0, -menu->sizeHint().height()}));
     });
     return button;
-}
-
-// Entries that hang under no other, each once.
-void ListView::fill_menu(QMenu& menu) {
-    std::set<const Control*> hung;
-    std::vector<MenuItem*> items;
-    for (Control* control : window_.controls())
-        if (control->kind() == ControlKind::menu_item) {
-            items.push_back(static_cast<MenuItem*>(control));
-            hung.insert(items.back()->entries().begin(), items.back()->entries().end());
-        }
-    for (MenuItem* item : items)
-        if (!hung.contains(item) && !item->caption.get().empty())
-            menu.addAction(&menus().action(*item));
-}
-
-void ListView::show_row_menu() {
-    services().run_event([this] { window_.Load_Pl.open(); });
-    if (window_.Load_Pl.entries().empty())
-        all_entries_->popup(QCursor::pos());
-    else
-        menus().popup(window_.Load_Pl);
 }
 
 // The table has the window's keyboard. As a proxy it would have the window's place in the round of the tab key, too.

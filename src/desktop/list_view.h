@@ -48,11 +48,8 @@ private:
     [[nodiscard]] QWidget* foot();
     void transport(QBoxLayout& row);
     [[nodiscard]] StudioButton* side_picture();
-    [[nodiscard]] StudioButton* entry(Label& label);
     [[nodiscard]] StudioButton* menu_button();
     void order_keyboard();
-    void fill_menu(QMenu& menu);
-    void show_row_menu();
     void tell_air();
     void tell_list();
     void tell_changes();
@@ -80,7 +77,6 @@ private:
     std::vector<QWidget*> stops_;             ///< Of the keyboard, in their order.
     std::vector<QWidget*> transport_;
     RowTableBinding* rows_ = nullptr;
-    QMenu* all_entries_ = nullptr;
 };
 
 } // namespace sonarelle

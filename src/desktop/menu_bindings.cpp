@@ -114,21 +114,11 @@ MenuItemBinding& MenuBindings::entry(MenuItem& item) {
         if (child->begins_group())
             menu->addSeparator();
         menu->addAction(&entry(*child).action());
-        entry(*child).on_shown = [this, &item] { mark_letters(item); };
+        entry(*child).on_shown = [menu] { mark_letters(*menu); };
     }
     if (menu != nullptr)
-        mark_letters(item);
+        mark_letters(*menu);
     return binding;
-}
-
-// Each entry of a menu answers to a letter of its own.
-void MenuBindings::mark_letters(const MenuItem& menu) {
-    QStringList words;
-    for (MenuItem* child : menu.entries())
-        words += entry(*child).words();
-    const QStringList marked = with_mnemonics(words);
-    for (qsizetype place = 0; MenuItem * child : menu.entries())
-        entry(*child).action().setText(marked[place++]);
 }
 
 QAction& MenuBindings::action(MenuItem& item) {

@@ -59,7 +59,6 @@ public:
 
 private:
     MenuItemBinding& entry(MenuItem& item);
-    void mark_letters(const MenuItem& menu);
     void show_bar(QMenuBar& bar) const;
 
     Window& window_;

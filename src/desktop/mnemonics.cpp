@@ -1,6 +1,9 @@
 #include "desktop/mnemonics.h"
 
+#include <QMenu>
 #include <algorithm>
+
+#include "desktop/qt_text.h"
 
 namespace sonarelle {
 
@@ -38,6 +41,17 @@ QStringList with_mnemonics(const QStringList& captions) {
         marked += caption;
     }
     return marked;
+}
+
+void mark_letters(const QMenu& menu) {
+    QList<QAction*> entries = menu.actions();
+    entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
+    QStringList words;
+    for (const QAction* entry : entries)
+        words += plain_caption(from_qt(entry->text()));
+    const QStringList marked = with_mnemonics(words);
+    for (qsizetype place = 0; place < entries.size(); ++place)
+        entries[place]->setText(marked[place]);
 }
 
 } // namespace sonarelle

@@ -22,7 +22,7 @@ Liste_son::Liste_son()
     A_sauve.checked = true;
     modifier_chemin_non.checked = true;
     coller.enabled = false;
-    Convertion.hang({{&A_Copen_rfm, &A_Convertir_dfm}});
+    hang_menus();
     mark_entries(&MenuItem::opens_box,
                  {&A_liste, &A_Charge, &A_enreg_sous, &A_Copen_rfm, &A_Convertir_dfm, &Supprimer_fichier,
                   &Modifier_lettre_lecteur, &Modifier_volume, &a_debutpiste, &a_debutpiste_fichier, &a_modif});
@@ -33,6 +33,23 @@ Liste_son::Liste_son()
     stop_decks.hint = "Stopper tous les lecteurs";
     for (MenuItem* entry : entries_that_need_a_list())
         entry->enabled = false;
+}
+
+void Liste_son::hang_menus() {
+    Load_Pl.hang({{&A_ecoute, &char1, &char2, &char3},
+                  {&coller},
+                  {&a_modif, &of_row, &of_list, &of_file},
+                  {&lect_liste, &A_a_zapping, &A_precoute},
+                  {&A_revenir_couleur}});
+    of_row.hang({{&a_mettre_a_jour, &prechar_fich}, {&a_debutpiste_fichier, &a_modifie_morceau}});
+    of_list.hang({{&a_mettre_a_jour_liste, &prechar},
+                  {&Modifier_lettre_lecteur, &a_debutpiste, &Modifier_volume},
+                  {&modifier_chemin, &modifier_chemin_non}});
+    of_file.hang({{&A_liste, &A_Charge, &A_liste_anciene, &A_enreg_sous},
+                  {&A_sauve, &a_Ne_pas_Sauve},
+                  {&Convertion},
+                  {&Supprimer_fichier}});
+    Convertion.hang({{&A_Copen_rfm, &A_Convertir_dfm}});
 }
 
 std::array<MenuItem*, 9> Liste_son::entries_that_need_a_list() {

@@ -64,7 +64,10 @@ struct Liste_son : Window {
     MenuItem char2{*this, "char2", "Charger sur Play 2"};
     MenuItem char3{*this, "char3", "Charger sur Play 3"};
     MenuItem coller{*this, "coller", "Coller"};
-    MenuItem Load_Pl{*this, "Load_Pl"}; ///< The context menu of the rows.
+    MenuItem Load_Pl{*this, "Load_Pl"};                     ///< The context menu of the rows, with all that follows.
+    MenuItem of_row{*this, "of_row", "Ce fichier"};         ///< What is done to the row's file,
+    MenuItem of_list{*this, "of_list", "Toute la liste"};   ///< to all rows,
+    MenuItem of_file{*this, "of_file", "Fichier de liste"}; ///< and to the file that holds them.
     MenuItem A_ecoute{*this, "A_ecoute", "* Lire ce morceau  * ( jingles sélectionné)"};
 
     MenuItem a_mettre_a_jour{*this, "a_mettre_a_jour", "Mettre a jour les infos de ce fichier"};
@@ -96,6 +99,9 @@ struct Liste_son : Window {
     }
     /// The entries that need a list, and stand disabled until there is one.
     [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();
+
+private:
+    void hang_menus();
 };
 
 } // namespace sonarelle

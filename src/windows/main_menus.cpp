@@ -15,7 +15,7 @@ void MainMenus::hang_menus() {
 
     Fichier.hang({{&ouvre_L, &A_gere, &ecoute}, {&a_assosiation}, {&live_, &A_journal}, {&Quitter_}});
     live_.hang({{&A_lecteur_CD_Win, &A_Ouvrir_CD, &A_fermer_CD}, {&a_vol}});
-    A_journal.hang({{&Active_journal1, &Active_journal, &A_desacive_J}, {&A_purger_journal, &A_ouvre_journal}});
+    A_journal.hang({{&Active_journal1, &Active_journal, &A_desacive_J}, {&A_ouvre_journal}, {&A_purger_journal}});
 
     lire_play.hang({{&lire_1, &lire_2, &lire_3},
                     {&Mix1, &Mix2, &Mix3},

@@ -1,5 +1,9 @@
 // The list window: what it tells of the air, its rows and their menu.
+#include <QWindow>
+#include <map>
+
 #include "desktop/list_window_fixture.h"
+#include "desktop/qt_text.h"
 
 namespace sonarelle {
 
@@ -118,6 +122,19 @@ TEST_F(ListWindow, RightButtonOpensTheRowsMenu) {
     menu->close();
 }
 
+TEST_F(ListWindow, MenuKeyOpensTheRowsMenuAtTheRow) {
+    rows_of_three();
+    table().setCurrentIndex(cell(2));
+    const QPoint place = table().visualRect(cell(2)).center();
+    QContextMenuEvent key{QContextMenuEvent::Keyboard, place, table().viewport()->mapToGlobal(place)};
+    QCoreApplication::sendEvent(table().viewport(), &key);
+    settle();
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->x(), table().viewport()->mapToGlobal(place).x());
+    menu->close();
+}
+
 TEST_F(ListWindow, RightButtonLetsTheStationPrepareTheMenu) {
     rows_of_three();
     int opened = 0;
@@ -132,30 +149,49 @@ TEST_F(ListWindow, RightButtonLetsTheStationPrepareTheMenu) {
     menu->close();
 }
 
-TEST_F(ListWindow, MenuButtonOffersEveryEntryThatHangsUnderNoOther) {
-    for (QMenu* menu : list_view().findChildren<QMenu*>()) {
-        if (!offers(*menu, "Charger liste (C)"))
-            continue;
-        EXPECT_EQ(count_of_entry(*menu, "Charger liste (C)"), 1);
-        return;
-    }
-    FAIL() << "no menu offers the loading of a list";
-}
-
-TEST_F(ListWindow, MenuButtonOffersNoEntryThatHangsUnderAnother) {
+TEST_F(ListWindow, MenuButtonOffersWhatTheRightButtonDoes) {
+    rows_of_three();
     QMenu* menu = press_menu_button();
     ASSERT_NE(menu, nullptr);
-    for (const MenuItem* hung : list().Convertion.entries())
-        EXPECT_FALSE(offers(*menu, QString::fromStdString(hung->caption))) << hung->name();
+    menu->close();
+    EXPECT_EQ(right_click(), menu);
+    menu->close();
+}
+
+TEST_F(ListWindow, LetterOfTheMenuButtonOpensTheMenu) {
+    QApplication::setActiveWindow(&list_view());
+    QTest::keyClick(list_view().windowHandle(), Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(becomes([] { return QApplication::activePopupWidget() != nullptr; }));
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(ListWindow, EveryEntryHangsInOneMenu) {
+    std::map<QString, int> places;
+    for (const QMenu* menu : list_view().findChildren<QMenu*>())
+        for (const QAction* entry : menu->actions())
+            if (!entry->isSeparator())
+                ++places[entry->objectName()];
+    for (const Control* control : list().controls())
+        if (control->kind() == ControlKind::menu_item &&
+            !static_cast<const MenuItem*>(control)->caption.get().empty()) {
+            EXPECT_EQ(places[to_qt(control->name())], 1) << control->name();
+        }
+}
+
+TEST_F(ListWindow, MenuOfTheRowsIsShortAndLeavesTheFilesToAMenuOfTheirOwn) {
+    QMenu* menu = press_menu_button();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_LE(std::ranges::count_if(menu->actions(), [](const QAction* entry) { return !entry->isSeparator(); }), 20);
+    for (const char* entry : {"Charger liste (C)", "Convertir liste V < V 6.0.0", "Supprimer le fichier"})
+        EXPECT_FALSE(offers(*menu, entry)) << entry;
+    EXPECT_TRUE(offers(*menu, "Fichier de liste"));
     menu->close();
 }
 
 TEST_F(ListWindow, MenuButtonOffersNoEntryWithoutWords) {
-    QMenu* menu = press_menu_button();
-    ASSERT_NE(menu, nullptr);
-    for (const QAction* action : menu->actions())
-        EXPECT_FALSE(action->text().isEmpty()) << action->objectName().toStdString();
-    menu->close();
+    for (const QMenu* menu : list_view().findChildren<QMenu*>())
+        for (const QAction* action : menu->actions())
+            EXPECT_NE(action->text().isEmpty(), !action->isSeparator()) << action->objectName().toStdString();
 }
 
 TEST_F(ListWindow, RowOnTheAirNextAndMissingAreTold) {

@@ -1,6 +1,7 @@
 // The station's own menus as the operator sees them.
 #include <QMenu>
 
+#include "desktop/menu_style.h"
 #include "desktop/pixels.h"
 #include "desktop/qt_text.h"
 #include "desktop/station_views.h"
@@ -34,6 +35,14 @@ protected:
         const QImage picture = picture_of(menu, item);
         return count_of(picture.copy(0, 0, scaled(28), picture.height()), studio::text);
     }
+    void offer_outputs() {
+        desktop->offer_outputs({[] { return std::vector<std::string>{"Studio", "Salon"}; }, [] { return ""; }, {}});
+    }
+    [[nodiscard]] static QList<QAction*> entries_of(const QMenu& menu) {
+        QList<QAction*> entries = menu.actions();
+        entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
+        return entries;
+    }
     [[nodiscard]] std::vector<QMenu*> all_menus() {
         std::vector<QMenu*> all;
         for (QWidget* view : {static_cast<QWidget*>(&main_view()), static_cast<QWidget*>(&list_view())})
@@ -63,16 +72,30 @@ TEST_F(MenusOfTheStation, EntryWhoseCaptionHasDotsGetsNoMore) {
     EXPECT_EQ(words_of(window.Quitter_), "Quitter...");
 }
 
-TEST_F(MenusOfTheStation, LettersAreUniqueInEachMenuOfTheBar) {
-    for (MenuItem* top : window.menu_bar) {
+TEST_F(MenusOfTheStation, EachEntryHasALetterOfItsOwnInItsMenu) {
+    offer_outputs();
+    for (QMenu* menu : all_menus()) {
         QString letters;
-        for (MenuItem* item : top->entries()) {
-            const QString text = entry(*item).text();
+        for (const QAction* entry : entries_of(*menu)) {
+            const QString text = entry->text().remove("&&");
             const auto mark = text.indexOf('&');
-            ASSERT_GE(mark, 0) << item->name();
-            EXPECT_FALSE(letters.contains(text[mark + 1], Qt::CaseInsensitive)) << item->name();
+            ASSERT_GE(mark, 0) << text.toStdString();
+            EXPECT_FALSE(letters.contains(text[mark + 1], Qt::CaseInsensitive)) << text.toStdString();
             letters += text[mark + 1];
         }
+    }
+}
+
+TEST_F(MenusOfTheStation, WhatDeletesStandsAloneAtTheEnd) {
+    offer_outputs();
+    for (QMenu* menu : all_menus()) {
+        const auto entries = menu->actions();
+        const auto deletes = [](const QAction* entry) { return entry->property(entry_destroys).toBool(); };
+        const auto first = std::ranges::find_if(entries, deletes);
+        if (first == entries.end())
+            continue;
+        EXPECT_TRUE(first != entries.begin() && (*std::prev(first))->isSeparator()) << menu->objectName().toStdString();
+        EXPECT_TRUE(std::all_of(first, entries.end(), deletes)) << menu->objectName().toStdString();
     }
 }
 

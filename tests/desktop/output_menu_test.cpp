@@ -1,6 +1,8 @@
 // The sound outputs in the option menu.
 #include <QMenu>
 
+#include "desktop/menu_style.h"
+#include "desktop/qt_text.h"
 #include "desktop/station_views.h"
 
 namespace sonarelle {
@@ -15,9 +17,18 @@ protected:
             {[this] { return cards; }, [this] { return chosen; }, [this](const std::string& name) { chosen = name; }});
     }
 
+    [[nodiscard]] QMenu& options() { return *main_view().menus().menu(station.main_window.Option_); }
+    /// The place of the outputs among the options.
+    [[nodiscard]] qsizetype place() {
+        const auto entries = options().actions();
+        const auto is_of_outputs = [](const QAction* entry) {
+            return entry->menu() != nullptr && entry->menu()->objectName() == "Sortie_audio";
+        };
+        return std::ranges::find_if(entries, is_of_outputs) - entries.begin();
+    }
     /// The entries as the operator sees them on opening the menu.
     QList<QAction*> entries() {
-        QMenu* menu = main_view().menus().menu(station.main_window.Option_)->actions().back()->menu();
+        QMenu* menu = options().actions().at(place())->menu();
         menu->popup({});
         menu->close();
         return menu->actions();
@@ -25,14 +36,14 @@ protected:
     QStringList captions() {
         QStringList all;
         for (const QAction* entry : entries())
-            all += entry->text();
+            all += plain_caption(from_qt(entry->text()));
         return all;
     }
     QStringList marked() {
         QStringList all;
         for (const QAction* entry : entries())
             if (entry->isChecked())
-                all += entry->text();
+                all += plain_caption(from_qt(entry->text()));
         return all;
     }
 
@@ -42,16 +53,27 @@ protected:
 
 } // namespace
 
-TEST_F(OutputMenu, HangsBelowALine) {
-    const auto entries_of_options = main_view().menus().menu(station.main_window.Option_)->actions();
-    EXPECT_TRUE(entries_of_options[entries_of_options.size() - 2]->isSeparator());
-    EXPECT_EQ(entries_of_options.back()->text(), "Sortie audio");
-    EXPECT_EQ(entries_of_options.back()->menu()->objectName(), "Sortie_audio");
+TEST_F(OutputMenu, HangsBetweenTwoLinesAboveWhatDeletes) {
+    const auto entries = options().actions();
+    EXPECT_TRUE(entries.at(place() - 1)->isSeparator());
+    EXPECT_TRUE(entries.at(place() + 1)->isSeparator());
+    EXPECT_TRUE(entries.at(place() + 2)->property(entry_destroys).toBool());
+    EXPECT_EQ(plain_caption(from_qt(entries.at(place())->text())), "Sortie audio");
+}
+
+TEST_F(OutputMenu, EachOutputHasALetterOfItsOwn) {
+    QString letters;
+    for (const QAction* entry : entries()) {
+        const QString text = entry->text().remove("&&");
+        ASSERT_TRUE(text.contains('&')) << text.toStdString();
+        letters += text[text.indexOf('&') + 1];
+    }
+    EXPECT_EQ(letters.toUpper(), "STR");
 }
 
 TEST_F(OutputMenu, EntriesAreAskedForEachTimeAndStandOnce) {
     entries();
-    EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&&D"}));
+    EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&D"}));
     for (const QAction* entry : entries())
         EXPECT_TRUE(entry->isCheckable());
 }
@@ -64,7 +86,7 @@ TEST_F(OutputMenu, ChoiceGoesThroughTheDoor) {
 }
 
 TEST_F(OutputMenu, OffersTheDefaultOutputAndEachCard) {
-    EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&&D"}));
+    EXPECT_EQ(captions(), (QStringList{"Sortie par défaut", "Studio", "R&D"}));
 }
 
 TEST_F(OutputMenu, MarksTheChosenOneAlone) {

@@ -224,6 +224,8 @@ void BoxView::keyPressEvent(QKeyEvent* event) {
         QGuiApplication::clipboard()->setText(windowTitle() + "\n" + text_);
     else if (returns)
         press_button();
+    else if (event->key() == Qt::Key_F1)
+        ask_for_help();
     else
         QDialog::keyPressEvent(event);
 }
@@ -233,6 +235,14 @@ void BoxView::press_button() {
         button->click();
     else if (default_ != nullptr)
         default_->click();
+}
+
+// What can be done here is told of the window that asks.
+void BoxView::ask_for_help() const {
+    if (const auto* box = dynamic_cast<const BoxView*>(over_.data()))
+        box->ask_for_help();
+    else if (auto* window = dynamic_cast<WindowView*>(over_.data()))
+        window->ask_for_help();
 }
 
 // It has no frame of the desktop's, so its title is what moves it.

@@ -15,7 +15,7 @@ namespace sonarelle {
 /// A box of the station: its title, a sign, words, a row of buttons of which the last one leaves things as they are.
 /// It opens over the middle of a window, below that one's header, so that what is on the air is never covered, and
 /// wholly on the screen. Return presses the button that has the keyboard, else the default one; Escape is the last.
-/// A key that was held down before the box came does nothing. Ctrl+C takes title and text.
+/// A key that was held down before the box came does nothing. Ctrl+C takes title and text, F1 is the window's.
 class BoxView : public QDialog {
 public:
     struct Look {
@@ -55,6 +55,7 @@ private:
     [[nodiscard]] QPoint place() const;
     [[nodiscard]] int below_headers(QPoint wished, const QWidget& over) const;
     void press_button();
+    void ask_for_help() const;
 
     QString text_;
     Look look_;

@@ -331,9 +331,13 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
         show_first_menu();
     else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier)
-        services_.run_event([this] { window_.ask_for_help(); });
+        ask_for_help();
     else
         QWidget::keyPressEvent(event);
+}
+
+void WindowView::ask_for_help() {
+    services_.run_event([this] { window_.ask_for_help(); });
 }
 
 // The one that has the focus, or the window's own.

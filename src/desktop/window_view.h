@@ -33,6 +33,9 @@ public:
     /// Below the menu bar: where the window's parts are laid out.
     [[nodiscard]] QWidget& content() { return *content_; }
 
+    /// The operator asks what can be done here.
+    void ask_for_help();
+
     /// From now on it comes up over another window, below that one's header, and stays before it.
     void open_over(QWidget& owner) { owner_ = &owner; }
 

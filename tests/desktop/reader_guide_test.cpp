@@ -3,6 +3,8 @@
 
 #include <set>
 
+#include "desktop/input_box.h"
+#include "desktop/message_box.h"
 #include "desktop/pixels.h"
 #include "desktop/reader_fixture.h"
 #include "desktop/studio_button.h"
@@ -92,6 +94,46 @@ TEST_F(Guide, IsReadBesideAWindowThatHoldsAllOthers) {
     EXPECT_EQ(found(), "Sauvegarder");
     press(Qt::Key_Escape);
     EXPECT_EQ(QApplication::activeWindow(), &properties);
+}
+
+TEST_F(Guide, ComesFromABoxAtThePageOfTheWindowBelow) {
+    QWidget& list = *desktop->widget_of(station.list_window);
+    MessageBoxView question{{.text = "Continuer ?", .title = "Sonarelle", .buttons = Buttons::yes_no}, &list};
+    question.open();
+    take_keyboard(question);
+    press(Qt::Key_F1);
+    ASSERT_NE(reader("guide"), nullptr);
+    EXPECT_EQ(page_on_view(), guide_heading("Liste_son"));
+    EXPECT_EQ(reader("guide")->windowHandle()->transientParent(), question.windowHandle()) << "which would hold it";
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(question.isVisible());
+    EXPECT_EQ(QApplication::activeWindow(), &question);
+}
+
+TEST_F(Guide, ComesFromAFieldInABoxOverABox) {
+    MessageBoxView below{{.text = "Continuer ?", .title = "Sonarelle"}, desktop->widget_of(station.properties_window)};
+    below.open();
+    InputBoxView asking{{"Entrez la nouvelle valeur", "Sonarelle", "0.10"}, "0.10", &below};
+    asking.open();
+    take_keyboard(asking);
+    press(Qt::Key_F1);
+    ASSERT_NE(reader("guide"), nullptr);
+    EXPECT_EQ(page_on_view(), guide_heading("Propriete"));
+}
+
+TEST_F(Guide, OutlivesTheBoxThatAsked) {
+    {
+        MessageBoxView question{{.text = "Continuer ?", .title = "Sonarelle"}, desktop->widget_of(station.main_window)};
+        question.open();
+        take_keyboard(question);
+        press(Qt::Key_F1);
+    }
+    settle();
+    EXPECT_TRUE(reader("guide")->isVisible());
+    take_keyboard(*desktop->widget_of(station.main_window));
+    press_help_in(station.list_window);
+    EXPECT_EQ(page_on_view(), guide_heading("Liste_son"));
+    EXPECT_EQ(QApplication::activeWindow(), reader("guide"));
 }
 
 TEST_F(Guide, HasItsPicturesWithinItsColumn) {

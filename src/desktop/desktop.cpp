@@ -207,31 +207,40 @@ DeckLook Desktop::look_of(Deck& deck) {
     return look;
 }
 
-void Desktop::show_air() {
+AirLook Desktop::look_of_air() {
     const Deck* deck = deck_on_air(desk_);
-    const QString title = name_on_air();
-    const QString silence = to_qt(silence_text(desk_));
-    const QString left = clock_text(seconds_left(desk_));
     const auto [next, then] = what_follows();
     const auto silent = silent_seconds(desk_);
     const QString since = silent ? QTime::fromString(clock_, "HH:mm:ss").addSecs(-*silent).toString("HH:mm:ss") : "";
-    main_->show_air({.role = air_role(desk_),
-                     .deck = deck == nullptr ? 0 : deck->number(),
-                     .title = title,
-                     .left = left,
-                     .to_mix = seconds_to_mix(desk_),
-                     .next = next,
-                     .then = then,
-                     .suspended = waits_for_special_mix(desk_),
-                     .notice = notice(),
-                     .silence = silence,
-                     .silent_since = since,
-                     .lost_for = lost_.isValid() ? clock_text(static_cast<int>(lost_.elapsed() / 1000)).mid(3) : "",
-                     .station = station_line()});
-    main_->show_title(title.isEmpty() ? title : to_qt(desk_.settings.nom_radio + " : ") + title);
+    return {.role = air_role(desk_),
+            .deck = deck == nullptr ? 0 : deck->number(),
+            .title = name_on_air(),
+            .left = clock_text(seconds_left(desk_)),
+            .to_mix = seconds_to_mix(desk_),
+            .next = next,
+            .then = then,
+            .suspended = waits_for_special_mix(desk_),
+            .notice = notice(),
+            .silence = to_qt(silence_text(desk_)),
+            .silent_since = since,
+            .lost_for = lost_.isValid() ? clock_text(static_cast<int>(lost_.elapsed() / 1000)).mid(3) : "",
+            .station = station_line()};
+}
+
+// One moment's air for all windows.
+void Desktop::show_air() {
+    const AirLook air = look_of_air();
+    const bool is_lost = lost_.isValid();
+    main_->show_air(air);
+    main_->show_title(air.title.isEmpty() ? air.title : to_qt(desk_.settings.nom_radio + " : ") + air.title);
     list_->follow_step(step_of(main_->size()));
-    list_->show_air({.title = title, .left = left, .clock = clock_, .silence = silence});
-    player_->show_air(air_role(desk_), title, silence);
+    list_->show_air(
+        {.title = air.title, .left = air.left, .clock = clock_, .silence = air.silence, .is_unheard = is_lost});
+    player_->show_air({.role = air.role,
+                       .title = air.title,
+                       .left = seconds_left(desk_),
+                       .silence = air.silence,
+                       .is_unheard = is_lost});
 }
 
 QString Desktop::station_line() const {

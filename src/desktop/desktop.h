@@ -20,6 +20,7 @@ class QWidget;
 namespace sonarelle {
 
 class ListView;
+struct AirLook;
 struct DeckLook;
 class MainView;
 class SmallPlayerView;
@@ -74,6 +75,7 @@ private:
     void show_second();
     void show_decks();
     [[nodiscard]] DeckLook look_of(Deck& deck);
+    [[nodiscard]] AirLook look_of_air();
     void show_air();
     [[nodiscard]] QString station_line() const;
     [[nodiscard]] QString length_beside(const std::string& next);

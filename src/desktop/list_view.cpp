@@ -113,13 +113,19 @@ void ListView::show_air(const ListAir& air) {
 // operator reads what is on the air, in both windows the same.
 void ListView::tell_air() {
     const QString known = air_.title.isEmpty() ? to_qt(window_.track_name.caption.get()) : air_.title;
-    title_->set_text(air_.silence.isEmpty() ? known : "SILENCE depuis " + air_.silence);
-    title_->set_ink(air_.silence.isEmpty() ? QColor{} : studio::trouble_text);
+    title_->set_text(alarm().isEmpty() ? known : alarm());
+    title_->set_ink(alarm().isEmpty() ? QColor{} : studio::trouble_text);
     remaining_->set_text(air_.left);
     remaining_->setAccessibleName("Temps restant");
     clock_->set_text(air_.clock);
     if (windowTitle() != title())
         setWindowTitle(title());
+}
+
+QString ListView::alarm() const {
+    if (!air_.silence.isEmpty())
+        return "SILENCE depuis " + air_.silence;
+    return air_.is_unheard ? "CARTE SON PERDUE" : "";
 }
 
 // The deck of the chain over decks is no news of a list, and a list that rests has no second to tell.

@@ -15,10 +15,11 @@ class TextRun;
 
 /// What the list window tells of the air.
 struct ListAir {
-    QString title;     ///< Empty while nothing is on.
-    QString left;      ///< Time to the end of play.
-    QString clock;     ///< Time of day.
-    QString silence{}; ///< How long a silence that is told has lasted; empty for none.
+    QString title;           ///< Empty while nothing is on.
+    QString left;            ///< Time to the end of play.
+    QString clock;           ///< Time of day.
+    QString silence{};       ///< How long a silence that is told has lasted; empty for none.
+    bool is_unheard = false; ///< The sound card is lost.
 };
 
 /// The list window: what is on and how long it lasts, the modes, the rows, the list's buttons. Its step is the desk's,
@@ -51,6 +52,7 @@ private:
     [[nodiscard]] StudioButton* menu_button();
     void order_keyboard();
     void tell_air();
+    [[nodiscard]] QString alarm() const;
     void tell_list();
     void tell_changes();
     [[nodiscard]] Step wanted_step() const;

@@ -25,6 +25,8 @@ StateLook look_of(DeckRole role) {
         return {"À l'antenne", Accent::air};
     case DeckRole::paused:
         return {"En pause", Accent::next};
+    case DeckRole::heard:
+        return {"En lecture", Accent::air};
     default:
         return {"En attente", Accent::none};
     }
@@ -46,12 +48,12 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
     if (QWidget* rest = remaining_parts(dresser_))
         column->addWidget(rest);
     binding_of(window.remaining)->on_shown = [this] { show_seconds(); };
-    show_air(DeckRole::empty, {});
+    show_air({});
 }
 
 QLayout* SmallPlayerView::reading() {
     lamp_ = new Lamp;
-    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 14}};
+    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 16}};
     state_->setObjectName("player_state");
     title_ = new StationLabel{{.type = Type::deck_title, .bold = true, .characters = 16}};
     title_->setObjectName("player_title");
@@ -98,27 +100,39 @@ QLayout* SmallPlayerView::buttons() {
     return row;
 }
 
-void SmallPlayerView::show_air(DeckRole role, const QString& title, const QString& silence) {
-    role_ = role;
-    const auto [word, lamp] = look_of(role);
-    state_->set_text(silence.isEmpty() ? QString{word}.toUpper() : "SILENCE " + silence);
-    state_->set_ink(silence.isEmpty() ? QColor{} : studio::trouble_text);
-    lamp_->set_accent(silence.isEmpty() ? lamp : Accent::trouble);
-    next_->set_accent(role == DeckRole::on_air ? Accent::next : Accent::none);
-    title_->set_text(title);
+void SmallPlayerView::show_air(const PlayerAir& air) {
+    air_ = air;
+    const auto [word, lamp] = look_of(air.role);
+    const bool is_alarm = !alarm().isEmpty();
+    state_->set_text(is_alarm ? alarm() : QString{word}.toUpper());
+    state_->set_ink(is_alarm ? studio::trouble_text : QColor{});
+    lamp_->set_accent(is_alarm ? Accent::trouble : lamp);
+    next_->set_accent(air.role == DeckRole::on_air ? Accent::next : Accent::none);
+    title_->set_text(air.title);
     show_seconds();
 }
 
+QString SmallPlayerView::alarm() const {
+    if (!air_.silence.isEmpty())
+        return "SILENCE " + air_.silence;
+    return air_.is_unheard ? "CARTE SON PERDUE" : "";
+}
+
 QString SmallPlayerView::title() const {
-    QString state = state_->text().startsWith("SILENCE") ? state_->text() : look_of(role_).word;
-    if (title_->text().isEmpty())
+    const QString state = alarm().isEmpty() ? look_of(air_.role).word : alarm();
+    if (air_.title.isEmpty())
         return state;
-    const QString named = state + " : " + title_->text();
+    const QString named = state + " : " + air_.title;
     return has_seconds() ? named + ", reste " + seconds_->text() + " s" : named;
 }
 
-// Of a deck that has stopped none is left.
+bool SmallPlayerView::has_seconds() const {
+    return air_.role == DeckRole::on_air || air_.role == DeckRole::paused || air_.role == DeckRole::heard;
+}
+
+// Of a deck that has stopped none is left. The station's own count rests while a special mix holds the chain.
 void SmallPlayerView::show_seconds() {
+    seconds_->set_text(QString::number(air_.left));
     for (StationLabel* part : {seconds_, unit_})
         part->setVisible(has_seconds());
     if (windowTitle() != title())

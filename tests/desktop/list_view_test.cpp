@@ -7,6 +7,15 @@
 
 namespace sonarelle {
 
+TEST_F(ListWindow, TellsALostSoundCardInTheColourOfTrouble) {
+    const ListAir air{.title = "Matin", .left = "00:00:31", .clock = "12:00:00", .silence = {}, .is_unheard = true};
+    list_view().show_air(air);
+    EXPECT_EQ(label(list().track_name).text(), "CARTE SON PERDUE");
+    const QColor ink = ink_in(seen_in_window(label(list().track_name)));
+    EXPECT_GT(ink.red(), ink.green() + 40);
+    EXPECT_EQ(list_view().windowTitle(), "Matin");
+}
+
 TEST_F(ListWindow, NamesWhatIsOnTheAirWhateverItsOwnLabelSays) {
     list_view().show_air({.title = "Matin sur le port", .left = "00:00:10", .clock = "12:00:00"});
     list().track_name.caption = "Jingle bonjour";

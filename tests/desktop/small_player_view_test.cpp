@@ -117,23 +117,45 @@ TEST_F(PlayerOnView, OpensTheMainWindowsMenuWhileThatIsHidden) {
 TEST_F(PlayerOnView, TellsASilenceWhateverHidesBehindIt) {
     play();
     auto& player = dynamic_cast<SmallPlayerView&>(view());
-    player.show_air(DeckRole::ended, {}, "01:37");
+    player.show_air({.role = DeckRole::ended, .title = {}, .silence = "01:37"});
     EXPECT_EQ(label("player_state").text(), "SILENCE 01:37");
     const QColor ink = ink_in(seen_in_window(label("player_state")));
     EXPECT_GT(ink.red(), ink.green() + 40);
-    player.show_air(DeckRole::on_air, "titre 1");
+    player.show_air({.role = DeckRole::on_air, .title = "titre 1"});
+    EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
+}
+
+TEST_F(PlayerOnView, SaysWhatIsHeardBesideTheDeckThatWasStopped) {
+    play();
+    window.deck(1).zap.click();
+    machine.run_for(seconds(1));
+    window.deck(2).stop.click();
+    settle();
+    ASSERT_TRUE(sounds());
+    EXPECT_EQ(label("player_state").text(), "EN LECTURE");
+    EXPECT_EQ(label("player_title").text(), "titre 1");
+    EXPECT_TRUE(label("label1").isVisible());
+}
+
+TEST_F(PlayerOnView, SaysThatTheSoundCardIsLost) {
+    play();
+    desktop.show_output("carte son perdue", true);
+    EXPECT_EQ(label("player_state").text(), "CARTE SON PERDUE");
+    EXPECT_EQ(label("player_title").text(), "titre 1");
+    EXPECT_TRUE(view().windowTitle().startsWith("CARTE SON PERDUE : titre 1, reste "));
+    desktop.show_output("carte son : Studio", false);
     EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
 }
 
 TEST_F(PlayerOnView, LampHasTheColourOfTheState) {
     auto& player = dynamic_cast<SmallPlayerView&>(view());
-    player.show_air(DeckRole::on_air, "titre 1");
+    player.show_air({.role = DeckRole::on_air, .title = "titre 1"});
     EXPECT_TRUE(is_near(lamp(), studio::air));
-    player.show_air(DeckRole::paused, "titre 1");
+    player.show_air({.role = DeckRole::paused, .title = "titre 1"});
     EXPECT_TRUE(is_near(lamp(), studio::next));
-    player.show_air(DeckRole::ended, {}, "01:37");
+    player.show_air({.role = DeckRole::ended, .title = {}, .silence = "01:37"});
     EXPECT_TRUE(is_near(lamp(), studio::trouble));
-    player.show_air(DeckRole::ended, {});
+    player.show_air({.role = DeckRole::ended, .title = {}});
     EXPECT_TRUE(is_near(lamp(), studio::field_line));
 }
 
@@ -145,13 +167,13 @@ TEST_F(PlayerOnView, NamesStateTitleAndTimeOnItsFrame) {
     press(Qt::Key_P, "p");
     EXPECT_TRUE(view().windowTitle().startsWith("En pause : titre 1")) << view().windowTitle().toStdString();
     auto& player = dynamic_cast<SmallPlayerView&>(view());
-    player.show_air(DeckRole::ended, {}, "01:37");
+    player.show_air({.role = DeckRole::ended, .title = {}, .silence = "01:37"});
     EXPECT_EQ(view().windowTitle(), "SILENCE 01:37");
 }
 
 TEST_F(PlayerOnView, HoldsALongTitleAtItsLeastWidth) {
     view().resize(view().minimumSize());
-    dynamic_cast<SmallPlayerView&>(view()).show_air(DeckRole::on_air, QString(200, u'm'));
+    dynamic_cast<SmallPlayerView&>(view()).show_air({.role = DeckRole::on_air, .title = QString(200, u'm')});
     settle();
     EXPECT_EQ(view().width(), view().minimumWidth());
     for (const char* name : {"player_state", "player_title", "label1", "Command5"}) {

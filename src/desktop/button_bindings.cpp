@@ -42,7 +42,9 @@ ButtonBinding::ButtonBinding(Button& button, StudioButton& widget, const Desktop
 void ButtonBinding::show_state() {
     if (const QString text = caption(); face_.text() != text)
         face_.setText(text);
-    face_.setShortcut(access_keys(button_.caption));
+    const QKeySequence letter = access_keys(button_.caption);
+    face_.setShortcut(letter);
+    face_.set_marked(letter.isEmpty() ? QString{} : to_qt(button_.caption));
     face_.set_pictures(services().pictures.faces(button_.picture));
     face_.set_face(face());
 }

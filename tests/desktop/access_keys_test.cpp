@@ -57,6 +57,14 @@ TEST_F(AccessKeys, AltWithItsLetterPressesAButton) {
     EXPECT_EQ(feuille.asked, 1);
 }
 
+TEST_F(AccessKeys, LetterOfAButtonIsUnderlined) {
+    auto& button = *view.findChild<QWidget*>("infos");
+    const QImage underlined = button.grab().toImage();
+    feuille.infos.caption = "Infos système...";
+    settle();
+    EXPECT_NE(button.grab().toImage(), underlined);
+}
+
 TEST_F(AccessKeys, LetterOfALabelThatCantBeReachedDoesNothing) {
     feuille.enreg.enabled = false;
     settle();

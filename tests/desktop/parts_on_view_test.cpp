@@ -1,8 +1,10 @@
 // What holds of the parts of every window, in whatever order they stand.
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QGroupBox>
 #include <QLayout>
 
+#include "desktop/progress_strip.h"
 #include "desktop/station_views.h"
 
 namespace sonarelle {
@@ -97,6 +99,18 @@ TEST_P(PartsOnView, ThatTheKeyboardReachesHaveAName) {
             ASSERT_NE(told, nullptr) << name_of(part);
             EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name_of(part);
         }
+}
+
+// Bars and rows tell of the place under the pointer.
+TEST_P(PartsOnView, ThatAreWorkedHaveATip) {
+    if (&window() == &station.options_window)
+        return;
+    for (const QWidget* part : view().findChildren<QWidget*>()) {
+        const bool tells_itself = dynamic_cast<const ProgressStrip*>(part) != nullptr ||
+                                  qobject_cast<const QAbstractScrollArea*>(part) != nullptr;
+        const bool is_worked = part->isVisible() && part->focusPolicy() & Qt::TabFocus;
+        EXPECT_TRUE(!is_worked || tells_itself || !part->toolTip().isEmpty()) << name_of(part);
+    }
 }
 
 TEST_F(StationViews, PictureOfTheSplashFillsIt) {

@@ -21,6 +21,19 @@ void DisplayMenu::choose_view(const MenuItem& view) {
     check_only(window_.views(), view);
 }
 
+// Windows come and go by other ways, too. While the small player stands for the main one, the view is that to come.
+void DisplayMenu::mark_view_on_screen() {
+    window_.Aligner_liste.enabled = list_.visible.get();
+    if (!window_.visible)
+        return;
+    const bool reduced = window_.state == WindowState::minimised;
+    check_only(window_.views(), window_.topmost            ? window_.affiche_toujour
+                                : reduced && list_.visible ? window_.Affiche_Fenetre_L
+                                : reduced                  ? window_.Affiche_barre
+                                : list_.visible            ? window_.affiche_tout
+                                                           : window_.Affiche_Fenetre_P);
+}
+
 // The small player's menu chooses a view while the main window is hidden, and there must be a way back to it.
 void DisplayMenu::show_main_window(WindowState state) {
     window_.state = state;
@@ -60,6 +73,8 @@ void DisplayMenu::affiche_tout_Click() {
 
 void DisplayMenu::keep_on_top() {
     choose_view(window_.affiche_toujour);
+    if (window_.state == WindowState::minimised)
+        window_.state = WindowState::normal;
     window_.show();
 }
 

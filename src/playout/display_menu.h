@@ -26,6 +26,8 @@ public:
     void show_main_window_alone();
     void affiche_tout_Click();
     void keep_on_top();
+    /// The mark is with the one that is on the screen.
+    void mark_view_on_screen();
 
     void centre();
     void centre_at_top();

@@ -48,6 +48,7 @@ DeskWiring::DeskWiring(Station& station)
 void DeskWiring::connect_display_menu() {
     Antenne_FM& window = station_.main_window;
     display_menu.active_text_combo = [this] { quick_load.active_text_combo(); };
+    window.affiche.on_open = [this] { display_menu.mark_view_on_screen(); };
     window.Affiche_barre.on_click = [this] { display_menu.show_as_bar(); };
     window.Affiche_Fenetre_L.on_click = [this] { display_menu.show_list_alone(); };
     window.Affiche_Fenetre_P.on_click = [this] { display_menu.show_main_window_alone(); };

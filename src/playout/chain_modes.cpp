@@ -133,6 +133,7 @@ void ChainModes::choose_player_mode() {
     desk_.chain.jingles_aleatoires = false;
     desk_.chain.preecoute_active = false;
     enter(running_mode::read_decks);
+    check_entries(desk_.window.a_mode_auto);
     mix_.choose_zap_fade();
     journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
     if (desk_.ring.has_main_deck())
@@ -148,6 +149,7 @@ void ChainModes::clear_insertions() {
 
 void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
     enter(random ? running_mode::read_by_draw : running_mode::read_in_order);
+    check_entries(desk_.window.a_mode_predefini);
     if (!random) {
         clear_insertions();
         for (MenuItem* entry : desk_.list_window.entries_of_a_fixed_order())
@@ -162,6 +164,13 @@ void ChainModes::choose_list_mode(bool random, const std::string& journal_text) 
     // The full length, where it is chosen, holds from the next load on.
     const bool capped = desk_.chain.preecoute_active.is_true() && deck.has_graph();
     show_end_point(capped ? text_of(std::min(desk_.chain.duree_preecoute, deck.whole_duration())) : deck.fin_piste);
+}
+
+// The manual mode is left by its own menu alone, however the list is to be read.
+void ChainModes::check_entries(const MenuItem& mode) {
+    if (!desk_.is_manual())
+        check_only(desk_.window.chain_modes(), mode);
+    desk_.list_window.A_a_zapping.checked = &mode == &desk_.window.a_mode_predefini;
 }
 
 void ChainModes::show_end_point(const std::string& text) {

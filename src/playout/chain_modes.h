@@ -36,6 +36,7 @@ public:
 private:
     /// Sets what the mode's row names. What it raises on the way are the events of no part.
     void enter(const RunningMode& mode);
+    void check_entries(const MenuItem& mode);
     void choose_list_mode(bool random, const std::string& journal_text);
     void clear_insertions();
     void show_end_point(const std::string& text);

@@ -78,7 +78,8 @@ inline constexpr RunningMode read_by_draw{
     .from_list = true, .by_draw = true, .chains_decks = false, .chains_list = true};
 
 /// The lamp of the list chain.
-inline constexpr RunningMode list_lamp{.from_list = true,
+inline constexpr RunningMode list_lamp{.entry = &MainMenus::a_mode_predefini,
+                                       .from_list = true,
                                        .looks_ahead = true,
                                        .chains_decks = false,
                                        .chains_list = true,

@@ -63,6 +63,23 @@ TEST_F(WindowPlaces, AreTakenTogetherWithASize) {
     EXPECT_EQ(view.size(), QSize(420, 310));
 }
 
+TEST_F(WindowPlaces, SizeThatTheOperatorGivesIsHeardOfInBothDirections) {
+    window.show();
+    settle();
+    view.resize(400, 300);
+    settle();
+    int heard = 0;
+    window.on_move = [&] { ++heard; };
+    view.resize(400, 340);
+    settle();
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(window.height.get(), Twips{15 * 340});
+    view.resize(440, 340);
+    settle();
+    EXPECT_EQ(heard, 2);
+    EXPECT_EQ(window.width.get(), Twips{15 * 440});
+}
+
 TEST_F(WindowPlaces, LeftOfTheScreenIsNotTaken) {
     window.left = Twips{-15 * 200};
     window.show();

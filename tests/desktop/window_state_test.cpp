@@ -93,6 +93,21 @@ TEST_F(StateOfAWindow, PlaceAndSizeOfAReducedOneAreNotTaken) {
     EXPECT_EQ(window.left.get(), Twips{600});
 }
 
+TEST_F(StateOfAWindow, PlaceAndSizeOfAMaximisedOneAreNotTaken) {
+    show();
+    view.move(40, 30);
+    view.resize(640, 480);
+    settle();
+    view.showMaximized();
+    settle();
+    ASSERT_GT(view.width(), 640);
+    ASSERT_EQ(view.pos(), QPoint(0, 0));
+    EXPECT_EQ(window.width.get(), Twips{9600});
+    EXPECT_EQ(window.height.get(), Twips{7200});
+    EXPECT_EQ(window.left.get(), Twips{600});
+    EXPECT_EQ(window.top.get(), Twips{450});
+}
+
 TEST_F(StateOfAWindow, WithoutASizeOfTheStationIsAsSmallAsItMay) {
     show();
     EXPECT_EQ(view.size(), QSize(300, 200));

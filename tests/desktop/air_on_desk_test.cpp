@@ -163,6 +163,14 @@ TEST_F(AirOnDesk, DeckThatWasStoppedShowsWhereItWillBegin) {
     EXPECT_GE(std::ranges::count(labels, "20", &StationLabel::text), 1);
 }
 
+TEST_F(AirOnDesk, KindOfADecksFileIsToldInCapitals) {
+    play_list();
+    run_for(1);
+    const auto& title = part<TitleLabel>(main_view(), station.main_window.deck(1).title.name());
+    const auto labels = parts_of<StationLabel>(*title.parentWidget());
+    EXPECT_EQ(std::ranges::count(labels, "MP3", &StationLabel::text), 1);
+}
+
 TEST_F(AirOnDesk, LossOfTheCardIsCountedFromItsBeginningHoweverOftenItIsTold) {
     play_list();
     run_for(20);

@@ -85,6 +85,17 @@ TEST_F(MainWindow, OutputIsTold) {
     EXPECT_EQ(ink_in(seen_in_window(label("output"))), calm);
 }
 
+TEST_F(MainWindow, StatusLineSaysSinceWhenTheAirIsSilent) {
+    AirLook look;
+    look.silence = "00:12";
+    look.silent_since = "10:53:50";
+    main_view().show_air(look);
+    EXPECT_TRUE(label("status_silence").isVisible());
+    EXPECT_EQ(label("status_silence").text(), "Silence à l'antenne depuis 10:53:50");
+    main_view().show_air({});
+    EXPECT_FALSE(label("status_silence").isVisible());
+}
+
 TEST_F(MainWindow, StatusLineHasRoomForEachSentenceOfTheOutputOnTheSmallestScreen) {
     main_view().resize(1000, 560);
     station.chain.nb_fichiers_ecoutes = 32767;

@@ -37,6 +37,13 @@ protected:
                 return seen_in_window(*found).pixelColor(found->rect().center());
         return {};
     }
+    /// Whether their unit stands behind the seconds.
+    [[nodiscard]] bool shows_unit() {
+        return std::ranges::any_of(view().findChildren<QWidget*>(), [](const QWidget* child) {
+            const auto* text = dynamic_cast<const StationLabel*>(child);
+            return text != nullptr && text->text() == "s" && text->isVisible();
+        });
+    }
     void press(Qt::Key code, const QString& text) {
         key(view(), code, text);
         settle();
@@ -66,9 +73,11 @@ TEST_F(PlayerOnView, SaysThatTheDeckIsPaused) {
 TEST_F(PlayerOnView, ShowsNoSecondsOfADeckThatHasStopped) {
     play();
     EXPECT_TRUE(label("label1").isVisible());
+    EXPECT_TRUE(shows_unit());
     press(Qt::Key_Space, " ");
     EXPECT_EQ(label("player_state").text(), "EN ATTENTE");
     EXPECT_FALSE(label("label1").isVisible());
+    EXPECT_FALSE(shows_unit());
 }
 
 TEST_F(PlayerOnView, ShowsTheSecondsOfADeckThatIsPaused) {
@@ -157,6 +166,14 @@ TEST_F(PlayerOnView, LampHasTheColourOfTheState) {
     EXPECT_TRUE(is_near(lamp(), studio::trouble));
     player.show_air({.role = DeckRole::ended, .title = {}});
     EXPECT_TRUE(is_near(lamp(), studio::field_line));
+}
+
+TEST_F(PlayerOnView, ZapIsLitOnTheAirAlone) {
+    auto& zap = *view().findChild<QWidget*>(QString::fromStdString(station.small_player.next.name()));
+    play();
+    EXPECT_TRUE(is_near(ground_in(seen_in_window(zap)), studio::next));
+    press(Qt::Key_Space, " ");
+    EXPECT_FALSE(is_near(ground_in(seen_in_window(zap)), studio::next));
 }
 
 TEST_F(PlayerOnView, NamesStateTitleAndTimeOnItsFrame) {

@@ -78,6 +78,14 @@ protected:
             longest = std::max(longest, count_of(letter.copy(x, 0, 1, letter.height()), ink));
         return longest;
     }
+    /// How many columns of the scale are inked in so many pixels as a figure takes, from one on.
+    [[nodiscard]] int width_of_figure(int left) {
+        const QImage figure = seen(meter).copy(left, 52, 22, 12);
+        int inked = 0;
+        for (int x = 0; x < figure.width(); ++x)
+            inked += count_of(figure.copy(x, 0, 1, figure.height()), ground_in(figure)) < figure.height() ? 1 : 0;
+        return inked;
+    }
     [[nodiscard]] bool is_overloaded(int channel) { return is_near(at(channel, 97), studio::trouble); }
 
     Source source;
@@ -225,6 +233,19 @@ TEST_F(Meter, ScaleAndLettersRead) {
     const QImage image = seen(meter);
     EXPECT_GE(contrast_in(image.copy(0, 50, 216, 14)), readable);
     EXPECT_GE(contrast_in(image.copy(0, 0, 14, 24)), readable);
+}
+
+TEST_F(Meter, ScaleBeginsAtMinus60AndEndsAtFull) {
+    show_peaks(0, 0);
+    EXPECT_GT(width_of_figure(16), 2 * width_of_figure(194));
+}
+
+TEST_F(Meter, EndStaysRedForAWhile) {
+    show_peaks(1, 1);
+    source.level.peak = {0, 0};
+    const int before = source.asked;
+    EXPECT_TRUE(becomes([&] { return !is_overloaded(0); }));
+    EXPECT_GE(source.asked, before + 25) << "a second and a half of looks";
 }
 
 TEST_F(Meter, LeftStandsAboveRight) {

@@ -1,6 +1,7 @@
 // What the pointer is told where it rests.
 #include "desktop/tips.h"
 
+#include <QScreen>
 #include <QStyle>
 #include <QToolTip>
 
@@ -109,6 +110,19 @@ TEST_F(TipsOfTheDesk, NeverLieOverTheRemainingTime) {
         ASSERT_NE(tip_on_view(), nullptr);
         EXPECT_FALSE(area(*tip_on_view()).intersects(area(*time)));
     }
+}
+
+TEST_F(TipsOfTheDesk, StandAboveTheRemainingTimeAtTheFootOfTheScreen) {
+    const QRect screen = main_view().screen()->availableGeometry();
+    const QWidget* time = remaining_time_of(main_view());
+    ASSERT_NE(time, nullptr);
+    main_view().move(0, screen.bottom() - time->mapTo(&main_view(), QPoint{0, time->height()}).y());
+    settle();
+    QToolTip::showText(area(*time).center(), "Un titre", &main_view());
+    settle();
+    ASSERT_NE(tip_on_view(), nullptr);
+    EXPECT_TRUE(screen.contains(area(*tip_on_view())));
+    EXPECT_LT(area(*tip_on_view()).bottom(), area(*time).top());
 }
 
 } // namespace sonarelle

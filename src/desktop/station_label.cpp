@@ -89,9 +89,9 @@ void StationLabel::set_narrow_text(const QString& text) {
     update();
 }
 
-const QString& StationLabel::shown_text() const {
+QString StationLabel::shown_text() const {
     if (narrow_text_.isEmpty())
-        return text_;
+        return whole();
     const bool has_room = step_ != Step::narrow && width_of(text_) <= width() - 2 * margin();
     return has_room ? text_ : narrow_text_;
 }
@@ -153,7 +153,7 @@ bool StationLabel::is_cut() const {
 bool StationLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !is_cut())
         return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_, this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole(), this);
     return true;
 }
 

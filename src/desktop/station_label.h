@@ -51,7 +51,7 @@ public:
     std::function<void()> on_press;
 
     /// The text that is drawn: the narrow one where the other has no room.
-    [[nodiscard]] const QString& shown_text() const;
+    [[nodiscard]] QString shown_text() const;
     /// What that needs to stand whole.
     [[nodiscard]] int width_of_text() const;
     /// The ink that its text has where it stands.
@@ -71,6 +71,8 @@ protected:
     /// Draws the text into the room that the frame leaves, in the painter's pen.
     virtual void paint_text(QPainter& painter, const QRect& area) const;
     [[nodiscard]] int margin() const { return style_.framed ? 8 : 2; }
+    /// What stands there where there is room, for its tip.
+    [[nodiscard]] virtual QString whole() const { return text_; }
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;

@@ -33,6 +33,7 @@ public:
     [[nodiscard]] bool is_turning() const { return step_.isActive(); }
 
 protected:
+    [[nodiscard]] QString whole() const override { return shown(); }
     void paint_text(QPainter& painter, const QRect& area) const override;
 
 private:

@@ -1,7 +1,9 @@
 // The title of a deck, which the station turns by a character twice a second.
 #include "desktop/title_label.h"
 
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/pixels.h"
@@ -125,6 +127,19 @@ TEST_F(Titles, NameOfWhatIsHeardStandsBeforeTheStationsTitle) {
     label.set_file({});
     EXPECT_EQ(label.shown(), "Jingle la suite");
     EXPECT_NE(seen(label), heard);
+}
+
+TEST_F(Titles, OneThatIsCutIsWholeInItsTip) {
+    show(90);
+    label.set_text("un titre ... - ");
+    label.set_file("Un titre bien trop long pour la place qu'il a");
+    turn(1);
+    QHelpEvent asks{QEvent::ToolTip, {3, 3}, label.mapToGlobal(QPoint{3, 3})};
+    QApplication::sendEvent(&label, &asks);
+    EXPECT_EQ(QToolTip::text(), "Un titre bien trop long pour la place qu'il a");
+    label.set_file("Été");
+    label.set_text("00:03:20 ( un titre bien trop long )");
+    EXPECT_FALSE(label.is_cut()) << "what stands there is whole";
 }
 
 TEST_F(Titles, LongNameOfWhatIsHeardTurnsWithTheStation) {

@@ -202,8 +202,7 @@ DeckLook Desktop::look_of(Deck& deck) {
         look.elapsed = static_cast<int>(Fix(deck.start_of_play()));
     if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
         ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
-    if (look.end_point)
-        look.mix_point = *look.end_point - desk_.settings.mix_courant.value();
+    look.mix_point = mix_point(desk_, deck);
     return look;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
+#include "playout/mix_times.h"
 
 namespace sonarelle {
 
@@ -148,6 +149,19 @@ std::optional<int> seconds_to_mix(Desk& desk) {
 std::string name_heard(const Desk& desk, const Deck& deck) {
     const DeckRole role = role_of(desk, deck);
     return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
+}
+
+// Of the main deck by the overlap in force, which a hand may have changed; of another by what its start will choose.
+std::optional<int> mix_point(const Desk& desk, const Deck& deck) {
+    if (desk.is_manual() || deck.mix_en_cours != 0)
+        return std::nullopt;
+    std::optional<int> point;
+    ErrorIndicator{}.skip([&] {
+        const Integer end = deck.end_point();
+        const bool is_main = deck.number() == desk.chain.lecteur_en_cours.value();
+        point = (end - (is_main ? desk.settings.mix_courant : mix_times(desk.settings, end).overlap)).value();
+    });
+    return point > 0 ? point : std::nullopt;
 }
 
 std::optional<int> silent_seconds(const Desk& desk) {

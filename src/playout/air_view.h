@@ -43,6 +43,9 @@ enum class DeckRole {
 /// Whole seconds to the mix point, at which the chain brings the next track; nothing where it brings none.
 [[nodiscard]] std::optional<int> seconds_to_mix(Desk& desk);
 
+/// Second of a deck's file at which the next track comes in while it is on the air; nothing where none does.
+[[nodiscard]] std::optional<int> mix_point(const Desk& desk, const Deck& deck);
+
 /// The name of what is heard on a deck, or paused on the main one, without its ending; empty for nothing.
 [[nodiscard]] std::string name_heard(const Desk& desk, const Deck& deck);
 

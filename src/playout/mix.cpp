@@ -7,6 +7,7 @@
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "playout/air_view.h"
+#include "playout/mix_times.h"
 
 namespace sonarelle {
 
@@ -22,26 +23,14 @@ bool MixEngine::is_mode_defined() const {
 }
 
 void MixEngine::Choix_mix() {
-    struct Row {
-        Integer longest;  ///< End point up to which the row holds, seconds.
-        bool overlaps;    ///< By the settings' overlap of a short item.
-        int further_lead; ///< Load lead beyond that overlap, seconds; 0 for no lead at all.
-    };
     StationSettings& s = desk_.settings;
-    const std::array rows{Row{1, false, 0}, Row{3, true, 0}, Row{6, true, 1}, Row{s.valeur_max_jingles, true, 3}};
     const Integer end = desk_.ring.main_deck().end_point();
     if (end >= 0 && is_mode_defined()) {
-        const auto* row = std::ranges::find_if(rows, [end](const Row& r) { return end <= r.longest; });
-        const bool normal = row == rows.end();
-        if (normal && desk_.chain.mode_enchainement.is_false())
+        const MixTimes times = mix_times(s, end);
+        if (times.is_normal && desk_.chain.mode_enchainement.is_false())
             desk_.window.load_ahead.set_value(1);
-        if (normal) {
-            s.mix_courant = s.mix_defaut;
-            s.prechargement = s.prechargement_defaut;
-        } else {
-            s.mix_courant = row->overlaps ? s.forcer_mix_jingles : Integer{0};
-            s.prechargement = row->further_lead > 0 ? s.forcer_mix_jingles + row->further_lead : Integer{0};
-        }
+        s.mix_courant = times.overlap;
+        s.prechargement = times.load_lead;
         desk_.display.overlap();
     }
     if (s.prechargement <= s.mix_courant)

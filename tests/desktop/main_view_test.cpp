@@ -123,6 +123,7 @@ TEST_F(MainWindow, DecksAreToldAgainWhenTheOverlapChanges) {
     main().deck(1).counter.caption = "90";
     main().deck(1).title.caption = "titre";
     station.deck_ring.deck(1).path = "C:\\titre.mp3";
+    station.chain.lecteur_en_cours = 1;
     settle();
     auto& bar = part(main_view(), main().deck(1).progress.name());
     const auto at = [&](int second) {

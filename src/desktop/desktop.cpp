@@ -189,7 +189,7 @@ DeckLook Desktop::look_of(Deck& deck) {
     if (look.role == DeckRole::empty)
         return look;
     const bool sounds = look.role == DeckRole::on_air || look.role == DeckRole::heard;
-    look.is_next = desk_.ring.has_main_deck() && deck.number() == next_deck(desk_.ring.main_deck().number());
+    look.is_next = deck_to_come(desk_) == &deck;
     look.is_unheard = sounds && lost_.isValid();
     look.file = to_qt(name_without_ending(deck.path));
     look.genre = to_qt(deck.genre);
@@ -284,7 +284,7 @@ void Desktop::show_list() {
     const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
     // In list order the chain adds 1 to its row when it starts it.
     const int step = desk_.chain.ordre_aleatoire.is_true() ? 0 : 1;
-    const int next = on && desk_.chain.chargement_fait.is_true() ? desk_.list.index_en_cours.value() + step : 0;
+    const int next = on && deck_to_come(desk_) != nullptr ? desk_.list.index_en_cours.value() + step : 0;
     list_->rows().set_marks({.playing = playing, .next = next});
 }
 

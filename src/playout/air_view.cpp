@@ -30,6 +30,11 @@ bool is_drawn(const Desk& desk) {
            desk.settings.valide_fichier_aleatoire1.is_true();
 }
 
+/// The chain brings what follows the main deck's track.
+bool goes_on(Desk& desk) {
+    return is_on(main_role(desk)) && !desk.is_manual() && !is_stopped_by_a_fault(desk);
+}
+
 constexpr int rows_looked_at = 100; // each second
 
 /// A row and its file; neither where there is none.
@@ -146,11 +151,6 @@ std::optional<int> seconds_to_mix(Desk& desk) {
     return left > 0 ? std::optional{left} : std::nullopt;
 }
 
-std::string name_heard(const Desk& desk, const Deck& deck) {
-    const DeckRole role = role_of(desk, deck);
-    return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
-}
-
 // Of the main deck by the overlap in force, which a hand may have changed; of another by what its start will choose.
 std::optional<int> mix_point(const Desk& desk, const Deck& deck) {
     if (desk.is_manual() || deck.mix_en_cours != 0)
@@ -162,6 +162,11 @@ std::optional<int> mix_point(const Desk& desk, const Deck& deck) {
         point = (end - (is_main ? desk.settings.mix_courant : mix_times(desk.settings, end).overlap)).value();
     });
     return point > 0 ? point : std::nullopt;
+}
+
+std::string name_heard(const Desk& desk, const Deck& deck) {
+    const DeckRole role = role_of(desk, deck);
+    return is_on(role) || role == DeckRole::heard ? name_without_ending(deck.path) : std::string{};
 }
 
 std::optional<int> silent_seconds(const Desk& desk) {
@@ -183,17 +188,21 @@ bool is_stopped_by_a_fault(const Desk& desk) {
            !desk.window.list_chain_timer.enabled();
 }
 
-std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing) {
-    if (!is_on(main_role(desk)) || desk.is_manual() || is_stopped_by_a_fault(desk))
-        return {};
-    const Deck& next = desk.ring.deck(next_deck(desk.chain.lecteur_en_cours.value()));
+const Deck* deck_to_come(Desk& desk) {
+    if (!goes_on(desk))
+        return nullptr;
     const bool from_list = desk.chain.mode_enchainement.is_true();
-    if (!from_list && !desk.window.mix_titles.value())
-        return {};
-    const bool prepared = !from_list || desk.chain.chargement_fait.is_true();
-    if (prepared && role_of(desk, next) == DeckRole::loaded)
-        return from_list ? paths_behind_loaded(desk, next, is_missing) : paths_on_decks(desk, next);
-    return from_list && !is_drawn(desk) ? paths_in_list_order(desk, is_missing) : std::vector<std::string>{};
+    const bool prepared = from_list ? desk.chain.chargement_fait.is_true() : desk.window.mix_titles.value();
+    const Deck& next = desk.ring.after(desk.ring.main_deck());
+    return prepared && role_of(desk, next) == DeckRole::loaded ? &next : nullptr;
+}
+
+std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing) {
+    const bool from_list = desk.chain.mode_enchainement.is_true();
+    if (const Deck* next = deck_to_come(desk))
+        return from_list ? paths_behind_loaded(desk, *next, is_missing) : paths_on_decks(desk, *next);
+    const bool in_order = goes_on(desk) && from_list && !is_drawn(desk);
+    return in_order ? paths_in_list_order(desk, is_missing) : std::vector<std::string>{};
 }
 
 } // namespace sonarelle

@@ -57,6 +57,9 @@ enum class DeckRole {
 /// A fault has stopped the chain, and nothing follows what is on the air.
 [[nodiscard]] bool is_stopped_by_a_fault(const Desk& desk);
 
+/// The deck on which the track waits that follows the main deck's by itself; null for none.
+[[nodiscard]] const Deck* deck_to_come(Desk& desk);
+
 using IsMissing = std::function<bool(const std::string& path)>;
 /// The files that follow the main deck's, two at most. The chain goes over rows whose file is missing, as far as
 /// `is_missing` knows; where it knows that of all that are near, the next one of them stands for them. None when

@@ -49,13 +49,23 @@ void Binding::show_value() {
     paint(palette);
     if (palette != widget_->palette())
         widget_->setPalette(palette);
-    if (!control_.is_reachable())
-        give_keyboard_back();
-    widget_->setEnabled(control_.enabled);
+    show_enabled();
     widget_->setVisible(control_.visible);
     showing_ = false;
     if (on_shown)
         on_shown();
+}
+
+void Binding::set_lit(bool lit) {
+    lit_ = lit;
+    if (!widget_.isNull())
+        show_enabled();
+}
+
+void Binding::show_enabled() {
+    if (lit_ || !control_.is_reachable())
+        give_keyboard_back();
+    widget_->setEnabled(control_.enabled && !lit_);
 }
 
 // What can be worked is named by its tip, too; a text that is read says itself what it is.

@@ -38,6 +38,9 @@ public:
     /// then.
     void set_spoken_name(const QString& name) { spoken_name_ = name; }
 
+    /// A lit part is a lamp: it can't be pressed while it shows its state.
+    void set_lit(bool lit);
+
     /// The pointer has left a part that heard of it.
     std::function<void()> on_left;
 
@@ -68,6 +71,7 @@ private:
     void control_changed(Control&) override { services_.updates.mark(*this); }
     [[nodiscard]] QString tip() const;
     [[nodiscard]] bool show_tip(QPoint place) const;
+    void show_enabled();
 
     Control& control_;
     QPointer<QWidget> widget_;
@@ -76,6 +80,7 @@ private:
     QString key_;
     QString spoken_name_; ///< Empty where the station's words will do.
     bool showing_ = false;
+    bool lit_ = false;
 };
 
 /// Stands for a control that another part of the view shows. It has no size.

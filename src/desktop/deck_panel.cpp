@@ -25,6 +25,7 @@ struct DeckLengths {
     int gap;
 };
 
+constexpr std::size_t play_place = 1;
 constexpr std::size_t zap_place = 6;
 constexpr DeckLengths narrow{20, 24, 16, 36, 40, {30, 40, 30, 30, 30, 30, 36, 44}, 4};
 constexpr DeckLengths compact{20, 24, 16, 36, 40, {36, 52, 36, 36, 36, 36, 36, 56}, 4};
@@ -49,6 +50,8 @@ struct RoleLook {
 RoleLook look_of(const DeckLook& look) {
     if (look.is_refused)
         return {Accent::trouble, Accent::trouble, "NON TROUVÉ"};
+    if (look.is_unheard)
+        return {Accent::trouble, Accent::trouble, "JOUE SANS SORTIE"};
     switch (look.role) {
     case DeckRole::loaded:
         return look.is_next ? RoleLook{Accent::next, Accent::next, "CHARGÉ, SUIVANT"}
@@ -56,8 +59,7 @@ RoleLook look_of(const DeckLook& look) {
     case DeckRole::heard:
         return {Accent::none, Accent::air, "EN LECTURE"};
     case DeckRole::on_air:
-        return look.is_unheard ? RoleLook{Accent::trouble, Accent::trouble, "JOUE SANS SORTIE"}
-                               : RoleLook{Accent::air, Accent::air, "À L'ANTENNE"};
+        return {Accent::air, Accent::air, "À L'ANTENNE"};
     case DeckRole::paused:
         return {Accent::air, Accent::next, "EN PAUSE"};
     case DeckRole::ended:
@@ -266,7 +268,9 @@ void DeckPanel::show_state() {
     state_->set_ink(ink_of(card));
     kind_->set_text(look_.genre.isEmpty() ? look_.kind : look_.kind + " · " + look_.genre);
     kind_->set_narrow_text(look_.kind);
-    buttons_[1]->set_accent(on_air ? Accent::air : Accent::none);
+    buttons_[play_place]->set_accent(on_air ? Accent::air : Accent::none);
+    buttons_[play_place]->setAccessibleDescription(on_air ? "le lecteur est à l'antenne" : "");
+    view_.binding_of(controls_.play)->set_lit(on_air);
     buttons_[zap_place]->set_accent(on_air ? Accent::next : Accent::none);
     title_->set_file(look_.file);
     progress_->set_fill(lamp == Accent::next ? studio::next : studio::air);

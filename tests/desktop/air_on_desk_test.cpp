@@ -56,6 +56,12 @@ protected:
     [[nodiscard]] std::string list_says(const Label& label) {
         return part<StationLabel>(list_view(), label.name()).text().toStdString();
     }
+    /// Whether a text stands on a deck.
+    [[nodiscard]] bool deck_says(int deck, const QString& text) {
+        QWidget& bar = part(main_view(), station.main_window.deck(deck).progress.name());
+        const auto labels = parts_of<StationLabel>(*bar.parentWidget());
+        return std::ranges::find(labels, text, &StationLabel::text) != labels.end();
+    }
     [[nodiscard]] std::string title_of(int deck) {
         const std::string name = station.main_window.deck(deck).title.name();
         return part<TitleLabel>(main_view(), name).shown().toStdString();
@@ -92,6 +98,33 @@ TEST_F(AirOnDesk, DecksNameWhatIsHeardOnThem) {
     run_for(97);
     EXPECT_EQ(title_of(1), "un");
     EXPECT_EQ(title_of(2), "deux");
+}
+
+TEST_F(AirOnDesk, PlayOfTheDeckOnTheAirIsALampFromItsFirstMoment) {
+    play_list();
+    settle();
+    auto& play = station.main_window.deck(1).play;
+    ASSERT_TRUE(play.enabled);
+    EXPECT_FALSE(part(main_view(), play.name()).isEnabled());
+    play.enabled = false;
+    settle();
+    play.enabled = true;
+    settle();
+    EXPECT_FALSE(part(main_view(), play.name()).isEnabled()) << "whatever the station says of it meanwhile";
+}
+
+TEST_F(AirOnDesk, DeckIsTheNextOneWhereTheHeaderSaysSo) {
+    play_list();
+    machine.add_track("C:\\Musique\\à la main.mp3", 60);
+    machine.dialogs.expect_open("C:\\Musique\\à la main.mp3");
+    station.main_window.deck(2).open.click();
+    run_for(1);
+    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux");
+    EXPECT_TRUE(deck_says(2, "CHARGÉ"));
+    station.main_window.load_ahead.click(); // which a file that is opened by hand leaves off
+    run_for(90);
+    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux (00:01:40)");
+    EXPECT_TRUE(deck_says(2, "CHARGÉ, SUIVANT"));
 }
 
 TEST_F(AirOnDesk, NoRowIsTheNextRightBehindAStart) {

@@ -140,6 +140,23 @@ TEST_F(DeckPanels, PlayAndZapAreLitOnTheAirOnly) {
     EXPECT_FALSE(is_green(face(deck().stop)));
 }
 
+TEST_F(DeckPanels, PlayIsALampOnTheAirAndGivesTheKeyboardBack) {
+    deck().play.enabled = true;
+    show(DeckRole::loaded);
+    settle();
+    QWidget& play = widget(deck().play);
+    EXPECT_TRUE(play.isEnabled());
+    QApplication::setActiveWindow(&main_view());
+    play.setFocus();
+    show(DeckRole::on_air);
+    EXPECT_FALSE(play.isEnabled());
+    EXPECT_EQ(main_view().focusWidget(), &main_view());
+    EXPECT_EQ(play.accessibleDescription(), "le lecteur est à l'antenne");
+    show(DeckRole::paused);
+    EXPECT_TRUE(play.isEnabled());
+    EXPECT_EQ(play.accessibleDescription(), "");
+}
+
 TEST_F(DeckPanels, BarIsGreenWhileTheDeckSoundsAndAmberOtherwise) {
     show(DeckRole::on_air);
     EXPECT_TRUE(is_near(bar_at(25), studio::air));
@@ -206,12 +223,14 @@ TEST_F(DeckPanels, DeckThatNobodyWaitsForIsPlain) {
 }
 
 TEST_F(DeckPanels, TroubleIsRedAndHasAWord) {
-    DeckLook look = look_of(DeckRole::on_air, "La rue");
-    look.is_unheard = true;
-    main_view().show_look(1, look);
-    EXPECT_EQ(panel().accent(), Accent::trouble);
-    EXPECT_TRUE(says("JOUE SANS SORTIE"));
-    look = look_of(DeckRole::empty);
+    for (const DeckRole role : {DeckRole::on_air, DeckRole::heard}) {
+        DeckLook look = look_of(role, "La rue");
+        look.is_unheard = true;
+        main_view().show_look(1, look);
+        EXPECT_EQ(panel().accent(), Accent::trouble);
+        EXPECT_TRUE(says("JOUE SANS SORTIE"));
+    }
+    DeckLook look = look_of(DeckRole::empty);
     look.is_refused = true;
     main_view().show_look(1, look);
     EXPECT_EQ(panel().accent(), Accent::trouble);

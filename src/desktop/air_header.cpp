@@ -160,7 +160,8 @@ void AirHeader::show_state() {
 void AirHeader::show_words() {
     const bool lost = !look_.lost_for.isEmpty();
     const bool plays = look_.role != DeckRole::empty && look_.role != DeckRole::ended;
-    heading_->set_text(is_silent() ? "LISTE ACTIVE, RIEN N'EST DIFFUSÉ"
+    const QString silent = look_.of_list ? "LISTE ACTIVE, RIEN N'EST DIFFUSÉ" : "RIEN N'EST DIFFUSÉ";
+    heading_->set_text(is_silent() ? silent
                        : lost      ? "PERSONNE N'ENTEND"
                        : plays     ? heading_of(look_.role) + " — Play " + QString::number(look_.deck)
                                    : heading_of(look_.role));
@@ -186,8 +187,8 @@ void AirHeader::show_time() {
     for (QWidget* part : {remaining_, left_word_})
         part->setVisible(!is_silent());
     to_mix_->setVisible(!is_silent() && look_.to_mix.has_value());
-    for (QWidget* part : {silence_, remedy_})
-        part->setVisible(is_silent());
+    silence_->setVisible(is_silent());
+    remedy_->setVisible(offers_restart());
     grid_->setColumnStretch(0, 2);
     grid_->setColumnStretch(1, is_silent() ? 3 : 2);
     grid_->setColumnStretch(2, 2);

@@ -27,6 +27,8 @@ struct AirLook {
     QString notice;         ///< A trouble that leaves the air as it is; empty for none.
     QString silence;        ///< How long the air has been silent, mm:ss; empty while it is as it should be.
     QString silent_since{}; ///< The time of day at which that began.
+    bool of_list = false;   ///< It is the list that is silent.
+    bool can_start = false; ///< The list can be started.
     QString lost_for{};     ///< How long no sound card has played, mm:ss; empty while one does.
     QString station{};      ///< The station's name, and whether it writes a journal.
 
@@ -42,6 +44,8 @@ public:
     void show_air(const AirLook& look);
     void show_clock(const QString& time) { clock_->set_text(time); }
     void set_step(Step step) override;
+    /// In a silence it says that the list can be taken up again by a key.
+    [[nodiscard]] bool offers_restart() const { return is_silent() && look_.of_list && look_.can_start; }
     [[nodiscard]] bool alarms() const { return !look_.lost_for.isEmpty() || is_silent(); }
 
 protected:

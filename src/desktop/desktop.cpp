@@ -146,6 +146,7 @@ void Desktop::connect_readings() {
     watch(desk_.list_window.remaining, [this] { show_list(); });
     watch(desk_.list_window.list_status, [this] { show_list(); });
     watch(desk_.window.overlap, [this] { show_decks(); });
+    main_->on_restart = [this] { services_.run_event([this] { desk_.list_window.play_list.click(); }); };
     for (DeckControls& deck : desk_.window.decks)
         for (Control* control : std::initializer_list<Control*>{&deck.title, &deck.counter, &deck.progress,
                                                                 &deck.playing_mark, &deck.play, &deck.pause})
@@ -222,6 +223,8 @@ AirLook Desktop::look_of_air() {
             .notice = notice(),
             .silence = to_qt(silence_text(desk_)),
             .silent_since = since,
+            .of_list = desk_.chain.mode_enchainement.is_true(),
+            .can_start = desk_.list_window.play_list.enabled && desk_.row_count() > 0,
             .lost_for = lost_.isValid() ? clock_text(static_cast<int>(lost_.elapsed() / 1000)).mid(3) : "",
             .station = station_line()};
 }
@@ -230,7 +233,12 @@ AirLook Desktop::look_of_air() {
 void Desktop::show_air() {
     const AirLook air = look_of_air();
     const bool is_lost = lost_.isValid();
-    main_->show_air(air);
+    if (!air.title.isEmpty())
+        last_title_ = air.title;
+    AirLook told = air; // whose header names in a silence what was the last on the air
+    if (!air.silence.isEmpty())
+        told.title = last_title_;
+    main_->show_air(told);
     main_->show_title(air.title.isEmpty() ? air.title : to_qt(desk_.settings.nom_radio + " : ") + air.title);
     list_->follow_step(step_of(main_->size()));
     list_->show_air(

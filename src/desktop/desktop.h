@@ -93,6 +93,7 @@ private:
     SmallPlayerView* player_ = nullptr;
     QTimer second_;
     QString clock_;      ///< Of the second that is shown, in both windows.
+    QString last_title_; ///< Of what is on the air, or was the last to be.
     QElapsedTimer lost_; ///< Runs while no sound card plays.
     OutputChoice outputs_;
     MissingFiles missing_;

@@ -67,11 +67,12 @@ private:
     StationLabel* aside_;
 };
 
-/// The arrow keys in the overlap's field take its steps.
+/// The arrow keys in the overlap's field take its steps, and Return leaves it and is nothing more.
 class StepKeys : public QObject {
 public:
     StepKeys(QLineEdit& field, Slider& steps, const DesktopServices& services)
         : QObject{&field},
+          field_{field},
           steps_{steps},
           services_{services} {
         field.installEventFilter(this);
@@ -80,6 +81,10 @@ public:
 protected:
     bool eventFilter(QObject* field, QEvent* event) override {
         const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            field_.window()->setFocus();
+            return true;
+        }
         if (key != Qt::Key_Up && key != Qt::Key_Down)
             return QObject::eventFilter(field, event);
         services_.run_event([&] { steps_.set_value(steps_.value() + (key == Qt::Key_Up ? 1 : -1)); });
@@ -87,6 +92,7 @@ protected:
     }
 
 private:
+    QLineEdit& field_;
     Slider& steps_;
     const DesktopServices& services_;
 };
@@ -113,7 +119,13 @@ QLayout* overlap_steps(WindowView& view, Dresser& dresser, Antenne_FM& window) {
     return row_of({less, overlap, more, unit}, studio::half_grid);
 }
 
-Panel* chain_panel(WindowView& view, Antenne_FM& window) {
+SegmentedChoice* chain_choice(WindowView& view, Antenne_FM& window) {
+    Dresser dresser{view};
+    return new SegmentedChoice{{dresser.mode(window.deck_chain_lamp, window.mix_titles),
+                                dresser.mode(window.list_chain_lamp, window.mix_list)}};
+}
+
+Panel* chain_panel(WindowView& view, Antenne_FM& window, SegmentedChoice* modes) {
     Dresser dresser{view};
     auto* running = dresser.label(
         window.running_chain,
@@ -123,8 +135,6 @@ Panel* chain_panel(WindowView& view, Antenne_FM& window) {
         running->setVisible(running->text().toUpper() != quick_load_heading);
     };
     auto* panel = new HeadedPanel{"ENCHAÎNEMENT", running};
-    auto* modes = new SegmentedChoice{{dresser.mode(window.deck_chain_lamp, window.mix_titles),
-                                       dresser.mode(window.list_chain_lamp, window.mix_list)}};
     auto* hourly = dresser.image(window.hourly_styles, "Top horaire");
     hourly->set_size(ButtonSize::control);
     hourly->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -182,20 +192,21 @@ Panel* meter_panel(WindowView& view, Antenne_FM& window, const SoundReading& sou
 } // namespace
 
 // Three equal columns, as of the decks above; effect and level share the third.
-QWidget* lower_panels(WindowView& view, Antenne_FM& window, const SoundReading& sound) {
+LowerPanels lower_panels(WindowView& view, Antenne_FM& window, const SoundReading& sound) {
     auto* panels = new DeskRow{&StepLengths::panels};
     auto* third = row_of({}, studio::grid);
     for (Panel* panel : {effect_panel(view, window, sound), meter_panel(view, window, sound)}) {
         panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // both have one width
         third->addWidget(panel, 1);
     }
-    panels->add(chain_panel(view, window));
+    auto* chain = chain_choice(view, window);
+    panels->add(chain_panel(view, window, chain));
     panels->add(quick_load_panel(view, window));
     auto* both = new QWidget;
     both->setMouseTracking(true);
     both->setLayout(third);
     panels->add(both);
-    return panels;
+    return {panels, chain};
 }
 
 } // namespace sonarelle

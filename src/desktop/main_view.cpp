@@ -1,6 +1,7 @@
 #include "desktop/main_view.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <algorithm>
 
 #include "desktop/colours.h"
@@ -9,6 +10,7 @@
 #include "desktop/mnemonics.h"
 #include "desktop/qt_text.h"
 #include "desktop/remaining_parts.h"
+#include "desktop/segments.h"
 #include "desktop/strip.h"
 #include "desktop/text_bindings.h"
 #include "desktop/text_size.h"
@@ -44,7 +46,9 @@ void MainView::build_rows(const SoundReading& sound) {
     rows_->addWidget(header_row);
     rows_->addWidget(deck_row(), 1);
     rows_->addSpacing(studio::grid);
-    rows_->addWidget(lower_panels(*this, window_, sound));
+    const LowerPanels lower = lower_panels(*this, window_, sound);
+    chain_ = lower.chain;
+    rows_->addWidget(lower.row);
     rows_->addSpacing(studio::grid);
     QWidget* foot = status_line();
     if (QWidget* rest = remaining_parts(dresser_))
@@ -124,8 +128,16 @@ QWidget* MainView::status_line() {
 
 void MainView::show_air(const AirLook& look) {
     header_->show_air(look);
+    chain_->set_alarm(!look.silence.isEmpty());
     silence_->set_text("Silence à l'antenne depuis " + look.silent_since);
     silence_->setVisible(!look.silence.isEmpty());
+}
+
+void MainView::keyPressEvent(QKeyEvent* event) {
+    const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (is_return && !event->isAutoRepeat() && focusWidget() == this && header_->offers_restart() && on_restart)
+        return on_restart();
+    WindowView::keyPressEvent(event);
 }
 
 void MainView::show_title(const QString& title) {

@@ -11,6 +11,8 @@ class QVBoxLayout;
 
 namespace sonarelle {
 
+class SegmentedChoice;
+
 /// The main window: what is on and how long it lasts, three decks, the chain and the quick loads. Its type and its
 /// lengths follow its size.
 class MainView : public WindowView {
@@ -25,7 +27,11 @@ public:
     void show_output(const QString& text, bool is_trouble);
     void show_played(const QString& text) { played_->set_text(text); }
 
+    /// The operator takes up the list again, as the header says how in a silence.
+    std::function<void()> on_restart;
+
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] QString title() const override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -41,6 +47,7 @@ private:
     QVBoxLayout* rows_ = nullptr;
     QWidget* menu_strip_ = nullptr; ///< The labels that stand for the menu bar.
     AirHeader* header_ = nullptr;
+    SegmentedChoice* chain_ = nullptr;
     std::array<DeckPanel*, 3> decks_{};
     QString air_title_;
     StationLabel* output_ = nullptr;

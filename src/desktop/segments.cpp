@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <utility>
 
 #include "desktop/colours.h"
 #include "desktop/studio_button.h"
@@ -44,16 +45,21 @@ void Segment::set_step(Step step) {
 
 void Segment::show_choice() {
     lit_ = words_.isChecked();
-    lamp_.set_accent(lit_ ? Accent::air : Accent::none);
+    lamp_.set_accent(!lit_ ? Accent::none : alarm_ ? Accent::primary : Accent::air);
     lamp_.setFixedSize(lit_ ? lamp_width_ : 0, lamp_height);
     layout()->activate(); // at once: nothing moves later
     tell_ground();
     update();
 }
 
+void Segment::set_alarm(bool alarm) {
+    if (std::exchange(alarm_, alarm) != alarm)
+        show_choice();
+}
+
 QColor Segment::ground() const {
     if (lit_)
-        return studio::air_fill;
+        return alarm_ ? studio::trouble_fill : studio::air_fill;
     return underMouse() && isEnabled() ? studio::control : studio::well;
 }
 
@@ -92,7 +98,8 @@ void Segment::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(rect(), studio::small_radius, studio::small_radius);
 }
 
-SegmentedChoice::SegmentedChoice(const std::vector<Segment*>& segments) {
+SegmentedChoice::SegmentedChoice(const std::vector<Segment*>& segments)
+    : segments_{segments} {
     auto* row = new QHBoxLayout{this};
     row->setContentsMargins(frame, frame, frame, frame);
     row->setSpacing(2);
@@ -100,6 +107,11 @@ SegmentedChoice::SegmentedChoice(const std::vector<Segment*>& segments) {
         row->addWidget(segment);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     set_step(Step::compact);
+}
+
+void SegmentedChoice::set_alarm(bool alarm) {
+    for (Segment* segment : segments_)
+        segment->set_alarm(alarm);
 }
 
 void SegmentedChoice::set_step(Step step) {

@@ -20,6 +20,8 @@ public:
 
     /// Takes the option's state.
     void show_choice();
+    /// What it stands for has failed: red while it is lit.
+    void set_alarm(bool alarm);
     [[nodiscard]] bool is_lit() const { return lit_; }
     void set_step(Step step) override;
 
@@ -37,6 +39,7 @@ private:
     StudioButton& lamp_;
     QRadioButton& words_;
     bool lit_ = false;
+    bool alarm_ = false;
     int lamp_width_ = 18;
 };
 
@@ -45,10 +48,14 @@ class SegmentedChoice : public QWidget, public Stepped {
 public:
     explicit SegmentedChoice(const std::vector<Segment*>& segments);
 
+    void set_alarm(bool alarm);
     void set_step(Step step) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::vector<Segment*> segments_;
 };
 
 } // namespace sonarelle

@@ -37,6 +37,7 @@ protected:
         look.role = DeckRole::ended;
         look.silence = time;
         look.silent_since = "10:53:50";
+        look.of_list = look.can_start = true;
         show(look);
     }
     void lose_the_card() {
@@ -197,6 +198,51 @@ TEST_F(AirHeaderTest, SaysWhatEndsTheSilence) {
     EXPECT_TRUE(label("air_remedy").isVisible());
     play();
     EXPECT_FALSE(label("air_remedy").isVisible());
+}
+
+TEST_F(AirHeaderTest, OffersTheListOnlyWhereItCanBeTakenUp) {
+    be_silent_for("00:02");
+    EXPECT_EQ(label("air_state").text(), "LISTE ACTIVE, RIEN N'EST DIFFUSÉ");
+    look.can_start = false;
+    show(look);
+    EXPECT_FALSE(label("air_remedy").isVisible()) << "it runs, and what it plays is silent";
+    look.can_start = true;
+    look.of_list = false;
+    show(look);
+    EXPECT_FALSE(label("air_remedy").isVisible()) << "the decks are chained";
+    EXPECT_EQ(label("air_state").text(), "RIEN N'EST DIFFUSÉ");
+}
+
+TEST_F(AirHeaderTest, ReturnTakesUpTheListInASilence) {
+    int taken_up = 0;
+    view.on_restart = [&] { ++taken_up; };
+    view.setFocus();
+    const auto press_return = [this] { QTest::keyClick(&view, Qt::Key_Return); };
+    press_return();
+    EXPECT_EQ(taken_up, 0) << "nothing is silent";
+    be_silent_for("00:02");
+    press_return();
+    EXPECT_EQ(taken_up, 1);
+    view.findChild<QWidget*>("Command1")->setFocus();
+    press_return();
+    EXPECT_EQ(taken_up, 1) << "the part that has the keyboard is pressed";
+    QWidget& overlap = *view.findChild<QWidget*>("Text1");
+    overlap.setFocus();
+    QTest::keyClick(&overlap, Qt::Key_Return);
+    EXPECT_EQ(taken_up, 1) << "it ends what was typed";
+    EXPECT_EQ(view.focusWidget(), &view);
+}
+
+TEST_F(AirHeaderTest, ChainThatIsSilentIsRed) {
+    main_window.mix_list.show_value(true);
+    settle();
+    QWidget& segment = *view.findChild<QWidget*>("coche3")->parentWidget();
+    const auto ground = [&] { return ground_in(seen_in_window(segment)); };
+    EXPECT_TRUE(is_near(ground(), studio::air_fill));
+    be_silent_for("00:02");
+    EXPECT_TRUE(is_near(ground(), studio::trouble_fill));
+    play();
+    EXPECT_TRUE(is_near(ground(), studio::air_fill));
 }
 
 TEST_F(AirHeaderTest, NameForTheScreenReaderIsTheAlarm) {

@@ -127,6 +127,31 @@ TEST_F(AirOnDesk, DeckIsTheNextOneWhereTheHeaderSaysSo) {
     EXPECT_TRUE(deck_says(2, "CHARGÉ, SUIVANT"));
 }
 
+TEST_F(AirOnDesk, SilenceNamesWhatWasTheLastOnTheAir) {
+    play_list();
+    run_for(50);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
+    run_for(70);
+    ASSERT_NE(silence_text(station.desk), "");
+    EXPECT_EQ(desk_says("air_title"), "un");
+    EXPECT_EQ(main_view().windowTitle().toStdString(), station.main_window.caption.get()) << "nothing is on the air";
+}
+
+TEST_F(AirOnDesk, ReturnInASilenceTakesUpTheList) {
+    play_list();
+    run_for(50);
+    machine.disk.refuse("C:\\Musique", FailureNumber::path_not_found);
+    run_for(70);
+    machine.disk.heal("C:\\Musique");
+    main_view().setFocus();
+    const int before = events;
+    QTest::keyClick(&main_view(), Qt::Key_Return);
+    EXPECT_EQ(events, before + 1);
+    run_for(2);
+    EXPECT_EQ(silence_text(station.desk), "");
+    EXPECT_EQ(desk_says("air_state"), "À L'ANTENNE — Play 1");
+}
+
 TEST_F(AirOnDesk, NoRowIsTheNextRightBehindAStart) {
     play_list();
     run_for(97);

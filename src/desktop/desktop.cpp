@@ -89,7 +89,7 @@ Desktop::Desktop(const std::vector<Window*>& windows, Desk& desk, const DesktopS
     : desk_{desk},
       services_{services} {
     for (Window* window : windows) {
-        views_.push_back(view_of(*window, services, sound));
+        views_.push_back(view_of(*window, services, while_heard(sound)));
         if (auto* main = dynamic_cast<MainView*>(views_.back().get()))
             main_ = main;
         if (auto* list = dynamic_cast<ListView*>(views_.back().get()))
@@ -113,6 +113,28 @@ QWidget* Desktop::widget_of(const Window& window) const {
 
 QString Desktop::name_on_air() const {
     return to_qt(sonarelle::name_on_air(desk_));
+}
+
+// What no sound card takes nobody hears. It is read all the same, so that none of it is shown later.
+SoundReading Desktop::while_heard(const SoundReading& sound) const {
+    SoundReading heard = sound;
+    if (sound.level)
+        heard.level = [this, level = sound.level] {
+            const LevelReading reading = level();
+            return lost_.isValid() ? LevelReading{} : reading;
+        };
+    if (sound.newest)
+        heard.newest = [this, newest = sound.newest](std::span<float> frames) {
+            newest(frames);
+            if (lost_.isValid())
+                std::ranges::fill(frames, 0.0F);
+        };
+    if (sound.bands)
+        heard.bands = [this, bands = sound.bands] {
+            const std::span<const float> levels = bands();
+            return lost_.isValid() ? std::span<const float>{} : levels;
+        };
+    return heard;
 }
 
 void Desktop::watch(Control& control, std::function<void()> show) {

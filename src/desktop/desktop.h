@@ -68,6 +68,7 @@ public:
     void mark_missing(MissingFiles files);
 
 private:
+    [[nodiscard]] SoundReading while_heard(const SoundReading& sound) const;
     void connect_readings();
     void name_keys(const std::vector<NamedKey>& keys);
     void name_keys_of_decks();

@@ -111,6 +111,19 @@ TEST_F(WordsOfTheDesk, TellTheLoudness) {
     EXPECT_TRUE(becomes([this] { return count(main_view(), "−16,2 LUFS") == 1; }));
 }
 
+TEST_F(WordsOfTheDesk, TellNoLoudnessThatNobodyHears) {
+    SoundReading sound;
+    sound.level = [] { return LevelReading{.peak = {0.5F, 0.5F}, .lufs = -16.2}; };
+    desktop.reset();
+    desktop.emplace(station.windows(), station.desk, services, sound);
+    show_windows();
+    ASSERT_TRUE(becomes([this] { return count(main_view(), "−16,2 LUFS") == 1; }));
+    desktop->show_output("sortie : aucune carte son, cadence de l'horloge", true);
+    EXPECT_TRUE(becomes([this] { return count(main_view(), "— LUFS") == 1; }));
+    desktop->show_output("sortie : la carte son joue", false);
+    EXPECT_TRUE(becomes([this] { return count(main_view(), "−16,2 LUFS") == 1; }));
+}
+
 TEST_F(WordsOfTheDesk, FallOnNoWindowThatIsMissing) {
     desktop.reset();
     desktop.emplace(std::vector<Window*>{&station.options_window}, station.desk, services, SoundReading{});

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QSlider>
+#include <algorithm>
 
 #include "desktop/colours.h"
 #include "desktop/progress_strip.h"
@@ -54,6 +55,8 @@ RoleLook look_of(const DeckLook& look) {
         return {Accent::trouble, Accent::trouble, "JOUE SANS SORTIE"};
     switch (look.role) {
     case DeckRole::loaded:
+        if (look.is_paused)
+            return {Accent::none, Accent::next, "EN PAUSE"};
         return look.is_next ? RoleLook{Accent::next, Accent::next, "CHARGÉ, SUIVANT"}
                             : RoleLook{Accent::none, Accent::none, "CHARGÉ"};
     case DeckRole::heard:
@@ -252,7 +255,7 @@ void DeckPanel::show_look(const DeckLook& look) {
     const double whole = controls_.progress.maximum;
     const auto share = [&](std::optional<double> second) -> std::optional<double> {
         const bool shown = look.role != DeckRole::empty && second && whole > 0;
-        return shown ? std::optional{*second / whole} : std::nullopt;
+        return shown ? std::optional{std::min(1.0, *second / whole)} : std::nullopt; // the bar has whole seconds
     };
     progress_->set_sound(look.sound, whole);
     progress_->set_marks(share(look.mix_point), share(look.end_point));
@@ -273,8 +276,17 @@ void DeckPanel::show_state() {
     view_.binding_of(controls_.play)->set_lit(on_air);
     buttons_[zap_place]->set_accent(on_air ? Accent::next : Accent::none);
     title_->set_file(look_.file);
+    const QColor ink = is_bare() ? studio::caption : QColor{};
+    for (StationLabel* label : std::initializer_list<StationLabel*>{title_, elapsed_, end_, left_})
+        label->set_ink(ink);
     progress_->set_fill(lamp == Accent::next ? studio::next : studio::air);
     progress_->set_output(!look_.is_unheard);
+}
+
+/// Nothing is on it, and nothing was looked for in vain.
+bool DeckPanel::is_bare() const {
+    const bool holds_nothing = look_.role == DeckRole::empty || look_.role == DeckRole::ended;
+    return holds_nothing && look_.file.isEmpty() && !look_.is_refused;
 }
 
 // While the slider is hidden the bar in its place can't be moved.
@@ -293,6 +305,8 @@ void DeckPanel::show_times() {
         progress_->set_share(*look_.elapsed / whole);
     elapsed_->set_text(QString::number(elapsed));
     const int end = static_cast<int>(look_.end_point.value_or(0));
+    if (look_.end_point) // whole seconds, as beside it
+        end_->set_text(QString::number(end));
     left_->set_text(clock_text(is_empty ? 0 : look_.left.value_or(end - elapsed)));
     QString details = clock_text(is_empty ? 0 : static_cast<int>(whole));
     if (!is_empty && look_.mix_point)

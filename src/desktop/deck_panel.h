@@ -20,6 +20,7 @@ class VolumeBar;
 struct DeckLook {
     DeckRole role = DeckRole::empty;
     bool is_next = false;                    ///< The deck that the next track waits on.
+    bool is_paused = false;                  ///< It is held, and isn't the main one.
     bool is_unheard = false;                 ///< It plays, and no sound card takes it.
     bool is_refused = false;                 ///< Its file isn't there, or can't be played.
     QString file{};                          ///< The name of the file on it, without its ending; empty for none.
@@ -51,6 +52,7 @@ private:
     [[nodiscard]] QLayout* transport();
     [[nodiscard]] QLayout* volume();
     void show_state();
+    [[nodiscard]] bool is_bare() const;
     void show_times();
     void show_volume();
 

@@ -51,11 +51,11 @@ bool opens_over_the_desk(const Window& window) {
            dynamic_cast<const mini_lecteur*>(&window) == nullptr && dynamic_cast<const Chargement*>(&window) == nullptr;
 }
 
-// Nothing for what is no number yet.
-std::optional<double> seconds_of(Deck& deck) {
-    bool is_number = false;
-    const double end = to_qt(deck.controls.counter.caption.get()).toDouble(&is_number);
-    return is_number && end > 0 ? std::optional{end} : std::nullopt;
+// Nothing for what is no number yet. A deck beside the main one, whose counter is put back, plays its file out.
+std::optional<double> end_of(const Deck& deck, DeckRole role) {
+    std::optional<double> end;
+    ErrorIndicator{}.skip([&] { end = (role == DeckRole::heard ? deck.whole_duration() : deck.end_point()).value(); });
+    return end > 0 ? end : std::nullopt;
 }
 
 /// A deck that waits for its start, which is at its start of play.
@@ -207,7 +207,7 @@ void Desktop::show_decks() {
 DeckLook Desktop::look_of(Deck& deck) {
     DeckLook look;
     look.role = role_of(desk_, deck);
-    look.end_point = seconds_of(deck);
+    look.end_point = end_of(deck, look.role);
     look.is_refused = deck.controls.title.caption.get() == missing_title;
     if (look.role == DeckRole::empty)
         return look;
@@ -223,7 +223,9 @@ DeckLook Desktop::look_of(Deck& deck) {
         look.sound = services_.waveform_of(deck.path);
     if (begins_anew(deck, look.role)) // the bar stands at 0
         look.elapsed = static_cast<int>(Fix(deck.start_of_play()));
-    if (look.role == DeckRole::on_air && waits_for_special_mix(desk_)) // the chain's own display rests
+    look.is_paused = look.role == DeckRole::loaded && deck.pause_lecteur.is_true();
+    const bool rests = look.role == DeckRole::on_air && waits_for_special_mix(desk_); // the chain's own display
+    if (rests || look.is_paused || look.role == DeckRole::heard)
         ErrorIndicator{}.skip([&] { look.elapsed = deck.whole_position().value(); });
     look.mix_point = mix_point(desk_, deck);
     return look;

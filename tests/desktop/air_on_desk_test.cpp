@@ -113,17 +113,42 @@ TEST_F(AirOnDesk, PlayOfTheDeckOnTheAirIsALampFromItsFirstMoment) {
     EXPECT_FALSE(part(main_view(), play.name()).isEnabled()) << "whatever the station says of it meanwhile";
 }
 
+TEST_F(AirOnDesk, DeckThatFadesShowsWhereItIs) {
+    play_list();
+    run_for(97);
+    auto& deck = station.main_window.deck(1);
+    const auto& bar = part<ProgressStrip>(main_view(), deck.progress.name());
+    ASSERT_TRUE(station.deck_ring.deck(1).sounds());
+    EXPECT_NEAR(bar.share(), 0.97, 0.011);
+    EXPECT_EQ(part<StationLabel>(main_view(), deck.counter.name()).text(), "100");
+    EXPECT_TRUE(deck_says(1, "97"));
+    EXPECT_TRUE(deck_says(1, "00:00:03"));
+}
+
+TEST_F(AirOnDesk, DeckThatIsHeldBesideTheMainOneSaysSo) {
+    play_list();
+    machine.add_track("C:\\Musique\\jingle.mp3", 60);
+    machine.dialogs.expect_open("C:\\Musique\\jingle.mp3");
+    station.main_window.deck(3).open.click();
+    station.main_window.deck(3).special_mix.click();
+    run_for(20);
+    station.main_window.deck(3).pause.click();
+    run_for(5);
+    EXPECT_TRUE(deck_says(3, "EN PAUSE"));
+    EXPECT_TRUE(deck_says(3, "20"));
+}
+
 TEST_F(AirOnDesk, DeckIsTheNextOneWhereTheHeaderSaysSo) {
     play_list();
     machine.add_track("C:\\Musique\\à la main.mp3", 60);
     machine.dialogs.expect_open("C:\\Musique\\à la main.mp3");
     station.main_window.deck(2).open.click();
     run_for(1);
-    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux");
+    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux, puis trois");
     EXPECT_TRUE(deck_says(2, "CHARGÉ"));
     station.main_window.load_ahead.click(); // which a file that is opened by hand leaves off
     run_for(90);
-    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux (00:01:40)");
+    ASSERT_EQ(desk_says("air_next"), "Ensuite : deux (00:01:40), puis trois");
     EXPECT_TRUE(deck_says(2, "CHARGÉ, SUIVANT"));
 }
 

@@ -157,6 +157,31 @@ TEST_F(DeckPanels, PlayIsALampOnTheAirAndGivesTheKeyboardBack) {
     EXPECT_EQ(play.accessibleDescription(), "");
 }
 
+TEST_F(DeckPanels, BareDeckIsGrey) {
+    const auto ink = [this](const Control& control) { return dynamic_cast<StationLabel&>(widget(control)).ink(); };
+    main_view().show_look(1, look_of(DeckRole::loaded, "Été"));
+    const QColor plain = ink(deck().title);
+    EXPECT_EQ(ink(deck().counter), plain);
+    for (const DeckRole role : {DeckRole::empty, DeckRole::ended}) {
+        main_view().show_look(1, look_of(role));
+        EXPECT_EQ(ink(deck().title), studio::caption);
+        EXPECT_EQ(ink(deck().counter), studio::caption);
+    }
+    main_view().show_look(1, look_of(DeckRole::ended, "Été"));
+    EXPECT_EQ(ink(deck().title), plain);
+    DeckLook refused;
+    refused.is_refused = true;
+    main_view().show_look(1, refused);
+    EXPECT_EQ(ink(deck().title), plain);
+}
+
+TEST_F(DeckPanels, EndIsInWholeSecondsAsWhatIsElapsed) {
+    deck().counter.caption = "75.00";
+    settle();
+    show(DeckRole::on_air);
+    EXPECT_EQ(dynamic_cast<StationLabel&>(widget(deck().counter)).text(), "90") << "as the marks of the bar";
+}
+
 TEST_F(DeckPanels, BarIsGreenWhileTheDeckSoundsAndAmberOtherwise) {
     show(DeckRole::on_air);
     EXPECT_TRUE(is_near(bar_at(25), studio::air));
@@ -171,6 +196,14 @@ TEST_F(DeckPanels, MarksStandAtTheMixAndAtTheEnd) {
     EXPECT_TRUE(is_near(bar_at(60), studio::next));
     EXPECT_TRUE(is_near(bar_at(90), studio::trouble));
     EXPECT_TRUE(is_near(bar_at(75), studio::well));
+}
+
+TEST_F(DeckPanels, EndOfASecondThatTheBarLeavesOutStandsAtItsEnd) {
+    DeckLook look = look_of(DeckRole::on_air);
+    look.end_point = 101;
+    main_view().show_look(1, look);
+    const QImage bar = seen_in_window(widget(deck().progress));
+    EXPECT_TRUE(is_near(bar.pixelColor(bar.width() - 2, bar.height() / 2), studio::trouble));
 }
 
 TEST_F(DeckPanels, DeckWithoutAFileHasNoMarks) {

@@ -53,7 +53,7 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
 
 QLayout* SmallPlayerView::reading() {
     lamp_ = new Lamp;
-    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 16}};
+    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 20}};
     state_->setObjectName("player_state");
     title_ = new StationLabel{{.type = Type::deck_title, .bold = true, .characters = 16}};
     title_->setObjectName("player_title");

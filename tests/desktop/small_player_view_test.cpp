@@ -152,6 +152,9 @@ TEST_F(PlayerOnView, SaysThatTheSoundCardIsLost) {
     EXPECT_EQ(label("player_state").text(), "CARTE SON PERDUE");
     EXPECT_EQ(label("player_title").text(), "titre 1");
     EXPECT_TRUE(view().windowTitle().startsWith("CARTE SON PERDUE : titre 1, reste "));
+    view().resize(view().minimumSize());
+    settle();
+    EXPECT_GE(label("player_state").width(), label("player_state").width_of_text());
     desktop.show_output("carte son : Studio", false);
     EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
 }

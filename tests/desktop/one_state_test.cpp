@@ -33,7 +33,7 @@ protected:
         list.rows.select(1);
         list.defined_end_mode.click();
         list.play_list.click();
-        run_for(20);
+        run_for(40); // from when on a zap is taken
     }
     void run_for(int seconds) {
         machine.run_for(Frames{std::int64_t{seconds} * 48000});
@@ -129,6 +129,27 @@ protected:
 
 } // namespace
 
+TEST_F(OneState, OfTheAirIsToldAlikeThroughAProgramme) {
+    expect_one_state("the start");
+    play_list();
+    const std::vector<Gesture> gestures{{"list on the air", [] {}},
+                                        {"pause", [this] { window.key_press(U'p'); }},
+                                        {"resumed", [this] { window.key_press(U'p'); }},
+                                        {"next loaded", [this] { run_for(145); }},
+                                        {"overlap", [this] { run_for(7); }},
+                                        {"next track", [this] { run_for(40); }},
+                                        {"zap", [this] { window.key_press(U'z'); }},
+                                        {"faded out", [this] { run_for(10); }},
+                                        {"sliders hidden", [this] { window.aa_cacher_curseur.click(); }},
+                                        {"journal on", [this] { window.Active_journal1.click(); }},
+                                        {"all stopped", [this] { list.stop_decks.click(); }},
+                                        {"silence", [this] { run_for(4); }}};
+    for (const Gesture& gesture : gestures) {
+        gesture.make();
+        expect_one_state(gesture.name);
+    }
+}
+
 TEST_F(OneState, OfTheAirIsToldAlikeThroughASpecialMix) {
     play_list();
     machine.add_track("C:\\Musique\\jingle.mp3", 60);
@@ -140,6 +161,17 @@ TEST_F(OneState, OfTheAirIsToldAlikeThroughASpecialMix) {
     expect_one_state("still mixed over");
     run_for(60);
     expect_one_state("the list goes on");
+}
+
+TEST_F(OneState, OfTheAirIsToldAlikeWhereADeckPlaysOnBesideOneThatWasStopped) {
+    play_list();
+    window.key_press(U'z');
+    run_for(1);
+    for (DeckControls& deck : window.decks)
+        if (button(deck.play).accent() == Accent::air)
+            deck.stop.click();
+    expect_one_state("the new track stopped");
+    EXPECT_TRUE(text(main_view(), "air_state").startsWith("EN LECTURE"));
 }
 
 TEST_F(OneState, OfTheChainIsMarkedAlikeByEachWayOfTheListWindow) {

@@ -119,7 +119,7 @@ QString SmallPlayerView::alarm() const {
 }
 
 QString SmallPlayerView::title() const {
-    const QString state = alarm().isEmpty() ? look_of(air_.role).word : alarm();
+    QString state = alarm().isEmpty() ? look_of(air_.role).word : alarm();
     if (air_.title.isEmpty())
         return state;
     const QString named = state + " : " + air_.title;

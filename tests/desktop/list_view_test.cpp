@@ -102,6 +102,7 @@ TEST_F(ListWindow, SaysThatTheListWasChangedBesideItsName) {
     EXPECT_TRUE(chip.isVisible());
     EXPECT_EQ(label(list().file_in_use).text(), "Dans fichier liste.dfm");
     EXPECT_EQ(chip.toolTip(), "matin.dfm : modifications non enregistrées");
+    EXPECT_EQ(chip.accessibleDescription(), chip.toolTip());
 }
 
 TEST_F(ListWindow, ListThatRestsTellsNoSecond) {

@@ -7,6 +7,7 @@ set(pictures_script "${CMAKE_SOURCE_DIR}/scripts/pictures")
 # The help opens the operator's guide, which lies beside them with its own pictures.
 set(operators_guide "${CMAKE_SOURCE_DIR}/docs/guide.md")
 file(GLOB guide_pictures CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/docs/images/*.png")
+list(FILTER guide_pictures EXCLUDE REGEX "/ecran_") # whole screens, which it doesn't show
 # One stamp for all: names of pictures hold blanks, and a picture that left the table must leave the folder.
 add_custom_command(OUTPUT "${CMAKE_BINARY_DIR}/pictures.stamp"
     COMMAND ${CMAKE_COMMAND} -E rm -rf "${SONARELLE_PICTURES_DIR}"
@@ -19,6 +20,8 @@ add_custom_command(OUTPUT "${CMAKE_BINARY_DIR}/pictures.stamp"
     COMMENT "Drawing the pictures"
     VERBATIM)
 add_custom_target(pictures ALL DEPENDS "${CMAKE_BINARY_DIR}/pictures.stamp")
+# A desk without them refuses to start.
+add_dependencies(sonarelle pictures)
 install(DIRECTORY "${SONARELLE_PICTURES_DIR}/" DESTINATION share/sonarelle)
 
 # Programs that run from the build tree find the pictures here.

@@ -139,6 +139,16 @@ void DisplayMenu::uncover_main_window() {
         place_list_below(window_.left, window_.width);
 }
 
+// On a screen that can't hold both, what plays is seen first; the list comes by its key.
+void DisplayMenu::show_desk_first() {
+    const auto covers = [](Twips start, Twips length, Twips other_start, Twips other_length) {
+        return start <= other_start && start + length >= other_start + other_length;
+    };
+    if (covers(list_.left, list_.width, window_.left, window_.width) &&
+        covers(list_.top, list_.height, window_.top, window_.height))
+        list_.hide();
+}
+
 // A list that finds too little room below is lower, and below a desk that was moved down it covers its foot. On a
 // screen that can't hold both it takes all, and the operator has one window or the other before him.
 void DisplayMenu::place_list_below(Twips left, Twips width) {

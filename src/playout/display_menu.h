@@ -47,6 +47,8 @@ public:
     /// Both as they come up: as large as they were left, else as the screen lets them be; at a first start docked in
     /// the middle of the screen.
     void open_windows();
+    /// Puts away a list that came up over the whole main window.
+    void show_desk_first();
 
     /// The small player takes the main window's place.
     void a_mini_Click();

@@ -128,6 +128,7 @@ void DeskWiring::connect_windows() {
     window.on_reduce = [this] { display_menu.a_mini_Click(); };
     window.on_move = [this] { display_menu.Aligne_liste_son(); };
     startup.arrange_windows = [this] { display_menu.open_windows(); };
+    startup.show_desk_first = [this] { display_menu.show_desk_first(); };
     station_.list_window.on_activate = [this] { display_menu.uncover_main_window(); };
     station_.settings_load.apply_colours = [this] { paint_windows(); };
 }

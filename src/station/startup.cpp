@@ -147,6 +147,8 @@ void Startup::create_under_trap() {
     parts_.desk.chain.ligne_journal.clear();
     store_program_folder();
     act_on_command_line();
+    if (show_desk_first)
+        show_desk_first();
 }
 
 // The main window's background is always the black one: the picture that the store names shows with its theme alone.

@@ -53,6 +53,8 @@ public:
 
     /// Gives the windows their size and, at a first start, their place.
     std::function<void()> arrange_windows;
+    /// The list that was asked for has come up, perhaps over the main window.
+    std::function<void()> show_desk_first;
     /// Loads the picture of the file manager, by its file's name, where there is one.
     std::function<void(const std::string& file)> show_file_manager_picture;
 

@@ -28,6 +28,17 @@ TEST_F(CommandLine, OfAListLoadsItAndPlays) {
     EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
 }
 
+TEST_F(CommandLine, OfAListShowsTheDeskWhereTheScreenCantHoldBoth) {
+    machine.screen = {.left{}, .top{}, .width = Twips{1024 * 15}, .height = Twips{600 * 15}};
+    put_list("C:\\Listes\\matin.dfm", 3);
+    start("\"C:\\Listes\\matin.dfm\"");
+    EXPECT_TRUE(window.visible);
+    EXPECT_FALSE(station.list_window.visible);
+    EXPECT_EQ(machine.media.on_air(), std::vector<std::string>{"C:\\Musique\\titre 1.mp3"});
+    window.ouvrir_liste.click();
+    EXPECT_TRUE(station.list_window.visible);
+}
+
 TEST_F(CommandLine, OfAListPlaysWhereTheStoreCantBeWritten) {
     put_list("C:\\Listes\\matin.dfm", 1);
     fill_store();

@@ -167,9 +167,13 @@ void WindowView::show_state() {
         change_visibility();
     // One that was on view already doesn't come before a box that waits for its answer.
     const bool is_called = std::exchange(shows_, window_.shows()) != window_.shows();
-    if (window_.visible && state != WindowState::minimised &&
-        (is_new || (is_called && QApplication::activeModalWidget() == nullptr)))
-        raise();
+    const bool comes = is_new || (is_called && QApplication::activeModalWidget() == nullptr);
+    if (!comes || !window_.visible || state == WindowState::minimised)
+        return;
+    raise();
+    // What is typed must not go to a window that is covered; a notice, which has an owner, leaves the keyboard to it.
+    if (!is_new && owner_.isNull())
+        activateWindow();
 }
 
 // The keyboard goes back to the window that it came from.

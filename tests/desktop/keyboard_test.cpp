@@ -222,6 +222,15 @@ TEST_F(KeyboardOfTheDesk, GoesToTheWindowByAPressOnItsGround) {
     EXPECT_TRUE(window_has_keyboard());
 }
 
+TEST_F(KeyboardOfTheDesk, IsTheListsWhereItsKeyBringsItForward) {
+    station.list_window.show();
+    settle();
+    take_keyboard(&main_view());
+    station.main_window.ouvrir_liste.click();
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), &widget_of(station.list_window));
+}
+
 TEST_F(KeyboardOfTheDesk, TypesIntoTheOverlapAlone) {
     std::u32string seen;
     window.on_key_press = [&](char32_t c) { seen += c; };

@@ -1,6 +1,7 @@
 // Which entries hang under which menu of the main window.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <set>
 
 #include "support/station_fixture.h"
@@ -47,6 +48,17 @@ std::vector<std::string> names_of(const std::vector<MenuItem*>& items) {
 TEST_F(MainMenusTest, TheBarHasSevenMenus) {
     EXPECT_THAT(names_of(window.menu_bar),
                 ElementsAre("Fichier", "lire_play", "liste", "affiche", "Option_", "aide", "A_Propos"));
+}
+
+TEST_F(MainMenusTest, WhatDestroysStandsLastBehindALine) {
+    const auto destroys = [](const MenuItem* entry) { return entry->destroys; };
+    for (const MenuItem* menu : {&window.Option_, &window.A_journal}) {
+        const auto& entries = menu->entries();
+        const auto first = std::ranges::find_if(entries, destroys);
+        ASSERT_NE(first, entries.end()) << menu->name();
+        EXPECT_TRUE((*first)->begins_group()) << menu->name();
+        EXPECT_TRUE(std::all_of(first, entries.end(), destroys)) << menu->name();
+    }
 }
 
 TEST_F(MainMenusTest, EveryEntryHangsInOnePlace) {

@@ -12,11 +12,11 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "desktop/box_place.h"
 #include "desktop/colours.h"
 #include "desktop/fitted_text.h"
 #include "desktop/mnemonics.h"
 #include "desktop/qt_text.h"
-#include "desktop/remaining_time.h"
 #include "desktop/text_size.h"
 #include "desktop/window_view.h"
 
@@ -28,7 +28,7 @@ namespace {
 constexpr int box_width = 512;
 constexpr int strip_height = 32; // of the title
 constexpr int side = 24;
-constexpr int gap = 16; // beside the sign, and below a window's header
+constexpr int gap = 16; // beside the sign
 constexpr int mark_size = 40;
 constexpr int sign_size = 22;
 
@@ -179,37 +179,9 @@ void BoxView::fit_to_screen() {
     adjustSize();
 }
 
-QPoint BoxView::place() const {
-    const QRect screen = room();
-    const bool is_open = !over_.isNull() && over_->isVisible() && !over_->isMinimized();
-    const QRect window = is_open ? QRect{over_->mapToGlobal(QPoint{}), over_->size()} : QRect{};
-    const bool has_window = window.intersects(screen);
-    const QRect below = has_window ? window : screen;
-    const QPoint wished{below.center().x() - width() / 2, below.top() + below.height() / 3 - height() / 2};
-    const auto within = [](int start, int length, int room_start, int room_length) {
-        return std::max(room_start, std::min(start, room_start + room_length - length));
-    };
-    const int left = within(wished.x(), width(), screen.left(), screen.width());
-    const int top = has_window ? below_headers(wished, *over_) : wished.y();
-    return {left, within(top, height(), screen.top(), screen.height())};
-}
-
-// Below that of its window, and clear of all others.
-int BoxView::below_headers(QPoint wished, const QWidget& over) const {
-    const auto below = [](const QRect& header) { return header.bottom() + 1 + gap; };
-    const QRect own = header_of(over);
-    QRect box{wished, size()};
-    if (!own.isNull())
-        box.moveTop(below(own));
-    for (const QWidget* window : QApplication::topLevelWidgets())
-        if (const QRect header = window->isVisible() ? header_of(*window) : QRect{}; header.intersects(box))
-            box.moveTop(below(header));
-    return box.top();
-}
-
 void BoxView::showEvent(QShowEvent* event) {
     fit_to_screen();
-    move(place());
+    move(place_of_box(size(), over_));
     if (focusWidget() == nullptr && default_ != nullptr)
         default_->setFocus();
     QDialog::showEvent(event);

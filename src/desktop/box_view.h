@@ -52,8 +52,6 @@ private:
     void add_words();
     void fit_to_screen();
     [[nodiscard]] QRect room() const;
-    [[nodiscard]] QPoint place() const;
-    [[nodiscard]] int below_headers(QPoint wished, const QWidget& over) const;
     void press_button();
     void ask_for_help() const;
 

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "desktop/box_place.h"
 #include "desktop/message_box.h"
 #include "desktop/qt_text.h"
 #include "platform/failure.h"
@@ -24,6 +25,11 @@ void DesktopFileDialog::begin_at(const std::string& folder, const std::string& f
     const bool is_pattern = name.find_first_of("*?") != std::string::npos;
     if (!name.empty() && !(is_pattern && acceptMode() == AcceptOpen))
         selectFile(to_qt(name));
+}
+
+void DesktopFileDialog::showEvent(QShowEvent* event) {
+    QFileDialog::showEvent(event);
+    move(place_of_box(size(), parentWidget()));
 }
 
 void DesktopFileDialog::accept() {

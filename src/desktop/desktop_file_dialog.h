@@ -21,6 +21,9 @@ public:
 
     void accept() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     const PathForms& paths_;
     std::string chosen_;

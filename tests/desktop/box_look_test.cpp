@@ -6,10 +6,12 @@
 #include <QTimer>
 
 #include "desktop/desktop_dialogs.h"
+#include "desktop/desktop_file_dialog.h"
 #include "desktop/fitted_text.h"
 #include "desktop/input_box.h"
 #include "desktop/message_box.h"
 #include "desktop/pixels.h"
+#include "desktop/remaining_time.h"
 #include "desktop/station_views.h"
 #include "desktop/text_size.h"
 
@@ -74,6 +76,16 @@ protected:
 };
 
 } // namespace
+
+TEST_P(BoxOverTheDesk, FileDialogLeavesTheHeaderFree) {
+    const auto same = [](const std::string& path) { return path; };
+    const PathForms paths{same, same};
+    DesktopFileDialog dialog{paths, &main_view()};
+    dialog.show();
+    settle();
+    EXPECT_FALSE(area(dialog).intersects(header_of(main_view())));
+    EXPECT_TRUE(dialog.screen()->availableGeometry().contains(area(dialog)));
+}
 
 TEST_P(BoxOverTheDesk, ComesUpBelowTheHeaderInTheMiddle) {
     MessageBoxView view{leaving(), &main_view()};

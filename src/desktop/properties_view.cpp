@@ -113,6 +113,7 @@ Panel* PropertiesView::record_panel() {
     row->addWidget(dresser_.label(window_.genre_label, {.type = Type::base, .quiet = true, .characters = 6}));
     auto* genre = dresser_.text_box(window_.genre);
     genre->setAccessibleName(plain_caption(window_.genre_label.caption));
+    genre->setTextMargins(4, 0, 4, 0);
     row->addWidget(genre, 1);
     add_field(*row, window_.volume_label, window_.volume, "%", 7);
     add_field(*row, window_.length_label, window_.length, {}, 10);

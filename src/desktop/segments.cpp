@@ -26,7 +26,6 @@ Segment::Segment(StudioButton& lamp, QRadioButton& words)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     lamp_.setFixedSize(0, lamp_height);
     auto* row = new QHBoxLayout{this};
-    row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(0);
     row->addStretch(1);
     row->addWidget(&lamp_);
@@ -36,10 +35,13 @@ Segment::Segment(StudioButton& lamp, QRadioButton& words)
 }
 
 void Segment::set_step(Step step) {
-    QFont font = studio_font(step == Step::narrow ? Type::small : Type::base, step);
+    const bool is_narrow = step == Step::narrow;
+    QFont font = studio_font(is_narrow ? Type::small : Type::base, step);
     font.setWeight(QFont::DemiBold);
     words_.setFont(font);
-    lamp_width_ = step == Step::narrow ? 12 : lamp_height;
+    lamp_width_ = is_narrow ? 12 : lamp_height;
+    const int side = is_narrow ? 2 : 8;
+    layout()->setContentsMargins(side, 0, side, 0);
     show_choice();
 }
 

@@ -128,14 +128,15 @@ std::string name_on_air(Desk& desk) {
     return deck == nullptr ? std::string{} : name_without_ending(deck->path);
 }
 
-// A deck that sounds beside the main one plays its file out.
+// A deck that sounds beside the main one plays its file out, and so does one that goes on behind a stop.
 int seconds_left(Desk& desk) {
     const Deck* deck = deck_on_air(desk);
     int left = 0;
     ErrorIndicator{}.skip([&] {
-        if (deck != nullptr)
-            left = ((is_on(main_role(desk)) ? deck->end_point() : deck->whole_duration()) - deck->whole_position())
-                       .value();
+        if (deck == nullptr)
+            return;
+        const bool has_end = is_on(main_role(desk)) && deck->end_point().value() > 0;
+        left = ((has_end ? deck->end_point() : deck->whole_duration()) - deck->whole_position()).value();
     });
     return std::max(0, left);
 }

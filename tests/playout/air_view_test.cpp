@@ -197,6 +197,17 @@ TEST_F(AirView, CountsToTheEndOfPlayOfTheRow) {
     EXPECT_EQ(seconds_left(station.desk), 130);
 }
 
+TEST_F(AirView, CountsToTheEndOfTheFileThatGoesOnBehindAStop) {
+    open_tracks({200, 200, 200});
+    start_list();
+    machine.run_for(seconds(20));
+    controls(1).stop.click();
+    controls(1).pause.click();
+    machine.run_for(seconds(5));
+    ASSERT_EQ(main_role(station.desk), DeckRole::on_air);
+    EXPECT_EQ(seconds_left(station.desk), 195);
+}
+
 TEST_F(AirView, KeepsNameAndTimeInAPause) {
     open_tracks({200, 200});
     start_list();

@@ -98,6 +98,7 @@ GuideReader::GuideReader(GuidePage* text)
     text_->setOpenLinks(false);
     contents_->setAccessibleName("Sommaire");
     contents_->setFixedWidth(scaled(contents_width));
+    contents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // a long heading is cut
     setMinimumWidth(scaled(contents_width) + picture_width + around_pictures);
     page().addWidget(contents_);
     page().addWidget(text_, 1);

@@ -1,6 +1,7 @@
 // The operator's guide in a window of the desk, by the keyboard.
 #include "desktop/reader_guide.h"
 
+#include <QScrollBar>
 #include <set>
 
 #include "desktop/input_box.h"
@@ -53,6 +54,14 @@ TEST_F(Guide, ComesAtThePageOfTheWindowThatAsked) {
             EXPECT_EQ(page_on_view(), guide_heading(asker->name()));
             EXPECT_TRUE(page().toPlainText().contains("\n" + page_on_view() + "\n"));
         }
+}
+
+TEST_F(Guide, ContentsGoUpAndDownAlone) {
+    press(Qt::Key_F1);
+    reader("guide")->resize(reader("guide")->minimumSize());
+    settle();
+    EXPECT_TRUE(contents().verticalScrollBar()->isVisible());
+    EXPECT_FALSE(contents().horizontalScrollBar()->isVisible());
 }
 
 TEST_F(Guide, ComesAtItsBeginningForAWindowThatItDoesntTellOf) {

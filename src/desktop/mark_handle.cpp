@@ -40,6 +40,8 @@ void MarkHandle::set_place(std::optional<double> second) {
     second_ = second;
     stand();
     tell_moved(*this, place());
+    if (held_by_)
+        QToolTip::showText(QCursor::pos(), place_text(place()), this);
 }
 
 double MarkHandle::mark_x() const {
@@ -107,7 +109,6 @@ void MarkHandle::mouseMoveEvent(QMouseEvent* event) {
         return;
     const double x = mapTo(&strip_, event->position()).x() - *held_by_;
     move_to(x / strip_.width() * whole());
-    QToolTip::showText(event->globalPosition().toPoint(), place_text(place()), this);
 }
 
 void MarkHandle::mouseReleaseEvent(QMouseEvent* event) {

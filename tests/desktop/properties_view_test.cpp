@@ -59,12 +59,14 @@ protected:
         QMouseEvent move{QEvent::MouseMove, inside, handle.mapToGlobal(inside), Qt::NoButton, Qt::LeftButton, {}};
         QCoreApplication::sendEvent(&handle, &move);
         settle();
+        bubble = QToolTip::text();
         QTest::mouseRelease(&handle, Qt::LeftButton, {}, handle.mapFrom(&strip(), place));
     }
 
     std::shared_ptr<Waveform> sound = std::make_shared<Waveform>();
     std::shared_ptr<const Waveform> known;
     std::string asked;
+    QString bubble; ///< Of the last drag, before the hand let go.
     double moved_start = -1;
     double moved_end = -1;
     Propriete& window = station.properties_window;
@@ -130,6 +132,13 @@ TEST_F(PropertiesOnView, MarkIsDragged) {
     EXPECT_EQ(moved_end, -1);
     drag(end(), -40);
     EXPECT_NEAR(moved_end, 150 - 40 * whole / strip().width(), 0.2);
+}
+
+TEST_F(PropertiesOnView, BubbleTellsWhereTheDraggedMarkStands) {
+    drag(start(), 30);
+    EXPECT_EQ(bubble, place_text(moved_start));
+    drag(end(), -40);
+    EXPECT_EQ(bubble, place_text(moved_end));
 }
 
 TEST_F(PropertiesOnView, MarkIsNotDraggedBeyondTheFile) {

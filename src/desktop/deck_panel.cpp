@@ -183,6 +183,7 @@ void DeckPanel::build_volume(Dresser& dresser, Label& slider_stand_in) {
 QLayout* DeckPanel::heading() {
     auto* row = row_of({lamp_, name_, state_, kind_}, studio::grid);
     row->setStretchFactor(kind_, 1);
+    row->addStretch(); // for the kind, where that gives way
     return row;
 }
 

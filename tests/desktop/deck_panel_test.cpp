@@ -270,6 +270,21 @@ TEST_F(DeckPanels, TroubleIsRedAndHasAWord) {
     EXPECT_TRUE(says("NON TROUVÉ"));
 }
 
+TEST_F(DeckPanels, StateStandsRightBehindTheNumber) {
+    main_view().show_look(1, look_of(DeckRole::on_air, "La rue"));
+    for (const QSize size : {QSize{1024, 576}, QSize{1280, 479}, QSize{1920, 672}}) {
+        main_view().resize(size);
+        settle();
+        const auto labels = parts_of<StationLabel>(panel());
+        const auto place = [&](const QString& word) {
+            return std::ranges::find_if(labels, [&](const StationLabel* label) { return label->text() == word; });
+        };
+        ASSERT_NE(place("LECTEUR 1"), labels.end());
+        ASSERT_NE(place("À L'ANTENNE"), labels.end());
+        EXPECT_LT((*place("À L'ANTENNE"))->x() - (*place("LECTEUR 1"))->x(), 120) << size.width();
+    }
+}
+
 TEST_F(DeckPanels, DetailsAreLengthMixPointAndThatItWaits) {
     DeckLook look = look_of(DeckRole::on_air, "La rue");
     look.mix_point = 94.0;

@@ -53,9 +53,9 @@ SmallPlayerView::SmallPlayerView(mini_lecteur& window, const DesktopServices& se
 
 QLayout* SmallPlayerView::reading() {
     lamp_ = new Lamp;
-    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .characters = 20}};
+    state_ = new StationLabel{{.type = Type::small, .bold = true, .capitals = true, .fitted = true}};
     state_->setObjectName("player_state");
-    title_ = new StationLabel{{.type = Type::deck_title, .bold = true, .characters = 16}};
+    title_ = new StationLabel{{.type = Type::deck_title, .bold = true, .name = true, .characters = 16}};
     title_->setObjectName("player_title");
     seconds_ = dresser_.label(window_.remaining, {.type = Type::air_title,
                                                   .bold = true,

@@ -17,9 +17,9 @@ protected:
         take_keyboard(&view());
     }
 
-    void play() {
+    void play(const std::string& name = "titre ") {
         for (const int deck : {1, 2}) {
-            const std::string path = "C:\\Musique\\titre " + std::to_string(deck) + ".mp3";
+            const std::string path = "C:\\Musique\\" + name + std::to_string(deck) + ".mp3";
             machine.add_track(path, 100);
             machine.dialogs.expect_open(path);
             window.deck(deck).open.click();
@@ -62,6 +62,14 @@ TEST_F(PlayerOnView, SaysThatItIsOnTheAirAndWhatPlays) {
     play();
     EXPECT_EQ(label("player_state").text(), "À L'ANTENNE");
     EXPECT_EQ(label("player_title").text(), "titre 1");
+}
+
+TEST_F(PlayerOnView, TitleHasTheRoomThatTheStateLeaves) {
+    play("La rue des tille");
+    view().resize(view().minimumSize());
+    settle();
+    EXPECT_EQ(label("player_title").text(), "La rue des tille1");
+    EXPECT_FALSE(label("player_title").is_cut());
 }
 
 TEST_F(PlayerOnView, SaysThatTheDeckIsPaused) {

@@ -4,7 +4,6 @@
 #include "platform/disk.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
-#include "platform/random.h"
 #include "playlist/file_existence.h"
 
 namespace sonarelle {
@@ -29,18 +28,18 @@ void RowCursor::take_current_row() {
 }
 
 bool RowCursor::take_drawn_row() {
-    const int row = random_order_.draw(desk_.list.index_en_cours.value(), desk_.row_count());
-    if (row == 0)
+    const int rows = desk_.row_count();
+    played_.bar(desk_.list.index_en_cours.value(), rows);
+    const std::optional<int> row = played_.draw({1, rows});
+    if (!row)
         return false;
-    desk_.list.index_en_cours = row;
+    desk_.list.index_en_cours = *row;
     take_current_row();
     return true;
 }
 
 void RowCursor::draw_any_row() {
-    desk_.platform.random.Randomize();
-    const double rows = desk_.row_count();
-    desk_.list.index_en_cours = to_integer(Fix(static_cast<double>(desk_.platform.random.Rnd()) * rows + 1));
+    desk_.list.index_en_cours = draw_any(desk_.platform.random, {1, desk_.row_count()});
     take_current_row();
 }
 

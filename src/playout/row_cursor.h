@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "playlist/draw_table.h"
 #include "playlist/list_document.h"
 #include "playlist/record_reading.h"
 #include "playout/deck_loading.h"
 #include "playout/desk.h"
 #include "playout/journal.h"
-#include "playout/random_order.h"
 
 namespace sonarelle {
 
@@ -34,7 +34,7 @@ public:
           document_{document},
           reading_{reading},
           loading_{loading},
-          random_order_{desk.platform.random} {}
+          played_{desk.platform.random} {}
 
     /// Steps to the next row, round the end, and takes its path.
     void take_next_row();
@@ -103,7 +103,7 @@ private:
     ListDocument& document_;
     RecordReading& reading_;
     DeckLoading& loading_;
-    RandomOrder random_order_;
+    DrawTable played_;                  // the rows that random order has played
     std::set<std::string> passed_over_; // since the last start
 };
 

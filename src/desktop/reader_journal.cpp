@@ -34,6 +34,11 @@ JournalReader::JournalReader(Disk& disk, const std::string& path, QPlainTextEdit
     second_.setInterval(1000);
 }
 
+// A window that goes takes the keyboard from its text, which is painted anew for that.
+JournalReader::~JournalReader() {
+    text_->disconnect(this);
+}
+
 void JournalReader::showEvent(QShowEvent* event) {
     ReaderWindow::showEvent(event);
     follow();

@@ -15,6 +15,9 @@ class JournalReader : public ReaderWindow {
 public:
     /// `path` is absolute; the disk outlives the reader.
     JournalReader(Disk& disk, const std::string& path);
+    ~JournalReader() override;
+    JournalReader(const JournalReader&) = delete;
+    JournalReader& operator=(const JournalReader&) = delete;
 
     /// Looks at the file once more than each second.
     void follow();

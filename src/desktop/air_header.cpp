@@ -173,10 +173,10 @@ void AirHeader::show_words() {
     const bool tells_more = !alarms() && !look_.then.isEmpty();
     next_->set_text(tells_more ? following + ", puis " + look_.then : following);
     next_->set_narrow_text(tells_more ? following : QString{});
-    station_->set_text(!look_.notice.isEmpty() ? look_.notice
-                       : is_silent()           ? "noté au journal"
-                       : lost                  ? "reprise dès le retour de la carte"
-                                               : look_.station);
+    station_->set_text(!look_.notice.isEmpty()         ? look_.notice
+                       : is_silent() && look_.is_noted ? "noté au journal"
+                       : lost && !is_silent()          ? "reprise dès le retour de la carte"
+                                                       : look_.station);
 }
 
 // Three equal columns, as of the decks below; the words of a silence take more of the middle.

@@ -30,6 +30,7 @@ struct AirLook {
     bool of_list = false;   ///< It is the list that is silent.
     bool can_start = false; ///< The list can be started.
     QString lost_for{};     ///< How long no sound card has played, mm:ss; empty while one does.
+    bool is_noted = false;  ///< The station writes a journal, and so the silence into it.
     QString station{};      ///< The station's name, and whether it writes a journal.
 
     friend bool operator==(const AirLook&, const AirLook&) = default;

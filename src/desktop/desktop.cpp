@@ -250,6 +250,7 @@ AirLook Desktop::look_of_air() {
             .of_list = desk_.chain.mode_enchainement.is_true(),
             .can_start = desk_.list_window.play_list.enabled && desk_.row_count() > 0,
             .lost_for = lost_.isValid() ? clock_text(static_cast<int>(lost_.elapsed() / 1000)).mid(3) : "",
+            .is_noted = desk_.chain.journal_actif.is_true(),
             .station = station_line()};
 }
 

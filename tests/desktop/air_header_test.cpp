@@ -99,6 +99,16 @@ TEST_F(AirHeaderTest, TellsWhatComesThenWhereThereIsRoom) {
     EXPECT_EQ(label("air_next").shown_text(), "Ensuite : Jingle horaire (00:00:03)");
 }
 
+TEST_F(AirHeaderTest, SilenceIsNotedInAJournalThatIsWritten) {
+    play();
+    look.is_noted = true;
+    be_silent_for("00:12");
+    EXPECT_EQ(label("air_station").text(), "noté au journal");
+    look.is_noted = false;
+    show(look);
+    EXPECT_EQ(label("air_station").text(), "Sonarelle  ·  journal désactivé");
+}
+
 TEST_F(AirHeaderTest, TellsNothingThatComesThenInAnAlarm) {
     AirLook shown;
     shown.next = "Ensuite : x";

@@ -12,7 +12,9 @@ public:
     /// nothing.
     explicit Random(std::uint64_t seed, std::function<std::uint64_t()> entropy = {});
 
-    [[nodiscard]] float Rnd();
+    virtual ~Random() = default;
+
+    [[nodiscard]] virtual float Rnd();
 
     /// Mixes the clock into the state; never rewinds it.
     void Randomize();

@@ -1,6 +1,7 @@
 #include "playlist/default_list.h"
 
 #include <utility>
+#include <vector>
 
 #include "platform/application.h"
 #include "platform/disk.h"
@@ -27,6 +28,27 @@ void DefaultList::saw(std::string_view path, const FileFacts& facts) {
     claim();
     if (is_own(path))
         seen_ = facts;
+}
+
+void DefaultList::changed(std::string_view path, const Rewritten& rewritten) {
+    if (is_own(path) && seen_ == rewritten.before)
+        seen_ = rewritten.after;
+}
+
+// Where it can't be kept the save goes on: the rows on the air are worth more.
+void DefaultList::keep_previous() {
+    if (std::exchange(kept_, true) || !state_of(path()))
+        return;
+    ErrorIndicator{}.skip([this] {
+        const auto before = platform_.disk.open(path());
+        std::vector<std::byte> bytes(static_cast<std::size_t>(before->length()));
+        bytes.resize(before->read(0, bytes));
+        if (bytes.empty())
+            return;
+        const auto kept = platform_.disk.replace(join_path(platform_.program_folder, previous_list));
+        kept->write(bytes);
+        kept->commit();
+    });
 }
 
 void DefaultList::save(const Write& write) {

@@ -29,11 +29,20 @@ public:
     /// claimed keeps no list from the air.
     void claim();
 
+    /// Whether this path names it.
+    [[nodiscard]] bool is_own(std::string_view path) const;
+
     /// Whether this is `liste.dfm` and another program works on it.
     [[nodiscard]] bool is_anothers(std::string_view path) const;
 
     /// The rows were read from this file.
     void saw(std::string_view path, const FileFacts& facts);
+
+    /// This station has changed a record of this file; what it had seen of it before holds.
+    void changed(std::string_view path, const Rewritten& rewritten);
+
+    /// Keeps the list as it is under another name, once: the rows of another list are about to take its place.
+    void keep_previous();
 
     /// Writes the whole list, never over rows that this station hasn't seen.
     void save(const Write& write);
@@ -50,13 +59,13 @@ public:
 
 private:
     [[nodiscard]] std::string path() const { return join_path(platform_.program_folder, name_); }
-    [[nodiscard]] bool is_own(std::string_view path) const;
     [[nodiscard]] bool saved(const Write& write);
     void take_free_name();
 
     const Platform& platform_;
     std::string name_{default_list};
     std::unique_ptr<FileClaim> claim_;
+    bool kept_ = false;
     bool claimed_ = false; // or as good as: nothing can be claimed there
     std::optional<FileFacts> seen_;
     std::string notice_;

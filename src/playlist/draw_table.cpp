@@ -7,6 +7,7 @@ namespace sonarelle {
 namespace {
 
 constexpr int hits_for_each = 100;
+constexpr std::size_t most_hits_kept = 1000;
 
 // In single precision the greatest number would round up to one behind the last.
 int any_of(NumberRange range, Random& random) {
@@ -20,10 +21,12 @@ int draw_any(Random& random, NumberRange range) {
     return any_of(range, random);
 }
 
-void DrawTable::bar(int number, int count) {
-    if (static_cast<int>(entries_.size()) + 1 >= count)
+bool DrawTable::bar(int number, int count) {
+    const bool renewed = static_cast<int>(entries_.size()) + 1 >= count;
+    if (renewed)
         clear();
     add(number);
+    return renewed;
 }
 
 void DrawTable::add(int number) {
@@ -50,23 +53,29 @@ void DrawTable::begin_anew() {
     add(last);
 }
 
-std::optional<int> DrawTable::draw(NumberRange range) {
-    std::optional<int> number = try_to_draw(range);
-    if (!number && !entries_.empty()) {
+Draw DrawTable::draw(NumberRange range) {
+    Draw draw;
+    try_to_draw(range, draw);
+    if (!draw.number && !entries_.empty()) {
         begin_anew();
-        number = try_to_draw(range);
+        try_to_draw(range, draw);
     }
-    return number;
+    return draw;
 }
 
-std::optional<int> DrawTable::try_to_draw(NumberRange range) {
+void DrawTable::try_to_draw(NumberRange range, Draw& draw) {
     random_.Randomize();
     for (int attempt = 0; attempt < hits_for_each * range.count; ++attempt) {
         const int number = any_of(range, random_);
-        if (!holds(number))
-            return number;
+        if (!holds(number)) {
+            draw.number = number;
+            return;
+        }
+        if (draw.hits.size() == most_hits_kept)
+            draw.hits.pop_front();
+        draw.hits.push_back(number);
+        ++draw.hit_count;
     }
-    return std::nullopt;
 }
 
 } // namespace sonarelle

@@ -64,6 +64,7 @@ constexpr std::array rows{
     ListActionRow{.action = a_mettre_a_jour_liste, .needs_saving = true, .needs_dfm = true},
     ListActionRow{.action = a_modif, .needs_dfm = true},
     ListActionRow{.action = a_modifie_morceau, .needs_saving = true},
+    ListActionRow{.action = load_on_liste, .needs_saving = true},
 };
 
 } // namespace

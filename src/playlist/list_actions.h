@@ -4,7 +4,7 @@
 
 namespace sonarelle {
 
-/// The actions of the list's context menu that go over one row or over all of them.
+/// The actions of the list's menus that go over one row or over all of them.
 enum class ListAction {
     prechar,
     prechar_fich,
@@ -15,7 +15,8 @@ enum class ListAction {
     a_mettre_a_jour,
     a_mettre_a_jour_liste,
     a_modif,
-    a_modifie_morceau
+    a_modifie_morceau,
+    load_on_liste
 };
 
 /// What an action asks of the list and of the operator before it begins.

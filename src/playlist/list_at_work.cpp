@@ -58,12 +58,6 @@ int ListAtWork::place_of(const RowTable::Row& wanted, int old_place) const {
     return old_place;
 }
 
-void ListAtWork::remove(int row) {
-    window_.rows.remove(row);
-    if (state_.ligne_en_lecture.value() > row)
-        state_.ligne_en_lecture -= 1;
-}
-
 void ListAtWork::save_what_is_left() {
     if (window_.rows.count() > 0)
         save();
@@ -75,7 +69,7 @@ void ListAtWork::write_record(int row, const enreg_liste& record) {
     ListReader{platform_.disk, list}.read(row, before);
     if (before.trimmed_chemin() != record.trimmed_chemin())
         throw Failure{FailureNumber::wrong_record_number, record.trimmed_chemin()};
-    replace_record(platform_.disk, list, row, record);
+    document_.change_record(row, record);
 }
 
 // As after every change of a row, the default list then holds the whole table.

@@ -46,8 +46,7 @@ public:
     /// Where a row went: in front of its old place, behind it, or away, which leaves the place to the next one.
     [[nodiscard]] int place_of(const RowTable::Row& wanted, int old_place) const;
 
-    /// Takes a row out; the one that plays keeps its mark.
-    void remove(int row);
+    void remove(int row) { document_.edits.remove(row); }
     void save() { document_.sauve_tout(); }
     /// Saves after a walk, on which the operator may have emptied the list.
     void save_what_is_left();

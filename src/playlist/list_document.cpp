@@ -41,8 +41,10 @@ bool is_refusal_of_the_disk(FailureNumber number) {
 
 } // namespace
 
-ListDocument::ListDocument(const Platform& platform, StationSettings& settings, ListState& list, Liste_son& window)
-    : platform_{platform},
+ListDocument::ListDocument(const Platform& platform, StationSettings& settings, ListState& list, ChainState& chain,
+                           Liste_son& window)
+    : edits{list, chain, window.rows},
+      platform_{platform},
       settings_{settings},
       list_{list},
       window_{window} {}
@@ -60,6 +62,11 @@ void ListDocument::charge_liste() {
         offer_deletion();
         select_current_row();
     });
+}
+
+void ListDocument::change_record(int number, const enreg_liste& record) {
+    const std::string path = list_path(platform_, list_.fichier_liste);
+    default_.changed(path, replace_record(platform_.disk, path, number, record));
 }
 
 void ListDocument::show_changed_record(int number) {
@@ -181,22 +188,46 @@ void ListDocument::sauve_tout() {
     assert(on_window_thread());
     ErrorIndicator errors;
     errors.skip([this] { enter_program_folder(platform_); });
+    const int selected = window_.rows.selected();
     if (window_.rows.count() > 0)
         window_.rows.select(1);
+    const bool saved = save_default_list();
+    if (list_.ligne_en_lecture == 0)
+        list_.ligne_en_lecture = 1;
+    errors.skip([&] {
+        if (selected > 0)
+            window_.rows.select(selected);
+        select_current_row();
+    });
+    a_mettre_Enabled();
+    if (saved)
+        take_default_list();
+    tell_notice();
+}
+
+// A list that couldn't be written isn't the one of these rows.
+bool ListDocument::save_default_list() {
     try {
+        if (!default_.is_own(list_.fichier_liste))
+            default_.keep_previous();
         default_.save([this](ListWriter& writer) { write_rows(writer); });
     } catch (const Failure& failure) {
         report(failure);
+        return false;
     }
+    return true;
+}
+
+void ListDocument::take_default_list() {
     list_.nom_fichier = list_.fichier_liste = default_.name();
     window_.file_name.set_text(default_.name());
-    if (list_.ligne_en_lecture == 0)
-        list_.ligne_en_lecture = 1;
-    errors.skip([this] { select_current_row(); });
-    a_mettre_Enabled();
     window_.caption = "Fichier liste ( Modification : " + list_.fichier_liste + " )";
     show_file_in_use();
-    tell_notice();
+}
+
+void ListDocument::save_by_itself() {
+    if (!window_.a_Ne_pas_Sauve.checked)
+        sauve_tout();
 }
 
 // The record is reused from row to row and not cleared: a cell that can't be converted repeats the value of the row

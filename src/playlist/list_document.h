@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "playlist/default_list.h"
 #include "playlist/liste_son.h"
+#include "playlist/row_edits.h"
 #include "state/list_state.h"
 #include "state/station_settings.h"
 
@@ -18,10 +19,15 @@ struct Failure;
 /// Window thread.
 class ListDocument {
 public:
-    ListDocument(const Platform& platform, StationSettings& settings, ListState& list, Liste_son& window);
+    ListDocument(const Platform& platform, StationSettings& settings, ListState& list, ChainState& chain,
+                 Liste_son& window);
+
+    RowEdits edits; ///< How rows come and go.
 
     /// Replaces all rows by the content of `fichier_liste` and selects row `index_en_cours`.
     void charge_liste();
+    /// Puts a record in the place of another in the file. @see replace_record
+    void change_record(int number, const enreg_liste& record);
     /// Shows a record that was changed in the file. The whole list is read anew where the file holds the rows that are
     /// shown; where they have gone another way, as after a save that wasn't wanted, only this row changes.
     void show_changed_record(int number);
@@ -35,6 +41,9 @@ public:
     /// own where that one is another program's. Empty cells get their
     /// defaults. A cell that can't be converted gives its record the value of the record before.
     void sauve_tout();
+    /// The same of a row that came or went by itself: where the operator doesn't want his modifications saved, the
+    /// table alone has it.
+    void save_by_itself();
 
     void A_sauve();
     void a_Ne_pas_Sauve();
@@ -66,6 +75,8 @@ private:
     void append_chosen_list(const std::string& name);
     void fill_empty_cells(int row);
     void write_rows(ListWriter& writer);
+    [[nodiscard]] bool save_default_list();
+    void take_default_list();
     void tell_notice();
     void select_current_row();
     void report(const Failure& failure);

@@ -34,8 +34,9 @@ void check_track(RecordFile& list, std::int64_t number, const enreg_liste& recor
                       "Un autre programme a modifié cette liste"};
 }
 
-/// False when another program has written the list meanwhile.
-bool try_to_replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
+/// Nothing when another program has written the list meanwhile.
+std::optional<Rewritten> try_to_replace_record(Disk& disk, std::string_view path, std::int64_t number,
+                                               const enreg_liste& record) {
     const auto old = disk.open(path);
     constexpr auto size = static_cast<std::int64_t>(enreg_liste::size);
     const std::int64_t begin = (number - 1) * size;
@@ -46,17 +47,19 @@ bool try_to_replace_record(Disk& disk, std::string_view path, std::int64_t numbe
     copy_bytes(*old, *changed, 0, begin);
     changed->write(record.bytes());
     copy_bytes(*old, *changed, begin + size, old->length());
-    return changed->commit_over(old->facts()).has_value();
+    const auto after = changed->commit_over(old->facts());
+    return after ? std::optional{Rewritten{old->facts(), *after}} : std::nullopt;
 }
 
 } // namespace
 
-void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
+Rewritten replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record) {
     if (extension_of(path) == "rfm")
         throw Failure{FailureNumber::wrong_file_name, std::string{path},
                       "Sauvegarder dans format .dfm avant traitement !"};
-    while (!try_to_replace_record(disk, path, number, record)) {
-    }
+    for (;;)
+        if (const auto rewritten = try_to_replace_record(disk, path, number, record))
+            return *rewritten;
 }
 
 } // namespace sonarelle

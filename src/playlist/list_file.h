@@ -64,10 +64,16 @@ private:
     std::unique_ptr<FileReplacement> file_;
 };
 
+/// A file before and after a change of one record.
+struct Rewritten {
+    FileFacts before;
+    FileFacts after;
+};
+
 /// Puts one record in the place of another, and leaves the rest of the file as it is. A number one behind the last
 /// record adds it. What other programs change meanwhile stays.
 /// @throws Failure 63 for any other number, and where another track stands there; 52 for an old list, which is never
 /// written.
-void replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record);
+Rewritten replace_record(Disk& disk, std::string_view path, std::int64_t number, const enreg_liste& record);
 
 } // namespace sonarelle

@@ -27,6 +27,8 @@ inline constexpr std::string_view default_start = "0.10";
 /// What a list of a name of its own has where no duration was measured.
 inline constexpr std::string_view unknown_duration = "X";
 inline constexpr std::string_view default_list = "liste.dfm";
+/// What the default list was before the rows of another list took its place.
+inline constexpr std::string_view previous_list = "liste précédente.dfm";
 
 /// A record as the list window shows it. An old record has no start of play: it gets "0.10", as every new row does.
 [[nodiscard]] RowTable::Row row_of(const enreg_liste& record, DecimalMark mark);

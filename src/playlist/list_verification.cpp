@@ -14,10 +14,9 @@ constexpr std::string_view not_found = " Non trouvé ";
 
 } // namespace
 
-ListVerification::ListVerification(const Platform& platform, ListState& state, const ChainState& chain,
-                                   ListAtWork& list, std::function<void(const std::string&)> note)
+ListVerification::ListVerification(const Platform& platform, const ChainState& chain, ListAtWork& list,
+                                   std::function<void(const std::string&)> note)
     : platform_{platform},
-      state_{state},
       chain_{chain},
       list_{list},
       note_{std::move(note)} {}
@@ -86,8 +85,6 @@ void ListVerification::drop_row(int row, const TestedRow& tested) {
     note_(tested.file.state == FileState::folder_missing ? "Dossier manquant : " + tested.file.folder + when
                                                          : "fichier manquant : " + tested.chemin_test + when);
     list_.remove(row);
-    if (is_on_the_air() && state_.index_en_cours.value() >= row) // the chain goes on with the row that takes its number
-        state_.index_en_cours -= 1;
 }
 
 // The chain reads records by the numbers of their rows, and it goes on behind the question.

@@ -15,7 +15,7 @@ namespace sonarelle {
 /// Looks whether the files of the list are there, and takes those that aren't out of it.
 class ListVerification {
 public:
-    ListVerification(const Platform& platform, ListState& state, const ChainState& chain, ListAtWork& list,
+    ListVerification(const Platform& platform, const ChainState& chain, ListAtWork& list,
                      std::function<void(const std::string&)> note);
 
     /// Tests every row, as its own action.
@@ -56,7 +56,6 @@ private:
     void tell_failure(const Failure& failure);
 
     const Platform& platform_;
-    ListState& state_;
     const ChainState& chain_;
     ListAtWork& list_;
     std::function<void(const std::string&)> note_; // a line of the journal

@@ -24,10 +24,13 @@ Liste_son::Liste_son()
     coller.enabled = false;
     hang_menus();
     mark_entries(&MenuItem::opens_box,
-                 {&A_liste, &A_Charge, &A_enreg_sous, &A_Copen_rfm, &A_Convertir_dfm, &Supprimer_fichier,
-                  &Modifier_lettre_lecteur, &Modifier_volume, &a_debutpiste, &a_debutpiste_fichier, &a_modif});
+                 {&A_liste, &A_Charge, &creer_aleatoire, &A_precoute, &A_ecoute_option, &A_enreg_sous, &A_Copen_rfm,
+                  &A_Convertir_dfm, &Supprimer_fichier, &Modifier_lettre_lecteur, &Modifier_volume, &a_debutpiste,
+                  &a_debutpiste_fichier, &a_modif});
     mark_entries(&MenuItem::is_one_of_many, {&A_sauve, &a_Ne_pas_Sauve, &modifier_chemin, &modifier_chemin_non});
     mark_entries(&MenuItem::destroys, {&Supprimer_fichier});
+    jingles_status.hint = "Insertion Jingle On / Off";
+    jingles_switch.hint = "Insertion Jingle On / Off";
     play_list.hint = "lecture liste";
     zap.hint = "Zapper rapidement sur le fichier suvant (Z)";
     stop_decks.hint = "Stopper tous les lecteurs";
@@ -40,12 +43,13 @@ void Liste_son::hang_menus() {
                   {&coller},
                   {&a_modif, &of_row, &of_list, &of_file},
                   {&lect_liste, &A_a_zapping, &A_precoute},
+                  {&A_ecoute_option},
                   {&A_revenir_couleur}});
     of_row.hang({{&a_mettre_a_jour, &prechar_fich}, {&a_debutpiste_fichier, &a_modifie_morceau}});
     of_list.hang({{&a_mettre_a_jour_liste, &prechar},
                   {&Modifier_lettre_lecteur, &a_debutpiste, &Modifier_volume},
                   {&modifier_chemin, &modifier_chemin_non}});
-    of_file.hang({{&A_liste, &A_Charge, &A_liste_anciene, &A_enreg_sous},
+    of_file.hang({{&A_liste, &A_Charge, &A_liste_anciene, &creer_aleatoire, &A_enreg_sous},
                   {&A_sauve, &a_Ne_pas_Sauve},
                   {&Convertion},
                   {&Supprimer_fichier}});

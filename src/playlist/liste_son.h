@@ -28,8 +28,8 @@ struct Liste_son : Window {
     Image stop_decks{*this, "Image3"};       ///< Stops all decks.
     Image show_playing_row{*this, "Image4"}; ///< Shows the row that plays.
     Image side_picture{*this, "Image10"};    ///< Picture beside the window's buttons.
-    Label jingles_status{*this, "Label14", "Jingle Off"};
-    Label items_status{*this, "Label15", "Liste Off"};
+    Label jingles_status{*this, "Label14", "Jingle auto "};
+    Label items_status{*this, "Label15", "Liste / Off"};
     Image jingles_switch{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
     Image items_switch{*this, "Image14", "bouton_off.jpg"};   ///< Switch of the list items.
 
@@ -69,6 +69,8 @@ struct Liste_son : Window {
     MenuItem of_list{*this, "of_list", "Toute la liste"};   ///< to all rows,
     MenuItem of_file{*this, "of_file", "Fichier de liste"}; ///< and to the file that holds them.
     MenuItem A_ecoute{*this, "A_ecoute", "* Lire ce morceau  * ( jingles sélectionné)"};
+    MenuItem A_ecoute_option{*this, "A_ecoute_option", "* Paramètre insertion auto (Jingles News etc..)"};
+    MenuItem creer_aleatoire{*this, "creer_aleatoire", "Créer une liste aléatoire avec un fichier.dfm"};
 
     MenuItem a_mettre_a_jour{*this, "a_mettre_a_jour", "Mettre a jour les infos de ce fichier"};
     MenuItem a_mettre_a_jour_liste{*this, "a_mettre_a_jour_liste", "Mettre a jour les infos de la liste"};
@@ -93,9 +95,9 @@ struct Liste_son : Window {
     }
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
-    /// What lists in a fixed order offer: lists to open and to convert, and the pre-listen.
+    /// What lists in a fixed order offer beside the pre-listen: lists to open, to make and to convert.
     [[nodiscard]] std::array<MenuItem*, 4> entries_of_a_fixed_order() {
-        return {&A_liste, &A_liste_anciene, &Convertion, &A_precoute};
+        return {&A_liste, &A_liste_anciene, &creer_aleatoire, &Convertion};
     }
     /// The entries that need a list, and stand disabled until there is one.
     [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();

@@ -1,7 +1,9 @@
 #include "playlist/row_to_deck.h"
 
+#include <cstdint>
 #include <utility>
 
+#include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/shell.h"
 
@@ -16,9 +18,14 @@ RowToDeck::RowToDeck(const Platform& platform, ListState& list, ChainState& chai
       reading_{reading},
       decks_{std::move(decks)} {}
 
-// The record comes from the file, not from the row: the file is what the decks play from. A row beyond the station's
-// 16-bit numbers can't be sent.
+// The record comes from the file, not from the row: the file is what the decks play from.
 void RowToDeck::send(int deck) {
+    if (window_.rows.selected() > INT16_MAX)
+        return show_box(platform_.dialogs,
+                        "La ligne " + std::to_string(window_.rows.selected()) +
+                            " ne peut pas être envoyée sur un lecteur\nLa lecture va jusqu'à la ligne " +
+                            std::to_string(INT16_MAX),
+                        Icon::information);
     ErrorIndicator{}.skip([&] {
         const Integer row = window_.rows.selected();
         if (list_.fichier_liste.empty())

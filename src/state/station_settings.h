@@ -48,6 +48,7 @@ struct StationSettings {
     Flag valide_fichier_aleatoire1; ///< List items are inserted by draw.
     Integer nb_fichier_aleatoire1;
     std::string chemin_fichier_aleatoire1;
+    Integer ecart_artiste; ///< Starts within which random order plays no artist twice; 0: it doesn't look.
 
     Integer position_haut; ///< Places of the windows, in twips.
     Integer position_gauche;

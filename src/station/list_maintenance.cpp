@@ -8,8 +8,7 @@ namespace sonarelle {
 ListMaintenance::ListMaintenance(Desk& desk, fsauve& progress, RecordReading& record_reading, ListDocument& document,
                                  ListSaveDialog& save_dialog, Journal& journal)
     : list{desk.platform, desk.list, desk.list_window, progress, record_reading, document},
-      verification{desk.platform, desk.list, desk.chain, list,
-                   [&journal](const std::string& line) { journal.note(line); }},
+      verification{desk.platform, desk.chain, list, [&journal](const std::string& line) { journal.note(line); }},
       changes{desk.platform, list},
       update{desk.platform, desk.list, desk.chain, list, save_dialog, verification},
       editor{desk.platform, desk.settings, list},

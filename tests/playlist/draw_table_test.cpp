@@ -5,6 +5,8 @@
 
 #include <set>
 
+#include "platform/simulated/scripted_random.h"
+
 namespace sonarelle {
 
 namespace {
@@ -14,7 +16,7 @@ protected:
     /// Bars a number and draws from 1 to `count`, as a list in random order does. 0 for nothing.
     int next(int playing, int count) {
         table.bar(playing, count);
-        return table.draw({1, count}).value_or(0);
+        return table.draw({1, count}).number.value_or(0);
     }
 
     Random random{20261122};
@@ -77,7 +79,7 @@ TEST_F(Draws, BeginAnewWhereTheListHasBecomeShorterThanTheTable) {
 TEST_F(Draws, OfWhatIsBarredAltogetherBeginAnewOnceMore) {
     for (int number = 1; number <= 3; ++number)
         table.bar(number, 100); // of another list
-    const auto drawn = table.draw({1, 3});
+    const std::optional<int> drawn = table.draw({1, 3}).number;
     ASSERT_TRUE(drawn);
     EXPECT_NE(*drawn, 3);
     EXPECT_EQ(table.entries(), Entries{3});
@@ -85,13 +87,45 @@ TEST_F(Draws, OfWhatIsBarredAltogetherBeginAnewOnceMore) {
 
 TEST_F(Draws, OfTheOnlyNumberThereIsComeToNothing) {
     table.bar(1, 2);
-    EXPECT_EQ(table.draw({1, 1}), std::nullopt);
+    EXPECT_EQ(table.draw({1, 1}).number, std::nullopt);
 }
 
 TEST_F(Draws, OfNothingComeToNothing) {
-    EXPECT_EQ(table.draw({0, 0}), std::nullopt);
+    EXPECT_EQ(table.draw({0, 0}).number, std::nullopt);
     table.bar(0, 2);
-    EXPECT_EQ(table.draw({0, 0}), std::nullopt);
+    EXPECT_EQ(table.draw({0, 0}).number, std::nullopt);
+}
+
+TEST_F(Draws, TellTheirHitsInTheirOrder) {
+    ScriptedRandom scripted{1};
+    DrawTable foreseen{scripted};
+    foreseen.bar(1, 100);
+    foreseen.bar(3, 100);
+    scripted.then({0.0F, 0.5F, 0.0F, 0.99F});
+    const Draw draw = foreseen.draw({1, 4});
+    EXPECT_EQ(draw.number, 4);
+    EXPECT_EQ(draw.hits, (std::deque<int>{1, 3, 1}));
+    EXPECT_EQ(draw.hit_count, 3);
+}
+
+TEST_F(Draws, KeepTheLastThousandHits) {
+    ScriptedRandom scripted{1};
+    DrawTable foreseen{scripted};
+    foreseen.bar(1, 100);
+    foreseen.bar(2, 100);
+    scripted.then({0.0F});
+    for (int hit = 0; hit < 1000; ++hit)
+        scripted.then({0.1F});
+    scripted.then({0.9F});
+    const Draw draw = foreseen.draw({1, 10});
+    EXPECT_EQ(draw.hits, std::deque<int>(1000, 2));
+    EXPECT_EQ(draw.hit_count, 1001);
+}
+
+TEST_F(Draws, SayWhenTheTableBeginsAnew) {
+    EXPECT_FALSE(table.bar(1, 3));
+    EXPECT_FALSE(table.bar(2, 3));
+    EXPECT_TRUE(table.bar(3, 3));
 }
 
 TEST_F(Draws, KnowNothingOfWhatWasCleared) {

@@ -44,9 +44,10 @@ TEST_F(RowToDeckTest, ReadsTheRecordFromTheFileNotFromTheRow) {
     EXPECT_EQ(station.chain.chemin_lecture, "C:\\b.mp3");
 }
 
-TEST_F(RowToDeckTest, SendsNothingFromARowBeyond16Bits) {
+TEST_F(RowToDeckTest, SaysThatARowBeyond16BitsCantBeSent) {
     open_list("C:\\matin.dfm", std::vector<enreg_liste>(40000, record_of("C:\\a.mp3")));
     rows().select(40000);
+    machine.dialogs.expect_box("La ligne 40000 ne peut pas être envoyée sur un lecteur", Answer::ok);
     row_to_deck.Charg1_son();
     EXPECT_TRUE(loaded.empty());
 }

@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "platform/random.h"
 #include "platform/scheduler.h"
 #include "platform/simulated/scripted_dialogs.h"
+#include "platform/simulated/scripted_random.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_media.h"
 #include "platform/simulated/simulated_settings.h"
@@ -33,7 +33,7 @@ struct SimulatedPlatform {
     SimulatedSettings settings;
     ScriptedDialogs dialogs{time};
     SimulatedMedia media{time, disk};
-    Random random;
+    ScriptedRandom random;
     SimulatedShell shell;
     ScreenArea screen;
     Platform platform;

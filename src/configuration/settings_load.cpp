@@ -98,6 +98,7 @@ void SettingsLoad::read_chain_values() {
     kept_.mix_audio_attenuation = read_chain_value("Mix_audio_attenuation");
     read_chain_value("valeur_max_jingles");
     read_chain_value("Veille_antenne");
+    read_chain_value("Ecart_artiste");
 }
 
 void SettingsLoad::read_positions() {

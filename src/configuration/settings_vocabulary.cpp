@@ -52,6 +52,7 @@ constexpr std::array vocabulary{
     SettingRow{config,   "Nb_fichier_aleatoire1",         Form::integer,  nullopt, "0",                     "0",                     nullopt,                 &S::nb_fichier_aleatoire1},
     SettingRow{config,   "Chemin_fichier_aleatoire1",     Form::path,     nullopt, "Aucun fichier",         "Aucun fichier",         nullopt,                 &S::chemin_fichier_aleatoire1},
     SettingRow{config,   "Veille_antenne",                Form::integer,  "5",     "5",                     "5",                     "5",                     &S::veille_antenne},
+    SettingRow{config,   "Ecart_artiste",                 Form::integer,  "0",     "0",                     "0",                     "0",                     &S::ecart_artiste},
     SettingRow{config,   "Programme_aide",                Form::path,     nullopt, "",                      "",                      nullopt,                 &S::programme_aide},
     SettingRow{config,   "Programme_journal",             Form::path,     nullopt, "",                      "",                      nullopt,                 &S::programme_journal},
 

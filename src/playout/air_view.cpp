@@ -25,9 +25,10 @@ bool is_on(DeckRole main) {
     return main == DeckRole::on_air || main == DeckRole::paused;
 }
 
+/// The next row comes by draw; insertions come as the next row of the list.
 bool is_drawn(const Desk& desk) {
-    return !desk.chain.ordre_aleatoire.is_false() || desk.chain.jingles_aleatoires.is_true() ||
-           desk.settings.valide_fichier_aleatoire1.is_true();
+    return !desk.chain.ordre_aleatoire.is_false() && !desk.chain.jingles_aleatoires.is_true() &&
+           !desk.settings.valide_fichier_aleatoire1.is_true();
 }
 
 /// The chain brings what follows the main deck's track.

@@ -8,6 +8,7 @@
 #include "platform/failure.h"
 #include "platform/scheduler.h"
 #include "platform/text.h"
+#include "playout/source_draw.h"
 
 namespace sonarelle {
 
@@ -49,7 +50,7 @@ void ChainModes::enter(const RunningMode& mode) {
     if (mode.from_list)
         desk_.chain.mode_enchainement = *mode.from_list;
     if (mode.by_draw)
-        desk_.chain.ordre_aleatoire = *mode.by_draw;
+        take_order(*mode.by_draw);
     set_timer(desk_.window.load_ahead_timer, mode.looks_ahead);
     set_timer(desk_.window.deck_chain_timer, mode.chains_decks);
     set_timer(desk_.window.list_chain_timer, mode.chains_list);
@@ -134,8 +135,12 @@ void ChainModes::choose_player_mode() {
     desk_.chain.preecoute_active = false;
     enter(running_mode::read_decks);
     check_entries(desk_.window.a_mode_auto);
-    mix_.choose_zap_fade();
-    journal_.note_of_list_window(date_and_time(desk_.platform) + " Lecteur - Lecture continue auto");
+    note({"Lecteur - Lecture continue auto", "Lecteur - Lecture continue auto / Mix : "});
+    mix_.choose_zap_fade(); // which ends a special mix
+    desk_.display.prelisten_is(false);
+    desk_.display.light_reading_mode(desk_.list_window.player_lamp);
+    if (desk_.list_window.visible)
+        desk_.window.visible = true; // from which the decks are played
     if (desk_.ring.has_main_deck())
         show_end_point(desk_.ring.main_deck().duree_piste);
 }
@@ -147,16 +152,76 @@ void ChainModes::clear_insertions() {
     desk_.window.item_timer.disable();
 }
 
-void ChainModes::choose_list_mode(bool random, const std::string& journal_text) {
-    enter(random ? running_mode::read_by_draw : running_mode::read_in_order);
+void ChainModes::choose_random_mode() {
+    desk_.chain.jingles_aleatoires = desk_.settings.valide_fichier_aleatoire;
+    choose_list_mode(running_mode::read_by_draw,
+                     {"Liste - Lecture aléatoire", "Liste - Lecture aléatoire auto / Mix : "});
+    desk_.display.light_reading_mode(desk_.list_window.random_lamp);
+    control_.head(DrawControl::Lists::of_list, "Lecture aléatoire");
+    control_.clear_lists();
+    if (desk_.chain.jingles_aleatoires.is_true() && !names_a_source(desk_.settings.chemin_fichier_aleatoire1))
+        tell_missing_source();
+}
+
+void ChainModes::tell_missing_source() {
+    const Answer answer =
+        desk_.platform.dialogs.MsgBox({"La lecture peut etre activée directement sur le bouton lecture\n"
+                                       "Si aucun fichier par défaut n'a été choisi dans les paramètres\n"
+                                       "Choisissez en un dans la boite de dialogue suivante\n"
+                                       "Vous avez la possibilité également si cela n'a pas été effectué,\n"
+                                       "de charger une liste de votre choix et désactiver les jingles",
+                                       "Lecture aléatoire avec jingles aléatoire", Buttons::yes_no, Icon::information});
+    if (answer == Answer::no)
+        desk_.notices.inform("Pas de chargement de liste.");
+}
+
+void ChainModes::choose_defined_end_mode() {
+    choose_list_order({"Liste - Lecture fin de piste définie", "Liste - Lecture Début / fin de piste définie/ Mix : "},
+                      desk_.list_window.defined_end_lamp);
+}
+
+void ChainModes::choose_full_length_mode() {
+    choose_list_order({"Liste - Lecture durée piste", "Liste - Lecture Début / durée piste - Mix : "},
+                      desk_.list_window.full_length_lamp);
+}
+
+void ChainModes::choose_list_order(const ReadingModeWords& words, Image& lamp) {
+    clear_insertions();
+    choose_list_mode(running_mode::read_in_order, words);
+    desk_.display.light_reading_mode(lamp);
+    desk_.display.prelisten_offered(true);
+}
+
+void ChainModes::choose_order(bool random) {
+    Liste_son& list = desk_.list_window;
+    if (random && list.reads_the_list())
+        return list.random_mode.set_value(true);
+    if (!random && list.random_mode.value())
+        return list.defined_end_mode.set_value(true);
+    take_order(random);
+    if (random)
+        desk_.chain.jingles_aleatoires = desk_.settings.valide_fichier_aleatoire;
+    journal_.note_of_list_window(date_and_time(desk_.platform) + (random ? " Lecture aléatoire" : " Lecture continue"));
+}
+
+// What random order has closed opens again on every way out of it.
+void ChainModes::take_order(bool random) {
+    desk_.chain.ordre_aleatoire = random;
+    desk_.display.order_is(random);
+}
+
+void ChainModes::note(const ReadingModeWords& words) {
+    const bool mixes = desk_.chain.lecteur_mix_special != 0;
+    journal_.note_of_list_window(
+        date_and_time(desk_.platform) + " " +
+        (mixes ? std::string{words.over_a_mix} + text_of(desk_.settings.mix_courant) : std::string{words.plain}));
+}
+
+void ChainModes::choose_list_mode(const RunningMode& mode, const ReadingModeWords& words) {
+    enter(mode);
     check_entries(desk_.window.a_mode_predefini);
-    if (!random) {
-        clear_insertions();
-        for (MenuItem* entry : desk_.list_window.entries_of_a_fixed_order())
-            entry->enabled = true;
-    }
-    mix_.choose_list_fade();
-    journal_.note_of_list_window(date_and_time(desk_.platform) + " " + journal_text);
+    note(words);
+    mix_.choose_list_fade(); // which ends a special mix
     desk_.display.list_has_no_mix_point();
     if (!desk_.ring.has_main_deck())
         return;
@@ -201,7 +266,6 @@ void ChainModes::press_list_chain_lamp() {
     desk_.display.light_reading_mode(list.full_length_lamp);
     desk_.window.mix_list.set_value(true);
     list.show();
-    list.A_precoute.checked = false;
     desk_.display.list_has_no_mix_point();
     desk_.display.light_list_chain();
     list.full_length_mode.set_value(true);

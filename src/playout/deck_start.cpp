@@ -58,6 +58,8 @@ void DeckStart::set_going(Deck& deck, const StartKind& kind) {
     show_names(deck, kind);
     if (kind.follows_a_row)
         count_track();
+    desk_.chain.demande_ajout = true;
+    remember_start(deck.path);
     desk_.display.mark_main(deck);
     desk_.display.chain_goes_on();
     keep_air_state(kind);
@@ -142,6 +144,13 @@ void DeckStart::keep_air_state(const StartKind& kind) {
     if (begins_a_run || desk_.chain.air != AirState::failed || desk_.window.deck_chain_timer.enabled() ||
         desk_.window.list_chain_timer.enabled())
         desk_.set_air(AirState::on);
+}
+
+void DeckStart::remember_start(const std::string& path) {
+    std::deque<std::string>& started = desk_.chain.started_paths;
+    started.push_back(path);
+    if (started.size() > ChainState::most_started_paths)
+        started.pop_front();
 }
 
 // A station is on the air for longer than the counter lasts.

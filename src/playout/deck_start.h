@@ -50,6 +50,7 @@ private:
     void show_names(Deck& deck, const StartKind& kind);
     void keep_air_state(const StartKind& kind);
     void count_track();
+    void remember_start(const std::string& path);
     void release_ring(Deck& deck);
     void silence(Deck& deck);
 

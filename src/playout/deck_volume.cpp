@@ -1,7 +1,5 @@
 #include "playout/deck_volume.h"
 
-#include <utility>
-
 #include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
@@ -26,10 +24,6 @@ int slider_of_attenuation(int greatest, int attenuation) {
 }
 
 } // namespace
-
-DeckVolume::DeckVolume(Desk& desk, std::function<void()> reload_list)
-    : desk_{desk},
-      reload_list_{std::move(reload_list)} {}
 
 void DeckVolume::adjust(Deck& deck) {
     ErrorIndicator{}.skip(
@@ -98,8 +92,8 @@ void DeckVolume::A_sauve(Deck& deck) {
         const std::string percent = deck.controls.percent.caption;
         row->record.set_volume(static_cast<std::int16_t>(
             to_integer(trim_right(percent.substr(0, percent.find('%'))), DecimalMark::point).value()));
-        replace_row(desk_.platform, desk_.list, *row);
-        reload_list_();
+        document_.change_record(row->number, row->record);
+        document_.show_changed_record(row->number);
         desk_.notices.inform("Sauvegarde des paramètres en cours éffectués .");
     } catch (const Failure& failure) {
         show_box(desk_.platform.dialogs, failure.what(), Icon::stop);

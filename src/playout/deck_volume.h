@@ -1,7 +1,6 @@
 #pragma once
 
-#include <functional>
-
+#include "playlist/list_document.h"
 #include "playout/desk.h"
 
 namespace sonarelle {
@@ -10,8 +9,9 @@ namespace sonarelle {
 /// of a decibel.
 class DeckVolume {
 public:
-    /// `reload_list` shows the list anew after a record was changed.
-    DeckVolume(Desk& desk, std::function<void()> reload_list);
+    DeckVolume(Desk& desk, ListDocument& document)
+        : desk_{desk},
+          document_{document} {}
 
     /// Slider to texts, and to the graph where there is one. A file without sound is passed over.
     void adjust(Deck& deck);
@@ -38,7 +38,7 @@ private:
     void A_sauve(Deck& deck);
 
     Desk& desk_;
-    std::function<void()> reload_list_;
+    ListDocument& document_;
 };
 
 } // namespace sonarelle

@@ -2,6 +2,7 @@
 
 #include "platform/application.h"
 #include "platform/text.h"
+#include "playlist/list_rows.h"
 #include "playout/file_title.h"
 
 namespace sonarelle {
@@ -9,8 +10,6 @@ namespace sonarelle {
 namespace {
 
 constexpr std::string_view lamp_on = "bouton_noir_petitdoux.jpg";
-constexpr std::string_view switch_on = "bouton_on.jpg";
-constexpr std::string_view switch_off = "bouton_off.jpg";
 
 } // namespace
 
@@ -30,6 +29,16 @@ void DeskDisplay::loaded_from_list(const std::string& name, const std::string& d
     list_.caption = cut_title(name, 16);
     list_.track_name.caption = cut_title(name, 16);
     list_.remaining.caption = duration;
+}
+
+void DeskDisplay::goes_over_to(const DestinationRecord& row, const std::string& name) const {
+    draws_.file_heading.caption = "*  Info fichier chargé  *";
+    draws_.file_name.caption = "Nom : " + name;
+    draws_.file_start.caption = "Début a : " + Format(row.dest_debut, start_pattern, DecimalMark::point);
+    draws_.file_end.caption = "Fin a : " + row.dest_fin;
+    draws_.file_genre.caption = "genre : " + row.dest_genre;
+    draws_.file_volume.caption = "Volume : " + text_of(row.dest_volume_pourcent) + " %";
+    draws_.file_duration.caption = "Durée piste : " + std::string{trim(row.dest_duree)};
 }
 
 void DeskDisplay::volume(Deck& deck) const {
@@ -70,6 +79,7 @@ void DeskDisplay::started(Deck& deck, const TrackNames& names) const {
     list_.caption = names.of_file;
     deck.controls.title.caption = names.title + " - ";
     followed_by(names.title);
+    draws_.file_heading.caption = "Info fichier chargé";
     list_.track_name.caption = names.title;
 }
 
@@ -194,19 +204,36 @@ void DeskDisplay::light_deck_chain_alone() const {
 
 void DeskDisplay::light_reading_mode(Image& lamp) const {
     for (Image* each : {&list_.player_lamp, &list_.random_lamp, &list_.defined_end_lamp, &list_.full_length_lamp})
-        each->picture = std::string{each == &lamp ? switch_on : switch_off};
+        light_switch(*each, each == &lamp);
+}
+
+void DeskDisplay::effects_offered(bool offered) const {
+    for (MenuItem* entry : window_.effect_entries())
+        entry->enabled = offered;
+}
+
+void DeskDisplay::order_is(bool random) const {
+    window_.A_ordre_aléatoire.checked = random;
+    window_.A_ordre_continue.checked = !random;
+    for (MenuItem* entry : list_.entries_of_a_fixed_order())
+        entry->enabled = !random;
+    if (random)
+        prelisten_offered(false); // the list's reading modes offer it again
+    effects_offered(!random && !settings_.valide_fichier_aleatoire1.is_true());
 }
 
 void DeskDisplay::items_off() const {
     list_.items_status.caption = "liste Off";
-    list_.items_switch.picture = std::string{switch_off};
+    list_.items_status.fore_colour = settings_.coul_text_bouton;
+    light_switch(list_.items_switch, false);
 }
 
 void DeskDisplay::insertions_off() const {
     items_off();
     list_.jingles_status.caption = "Jingle Off";
+    list_.jingles_status.fore_colour = settings_.coul_text_bouton;
     list_.items_status.caption = "Liste Off";
-    list_.jingles_switch.picture = std::string{switch_off};
+    light_switch(list_.jingles_switch, false);
 }
 
 void DeskDisplay::list_can_start(bool can) const {

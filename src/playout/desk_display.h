@@ -4,15 +4,19 @@
 
 #include "platform/numbers.h"
 #include "playlist/liste_son.h"
+#include "playlist/working_records.h"
 #include "playout/deck_ring.h"
 #include "state/station_settings.h"
 #include "windows/antenne_fm.h"
+#include "windows/draw_window.h"
 #include "windows/mini_lecteur.h"
 
 namespace sonarelle {
 
 inline constexpr std::string_view waiting_title = " - En attente";
 inline constexpr std::string_view missing_title = "Non trouvé";
+inline constexpr std::string_view switch_on = "bouton_on.jpg";
+inline constexpr std::string_view switch_off = "bouton_off.jpg";
 inline constexpr std::string_view empty_title = "(Aucun fichier en cours)";
 
 /// How a started track is named.
@@ -29,11 +33,12 @@ struct TrackNames {
 class DeskDisplay {
 public:
     DeskDisplay(const StationSettings& settings, Antenne_FM& window, Liste_son& list, mini_lecteur& small_player,
-                DeckRing& ring)
+                liste& draws, DeckRing& ring)
         : settings_{settings},
           window_{window},
           list_{list},
           small_player_{small_player},
+          draws_{draws},
           ring_{ring} {}
 
     /// A deck waits for its turn, or has nothing that it could play.
@@ -47,6 +52,8 @@ public:
     void next_allowed() const { small_player_.next.enabled = true; }
     /// A row's file came on a deck from the list.
     void loaded_from_list(const std::string& name, const std::string& duration) const;
+    /// The chain goes over to a row: what the row says of its file.
+    void goes_over_to(const DestinationRecord& row, const std::string& name) const;
     void named(Deck& deck, const std::string& name) const { deck.controls.title.caption = name; }
     /// The end of play that its counter shows, whole seconds as text.
     void ends_at(Deck& deck, const std::string& seconds) const { deck.controls.counter.caption = seconds; }
@@ -115,6 +122,10 @@ public:
     void light_deck_chain_alone() const;
     /// One of the four reading modes' lamps.
     void light_reading_mode(Image& lamp) const;
+    /// The lamp of a switch.
+    void light_switch(Image& lamp, bool on) const { lamp.picture = std::string{on ? switch_on : switch_off}; }
+    /// The entries of the visual effect can be reached.
+    void effects_offered(bool offered) const;
     void items_off() const;
     void insertions_off() const;
 
@@ -123,6 +134,9 @@ public:
     void list_starts() const;
     void list_can_be_stopped() const;
     void prelisten_offered(bool offered) const { list_.A_precoute.enabled = offered; }
+    void prelisten_is(bool on) const { list_.A_precoute.checked = on; }
+    /// In random order the list isn't changed by hand, and nothing is shown of the sound.
+    void order_is(bool random) const;
     void list_stopped() const;
     void list_reads_row(Integer row) const;
     void list_has_no_file() const { list_.list_status.caption = "Non trouvé"; }
@@ -150,6 +164,7 @@ private:
     Antenne_FM& window_;
     Liste_son& list_;
     mini_lecteur& small_player_;
+    liste& draws_;
     DeckRing& ring_;
 };
 

@@ -4,6 +4,7 @@
 
 #include "platform/calendar_text.h"
 #include "platform/failure.h"
+#include "playout/file_title.h"
 
 namespace sonarelle {
 
@@ -92,7 +93,7 @@ bool ListChain::try_to_follow(Deck& deck) {
 
 /// False when no row could be drawn: the next turn draws again.
 bool ListChain::take_row_to_follow() {
-    if (first_look_ == FirstLook::drawn_row && !cursor_.take_drawn_row())
+    if (first_look_ == FirstLook::drawn_row && !cursor_.take_drawn_row(DrawPlace::list_chain))
         return false;
     if (first_look_ == FirstLook::current_row)
         cursor_.take_current_row();
@@ -109,10 +110,9 @@ bool ListChain::is_found_to_follow() {
     return look == RowCursor::Look::found && desk_.list.chemin_fichier != desk_.chain.chemin_precedent;
 }
 
-bool ListChain::load_behind(Deck& old) {
+bool ListChain::load_behind(Deck& old, const DestinationRecord& row) {
     load_ahead_.cancel();
     desk_.chain.element_en_cours = desk_.list.index_en_cours;
-    const DestinationRecord row = cursor_.read_row();
     Deck& next = desk_.ring.after(old);
     const bool told = cursor_.is_loaded(next);
     const LoadResult result = cursor_.load_on(next, row);
@@ -144,7 +144,7 @@ void ListChain::play_behind(Deck& old) {
 }
 
 bool ListChain::start_row(Deck& old) {
-    if (!load_behind(old))
+    if (!load_behind(old, cursor_.read_row()))
         return false;
     play_behind(old);
     cursor_.select_row();
@@ -161,10 +161,10 @@ void ListChain::automatic_zap(Deck& old) {
 bool ListChain::try_to_zap(Deck& old) {
     if (!take_row_to_zap_on())
         return false;
-    const Integer row = desk_.list.index_en_cours;
     if (is_found_to_follow() && start_zapped(old))
         return true;
-    give_prepared_row_up(row);
+    desk_.chain.choix_prepare =
+        false; // what can't be taken now mustn't be looked at for ever: the next look draws anew
     return false;
 }
 
@@ -178,20 +178,15 @@ bool ListChain::take_row_to_zap_on() {
     else if (desk_.chain.choix_prepare.is_true())
         cursor_.take_current_row();
     else
-        return cursor_.take_drawn_row();
+        return cursor_.take_drawn_row(DrawPlace::zap);
     return true;
 }
 
-/// A row that was removed leaves its place to the one before it, if there is one. What else can't be taken now mustn't
-/// be looked at for ever: the next look draws anew.
-void ListChain::give_prepared_row_up(Integer row) {
-    if (desk_.list.index_en_cours == row || desk_.list.index_en_cours < 1)
-        desk_.chain.choix_prepare = false;
-}
-
 bool ListChain::start_zapped(Deck& old) {
-    if (!load_behind(old))
+    const DestinationRecord row = cursor_.read_row();
+    if (!load_behind(old, row))
         return false;
+    desk_.display.goes_over_to(row, title_of(row.dest_chemin).name);
     if (desk_.window.mix_list.value()) {
         desk_.window.load_ahead.set_value(0);
         desk_.window.deck_chain_timer.set_interval(0);

@@ -41,11 +41,10 @@ private:
     [[nodiscard]] bool start_row(Deck& old);
     [[nodiscard]] bool try_to_zap(Deck& old);
     [[nodiscard]] bool take_row_to_zap_on();
-    void give_prepared_row_up(Integer row);
     [[nodiscard]] bool start_zapped(Deck& old);
     void show_full_volume(Deck& deck);
     /// Loads the current row's file on the deck behind; false when the row was passed over.
-    [[nodiscard]] bool load_behind(Deck& old);
+    [[nodiscard]] bool load_behind(Deck& old, const DestinationRecord& row);
     void play_behind(Deck& old);
     /// Whether the current row's file is there, and isn't the one that plays.
     [[nodiscard]] bool is_found_to_follow();

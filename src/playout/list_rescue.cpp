@@ -36,7 +36,8 @@ bool ListRescue::is_needed() const {
 }
 
 bool ListRescue::stands_still() const {
-    return desk_.chain.mode_enchainement.is_true() && desk_.ring.has_main_deck() &&
+    const bool list_chain = desk_.chain.mode_enchainement.is_true() || desk_.window.list_chain_timer.enabled();
+    return list_chain && desk_.ring.has_main_deck() &&
            desk_.ring.main_deck().is_at_its_end() && (!chain_.list_chain.looks_for_a_row() || has_another_file());
 }
 
@@ -79,7 +80,7 @@ void ListRescue::start(int row) {
     desk_.list_window.rows.select(row);
     if (!desk_.chain.mode_enchainement.is_true())
         desk_.list_window.full_length_mode.set_value(true);
-    run_.play_list();
+    run_.take_up();
 }
 
 void ListRescue::tell_failure() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "platform/failure.h"
 
@@ -17,6 +18,12 @@ ListRun::ListRun(Desk& desk, AutoChain& chain, DeckTransport& transport, RunCont
       document_{document} {}
 
 void ListRun::play_list() {
+    if (draw_first_row)
+        draw_first_row();
+    take_up();
+}
+
+void ListRun::take_up() {
     if (desk_.row_count() == 0)
         return desk_.notices.inform("La liste est vide");
     desk_.display.list_starts();
@@ -25,6 +32,10 @@ void ListRun::play_list() {
 
 void ListRun::start_selected_row() {
     select_a_row();
+    if (desk_.list_window.rows.selected() > INT16_MAX)
+        return desk_.notices.inform("La ligne " + std::to_string(desk_.list_window.rows.selected()) +
+                                    " ne peut pas être lue\nLa lecture va jusqu'à la ligne " +
+                                    std::to_string(INT16_MAX));
     const Integer row = desk_.list_window.rows.selected();
     const Integer row_before = desk_.list.index_en_cours;
     desk_.list.index_en_cours = row;

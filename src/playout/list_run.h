@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "playlist/list_save_dialog.h"
 #include "playout/auto_chain.h"
 #include "playout/deck_transport.h"
@@ -14,8 +16,13 @@ public:
     ListRun(Desk& desk, AutoChain& chain, DeckTransport& transport, RunControl& run, ListSaveDialog& save_dialog,
             ListDocument& document);
 
+    /// Called before the list starts, which it may grow.
+    std::function<void()> draw_first_row;
+
     /// Plays the list from the selected row, alone. One that can't be played leaves what is on the air.
     void play_list();
+    /// The same of a list that was on the air before: its rows stay as they are.
+    void take_up();
     /// Presses the stop buttons of all decks.
     void stop_decks();
     /// Shows the row that plays.

@@ -126,7 +126,7 @@ bool LoadAhead::try_to_load_next() {
 
 bool LoadAhead::take_row() {
     if (desk_.chain.ordre_aleatoire.is_true()) {
-        if (!cursor_.take_drawn_row())
+        if (!cursor_.take_drawn_row(DrawPlace::load_step))
             return false;
         desk_.chain.choix_prepare = true;
         return true;
@@ -194,7 +194,6 @@ void LoadAhead::drop_invalid_row() {
     if (desk_.row_count() == 0)
         throw ListStopped{};
     cursor_.remove_row();
-    desk_.chain.chargement_fait = false;
     if (desk_.row_count() == 0)
         throw ListStopped{};
 }

@@ -1,10 +1,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/units.h"
 
 namespace sonarelle {
+
+/// A number that was drawn and not taken.
+struct PassedOver {
+    int number = 0;
+    std::string_view reason;
+};
 
 /// What happened on the air, for whoever follows a run.
 struct OnAirEvent {
@@ -13,6 +21,7 @@ struct OnAirEvent {
         started,
         fade_began,
         cut,
+        drawn, ///< A row, or a record to insert.
         inserted,
         removed,
         stopped,
@@ -28,7 +37,10 @@ struct OnAirEvent {
     std::string end = {}; ///< End point of a loaded deck, seconds as text.
     int overlap = 0;      ///< Seconds, of a started deck.
     int load_lead = 0;
-    std::string text = {}; ///< Why a list was stopped.
+    std::string text = {};                    ///< Why a list was stopped.
+    std::vector<PassedOver> passed_over = {}; ///< On the way to what was drawn.
+    int number = 0;                           ///< Of the record that was drawn.
+    int among = 0;                            ///< How many there were to draw from.
     Frames span = {};
     Frames ago = {}; ///< How long before now it was.
 };

@@ -1,5 +1,8 @@
 #include "playout/row_cursor.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "platform/calendar_text.h"
 #include "platform/disk.h"
 #include "platform/failure.h"
@@ -15,6 +18,8 @@ std::string_view passed_over::because_of(LoadResult result) {
 }
 
 void RowCursor::take_next_row() {
+    if (desk_.list.index_en_cours == INT16_MAX)
+        desk_.list.index_en_cours = 0; // rows behind it have no number that the chain knows
     desk_.list.index_en_cours += 1;
     take_current_row();
 }
@@ -27,10 +32,8 @@ void RowCursor::take_current_row() {
     desk_.list.chemin_fichier = desk_.list_window.rows.text(desk_.list.index_en_cours.value());
 }
 
-bool RowCursor::take_drawn_row() {
-    const int rows = desk_.row_count();
-    played_.bar(desk_.list.index_en_cours.value(), rows);
-    const std::optional<int> row = played_.draw({1, rows});
+bool RowCursor::take_drawn_row(DrawPlace place) {
+    const std::optional<int> row = draws_.draw(place);
     if (!row)
         return false;
     desk_.list.index_en_cours = *row;
@@ -39,7 +42,7 @@ bool RowCursor::take_drawn_row() {
 }
 
 void RowCursor::draw_any_row() {
-    desk_.list.index_en_cours = draw_any(desk_.platform.random, {1, desk_.row_count()});
+    desk_.list.index_en_cours = draw_any(desk_.platform.random, {1, std::min<int>(desk_.row_count(), INT16_MAX)});
     take_current_row();
 }
 
@@ -128,14 +131,11 @@ void RowCursor::note_passed_over(std::string_view why) {
 }
 
 void RowCursor::remove_row() {
-    desk_.list_window.rows.remove(desk_.list.index_en_cours.value());
-    document_.sauve_tout();
-    desk_.report({.kind = OnAirEvent::Kind::removed,
-                  .row = desk_.list.index_en_cours.value(),
-                  .path = desk_.list.chemin_fichier});
-    if (desk_.list.ligne_en_lecture > desk_.list.index_en_cours)
-        desk_.list.ligne_en_lecture -= 1;
-    desk_.list.index_en_cours -= 1;
+    const int row = desk_.list.index_en_cours.value();
+    document_.edits.remove(row);
+    desk_.chain.demande_ajout = true; // it may have been the item that came for this track
+    document_.save_by_itself();
+    desk_.report({.kind = OnAirEvent::Kind::removed, .row = row, .path = desk_.list.chemin_fichier});
     report_missing("Recherche de fichier valide ",
                    "Ce fichier est non trouvé ou non valide !\nIl a été supprimé de la liste.");
 }

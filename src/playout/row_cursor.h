@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "playlist/draw_table.h"
 #include "playlist/list_document.h"
 #include "playlist/record_reading.h"
 #include "playout/deck_loading.h"
 #include "playout/desk.h"
 #include "playout/journal.h"
+#include "playout/row_draw.h"
 
 namespace sonarelle {
 
@@ -28,20 +28,21 @@ inline constexpr std::string_view unplayable = " Lecture impossible, gardé dans
 /// Window thread.
 class RowCursor {
 public:
-    RowCursor(Desk& desk, Journal& journal, ListDocument& document, RecordReading& reading, DeckLoading& loading)
+    RowCursor(Desk& desk, Journal& journal, ListDocument& document, RecordReading& reading, DeckLoading& loading,
+              RowDraw& draws)
         : desk_{desk},
           journal_{journal},
           document_{document},
           reading_{reading},
           loading_{loading},
-          played_{desk.platform.random} {}
+          draws_{draws} {}
 
     /// Steps to the next row, round the end, and takes its path.
     void take_next_row();
     /// Takes the path of the current row, round the end.
     void take_current_row();
     /// Steps to a row by draw. False when none could be drawn: the next turn draws again.
-    [[nodiscard]] bool take_drawn_row();
+    [[nodiscard]] bool take_drawn_row(DrawPlace place);
 
     /// Steps to any row at all, by one draw.
     void draw_any_row();
@@ -103,7 +104,7 @@ private:
     ListDocument& document_;
     RecordReading& reading_;
     DeckLoading& loading_;
-    DrawTable played_;                  // the rows that random order has played
+    RowDraw& draws_;
     std::set<std::string> passed_over_; // since the last start
 };
 

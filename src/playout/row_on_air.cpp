@@ -17,8 +17,4 @@ std::optional<RowOnAir> row_on_air(const Platform& platform, const ListState& li
     return row;
 }
 
-void replace_row(const Platform& platform, const ListState& list, const RowOnAir& row) {
-    replace_record(platform.disk, list_path(platform, list.fichier_liste), row.number, row.record);
-}
-
 } // namespace sonarelle

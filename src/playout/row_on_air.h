@@ -20,7 +20,4 @@ struct RowOnAir {
 /// @throws Failure when the list can't be read.
 [[nodiscard]] std::optional<RowOnAir> row_on_air(const Platform& platform, const ListState& list, const Deck& deck);
 
-/// Writes its record back.
-void replace_row(const Platform& platform, const ListState& list, const RowOnAir& row);
-
 } // namespace sonarelle

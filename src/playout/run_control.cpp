@@ -44,6 +44,7 @@ void RunControl::start_first_deck() {
     desk_.display.can_be_zapped(deck);
     desk_.chain.lecteur_en_cours = 1;
     desk_.chain.chargement_fait = desk_.chain.choix_prepare = false; // what a run before has loaded is not this one's
+    desk_.chain.nb_tirages_nuls = 0;
     deck.graph().RenderFile(deck.path);
     start_.set_going(deck, start_of_a_run);
     if (desk_.settings.valide_fichier_aleatoire.is_true()) {

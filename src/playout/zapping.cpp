@@ -162,7 +162,7 @@ void Zapping::hand_over(Deck& old, const std::optional<RowOnAir>& ended) {
     desk_.window.overlap_timer.enable();
     if (!ended)
         return;
-    replace_row(desk_.platform, desk_.list, *ended);
+    document_.change_record(ended->number, ended->record);
     document_.show_changed_record(ended->number);
 }
 

@@ -110,6 +110,10 @@ struct MainMenus : Window {
     [[nodiscard]] std::array<MenuItem*, 4> fade_rules() {
         return {&Active_audio_jingles, &Active_audio, &Active_audio_zapping, &Désactive_audio};
     }
+    /// The visual effect and its two pictures.
+    [[nodiscard]] std::array<MenuItem*, 4> effect_entries() {
+        return {&A_visuel_active, &A_visuel_desactive, &A_affichage1, &A_affichage2};
+    }
     /// Play, special mix and unload of the decks, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> play_entries() { return {&lire_1, &lire_2, &lire_3}; }
     [[nodiscard]] std::array<MenuItem*, 3> special_mix_entries() { return {&Mix1, &Mix2, &Mix3}; }

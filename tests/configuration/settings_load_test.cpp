@@ -52,6 +52,7 @@ constexpr std::array damages{
     Damage{config, "Mix_audio_attenuation", colours_only},
     Damage{config, "valeur_max_jingles", forgotten},
     Damage{config, "Veille_antenne", forgotten},
+    Damage{config, "Ecart_artiste", forgotten},
     Damage{config, "Mix", colours_only},
     Damage{config, "Préchargement", colours_only},
     Damage{config, "Valeur_vitesse_timer", colours_only},

@@ -51,6 +51,7 @@ TEST_F(RunControlTest, NetworkFileIsAcceptedUnseen) {
 
 TEST_F(RunControlTest, MissingFileLosesItsRowAndTheListIsSaved) {
     open_tracks({100, 100, 100});
+    station.chain.lecteur_en_cours = 1;
     machine.disk.Kill(track(2));
     EXPECT_EQ(look_for(track(2)), "");
     EXPECT_EQ(rows().count(), 2);

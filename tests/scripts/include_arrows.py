@@ -36,7 +36,7 @@ STAIRS = {
     "metadata": ["platform"],
     "playlist": ["platform", "state", "metadata"],
     "configuration": ["platform", "state", "windows", "playlist"],
-    "playout": ["platform", "state", "windows", "playlist", "configuration"],
+    "playout": ["platform", "state", "windows", "metadata", "playlist", "configuration"],
     "accessories": ["platform", "state", "windows", "playlist", "configuration", "playout"],
     "station": ["platform", "state", "windows", "playlist", "configuration", "playout", "accessories"],
     "platform/audio": ["platform"],

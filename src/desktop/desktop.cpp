@@ -12,6 +12,7 @@
 #include "accessories/chargement.h"
 #include "accessories/propriete.h"
 #include "desktop/colours.h"
+#include "desktop/draw_view.h"
 #include "desktop/list_view.h"
 #include "desktop/main_view.h"
 #include "desktop/menu_style.h"
@@ -42,6 +43,8 @@ std::unique_ptr<WindowView> view_of(Window& window, const DesktopServices& servi
         return splash_view(*splash, services);
     if (auto* properties = dynamic_cast<Propriete*>(&window))
         return std::make_unique<PropertiesView>(*properties, services);
+    if (auto* draws = dynamic_cast<liste*>(&window))
+        return std::make_unique<DrawView>(*draws, services);
     return form_view(window, services);
 }
 

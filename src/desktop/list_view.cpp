@@ -173,17 +173,18 @@ QWidget* ListView::modes() {
     row->addWidget(new SegmentedChoice{segments});
     row->addStretch(1);
     row->addWidget(headings_[1]);
-    row->addLayout(insertion(window_.jingles_switch, window_.jingles_status, 11, "Insertion de jingles"));
-    row->addLayout(insertion(window_.items_switch, window_.items_status, 8, "Insertion d'une liste"));
+    row->addLayout(insertion(window_.jingles_switch, window_.jingles_status, 17, "Insertion de jingles"));
+    row->addLayout(insertion(window_.items_switch, window_.items_status, 11, "Insertion d'une liste"));
     return modes_;
 }
 
 // The switch says what its words say.
 QLayout* ListView::insertion(Image& image, Label& label, int longest, const char* name) {
     auto* toggle = new Toggle{&content()};
-    toggle->setAccessibleName(name);
     keep(std::make_unique<ToggleBinding>(image, *toggle, services()));
+    binding_of(image)->set_spoken_name(name);
     auto* text = dresser_.label(label, {.type = Type::base, .bold = true, .characters = longest});
+    text->set_pressable(false); // it is a part of the switch
     toggle->take_presses_on(*text);
     binding_of(label)->on_shown = [toggle, text] { toggle->setChecked(text->text().contains(" On")); };
     stops_.push_back(toggle);

@@ -33,6 +33,7 @@ constexpr std::array topics{
     Topic{"Antenne_FM", "Le bureau"},
     Topic{"Liste_son", "La fenêtre liste"},
     Topic{"mini_lecteur", "Le mini lecteur"},
+    Topic{"liste", "L'ordre aléatoire et les insertions"},
     Topic{"Propriete", "Les propriétés d'un titre"},
     Topic{"Form_options", "Les réglages"},
     Topic{"err_form", "Les avertissements"},

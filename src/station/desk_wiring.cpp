@@ -160,10 +160,8 @@ void DeskWiring::answer_for_missing_windows() {
             if (!entry.on_click && !entry.on_open && entry.entries().empty())
                 entry.on_click = answer;
         }
-    Liste_son& list = station_.list_window;
-    for (Image* image : {&station_.main_window.hourly_styles, &list.jingles_switch, &list.items_switch})
-        if (!image->on_click)
-            image->on_click = answer;
+    if (!station_.main_window.hourly_styles.on_click)
+        station_.main_window.hourly_styles.on_click = answer;
 }
 
 void DeskWiring::paint_windows() {

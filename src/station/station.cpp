@@ -13,26 +13,26 @@ Station::Station(const Platform& platform)
       main_window{platform_.scheduler},
       deck_ring{platform_.media, main_window, chain},
       notices{platform_.dialogs, warning_window},
-      desk_display{settings, main_window, list_window, small_player, deck_ring},
+      desk_display{settings, main_window, list_window, small_player, draw_window, deck_ring},
       desk{platform_, settings, list, chain, main_window, list_window, notices, desk_display, deck_ring},
       settings_load{platform_, settings, main_window, list_window, options_window, small_player},
       settings_rewrite{platform_, settings, {[this] { end(); }, [this] { desk_wiring.shutdown.quit_confirmed(); }}},
       record_reading{platform_, list, list_window.rows, [this] { warn_of_null_volume(); }},
-      list_document{platform_, settings, list, list_window},
+      list_document{platform_, settings, list, chain, list_window},
       list_save_dialog{platform_, settings, list, list_window, list_document},
       legacy_list{platform_,     settings,         list,
                   list_document, list_save_dialog, [this] { list_maintenance.verification.prechar(); }},
       journal{platform_, settings, chain, main_window, notices},
-      deck_volume{desk, [this] { list_document.show_changed_record(list.ligne_en_lecture.value()); }},
+      deck_volume{desk, list_document},
       mix_engine{desk, deck_volume},
       deck_loading{desk, deck_volume, mix_engine},
       deck_start{desk, deck_loading, deck_volume, mix_engine, journal},
       deck_transport{desk, deck_loading, deck_start, deck_volume, mix_engine},
       run_control{desk, deck_start, journal},
-      row_cursor{desk, journal, list_document, record_reading, deck_loading},
+      row_cursor{desk, journal, list_document, record_reading, deck_loading, row_draw},
       auto_chain{desk, row_cursor, deck_start, mix_engine, journal, run_control},
       zapping{desk, auto_chain, deck_start, mix_engine, journal, list_document},
-      chain_modes{desk, mix_engine, journal},
+      chain_modes{desk, mix_engine, journal, draw_control},
       list_run{desk, auto_chain, deck_transport, run_control, list_save_dialog, list_document},
       list_rescue{desk, auto_chain, list_run, journal},
       air_watch{desk, journal, list_rescue},
@@ -43,7 +43,9 @@ Station::Station(const Platform& platform)
                   record_reading,
                   {[this](int deck) { return deck_loading.may_be_cut(deck_ring.deck(deck)); },
                    [this](int deck, const DestinationRecord& row) { load_row_on_deck(deck, row); }}},
+      row_listening{desk, row_cursor, deck_loading, mix_engine, list_run},
       list_maintenance{desk, progress_window, record_reading, list_document, list_save_dialog, journal},
+      drawn_rows{desk, journal, list_document, list_maintenance.list, draw_control, draw_tables},
       track_properties{platform_, settings, list, properties_window, list_maintenance.list, record_reading} {
     run_control.end_walks = [this] { auto_chain.cancel_walks(); };
     connect_list_window();
@@ -68,8 +70,8 @@ void Station::end() {
 }
 
 std::vector<Window*> Station::windows() {
-    return {&splash,         &main_window,     &list_window,       &options_window, &small_player,
-            &warning_window, &progress_window, &properties_window, &about_window,   &update_window};
+    return {&splash,          &main_window,       &list_window,  &options_window, &small_player, &warning_window,
+            &progress_window, &properties_window, &about_window, &update_window,  &draw_window};
 }
 
 void Station::connect_list_window() {
@@ -109,6 +111,9 @@ void Station::connect_reading_modes() {
     list_window.A_revenir_couleur.on_click = [this] { settings_rewrite.A_revenir_couleur_Click(); };
     list_window.lect_liste.on_click = [this] { run_control.lect_liste(); };
     list_window.A_a_zapping.on_click = [this] { chain_modes.toggle_list_chain(); };
+    list_window.A_ecoute.on_click = [this] { row_listening.A_ecoute(); };
+    list_window.A_precoute.on_click = [this] { prelisten.A_precoute(); };
+    list_run.draw_first_row = [this] { drawn_rows.random_list.draw_first_row(); };
 }
 
 void Station::connect_timers() {
@@ -129,6 +134,9 @@ void Station::connect_chain_choices() {
     main_window.a_mode_manuel.on_click = [this] { chain_modes.choose_manual_mode(); };
     main_window.a_mode_auto.on_click = [this] { chain_modes.choose_deck_chain(); };
     main_window.a_mode_predefini.on_click = [this] { chain_modes.choose_list_chain(); };
+    main_window.A_ordre_aléatoire.on_click = [this] { chain_modes.choose_order(true); };
+    main_window.A_ordre_continue.on_click = [this] { chain_modes.choose_order(false); };
+    main_window.Afficher_C_aleatoire.on_click = [this] { draw_control.show(); };
     main_window.deck_chain_lamp.on_click = [this] { chain_modes.press_deck_chain_lamp(); };
     main_window.list_chain_lamp.on_click = [this] { chain_modes.press_list_chain_lamp(); };
     main_window.overlap_less.on_click = [this] { mix_engine.shorten_overlap(); };

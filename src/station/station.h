@@ -25,18 +25,23 @@
 #include "playout/deck_volume.h"
 #include "playout/desk.h"
 #include "playout/desk_display.h"
+#include "playout/draw_control.h"
 #include "playout/journal.h"
 #include "playout/list_rescue.h"
 #include "playout/list_run.h"
 #include "playout/mix.h"
 #include "playout/notices.h"
+#include "playout/prelisten.h"
 #include "playout/row_cursor.h"
+#include "playout/row_draw.h"
+#include "playout/row_listening.h"
 #include "playout/run_control.h"
 #include "playout/zapping.h"
 #include "state/chain_state.h"
 #include "state/list_state.h"
 #include "state/station_settings.h"
 #include "station/desk_wiring.h"
+#include "station/drawn_rows.h"
 #include "station/list_maintenance.h"
 #include "windows/antenne_fm.h"
 #include "windows/err_form.h"
@@ -93,6 +98,7 @@ public:
     Chargement splash;
     frmAbout about_window;
     vbplus update_window;
+    liste draw_window;
     DeckRing deck_ring;
     Notices notices;
     DeskDisplay desk_display;
@@ -112,6 +118,9 @@ public:
     DeckStart deck_start;
     DeckTransport deck_transport;
     RunControl run_control;
+    DrawTables draw_tables{platform_.random};
+    DrawControl draw_control{draw_window, draw_tables, list, list_window.rows};
+    RowDraw row_draw{desk, journal, draw_tables, draw_control};
     RowCursor row_cursor;
     AutoChain auto_chain;
     Zapping zapping;
@@ -120,7 +129,10 @@ public:
     ListRescue list_rescue;
     AirWatch air_watch;
     RowToDeck row_to_deck;
+    RowListening row_listening;
+    Prelisten prelisten{desk};
     ListMaintenance list_maintenance;
+    DrawnRows drawn_rows;
     TrackProperties track_properties;
     DeskWiring desk_wiring{*this};
 

@@ -8,9 +8,9 @@
 
 #include "platform/audio/sound_files.h"
 #include "platform/media.h"
-#include "platform/random.h"
 #include "platform/scheduler.h"
 #include "platform/simulated/scripted_dialogs.h"
+#include "platform/simulated/scripted_random.h"
 #include "platform/simulated/simulated_disk.h"
 #include "platform/simulated/simulated_settings.h"
 #include "platform/simulated/simulated_shell.h"
@@ -66,7 +66,7 @@ public:
     SimulatedSettings settings;
     ScriptedDialogs dialogs;
     SimulatedShell shell;
-    Random random{1};
+    ScriptedRandom random{1};
     std::vector<std::pair<Frames, OnAirEvent>> events;
 
 private:

@@ -26,7 +26,7 @@ struct Zap {
 
 std::vector<Zap> first_minute(Verdict verdict) {
     std::vector<Zap> zaps;
-    for (const int option : {1, 3, 4})
+    for (const int option : {1, 2, 3, 4})
         for (const Door door : {Door::key, Door::button})
             for (int second = 1; second <= 60; ++second)
                 if (const Zap zap{option, door, second}; zap.verdict() == verdict)
@@ -57,6 +57,7 @@ protected:
     void zap() {
         if (GetParam().verdict() == Verdict::refused)
             air.dialogs.expect_box("30 secondes minimun sont demandées", Answer::ok);
+        air.random.then({0.5F}); // in random order the second row of three
         if (GetParam().door == Door::key)
             air.station.main_window.key_press(U'z');
         else

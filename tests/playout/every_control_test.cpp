@@ -37,8 +37,7 @@ TEST_F(EveryControl, HasAnAnswer) {
 }
 
 TEST_F(EveryControl, WithoutAWindowYetSaysSo) {
-    for (MenuItem* entry : {&window.pre_char, &window.A_ordre_continue, &window.A_ordre_aléatoire, &window.A_gere,
-                            &station.list_window.A_ecoute, &station.list_window.A_precoute}) {
+    for (MenuItem* entry : {&window.pre_char, &window.A_gere, &station.list_window.A_ecoute_option}) {
         machine.dialogs.expect_box("Cette fenètre n'est pas encore disponible", Answer::ok);
         entry->click();
     }

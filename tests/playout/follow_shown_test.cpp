@@ -160,10 +160,12 @@ TEST_F(ChainChoice, OfAListRoundsTheOverlapThatWasTyped) {
     EXPECT_EQ(window.overlap.text(), "3");
 }
 
-TEST_F(ChainChoice, ByItsLampEndsThePreListening) {
-    list.A_precoute.checked = true;
+TEST_F(ChainChoice, ByItsLampLeavesThePreListeningWithItsMark) {
+    machine.dialogs.expect_input("60");
+    list.A_precoute.click();
     window.list_chain_lamp.click();
-    EXPECT_FALSE(list.A_precoute.checked);
+    EXPECT_TRUE(station.chain.preecoute_active.is_true());
+    EXPECT_TRUE(list.A_precoute.checked);
 }
 
 TEST_F(ChainChoice, OfThePlayerModeEndsTheInsertions) {

@@ -21,6 +21,7 @@ protected:
     void start_in_option() {
         open_tracks({200, 200, 200});
         OptionButton& chosen = option() == 1   ? station.list_window.player_mode
+                               : option() == 2 ? station.list_window.random_mode
                                : option() == 3 ? station.list_window.defined_end_mode
                                                : station.list_window.full_length_mode;
         chosen.click();
@@ -56,7 +57,7 @@ TEST_P(ZapGrid, GoesOverAtOnceOrIsRefusedAndTheAirGoesOn) {
 }
 
 INSTANTIATE_TEST_SUITE_P(FirstMinute, ZapGrid,
-                         testing::Combine(testing::Values(1, 3, 4), testing::Values(Door::key, Door::button),
+                         testing::Combine(testing::Values(1, 2, 3, 4), testing::Values(Door::key, Door::button),
                                           testing::Range(1, 61)),
                          name_of);
 

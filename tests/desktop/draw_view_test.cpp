@@ -1,0 +1,82 @@
+// The control window of the draws, as it is seen.
+#include "desktop/draw_view.h"
+
+#include <QListWidget>
+
+#include "desktop/layout_check.h"
+#include "desktop/whole_desk_fixture.h"
+
+namespace sonarelle {
+
+namespace {
+
+class DrawsOnView : public WholeDesk {
+protected:
+    /// A list in random order at its first load step, and the window.
+    QWidget& show_after_a_draw() {
+        put_list("C:\\Sonarelle\\jour.dfm", 20);
+        machine.dialogs.expect_open("C:\\Sonarelle\\jour.dfm");
+        station.list_window.A_liste.click();
+        station.list_window.random_mode.click();
+        station.list_window.play_list.click();
+        machine.run_for(seconds(190));
+        window.Afficher_C_aleatoire.click();
+        settle();
+        return widget_of(station.draw_window);
+    }
+    [[nodiscard]] QListWidget& list(const ListBox& box) {
+        return *widget_of(station.draw_window).findChild<QListWidget*>(QString::fromStdString(box.name()));
+    }
+};
+
+} // namespace
+
+TEST_F(DrawsOnView, ComeUpByTheirMenuEntry) {
+    EXPECT_TRUE(show_after_a_draw().isVisible());
+}
+
+TEST_F(DrawsOnView, HaveRoomForAllThatIsWritten) {
+    QWidget& view = show_after_a_draw();
+    for (const QSize size : {view.minimumSize(), QSize{1000, 700}}) {
+        view.resize(size);
+        settle();
+        for (const QWidget* part : parts_on_view(view)) {
+            EXPECT_TRUE(is_whole(*part)) << name_of(*part);
+            EXPECT_TRUE(view.rect().contains(place_in(*part, view))) << name_of(*part);
+        }
+    }
+}
+
+TEST_F(DrawsOnView, ShowTheTableAndTheNewestDraw) {
+    show_after_a_draw();
+    EXPECT_EQ(list(station.draw_window.played).count(), 1);
+    QListWidget& draws = list(station.draw_window.draws);
+    ASSERT_GE(draws.count(), 1);
+    EXPECT_EQ(draws.currentRow(), draws.count() - 1);
+    EXPECT_TRUE(draws.item(draws.count() - 1)->text().endsWith(" - Pas Trouvé Ok"));
+}
+
+TEST_F(DrawsOnView, AreSearchedByANumberThatIsTyped) {
+    QWidget& view = show_after_a_draw();
+    auto* number = view.findChild<QLineEdit*>(QString::fromStdString(station.draw_window.number.name()));
+    for (const char* typed : {"7", "1"}) {
+        number->selectAll();
+        QTest::keyClicks(number, typed);
+        settle();
+    }
+    EXPECT_EQ(station.draw_window.finding.text(), "Oui ce nombre existe");
+}
+
+TEST_F(DrawsOnView, TakeTypingInTheNumberAlone) {
+    QWidget& view = show_after_a_draw();
+    for (const QLineEdit* line : view.findChildren<QLineEdit*>())
+        EXPECT_EQ(line->isReadOnly(), line->objectName() != QString::fromStdString(station.draw_window.number.name()));
+}
+
+TEST_F(DrawsOnView, GoByTheirButton) {
+    QWidget& view = show_after_a_draw();
+    press(*view.findChild<QWidget*>(QString::fromStdString(station.draw_window.close.name())));
+    EXPECT_FALSE(view.isVisible());
+}
+
+} // namespace sonarelle

@@ -32,6 +32,13 @@ std::vector<Gesture> gestures_of(const Arguments& arguments, const DriveTable& d
     return read_gestures(in, file, drives);
 }
 
+/// Each list opens, or the failure names it.
+void open_lists(Machine& machine, const Programme& programme) {
+    for (const std::string* list : {&programme.list, &programme.jingles.list, &programme.items.list})
+        if (!list->empty())
+            static_cast<void>(machine.open(*list));
+}
+
 void rehearse(const Call& call) {
     Rehearsal rehearsal;
     rehearsal.programme = programme_of(call.arguments);
@@ -46,7 +53,7 @@ void rehearse(const Call& call) {
     rehearsal.drives = machine.drives();
     rehearsal.gestures = gestures_of(call.arguments, rehearsal.drives);
     rehearsal.stored_settings = machine.settings().all(settings_application);
-    static_cast<void>(machine.open(rehearsal.programme.list));
+    open_lists(machine, rehearsal.programme);
     run_rehearsal(rehearsal, call.out);
 }
 
@@ -60,23 +67,26 @@ void go_on_air(const Call& call) {
     live.told = machine.make_ready(Machine::EmptyStore::is_filled);
     live.drives = machine.drives();
     live.program_folder = machine.program_folder();
-    static_cast<void>(machine.open(live.programme.list));
+    open_lists(machine, live.programme);
     run_on_air(live, machine.settings());
 }
 
-constexpr std::array rehearsal_options{length_option,    mode_option,   seed_option,     setting_option,
-                                       rendering_option, silent_option, gestures_option, picture_option};
-constexpr std::array air_options{length_option,  mode_option,   seed_option,
-                                 setting_option, output_option, journal_option};
+constexpr std::array rehearsal_options{length_option,    mode_option,           seed_option,     setting_option,
+                                       rendering_option, silent_option,         gestures_option, picture_option,
+                                       jingles_option,   jingle_spacing_option, items_option,    item_spacing_option};
+constexpr std::array air_options{length_option, mode_option,        seed_option,    setting_option,
+                                 output_option, journal_option,     jingles_option, jingle_spacing_option,
+                                 items_option,  item_spacing_option};
 
 constexpr std::array commands{
     Command{"repetition",
             "LISTE.dfm [--duree HH:MM:SS] [--rendu AIR.wav] [--sans-son] [--graine N] [--reglage CLE=VALEUR]... "
-            "[--mode liste|pleine|lecteur] [--gestes GESTES.txt] [--image AIR.svg]",
+            "[--mode liste|pleine|aleatoire|lecteur] [--jingles J.dfm --tous N] [--fichiers F.dfm --tous1 N] "
+            "[--gestes GESTES.txt] [--image AIR.svg]",
             rehearsal_options, rehearse},
     Command{"antenne",
-            "LISTE.dfm [--duree HH:MM:SS] [--mode liste|pleine|lecteur] [--reglage CLE=VALEUR]... [--graine N] "
-            "[--sortie NOM|aucune] [--journal]",
+            "LISTE.dfm [--duree HH:MM:SS] [--mode liste|pleine|aleatoire|lecteur] [--jingles J.dfm --tous N] "
+            "[--fichiers F.dfm --tous1 N] [--reglage CLE=VALEUR]... [--graine N] [--sortie NOM|aucune] [--journal]",
             air_options, go_on_air},
 };
 

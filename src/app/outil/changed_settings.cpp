@@ -31,6 +31,7 @@ constexpr std::array ranges{
     Range{"Nb_fichier_aleatoire", 0, 32767},
     Range{"Nb_fichier_aleatoire1", 0, 32767},
     Range{"Veille_antenne", 0, 32767},
+    Range{"Ecart_artiste", 0, 100},
 };
 
 Range range_of(const SettingRow& row) {

@@ -32,6 +32,16 @@ std::string answer_text(const Question& question) {
     }
 }
 
+/// How a row was drawn: from how many, and which were passed over on the way.
+EventWriter::Json draw_of(const OnAirEvent& event, EventWriter::Json row) {
+    EventWriter::Json passed_over = EventWriter::Json::array();
+    for (const PassedOver& each : event.passed_over)
+        passed_over.push_back({{"numero", each.number}, {"raison", std::string{each.reason}}});
+    row["parmi"] = event.among;
+    row["ecartes"] = std::move(passed_over);
+    return row;
+}
+
 std::string line_of(Frames time, std::string_view event, const EventWriter::Json& fields) {
     const std::string head = "{\"t\":" + seconds_text(time) + ",\"evenement\":\"" + std::string{event} + '"';
     return head + (fields.empty() ? "}" : ',' + json_line(fields).substr(1)) + '\n';
@@ -71,8 +81,13 @@ void EventWriter::write(Frames now, const OnAirEvent& event) {
         return line(at, "fondu", deck);
     case Kind::cut:
         return line(at, "coupe", deck);
-    case Kind::inserted:
-        return line(at, "insertion", row);
+    case Kind::drawn:
+        return line(at, "tirage", draw_of(event, row));
+    case Kind::inserted: {
+        Json inserted = draw_of(event, row);
+        inserted["numero"] = event.number;
+        return line(at, "insertion", inserted);
+    }
     case Kind::removed:
         return line(at, "retire", row);
     case Kind::stopped:

@@ -116,7 +116,7 @@ private:
     void start(const std::string& list) {
         begins_at(now());
         open_programme(*station_, dialogs_, live_.programme, list);
-        start_programme(*station_, live_.programme);
+        start_programme(*station_, live_.programme, live_.drives);
         length_ = live_.programme.length.value_or(length_of_list(*station_));
         look_.enable();
     }

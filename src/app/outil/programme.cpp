@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 
 #include "platform/failure.h"
+#include "platform/host/machine_paths.h"
 #include "platform/paths.h"
 #include "platform/simulated/scripted_dialogs.h"
 #include "platform/text.h"
@@ -20,7 +22,7 @@ struct ModeWord {
 };
 
 constexpr std::array mode_words{ModeWord{"liste", ReadingMode::list}, ModeWord{"pleine", ReadingMode::full_length},
-                                ModeWord{"lecteur", ReadingMode::decks}};
+                                ModeWord{"aleatoire", ReadingMode::random}, ModeWord{"lecteur", ReadingMode::decks}};
 
 template <typename Number>
 Number whole_number(std::string_view text, const std::string& option) {
@@ -36,6 +38,31 @@ ReadingMode mode_of(const std::string& word) {
     if (found == mode_words.end())
         throw WrongWords{"mode inconnu : " + word};
     return found->mode;
+}
+
+void expect_list(const std::string& file) {
+    if (extension_of(file) != "dfm")
+        throw Failure{FailureNumber::wrong_file_name, file, "un fichier .dfm est attendu"};
+}
+
+DrawnList drawn_list(const Arguments& arguments, const Option& list, const Option& spacing) {
+    if (arguments.has(list.name) != arguments.has(spacing.name))
+        throw WrongWords{std::string{list.name} + " et " + std::string{spacing.name} + " vont ensemble"};
+    if (!arguments.has(list.name))
+        return {};
+    DrawnList drawn{arguments.value(list.name, ""),
+                    whole_number<int>(arguments.value(spacing.name, ""), std::string{spacing.name})};
+    expect_list(drawn.list);
+    if (drawn.every < 1 || drawn.every > INT16_MAX)
+        throw WrongWords{std::string{spacing.name} + " : un nombre de 1 à " + std::to_string(INT16_MAX) +
+                         " est attendu"};
+    return drawn;
+}
+
+OptionButton& reading_mode(Liste_son& list, ReadingMode mode) {
+    return mode == ReadingMode::list          ? list.defined_end_mode
+           : mode == ReadingMode::full_length ? list.full_length_mode
+                                              : list.random_mode;
 }
 
 void load_decks(Station& station) {
@@ -67,11 +94,15 @@ Programme programme_of(const Arguments& arguments) {
     Programme programme;
     programme.list = arguments.filled_word(0, "LISTE.dfm");
     arguments.expect_at_most(1);
-    if (extension_of(programme.list) != "dfm")
-        throw Failure{FailureNumber::wrong_file_name, programme.list, "un fichier .dfm est attendu"};
+    expect_list(programme.list);
     if (arguments.has(length_option.name))
         programme.length = length_of(arguments.value(length_option.name, ""));
     programme.mode = mode_of(arguments.value(mode_option.name, "liste"));
+    programme.jingles = drawn_list(arguments, jingles_option, jingle_spacing_option);
+    programme.items = drawn_list(arguments, items_option, item_spacing_option);
+    const bool draws = !programme.jingles.list.empty() || !programme.items.list.empty();
+    if (draws && programme.mode == ReadingMode::decks)
+        throw WrongWords{"--jingles et --fichiers demandent une lecture de liste"};
     programme.seed = whole_number<std::uint64_t>(arguments.value(seed_option.name, "1"), "--graine");
     programme.settings = changed_settings(arguments);
     return programme;
@@ -84,12 +115,22 @@ void open_programme(Station& station, ScriptedDialogs& dialogs, const Programme&
         throw Failure{FailureNumber::file_not_found, programme.list, "aucun enregistrement à passer"};
 }
 
-void start_programme(Station& station, const Programme& programme) {
+void start_programme(Station& station, const Programme& programme, const DriveTable& drives) {
     station.list_window.rows.select(1);
     if (programme.mode == ReadingMode::decks)
         return load_decks(station);
-    (programme.mode == ReadingMode::list ? station.list_window.defined_end_mode : station.list_window.full_length_mode)
-        .click();
+    reading_mode(station.list_window, programme.mode).click(); // which switches the items off
+    StationSettings& settings = station.settings;
+    if (!programme.jingles.list.empty()) {
+        settings.chemin_fichier_aleatoire = station_path_of(drives, programme.jingles.list);
+        settings.nb_fichier_aleatoire = programme.jingles.every;
+        station.list_window.jingles_status.click();
+    }
+    if (!programme.items.list.empty()) {
+        settings.chemin_fichier_aleatoire1 = station_path_of(drives, programme.items.list);
+        settings.nb_fichier_aleatoire1 = programme.items.every;
+        station.list_window.items_status.click();
+    }
     station.list_window.play_list.click();
 }
 

@@ -52,7 +52,7 @@ public:
             throw Failure{FailureNumber::type_mismatch, "réglages", "une valeur n'est pas un nombre"};
         time_.event([&] { open_programme(*station_, dialogs_, rehearsal_.programme, list); });
         open_outputs();
-        time_.event([&] { start_programme(*station_, rehearsal_.programme); });
+        time_.event([&] { start_programme(*station_, rehearsal_.programme, folder_.drives()); });
     }
 
     void run() {
@@ -90,6 +90,9 @@ private:
         length_ = rehearsal_.programme.length.value_or(length_of_list(*station_));
         const OutputGuard guard{rehearsal_.rendering, rehearsal_.picture};
         guard.check(rehearsal_.programme.list, "la liste");
+        for (const DrawnList* drawn : {&rehearsal_.programme.jingles, &rehearsal_.programme.items})
+            if (!drawn->list.empty())
+                guard.check(drawn->list, "une liste à tirer");
         const RowTable& rows = station_->list_window.rows;
         for (int row = 1; guard.has_something_to_lose() && row <= rows.count(); ++row) {
             std::string track;

@@ -56,6 +56,13 @@ constexpr std::array hands{
     Hand{"question to quit", 1, &SoakOperator::ask_to_quit},
     Hand{"windows", 3, &SoakOperator::look_around},
     Hand{"a place goes or comes", 5, &SoakOperator::lose_a_place},
+    Hand{"switch of an insertion", 7, &SoakOperator::switch_an_insertion},
+    Hand{"spacing of the insertions", 2, &SoakOperator::choose_spacing},
+    Hand{"order of the rows", 4, &SoakOperator::choose_order},
+    Hand{"control window of the draws", 3, &SoakOperator::repair_the_table},
+    Hand{"row heard over the air", 4, &SoakOperator::listen_to_a_row},
+    Hand{"pre-listen", 2, &SoakOperator::choose_prelisten},
+    Hand{"random list", 1, &SoakOperator::make_a_random_list},
 };
 
 constexpr int sum_of_weights() {

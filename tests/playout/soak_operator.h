@@ -65,6 +65,13 @@ public:
     void ask_to_quit();
     void look_around();
     void lose_a_place();
+    void switch_an_insertion();
+    void choose_spacing();
+    void choose_order();
+    void repair_the_table();
+    void listen_to_a_row();
+    void choose_prelisten();
+    void make_a_random_list();
 
 private:
     void press(char32_t key) { window().key_press(key); }

@@ -39,6 +39,7 @@ constexpr std::array known_messages{
                  "a file that can't be played, where no load step looked at it: a rescue follows"},
     KnownMessage{"Nom de fichier incorrect",
                  "a zap by key after a cancelled \"Charger liste\", which leaves no list file"},
+    KnownMessage{"dans load on liste", "a random list in which the number 0 was drawn, or nothing"},
     KnownMessage{"lecture impossible", "a zap to a file that can't be played: the track on the air goes on"},
     KnownMessage{"Périphérique non disponible", "a zap to a deck whose file's drive is gone"},
     KnownMessage{"Fichier non trouvé /abandon", "a zap to a deck whose file is gone"},
@@ -106,6 +107,10 @@ void SoakOracle::listen() {
     wished_silence_ = world_.is_heard() || own.empty() ? Frames{} : wished_silence_ + milliseconds(listening_period);
     if (wished_silence_ == longest_silence)
         ++silences_[std::string{own}];
+    if (silence_ == Frames{})
+        rule_ = {};
+    else if (const std::string_view rule = silence_of_the_rules(); !rule.empty())
+        rule_ = rule; // a hand that comes to mend it may leave it
     if (silence_ > longest_silence)
         judge_silence();
     if (++half_seconds_ % half_seconds_between_row_checks == 0)
@@ -128,11 +133,26 @@ void SoakOracle::look_at_chain() {
 
 void SoakOracle::judge_silence() {
     if (silence_ == longest_silence + milliseconds(listening_period))
-        ++silences_[stopped_by_fault_ ? "a fault, until the rescue" : "nobody's will"];
-    if (!stopped_by_fault_)
+        ++silences_[stopped_by_fault_ ? "a fault, until the rescue"
+                    : rule_.empty()   ? "nobody's will"
+                                      : std::string{rule_}];
+    if (!stopped_by_fault_ && rule_.empty())
         fail("silence");
     else if (silence_ > longest_to_rescue)
         fail("no rescue");
+}
+
+// With insertions a track that is led past its mix point plays out, and its file's end brings nothing.
+std::string_view SoakOracle::silence_of_the_rules() const {
+    const Station& station = world_.station;
+    const bool list_chain = station.chain.mode_enchainement.is_true() || station.main_window.list_chain_timer.enabled();
+    if (!list_chain || !station.deck_ring.has_main_deck())
+        return {};
+    if (world_.main_deck() == 1 && station.settings.valide_fichier_aleatoire1.is_true())
+        return "the file's end on deck 1 while items are inserted, until the rescue";
+    if (station.chain.ordre_aleatoire.is_true() && station.chain.jingles_aleatoires.is_true())
+        return "the file's end in random order with jingles, until the rescue";
+    return {};
 }
 
 std::string_view SoakOracle::own_silence() {

@@ -46,6 +46,7 @@ private:
     void fail(const std::string& what);
     [[nodiscard]] bool is_paused();
     [[nodiscard]] std::string_view own_choice();
+    [[nodiscard]] std::string_view silence_of_the_rules() const;
 
     SoakWorld& world_;
     Timer timer_;
@@ -53,6 +54,7 @@ private:
     std::map<std::string, int> silences_;
     std::map<std::string, int> messages_;
     std::string cut_by_; // the hand that took the main deck off the air
+    std::string_view rule_; // that has made the silence of now
     bool stopped_by_fault_ = false;
     bool off_by_rule_ = false; // "Désactiver dégradé audio" puts the chain over decks off
     bool in_hand_ = false;

@@ -50,6 +50,11 @@ void SoakWorld::write_settings() {
     store.write_column(&SettingRow::first);
     store.write(setting_section::config, "Load_combo1", soak_short_list);
     store.write(setting_section::config, "Load_combo2", soak_short_list);
+    store.write(setting_section::config, "Chemin_fichier_aleatoire", soak_short_list);
+    store.write(setting_section::config, "Nb_fichier_aleatoire", std::to_string(below(6)));
+    store.write(setting_section::config, "Chemin_fichier_aleatoire1", soak_list);
+    store.write(setting_section::config, "Nb_fichier_aleatoire1", std::to_string(below(3)));
+    store.write(setting_section::config, "Ecart_artiste", std::to_string(below(4)));
     if (happens(60))
         return;
     store.write(setting_section::config, "Mix", std::to_string(1 + below(12)));
@@ -176,6 +181,9 @@ std::string SoakWorld::chain_state() {
     for (const OptionButton* option :
          {&list.player_mode, &list.random_mode, &list.defined_end_mode, &list.full_length_mode})
         text += bit(option->value());
+    text += std::string{" random "} + bit(station.chain.ordre_aleatoire.is_true()) + " jingles " +
+            bit(station.chain.jingles_aleatoires.is_true()) + " items " +
+            bit(station.settings.valide_fichier_aleatoire1.is_true());
     text += std::string{" list chain "} + bit(station.chain.mode_enchainement.is_true()) + " special mix on deck " +
             text_of(station.chain.lecteur_mix_special);
     for (const Timer* timer :

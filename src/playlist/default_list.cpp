@@ -37,15 +37,19 @@ void DefaultList::changed(std::string_view path, const Rewritten& rewritten) {
 
 // Where it can't be kept the save goes on: the rows on the air are worth more.
 void DefaultList::keep_previous() {
-    if (std::exchange(kept_, true) || !state_of(path()))
+    if (std::exchange(kept_, true))
         return;
     ErrorIndicator{}.skip([this] {
+        const std::string place = join_path(platform_.program_folder, previous_list);
+        if (!state_of(path()) ||
+            state_of(place)) // a copy of an earlier run stands: what came behind it are the runs' own
+            return;
         const auto before = platform_.disk.open(path());
         std::vector<std::byte> bytes(static_cast<std::size_t>(before->length()));
         bytes.resize(before->read(0, bytes));
         if (bytes.empty())
             return;
-        const auto kept = platform_.disk.replace(join_path(platform_.program_folder, previous_list));
+        const auto kept = platform_.disk.replace(place);
         kept->write(bytes);
         kept->commit();
     });

@@ -96,8 +96,8 @@ struct Liste_son : Window {
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
     /// What lists in a fixed order offer beside the pre-listen: lists to open, to make and to convert.
-    [[nodiscard]] std::array<MenuItem*, 4> entries_of_a_fixed_order() {
-        return {&A_liste, &A_liste_anciene, &creer_aleatoire, &Convertion};
+    [[nodiscard]] std::array<MenuItem*, 5> entries_of_a_fixed_order() {
+        return {&A_liste, &A_Charge, &A_liste_anciene, &creer_aleatoire, &Convertion};
     }
     /// The entries that need a list, and stand disabled until there is one.
     [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();

@@ -1,6 +1,7 @@
 #include "playout/air_view.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "platform/clock.h"
 #include "platform/failure.h"
@@ -49,7 +50,7 @@ RowToCome row_behind(const RowTable& rows, const RowToCome& before, const IsMiss
     int row = before.row;
     RowToCome next;
     for (int looked_at = 0; looked_at < std::min(rows.count(), rows_looked_at); ++looked_at) {
-        row = row < rows.count() ? row + 1 : 1;
+        row = row < std::min<int>(rows.count(), INT16_MAX) ? row + 1 : 1;
         const std::string& path = rows.text(row);
         if (path == before.path)
             continue;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "playout/desk.h"
@@ -13,12 +14,14 @@ public:
         : desk_{desk} {}
 
     /// Whether a file is of an artist who was started within as many starts as the settings say.
-    [[nodiscard]] bool comes_too_soon(const std::string& path) const;
+    [[nodiscard]] bool comes_too_soon(const std::string& path);
 
 private:
-    [[nodiscard]] std::string artist_of(const std::string& path) const;
+    [[nodiscard]] const std::string& artist_of(const std::string& path);
+    [[nodiscard]] std::string read_artist(const std::string& path) const;
 
     Desk& desk_;
+    std::map<std::string, std::string> artists_; // by path: a draw mustn't open a hundred files
 };
 
 } // namespace sonarelle

@@ -128,10 +128,7 @@ void ChainModes::read_overlap() {
 }
 
 void ChainModes::choose_player_mode() {
-    clear_insertions();
-    desk_.settings.valide_fichier_aleatoire = false;
-    desk_.display.insertions_off();
-    desk_.chain.jingles_aleatoires = false;
+    end_insertions();
     desk_.chain.preecoute_active = false;
     enter(running_mode::read_decks);
     check_entries(desk_.window.a_mode_auto);
@@ -143,6 +140,13 @@ void ChainModes::choose_player_mode() {
         desk_.window.visible = true; // from which the decks are played
     if (desk_.ring.has_main_deck())
         show_end_point(desk_.ring.main_deck().duree_piste);
+}
+
+void ChainModes::end_insertions() {
+    clear_insertions();
+    desk_.settings.valide_fichier_aleatoire = false;
+    desk_.display.insertions_off();
+    desk_.chain.jingles_aleatoires = false;
 }
 
 void ChainModes::clear_insertions() {
@@ -199,6 +203,7 @@ void ChainModes::choose_order(bool random) {
     if (!random && list.random_mode.value())
         return list.defined_end_mode.set_value(true);
     take_order(random);
+    desk_.display.prelisten_offered(!random && desk_.chain.mode_enchainement.is_true());
     if (random)
         desk_.chain.jingles_aleatoires = desk_.settings.valide_fichier_aleatoire;
     journal_.note_of_list_window(date_and_time(desk_.platform) + (random ? " Lecture aléatoire" : " Lecture continue"));
@@ -206,8 +211,23 @@ void ChainModes::choose_order(bool random) {
 
 // What random order has closed opens again on every way out of it.
 void ChainModes::take_order(bool random) {
+    if (desk_.chain.ordre_aleatoire.is_true() != random)
+        desk_.give_prepared_row_up();
     desk_.chain.ordre_aleatoire = random;
     desk_.display.order_is(random);
+    if (!random && desk_.list_window.random_mode.value())
+        leave_random_mode();
+}
+
+// A choice that isn't made in the list window: its modes show what is read, and can be chosen anew.
+void ChainModes::leave_random_mode() {
+    Liste_son& list = desk_.list_window;
+    const bool reads_list = desk_.chain.mode_enchainement.is_true();
+    list.random_mode.show_value(false);
+    if (reads_list)
+        list.defined_end_mode.show_value(true);
+    desk_.display.light_switch(list.random_lamp, false);
+    desk_.display.light_switch(list.defined_end_lamp, reads_list);
 }
 
 void ChainModes::note(const ReadingModeWords& words) {
@@ -255,6 +275,7 @@ void ChainModes::press_list_key() {
 
 void ChainModes::press_deck_chain_lamp() {
     choose_deck_chain();
+    end_insertions(); // also where the decks are read already
     for (Timer* timer : {&desk_.window.jingle_timer, &desk_.window.item_timer})
         timer->disable();
     desk_.window.overlap_timer.enable();

@@ -49,9 +49,11 @@ private:
     void choose_list_mode(const RunningMode& mode, const ReadingModeWords& words);
     void choose_list_order(const ReadingModeWords& words, Image& lamp);
     void take_order(bool random);
+    void leave_random_mode();
     void note(const ReadingModeWords& words);
     /// Where the list would go on with rows that are drawn from another one, and none is named.
     void tell_missing_source();
+    void end_insertions();
     void clear_insertions();
     void show_end_point(const std::string& text);
     void read_overlap();

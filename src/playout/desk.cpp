@@ -23,6 +23,12 @@ bool Desk::list_runs() const {
            equal_ignoring_case(list_window.rows.text(row), ring.main_deck().path);
 }
 
+void Desk::give_prepared_row_up() const {
+    if (chain.choix_prepare.is_true() && list.ligne_en_lecture > 0)
+        list.index_en_cours = list.ligne_en_lecture;
+    chain.choix_prepare = chain.chargement_fait = false;
+}
+
 void Desk::report_loaded(const Deck& deck) const {
     report({.kind = OnAirEvent::Kind::loaded,
             .deck = deck.number(),

@@ -45,6 +45,8 @@ struct Desk {
     [[nodiscard]] bool list_runs() const;
     /// The list can be started while it doesn't run.
     void show_list_start() const;
+    /// The row that was drawn or loaded ahead isn't the one to come: the chain goes on from the one that plays.
+    void give_prepared_row_up() const;
     /// Reports that a deck holds the current row's file.
     void report_loaded(const Deck& deck) const;
 };

@@ -135,6 +135,8 @@ public:
     void list_can_be_stopped() const;
     void prelisten_offered(bool offered) const { list_.A_precoute.enabled = offered; }
     void prelisten_is(bool on) const { list_.A_precoute.checked = on; }
+    /// Draws that hit what was drawn before.
+    void null_draws(int count) const { draws_.null_draws.caption = std::to_string(count); }
     /// In random order the list isn't changed by hand, and nothing is shown of the sound.
     void order_is(bool random) const;
     void list_stopped() const;

@@ -25,10 +25,12 @@ std::vector<std::string> texts_of(const std::vector<int>& numbers) {
 
 } // namespace
 
-DrawControl::DrawControl(liste& window, DrawTables& tables, const ListState& list, const RowTable& rows)
+DrawControl::DrawControl(liste& window, DrawTables& tables, const ListState& list, ChainState& chain,
+                         const RowTable& rows)
     : window_{window},
       tables_{tables},
       list_{list},
+      chain_{chain},
       rows_{rows} {
     window_.on_unload_request = window_.close.on_click = [this] { window_.hide(); };
     window_.reload.on_click = [this] { reload(); };
@@ -60,9 +62,7 @@ void DrawControl::clear_lists() {
 }
 
 void DrawControl::show_table(Lists which, const DrawTable& table, int barred) {
-    Pair& lists = pair(which);
-    lists.table = &table;
-    fill(lists);
+    pair(which).table = &table; // which the log shows, once a draw
     if (which == Lists::of_list)
         window_.number.set_text(std::to_string(barred));
     show_total();
@@ -129,19 +129,25 @@ void DrawControl::show_total() {
     window_.total.caption = std::to_string(of_list_.table == nullptr ? 0 : of_list_.table->entries().size());
 }
 
+void DrawControl::forget_null_draws() {
+    chain_.nb_tirages_nuls = 0;
+    window_.null_draws.caption = "0";
+}
+
+// In the table that is shown.
 void DrawControl::search() {
     const std::string& text = window_.number.text();
     int number = 0;
     const bool is_number = std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc{};
-    window_.finding.set_text(is_number && number >= 0 && tables_.deja_lu.holds(number) ? std::string{number_found}
-                                                                                       : "");
+    const DrawTable& table = of_list_.table == nullptr ? tables_.deja_lu : *of_list_.table;
+    window_.finding.set_text(is_number && number >= 0 && table.holds(number) ? std::string{number_found} : "");
 }
 
 void DrawControl::reload() {
     of_list_.table = &tables_.deja_lu;
     fill(of_list_);
     show_total();
-    null_draws(0);
+    forget_null_draws();
 }
 
 // The table itself stays: the next draw shows it again.
@@ -149,7 +155,7 @@ void DrawControl::press_clear_lists() {
     clear_lists();
     window_.finding.set_text("");
     show_total();
-    null_draws(0);
+    forget_null_draws();
 }
 
 void DrawControl::press_clear_table() {
@@ -159,7 +165,7 @@ void DrawControl::press_clear_table() {
     window_.number.set_text("1");
     window_.finding.set_text("");
     show_total();
-    null_draws(0);
+    forget_null_draws();
 }
 
 void DrawControl::add_current() {

@@ -7,6 +7,7 @@
 
 #include "platform/row_table.h"
 #include "playlist/draw_table.h"
+#include "state/chain_state.h"
 #include "state/list_state.h"
 #include "windows/draw_window.h"
 
@@ -26,7 +27,7 @@ public:
     /// The two pairs of lists: of the list's rows and items, and of the jingles.
     enum class Lists { of_list, of_jingles };
 
-    DrawControl(liste& window, DrawTables& tables, const ListState& list, const RowTable& rows);
+    DrawControl(liste& window, DrawTables& tables, const ListState& list, ChainState& chain, const RowTable& rows);
 
     void show();
     /// Names what is drawn: rows in random order, items, or jingles.
@@ -39,7 +40,6 @@ public:
     void log(Lists which, const Draw& draw, const DrawWords& words);
     /// Lines of the log of their own.
     void log(Lists which, const std::vector<std::string>& lines);
-    void null_draws(int count) { window_.null_draws.caption = std::to_string(count); }
 
     void rows_to_draw(int rows);
     /// What a draw of a row, or of a record of a list file, has come to in the end. `every` as "… tous les 3 fich..".
@@ -59,6 +59,7 @@ private:
     [[nodiscard]] Pair& pair(Lists which) { return which == Lists::of_list ? of_list_ : of_jingles_; }
     void fill(Pair& pair);
     void show_total();
+    void forget_null_draws();
     void search();
     void reload();
     void press_clear_lists();
@@ -68,6 +69,7 @@ private:
     liste& window_;
     DrawTables& tables_;
     const ListState& list_;
+    ChainState& chain_;
     const RowTable& rows_;
     Pair of_list_{window_.played, window_.draws, nullptr, {}};
     Pair of_jingles_{window_.jingles_played, window_.jingle_draws, nullptr, {}};

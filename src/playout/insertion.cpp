@@ -64,7 +64,7 @@ Insertion::Insertion(const InsertionRule& rule, Desk& desk, ListDocument& docume
 }
 
 void Insertion::press_switch() {
-    if (!names_a_source(desk_.settings.*rule_.source)) {
+    if (!is_on() && !names_a_source(desk_.settings.*rule_.source)) {
         desk_.platform.dialogs.MsgBox(
             {std::string{rule_.missing_lines}, std::string{rule_.missing_title}, Buttons::ok, Icon::information});
         return;
@@ -75,6 +75,7 @@ void Insertion::press_switch() {
 }
 
 void Insertion::set_on(bool on) {
+    desk_.give_prepared_row_up();
     desk_.settings.*rule_.on = on;
     (desk_.window.*rule_.timer).set_enabled(on);
     end_flash();
@@ -135,7 +136,7 @@ void Insertion::try_to_insert() {
         insert_one();
         trouble_told_ = false;
     } catch (const Failure& failure) {
-        tell_trouble(failure);
+        tell_trouble(failure.what());
     }
     if (rule_.counts)
         desk_.chain.*rule_.counter = 0;
@@ -143,15 +144,15 @@ void Insertion::try_to_insert() {
         desk_.chain.demande_ajout = false;
 }
 
-void Insertion::tell_trouble(const Failure& failure) {
+void Insertion::tell_trouble(const std::string& reason) {
     if (!std::exchange(trouble_told_, true))
-        desk_.notices.warn(desk_.settings.*rule_.source + "\n" + failure.what() + "\nRien n'est inséré dans la liste");
+        desk_.notices.warn(desk_.settings.*rule_.source + "\n" + reason + "\nRien n'est inséré dans la liste");
 }
 
-// The chain's numbers of rows are full then.
+/// @throws Failure when nothing can be inserted.
 void Insertion::insert_one() {
     if (desk_.row_count() >= INT16_MAX)
-        return;
+        throw Failure{FailureNumber::overflow, {}, "La liste a " + std::to_string(INT16_MAX) + " lignes"};
     if (const int selected = desk_.list_window.rows.selected(); selected > 0)
         desk_.list.index_en_cours = selected;
     // What was drawn is given up for the record, which comes next.
@@ -162,11 +163,13 @@ void Insertion::insert_one() {
     const std::string before = current >= 1 && current <= desk_.row_count() ? desk_.list_window.rows.text(current) : "";
     const std::optional<DrawnRecord> drawn = draws_.draw(path, source_, before);
     if (!drawn)
-        return;
+        throw Failure{FailureNumber::wrong_record_number, {}, "Aucun enregistrement à tirer"};
     show(*drawn);
     const int row = current + 1;
     document_.edits.insert(row, row_of(drawn->record, desk_.platform.decimal_mark));
     document_.save_by_itself();
+    if (!rule_.counts)
+        desk_.chain.chemin_ajoute = drawn->record.trimmed_chemin();
     desk_.report({.kind = OnAirEvent::Kind::inserted,
                   .row = row,
                   .path = drawn->record.trimmed_chemin(),

@@ -10,8 +10,6 @@
 
 namespace sonarelle {
 
-struct Failure;
-
 /// What one of the two insertions goes by: jingles after so many tracks, list items at each start in random order.
 struct InsertionRule {
     Flag StationSettings::*on;
@@ -58,7 +56,7 @@ private:
     void try_to_insert();
     void insert_one();
     void show(const DrawnRecord& drawn);
-    void tell_trouble(const Failure& failure);
+    void tell_trouble(const std::string& reason);
 
     const InsertionRule& rule_;
     Desk& desk_;

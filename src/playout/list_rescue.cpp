@@ -1,6 +1,7 @@
 #include "playout/list_rescue.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "platform/calendar_text.h"
 #include "platform/clock.h"
@@ -37,8 +38,8 @@ bool ListRescue::is_needed() const {
 
 bool ListRescue::stands_still() const {
     const bool list_chain = desk_.chain.mode_enchainement.is_true() || desk_.window.list_chain_timer.enabled();
-    return list_chain && desk_.ring.has_main_deck() &&
-           desk_.ring.main_deck().is_at_its_end() && (!chain_.list_chain.looks_for_a_row() || has_another_file());
+    return list_chain && desk_.ring.has_main_deck() && desk_.ring.main_deck().is_at_its_end() &&
+           (!chain_.list_chain.looks_for_a_row() || has_another_file());
 }
 
 // A list of one file only waits for another one.
@@ -66,7 +67,7 @@ void ListRescue::try_next_row(Frames silent_for) {
 }
 
 int ListRescue::next_row_that_opens() {
-    const int rows = desk_.row_count();
+    const int rows = std::min<int>(desk_.row_count(), INT16_MAX); // those that the chain can number
     for (int looked_at = 0; looked_at < std::min(rows, rows_of_a_try); ++looked_at) {
         row_ = row_ >= 0 && row_ < rows ? row_ + 1 : 1;
         if (run_.can_be_played(desk_.list_window.rows.text(row_)))

@@ -21,7 +21,7 @@ struct OnAirEvent {
         started,
         fade_began,
         cut,
-        drawn, ///< A row, or a record to insert.
+        drawn, ///< A row, in random order.
         inserted,
         removed,
         stopped,

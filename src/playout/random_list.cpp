@@ -29,7 +29,7 @@ void RandomList::load_on() {
     const std::string& path = desk_.settings.chemin_fichier_aleatoire1;
     const std::optional<DrawnRecord> drawn = draws_.draw(path, source_, {});
     if (!drawn)
-        return;
+        return desk_.notices.inform(path + "\nAucun enregistrement à tirer");
     const std::string every = "Fichier aléatoire tous les " + text_of(desk_.settings.nb_fichier_aleatoire1) + " fich..";
     control_.item_drawn(drawn->number, drawn->records, every, path);
     document_.edits.insert(desk_.row_count() + 1, row_of(drawn->record, desk_.platform.decimal_mark));
@@ -95,10 +95,16 @@ void RandomList::draw_first_row() {
     if (!desk_.chain.ordre_aleatoire.is_true() || !desk_.chain.jingles_aleatoires.is_true())
         return;
     ask_for_source();
+    if (!names_a_source(desk_.settings.chemin_fichier_aleatoire1))
+        return;
     switch_items_on();
     RowTable& rows = desk_.list_window.rows;
     const int selected = rows.selected();
-    ErrorIndicator{}.skip([this] { load_on(); });
+    try {
+        load_on();
+    } catch (const Failure& failure) {
+        desk_.notices.inform(desk_.settings.chemin_fichier_aleatoire1 + "\n" + failure.what());
+    }
     if (rows.count() > 0) // the save has selected the row that the chain was on
         rows.select(std::max(selected, 1));
 }

@@ -17,7 +17,7 @@ public:
     RandomList(Desk& desk, ListDocument& document, ListAtWork& list, SourceDraw& draws, DrawControl& control,
                DrawTable& deja_tires);
 
-    /// Appends one row, drawn from the list of the items. Nothing comes of a list without records.
+    /// Appends one row, drawn from the list of the items. A list without records is told.
     void load_on();
     /// Asks for a list and appends as many rows as it has records. What fails is told, and leaves the rows that have
     /// come so far.

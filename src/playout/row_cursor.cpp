@@ -42,8 +42,13 @@ bool RowCursor::take_drawn_row(DrawPlace place) {
 }
 
 void RowCursor::draw_any_row() {
-    desk_.list.index_en_cours = draw_any(desk_.platform.random, {1, std::min<int>(desk_.row_count(), INT16_MAX)});
+    const int rows = std::min<int>(desk_.row_count(), INT16_MAX);
+    desk_.list.index_en_cours = draw_any(desk_.platform.random, {1, rows});
     take_current_row();
+    desk_.report({.kind = OnAirEvent::Kind::drawn,
+                  .row = desk_.list.index_en_cours.value(),
+                  .path = desk_.list.chemin_fichier,
+                  .among = rows});
 }
 
 RowCursor::Place RowCursor::place() const {
@@ -133,7 +138,8 @@ void RowCursor::note_passed_over(std::string_view why) {
 void RowCursor::remove_row() {
     const int row = desk_.list.index_en_cours.value();
     document_.edits.remove(row);
-    desk_.chain.demande_ajout = true; // it may have been the item that came for this track
+    if (desk_.list.chemin_fichier == desk_.chain.chemin_ajoute)
+        desk_.chain.demande_ajout = true; // another one is to come in its stead
     document_.save_by_itself();
     desk_.report({.kind = OnAirEvent::Kind::removed, .row = row, .path = desk_.list.chemin_fichier});
     report_missing("Recherche de fichier valide ",

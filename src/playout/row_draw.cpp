@@ -44,6 +44,7 @@ std::optional<int> RowDraw::draw(DrawPlace place) {
     const int playing = desk_.list.index_en_cours.value();
     if (tables_.deja_lu.bar(playing, rows)) {
         desk_.chain.nb_tirages_nuls = 0;
+        desk_.display.null_draws(0);
         control_.begin_cycle(of_list);
     }
     control_.show_table(of_list, tables_.deja_lu, playing);
@@ -72,7 +73,7 @@ void RowDraw::count_null_draws(int hits) {
     Integer& counter = desk_.chain.nb_tirages_nuls;
     const int sum = counter.value() + std::min<int>(hits, INT16_MAX);
     counter = std::min<int>(sum, INT16_MAX);
-    control_.null_draws(counter.value());
+    desk_.display.null_draws(counter.value());
     if (sum > INT16_MAX && !std::exchange(desk_.chain.null_draws_noted, true))
         journal_.note("Tirages nuls : " + std::string{failure_description(FailureNumber::overflow)});
 }

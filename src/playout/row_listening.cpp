@@ -1,7 +1,10 @@
 #include "playout/row_listening.h"
 
+#include <cstdint>
+
 #include "platform/disk.h"
 #include "platform/failure.h"
+#include "playout/air_view.h"
 
 namespace sonarelle {
 
@@ -35,19 +38,38 @@ void RowListening::A_ecoute() {
     const int selected = desk_.list_window.rows.selected();
     if (selected == 0)
         return;
+    if (const std::string refusal = why_not(selected); !refusal.empty())
+        return desk_.notices.inform(refusal);
     if (!desk_.ring.has_main_deck()) {
         run_.stop_decks();
         return run_.play_list();
     }
-    Deck& deck = desk_.ring.before(desk_.ring.main_deck());
-    if (deck.sounds())
-        return desk_.notices.inform("Le lecteur " + deck.name() +
-                                    " est encore à l'antenne\nLe morceau peut etre lu quand il s'est tu");
-    if (desk_.chain.lecteur_mix_special != 0)
-        return desk_.notices.inform("Un mixage spécial est en cours\nLe morceau peut etre lu quand il est fini");
-    ErrorIndicator{}.skip([&] { listen_to(cursor_.record_of(selected), deck); });
+    const Integer drawn = desk_.list.index_en_cours; // where random order has made a row ready
+    ErrorIndicator{}.skip([&] { listen_to(cursor_.record_of(selected), free_deck()); });
     run_.show_playing_row();
-    desk_.list.index_en_cours = desk_.list.ligne_en_lecture;
+    desk_.list.index_en_cours = desk_.chain.choix_prepare.is_true() ? drawn : desk_.list.ligne_en_lecture;
+}
+
+Deck& RowListening::free_deck() const {
+    return desk_.ring.before(desk_.ring.main_deck());
+}
+
+std::string RowListening::why_not(int row) const {
+    if (row > INT16_MAX)
+        return "La ligne " + std::to_string(row) + " ne peut pas être lue\nLa lecture va jusqu'à la ligne " +
+               std::to_string(INT16_MAX);
+    if (desk_.is_manual())
+        return "En mode manuel le morceau se lit sur un lecteur\nAucun enchainement ne finirait son mixage";
+    if (!desk_.ring.has_main_deck())
+        return {};
+    const Deck& deck = free_deck();
+    if (deck.sounds())
+        return "Le lecteur " + deck.name() + " est encore à l'antenne\nLe morceau pourra être lu quand il se sera tu";
+    if (desk_.chain.lecteur_mix_special != 0)
+        return "Un mixage spécial est en cours\nLe morceau pourra être lu quand il sera fini";
+    if (desk_.mixes_titles() && role_of(desk_, deck) == DeckRole::loaded)
+        return "Le lecteur " + deck.name() + " attend son tour avec un fichier\nDéchargez-le pour lire ce morceau";
+    return {};
 }
 
 void RowListening::listen_to(const DestinationRecord& row, Deck& deck) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "playout/desk.h"
 #include "playout/list_run.h"
 #include "playout/mix.h"
@@ -18,11 +20,14 @@ public:
           mix_{mix},
           run_{run} {}
 
-    /// With no deck on the air the list starts with the row. Refused, in words, while the free deck is still heard or
-    /// another special mix runs.
+    /// With no deck on the air the list starts with the row. Refused, in words, by hand, while the free deck is still
+    /// heard or waits for its turn, and while another special mix runs.
     void A_ecoute();
 
 private:
+    /// The deck that the chain doesn't need; there is a main one.
+    [[nodiscard]] Deck& free_deck() const;
+    [[nodiscard]] std::string why_not(int row) const;
     void listen_to(const DestinationRecord& row, Deck& deck);
 
     Desk& desk_;

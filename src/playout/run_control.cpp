@@ -45,10 +45,12 @@ void RunControl::start_first_deck() {
     desk_.chain.lecteur_en_cours = 1;
     desk_.chain.chargement_fait = desk_.chain.choix_prepare = false; // what a run before has loaded is not this one's
     desk_.chain.nb_tirages_nuls = 0;
+    desk_.display.null_draws(0);
     deck.graph().RenderFile(deck.path);
     start_.set_going(deck, start_of_a_run);
     if (desk_.settings.valide_fichier_aleatoire.is_true()) {
         desk_.chain.compteur_aleatoire = 1;
+        desk_.window.jingle_timer.enable();
         desk_.chain.index_debut_aleatoire = desk_.list.index_en_cours;
     }
     if (desk_.settings.valide_fichier_aleatoire1.is_true()) {

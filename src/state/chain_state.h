@@ -56,11 +56,12 @@ struct ChainState {
     Integer lecteur_mix_special; ///< The deck of the special mix; 0 for none.
     Integer compteur_aleatoire;  ///< Tracks started since the last jingle.
     Integer compteur_aleatoire1;
-    Integer nb_tirages_nuls;       ///< Draws that hit a row played before, in this run and cycle.
-    bool null_draws_noted = false; ///< The journal has that they are more than a counter holds.
+    Integer nb_tirages_nuls;               ///< Draws that hit a row played before, in this run and cycle.
+    bool null_draws_noted = false;         ///< The journal has that they are more than a counter holds.
     std::deque<std::string> started_paths; ///< Files of the last starts, the newest one last.
     static constexpr std::size_t most_started_paths = 100;
-    Flag demande_ajout;            ///< A track has started since the last insertion of a list item.
+    std::string chemin_ajoute; ///< Path of the list item that was inserted last.
+    Flag demande_ajout;        ///< A track has started since the last insertion of a list item.
 
     AirState air = AirState::off;
     Frames air_since;                   ///< When it left `off`.

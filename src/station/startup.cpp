@@ -106,6 +106,7 @@ void Startup::read_settings() {
     parts_.load.Chargement_parametres();
     parts_.list.mode_insertion = 2;
     parts_.desk.chain.chaine_suspendue = false;
+    parts_.desk.display.effects_offered(!settings_.valide_fichier_aleatoire1.is_true());
     window_.chain_status.caption = "Lecture en attente";
     window_.list_chain_timer.set_interval(settings_.valeur_vitesse_timer);
 }

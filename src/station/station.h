@@ -119,7 +119,7 @@ public:
     DeckTransport deck_transport;
     RunControl run_control;
     DrawTables draw_tables{platform_.random};
-    DrawControl draw_control{draw_window, draw_tables, list, list_window.rows};
+    DrawControl draw_control{draw_window, draw_tables, list, chain, list_window.rows};
     RowDraw row_draw{desk, journal, draw_tables, draw_control};
     RowCursor row_cursor;
     AutoChain auto_chain;

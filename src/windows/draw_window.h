@@ -18,9 +18,9 @@ struct liste : Window {
         add_current.hint = "Chargement  manuel dans le tableau du fichier en cours";
     }
 
-    Label heading{*this, "Label1"}; ///< Of what the draws are.
-    ListBox played{*this, "List1"}; ///< The numbers that were drawn already.
-    ListBox draws{*this, "List2"};  ///< The log of the draws.
+    Label heading{*this, "Label1", "Lecture aléatoire"}; ///< Of what the draws are.
+    ListBox played{*this, "List1"};                      ///< The numbers that were drawn already.
+    ListBox draws{*this, "List2"};                       ///< The log of the draws.
     Label total_index{*this, "Label2", "Total index ( 0)"};
     Label total{*this, "Label3", "0"};      ///< How many were drawn already.
     Label null_draws{*this, "Label4", "0"}; ///< Draws of rows that had been played.
@@ -29,13 +29,13 @@ struct liste : Window {
     TextBox drawn{*this, "Text3"};          ///< The draw.
     Label file{*this, "Label5"};            ///< The list that is drawn from.
 
-    Label jingles_heading{*this, "Label6"};
+    Label jingles_heading{*this, "Label6", "Jingles"};
     ListBox jingles_played{*this, "List3"};
     ListBox jingle_draws{*this, "List4"};
     Label jingle_name{*this, "Label7"};
-    Label jingle_index{*this, "Label8"};  ///< How many records the jingles' list has.
-    Label jingle_total{*this, "Label9"};  ///< How many of them were drawn already.
-    Label jingle_every{*this, "Label10"}; ///< After how many tracks one comes.
+    Label jingle_index{*this, "Label8"};      ///< How many records the jingles' list has.
+    Label jingle_total{*this, "Label9", "0"}; ///< How many of them were drawn already.
+    Label jingle_every{*this, "Label10"};     ///< After how many tracks one comes.
     Label jingle_file{*this, "Label11"};
     TextBox jingle_drawn{*this, "Text4"};
 

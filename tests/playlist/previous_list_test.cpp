@@ -32,6 +32,13 @@ TEST_F(PreviousList, IsKeptOnce) {
     EXPECT_EQ(kept(), bytes_of(record_of("C:\\avant.mp3")));
 }
 
+TEST_F(PreviousList, StandsOverTheRunsThatFollow) {
+    machine.disk.put_file(kept_name, "d'hier");
+    open_another();
+    station.list_document.sauve_tout();
+    EXPECT_EQ(kept(), "d'hier");
+}
+
 TEST_F(PreviousList, IsNotKeptOfItsOwnRows) {
     station.list_window.A_liste_anciene.click();
     station.list_document.sauve_tout();

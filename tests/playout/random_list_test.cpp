@@ -147,6 +147,15 @@ TEST_F(RandomListTest, WithoutAListOfMusicANoSaysThatNoneIsLoaded) {
     EXPECT_TRUE(station.chain.ordre_aleatoire.is_true());
 }
 
+TEST_F(RandomListTest, OfMusicWithoutARecordIsTold) {
+    open_tracks({100, 100});
+    station.settings.chemin_fichier_aleatoire1 = put_source("music", 1);
+    choose_random_with_jingles();
+    machine.dialogs.expect_box("Aucun enregistrement à tirer", Answer::ok);
+    list().play_list.click();
+    EXPECT_EQ(machine.media.on_air(), Texts{track(1)});
+}
+
 TEST_F(RandomListTest, ACancelledDialogLeavesTheNameAsItWas) {
     open_tracks({100, 100});
     switch_jingles_on(put_source("jingle", 5, 10), 3);
@@ -155,6 +164,7 @@ TEST_F(RandomListTest, ACancelledDialogLeavesTheNameAsItWas) {
     machine.dialogs.expect_cancel();
     list().play_list.click();
     EXPECT_EQ(station.settings.chemin_fichier_aleatoire1, "Aucun fichier");
+    EXPECT_FALSE(station.settings.valide_fichier_aleatoire1.is_true());
     EXPECT_EQ(machine.media.on_air(), Texts{track(1)});
 }
 

@@ -55,6 +55,36 @@ TEST_F(ReadingModes, EveryWayOutOfRandomOrderOpensThemAgain) {
     }
 }
 
+TEST_F(ReadingModes, LeftByTheMenuCanBeChosenAgain) {
+    for (MenuItem* way : {&window().a_mode_predefini, &window().a_mode_auto, &window().A_ordre_continue}) {
+        list().random_mode.click();
+        way->click();
+        EXPECT_FALSE(list().random_mode.value());
+        EXPECT_EQ(list().random_lamp.picture.get(), "bouton_off.jpg");
+        list().random_mode.click();
+        EXPECT_TRUE(station.chain.ordre_aleatoire.is_true()) << way->name();
+    }
+}
+
+TEST_F(ReadingModes, LeftBehindTheLoadStepGoOnFromTheRowThatPlays) {
+    list().random_mode.click();
+    list().play_list.click();
+    machine.random.then({0.9F});
+    machine.run_for(seconds(88));
+    ASSERT_EQ(station.list.index_en_cours, 3);
+    list().defined_end_mode.click();
+    machine.run_for(seconds(10));
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(ReadingModes, LampOfTheDecksEndsTheInsertionsWhereTheDecksAreReadAlready) {
+    list().player_mode.click();
+    switch_jingles_on(put_source("jingle", 5, 10), 3);
+    window().deck_chain_lamp.click();
+    EXPECT_FALSE(station.settings.valide_fichier_aleatoire.is_true());
+    EXPECT_EQ(list().jingles_switch.picture.get(), "bouton_off.jpg");
+}
+
 TEST_F(ReadingModes, LightTheirLamp) {
     const std::array<std::pair<OptionButton*, Image*>, 4> modes{{{&list().random_mode, &list().random_lamp},
                                                                  {&list().defined_end_mode, &list().defined_end_lamp},

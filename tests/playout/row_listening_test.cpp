@@ -91,6 +91,48 @@ TEST_F(RowListeningTest, IsRefusedDuringASpecialMix) {
     EXPECT_EQ(machine.media.on_air(), (Texts{track(1), "C:\\bande.mp3"}));
 }
 
+TEST_F(RowListeningTest, LeavesTheRowThatRandomOrderHasDrawn) {
+    list().random_mode.click();
+    machine.run_for(seconds(168)); // behind the load step
+    const int drawn = station.list.index_en_cours.value();
+    ASSERT_TRUE(station.chain.choix_prepare.is_true());
+    machine.media.set_length(track(5), 3); // over before the mix point
+    listen_to(5);
+    EXPECT_EQ(station.list.index_en_cours, drawn);
+    machine.run_for(seconds(20));
+    EXPECT_EQ(rows_started().back(), drawn);
+}
+
+TEST_F(RowListeningTest, IsRefusedByHand) {
+    list().player_mode.click();
+    for (int deck = 2; deck <= 3; ++deck) {
+        machine.add_track("C:\\bande.mp3", 100);
+        open_on(deck, "C:\\bande.mp3");
+    }
+    window().a_mode_manuel.click();
+    machine.dialogs.expect_box("En mode manuel", Answer::ok);
+    listen_to(5);
+    EXPECT_EQ(machine.media.on_air(), Texts{track(1)});
+}
+
+TEST_F(RowListeningTest, LeavesAFileThatWaitsForItsTurn) {
+    list().player_mode.click();
+    window().mix_titles.click();
+    machine.add_track("C:\\bande.mp3", 100);
+    open_on(3, "C:\\bande.mp3");
+    machine.dialogs.expect_box("Le lecteur 3 attend son tour avec un fichier", Answer::ok);
+    listen_to(5);
+    EXPECT_EQ(station.deck_ring.deck(3).path, "C:\\bande.mp3");
+}
+
+TEST_F(RowListeningTest, OfARowBeyondTheChainsNumbersIsRefused) {
+    while (rows().count() < 32768)
+        rows().append({track(1), "0.10", "100.00", "", "100", ""});
+    machine.dialogs.expect_box("La ligne 32768 ne peut pas être lue", Answer::ok);
+    listen_to(32768);
+    EXPECT_EQ(machine.media.on_air(), Texts{track(1)});
+}
+
 TEST_F(RowListeningTest, WithoutADeckOnTheAirStartsTheListWithTheRow) {
     list().stop_decks.click();
     listen_to(4);

@@ -16,7 +16,8 @@ namespace {
 
 constexpr int listening_period = 500; // milliseconds
 constexpr Frames longest_silence = seconds(2);
-constexpr Frames longest_to_rescue = seconds(8); // 5 s of patience, and whole seconds on either side
+constexpr Frames longest_to_rescue = seconds(8);    // 5 s of patience, and whole seconds on either side
+constexpr Frames longest_behind_a_mix = seconds(4); // a tick each for the mix and for the list, and a hand's
 constexpr int half_seconds_between_row_checks = 120;
 
 /// What a message begins with or holds, and why it may come.
@@ -39,6 +40,7 @@ constexpr std::array known_messages{
                  "a file that can't be played, where no load step looked at it: a rescue follows"},
     KnownMessage{"Nom de fichier incorrect",
                  "a zap by key after a cancelled \"Charger liste\", which leaves no list file"},
+    KnownMessage{"Rien n'est inséré dans la liste", "an insertion that has nothing to draw from"},
     KnownMessage{"dans load on liste", "a random list in which the number 0 was drawn, or nothing"},
     KnownMessage{"lecture impossible", "a zap to a file that can't be played: the track on the air goes on"},
     KnownMessage{"Périphérique non disponible", "a zap to a deck whose file's drive is gone"},
@@ -93,6 +95,8 @@ void SoakOracle::watch(std::string_view hand, const std::function<void()>& move)
 void SoakOracle::follow(const OnAirEvent& event) {
     if (event.kind == OnAirEvent::Kind::started) {
         cut_by_.clear();
+    } else if (event.kind == OnAirEvent::Kind::silence_over) {
+        silence_ = {}; // by a sound shorter than the ear's half second
     } else if (event.kind == OnAirEvent::Kind::stopped && event.text != "Arrét lecture liste") {
         stopped_by_fault_ = true;
     }
@@ -103,6 +107,8 @@ void SoakOracle::listen() {
         return;
     look_at_chain();
     const std::string_view own = own_silence();
+    if (world_.station.chain.lecteur_mix_special != 0)
+        last_mix_ = world_.machine.time.now();
     silence_ = world_.is_heard() || !own.empty() ? Frames{} : silence_ + milliseconds(listening_period);
     wished_silence_ = world_.is_heard() || own.empty() ? Frames{} : wished_silence_ + milliseconds(listening_period);
     if (wished_silence_ == longest_silence)
@@ -145,6 +151,8 @@ void SoakOracle::judge_silence() {
 // With insertions a track that is led past its mix point plays out, and its file's end brings nothing.
 std::string_view SoakOracle::silence_of_the_rules() const {
     const Station& station = world_.station;
+    if (world_.machine.time.now() - last_mix_ < longest_behind_a_mix)
+        return "the end of a special mix that outlasted its track";
     const bool list_chain = station.chain.mode_enchainement.is_true() || station.main_window.list_chain_timer.enabled();
     if (!list_chain || !station.deck_ring.has_main_deck())
         return {};

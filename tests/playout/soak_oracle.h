@@ -53,8 +53,9 @@ private:
     std::set<std::string> owed_rows_;
     std::map<std::string, int> silences_;
     std::map<std::string, int> messages_;
-    std::string cut_by_; // the hand that took the main deck off the air
+    std::string cut_by_;    // the hand that took the main deck off the air
     std::string_view rule_; // that has made the silence of now
+    Frames last_mix_;       // when a special mix was under way
     bool stopped_by_fault_ = false;
     bool off_by_rule_ = false; // "Désactiver dégradé audio" puts the chain over decks off
     bool in_hand_ = false;

@@ -119,17 +119,17 @@ void start_programme(Station& station, const Programme& programme, const DriveTa
     station.list_window.rows.select(1);
     if (programme.mode == ReadingMode::decks)
         return load_decks(station);
-    reading_mode(station.list_window, programme.mode).click(); // which switches the items off
+    reading_mode(station.list_window, programme.mode).click();
     StationSettings& settings = station.settings;
     if (!programme.jingles.list.empty()) {
         settings.chemin_fichier_aleatoire = station_path_of(drives, programme.jingles.list);
         settings.nb_fichier_aleatoire = programme.jingles.every;
-        station.list_window.jingles_status.click();
+        station.drawn_rows.jingles.set_on(true);
     }
     if (!programme.items.list.empty()) {
         settings.chemin_fichier_aleatoire1 = station_path_of(drives, programme.items.list);
         settings.nb_fichier_aleatoire1 = programme.items.every;
-        station.list_window.items_status.click();
+        station.drawn_rows.items.set_on(true);
     }
     station.list_window.play_list.click();
 }

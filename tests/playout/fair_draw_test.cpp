@@ -52,8 +52,8 @@ TEST(FairDraw, PlaysNoRowTwiceInACycle) {
     }
 }
 
-// The first cycle plays each row once. The second one begins with the last row of the first barred, which is any row but
-// the operator's own first one, and draws 48 of the 49 others.
+// The first cycle plays each row once. The second one begins with the last row of the first barred, which is any row
+// but the operator's own first one, and draws 48 of the 49 others.
 TEST(FairDraw, GivesEachRowAsManyStartsAsTheRulesDo) {
     std::array<int, rows_of_list + 1> starts{};
     for (std::uint64_t seed = 1; seed <= seeds; ++seed)

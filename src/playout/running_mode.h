@@ -71,7 +71,7 @@ inline constexpr RunningMode mix_list{
 
 /// The list window's reading modes.
 inline constexpr RunningMode read_decks{
-    .from_list = false, .by_draw = false, .chains_decks = true, .chains_list = false};
+    .from_list = false, .by_draw = false, .chains_decks = true, .chains_list = false, .resets_interval = true};
 inline constexpr RunningMode read_in_order{
     .from_list = true, .by_draw = false, .chains_decks = false, .chains_list = true};
 inline constexpr RunningMode read_by_draw{

@@ -1,4 +1,6 @@
 // What goes with the choice of an order: entries, lamps, marks, journal lines.
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -75,6 +77,18 @@ TEST_F(ReadingModes, LeftBehindTheLoadStepGoOnFromTheRowThatPlays) {
     list().defined_end_mode.click();
     machine.run_for(seconds(10));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(ReadingModes, OfTheDecksChainThemBehindAListThatWentOverToTheFirstOne) {
+    start_list();
+    machine.run_for(seconds(94 * 3 + 20));
+    ASSERT_EQ(station.chain.lecteur_en_cours, 1);
+    list().player_mode.click();
+    window().mix_titles.show_value(true);
+    machine.add_track("C:\\bande.mp3", 100);
+    open_on(2, "C:\\bande.mp3");
+    machine.run_for(seconds(81));
+    EXPECT_THAT(machine.media.on_air(), testing::Contains("C:\\bande.mp3"));
 }
 
 TEST_F(ReadingModes, LampOfTheDecksEndsTheInsertionsWhereTheDecksAreReadAlready) {

@@ -79,7 +79,6 @@ void Insertion::set_on(bool on) {
     desk_.settings.*rule_.on = on;
     (desk_.window.*rule_.timer).set_enabled(on);
     end_flash();
-    (desk_.list_window.*rule_.label).caption = std::string{on ? rule_.caption_on : rule_.caption_off};
     desk_.display.light_switch(desk_.list_window.*rule_.lamp, on);
     if (on_switched)
         on_switched(on);
@@ -170,12 +169,7 @@ void Insertion::insert_one() {
     document_.save_by_itself();
     if (!rule_.counts)
         desk_.chain.chemin_ajoute = drawn->record.trimmed_chemin();
-    desk_.report({.kind = OnAirEvent::Kind::inserted,
-                  .row = row,
-                  .path = drawn->record.trimmed_chemin(),
-                  .passed_over = drawn->passed_over,
-                  .number = drawn->number,
-                  .among = drawn->records});
+    desk_.report(drawn->inserted_as(row));
 }
 
 void Insertion::show(const DrawnRecord& drawn) {

@@ -34,12 +34,7 @@ void RandomList::load_on() {
     control_.item_drawn(drawn->number, drawn->records, every, path);
     document_.edits.insert(desk_.row_count() + 1, row_of(drawn->record, desk_.platform.decimal_mark));
     document_.save_by_itself();
-    desk_.report({.kind = OnAirEvent::Kind::inserted,
-                  .row = desk_.row_count(),
-                  .path = drawn->record.trimmed_chemin(),
-                  .passed_over = drawn->passed_over,
-                  .number = drawn->number,
-                  .among = drawn->records});
+    desk_.report(drawn->inserted_as(desk_.row_count()));
 }
 
 void RandomList::load_on_liste() {

@@ -28,6 +28,15 @@ void add_hits(std::vector<PassedOver>& passed_over, const Draw& draw) {
             passed_over.push_back({number, pass_reason::drawn_before});
 }
 
+OnAirEvent DrawnRecord::inserted_as(int row) const {
+    return {.kind = OnAirEvent::Kind::inserted,
+            .row = row,
+            .path = record.trimmed_chemin(),
+            .passed_over = passed_over,
+            .number = number,
+            .among = records};
+}
+
 // A list that isn't there would be made by being opened.
 std::optional<DrawnRecord> SourceDraw::draw(const std::string& path, DrawSource& source, const std::string& before) {
     if (!names_a_source(path))

@@ -29,6 +29,9 @@ struct DrawnRecord {
     int records = 0; ///< Of its file.
     enreg_liste record;
     std::vector<PassedOver> passed_over;
+
+    /// What is told of it when it has become this row.
+    [[nodiscard]] OnAirEvent inserted_as(int row) const;
 };
 
 /// Draws records from list files other than the one on the air.

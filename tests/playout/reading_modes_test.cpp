@@ -69,11 +69,13 @@ TEST_F(ReadingModes, LeftByTheMenuCanBeChosenAgain) {
 }
 
 TEST_F(ReadingModes, LeftBehindTheLoadStepGoOnFromTheRowThatPlays) {
+    rows().clear();
+    open_tracks(std::vector<int>(6, 100));
     list().random_mode.click();
     list().play_list.click();
-    machine.random.then({0.9F});
+    machine.random.then({0.5F});
     machine.run_for(seconds(88));
-    ASSERT_EQ(station.list.index_en_cours, 3);
+    ASSERT_EQ(station.list.index_en_cours, 4);
     list().defined_end_mode.click();
     machine.run_for(seconds(10));
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));

@@ -1,30 +1,65 @@
 #include "playlist/row_edits.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace sonarelle {
 
-void RowEdits::insert(int number, RowTable::Row row) {
-    rows_.insert(number, std::move(row));
-    if (is_next_in_order(number))
-        give_up_loaded_row();
+int RowEdits::next_in_order() const {
+    if (chain_.choix_prepare.is_true())
+        return 0;
+    const int current = list_.index_en_cours.value();
+    return current < rows_.count() ? current + 1 : 1;
+}
+
+// A row that was loaded ahead stays so only where it is still the next one.
+template <typename PlaceOf>
+void RowEdits::follow(int next_before, const PlaceOf& place_of) {
     for (Integer* place : {&list_.ligne_en_lecture, &list_.index_en_cours, &chain_.element_en_cours})
-        if (place->value() >= number)
-            *place += 1;
+        *place = std::min(place_of(place->value()), int{INT16_MAX});
+    if (next_before != 0 && place_of(next_before) != next_in_order())
+        chain_.chargement_fait = false;
+}
+
+void RowEdits::insert(int number, RowTable::Row row) {
+    const int next = next_in_order();
+    rows_.insert(number, std::move(row));
+    follow(next, [number](int place) { return place >= number ? place + 1 : place; });
 }
 
 void RowEdits::remove(int number) {
+    const int next = next_in_order();
     rows_.remove(number);
     const bool chain_is_on_it = list_.index_en_cours == number;
-    if (is_next_in_order(number) || chain_is_on_it)
-        give_up_loaded_row();
     if (chain_is_on_it)
         chain_.choix_prepare = false;
-    for (Integer* place : {&list_.ligne_en_lecture, &list_.index_en_cours, &chain_.element_en_cours})
-        if (place->value() > number)
-            *place -= 1;
+    if (chain_is_on_it || next == number)
+        chain_.chargement_fait = false;
     if (chain_is_on_it && chain_.lecteur_en_cours != 0)
         list_.index_en_cours -= 1;
+    follow(next, [number](int place) { return place > number ? place - 1 : place; });
+}
+
+void RowEdits::move(int number, int target) {
+    const int landing = target > number ? target - 1 : target;
+    RowTable::Row row = rows_.row(number);
+    (void)rows_.row(target);
+    if (landing == number)
+        return;
+    const int next = next_in_order();
+    const bool selected = rows_.selected() == number;
+    rows_.remove(number);
+    rows_.insert(landing, std::move(row));
+    if (selected)
+        rows_.select(landing);
+    follow(next, [number, landing](int place) {
+        if (place == number)
+            return landing;
+        if (place > number && place <= landing)
+            return place - 1;
+        return place < number && place >= landing ? place + 1 : place;
+    });
 }
 
 } // namespace sonarelle

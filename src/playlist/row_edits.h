@@ -6,8 +6,10 @@
 
 namespace sonarelle {
 
-/// The one way in which rows come into the list and leave it: whatever names a row by its number goes with it, so that
-/// the run goes on where it stood. Window thread.
+/// The one way in which rows come into the list, leave it and change places: whatever names a row by its number goes
+/// with it, so that the run goes on where it stood. What random order had drawn and isn't there any more is drawn anew.
+/// Window thread.
+/// @throws Failure 9 for a row or place that doesn't exist.
 class RowEdits {
 public:
     RowEdits(ListState& list, ChainState& chain, RowTable& rows)
@@ -16,19 +18,19 @@ public:
           rows_{rows} {}
 
     /// Rows from `number` on move down.
-    /// @throws Failure 9 for a place that doesn't exist.
     void insert(int number, RowTable::Row row);
     /// While a deck is the main one, the chain goes on with the row that takes the place of a removed one that it was
-    /// on. What random order had drawn and isn't there any more is drawn anew.
-    /// @throws Failure 9 for a row that doesn't exist.
+    /// on.
     void remove(int number);
+    /// Brings a row before the one at `target`; one that moves down therefore lands at `target` - 1.
+    void move(int number, int target);
 
 private:
-    /// The row to come, which may be loaded, is another one now.
-    void give_up_loaded_row() const { chain_.chargement_fait = false; }
-    [[nodiscard]] bool is_next_in_order(int number) const {
-        return !chain_.choix_prepare.is_true() && number == list_.index_en_cours.value() + 1;
-    }
+    /// `place_of` gives a row's new number from its old one, and for a row that has left the one that took its place.
+    template <typename PlaceOf>
+    void follow(int next_before, const PlaceOf& place_of);
+    /// The row that the chain takes next in the list's order, 0 while a drawn one waits.
+    [[nodiscard]] int next_in_order() const;
 
     ListState& list_;
     ChainState& chain_;

@@ -79,4 +79,28 @@ TEST_F(DrawsOnView, GoByTheirButton) {
     EXPECT_FALSE(view.isVisible());
 }
 
+TEST_F(DrawsOnView, GiveTheKeyboardToWhatIsReadAndToNoButton) {
+    QWidget& view = show_after_a_draw();
+    take_keyboard(&view);
+    EXPECT_EQ(view.focusWidget(), &list(station.draw_window.played));
+}
+
+TEST_F(DrawsOnView, StayAsTheyAreUnderAHandOnTheSpaceBar) {
+    QWidget& view = show_after_a_draw();
+    take_keyboard(&view);
+    key(view, Qt::Key_Space, " ");
+    settle();
+    EXPECT_TRUE(view.isVisible());
+    EXPECT_EQ(list(station.draw_window.played).count(), 1);
+    EXPECT_EQ(station.draw_window.number.text(), "1");
+}
+
+TEST_F(DrawsOnView, GiveTheKeyboardBackWhenTheyAreClosed) {
+    QWidget& view = show_after_a_draw();
+    take_keyboard(&view);
+    press(*view.findChild<QWidget*>(QString::fromStdString(station.draw_window.close.name())));
+    take_keyboard();
+    EXPECT_TRUE(window_has_keyboard());
+}
+
 } // namespace sonarelle

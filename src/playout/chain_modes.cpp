@@ -238,6 +238,7 @@ void ChainModes::note(const ReadingModeWords& words) {
 }
 
 void ChainModes::choose_list_mode(const RunningMode& mode, const ReadingModeWords& words) {
+    take_stopped_list_up();
     enter(mode);
     check_entries(desk_.window.a_mode_predefini);
     note(words);
@@ -249,6 +250,16 @@ void ChainModes::choose_list_mode(const RunningMode& mode, const ReadingModeWord
     // The full length, where it is chosen, holds from the next load on.
     const bool capped = desk_.chain.preecoute_active.is_true() && deck.has_graph();
     show_end_point(capped ? text_of(std::min(desk_.chain.duree_preecoute, deck.whole_duration())) : deck.fin_piste);
+}
+
+// A fault that stopped the list shows the chain over decks as chosen. Here the list goes on with the track that sounds.
+void ChainModes::take_stopped_list_up() {
+    if (desk_.chain.air != AirState::failed || !desk_.ring.has_main_deck() || !desk_.ring.main_deck().sounds())
+        return;
+    desk_.window.mix_list.show_value(true);
+    desk_.display.list_is_mixed_by("Mix liste");
+    desk_.display.light_list_chain();
+    desk_.set_air(AirState::on);
 }
 
 // The manual mode is left by its own menu alone, however the list is to be read.

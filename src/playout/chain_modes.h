@@ -46,6 +46,7 @@ private:
         std::string_view plain;
         std::string_view over_a_mix; ///< While a special mix runs, before its overlap.
     };
+    void take_stopped_list_up();
     void choose_list_mode(const RunningMode& mode, const ReadingModeWords& words);
     void choose_list_order(const ReadingModeWords& words, Image& lamp);
     void take_order(bool random);

@@ -198,7 +198,10 @@ void LoadAhead::drop_invalid_row() {
         throw ListStopped{};
 }
 
+// In random order the row that can't be reached would otherwise be drawn again and again.
 void LoadAhead::stop_after_load_error() {
+    if (desk_.chain.ordre_aleatoire.is_true() && desk_.row_count() > 0)
+        cursor_.bar_current_row();
     journal_.note(date_and_time(desk_.platform) + " Erreur au chargement de fichier...liste stoppée");
     run_.stoppe_liste("Erreur au chargement de fichier...liste stoppée");
     desk_.window.mouse_pointer = 0;

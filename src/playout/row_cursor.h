@@ -44,6 +44,8 @@ public:
     /// Steps to a row by draw. False when none could be drawn: the next turn draws again.
     [[nodiscard]] bool take_drawn_row(DrawPlace place);
 
+    /// Keeps random order from the current row for the rest of the cycle.
+    void bar_current_row() { draws_.bar_current_row(); }
     /// Steps to any row at all, by one draw.
     void draw_any_row();
 

@@ -38,16 +38,26 @@ const PlaceRow& row_of(DrawPlace place, int main_deck) {
 
 } // namespace
 
-std::optional<int> RowDraw::draw(DrawPlace place) {
+// Those that the chain can number.
+int RowDraw::rows_to_draw() const {
+    return std::min<int>(desk_.row_count(), INT16_MAX);
+}
+
+void RowDraw::bar_current_row() {
     using enum DrawControl::Lists;
-    const int rows = std::min<int>(desk_.row_count(), INT16_MAX); // those that the chain can number
-    const int playing = desk_.list.index_en_cours.value();
-    if (tables_.deja_lu.bar(playing, rows)) {
+    const int current = desk_.list.index_en_cours.value();
+    if (tables_.deja_lu.bar(current, rows_to_draw())) {
         desk_.chain.nb_tirages_nuls = 0;
         desk_.display.null_draws(0);
         control_.begin_cycle(of_list);
     }
-    control_.show_table(of_list, tables_.deja_lu, playing);
+    control_.show_table(of_list, tables_.deja_lu, current);
+}
+
+std::optional<int> RowDraw::draw(DrawPlace place) {
+    using enum DrawControl::Lists;
+    const int rows = rows_to_draw();
+    bar_current_row();
     const PlaceRow& row = row_of(place, desk_.ring.has_main_deck() ? desk_.ring.main_deck().number() : 1);
     std::vector<PassedOver> passed_over;
     for (int attempt = 0;; ++attempt) {

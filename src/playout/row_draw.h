@@ -25,8 +25,11 @@ public:
 
     /// Bars the current row and draws another one; nothing when there is none.
     [[nodiscard]] std::optional<int> draw(DrawPlace place);
+    /// The current row has stopped the list: it doesn't come again in this cycle.
+    void bar_current_row();
 
 private:
+    [[nodiscard]] int rows_to_draw() const;
     void count_null_draws(int hits);
     void report(int row, std::vector<PassedOver> passed_over, int rows) const;
 

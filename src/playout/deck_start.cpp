@@ -113,6 +113,8 @@ void DeckStart::begin_sound(Deck& deck) {
     deck.start_by_hand.reset();
     mix_.Choix_mix();
     deck.graph().Run();
+    if (desk_.ring.is_main(deck))
+        desk_.display.elapsed(deck.whole_position()); // a hand may be there before the next tick
     align_timers();
     deck.volume_sauve = deck.controls.slider.value();
 }

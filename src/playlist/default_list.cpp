@@ -35,14 +35,19 @@ void DefaultList::changed(std::string_view path, const Rewritten& rewritten) {
         seen_ = rewritten.after;
 }
 
+void DefaultList::notice_deletion() {
+    if (!state_of(path()))
+        seen_.reset();
+}
+
 // Where it can't be kept the save goes on: the rows on the air are worth more.
 void DefaultList::keep_previous() {
-    if (std::exchange(kept_, true))
+    if (kept_ || !state_of(path()))
         return;
+    kept_ = true;
     ErrorIndicator{}.skip([this] {
         const std::string place = join_path(platform_.program_folder, previous_list);
-        if (!state_of(path()) ||
-            state_of(place)) // a copy of an earlier run stands: what came behind it are the runs' own
+        if (state_of(place)) // a copy of an earlier run stands: what came behind it are the runs' own
             return;
         const auto before = platform_.disk.open(path());
         std::vector<std::byte> bytes(static_cast<std::size_t>(before->length()));

@@ -41,6 +41,9 @@ public:
     /// This station has changed a record of this file; what it had seen of it before holds.
     void changed(std::string_view path, const Rewritten& rewritten);
 
+    /// This station has deleted lists, of which this may have been one.
+    void notice_deletion();
+
     /// Keeps the list as it is under another name, once: the rows of another list are about to take its place.
     void keep_previous();
 

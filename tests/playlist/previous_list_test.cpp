@@ -64,4 +64,23 @@ TEST_F(PreviousList, ARowThatComesByItselfIsSavedOnlyWhereThatIsWanted) {
     EXPECT_EQ(default_list_bytes().size(), 2U * 418U);
 }
 
+TEST_F(PreviousList, OfAFolderThatHadNoneIsKeptOnceAnotherListTakesItsPlace) {
+    machine.disk.Kill("C:\\Sonarelle\\liste.dfm");
+    open_another();
+    station.list_document.sauve_tout();
+    const std::string first = default_list_bytes();
+    station.list_window.Effacer_liste.click();
+    open_list("C:\\Listes\\soir.dfm", {record_of("C:\\c.mp3")});
+    station.list_document.sauve_tout();
+    EXPECT_EQ(kept(), first);
+}
+
+TEST_F(PreviousList, AListThatIsLoadedToRowsIsSavedOnlyWhereThatIsWanted) {
+    open_another();
+    station.list_window.a_Ne_pas_Sauve.click();
+    open_list("C:\\Listes\\soir.dfm", {record_of("C:\\c.mp3")});
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_EQ(default_list_bytes(), bytes_of(record_of("C:\\avant.mp3")));
+}
+
 } // namespace sonarelle

@@ -1,10 +1,12 @@
 #include "playout/insertion.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
 #include "platform/dialogs.h"
 #include "platform/failure.h"
+#include "playlist/file_existence.h"
 #include "playlist/list_rows.h"
 #include "playout/file_title.h"
 
@@ -13,6 +15,8 @@ namespace sonarelle {
 namespace {
 
 constexpr Colour pale_green = 8454016;
+// A list of few records comes to it again and again, and the operator knows.
+constexpr std::string_view nothing_to_draw = "Aucun enregistrement à tirer";
 
 } // namespace
 
@@ -112,7 +116,8 @@ void Insertion::flash() {
         return;
     }
     const Integer left = desk_.settings.*rule_.spacing - desk_.chain.*rule_.counter;
-    label.caption = std::string{rule_.caption_on} + (rule_.counts ? " ( " + text_of(left) + " )" : "");
+    const std::string counter = " ( " + text_of(std::max(left, Integer{0})) + " )"; // the spacing may have been lowered
+    label.caption = std::string{rule_.caption_on} + (rule_.counts ? counter : "");
     label.fore_colour = pale_green;
 }
 
@@ -133,7 +138,8 @@ bool Insertion::is_due() const {
 void Insertion::try_to_insert() {
     try {
         insert_one();
-        trouble_told_ = false;
+        if (told_ != nothing_to_draw)
+            told_.clear();
     } catch (const Failure& failure) {
         tell_trouble(failure.what());
     }
@@ -144,7 +150,7 @@ void Insertion::try_to_insert() {
 }
 
 void Insertion::tell_trouble(const std::string& reason) {
-    if (!std::exchange(trouble_told_, true))
+    if (std::exchange(told_, reason) != reason)
         desk_.notices.warn(desk_.settings.*rule_.source + "\n" + reason + "\nRien n'est inséré dans la liste");
 }
 
@@ -152,7 +158,7 @@ void Insertion::tell_trouble(const std::string& reason) {
 void Insertion::insert_one() {
     if (desk_.row_count() >= INT16_MAX)
         throw Failure{FailureNumber::overflow, {}, "La liste a " + std::to_string(INT16_MAX) + " lignes"};
-    if (const int selected = desk_.list_window.rows.selected(); selected > 0)
+    if (const int selected = desk_.list_window.rows.selected(); selected > 0 && !desk_.list.selection_by_search)
         desk_.list.index_en_cours = selected;
     // What was drawn is given up for the record, which comes next.
     desk_.chain.choix_prepare = false;
@@ -161,8 +167,10 @@ void Insertion::insert_one() {
     const int current = desk_.list.index_en_cours.value();
     const std::string before = current >= 1 && current <= desk_.row_count() ? desk_.list_window.rows.text(current) : "";
     const std::optional<DrawnRecord> drawn = draws_.draw(path, source_, before);
+    if (!drawn && !is_source_there())
+        throw Failure{FailureNumber::file_not_found, {}, "Liste introuvable"};
     if (!drawn)
-        throw Failure{FailureNumber::wrong_record_number, {}, "Aucun enregistrement à tirer"};
+        throw Failure{FailureNumber::wrong_record_number, {}, std::string{nothing_to_draw}};
     show(*drawn);
     const int row = current + 1;
     document_.edits.insert(row, row_of(drawn->record, desk_.platform.decimal_mark));
@@ -170,6 +178,10 @@ void Insertion::insert_one() {
     if (!rule_.counts)
         desk_.chain.chemin_ajoute = drawn->record.trimmed_chemin();
     desk_.report(drawn->inserted_as(row));
+}
+
+bool Insertion::is_source_there() const {
+    return is_listed(desk_.platform.disk, list_path(desk_.platform, desk_.settings.*rule_.source));
 }
 
 void Insertion::show(const DrawnRecord& drawn) {

@@ -51,6 +51,7 @@ private:
     [[nodiscard]] bool rests() const;
     [[nodiscard]] bool is_on() const { return (desk_.settings.*rule_.on).is_true(); }
     [[nodiscard]] bool is_due() const;
+    [[nodiscard]] bool is_source_there() const;
     void flash();
     void end_flash();
     void try_to_insert();
@@ -65,7 +66,7 @@ private:
     DrawControl& control_;
     DrawSource source_;
     bool clignote_ = false;
-    bool trouble_told_ = false;
+    std::string told_; // why nothing was inserted; a list that can be drawn from again may be told anew
 };
 
 /// The two of the station.

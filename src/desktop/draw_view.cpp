@@ -87,7 +87,7 @@ QWidget* DrawView::of_file() {
     auto* facts = new FlowLayout{line};
     for (Label* label : {&window_.file_name, &window_.file_start, &window_.file_end, &window_.file_genre,
                          &window_.file_volume, &window_.file_duration})
-        facts->addWidget(dresser_.label(*label, {.type = Type::base, .characters = 16}));
+        facts->addWidget(dresser_.label(*label, {.type = Type::base, .characters = 24}));
     column->addWidget(line);
     return panel;
 }

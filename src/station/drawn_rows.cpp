@@ -20,15 +20,19 @@ DrawnRows::DrawnRows(Desk& desk, Journal& journal, ListDocument& document, ListA
       jingles{jingle_rule, desk, document, draws, control, {tables.deja_lu, DrawControl::Lists::of_jingles}},
       items{item_rule, desk, document, draws, control, {tables.deja_lu1, DrawControl::Lists::of_list}},
       random_list{desk, document, list, draws, control, tables.deja_tires} {
-    connect(desk);
+    connect(desk, control);
 }
 
-void DrawnRows::connect(Desk& desk) {
+void DrawnRows::connect(Desk& desk, DrawControl& control) {
     Liste_son& window = desk.list_window;
     connect_switch(desk, jingles, window.jingles_status, window.jingles_switch);
     connect_switch(desk, items, window.items_status, window.items_switch);
     jingles.on_switched = [&desk](bool on) { desk.chain.jingles_aleatoires = on; };
-    items.on_switched = [&desk](bool) { desk.display.order_is(desk.chain.ordre_aleatoire.is_true()); };
+    items.on_switched = [&desk, &control](bool on) {
+        desk.display.order_is(desk.chain.ordre_aleatoire.is_true());
+        if (!on && desk.chain.ordre_aleatoire.is_true())
+            control.head(DrawControl::Lists::of_list, "Lecture aléatoire");
+    };
     random_list.switch_items_on = [this] { items.set_on(true); };
     window.creer_aleatoire.on_click = [this] { random_list.load_on_liste(); };
     window.A_ecoute_option.on_click = [&desk] { desk.window.pre_char.click(); };

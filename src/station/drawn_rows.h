@@ -19,7 +19,7 @@ public:
     RandomList random_list;
 
 private:
-    void connect(Desk& desk);
+    void connect(Desk& desk, DrawControl& control);
     static void connect_switch(Desk& desk, Insertion& insertion, Label& label, Image& lamp);
 };
 

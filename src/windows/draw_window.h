@@ -16,6 +16,10 @@ struct liste : Window {
         clear_lists.hint = "Effacer la liste";
         clear_table.hint = "Effacer toutes les donnees du tableau";
         add_current.hint = "Chargement  manuel dans le tableau du fichier en cours";
+        on_key_press = [this](char32_t key) {
+            if (key == U'\x1b')
+                close.click();
+        };
     }
 
     Label heading{*this, "Label1", "Lecture aléatoire"}; ///< Of what the draws are.

@@ -79,10 +79,18 @@ TEST_F(DrawsOnView, GoByTheirButton) {
     EXPECT_FALSE(view.isVisible());
 }
 
-TEST_F(DrawsOnView, GiveTheKeyboardToWhatIsReadAndToNoButton) {
+TEST_F(DrawsOnView, LeaveTheKeyboardWithTheWindow) {
     QWidget& view = show_after_a_draw();
     take_keyboard(&view);
-    EXPECT_EQ(view.focusWidget(), &list(station.draw_window.played));
+    EXPECT_EQ(view.focusWidget(), &view);
+}
+
+TEST_F(DrawsOnView, GoByEscape) {
+    QWidget& view = show_after_a_draw();
+    take_keyboard(&view);
+    key(view, Qt::Key_Escape, "\x1b");
+    settle();
+    EXPECT_FALSE(view.isVisible());
 }
 
 TEST_F(DrawsOnView, StayAsTheyAreUnderAHandOnTheSpaceBar) {

@@ -61,6 +61,9 @@ QLabel* mark_of(const BoxView::Look& look) {
 QWidget* window_below_a_box() {
     if (QWidget* active = QApplication::activeWindow())
         return active;
+    // Between two boxes no window is active yet: the answer is for the window that asked.
+    if (QWidget* last = WindowView::last_active(); last != nullptr && last->isVisible() && !last->isMinimized())
+        return last;
     QWidget* largest = nullptr;
     const auto area = [](const QWidget& widget) { return widget.width() * widget.height(); };
     for (QWidget* top : QApplication::topLevelWidgets())

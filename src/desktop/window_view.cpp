@@ -25,6 +25,8 @@ namespace {
 
 constexpr int twips_per_pixel = 15;
 
+QPointer<WindowView> last_active_view;
+
 int pixels(Twips length) {
     return length.count() / twips_per_pixel;
 }
@@ -241,7 +243,11 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         // Alt with a letter calls a menu or a button, and types nothing.
         const bool calls = key->modifiers().testFlag(Qt::AltModifier);
-        if (!calls && !menu_is_open() && !key->text().isEmpty() && (!accepts_text() || key->key() == Qt::Key_Escape)) {
+        if (key->isAutoRepeat() && !key->text().isEmpty() &&
+            window_.keys_once.find(from_qt(key->text())) != std::string::npos)
+            return true;
+        if (!calls && !presses_button(*key) && !menu_is_open() && !key->text().isEmpty() &&
+            (!accepts_text() || key->key() == Qt::Key_Escape)) {
             pass_characters(key->text());
             // The key that opens a menu chooses nothing in it.
             if (menu_is_open() || (window_.answers_space && key->key() == Qt::Key_Space))
@@ -249,6 +255,12 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         }
     }
     return QWidget::eventFilter(object, event);
+}
+
+// A button that the operator went to takes the return key for itself.
+bool WindowView::presses_button(const QKeyEvent& key) const {
+    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) &&
+           qobject_cast<const QAbstractButton*>(focusWidget()) != nullptr;
 }
 
 // What is typed into a field is for the field alone.
@@ -289,9 +301,15 @@ void WindowView::changeEvent(QEvent* event) {
     });
 }
 
+WindowView* WindowView::last_active() {
+    return last_active_view;
+}
+
 bool WindowView::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
+        last_active_view = this;
         activated();
+    }
     return QWidget::event(event);
 }
 

@@ -33,6 +33,9 @@ public:
     /// Below the menu bar: where the window's parts are laid out.
     [[nodiscard]] QWidget& content() { return *content_; }
 
+    /// The window of the station that had the keyboard last; null before any had it.
+    [[nodiscard]] static WindowView* last_active();
+
     /// The operator asks what can be done here.
     void ask_for_help();
 
@@ -75,6 +78,7 @@ private:
     void show_state();
     void change_visibility();
     void place_over_owner();
+    [[nodiscard]] bool presses_button(const QKeyEvent& key) const;
     void keep_place();
     void keep_size();
     void watch_keys();

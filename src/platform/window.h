@@ -93,6 +93,7 @@ public:
     Property<int> mouse_pointer{*this, 0}; ///< 0 is the plain pointer, 11 and 13 show busy.
     Property<bool> key_preview{*this, true};
     Button* default_button = nullptr; ///< The return key presses it where no other button has the focus.
+    std::string keys_once;            ///< Characters that count once, however long their key is held.
     bool answers_space = false; ///< The space bar is a command of the window, and presses no button that has the focus.
 
     std::vector<MenuItem*> menu_bar; ///< The top menus; their entries hang under them.

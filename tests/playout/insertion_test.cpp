@@ -221,6 +221,22 @@ TEST_F(InsertionTest, OfAnItemComesOnceForEachStartInRandomOrder) {
     EXPECT_EQ(insertions(), 2U);
 }
 
+TEST_F(InsertionTest, OfItemsWithASpacingBelowOneNeverComes) {
+    station.main_window.pre_char.on_click = [] {};
+    start_with_items(0);
+    machine.run_for(seconds(100));
+    EXPECT_EQ(insertions(), 0U);
+}
+
+TEST_F(InsertionTest, OfItemsWithoutAMainDeckNeverComes) {
+    start_at_random();
+    machine.run_for(seconds(10));
+    list().stop_decks.click();
+    switch_items_on(put_source("music", 5));
+    machine.run_for(seconds(5));
+    EXPECT_EQ(insertions(), 0U);
+}
+
 TEST_F(InsertionTest, ItemIsPlayedNext) {
     start_with_items();
     machine.run_for(seconds(95));

@@ -128,12 +128,42 @@ TEST_F(InsertionTest, OfRecordNoughtIsDrawnAgainInTheSamePass) {
     EXPECT_NE(journal_text().find("Tirage du nombre 0"), std::string::npos);
 }
 
+TEST_F(InsertionTest, OfRecordNoughtIsJournalledOnce) {
+    window().Active_journal1.click();
+    start_with_jingles(1);
+    const auto insert_by = [this](std::initializer_list<float> numbers) {
+        station.draw_tables.deja_lu.clear();
+        station.chain.compteur_aleatoire = 1;
+        machine.random.then(numbers);
+        machine.run_for(seconds(1));
+    };
+    insert_by({0.25F}); // the first draw of a station bars the nought
+    insert_by({0.0F, 0.5F});
+    insert_by({0.0F, 0.25F});
+    ASSERT_EQ(insertions(), 3U);
+    const std::string journal = journal_text();
+    const std::size_t first = journal.find("Tirage du nombre 0");
+    ASSERT_NE(first, std::string::npos);
+    EXPECT_EQ(journal.find("Tirage du nombre 0", first + 1), std::string::npos);
+}
+
 TEST_F(InsertionTest, OfAListOfOneRecordReadsNone) {
     start_list();
     switch_jingles_on(put_source("jingle", 1), 1);
     machine.run_for(seconds(300));
     EXPECT_EQ(insertions(), 0U);
     EXPECT_EQ(rows_started().size(), 4U);
+}
+
+TEST_F(InsertionTest, OfAListWithoutARecordLeavesWhatRandomOrderHasPlayed) {
+    start_list();
+    draws().add_current.click();
+    machine.disk.put_file("C:\\Sonarelle\\vide.dfm");
+    switch_jingles_on("C:\\Sonarelle\\vide.dfm", 1);
+    station.chain.compteur_aleatoire = 1;
+    machine.run_for(seconds(2));
+    EXPECT_EQ(station.draw_tables.deja_lu.entries(), std::vector<int>{1});
+    EXPECT_EQ(draws().jingles_played.items.get(), Texts{});
 }
 
 TEST_F(InsertionTest, OfAListThatIsNotThereMakesNoFile) {
@@ -152,6 +182,33 @@ TEST_F(InsertionTest, OfAListThatCantBeReadIsToldOnceAndTheAirGoesOn) {
     machine.run_for(seconds(300));
     EXPECT_EQ(warnings, 1);
     EXPECT_EQ(rows_started().size(), 4U);
+}
+
+TEST_F(InsertionTest, OfAListThatCantBeReadIsTriedAgainAfterAsManyTracks) {
+    start_with_jingles(1);
+    machine.disk.refuse("C:\\Sonarelle\\jingle.dfm", FailureNumber::permission_refused);
+    machine.run_for(seconds(2));
+    machine.disk.heal("C:\\Sonarelle\\jingle.dfm");
+    machine.run_for(seconds(90));
+    EXPECT_EQ(insertions(), 0U);
+    machine.run_for(seconds(4));
+    EXPECT_EQ(insertions(), 1U);
+}
+
+TEST_F(InsertionTest, OfAListThatCouldBeReadMeanwhileIsToldAnew) {
+    int warnings = 0;
+    station.notices.on_warning = [&warnings](const std::string&) { ++warnings; };
+    start_with_jingles(1);
+    for (int turn = 0; turn < 2; ++turn) {
+        machine.disk.refuse("C:\\Sonarelle\\jingle.dfm", FailureNumber::permission_refused);
+        machine.run_for(seconds(1));
+        machine.disk.heal("C:\\Sonarelle\\jingle.dfm");
+        station.chain.compteur_aleatoire = 1;
+        machine.run_for(seconds(1));
+        station.chain.compteur_aleatoire = 1;
+    }
+    EXPECT_EQ(insertions(), 2U);
+    EXPECT_EQ(warnings, 2);
 }
 
 TEST_F(InsertionTest, WithASpacingBelowOneNeverComes) {

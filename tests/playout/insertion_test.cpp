@@ -73,6 +73,17 @@ TEST_F(InsertionTest, JingleIsPlayedNextAndStays) {
     EXPECT_EQ(record_in(default_list_bytes(), 2).trimmed_chemin(), inserted);
 }
 
+TEST_F(InsertionTest, JingleIsPlayedNextInRandomOrderToo) {
+    station.settings.chemin_fichier_aleatoire1 = put_source("music", 5);
+    switch_jingles_on(put_source("jingle", 5, 10), 1);
+    start_at_random();
+    list().items_status.click(); // which the start has switched on
+    machine.run_for(seconds(2));
+    ASSERT_EQ(insertions(), 2U); // the first row of the run, and a jingle
+    machine.run_for(seconds(93));
+    EXPECT_EQ(machine.media.on_air().back(), rows().text(2));
+}
+
 TEST_F(InsertionTest, RowHasTheRecordsCells) {
     start_with_jingles(1);
     machine.random.then({0.5F}); // record 2
@@ -89,6 +100,18 @@ TEST_F(InsertionTest, ComesBehindTheSelectedRow) {
     EXPECT_TRUE(rows().text(6).starts_with("C:\\jingle\\"));
     EXPECT_EQ(station.list.index_en_cours, 5);
     EXPECT_EQ(station.list.ligne_en_lecture, 2);
+}
+
+TEST_F(InsertionTest, WithoutASelectedRowComesBehindTheOneThatPlays) {
+    start_with_jingles(3);
+    machine.run_for(seconds(95));
+    rows().clear();
+    open_list("C:\\Sonarelle\\essai.dfm", std::vector<enreg_liste>(6, record_of(track(1), "100.00")));
+    ASSERT_EQ(rows().selected(), 0);
+    station.chain.compteur_aleatoire = 3;
+    machine.run_for(seconds(1));
+    ASSERT_EQ(insertions(), 1U);
+    EXPECT_EQ(events_of(Kind::inserted)[0].row, 3);
 }
 
 TEST_F(InsertionTest, BeforeTheRowThatPlaysMovesItsMark) {

@@ -128,6 +128,16 @@ TEST_F(RandomListTest, InAListWithRowsTheRunBeginsWithTheSelectedOne) {
     EXPECT_EQ(station.list.index_en_cours, 2);
 }
 
+TEST_F(RandomListTest, UnderNoSavingItsRowComesIntoTheTableAlone) {
+    open_tracks({100, 100});
+    station.settings.chemin_fichier_aleatoire1 = put_source("music", 5);
+    choose_random_with_jingles();
+    list().a_Ne_pas_Sauve.click();
+    list().play_list.click();
+    EXPECT_EQ(rows().count(), 3);
+    EXPECT_FALSE(machine.disk.exists("C:\\Sonarelle\\liste.dfm"));
+}
+
 TEST_F(RandomListTest, WithoutAListOfMusicAsksForOne) {
     const std::string source = put_source("music", 5);
     switch_jingles_on(put_source("jingle", 5, 10), 3);

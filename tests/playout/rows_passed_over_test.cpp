@@ -259,4 +259,14 @@ TEST_F(SilentDriveTest, PassesItsRowOverAtAZapByTheButton) {
     expect_passed_over_and_kept();
 }
 
+TEST_F(RowsPassedOver, AMissingRowUnderNoSavingLeavesTheTableAlone) {
+    open_tracks({100, 100, 100});
+    station.list_window.a_Ne_pas_Sauve.click();
+    start_list();
+    machine.disk.Kill(track(2));
+    machine.run_for(seconds(100));
+    EXPECT_EQ(rows().count(), 2);
+    EXPECT_FALSE(machine.disk.exists("C:\\Sonarelle\\liste.dfm"));
+}
+
 } // namespace sonarelle

@@ -114,6 +114,14 @@ TEST_F(InsertionSwitch, HintsSayHowOften) {
     EXPECT_EQ(list().items_status.hint.get(), "Lecture dans fichier aleatoire");
 }
 
+TEST_F(InsertionSwitch, LampsHintAsTheirLabelsDo) {
+    station.settings.nb_fichier_aleatoire = 4;
+    list().jingles_switch.on_mouse_move();
+    EXPECT_EQ(list().jingles_switch.hint.get(), "Insertion après 4 fichiers");
+    list().items_switch.on_mouse_move();
+    EXPECT_EQ(list().items_switch.hint.get(), "Liste aléatoire par défaut :Off");
+}
+
 // The flash.
 
 TEST_F(InsertionSwitch, FlashesWithTheTracksThatAreLeft) {
@@ -123,6 +131,15 @@ TEST_F(InsertionSwitch, FlashesWithTheTracksThatAreLeft) {
     EXPECT_EQ(list().jingles_status.fore_colour.get(), green);
     machine.run_for(seconds(1));
     EXPECT_EQ(list().jingles_status.fore_colour.get(), station.settings.coul_text_bouton);
+}
+
+TEST_F(InsertionSwitch, FlashesWithNoughtWhereTheSpacingWasLoweredWithoutATrack) {
+    start_with_jingles(3);
+    station.chain.compteur_aleatoire = 3;
+    list().stop_decks.click();
+    station.settings.nb_fichier_aleatoire = 1;
+    machine.run_for(seconds(4));
+    EXPECT_EQ(label(), "Jingle On ( 0 )");
 }
 
 TEST_F(InsertionSwitch, SwitchedOffInTheGreenPhaseIsAsBefore) {
@@ -139,6 +156,24 @@ TEST_F(InsertionSwitch, SwitchedOffByAReadingModeInTheGreenPhaseIsAsBefore) {
     ASSERT_EQ(list().items_status.fore_colour.get(), green);
     list().defined_end_mode.click();
     EXPECT_EQ(list().items_status.fore_colour.get(), station.settings.coul_text_bouton);
+}
+
+TEST_F(InsertionSwitch, OfJinglesSwitchedOffByTheLampOfTheDecksInTheGreenPhaseIsAsBefore) {
+    start_with_jingles(3);
+    machine.run_for(seconds(1));
+    ASSERT_EQ(list().jingles_status.fore_colour.get(), green);
+    window().deck_chain_lamp.click();
+    EXPECT_EQ(list().jingles_status.fore_colour.get(), station.settings.coul_text_bouton);
+    EXPECT_EQ(label(), "Jingle Off");
+}
+
+TEST_F(InsertionSwitch, SwitchedOffInTheGreenPhaseBeginsGreenAgain) {
+    start_with_jingles(3);
+    machine.run_for(seconds(1));
+    list().jingles_status.click();
+    list().jingles_status.click();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(list().jingles_status.fore_colour.get(), green);
 }
 
 TEST_F(InsertionSwitch, FlashOfItemsHasNoCount) {

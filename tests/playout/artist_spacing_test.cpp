@@ -47,6 +47,27 @@ TEST_F(ArtistSpacingTest, TakesTheRowAtTheFourthDraw) {
     EXPECT_EQ(drawn(), "C:\\Ana - deux.mp3");
 }
 
+TEST_F(ArtistSpacingTest, GivesWayThreeTimes) {
+    station.settings.ecart_artiste = 1;
+    draw_behind({"Ana - un", "Ana - deux", "Bob - trois", "Cy - quatre"}, {0.3F, 0.3F, 0.3F, 0.6F});
+    EXPECT_EQ(drawn(), "C:\\Bob - trois.mp3");
+}
+
+TEST_F(ArtistSpacingTest, TellsWhatWasPassedOverBehindTheFirstTryToo) {
+    station.settings.ecart_artiste = 1;
+    draw_behind({"Ana - un", "Ana - deux", "Bob - trois", "Cy - quatre"}, {0.3F, 0.0F, 0.6F});
+    const auto& passed_over = events_of(OnAirEvent::Kind::drawn).back().passed_over;
+    ASSERT_EQ(passed_over.size(), 2U);
+    EXPECT_EQ(passed_over[1].number, 1);
+    EXPECT_EQ(passed_over[1].reason, "déjà tiré");
+}
+
+TEST_F(ArtistSpacingTest, IsOffBelowNought) {
+    station.settings.ecart_artiste = -1;
+    draw_behind({"Ana - un", "Ana - deux", "Bob - trois", "Cy - quatre"}, {0.3F});
+    EXPECT_EQ(drawn(), "C:\\Ana - deux.mp3");
+}
+
 TEST_F(ArtistSpacingTest, LooksAtTheTagBeforeTheName) {
     station.settings.ecart_artiste = 1;
     const auto tagged = [](const std::string& artist) {

@@ -102,6 +102,18 @@ TEST_F(DrawControlTest, NullDrawsBeginAnewWithEachRun) {
     EXPECT_EQ(station.chain.nb_tirages_nuls, 0);
 }
 
+TEST_F(DrawControlTest, NullDrawsBeginAnewWithEachCycle) {
+    rows().clear();
+    open_tracks({100, 100, 100});
+    start_at_random();
+    machine.run_for(seconds(94 * 2));
+    station.chain.nb_tirages_nuls = 5;
+    draws().null_draws.caption = "5";
+    machine.run_for(seconds(94)); // the third row in play begins the table anew
+    EXPECT_EQ(station.chain.nb_tirages_nuls, 0);
+    EXPECT_EQ(draws().null_draws.caption.get(), "0");
+}
+
 TEST_F(DrawControlTest, NullDrawsStayAtTheirGreatestAndTheAirGoesOn) {
     station.main_window.Active_journal1.click();
     start_at_random();
@@ -153,6 +165,13 @@ TEST_F(DrawControlTest, ShowsTheTableAgain) {
     EXPECT_EQ(draws().total.caption.get(), "1");
 }
 
+TEST_F(DrawControlTest, ShownAgainForgetsTheNullDraws) {
+    zap_at_40({0.2F, 0.2F, 0.95F});
+    draws().reload.click();
+    EXPECT_EQ(station.chain.nb_tirages_nuls, 0);
+    EXPECT_EQ(draws().null_draws.caption.get(), "0");
+}
+
 TEST_F(DrawControlTest, ClearsTheTable) {
     run_to_the_load({0.5F});
     draws().clear_table.click();
@@ -170,6 +189,13 @@ TEST_F(DrawControlTest, AddsTheCurrentRowByHand) {
     EXPECT_EQ(draws().played.items.get(), Texts{"3"});
     EXPECT_EQ(draws().finding.text(), "Trouvé ");
     EXPECT_EQ(draws().total.caption.get(), "1");
+}
+
+TEST_F(DrawControlTest, ByHandWithoutACurrentRowAddsNothing) {
+    station.list.index_en_cours = 0;
+    draws().add_current.click();
+    EXPECT_TRUE(station.draw_tables.deja_lu.entries().empty());
+    EXPECT_EQ(log(), Texts{});
 }
 
 TEST_F(DrawControlTest, ByHandRenewsAFullTable) {

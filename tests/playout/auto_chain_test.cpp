@@ -262,4 +262,15 @@ TEST_F(AutoChainTest, FadeShowsItsPercent) {
     EXPECT_GT(controls(1).slider.value(), 0);
 }
 
+TEST_F(AutoChainTest, GoesOnWithTheFirstRowBehindTheLastThatItCanNumber) {
+    open_tracks({100, 100});
+    rows().select(2);
+    start_list();
+    while (rows().count() < 32768)
+        rows().append({track(2), "0.10", "100.00", "", "100", ""});
+    station.list.index_en_cours = 32767;
+    machine.run_for(seconds(95));
+    EXPECT_EQ(rows_started(), (std::vector<int>{2, 1}));
+}
+
 } // namespace sonarelle

@@ -21,6 +21,10 @@ protected:
         machine.random.then(numbers);
         machine.run_for(seconds(88));
     }
+    void add_rows_up_to(int count) {
+        while (rows().count() < count)
+            rows().append({track(1), "0.10", "100.00", "", "100", ""});
+    }
     void zap_at_40(std::initializer_list<float> numbers) {
         start_at_random();
         machine.run_for(seconds(40));
@@ -124,6 +128,21 @@ TEST_F(DrawControlTest, NullDrawsStayAtTheirGreatestAndTheAirGoesOn) {
     EXPECT_EQ(station.chain.nb_tirages_nuls, 32767);
     EXPECT_EQ(rows_started().back(), 6);
     EXPECT_NE(journal_text().find("Tirages nuls : "), std::string::npos);
+}
+
+TEST_F(DrawControlTest, DrawsNoRowBeyondTheChainsNumbers) {
+    add_rows_up_to(40'000);
+    run_to_the_load({0.9999F});
+    EXPECT_EQ(station.list.index_en_cours, 32764);
+}
+
+TEST_F(DrawControlTest, ZapByKeyDrawsNoRowBeyondTheChainsNumbers) {
+    add_rows_up_to(40'000);
+    start_at_random();
+    machine.run_for(seconds(40));
+    machine.random.then({0.9999F});
+    window().key_press(U'z');
+    EXPECT_EQ(rows_started().back(), 32764);
 }
 
 TEST_F(DrawControlTest, KeepsTheLastThousandLines) {

@@ -164,6 +164,16 @@ TEST_F(RunControlTest, ListWithoutASelectedRowStartsWithItsFirstAndCanBeZapped) 
     EXPECT_EQ(rows_started(), (std::vector<int>{1, 2}));
 }
 
+TEST_F(RunControlTest, ListStartOnARowBeyondTheChainsNumbersSaysSo) {
+    open_tracks({100});
+    while (rows().count() < 32768)
+        rows().append({track(1), "0.10", "100.00", "", "100", ""});
+    rows().select(32768);
+    machine.dialogs.expect_box("La ligne 32768 ne peut pas être lue", Answer::ok);
+    start_list();
+    EXPECT_TRUE(machine.media.on_air().empty());
+}
+
 TEST_F(RunControlTest, ListStartedWithoutAReadingModeGoesOnBehindItsFirstTrack) {
     open_tracks({100, 100, 100});
     station.list_window.play_list.click();

@@ -61,6 +61,13 @@ TEST_F(RandomListTest, OfOneRecordEndsInWords) {
     EXPECT_EQ(list().mouse_pointer.get(), 0);
 }
 
+TEST_F(RandomListTest, ThatEndsInWordsLeavesItsDrawsInTheLog) {
+    machine.dialogs.expect_open(put_source("music", 2));
+    machine.dialogs.expect_box(" dans load on liste", Answer::ok);
+    list().creer_aleatoire.click();
+    EXPECT_EQ(log(), (Texts{"1", "0"}));
+}
+
 TEST_F(RandomListTest, OfAnotherKindOfFileIsRefusedByName) {
     machine.add_track("C:\\titre.mp3", 100);
     machine.dialogs.expect_open("C:\\titre.mp3");
@@ -147,6 +154,17 @@ TEST_F(RandomListTest, WithoutAListOfMusicAsksForOne) {
     list().play_list.click();
     EXPECT_EQ(station.settings.chemin_fichier_aleatoire1, source);
     EXPECT_EQ(rows().count(), 1);
+}
+
+TEST_F(RandomListTest, AnotherKindOfFileForMusicIsRefusedAndLeavesTheNameAsItWas) {
+    open_tracks({100});
+    switch_jingles_on(put_source("jingle", 5, 10), 3);
+    machine.dialogs.expect_box("La lecture peut etre", Answer::yes);
+    list().random_mode.click();
+    machine.dialogs.expect_open(track(1));
+    machine.dialogs.expect_box("Ce fichier n'est pas une liste", Answer::ok);
+    list().play_list.click();
+    EXPECT_EQ(station.settings.chemin_fichier_aleatoire1, "Aucun fichier");
 }
 
 TEST_F(RandomListTest, WithoutAListOfMusicANoSaysThatNoneIsLoaded) {

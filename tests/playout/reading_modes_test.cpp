@@ -68,6 +68,13 @@ TEST_F(ReadingModes, LeftByTheMenuCanBeChosenAgain) {
     }
 }
 
+TEST_F(ReadingModes, LeftByTheMenuForTheListShowTheDefinedEnd) {
+    list().random_mode.click();
+    window().a_mode_predefini.click();
+    EXPECT_TRUE(list().defined_end_mode.value());
+    EXPECT_EQ(list().defined_end_lamp.picture.get(), "bouton_on.jpg");
+}
+
 TEST_F(ReadingModes, LeftBehindTheLoadStepGoOnFromTheRowThatPlays) {
     rows().clear();
     open_tracks(std::vector<int>(6, 100));
@@ -99,6 +106,23 @@ TEST_F(ReadingModes, LampOfTheDecksEndsTheInsertionsWhereTheDecksAreReadAlready)
     window().deck_chain_lamp.click();
     EXPECT_FALSE(station.settings.valide_fichier_aleatoire.is_true());
     EXPECT_EQ(list().jingles_switch.picture.get(), "bouton_off.jpg");
+}
+
+TEST_F(ReadingModes, LampOfTheDecksPutsTheTimersOfBothInsertionsOff) {
+    start_list();
+    switch_jingles_on(put_source("jingle", 5, 10), 3);
+    switch_items_on(put_source("music", 5));
+    window().deck_chain_lamp.click();
+    EXPECT_FALSE(window().jingle_timer.enabled());
+    EXPECT_FALSE(window().item_timer.enabled());
+}
+
+TEST_F(ReadingModes, ChosenByHandLeaveTheManualModeChecked) {
+    open_on_all({100, 100, 100});
+    window().a_mode_manuel.click();
+    list().defined_end_mode.click();
+    EXPECT_TRUE(window().a_mode_manuel.checked);
+    EXPECT_FALSE(window().a_mode_predefini.checked);
 }
 
 TEST_F(ReadingModes, LightTheirLamp) {
@@ -136,6 +160,14 @@ TEST_F(ReadingModes, OfTheDecksTakeTheOrderOfTheMenuWithoutLeaving) {
     EXPECT_TRUE(list().player_mode.value());
     EXPECT_TRUE(station.chain.ordre_aleatoire.is_true());
     EXPECT_TRUE(journal_has("Lecture aléatoire"));
+}
+
+TEST_F(ReadingModes, OfTheDecksTakeTheJinglesAlongByTheOrderOfTheMenu) {
+    list().player_mode.click();
+    switch_jingles_on(put_source("jingle", 5, 10), 3);
+    station.chain.jingles_aleatoires = false;
+    window().A_ordre_aléatoire.click();
+    EXPECT_TRUE(station.chain.jingles_aleatoires.is_true());
 }
 
 TEST_F(ReadingModes, AreJournalledInTheirWords) {

@@ -125,6 +125,13 @@ TEST_F(RowListeningTest, LeavesAFileThatWaitsForItsTurn) {
     EXPECT_EQ(station.deck_ring.deck(3).path, "C:\\bande.mp3");
 }
 
+TEST_F(RowListeningTest, InAListTakesTheDeckWhateverFileLiesOnIt) {
+    machine.add_track("C:\\bande.mp3", 100);
+    open_on(3, "C:\\bande.mp3");
+    listen_to(5);
+    EXPECT_EQ(machine.media.on_air(), (Texts{track(1), track(5)}));
+}
+
 TEST_F(RowListeningTest, OfARowBeyondTheChainsNumbersIsRefused) {
     while (rows().count() < 32768)
         rows().append({track(1), "0.10", "100.00", "", "100", ""});

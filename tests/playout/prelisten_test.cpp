@@ -83,4 +83,23 @@ TEST_F(PrelistenTest, EndsWithTheReadingModeOfTheDecks) {
     EXPECT_FALSE(list().A_precoute.checked);
 }
 
+TEST_F(PrelistenTest, SwitchedOffShowsTheStoredOverlapInItsField) {
+    press("60");
+    station.main_window.overlap.set_text("1");
+    list().A_precoute.click();
+    EXPECT_EQ(station.main_window.overlap.text(), "6");
+}
+
+TEST_F(PrelistenTest, SwitchedOffKeepsTheOverlapWhereTheStoreHasNone) {
+    press("60");
+    const SettingsStore store{machine.settings, "C:\\Sonarelle", DecimalMark::point};
+    for (const char* damaged : {"", "six"}) {
+        store.write(setting_section::config, "Mix", damaged);
+        station.settings.mix_defaut = 4;
+        list().A_precoute.click();
+        EXPECT_EQ(station.settings.mix_courant, 4) << damaged;
+        press("60");
+    }
+}
+
 } // namespace sonarelle

@@ -97,11 +97,22 @@ class Insertions(Drawn):
                       ("--jingles", jingles, "--tous", "3", "--mode", "lecteur")):
             self.call("repetition", self.list, *words, status=2)
 
+    def test_want_no_number_beyond_the_stations(self):
+        self.make_list(60)
+        jingles = self.put_source("jingle", 4, 10)
+        for words in (("--jingles", jingles, "--tous"), ("--fichiers", jingles, "--tous1")):
+            self.call("repetition", self.list, *words, "32768", status=2)
+
     def test_refuse_what_is_no_list(self):
         self.make_list(60)
         self.call("repetition", self.list, "--jingles", self.folder / "absent.dfm", "--tous", "1", status=1)
         other = write_wav(self.folder / "titre.wav", 10)
         self.call("repetition", self.list, "--jingles", other, "--tous", "1", status=1)
+
+    def test_refuse_items_of_a_list_that_is_not_there(self):
+        self.make_list(60)
+        self.call("repetition", self.list, "--mode", "aleatoire", "--fichiers", self.folder / "absent.dfm", "--tous1", "1",
+                  status=1)
 
     def test_a_rendering_never_takes_the_place_of_a_list(self):
         self.make_list(60)
@@ -109,6 +120,13 @@ class Insertions(Drawn):
         before = jingles.read_bytes()
         self.call("repetition", self.list, "--jingles", jingles, "--tous", "1", "--rendu", jingles, status=1)
         self.assertEqual(jingles.read_bytes(), before)
+
+    def test_a_rendering_never_takes_the_place_of_a_list_of_items(self):
+        self.make_list(60)
+        items = self.put_source("musique", 4, 10)
+        before = items.read_bytes()
+        self.call("repetition", self.list, "--fichiers", items, "--tous1", "1", "--rendu", items, status=1)
+        self.assertEqual(items.read_bytes(), before)
 
 
 if __name__ == "__main__":

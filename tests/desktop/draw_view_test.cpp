@@ -56,6 +56,32 @@ TEST_F(DrawsOnView, ShowTheTableAndTheNewestDraw) {
     EXPECT_TRUE(draws.item(draws.count() - 1)->text().endsWith(" - Pas Trouvé Ok"));
 }
 
+TEST_F(DrawsOnView, ShowEachFigureBehindItsName) {
+    QWidget& view = show_after_a_draw();
+    station.draw_window.total.caption = "11";
+    station.draw_window.jingle_total.caption = "22";
+    station.draw_window.null_draws.caption = "33";
+    settle();
+    std::vector<std::pair<std::string, std::string>> figures;
+    const StationLabel* before = nullptr;
+    for (const QWidget* part : parts_on_view(view)) {
+        const auto* label = dynamic_cast<const StationLabel*>(part);
+        if (label != nullptr && before != nullptr && label->text().size() == 2)
+            figures.emplace_back(before->text().toStdString(), label->text().toStdString());
+        before = label;
+    }
+    EXPECT_EQ(figures, (std::vector<std::pair<std::string, std::string>>{
+                           {"Déjà tirés", "11"}, {"Tirages nuls", "33"}, {"Déjà tirés", "22"}}));
+}
+
+TEST_F(DrawsOnView, AreToldApartToScreenReaders) {
+    show_after_a_draw();
+    for (const ListBox* played : {&station.draw_window.played, &station.draw_window.jingles_played})
+        EXPECT_EQ(list(*played).accessibleName(), "Déjà tirés");
+    for (const ListBox* draws : {&station.draw_window.draws, &station.draw_window.jingle_draws})
+        EXPECT_EQ(list(*draws).accessibleName(), "Tirages");
+}
+
 TEST_F(DrawsOnView, AreSearchedByANumberThatIsTyped) {
     QWidget& view = show_after_a_draw();
     auto* number = view.findChild<QLineEdit*>(QString::fromStdString(station.draw_window.number.name()));

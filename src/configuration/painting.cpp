@@ -72,7 +72,7 @@ void paint_graphic_button(GraphicButton& button, const StationSettings& settings
 }
 
 /// What the labels' colour becomes under the pointer, no byte beyond its greatest value.
-Colour under_pointer(Colour colour) {
+Colour sum_under_pointer(Colour colour) {
     constexpr Colour greatest = 0xff;
     Colour sum = 0;
     for (const int shift : {0, 8, 16})
@@ -103,10 +103,13 @@ void paint_station_window(Window& window, const StationSettings& settings) {
             static_cast<TextBox&>(*control).set_text(std::string{painted->text_of_boxes});
 }
 
-void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings) {
+void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings,
+                   std::optional<Colour> under_pointer) {
     const std::vector<Label*> buttons{labels.begin(), labels.end()};
     for (Label* label : buttons)
-        label->on_mouse_move = [label, &settings] { label->fore_colour = under_pointer(settings.coul_label); };
+        label->on_mouse_move = [label, under_pointer, &settings] {
+            label->fore_colour = under_pointer.value_or(sum_under_pointer(settings.coul_label));
+        };
     window.on_mouse_move = [buttons, &settings] {
         for (Label* label : buttons)
             label->fore_colour = settings.coul_label;

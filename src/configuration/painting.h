@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "platform/controls.h"
@@ -21,7 +22,8 @@ void paint_station_window(Window& window, const StationSettings& settings);
 inline constexpr Colour hover_step = 18000;
 
 /// Labels that act as buttons change their colour under the pointer, and get it back when it moves over the window.
-/// The settings outlive the window's events.
-void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings);
+/// The settings outlive the window's events. Without a colour of its own the sum above is the one under the pointer.
+void connect_hover(Window& window, std::span<Label* const> labels, const StationSettings& settings,
+                   std::optional<Colour> under_pointer = std::nullopt);
 
 } // namespace sonarelle

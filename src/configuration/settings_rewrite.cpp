@@ -7,13 +7,9 @@
 
 namespace sonarelle {
 
-namespace {
-
 std::string restart_needed() {
     return "Pour prendre effet..le redémarrage de " + std::string{application_title} + " est nécessaire";
 }
-
-} // namespace
 
 SettingsRewrite::SettingsRewrite(const Platform& platform, StationSettings& settings, Ends ends)
     : platform_{platform},

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "configuration/settings_store.h"
 #include "platform/platform.h"
 
 namespace sonarelle {
+
+/// What is told where values are read at the next start.
+[[nodiscard]] std::string restart_needed();
 
 /// The two routines that rewrite the whole store. The values are read at the next start.
 class SettingsRewrite {

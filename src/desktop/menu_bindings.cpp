@@ -111,10 +111,15 @@ MenuItemBinding& MenuBindings::entry(MenuItem& item) {
     QMenu* menu = made->menu();
     MenuItemBinding& binding = *(entries_[&item] = std::move(made));
     for (MenuItem* child : item.entries()) {
-        if (child->begins_group())
+        if (item.begins_group(*child))
             menu->addSeparator();
-        menu->addAction(&entry(*child).action());
-        entry(*child).on_shown = [menu] { mark_letters(*menu); };
+        MenuItemBinding& below = entry(*child);
+        menu->addAction(&below.action());
+        below.on_shown = [menu, elsewhere = std::move(below.on_shown)] {
+            if (elsewhere)
+                elsewhere();
+            mark_letters(*menu);
+        };
     }
     if (menu != nullptr)
         mark_letters(*menu);

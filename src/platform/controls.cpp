@@ -34,11 +34,15 @@ void OptionButton::set_value(bool chosen) {
 }
 
 void MenuItem::hang(std::initializer_list<std::initializer_list<MenuItem*>> groups) {
-    for (const auto& group : groups)
-        for (MenuItem* entry : group) {
-            entry->begins_group_ = !entries_.empty() && entry == *group.begin();
-            entries_.push_back(entry);
-        }
+    for (const auto& group : groups) {
+        if (!entries_.empty())
+            group_heads_.push_back(*group.begin());
+        entries_.insert(entries_.end(), group);
+    }
+}
+
+bool MenuItem::begins_group(const MenuItem& entry) const {
+    return std::ranges::find(group_heads_, &entry) != group_heads_.end();
 }
 
 int ProgressBar::percent() const {

@@ -235,6 +235,9 @@ public:
     }
     /// Chooses an entry, counted from 0.
     void choose(int index);
+    /// The keyboard goes to it, and leaves it.
+    void enter() { raise(on_enter); }
+    void leave() { raise(on_leave); }
     /// A character was typed while it had the focus.
     void key_press(char32_t character) {
         if (is_reachable() && on_key_press)
@@ -244,6 +247,8 @@ public:
     Property<std::vector<std::string>> items{*this, {}};
     Property<int> selected{*this, -1};
     bool takes_typing = true; ///< Otherwise it is a chooser, whose text the station writes.
+    std::function<void()> on_enter;
+    std::function<void()> on_leave;
     std::function<void()> on_change;
     std::function<void()> on_click;
     std::function<void(char32_t)> on_key_press;
@@ -281,11 +286,11 @@ public:
     /// The menu is about to show its entries.
     void open() { raise(on_open); }
 
-    /// Hangs entries under it, in groups that a line parts.
+    /// Hangs entries under it, in groups that a line parts. An entry may hang under several.
     void hang(std::initializer_list<std::initializer_list<MenuItem*>> groups);
     [[nodiscard]] const std::vector<MenuItem*>& entries() const { return entries_; }
-    /// A line stands above it in its menu.
-    [[nodiscard]] bool begins_group() const { return begins_group_; }
+    /// A line stands above this one of its entries.
+    [[nodiscard]] bool begins_group(const MenuItem& entry) const;
 
     Property<std::string> caption;
     Property<std::string> shortcut; ///< As "F5" or "Ctrl+Y".
@@ -298,7 +303,7 @@ public:
 
 private:
     std::vector<MenuItem*> entries_;
-    bool begins_group_ = false;
+    std::vector<const MenuItem*> group_heads_; // but for the first group's
 };
 
 /// Gives a trait to entries of the menus.

@@ -56,7 +56,7 @@ TEST_F(MainMenusTest, WhatDestroysStandsLastBehindALine) {
         const auto& entries = menu->entries();
         const auto first = std::ranges::find_if(entries, destroys);
         ASSERT_NE(first, entries.end()) << menu->name();
-        EXPECT_TRUE((*first)->begins_group()) << menu->name();
+        EXPECT_TRUE(menu->begins_group(**first)) << menu->name();
         EXPECT_TRUE(std::all_of(first, entries.end(), destroys)) << menu->name();
     }
 }
@@ -71,9 +71,9 @@ TEST_F(MainMenusTest, EveryEntryHangsInOnePlace) {
 }
 
 TEST_F(MainMenusTest, ALinePartsTheGroupsOfAMenu) {
-    EXPECT_FALSE(window.A_lecteur_CD_Win.begins_group());
-    EXPECT_FALSE(window.A_Ouvrir_CD.begins_group());
-    EXPECT_TRUE(window.a_vol.begins_group());
+    EXPECT_FALSE(window.live_.begins_group(window.A_lecteur_CD_Win));
+    EXPECT_FALSE(window.live_.begins_group(window.A_Ouvrir_CD));
+    EXPECT_TRUE(window.live_.begins_group(window.a_vol));
 }
 
 TEST_F(MainMenusTest, FunctionKeysBelongToOneEntryEach) {

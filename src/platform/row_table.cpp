@@ -46,6 +46,35 @@ void RowTable::replace(int number, Row row) {
         row_observer_->row_changed(number);
 }
 
+void RowTable::press() {
+    raise_by_hand(on_press);
+}
+
+void RowTable::double_click(int number) {
+    if (!is_reachable())
+        return;
+    select(number);
+    raise(on_double_click);
+}
+
+void RowTable::click_heading() {
+    raise_by_hand(on_heading_click);
+}
+
+bool RowTable::drag(int number) {
+    return is_reachable() && on_drag && on_drag(number);
+}
+
+void RowTable::drop(int target) {
+    if (on_drop)
+        on_drop(target);
+    end_drag();
+}
+
+void RowTable::end_drag() {
+    raise(on_drag_end);
+}
+
 void RowTable::click(int number) {
     if (!is_reachable())
         return;

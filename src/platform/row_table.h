@@ -72,13 +72,31 @@ public:
     /// Scrolls a row into view.
     void ensure_visible(int number);
 
-    /// The operator presses a row: it is selected, and the click raised.
+    /// The operator presses a row: it is selected, and the click raised. The button is down before that.
+    void press();
     void click(int number);
+    void double_click(int number);
+    /// He presses a heading.
+    void click_heading();
+    /// He takes a row elsewhere: false where it can't be taken.
+    [[nodiscard]] bool drag(int number);
+    /// He lets it go over another row, 0 for none of them; then the drag has ended, as it has without a drop.
+    void drop(int target);
+    void end_drag();
     /// The operator has typed another text over that of a row. Nothing when labels are edited manually.
     void edit_label(int number, std::string text);
 
     Property<LabelEditing> label_editing{*this, LabelEditing::manual};
+    bool has_keyboard = false;               ///< What is typed is for the rows first.
+    std::function<bool(int row)> is_on_view; ///< Asked of the screen; without one every row is.
+    [[nodiscard]] bool is_row_on_view(int row) const { return row > 0 && (!is_on_view || is_on_view(row)); }
+    std::function<void()> on_press;
     std::function<void()> on_click;
+    std::function<void()> on_double_click; ///< Of the selected row.
+    std::function<void()> on_heading_click;
+    std::function<bool(int row)> on_drag;
+    std::function<void(int target)> on_drop;
+    std::function<void()> on_drag_end;
     std::function<void()> on_label_edited;
 
 private:

@@ -16,7 +16,14 @@ enum class ListAction {
     a_mettre_a_jour_liste,
     a_modif,
     a_modifie_morceau,
-    load_on_liste
+    load_on_liste,
+    copier_,
+    Couper_,
+    coller_,
+    drag_row,
+    drop_row,
+    drop_files,
+    sort_rows
 };
 
 /// What an action asks of the list and of the operator before it begins.
@@ -24,6 +31,7 @@ struct ListActionRow {
     ListAction action = ListAction::prechar;
     bool needs_saving = false; ///< Refused while modifications aren't saved to the default list.
     bool needs_dfm = false;    ///< Refused until the list has been saved in its present form.
+    bool tells_work = false;   ///< Where another action is under way, the operator is told why nothing happens.
 
     std::string_view question = {};     ///< Yes or No before all else; lines parted by line feeds.
     std::string_view input_title = {};  ///< Of the box that asks for the new value; empty: there is none.

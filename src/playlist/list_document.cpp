@@ -130,8 +130,10 @@ void ListDocument::append_chosen_list(const std::string& name) {
     recup_nom();
     append_records<enreg_liste>(list_.fichier_liste);
     announce_list();
-    if (merge || default_.is_anothers(list_.fichier_liste)) // whose rows come and go without a word
+    if (default_.is_anothers(list_.fichier_liste)) // whose rows come and go without a word
         sauve_tout();
+    else if (merge)
+        save_by_itself();
     a_mettre_Enabled();
     window_.mouse_pointer = 0;
     list_.extension_fichier.clear();
@@ -184,7 +186,7 @@ void ListDocument::select_current_row() {
     window_.rows.ensure_visible(row);
 }
 
-void ListDocument::sauve_tout() {
+bool ListDocument::sauve_tout() {
     assert(on_window_thread());
     ErrorIndicator errors;
     errors.skip([this] { enter_program_folder(platform_); });
@@ -203,6 +205,15 @@ void ListDocument::sauve_tout() {
     if (saved)
         take_default_list();
     tell_notice();
+    return saved;
+}
+
+bool ListDocument::save_edit() {
+    if (!sauve_tout())
+        return false;
+    list_.fichier_liste_precedent = list_.fichier_liste;
+    offer_deletion();
+    return true;
 }
 
 // A list that couldn't be written isn't the one of these rows.

@@ -40,9 +40,12 @@ public:
     /// Writes all rows to `liste.dfm` in the program's folder, whatever list was loaded, or to a list of this station's
     /// own where that one is another program's. Empty cells get their
     /// defaults. A cell that can't be converted gives its record the value of the record before.
-    void sauve_tout();
-    /// The same of a row that came or went by itself: where the operator doesn't want his modifications saved, the
-    /// table alone has it.
+    /// False where the list couldn't be written, which was told.
+    bool sauve_tout();
+    /// The same behind an edit by hand. The list that is in use afterwards is the one that the edit is in.
+    bool save_edit();
+    /// The same of rows that came or went by themselves, or with another list: where the operator doesn't want his
+    /// modifications saved, the table alone has them.
     void save_by_itself();
 
     void A_sauve();

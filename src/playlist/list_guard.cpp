@@ -16,9 +16,13 @@ void refuse(Dialogs& dialogs, const char* text, Icon icon) {
 } // namespace
 
 bool ListGuard::allows(ListAction action) const {
-    if (at_work_)
-        return false;
     const ListActionRow& row = list_action(action);
+    if (at_work_) {
+        if (row.tells_work)
+            refuse(platform_.dialogs, "Un traitement de la liste est en cours\nAttendez qu'il soit fini",
+                   Icon::information);
+        return false;
+    }
     if (row.needs_saving && window_.a_Ne_pas_Sauve.checked) {
         refuse(platform_.dialogs,
                "Traitement impossible avec l'option\n"

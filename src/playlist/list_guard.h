@@ -15,7 +15,7 @@ public:
           list_{list},
           window_{window} {}
 
-    /// False, without a word, while another action is under way.
+    /// False while another action is under way; only edits by hand have a word for it.
     [[nodiscard]] bool allows(ListAction action) const;
 
 private:

@@ -15,6 +15,7 @@ namespace sonarelle {
 
 namespace {
 
+constexpr int every_row = 1'000'000'000;       // also those that come during the walk
 constexpr int rows_ahead = 512;                // enough to work on while the window thread waits for its next look
 constexpr std::chrono::milliseconds a_look{5}; // far below the lead by which ticks run ahead of the sound
 
@@ -96,12 +97,26 @@ void ListUpdate::a_mettre_a_jour_liste() {
         state_.maj_liste_en_cours = true;
         tested = test_before(after_drop);
         if (tested.goes_on)
-            update_all_rows();
+            update_rows(1, every_row);
         state_.maj_liste_en_cours = false;
     }
-    if (!tested.goes_on)
-        return;
-    offer_saving(short_name, tested.removed);
+    if (tested.goes_on)
+        offer_result(short_name, tested.removed);
+}
+
+void ListUpdate::update_dropped_rows(int first, int count) {
+    const std::string short_name{name_of_path(state_.nom_fichier)};
+    {
+        const ListWork work = list_.begin();
+        state_.maj_liste_en_cours = true;
+        update_rows(first, count);
+        state_.maj_liste_en_cours = false;
+    }
+    offer_result(short_name, 0);
+}
+
+void ListUpdate::offer_result(const std::string& short_name, int removed) {
+    offer_saving(short_name, removed);
     list_.window().list_status.caption = "Nb de morceaux : " + std::to_string(list_.rows().count()) + " (" +
                                          std::to_string(list_.rows().selected()) + ")";
 }
@@ -112,18 +127,10 @@ ListVerification::Outcome ListUpdate::test_before(bool after_drop) {
     return verification_.test_all_rows(true);
 }
 
-void ListUpdate::update_all_rows() {
-    list_.progress().begin(list_.rows().count(), "Traitement en cours ......Patientez !");
+void ListUpdate::update_rows(int first, int count) {
+    list_.progress().begin(std::min(count, list_.rows().count()), "Traitement en cours ......Patientez !");
     try {
-        const auto lengths = platform_.media.measure_ahead();
-        int wanted = 0;
-        for (int row = 1; row <= list_.rows().count() && !list_.progress().is_cancelled();) {
-            for (; wanted < std::min(row + rows_ahead, list_.rows().count()); ++wanted)
-                lengths->want(list_.rows().text(wanted + 1));
-            list_.progress().advance(row, "Traitement en cours " + std::to_string(row) + " / " +
-                                              std::to_string(list_.rows().count()));
-            row = list_.follow(update_row(row, *lengths));
-        }
+        walk_rows(first, count);
     } catch (const Failure& failure) {
         give_up(failure.what());
     }
@@ -131,21 +138,36 @@ void ListUpdate::update_all_rows() {
     list_.progress().end();
 }
 
-// Gives the row to go on with: the next one, or this one at its new place when the chain, or the operator, has changed
-// the list during the wait for its length.
-int ListUpdate::update_row(int row, LengthsAhead& lengths) {
+void ListUpdate::walk_rows(int first, int count) {
+    const auto lengths = platform_.media.measure_ahead();
+    int wanted = first - 1;
+    int done = 0;
+    for (int row = first; row <= list_.rows().count() && done < count && !list_.progress().is_cancelled();) {
+        const int last = std::min(row - 1 + count - done, list_.rows().count());
+        for (; wanted < std::min(row + rows_ahead, last); ++wanted)
+            lengths->want(list_.rows().text(wanted + 1));
+        list_.progress().advance(done + 1, "Traitement en cours " + std::to_string(row) + " / " +
+                                               std::to_string(list_.rows().count()));
+        const Step step = update_row(row, *lengths);
+        done += step.done ? 1 : 0;
+        row = list_.follow(step.next);
+    }
+}
+
+// The list may change during the wait for a row's length.
+ListUpdate::Step ListUpdate::update_row(int row, LengthsAhead& lengths) {
     const DestinationRecord record = list_.read(row);
     make_current(row);
     const RowTable::Row before = list_.rows().row(row);
     const auto length = wait_for(lengths, record.dest_chemin);
     if (!length)
-        return row;
+        return {.next = row};
     if (row > list_.rows().count() || list_.rows().row(row) != before)
-        return list_.place_of(before, row);
+        return {.next = list_.place_of(before, row)};
     const MeasuredFile measured = measure_.met_ajour(record.dest_chemin, *length);
     if (const auto* facts = std::get_if<TrackFacts>(&measured))
         list_.rows().replace(row, measured_row(record, *facts));
-    return row + 1;
+    return {.done = true, .next = row + 1};
 }
 
 /// Nothing when the operator doesn't want to wait any longer.

@@ -28,16 +28,26 @@ public:
     /// The selected row, or the row that was just dropped.
     void a_mettre_a_jour();
     void a_mettre_a_jour_liste();
+    /// The rows that were just dropped: these alone, and without a test.
+    void update_dropped_rows(int first, int count);
 
 private:
+    /// A row that the walk has done with, or comes back to when the list changed meanwhile.
+    struct Step {
+        bool done = false;
+        int next = 0;
+    };
+
     [[nodiscard]] std::optional<std::string> update_one_row();
     void update_dropped_row();
     [[nodiscard]] std::optional<std::string> update_selected_row();
     void give_up(const std::string& description);
 
     [[nodiscard]] ListVerification::Outcome test_before(bool after_drop);
-    void update_all_rows();
-    [[nodiscard]] int update_row(int row, LengthsAhead& lengths);
+    void update_rows(int first, int count);
+    void walk_rows(int first, int count);
+    [[nodiscard]] Step update_row(int row, LengthsAhead& lengths);
+    void offer_result(const std::string& short_name, int removed);
     [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);
     void offer_saving(const std::string& short_name, int removed);
     void make_current(int row);

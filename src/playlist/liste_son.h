@@ -20,14 +20,25 @@ struct Liste_son : Window {
     Label progress{*this, "Label3"};               ///< Elapsed second and mix point of the main deck.
     Label remaining{*this, "Label4", "00:00:00"};  ///< Remaining time of the main deck.
     Label zap_status{*this, "Label12", "Zapping autorisé"};
-    Label time_of_day{*this, "Label13"};     ///< Time of day.
-    Label running_deck{*this, "Label16"};    ///< Which deck plays in the chain over decks.
-    Label file_in_use{*this, "Label25"};     ///< The list that is read.
+    Label time_of_day{*this, "Label13"};  ///< Time of day.
+    Label running_deck{*this, "Label16"}; ///< Which deck plays in the chain over decks.
+    Label file_in_use{*this, "Label25"};  ///< The list that is read.
+    ComboBox search{*this, "Combo1", "Rechercher"};
+    Label search_hits{*this, "search_hits"}; ///< Which of how many rows that the search has found is selected.
     Image play_list{*this, "Image1"};        ///< Starts the list.
     Image zap{*this, "Image2"};              ///< Zaps.
     Image stop_decks{*this, "Image3"};       ///< Stops all decks.
     Image show_playing_row{*this, "Image4"}; ///< Shows the row that plays.
-    Image side_picture{*this, "Image10"};    ///< Picture beside the window's buttons.
+    Image show_main_window{*this, "Image5"};
+    Image look{*this, "Image6"};
+    Image help{*this, "Image7"};
+    Image side_picture{*this, "Image10"};        ///< Picture beside the window's buttons.
+    Label list_label{*this, "Label5", "&Liste"}; ///< The labels that act as buttons.
+    Label delete_label{*this, "Label6", "S&uppr."};
+    Label add_label{*this, "Label7", "&Ajouter"};
+    Label close_label{*this, "Label9", "Fermer"};
+    Label search_label{*this, "Label10", "S"};
+    Label display_label{*this, "Label11", "A.."};
     Label jingles_status{*this, "Label14", "Jingle auto "};
     Label items_status{*this, "Label15", "Liste / Off"};
     Image jingles_switch{*this, "Image13", "bouton_off.jpg"}; ///< Switch of the jingles.
@@ -63,7 +74,45 @@ struct Liste_son : Window {
     MenuItem char1{*this, "char1", "Charger sur Play 1"};
     MenuItem char2{*this, "char2", "Charger sur Play 2"};
     MenuItem char3{*this, "char3", "Charger sur Play 3"};
-    MenuItem coller{*this, "coller", "Coller"};
+    MenuItem Couper_{*this, "Couper_", "Couper", "Ctrl+X"};
+    MenuItem copier_{*this, "copier_", "Copier", "Ctrl+C"};
+    MenuItem coller{*this, "coller", "Coller", "Ctrl+V"};
+    MenuItem supprime{*this, "supprime", "Supprimer", "Del"};
+    MenuItem Effacer_liste{*this, "Effacer_liste", "Effacer la liste (V)"};
+    MenuItem of_deletion{*this, "of_deletion", "Supprimer"}; ///< What the delete label opens.
+    MenuItem of_adding{*this, "of_adding", "Ajouter"};       ///< What the add label opens.
+    MenuItem ajout_fich{*this, "ajout_fich", "Ajouter un fichier mp3 ; wav ; wma.."};
+    MenuItem ajout_fichs{*this, "ajout_fichs", "Ajouter un dossier"};
+    MenuItem ajout_jingl{*this, "ajout_jingl", "Ajouter un jingle mp3 ; wav ; wma .."};
+    MenuItem ajout_fich_reseau{*this, "ajout_fich_reseau",
+                               "Ajouter un fichier avec l'explorateur de Windows (Glisser / déplacer)"};
+    MenuItem of_insertion{*this, "of_insertion", "Paramètre insertion"};
+    MenuItem inser_avant{*this, "inser_avant", "Insérer avant l'élément sélectionné"};
+    MenuItem inser_apres{*this, "inser_apres", "Insérer après l'élément sélectionné"};
+    MenuItem inser_fin{*this, "inser_fin", "Insérer en fin de liste"};
+    MenuItem A_conserver{*this, "A_conserver", "Conserver dans la recherche"};
+    MenuItem A_recherche{*this, "A_recherche", "Recherche auto sur disque"};
+    MenuItem find_next{*this, "find_next", "Occurrence suivante", "F3"};
+    MenuItem find_previous{*this, "find_previous", "Occurrence précédente", "Shift+F3"};
+    MenuItem of_look{*this, "of_look", "Look"}; ///< Colours, pictures, and where the window stands.
+    MenuItem T_Printemps{*this, "T_Printemps", "Teinte préchargée : Printemps"};
+    MenuItem T_Eté{*this, "T_Eté", "Teinte préchargée : Eté"};
+    MenuItem T_Autonne{*this, "T_Autonne", "Teinte préchargée : Automne"};
+    MenuItem T_Hiver{*this, "T_Hiver", "Teinte préchargée : Hiver"};
+    MenuItem T_Nuit{*this, "T_Nuit", "Teinte préchargée : Nuit"};
+    MenuItem a_coul_label{*this, "a_coul_label", "Couleur texte"};
+    MenuItem A_coul_texte_liste{*this, "A_coul_texte_liste", "Couleur texte liste"};
+    MenuItem A_coul_fenètre{*this, "A_coul_fenètre", "Couleur Fond"};
+    MenuItem logofond{*this, "logofond", "Image de fond"};
+    MenuItem logo_{*this, "logo_", "Image Menu liste"};
+    MenuItem logo_liste{*this, "logo_liste", "Image fond liste"};
+    MenuItem A_coul_fond_liste{*this, "A_coul_fond_liste", "Couleur Fond liste"};
+    MenuItem logo_menu_fichier{*this, "logo_menu_fichier", "Image Menu fichier"};
+    MenuItem a_coul_bouton{*this, "a_coul_bouton", "Couleur Bouton"};
+    MenuItem A_coul_text_bouton{*this, "A_coul_text_bouton", "Couleur texte Bouton"};
+    MenuItem a_coul_bouton_groupe_lecture{*this, "a_coul_bouton_groupe_lecture", "Couleur bouton (groupe lecture)"};
+    MenuItem dock_list{*this, "dock_list", "Accrocher la liste à la fenètre principale", "Alt+Down"};
+    MenuItem free_list{*this, "free_list", "Détacher la liste", "Alt+Up"};
     MenuItem Load_Pl{*this, "Load_Pl"};                     ///< The context menu of the rows, with all that follows.
     MenuItem of_row{*this, "of_row", "Ce fichier"};         ///< What is done to the row's file,
     MenuItem of_list{*this, "of_list", "Toute la liste"};   ///< to all rows,
@@ -96,8 +145,14 @@ struct Liste_son : Window {
     /// The entries of the deck loads, by deck.
     [[nodiscard]] std::array<MenuItem*, 3> deck_loads() { return {&char1, &char2, &char3}; }
     /// What lists in a fixed order offer beside the pre-listen: lists to open, to make and to convert.
-    [[nodiscard]] std::array<MenuItem*, 5> entries_of_a_fixed_order() {
-        return {&A_liste, &A_Charge, &A_liste_anciene, &creer_aleatoire, &Convertion};
+    [[nodiscard]] std::array<MenuItem*, 7> entries_of_a_fixed_order() {
+        return {&A_liste, &A_Charge, &A_liste_anciene, &creer_aleatoire, &Convertion, &Effacer_liste, &supprime};
+    }
+    /// The insertion modes, in the order of their numbers from 1.
+    [[nodiscard]] std::array<MenuItem*, 3> insertion_modes() { return {&inser_avant, &inser_apres, &inser_fin}; }
+    /// The labels that act as buttons.
+    [[nodiscard]] std::array<Label*, 7> label_buttons() {
+        return {&list_label, &delete_label, &add_label, &save_as, &close_label, &search_label, &display_label};
     }
     /// The entries that need a list, and stand disabled until there is one.
     [[nodiscard]] std::array<MenuItem*, 9> entries_that_need_a_list();

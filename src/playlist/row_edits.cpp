@@ -33,8 +33,8 @@ void RowEdits::remove(int number) {
     rows_.remove(number);
     const bool chain_is_on_it = list_.index_en_cours == number;
     if (chain_is_on_it)
-        chain_.choix_prepare = false;
-    if (chain_is_on_it || next == number)
+        give_up_prepared_row();
+    if (next == number)
         chain_.chargement_fait = false;
     if (chain_is_on_it && chain_.lecteur_en_cours != 0)
         list_.index_en_cours -= 1;
@@ -60,6 +60,22 @@ void RowEdits::move(int number, int target) {
             return place - 1;
         return place < number && place >= landing ? place + 1 : place;
     });
+}
+
+void RowEdits::clear() {
+    rows_.clear();
+    list_.ligne_en_lecture = list_.index_en_cours = list_.index_insertion = chain_.element_en_cours = 0;
+    give_up_prepared_row();
+}
+
+void RowEdits::sort(SortOrder order) {
+    rows_.sort_by(0, order);
+    give_up_prepared_row();
+}
+
+void RowEdits::give_up_prepared_row() const {
+    chain_.choix_prepare = false;
+    chain_.chargement_fait = false;
 }
 
 } // namespace sonarelle

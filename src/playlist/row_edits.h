@@ -24,8 +24,13 @@ public:
     void remove(int number);
     /// Brings a row before the one at `target`; one that moves down therefore lands at `target` - 1.
     void move(int number, int target);
+    /// All rows go, and the chain begins with the first one that comes.
+    void clear();
+    /// By their paths. The chain's place stays at its number, so it goes on behind another row.
+    void sort(SortOrder order);
 
 private:
+    void give_up_prepared_row() const;
     /// `place_of` gives a row's new number from its old one, and for a row that has left the one that took its place.
     template <typename PlaceOf>
     void follow(int next_before, const PlaceOf& place_of);

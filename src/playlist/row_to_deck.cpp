@@ -44,8 +44,6 @@ void RowToDeck::Load_Pl() {
     int deck = 0;
     for (MenuItem* entry : window_.deck_loads())
         entry->enabled = chain_.lecteur_en_cours != ++deck;
-    if (!platform_.shell.clipboard_text().empty())
-        window_.coller.enabled = true;
 }
 
 } // namespace sonarelle

@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/shell.h"
 #include "playlist/list_rows.h"
+#include "playlist/search_words.h"
 
 namespace sonarelle {
 
@@ -14,7 +15,6 @@ namespace {
 constexpr std::string_view cd_player = "C:\\WINDOWS\\CDPLAYER.EXE";
 constexpr std::string_view media_player = "C:\\Program Files\\Windows Media Player\\wmplayer.exe";
 constexpr std::string_view volume_control = "C:\\WINDOWS\\system32\\sndvol32.exe";
-constexpr std::string_view search_words = "recherche.dit";
 
 std::string yes_or_no(bool yes) {
     return yes ? "Oui" : "Non";
@@ -63,7 +63,7 @@ void DeskCommands::toggle_dragging() {
 void DeskCommands::forget_search_words() {
     const bool deleted = ErrorIndicator{}.skip([this] {
         enter_program_folder(platform_);
-        platform_.disk.Kill(search_words);
+        platform_.disk.Kill(search_words_file);
     });
     if (deleted)
         show_box(platform_.dialogs, "Ok liste recherche vide", Icon::information);

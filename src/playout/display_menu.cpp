@@ -196,6 +196,46 @@ void DisplayMenu::open_list_window() {
     list_.show();
 }
 
+void DisplayMenu::close_list() {
+    list_.hide();
+    store_place(platform_, list_, list_window_place);
+    check_only(window_.views(), *window_.views().front());
+    if (!window_.visible)
+        show_main_window(WindowState::normal);
+}
+
+bool DisplayMenu::is_list_docked() const {
+    return list_.left.get() == window_.left.get() && list_.width.get() == window_.width.get() &&
+           list_.height.get() <= docked_list_height && list_.top.get() > window_.top.get();
+}
+
+void DisplayMenu::dock_list() {
+    if (!is_list_docked())
+        free_place_ = Place{list_.left, list_.top, list_.width, list_.height};
+    list_.state = WindowState::normal;
+    list_.height = docked_list_height;
+    align_list();
+}
+
+void DisplayMenu::free_list() {
+    const ScreenArea screen = platform_.screen();
+    const Place whole{screen.left, screen.top, screen.width, screen.height - list_.frame_height()};
+    const Place place = free_place_.value_or(whole);
+    list_follows_ = false;
+    list_.state = WindowState::normal;
+    list_.left = place.left;
+    list_.top = place.top;
+    list_.width = place.width;
+    list_.height = place.height;
+}
+
+void DisplayMenu::toggle_list_place() {
+    if (is_list_docked())
+        free_list();
+    else
+        dock_list();
+}
+
 void DisplayMenu::hide_menus() {
     if (active_text_combo)
         active_text_combo();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/platform.h"
 #include "playlist/liste_son.h"
@@ -53,6 +54,13 @@ public:
     /// The small player takes the main window's place.
     void a_mini_Click();
     void open_list_window();
+    /// The list goes and its place is kept; where it was alone on view, the main window comes.
+    void close_list();
+
+    /// Docked below the main window, or free: where the operator had it, else over the whole screen.
+    void dock_list();
+    void free_list();
+    void toggle_list_place();
 
     /// The menu bar hidden and shown again, with the labels that stand for it.
     void hide_menus();
@@ -75,7 +83,13 @@ private:
     Liste_son& list_;
     mini_lecteur& small_player_;
     err_form& warning_;
+    struct Place {
+        Twips left, top, width, height;
+    };
+    [[nodiscard]] bool is_list_docked() const;
+
     bool cote_haut_ = false;
+    std::optional<Place> free_place_; // of the list, while it is docked
     bool list_follows_ = true;
 };
 

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/dialogs.h"
 #include "platform/failure.h"
+#include "playlist/file_existence.h"
 
 namespace sonarelle {
 
@@ -32,10 +34,8 @@ void ListRun::take_up() {
 
 void ListRun::start_selected_row() {
     select_a_row();
-    if (desk_.list_window.rows.selected() > INT16_MAX)
-        return desk_.notices.inform("La ligne " + std::to_string(desk_.list_window.rows.selected()) +
-                                    " ne peut pas être lue\nLa lecture va jusqu'à la ligne " +
-                                    std::to_string(INT16_MAX));
+    if (!is_playable_number(desk_.list_window.rows.selected()))
+        return;
     const Integer row = desk_.list_window.rows.selected();
     const Integer row_before = desk_.list.index_en_cours;
     desk_.list.index_en_cours = row;
@@ -61,6 +61,49 @@ void ListRun::start_row(Integer number, const DestinationRecord& row) {
     desk_.report_loaded(desk_.ring.deck(1));
     stop_other_decks();
     run_.lect_liste();
+}
+
+bool ListRun::is_playable_number(int row) const {
+    if (row > INT16_MAX)
+        desk_.notices.inform("La ligne " + std::to_string(row) +
+                             " ne peut pas être lue\nLa lecture va jusqu'à la ligne " + std::to_string(INT16_MAX));
+    return row <= INT16_MAX;
+}
+
+void ListRun::load_selected_row() {
+    const int row = desk_.list_window.rows.selected();
+    if (row == 0 || !desk_.list_window.play_list.enabled || !is_playable_number(row))
+        return;
+    if (desk_.ring.deck(1).sounds()) {
+        desk_.list_window.list_status.caption = "Le lecteur 1 est à l'antenne";
+        return;
+    }
+    ErrorIndicator{}.skip([&] { put_on_first_deck(row); });
+}
+
+void ListRun::put_on_first_deck(Integer number) {
+    desk_.list.glisser_en_cours = false;
+    desk_.list.index_en_cours = number;
+    if (!desk_.chain.ecoute_en_cours.is_true())
+        desk_.list.ligne_en_lecture = number;
+    if (desk_.list.fichier_liste.empty())
+        return save_dialog_.A_enreg_sous();
+    const DestinationRecord record = chain_.cursor.record_of(number);
+    desk_.list.chemin_fichier = record.dest_chemin;
+    const FileState found = look_for_file(desk_.platform.disk, record.dest_chemin).state;
+    if (found == FileState::missing || found == FileState::folder_missing)
+        return tell_missing_file(record.dest_chemin);
+    chain_.cursor.load_on(desk_.ring.deck(1), record);
+    desk_.report_loaded(desk_.ring.deck(1));
+    desk_.show_list_start();
+}
+
+void ListRun::tell_missing_file(const std::string& path) {
+    const MessageBox box{path + "\nCe fichier est NON TROUVE !\nIl est peut etre situé sur le réseau ?",
+                         "Recupération du nom de fichier"};
+    (void)desk_.platform.dialogs.MsgBox(box);
+    desk_.list.chemin_fichier.clear();
+    desk_.list_window.list_status.caption = "Fichier non trouve";
 }
 
 // On a graph of its own: a row that can't be played leaves the air as it is.

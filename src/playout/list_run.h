@@ -23,6 +23,8 @@ public:
     void play_list();
     /// The same of a list that was on the air before: its rows stay as they are.
     void take_up();
+    /// Puts the selected row on the first deck, unless that one sounds, and starts nothing.
+    void load_selected_row();
     /// Presses the stop buttons of all decks.
     void stop_decks();
     /// Shows the row that plays.
@@ -33,6 +35,10 @@ public:
 
 private:
     void start_selected_row();
+    void put_on_first_deck(Integer number);
+    /// Whether a row can be taken by its number, or the operator was told that it can't.
+    [[nodiscard]] bool is_playable_number(int row) const;
+    void tell_missing_file(const std::string& path);
     void start_row(Integer number, const DestinationRecord& row);
     void stop_other_decks();
     void select_a_row();

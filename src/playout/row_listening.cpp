@@ -36,7 +36,7 @@ bool is_there(Disk& disk, const std::string& path) {
 
 void RowListening::A_ecoute() {
     const int selected = desk_.list_window.rows.selected();
-    if (selected == 0)
+    if (selected == 0 || desk_.list_window.search.text() == "Non trouvé")
         return;
     if (const std::string refusal = why_not(selected); !refusal.empty())
         return desk_.notices.inform(refusal);

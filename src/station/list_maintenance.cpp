@@ -28,7 +28,6 @@ void ListMaintenance::connect(Liste_son& window) {
     window.a_modifie_morceau.on_click = [this] { editor.a_modifie_morceau(); };
     window.modifier_chemin.on_click = [this] { path_editing.modifier_chemin(); };
     window.modifier_chemin_non.on_click = [this] { path_editing.modifier_chemin_non(); };
-    window.rows.on_click = [this] { path_editing.follow(); };
     window.rows.on_label_edited = [this] { path_editing.label_edited(); };
 }
 

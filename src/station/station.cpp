@@ -85,7 +85,6 @@ void Station::connect_list_window() {
     list_window.a_Ne_pas_Sauve.on_click = [this] { list_document.a_Ne_pas_Sauve(); };
     list_window.A_Copen_rfm.on_click = [this] { legacy_list.A_Copen_rfm(); };
     list_window.A_Convertir_dfm.on_click = [this] { list_save_dialog.A_Convertir_dfm(); };
-    list_window.Load_Pl.on_open = [this] { row_to_deck.Load_Pl(); };
     list_window.char1.on_click = [this] { row_to_deck.Charg1_son(); };
     list_window.char2.on_click = [this] { row_to_deck.charg2_son(); };
     list_window.char3.on_click = [this] { row_to_deck.Charg3_son(); };
@@ -182,28 +181,19 @@ void Station::connect_keys() {
         std::function<void()> act;
     };
     const auto step_back = [this](int deck) { return [this, deck] { deck_transport.back(deck_ring.deck(deck)); }; };
-    const auto step_volume = [this](int steps) {
-        return [this, steps] {
-            if (deck_ring.has_main_deck())
-                deck_volume.step(deck_ring.main_deck(), steps);
-        };
-    };
-    const auto pause = [this] {
-        run_control.Mettre_en_pause([this](Deck& deck) { deck_transport.toggle_pause(deck); });
-    };
     std::vector<Key> keys{
         {U"\x1bqQ", [this] { desk_wiring.shutdown.Quitter__Click(); }},
         {U"&1", step_back(1)},
         {U"é2", step_back(2)},
         {U"\"3", step_back(3)},
         {U"aA", [this] { main_window.popup(main_window.affiche); }},
-        {U"bB", step_volume(1)},
-        {U"hH", step_volume(-1)},
+        {U"bB", [this] { step_volume(1); }},
+        {U"hH", [this] { step_volume(-1); }},
         {U"fF", [this] { main_window.A_gere.click(); }},
         {U"Im", [this] { desk_wiring.display_menu.a_mini_Click(); }},
         {U"lL", [this] { press_list_key(); }},
         {U"oO", [this] { main_window.popup(main_window.Option_); }},
-        {U"pP", pause},
+        {U"pP", [this] { pause_or_go_on(); }},
         {U"zZ", [this] { zapping.zapping(); }},
         {U"²", [this] { desk_wiring.display_menu.change_corner(); }},
     };
@@ -212,6 +202,15 @@ void Station::connect_keys() {
             if (key.characters.find(character) != std::u32string_view::npos)
                 return key.act();
     };
+}
+
+void Station::pause_or_go_on() {
+    run_control.Mettre_en_pause([this](Deck& deck) { deck_transport.toggle_pause(deck); });
+}
+
+void Station::step_volume(int steps) {
+    if (deck_ring.has_main_deck())
+        deck_volume.step(deck_ring.main_deck(), steps);
 }
 
 void Station::press_list_key() {

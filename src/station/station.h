@@ -43,6 +43,7 @@
 #include "station/desk_wiring.h"
 #include "station/drawn_rows.h"
 #include "station/list_maintenance.h"
+#include "station/list_wiring.h"
 #include "windows/antenne_fm.h"
 #include "windows/err_form.h"
 #include "windows/mini_lecteur.h"
@@ -74,6 +75,10 @@ public:
 
     /// Every window, in the order of creation.
     [[nodiscard]] std::vector<Window*> windows();
+
+    /// What the keys of both great windows do: pause, and the volume of the main deck in steps.
+    void pause_or_go_on();
+    void step_volume(int steps);
 
     /// The play and stop buttons of a deck.
     void press_play(Deck& deck);
@@ -135,6 +140,7 @@ public:
     DrawnRows drawn_rows;
     TrackProperties track_properties;
     DeskWiring desk_wiring{*this};
+    ListWiring list_wiring{*this};
 
 private:
     void connect_list_window();

@@ -97,8 +97,7 @@ void ComboBoxBinding::take_typing() {
 // After a choice the letters are the window's commands again.
 void ComboBoxBinding::choose(int index) {
     run([&] { box_.choose(index); });
-    if (!box_.takes_typing)
-        give_keyboard_back();
+    give_keyboard_back();
 }
 
 void ComboBoxBinding::show_state() {
@@ -138,6 +137,10 @@ bool ComboBoxBinding::eventFilter(QObject* object, QEvent* event) {
     }
     if (event->type() == QEvent::KeyPress && answer_key(*static_cast<QKeyEvent*>(event)))
         return true;
+    if (event->type() == QEvent::FocusIn && box_.on_enter)
+        run([this] { box_.enter(); });
+    if (event->type() == QEvent::FocusOut && box_.on_leave)
+        run([this] { box_.leave(); });
     return Binding::eventFilter(object, event);
 }
 
@@ -146,6 +149,10 @@ bool ComboBoxBinding::answer_key(const QKeyEvent& key) {
     for (const char32_t character : key.text().toUcs4())
         run([&] { box_.key_press(character); });
     const bool is_space = key.key() == Qt::Key_Space;
+    if (box_.takes_typing && (key.key() == Qt::Key_Escape || key.key() == Qt::Key_Return)) {
+        give_keyboard_back();
+        return true;
+    }
     if (box_.takes_typing)
         return is_space && box_.on_key_press;
     if (is_space)

@@ -1,7 +1,9 @@
 #include "desktop/list_view.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <array>
 
@@ -21,6 +23,8 @@ namespace {
 constexpr QSize least_size{1000, 230}; // pixels: its strips and two rows
 constexpr int edge = 20;               // pixels, left of what is read
 constexpr int foot_edge = 12;
+constexpr int search_width = 168; // pixels
+constexpr int search_width_narrow = 80;
 constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
 constexpr StationLabel::Style heading{.type = Type::tiny, .quiet = true, .capitals = true, .characters = 18};
 constexpr StationLabel::Style aside{.type = Type::small, .quiet = true};
@@ -81,7 +85,10 @@ QWidget* ListView::header() {
         dresser_.label(window_.zap_status, {.type = Type::base, .bold = true, .characters = 15, .alignment = right});
     remaining_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     changed_ = new Chip{"liste modifiée"};
-    auto* others = row_of({nullptr, changed_, zap, clock_}, 2 * studio::grid);
+    zap->set_pressable(true);
+    auto* others = row_of({nullptr, changed_, zap}, studio::grid);
+    others->addLayout(search());
+    others->addWidget(clock_);
     auto* row = row_in(*header_, edge);
     row->addLayout(header_texts(), 1);
     row->addWidget(remaining_);
@@ -89,6 +96,21 @@ QWidget* ListView::header() {
     for (const Label* label : {&window_.track_name, &window_.remaining, &window_.time_of_day})
         binding_of(*label)->on_shown = [this] { tell_air(); };
     return header_;
+}
+
+QLayout* ListView::search() {
+    search_ = dresser_.combo_box(window_.search);
+    search_->setAccessibleName("Recherche");
+    search_->setToolTip("Rechercher dans les chemins de la liste");
+    search_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    search_->lineEdit()->setAccessibleName("Texte à chercher");
+    search_->lineEdit()->setToolTip(search_->toolTip());
+    auto* hits = dresser_.label(window_.search_hits, {.type = Type::small, .quiet = true, .characters = 9});
+    auto* save = dresser_.label_button(window_.search_label);
+    save->set_size(ButtonSize::small);
+    save->set_least_width(32);
+    stops_.insert(stops_.end(), {search_, save});
+    return row_of({hits, search_, save}, studio::half_grid);
 }
 
 QLayout* ListView::header_texts() {
@@ -118,6 +140,7 @@ void ListView::tell_air() {
     remaining_->set_text(air_.left);
     remaining_->setAccessibleName("Temps restant");
     clock_->set_text(air_.clock);
+    clock_->setVisible(step_ == Step::large); // the desk has one above the list
     if (windowTitle() != title())
         setWindowTitle(title());
 }
@@ -209,12 +232,25 @@ QWidget* ListView::foot() {
     auto* row = row_in(*foot_, foot_edge);
     transport(*row);
     row->addWidget(side_picture(), 1); // it takes what the buttons leave
-    for (StudioButton* button : {dresser_.label_button(window_.save_as), menu_button()}) {
+    labels(*row);
+    return foot_;
+}
+
+void ListView::labels(QBoxLayout& row) {
+    auto* look = dresser_.image(window_.look);
+    auto* help = dresser_.image(window_.help);
+    look->set_words("Look");
+    help->set_words("Aide");
+    auto* list = dresser_.label_button(window_.list_label);
+    binding_of(window_.list_label)->set_spoken_name("Menu de la liste"); // the rows are the list
+    for (StudioButton* button :
+         {list, dresser_.label_button(window_.delete_label), dresser_.label_button(window_.add_label),
+          dresser_.label_button(window_.save_as), look, dresser_.label_button(window_.display_label), help,
+          dresser_.label_button(window_.close_label)}) {
         button->set_size(ButtonSize::control);
-        row->addWidget(button);
+        row.addWidget(button);
         stops_.push_back(button);
     }
-    return foot_;
 }
 
 void ListView::transport(QBoxLayout& row) {
@@ -227,13 +263,16 @@ void ListView::transport(QBoxLayout& row) {
     stop->set_sign(Sign::stop, "Stopper (S)");
     place->set_sign(Sign::place, "Position");
     place->setAccessibleName("Position");
+    auto* desk = dresser_.image(window_.show_main_window);
+    desk->set_sign(Sign::rows, "");
+    desk->setAccessibleName("Fenètre principale");
     // It can't be pressed while the list runs, and is its lamp then.
     binding_of(window_.play_list)->on_shown = [this] {
         play_->set_accent(window_.play_list.enabled ? Accent::none : Accent::air);
         play_->setAccessibleDescription(window_.play_list.enabled ? "" : "la liste est en lecture");
     };
     transport_ = {play_, zap, stop};
-    for (StudioButton* button : {play_, zap, stop, place}) {
+    for (StudioButton* button : {play_, zap, stop, place, desk}) {
         button->set_size(ButtonSize::control);
         button->installEventFilter(this);
         row.addWidget(button);
@@ -247,20 +286,6 @@ StudioButton* ListView::side_picture() {
     strip->setFocusPolicy(Qt::NoFocus);
     strip->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return strip;
-}
-
-StudioButton* ListView::menu_button() {
-    auto* button = new StudioButton{&content()};
-    button->setText("Menu");
-    button->set_marked("&Menu");
-    button->setShortcut(access_keys("&Menu"));
-    button->setAccessibleName("Toutes les commandes de la liste");
-    button->setToolTip(button->accessibleName());
-    connect(button, &QAbstractButton::clicked, this, [this, button] {
-        QMenu* menu = menus().menu(window_.Load_Pl);
-        menu->popup(button->mapToGlobal(QPoint{0, -menu->sizeHint().height()}));
-    });
-    return button;
 }
 
 // The table has the window's keyboard. As a proxy it would have the window's place in the round of the tab key, too.
@@ -306,6 +331,8 @@ void ListView::take_step(Step step) {
     header_->setFixedHeight(scaled(lengths.header));
     modes_->setFixedHeight(scaled(lengths.modes));
     foot_->setFixedHeight(scaled(lengths.foot));
+    tell_air();
+    search_->setFixedWidth(scaled(step == Step::narrow ? search_width_narrow : search_width));
     remaining_->setMaximumHeight(scaled(lengths.header)); // figures have nothing below their line
     for (StationLabel* text : headings_)
         text->setVisible(step != Step::narrow);

@@ -43,13 +43,14 @@ private:
     void build_rows();
     [[nodiscard]] QWidget* header();
     [[nodiscard]] QLayout* header_texts();
+    [[nodiscard]] QLayout* search();
     [[nodiscard]] QWidget* modes();
     [[nodiscard]] QLayout* insertion(Image& image, Label& label, int longest, const char* name);
     [[nodiscard]] QWidget* table();
     [[nodiscard]] QWidget* foot();
     void transport(QBoxLayout& row);
     [[nodiscard]] StudioButton* side_picture();
-    [[nodiscard]] StudioButton* menu_button();
+    void labels(QBoxLayout& row);
     void order_keyboard();
     void tell_air();
     [[nodiscard]] QString alarm() const;
@@ -75,6 +76,7 @@ private:
     Chip* changed_ = nullptr;
     TextRun* state_ = nullptr; ///< What the list is doing.
     StudioButton* play_ = nullptr;
+    QComboBox* search_ = nullptr;
     std::array<StationLabel*, 2> headings_{}; ///< The narrow step has no room for them.
     std::vector<QWidget*> stops_;             ///< Of the keyboard, in their order.
     std::vector<QWidget*> transport_;

@@ -1,5 +1,6 @@
 #include "desktop/row_header.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/text_size.h"
@@ -36,6 +37,12 @@ QString RowHeader::heading(int section) const {
     const bool is_short = step_ == Step::narrow && place < columns_.size() && !columns_[place].short_heading.isEmpty();
     return is_short ? columns_[place].short_heading
                     : model()->headerData(section, orientation(), Qt::DisplayRole).toString().trimmed();
+}
+
+void RowHeader::mouseReleaseEvent(QMouseEvent* event) {
+    QHeaderView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && on_click)
+        on_click();
 }
 
 void RowHeader::paintEvent(QPaintEvent* event) {

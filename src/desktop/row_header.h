@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHeaderView>
+#include <functional>
 #include <vector>
 
 #include "desktop/row_colours.h"
@@ -28,7 +29,10 @@ public:
     /// What stands over a column in this step.
     [[nodiscard]] QString heading(int section) const;
 
+    std::function<void()> on_click;
+
 protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintSection(QPainter* painter, const QRect& area, int section) const override;
     void paintEvent(QPaintEvent* event) override;
 

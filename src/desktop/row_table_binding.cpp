@@ -1,6 +1,11 @@
 #include "desktop/row_table_binding.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/colours.h"
 #include "desktop/text_bindings.h"
@@ -26,11 +31,20 @@ RowTableBinding::RowTableBinding(RowTable& table, RowTableView& widget, const De
     connect(&view_, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
         if (!chosen_by_press_)
             press(index.row() + 1);
+        if (pressed_at_)
+            run([this] { table_.press(); });
     });
     model_.on_edited = [this](int row, const std::string& text) { run([&] { table_.edit_label(row, text); }); };
     model_.on_selected = [this](int row) { select(row); };
     model_.on_shown = [this](int row) { scroll_to(row); };
     select(table.selected());
+    view_.header().on_click = [this] { run([this] { table_.click_heading(); }); };
+    table_.is_on_view = [this](int row) { return view_.is_on_view(row); };
+    take_drops_on(*view_.viewport());
+}
+
+RowTableBinding::~RowTableBinding() {
+    table_.is_on_view = nullptr;
 }
 
 void RowTableBinding::press(int row) {
@@ -45,11 +59,85 @@ void RowTableBinding::rows_chosen(const QItemSelection& chosen) {
     press(chosen.first().top() + 1);
 }
 
-// A press on the row that is selected already is a press, too.
 bool RowTableBinding::eventFilter(QObject* object, QEvent* event) {
-    if (object == view_.viewport() && event->type() == QEvent::MouseButtonPress)
-        chosen_by_press_ = false;
+    if (object == &view_ && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
+        table_.has_keyboard = event->type() == QEvent::FocusIn;
+    if (object == &view_ && dragged_ > 0 && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        end_drag();
+        run([this] { table_.end_drag(); });
+        return true;
+    }
+    if (object == view_.viewport()) {
+        if (dragged_ > 0 && follow_drag(*event))
+            return true;
+        const bool is_mouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove ||
+                              event->type() == QEvent::MouseButtonRelease ||
+                              event->type() == QEvent::MouseButtonDblClick;
+        if (is_mouse && answer_mouse(*static_cast<QMouseEvent*>(event)))
+            return true;
+    }
     return Binding::eventFilter(object, event);
+}
+
+// A press on the row that is selected already is a press, too. A drag begins where the hand has left the place.
+bool RowTableBinding::answer_mouse(const QMouseEvent& event) {
+    const int row = view_.row_at(event.position().toPoint());
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        chosen_by_press_ = false;
+        pressed_at_.reset();
+        if (event.button() == Qt::LeftButton && row > 0)
+            pressed_at_ = event.position().toPoint();
+        return false;
+    case QEvent::MouseButtonDblClick:
+        if (event.button() == Qt::LeftButton && row > 0)
+            run([&] { table_.double_click(row); });
+        return true;
+    case QEvent::MouseMove:
+        if (!pressed_at_ || !event.buttons().testFlag(Qt::LeftButton))
+            return false;
+        if ((event.position().toPoint() - *pressed_at_).manhattanLength() >= QApplication::startDragDistance())
+            start_drag(view_.row_at(*pressed_at_));
+        return true; // no row is chosen on the way
+    default:
+        if (std::exchange(pressed_at_, std::nullopt))
+            run([this] { table_.end_drag(); });
+        return false;
+    }
+}
+
+void RowTableBinding::start_drag(int row) {
+    pressed_at_.reset();
+    run([&] { dragged_ = table_.drag(row) ? row : 0; });
+    view_.viewport()->setCursor(dragged_ > 0 ? Qt::DragMoveCursor : Qt::ForbiddenCursor);
+}
+
+// The line shows before which row it lands; at the edges the rows scroll along, and Escape ends it.
+bool RowTableBinding::follow_drag(QEvent& event) {
+    if (event.type() == QEvent::MouseMove) {
+        const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
+        const int row = view_.row_at(place);
+        view_.show_landing(row);
+        if (place.y() < view_.rowHeight(0))
+            view_.scrollTo(model_.index(std::max(row - 2, 0), 0));
+        else if (place.y() > view_.viewport()->height() - view_.rowHeight(0) && row > 0)
+            view_.scrollTo(model_.index(std::min(row, model_.rowCount() - 1), 0));
+        return true;
+    }
+    if (event.type() != QEvent::MouseButtonRelease)
+        return false;
+    const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
+    const int target = view_.viewport()->rect().contains(place) ? view_.row_at(place) : 0;
+    end_drag();
+    run([&] { table_.drop(target); });
+    return true;
+}
+
+void RowTableBinding::end_drag() {
+    dragged_ = 0;
+    view_.show_landing(0);
+    view_.viewport()->unsetCursor();
 }
 
 // As wide as the station wishes, until a view knows better; the first takes what the others leave.

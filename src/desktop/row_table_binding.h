@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "desktop/binding.h"
 #include "desktop/row_table_model.h"
 #include "desktop/row_table_view.h"
@@ -10,6 +12,9 @@ namespace sonarelle {
 class RowTableBinding : public Binding {
 public:
     RowTableBinding(RowTable& table, RowTableView& widget, const DesktopServices& services);
+    ~RowTableBinding() override;
+    RowTableBinding(const RowTableBinding&) = delete;
+    RowTableBinding& operator=(const RowTableBinding&) = delete;
 
     [[nodiscard]] RowTableModel& model() { return model_; }
 
@@ -20,6 +25,10 @@ protected:
 
 private:
     void press(int row);
+    bool answer_mouse(const QMouseEvent& event);
+    bool follow_drag(QEvent& event);
+    void start_drag(int row);
+    void end_drag();
     void rows_chosen(const QItemSelection& chosen);
     [[nodiscard]] std::vector<ColumnLook> wished_columns() const;
     void select(int row);
@@ -30,6 +39,8 @@ private:
     RowTableModel model_;
     bool selecting_ = false;
     bool chosen_by_press_ = false;
+    std::optional<QPoint> pressed_at_; // with the left button, on a row
+    int dragged_ = 0;                  // row, on its way
 };
 
 } // namespace sonarelle

@@ -40,6 +40,7 @@ public:
     void show_value() override;
     /// Paints the marked rows anew if they are others.
     void set_marks(const RowMarks& marks);
+    [[nodiscard]] const RowMarks& marks() const { return marks_; }
     void set_colours(const RowColours& colours) { colours_ = colours; }
     [[nodiscard]] const RowColours& colours() const { return colours_; }
     [[nodiscard]] RowState state_of(int row) const;

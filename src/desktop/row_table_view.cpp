@@ -1,6 +1,7 @@
 #include "desktop/row_table_view.h"
 
 #include <QHoverEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 #include <utility>
@@ -91,6 +92,9 @@ void RowTableView::fit_numbers() {
 // the table's.
 void RowTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
+    if (landing_ > 0)
+        QPainter{viewport()}.fillRect(0, std::max(rowViewportPosition(landing_ - 1) - edge, 0), viewport()->width(),
+                                      2 * edge, studio::focus);
     const QModelIndex selected = selectionModel() == nullptr ? QModelIndex{} : selectionModel()->currentIndex();
     if (rows_.isNull() || (!selected.isValid() && !hasFocus()))
         return;
@@ -106,6 +110,23 @@ void RowTableView::paintEvent(QPaintEvent* event) {
     QPainter painter{viewport()};
     painter.setPen(QPen{colour, edge, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
     painter.drawRect(area.adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2));
+}
+
+bool RowTableView::is_on_view(int row) const {
+    const int top = rowViewportPosition(row - 1);
+    return row >= 1 && top + rowHeight(row - 1) > 0 && top < viewport()->height();
+}
+
+void RowTableView::show_landing(int row) {
+    if (std::exchange(landing_, row) != row)
+        viewport()->update();
+}
+
+// Return, the space bar and letters are commands of the window, which has had them.
+void RowTableView::keyPressEvent(QKeyEvent* event) {
+    if (!event->text().isEmpty() && state() != EditingState)
+        return event->ignore();
+    QTableView::keyPressEvent(event);
 }
 
 bool RowTableView::viewportEvent(QEvent* event) {

@@ -22,7 +22,16 @@ public:
 
     void keyboardSearch(const QString&) override {}
 
+    /// Whether a row can be seen whole or in part, counted from 1.
+    [[nodiscard]] bool is_on_view(int row) const;
+    /// The row at a place, 0 for none.
+    [[nodiscard]] int row_at(QPoint place) const { return rowAt(place.y()) + 1; }
+    [[nodiscard]] RowHeader& header() const { return *header_; }
+    /// A line where a row that is dragged would land, above this row; 0 takes it away.
+    void show_landing(int row);
+
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
@@ -38,6 +47,7 @@ private:
     std::vector<ColumnLook> columns_;
     Step step_ = Step::compact;
     int row_under_pointer_ = -1;
+    int landing_ = 0;
 };
 
 } // namespace sonarelle

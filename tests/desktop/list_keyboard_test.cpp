@@ -25,6 +25,8 @@ protected:
         settle();
     }
 
+    [[nodiscard]] QWidget& search_box() { return part(list_view(), "Combo1"); }
+
     std::vector<std::string> pressed;
 };
 
@@ -37,19 +39,24 @@ TEST_F(KeyboardOfTheList, IsWithTheRowsAtTheFirst) {
 TEST_F(KeyboardOfTheList, GoesFromTheModesToTheFoot) {
     part(list_view(), "Option1").setFocus(Qt::TabFocusReason);
     std::vector<std::string> way{focus()};
-    for (int stop = 1; stop < 12; ++stop) {
+    for (int stop = 1; stop < 20; ++stop) {
         key(Qt::Key_Tab, "\t");
         way.push_back(focus());
     }
-    EXPECT_EQ(way, (std::vector<std::string>{"Option1", "Option2", "Option3", "Option4", "Image13", "Image14",
-                                             "ListView1", "Image1", "Image2", "Image3", "Image4", "Label8"}));
+    EXPECT_EQ(way,
+              (std::vector<std::string>{"Option1", "Option2", "Option3", "Option4", "Image13", "Image14", "ListView1",
+                                        "Image1",  "Image2",  "Image3",  "Image4",  "Image5",  "Label5",  "Label6",
+                                        "Label7",  "Label8",  "Image6",  "Label11", "Image7",  "Label9"}));
 }
 
-TEST_F(KeyboardOfTheList, ComesRoundToTheModes) {
-    part(list_view(), "Label8").setFocus(Qt::TabFocusReason);
-    for (int stop = 0; stop < 2; ++stop) // by the button of all commands
+TEST_F(KeyboardOfTheList, ComesRoundToTheModesByTheHeader) {
+    part(list_view(), "Label9").setFocus(Qt::TabFocusReason);
+    std::vector<std::string> way;
+    for (int stop = 0; stop < 5; ++stop) {
         key(Qt::Key_Tab, "\t");
-    EXPECT_EQ(focus(), "Option1");
+        way.push_back(focus());
+    }
+    EXPECT_EQ(way, (std::vector<std::string>{"Label1", "Label12", "Combo1", "Label10", "Option1"}));
 }
 
 TEST_F(KeyboardOfTheList, SpaceBarPressesNoTransport) {
@@ -94,7 +101,8 @@ TEST_F(KeyboardOfTheList, LettersAreTheWindowsCommandsEverywhere) {
     QString heard;
     list().on_key_press = [&](char32_t c) { heard += QString::fromUcs4(&c, 1); };
     for (QWidget* part : list_view().content().findChildren<QWidget*>()) {
-        if (!part->isVisible() || !part->isEnabled() || part->focusPolicy() == Qt::NoFocus)
+        const bool is_field = part == &search_box() || part->parent() == &search_box();
+        if (is_field || !part->isVisible() || !part->isEnabled() || part->focusPolicy() == Qt::NoFocus)
             continue;
         part->setFocus(Qt::TabFocusReason);
         heard.clear();

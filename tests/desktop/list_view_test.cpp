@@ -159,24 +159,29 @@ TEST_F(ListWindow, RightButtonLetsTheStationPrepareTheMenu) {
     menu->close();
 }
 
-TEST_F(ListWindow, MenuButtonOffersWhatTheRightButtonDoes) {
-    rows_of_three();
-    QMenu* menu = press_menu_button();
-    ASSERT_NE(menu, nullptr);
-    menu->close();
-    EXPECT_EQ(right_click(), menu);
-    menu->close();
+TEST_F(ListWindow, LabelsOfTheFootOpenTheirMenus) {
+    for (const auto& [label, entry] :
+         std::initializer_list<std::pair<Label*, const char*>>{{&list().list_label, "Charger liste (C)"},
+                                                               {&list().delete_label, "Effacer la liste (V)"},
+                                                               {&list().add_label, "Ajouter un dossier"}}) {
+        QMenu* menu = press_label(*label);
+        ASSERT_NE(menu, nullptr) << label->name();
+        EXPECT_TRUE(offers(*menu, entry)) << label->name();
+        menu->close();
+    }
 }
 
-TEST_F(ListWindow, LetterOfTheMenuButtonOpensTheMenu) {
+TEST_F(ListWindow, LetterOfALabelOpensItsMenu) {
     QApplication::setActiveWindow(&list_view());
-    QTest::keyClick(list_view().windowHandle(), Qt::Key_M, Qt::AltModifier);
+    QTest::keyClick(list_view().windowHandle(), Qt::Key_L, Qt::AltModifier);
     EXPECT_TRUE(becomes([] { return QApplication::activePopupWidget() != nullptr; }));
     QApplication::activePopupWidget()->close();
 }
 
-TEST_F(ListWindow, EveryEntryHangsInOneMenu) {
+TEST_F(ListWindow, EveryEntryHangsInAMenu) {
     std::map<QString, int> places;
+    for (const char* opened : {"of_adding", "of_deletion"})
+        places[opened] = 1; // by its label
     for (const QMenu* menu : list_view().findChildren<QMenu*>())
         for (const QAction* entry : menu->actions())
             if (!entry->isSeparator())
@@ -184,12 +189,12 @@ TEST_F(ListWindow, EveryEntryHangsInOneMenu) {
     for (const Control* control : list().controls())
         if (control->kind() == ControlKind::menu_item &&
             !static_cast<const MenuItem*>(control)->caption.get().empty()) {
-            EXPECT_EQ(places[to_qt(control->name())], 1) << control->name();
+            EXPECT_GE(places[to_qt(control->name())], 1) << control->name();
         }
 }
 
 TEST_F(ListWindow, MenuOfTheRowsIsShortAndLeavesTheFilesToAMenuOfTheirOwn) {
-    QMenu* menu = press_menu_button();
+    QMenu* menu = right_click();
     ASSERT_NE(menu, nullptr);
     EXPECT_LE(std::ranges::count_if(menu->actions(), [](const QAction* entry) { return !entry->isSeparator(); }), 20);
     for (const char* entry : {"Charger liste (C)", "Convertir liste V < V 6.0.0", "Supprimer le fichier"})
@@ -257,8 +262,10 @@ TEST_F(ListWindow, SelectedRowOnTheAirKeepsItsColour) {
         return ground_in(seen(*table().viewport()).copy(table().visualRect(cell(row))));
     };
     const QColor air = middle(1);
+    const auto marks = list_view().rows().marks();
     table().setCurrentIndex(cell(1));
     settle();
+    list_view().rows().set_marks(marks);
     EXPECT_EQ(middle(1), air);
     const QColor plain = middle(3);
     table().setCurrentIndex(cell(3));

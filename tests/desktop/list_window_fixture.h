@@ -32,12 +32,9 @@ protected:
         settle();
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
-    /// What the button "Menu" opens.
-    QMenu* press_menu_button() {
-        const auto buttons = parts_of<StudioButton>(list_view());
-        const auto button = std::ranges::find(buttons, QString{"Menu"}, &QAbstractButton::text);
-        if (button != buttons.end())
-            (*button)->click();
+    /// What one of the foot's labels opens.
+    QMenu* press_label(const Label& label) {
+        static_cast<QAbstractButton&>(part(list_view(), label.name().c_str())).click();
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
     /// How often a menu has an entry, with or without the dots of one that opens a box.

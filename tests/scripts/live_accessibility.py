@@ -26,7 +26,8 @@ PANEL_STOPS = ("Mixer les titres", "Mixer une liste", "Top horaire", "Superposit
                "Superposition plus", "Préchargement", "Favoris", "Jingles")
 MODES = ("Lecteur", "Lecture aléatoire", "Lecture durée définie", "Lecture durée piste")
 LIST_STOPS = (*MODES, "Insertion de jingles", "Insertion d'une liste", "Liste", "lecture liste", "Zapper", "Stopper",
-              "Position", "Enreg", "Toutes les commandes")
+              "Position", "Fenètre principale", "Menu de la liste", "Suppr", "Ajouter", "Enreg", "Look", "Affichage",
+              "Aide", "Fermer", "En cours index", "Zapping", "Rechercher", "Sauvegarder la recherche")
 
 
 class Part:
@@ -308,7 +309,9 @@ class Keyboard(DeskOnTheAir):
     def expect_rounds(self, window, order):
         """Each stop once in this order, and the other way round."""
         self.activate(window)
-        reachable = [part.name for part in self.stops(window) if part.can_be_pressed()]
+        # The keyboard of a box with a field is with the box.
+        reachable = [part.name for part in self.stops(window)
+                     if part.can_be_pressed() and part.name != "Texte à chercher"]
         expected = [name for stop in order for name in reachable if stop(name)]
         self.assertEqual(sorted(expected), sorted(reachable))
         for key, way in (("Tab", expected), ("shift+Tab", expected[::-1])):

@@ -102,6 +102,15 @@ TEST_F(InsertionTest, ComesBehindTheSelectedRow) {
     EXPECT_EQ(station.list.ligne_en_lecture, 2);
 }
 
+TEST_F(InsertionTest, BehindASearchComesBehindTheRowThatPlays) {
+    start_with_jingles(3);
+    machine.run_for(seconds(95));
+    station.list_window.search.set_text(rows().text(5));
+    station.chain.compteur_aleatoire = 3;
+    machine.run_for(seconds(1));
+    EXPECT_TRUE(rows().text(3).starts_with("C:\\jingle\\"));
+}
+
 TEST_F(InsertionTest, WithoutASelectedRowComesBehindTheOneThatPlays) {
     start_with_jingles(3);
     machine.run_for(seconds(95));

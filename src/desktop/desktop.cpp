@@ -291,15 +291,17 @@ QString Desktop::length_beside(const std::string& next) {
     return {};
 }
 
+IsMissing Desktop::known_missing() const {
+    return [this](const std::string& path) { return missing_.is_missing && missing_.is_missing(path); };
+}
+
 // What comes next, in words, and the name of what comes then.
 std::pair<QString, QString> Desktop::what_follows() {
     if (waits_for_special_mix(desk_))
         return {"chaîne suspendue : mixage spécial", {}};
     if (is_stopped_by_a_fault(desk_))
         return {"Ensuite : rien", {}};
-    const auto is_missing = [this](const std::string& path) {
-        return missing_.is_missing && missing_.is_missing(path);
-    };
+    const IsMissing is_missing = known_missing();
     const std::vector<std::string> paths = paths_to_come(desk_, is_missing);
     if (paths.empty())
         return {};
@@ -318,10 +320,7 @@ QString Desktop::notice() const {
 void Desktop::show_list() {
     const bool on = desk_.ring.has_main_deck() && desk_.chain.mode_enchainement.is_true();
     const int playing = on ? desk_.list.ligne_en_lecture.value() : 0;
-    // In list order the chain adds 1 to its row when it starts it.
-    const int step = desk_.chain.ordre_aleatoire.is_true() ? 0 : 1;
-    const int next = on && deck_to_come(desk_) != nullptr ? desk_.list.index_en_cours.value() + step : 0;
-    list_->rows().set_marks({.playing = playing, .next = next});
+    list_->rows().set_marks({.playing = playing, .next = on ? row_to_come(desk_, known_missing()) : 0});
 }
 
 void Desktop::show_output(const std::string& text, bool is_trouble) {

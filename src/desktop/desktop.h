@@ -11,6 +11,7 @@
 #include "desktop/desktop_services.h"
 #include "desktop/key_table.h"
 #include "desktop/sound_reading.h"
+#include "playout/air_view.h"
 #include "playout/desk.h"
 
 class QActionGroup;
@@ -81,6 +82,7 @@ private:
     [[nodiscard]] QString station_line() const;
     [[nodiscard]] QString length_beside(const std::string& next);
     [[nodiscard]] std::pair<QString, QString> what_follows();
+    [[nodiscard]] IsMissing known_missing() const;
     [[nodiscard]] QString notice() const;
     void show_list();
     void show_missing();

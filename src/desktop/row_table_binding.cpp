@@ -29,10 +29,8 @@ RowTableBinding::RowTableBinding(RowTable& table, RowTableView& widget, const De
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this](const QItemSelection& chosen) { rows_chosen(chosen); });
     connect(&view_, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
-        if (!chosen_by_press_)
-            press(index.row() + 1);
-        if (pressed_at_)
-            run([this] { table_.press(); });
+        under_hand_ = false;
+        run([&] { pressed_at_ ? table_.press() : table_.select(index.row() + 1); });
     });
     model_.on_edited = [this](int row, const std::string& text) { run([&] { table_.edit_label(row, text); }); };
     model_.on_selected = [this](int row) { select(row); };
@@ -51,25 +49,23 @@ void RowTableBinding::press(int row) {
     run([&] { table_.click(row); });
 }
 
-// The arrow keys choose a row as a press does. A table that merely gets the focus chooses none.
+// The arrow keys choose a row as a click does. A table that merely gets the focus chooses none.
 void RowTableBinding::rows_chosen(const QItemSelection& chosen) {
-    if (selecting_ || chosen.isEmpty())
-        return;
-    chosen_by_press_ = true;
-    press(chosen.first().top() + 1);
+    if (!selecting_ && !under_hand_ && !chosen.isEmpty())
+        press(chosen.first().top() + 1);
 }
 
 bool RowTableBinding::eventFilter(QObject* object, QEvent* event) {
     if (object == &view_ && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
         table_.has_keyboard = event->type() == QEvent::FocusIn;
-    if (object == &view_ && dragged_ > 0 && event->type() == QEvent::KeyPress &&
+    if (object == &view_ && drags_ && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         end_drag();
         run([this] { table_.end_drag(); });
         return true;
     }
     if (object == view_.viewport()) {
-        if (dragged_ > 0 && follow_drag(*event))
+        if (drags_ && follow_drag(*event))
             return true;
         const bool is_mouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove ||
                               event->type() == QEvent::MouseButtonRelease ||
@@ -80,12 +76,13 @@ bool RowTableBinding::eventFilter(QObject* object, QEvent* event) {
     return Binding::eventFilter(object, event);
 }
 
-// A press on the row that is selected already is a press, too. A drag begins where the hand has left the place.
+// A row is clicked when the hand lets it go, also one that is selected already; where the hand has left the place
+// before that, it is dragged, and the list goes on where it did. The right button selects alone.
 bool RowTableBinding::answer_mouse(const QMouseEvent& event) {
     const int row = view_.row_at(event.position().toPoint());
     switch (event.type()) {
     case QEvent::MouseButtonPress:
-        chosen_by_press_ = false;
+        under_hand_ = row > 0;
         pressed_at_.reset();
         if (event.button() == Qt::LeftButton && row > 0)
             pressed_at_ = event.position().toPoint();
@@ -101,14 +98,18 @@ bool RowTableBinding::answer_mouse(const QMouseEvent& event) {
             start_drag(view_.row_at(*pressed_at_));
         return true; // no row is chosen on the way
     default:
-        if (std::exchange(pressed_at_, std::nullopt))
+        if (const auto place = std::exchange(pressed_at_, std::nullopt)) {
             run([this] { table_.end_drag(); });
+            if (const int pressed = view_.row_at(*place); pressed > 0)
+                press(pressed);
+        }
         return false;
     }
 }
 
 void RowTableBinding::start_drag(int row) {
     pressed_at_.reset();
+    drags_ = true;
     run([&] { dragged_ = table_.drag(row) ? row : 0; });
     view_.viewport()->setCursor(dragged_ > 0 ? Qt::DragMoveCursor : Qt::ForbiddenCursor);
 }
@@ -118,6 +119,8 @@ bool RowTableBinding::follow_drag(QEvent& event) {
     if (event.type() == QEvent::MouseMove) {
         const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
         const int row = view_.row_at(place);
+        if (dragged_ == 0)
+            return true;
         view_.show_landing(row);
         if (place.y() < view_.rowHeight(0))
             view_.scrollTo(model_.index(std::max(row - 2, 0), 0));
@@ -128,16 +131,18 @@ bool RowTableBinding::follow_drag(QEvent& event) {
     if (event.type() != QEvent::MouseButtonRelease)
         return false;
     const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
-    const int target = view_.viewport()->rect().contains(place) ? view_.row_at(place) : 0;
+    const int target = dragged_ > 0 && view_.viewport()->rect().contains(place) ? view_.row_at(place) : 0;
     end_drag();
     run([&] { table_.drop(target); });
     return true;
 }
 
 void RowTableBinding::end_drag() {
+    drags_ = false;
     dragged_ = 0;
     view_.show_landing(0);
     view_.viewport()->unsetCursor();
+    select(table_.selected());
 }
 
 // As wide as the station wishes, until a view knows better; the first takes what the others leave.

@@ -38,9 +38,10 @@ private:
     RowTableView& view_;
     RowTableModel model_;
     bool selecting_ = false;
-    bool chosen_by_press_ = false;
+    bool under_hand_ = false;          // a row is being pressed
     std::optional<QPoint> pressed_at_; // with the left button, on a row
-    int dragged_ = 0;                  // row, on its way
+    bool drags_ = false;               // the hand is on its way
+    int dragged_ = 0;                  // row that it takes along; 0 where none may be taken
 };
 
 } // namespace sonarelle

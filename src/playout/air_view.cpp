@@ -200,6 +200,18 @@ const Deck* deck_to_come(Desk& desk) {
     return prepared && role_of(desk, next) == DeckRole::loaded ? &next : nullptr;
 }
 
+int row_to_come(Desk& desk, const IsMissing& is_missing) {
+    if (!goes_on(desk) || !desk.chain.mode_enchainement.is_true())
+        return 0;
+    const int current = desk.list.index_en_cours.value();
+    if (is_drawn(desk))
+        return desk.chain.choix_prepare.is_true() ? current : 0;
+    // In list order the chain adds 1 to its row when it starts it.
+    if (deck_to_come(desk) != nullptr)
+        return current + (desk.chain.ordre_aleatoire.is_true() ? 0 : 1);
+    return row_behind(desk.list_window.rows, {current, desk.chain.chemin_precedent}, is_missing).row;
+}
+
 std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing) {
     const bool from_list = desk.chain.mode_enchainement.is_true();
     if (const Deck* next = deck_to_come(desk))

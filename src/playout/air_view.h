@@ -65,5 +65,7 @@ using IsMissing = std::function<bool(const std::string& path)>;
 /// `is_missing` knows; where it knows that of all that are near, the next one of them stands for them. None when
 /// nothing follows by itself; a draw has yet to choose what comes behind.
 [[nodiscard]] std::vector<std::string> paths_to_come(Desk& desk, const IsMissing& is_missing);
+/// The row of the first of them in the list; 0 while none of the list's comes, or a draw has yet to choose it.
+[[nodiscard]] int row_to_come(Desk& desk, const IsMissing& is_missing);
 
 } // namespace sonarelle

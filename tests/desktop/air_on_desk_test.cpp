@@ -177,11 +177,11 @@ TEST_F(AirOnDesk, ReturnInASilenceTakesUpTheList) {
     EXPECT_EQ(desk_says("air_state"), "À L'ANTENNE — Play 1");
 }
 
-TEST_F(AirOnDesk, NoRowIsTheNextRightBehindAStart) {
+TEST_F(AirOnDesk, TheNextRowIsMarkedRightBehindAStart) {
     play_list();
     run_for(97);
     ASSERT_EQ(desk_says("air_title"), "deux");
-    EXPECT_EQ(amber_row(), 0);
+    EXPECT_EQ(amber_row(), 3);
 }
 
 TEST_F(AirOnDesk, NoRowIsTheNextOnceTheListIsFollowedNoMore) {

@@ -45,6 +45,19 @@ TEST_F(AirView, NamesTheNextRowFromTheFirstSecond) {
     EXPECT_EQ(to_come(), "titre 2");
 }
 
+TEST_F(AirView, KnowsTheRowToComeFromTheFirstSecondOnAndAfterAPress) {
+    open_tracks({200, 200, 200});
+    const auto row = [this] { return row_to_come(station.desk, [](const std::string&) { return false; }); };
+    EXPECT_EQ(row(), 0);
+    start_list();
+    machine.run_for(seconds(1));
+    EXPECT_EQ(row(), 2);
+    machine.run_for(seconds(189));
+    EXPECT_EQ(row(), 2) << "which is loaded now";
+    station.list_window.rows.click(2);
+    EXPECT_EQ(row(), 3);
+}
+
 TEST_F(AirView, NamesTheLoadedTrackBetweenLoadAndStart) {
     open_tracks({200, 200, 200});
     start_list();

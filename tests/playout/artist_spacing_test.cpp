@@ -56,7 +56,7 @@ TEST_F(ArtistSpacingTest, GivesWayThreeTimes) {
 TEST_F(ArtistSpacingTest, TellsWhatWasPassedOverBehindTheFirstTryToo) {
     station.settings.ecart_artiste = 1;
     draw_behind({"Ana - un", "Ana - deux", "Bob - trois", "Cy - quatre"}, {0.3F, 0.0F, 0.6F});
-    const auto& passed_over = events_of(OnAirEvent::Kind::drawn).back().passed_over;
+    const auto passed_over = events_of(OnAirEvent::Kind::drawn).back().passed_over;
     ASSERT_EQ(passed_over.size(), 2U);
     EXPECT_EQ(passed_over[1].number, 1);
     EXPECT_EQ(passed_over[1].reason, "déjà tiré");

@@ -70,7 +70,7 @@ int ListRescue::next_row_that_opens() {
     const int rows = std::min<int>(desk_.row_count(), INT16_MAX); // those that the chain can number
     for (int looked_at = 0; looked_at < std::min(rows, rows_of_a_try); ++looked_at) {
         row_ = row_ >= 0 && row_ < rows ? row_ + 1 : 1;
-        if (run_.can_be_played(desk_.list_window.rows.text(row_)))
+        if (run_.can_be_heard(row_))
             return row_;
     }
     return 0;

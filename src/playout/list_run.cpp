@@ -111,6 +111,11 @@ bool ListRun::can_be_played(const std::string& path) const {
     return length_of(desk_.platform, path) >= shortest_good_file;
 }
 
+bool ListRun::can_be_heard(int row) const {
+    const double length = length_of(desk_.platform, desk_.list_window.rows.text(row));
+    return length >= shortest_good_file && length - chain_.cursor.record_of(row).dest_debut >= shortest_good_file;
+}
+
 // The list begins on the first deck alone, and what has played out elsewhere doesn't wait there with a file.
 void ListRun::stop_other_decks() {
     desk_.chain.lecteur_en_cours = 1;

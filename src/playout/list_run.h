@@ -32,6 +32,8 @@ public:
 
     /// Whether a file opens and has something to play.
     [[nodiscard]] bool can_be_played(const std::string& path) const;
+    /// The same of a row, which may begin where its file ends.
+    [[nodiscard]] bool can_be_heard(int row) const;
 
 private:
     void start_selected_row();

@@ -104,6 +104,17 @@ TEST_F(ListRescueTest, OpensNoBoxOverAnOverlapThatIsNoNumber) {
     EXPECT_NE(station.warning_window.lines.caption.get().find("Une erreur est apparue !"), std::string::npos);
 }
 
+TEST_F(ListRescueTest, PassesOverARowThatBeginsWhereItsFileEnds) {
+    for (const int number : {1, 3, 4})
+        machine.add_track(track(number), 40);
+    open_list("C:\\Sonarelle\\essai.dfm", {record_of(track(1), "40", 100, 0.0), record_of(lost, "40", 100, 0.0),
+                                           record_of(track(3), "40", 100, 40.0), record_of(track(4), "40", 100, 0.0)});
+    rows().select(1);
+    start_list();
+    play_for(60);
+    EXPECT_EQ(rows_started(), (std::vector<int>{1, 4}));
+}
+
 TEST_F(ListRescueTest, GoesOnWithTheChain) {
     stop_by_a_lost_folder();
     play_for(60);

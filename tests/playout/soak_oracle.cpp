@@ -95,6 +95,8 @@ void SoakOracle::watch(std::string_view hand, const std::function<void()>& move)
 void SoakOracle::follow(const OnAirEvent& event) {
     if (event.kind == OnAirEvent::Kind::started) {
         cut_by_.clear();
+        if (world_.station.chain.air == AirState::on) // a run, not a deck that is started by hand behind the fault
+            stopped_by_fault_ = false;
     } else if (event.kind == OnAirEvent::Kind::silence_over) {
         silence_ = {}; // by a sound shorter than the ear's half second
     } else if (event.kind == OnAirEvent::Kind::stopped && event.text != "Arrét lecture liste") {
@@ -134,6 +136,8 @@ void SoakOracle::look_at_chain() {
     off_by_rule_ = !window.deck_chain_timer.enabled() && (off_by_rule_ || window.Désactive_audio.checked);
     // A deck that is started by hand is no chain yet.
     if (world_.main_sounds() && (window.deck_chain_timer.enabled() || window.list_chain_timer.enabled()))
+        stopped_by_fault_ = false;
+    if (world_.station.chain.air == AirState::off) // which only a hand puts off
         stopped_by_fault_ = false;
 }
 

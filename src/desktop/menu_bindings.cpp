@@ -46,6 +46,7 @@ void MenuItemBinding::make_menu(QWidget& window) {
 
 void MenuItemBinding::make_action() {
     action_ = new QAction{this};
+    action_->setAutoRepeat(false); // a held key is one press
     // A group of its own draws a dot, and leaves to the station which of the others is cleared.
     if (item_.is_one_of_many) {
         auto* group = new QActionGroup{this};

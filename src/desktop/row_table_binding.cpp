@@ -30,7 +30,7 @@ RowTableBinding::RowTableBinding(RowTable& table, RowTableView& widget, const De
             [this](const QItemSelection& chosen) { rows_chosen(chosen); });
     connect(&view_, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
         under_hand_ = false;
-        run([&] { pressed_at_ ? table_.press() : table_.select(index.row() + 1); });
+        run([&] { pressed_at_ ? table_.press() : table_.look_at(index.row() + 1); });
     });
     model_.on_edited = [this](int row, const std::string& text) { run([&] { table_.edit_label(row, text); }); };
     model_.on_selected = [this](int row) { select(row); };
@@ -86,6 +86,7 @@ bool RowTableBinding::answer_mouse(const QMouseEvent& event) {
         pressed_at_.reset();
         if (event.button() == Qt::LeftButton && row > 0)
             pressed_at_ = event.position().toPoint();
+        pressed_row_ = row;
         return false;
     case QEvent::MouseButtonDblClick:
         if (event.button() == Qt::LeftButton && row > 0)
@@ -95,13 +96,13 @@ bool RowTableBinding::answer_mouse(const QMouseEvent& event) {
         if (!pressed_at_ || !event.buttons().testFlag(Qt::LeftButton))
             return false;
         if ((event.position().toPoint() - *pressed_at_).manhattanLength() >= QApplication::startDragDistance())
-            start_drag(view_.row_at(*pressed_at_));
+            start_drag(pressed_row_);
         return true; // no row is chosen on the way
     default:
-        if (const auto place = std::exchange(pressed_at_, std::nullopt)) {
+        if (std::exchange(pressed_at_, std::nullopt)) {
             run([this] { table_.end_drag(); });
-            if (const int pressed = view_.row_at(*place); pressed > 0)
-                press(pressed);
+            if (pressed_row_ <= table_.count())
+                press(pressed_row_);
         }
         return false;
     }
@@ -116,7 +117,15 @@ void RowTableBinding::start_drag(int row) {
 
 // The line shows before which row it lands; at the edges the rows scroll along, and Escape ends it.
 bool RowTableBinding::follow_drag(QEvent& event) {
-    if (event.type() == QEvent::MouseMove) {
+    const bool is_move = event.type() == QEvent::MouseMove;
+    // A box that came up has had the release.
+    if (event.type() == QEvent::MouseButtonPress ||
+        (is_move && !static_cast<QMouseEvent&>(event).buttons().testFlag(Qt::LeftButton))) {
+        end_drag();
+        run([this] { table_.end_drag(); });
+        return false;
+    }
+    if (is_move) {
         const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
         const int row = view_.row_at(place);
         if (dragged_ == 0)
@@ -128,7 +137,7 @@ bool RowTableBinding::follow_drag(QEvent& event) {
             view_.scrollTo(model_.index(std::min(row, model_.rowCount() - 1), 0));
         return true;
     }
-    if (event.type() != QEvent::MouseButtonRelease)
+    if (event.type() != QEvent::MouseButtonRelease || static_cast<QMouseEvent&>(event).button() != Qt::LeftButton)
         return false;
     const QPoint place = static_cast<QMouseEvent&>(event).position().toPoint();
     const int target = dragged_ > 0 && view_.viewport()->rect().contains(place) ? view_.row_at(place) : 0;

@@ -38,6 +38,7 @@ private:
     RowTableView& view_;
     RowTableModel model_;
     bool selecting_ = false;
+    int pressed_row_ = 0;
     bool under_hand_ = false;          // a row is being pressed
     std::optional<QPoint> pressed_at_; // with the left button, on a row
     bool drags_ = false;               // the hand is on its way

@@ -1,5 +1,6 @@
 // The keyboard of a station's window.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -34,12 +35,12 @@ void WindowView::watch_keys() {
 bool WindowView::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::KeyPress && object == windowHandle()) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        // Alt with a letter calls a menu or a button, and types nothing.
-        const bool calls = key->modifiers().testFlag(Qt::AltModifier);
-        if (key->isAutoRepeat() && !key->text().isEmpty() &&
+        // Alt or Ctrl with a letter calls a menu or a button, and types nothing.
+        const bool calls = (key->modifiers() & (Qt::AltModifier | Qt::ControlModifier)) != Qt::NoModifier;
+        if (key->isAutoRepeat() && !accepts_text() && !key->text().isEmpty() &&
             window_.keys_once.find(from_qt(key->text())) != std::string::npos)
             return true;
-        if (!calls && !presses_button(*key) && !menu_is_open() && !key->text().isEmpty() &&
+        if (!calls && !edits_a_row() && !presses_button(*key) && !menu_is_open() && !key->text().isEmpty() &&
             (!accepts_text() || key->key() == Qt::Key_Escape)) {
             pass_characters(key->text());
             // The key that opens a menu chooses nothing in it.
@@ -48,6 +49,15 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         }
     }
     return QWidget::eventFilter(object, event);
+}
+
+// Escape ends the editing there, and closes a list that is open below a field.
+bool WindowView::edits_a_row() const {
+    const QWidget* focus = focusWidget();
+    const QWidget* around = focus == nullptr ? nullptr : focus->parentWidget();
+    const bool in_rows = around != nullptr && qobject_cast<const QAbstractItemView*>(around->parentWidget()) != nullptr;
+    return QApplication::activePopupWidget() != nullptr ||
+           (in_rows && qobject_cast<const QLineEdit*>(focus) != nullptr);
 }
 
 // A button that the operator went to takes the return key for itself.

@@ -123,8 +123,14 @@ void RowTable::sort_by(std::size_t column, SortOrder order) {
 void RowTable::select(int number) {
     (void)index_of(number);
     selected_ = number;
+    looked_at_ = false;
     if (row_observer_ != nullptr)
         row_observer_->row_selected(number);
+}
+
+void RowTable::look_at(int number) {
+    select(number);
+    looked_at_ = true;
 }
 
 void RowTable::ensure_visible(int number) {

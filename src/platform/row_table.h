@@ -69,6 +69,9 @@ public:
     /// The selected row, 0 for none.
     [[nodiscard]] int selected() const { return selected_; }
     void select(int number);
+    /// The same of a row that is only looked at: nothing goes on behind it.
+    void look_at(int number);
+    [[nodiscard]] bool is_looked_at() const { return looked_at_; }
     /// Scrolls a row into view.
     void ensure_visible(int number);
 
@@ -105,6 +108,7 @@ private:
     std::vector<Column> columns_;
     std::vector<Row> rows_;
     int selected_ = 0;
+    bool looked_at_ = false; // the selected row
     RowTableObserver* row_observer_ = nullptr;
 };
 

@@ -11,7 +11,8 @@ namespace sonarelle {
 
 namespace {
 
-constexpr int deepest_folder = 32; // a link may lead back
+constexpr int deepest_folder = 12; // a link may lead back
+constexpr std::size_t most_files = 32767;
 
 bool is_sound_file(std::string_view name) {
     constexpr std::array<std::string_view, 12> endings{".mp3", ".wav", ".wma", ".mid",  ".avi", ".mpg",
@@ -36,6 +37,8 @@ void append_folder(Disk& disk, const std::string& folder, int depth, std::vector
     });
     std::ranges::sort(names, {}, [](const std::string& name) { return lower_case(name); });
     for (const std::string& name : names) {
+        if (files.size() >= most_files)
+            return;
         const std::string path = join_path(folder, name);
         if (!is_folder(disk, path)) {
             if (is_sound_file(name))

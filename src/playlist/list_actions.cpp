@@ -68,7 +68,6 @@ constexpr std::array rows{
     ListActionRow{.action = copier_, .needs_saving = true, .tells_work = true},
     ListActionRow{.action = Couper_, .needs_saving = true, .tells_work = true},
     ListActionRow{.action = coller_, .needs_saving = true, .tells_work = true},
-    ListActionRow{.action = drag_row, .needs_saving = true, .tells_work = true},
     ListActionRow{.action = drop_row, .needs_saving = true, .needs_dfm = true, .tells_work = true},
     ListActionRow{.action = drop_files, .needs_saving = true, .tells_work = true},
     ListActionRow{.action = sort_rows, .needs_saving = true, .tells_work = true},

@@ -20,7 +20,6 @@ enum class ListAction {
     copier_,
     Couper_,
     coller_,
-    drag_row,
     drop_row,
     drop_files,
     sort_rows

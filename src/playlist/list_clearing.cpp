@@ -80,32 +80,29 @@ void ListClearing::Supprimer_fichier() {
         (void)platform_.dialogs.MsgBox(box);
         return;
     }
-    if (!may_delete() || !may_empty())
+    const std::string name = state_.fichier_liste; // while a box is open the chain may save under another
+    if (!may_delete(name) || !may_empty())
         return;
-    try {
-        platform_.disk.Kill(list_path(platform_, state_.fichier_liste));
-        document_.default_list_file().notice_deletion();
-    } catch (const Failure&) {
+    if (!ErrorIndicator{}.skip([&] { platform_.disk.Kill(list_path(platform_, name)); }))
         return show_box(platform_.dialogs, "Autorisation de suppréssion refusée", Icon::stop);
-    }
+    ErrorIndicator{}.skip([this] { document_.default_list_file().notice_deletion(); });
     empty();
 }
 
-bool ListClearing::may_delete() const {
-    const std::string& name = state_.fichier_liste;
+bool ListClearing::may_delete(const std::string& name) const {
     const MessageBox question{" Vous allez supprimer le fichier :  " + name +
                                   "\nATTENTION si le NOM de FICHIER est : *.dfm\n"
                                   "Vous SUPPRIMEZ TOUS LES FICHIERS LISTES\n"
                                   "Voulez vous continuer ? " +
-                                  (has_wildcard(name) ? names_of_files() : std::string{}),
+                                  (has_wildcard(name) ? names_of_files(name) : std::string{}),
                               " Suppréssion Fichier ?", Buttons::yes_no, Icon::warning, 2};
     return platform_.dialogs.MsgBox(question) == Answer::yes;
 }
 
-std::string ListClearing::names_of_files() const {
+std::string ListClearing::names_of_files(const std::string& pattern) const {
     std::vector<std::string> names;
     ErrorIndicator{}.skip([&] {
-        for (std::string name = platform_.disk.Dir(list_path(platform_, state_.fichier_liste)); !name.empty();
+        for (std::string name = platform_.disk.Dir(list_path(platform_, pattern)); !name.empty();
              name = platform_.disk.Dir())
             names.push_back(std::move(name));
     });

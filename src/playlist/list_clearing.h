@@ -28,8 +28,8 @@ public:
 private:
     [[nodiscard]] bool may_empty() const;
     void empty();
-    [[nodiscard]] bool may_delete() const;
-    [[nodiscard]] std::string names_of_files() const;
+    [[nodiscard]] bool may_delete(const std::string& name) const;
+    [[nodiscard]] std::string names_of_files(const std::string& pattern) const;
 
     const Platform& platform_;
     const StationSettings& settings_;

@@ -208,8 +208,16 @@ bool ListDocument::sauve_tout() {
     return saved;
 }
 
+// The operator goes on where he was.
 bool ListDocument::save_edit() {
-    if (!sauve_tout())
+    const int selected = window_.rows.selected();
+    const bool looked_at = window_.rows.is_looked_at();
+    const bool saved = sauve_tout();
+    if (selected > 0 && selected <= window_.rows.count()) {
+        looked_at ? window_.rows.look_at(selected) : window_.rows.select(selected);
+        window_.rows.ensure_visible(selected);
+    }
+    if (!saved)
         return false;
     list_.fichier_liste_precedent = list_.fichier_liste;
     offer_deletion();

@@ -99,7 +99,7 @@ void ListEditing::take_out(int row, bool saves) {
     if (saves)
         document_.save_edit();
     if (const int count = list_.rows().count(); count > 0)
-        list_.rows().select(std::min(row, count));
+        list_.rows().look_at(std::min(row, count));
 }
 
 bool ListEditing::may_go(int& row) {

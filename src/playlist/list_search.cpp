@@ -80,6 +80,12 @@ void ListSearch::text_changed() {
         rest_.enable();
 }
 
+void ListSearch::leave() {
+    rest_.disable();
+    if (window_.search.text().empty())
+        window_.search.set_text("Recherche ");
+}
+
 void ListSearch::tell_after_a_rest() {
     rest_.disable();
     told_ = not_found_;
@@ -143,9 +149,8 @@ void ListSearch::step(const Choose& choose) {
 
 // What a search selects is no place for the programme to go on.
 void ListSearch::show(int row) {
-    window_.rows.select(row);
+    window_.rows.look_at(row);
     window_.rows.ensure_visible(row);
-    state_.selection_by_search = true;
 }
 
 } // namespace sonarelle

@@ -19,6 +19,8 @@ public:
 
     /// Another text was typed. That nothing was found is told when the hand rests, and once for a word that grows.
     void text_changed();
+    /// The keyboard leaves the box: what was not found is told no more, and an empty box says again what it is for.
+    void leave();
     /// An entry of the list was chosen.
     void entry_chosen();
     /// The next hit behind the selected row, and the one before it, round and round.

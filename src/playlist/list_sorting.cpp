@@ -6,7 +6,7 @@
 namespace sonarelle {
 
 void ListSorting::press_heading() {
-    if (!list_.allows(ListAction::sort_rows) || !may_sort())
+    if (list_.rows().count() == 0 || !list_.allows(ListAction::sort_rows) || !may_sort())
         return;
     const ListWork work = list_.begin();
     try {

@@ -97,7 +97,7 @@ void ListUpdate::a_mettre_a_jour_liste() {
         state_.maj_liste_en_cours = true;
         tested = test_before(after_drop);
         if (tested.goes_on)
-            update_rows(1, every_row);
+            update_rows(1, every_row, true);
         state_.maj_liste_en_cours = false;
     }
     if (tested.goes_on)
@@ -109,7 +109,7 @@ void ListUpdate::update_dropped_rows(int first, int count) {
     {
         const ListWork work = list_.begin();
         state_.maj_liste_en_cours = true;
-        update_rows(first, count);
+        update_rows(first, count, false);
         state_.maj_liste_en_cours = false;
     }
     offer_result(short_name, 0);
@@ -127,10 +127,10 @@ ListVerification::Outcome ListUpdate::test_before(bool after_drop) {
     return verification_.test_all_rows(true);
 }
 
-void ListUpdate::update_rows(int first, int count) {
+void ListUpdate::update_rows(int first, int count, bool moves_chain) {
     list_.progress().begin(std::min(count, list_.rows().count()), "Traitement en cours ......Patientez !");
     try {
-        walk_rows(first, count);
+        walk_rows(first, count, moves_chain);
     } catch (const Failure& failure) {
         give_up(failure.what());
     }
@@ -138,7 +138,8 @@ void ListUpdate::update_rows(int first, int count) {
     list_.progress().end();
 }
 
-void ListUpdate::walk_rows(int first, int count) {
+// Rows that were dropped are measured where they lie; the chain goes on from where it is.
+void ListUpdate::walk_rows(int first, int count, bool moves_chain) {
     const auto lengths = platform_.media.measure_ahead();
     int wanted = first - 1;
     int done = 0;
@@ -148,6 +149,8 @@ void ListUpdate::walk_rows(int first, int count) {
             lengths->want(list_.rows().text(wanted + 1));
         list_.progress().advance(done + 1, "Traitement en cours " + std::to_string(row) + " / " +
                                                std::to_string(list_.rows().count()));
+        if (moves_chain)
+            make_current(row);
         const Step step = update_row(row, *lengths);
         done += step.done ? 1 : 0;
         row = list_.follow(step.next);
@@ -157,7 +160,6 @@ void ListUpdate::walk_rows(int first, int count) {
 // The list may change during the wait for a row's length.
 ListUpdate::Step ListUpdate::update_row(int row, LengthsAhead& lengths) {
     const DestinationRecord record = list_.read(row);
-    make_current(row);
     const RowTable::Row before = list_.rows().row(row);
     const auto length = wait_for(lengths, record.dest_chemin);
     if (!length)

@@ -44,8 +44,8 @@ private:
     void give_up(const std::string& description);
 
     [[nodiscard]] ListVerification::Outcome test_before(bool after_drop);
-    void update_rows(int first, int count);
-    void walk_rows(int first, int count);
+    void update_rows(int first, int count, bool moves_chain);
+    void walk_rows(int first, int count, bool moves_chain);
     [[nodiscard]] Step update_row(int row, LengthsAhead& lengths);
     void offer_result(const std::string& short_name, int removed);
     [[nodiscard]] std::optional<MeasuredLength> wait_for(LengthsAhead& lengths, const std::string& path);

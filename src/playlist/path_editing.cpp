@@ -9,7 +9,8 @@ void PathEditing::choose(bool editable) {
 }
 
 void PathEditing::follow() {
-    window_.rows.label_editing = list_.edition_chemin.is_true() ? LabelEditing::automatic : LabelEditing::manual;
+    const bool editable = list_.edition_chemin.is_true() && !window_.a_Ne_pas_Sauve.checked;
+    window_.rows.label_editing = editable ? LabelEditing::automatic : LabelEditing::manual;
 }
 
 void PathEditing::label_edited() {

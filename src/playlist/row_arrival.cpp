@@ -59,11 +59,10 @@ void RowArrival::insert_files(const std::vector<std::string>& paths) {
         document_.edits.insert(place++, row_of_file(path));
     state_.index_insertion = std::min(place - 1, int{INT16_MAX});
     document_.save_edit();
+    if (paths.size() > 1 || first > INT16_MAX)
+        return update_.update_dropped_rows(first, static_cast<int>(paths.size()));
     chain_.maj_depuis_ajout = true;
-    if (paths.size() == 1)
-        update_.a_mettre_a_jour();
-    else
-        update_.update_dropped_rows(first, static_cast<int>(paths.size()));
+    update_.a_mettre_a_jour();
 }
 
 RowTable::Row RowArrival::row_of_file(const std::string& path) const {

@@ -9,8 +9,8 @@
 
 namespace sonarelle {
 
-/// Rows that come from outside the list: files of another program, and rows of the file manager. They go where the
-/// insertion mode says. Window thread.
+/// Rows that come from outside the list: files of another program. They go where the insertion mode says.
+/// Window thread.
 class RowArrival {
 public:
     RowArrival(const Platform& platform, ListState& state, ChainState& chain, ListAtWork& list, ListDocument& document,
@@ -20,8 +20,7 @@ public:
     void inser_apres() { choose(2); }
     void inser_fin() { choose(3); }
 
-    /// Files of another program were dropped on the rows. They come with the values of the record last read, and are
-    /// measured at once.
+    /// Files of another program were dropped on the rows; they are measured at once.
     void drop_files(const std::vector<std::string>& paths);
 
 private:

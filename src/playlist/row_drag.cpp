@@ -20,7 +20,7 @@ bool RowDrag::take(int row) {
 }
 
 void RowDrag::drop(int target) {
-    if (!dragged_ || !list_.allows(ListAction::drop_row) || target < 1)
+    if (!dragged_ || target < 1 || !list_.allows(ListAction::drop_row))
         return;
     try {
         land(std::min(target, list_.rows().count()));

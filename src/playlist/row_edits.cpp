@@ -1,6 +1,7 @@
 #include "playlist/row_edits.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -16,7 +17,7 @@ int RowEdits::next_in_order() const {
 // A row that was loaded ahead stays so only where it is still the next one.
 template <typename PlaceOf>
 void RowEdits::follow(int next_before, const PlaceOf& place_of) {
-    for (Integer* place : {&list_.ligne_en_lecture, &list_.index_en_cours, &chain_.element_en_cours})
+    for (Integer* place : named_places())
         *place = std::min(place_of(place->value()), int{INT16_MAX});
     if (next_before != 0 && place_of(next_before) != next_in_order())
         chain_.chargement_fait = false;
@@ -69,8 +70,21 @@ void RowEdits::clear() {
 }
 
 void RowEdits::sort(SortOrder order) {
+    const std::array<Integer*, 4> places = named_places();
+    std::array<RowTable::Row, 4> rows;
+    for (std::size_t place = 0; place < places.size(); ++place)
+        if (const int number = places[place]->value(); number >= 1 && number <= rows_.count())
+            rows[place] = rows_.row(number);
     rows_.sort_by(0, order);
+    for (int number = 1; number <= std::min(rows_.count(), int{INT16_MAX}); ++number)
+        for (std::size_t place = 0; place < places.size(); ++place)
+            if (!rows[place].front().empty() && rows_.row(number) == rows[place])
+                *places[place] = number;
     give_up_prepared_row();
+}
+
+std::array<Integer*, 4> RowEdits::named_places() const {
+    return {&list_.ligne_en_lecture, &list_.index_en_cours, &list_.index_insertion, &chain_.element_en_cours};
 }
 
 void RowEdits::give_up_prepared_row() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "platform/row_table.h"
 #include "state/chain_state.h"
 #include "state/list_state.h"
@@ -26,10 +28,12 @@ public:
     void move(int number, int target);
     /// All rows go, and the chain begins with the first one that comes.
     void clear();
-    /// By their paths. The chain's place stays at its number, so it goes on behind another row.
+    /// By their paths; the run goes on behind the row that it is on, at its new place.
     void sort(SortOrder order);
 
 private:
+    /// All that names a row by its number.
+    [[nodiscard]] std::array<Integer*, 4> named_places() const;
     void give_up_prepared_row() const;
     /// `place_of` gives a row's new number from its old one, and for a row that has left the one that took its place.
     template <typename PlaceOf>

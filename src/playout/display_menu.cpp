@@ -200,11 +200,13 @@ void DisplayMenu::close_list() {
     list_.hide();
     store_place(platform_, list_, list_window_place);
     check_only(window_.views(), *window_.views().front());
-    if (!window_.visible)
+    if (!window_.visible || window_.state == WindowState::minimised)
         show_main_window(WindowState::normal);
 }
 
 bool DisplayMenu::is_list_docked() const {
+    if (list_docked_)
+        return *list_docked_;
     return list_.left.get() == window_.left.get() && list_.width.get() == window_.width.get() &&
            list_.height.get() <= docked_list_height && list_.top.get() > window_.top.get();
 }
@@ -212,6 +214,7 @@ bool DisplayMenu::is_list_docked() const {
 void DisplayMenu::dock_list() {
     if (!is_list_docked())
         free_place_ = Place{list_.left, list_.top, list_.width, list_.height};
+    list_docked_ = true;
     list_.state = WindowState::normal;
     list_.height = docked_list_height;
     align_list();
@@ -221,6 +224,7 @@ void DisplayMenu::free_list() {
     const ScreenArea screen = platform_.screen();
     const Place whole{screen.left, screen.top, screen.width, screen.height - list_.frame_height()};
     const Place place = free_place_.value_or(whole);
+    list_docked_ = false;
     list_follows_ = false;
     list_.state = WindowState::normal;
     list_.left = place.left;

@@ -89,6 +89,7 @@ private:
     [[nodiscard]] bool is_list_docked() const;
 
     bool cote_haut_ = false;
+    std::optional<bool> list_docked_; // by the operator; before that its place tells
     std::optional<Place> free_place_; // of the list, while it is docked
     bool list_follows_ = true;
 };

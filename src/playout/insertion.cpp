@@ -158,7 +158,7 @@ void Insertion::tell_trouble(const std::string& reason) {
 void Insertion::insert_one() {
     if (desk_.row_count() >= INT16_MAX)
         throw Failure{FailureNumber::overflow, {}, "La liste a " + std::to_string(INT16_MAX) + " lignes"};
-    if (const int selected = desk_.list_window.rows.selected(); selected > 0 && !desk_.list.selection_by_search)
+    if (const int selected = desk_.list_window.rows.selected(); selected > 0 && !desk_.list_window.rows.is_looked_at())
         desk_.list.index_en_cours = selected;
     // What was drawn is given up for the record, which comes next.
     desk_.chain.choix_prepare = false;

@@ -25,6 +25,18 @@ void ListRun::play_list() {
     take_up();
 }
 
+void ListRun::start_by_key() {
+    if (desk_.list_window.play_list.enabled && !first_deck_sounds())
+        desk_.list_window.play_list.click();
+}
+
+bool ListRun::first_deck_sounds() const {
+    const bool sounds = desk_.ring.deck(1).sounds();
+    if (sounds)
+        desk_.list_window.list_status.caption = "Le lecteur 1 est à l'antenne";
+    return sounds;
+}
+
 void ListRun::take_up() {
     if (desk_.row_count() == 0)
         return desk_.notices.inform("La liste est vide");
@@ -74,10 +86,8 @@ void ListRun::load_selected_row() {
     const int row = desk_.list_window.rows.selected();
     if (row == 0 || !desk_.list_window.play_list.enabled || !is_playable_number(row))
         return;
-    if (desk_.ring.deck(1).sounds()) {
-        desk_.list_window.list_status.caption = "Le lecteur 1 est à l'antenne";
+    if (first_deck_sounds())
         return;
-    }
     ErrorIndicator{}.skip([&] { put_on_first_deck(row); });
 }
 

@@ -21,6 +21,8 @@ public:
 
     /// Plays the list from the selected row, alone. One that can't be played leaves what is on the air.
     void play_list();
+    /// The play image, pressed by its key: it cuts nothing that sounds on the first deck.
+    void start_by_key();
     /// The same of a list that was on the air before: its rows stay as they are.
     void take_up();
     /// Puts the selected row on the first deck, unless that one sounds, and starts nothing.
@@ -40,6 +42,7 @@ private:
     void put_on_first_deck(Integer number);
     /// Whether a row can be taken by its number, or the operator was told that it can't.
     [[nodiscard]] bool is_playable_number(int row) const;
+    [[nodiscard]] bool first_deck_sounds() const;
     void tell_missing_file(const std::string& path);
     void start_row(Integer number, const DestinationRecord& row);
     void stop_other_decks();

@@ -50,7 +50,9 @@ void RowWalk::take_a_turn() {
 // The step is kept alive by the copy: what it starts may cancel the walk.
 void RowWalk::walk_round() {
     const Step step = step_;
-    const int rows = std::clamp(rows_.count(), 1, longest_turn);
+    if (rows_.count() == 0) // the operator changes the list
+        return pause_.enable();
+    const int rows = std::min(rows_.count(), longest_turn);
     rests_ = false;
     for (int row = 0; row < rows && step_ && !rests_; ++row) {
         begins_turn_ = row == 0;

@@ -15,13 +15,12 @@ struct ListState {
     std::string extension_fichier;       ///< Last three characters of the name just chosen, lower case, or empty.
     std::string chemin_fichier;          ///< Path of the row on which the chain is, or that was last sent to a deck.
 
-    Integer index_en_cours;           ///< Row that is selected after a load or save, and the row that the chain is on.
-    Integer ligne_en_lecture;         ///< Row now being played.
-    Integer index_insertion;          ///< Row behind which new rows come.
-    bool selection_by_search = false; ///< The selected row is what a search found, not where the list goes on.
-    Integer index_supprime;           ///< Row last cut or removed.
-    Integer mode_insertion;           ///< 1 before the selected row, 2 after it, 3 at the end.
-    Flag glisser_autorise = true;     ///< Rows and files may be dragged onto the list and the open buttons.
+    Integer index_en_cours;       ///< Row that is selected after a load or save, and the row that the chain is on.
+    Integer ligne_en_lecture;     ///< Row now being played.
+    Integer index_insertion;      ///< Row behind which new rows come.
+    Integer index_supprime;       ///< Row last cut or removed.
+    Integer mode_insertion;       ///< 1 before the selected row, 2 after it, 3 at the end.
+    Flag glisser_autorise = true; ///< Rows and files may be dragged onto the list and the open buttons.
 
     Flag glisser_en_cours;  ///< A row is pressed, and may be on its way to another place.
     Flag ajout_explorateur; ///< Files of another program are being dropped on the list.

@@ -68,7 +68,6 @@ void ListWiring::connect_rows() {
 // The pressed row is where the list goes on, but not before a row that was drawn already.
 void ListWiring::choose_row() {
     const int row = station_.list_window.rows.selected();
-    station_.list.selection_by_search = false;
     station_.list.glisser_en_cours = false;
     station_.list_maintenance.path_editing.follow();
     if (row <= INT16_MAX) {
@@ -94,6 +93,9 @@ void ListWiring::connect_editing() {
     window.inser_apres.on_click = [this] { arrival.inser_apres(); };
     window.inser_fin.on_click = [this] { arrival.inser_fin(); };
     window.ajout_fich_reseau.on_click = [this] { open_explorer(); };
+    window.of_adding.on_open = [this] {
+        station_.list_window.A_conserver.enabled = !station_.list.chemin_fichier.empty();
+    };
     window.Load_Pl.on_open = [this] {
         station_.row_to_deck.Load_Pl();
         clearing.offer_paste();
@@ -109,8 +111,15 @@ void ListWiring::open_explorer() {
 
 void ListWiring::connect_search() {
     Liste_son& window = station_.list_window;
-    window.search.on_enter = [&window] { window.key_preview = false; };
-    window.search.on_leave = [&window] { window.key_preview = true; };
+    window.search.on_enter = [&window] {
+        window.key_preview = false;
+        if (is_untouched_search(window.search.text()))
+            window.search.set_text("");
+    };
+    window.search.on_leave = [this, &window] {
+        window.key_preview = true;
+        search.leave();
+    };
     window.search.on_change = [this] { search.text_changed(); };
     window.search.on_click = [this] { search.entry_chosen(); };
     window.search_label.on_click = [this] { search_words.press_save(); };
@@ -148,6 +157,7 @@ void ListWiring::connect_labels() {
     window.help.on_click = [&window] { window.ask_for_help(); };
     window.show_main_window.on_click = [this] {
         station_.main_window.picture = station_.settings.logo_fond;
+        station_.main_window.state = WindowState::normal;
         station_.main_window.show();
     };
     window.close_label.on_click = [this] { station_.desk_wiring.display_menu.close_list(); };
@@ -168,7 +178,7 @@ void ListWiring::press_key(char32_t character) {
         std::function<void(Station&, Liste_son&)> act;
     };
     static const std::array keys{
-        Key{U"\r", [](Station&, Liste_son& list) { list.play_list.click(); }},
+        Key{U"\r", [](Station& station, Liste_son&) { station.list_run.start_by_key(); }},
         Key{U"zZ", [](Station&, Liste_son& list) { list.zap.click(); }},
         Key{U"sS", [](Station&, Liste_son& list) { list.stop_decks.click(); }},
         Key{U"pP", [](Station& station, Liste_son&) { station.pause_or_go_on(); }},
@@ -211,7 +221,7 @@ bool ListWiring::press_key_of_rows(char32_t character) {
         station_.desk_wiring.display_menu.a_mini_Click();
         return true;
     case U'\r':
-        list.play_list.click();
+        station_.list_run.start_by_key();
         return true;
     default:
         return false;

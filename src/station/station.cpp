@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/failure.h"
 #include "platform/paths.h"
 #include "platform/scheduler.h"
 #include "playlist/file_existence.h"
@@ -64,7 +65,10 @@ Station::Station(const Platform& platform)
 // A search that nobody has kept anything of has no file, and none is made for it.
 void Station::start(const std::string& command_line) {
     list_window.search.set_text("Recherche ");
-    if (is_listed(platform_.disk, join_path(platform_.program_folder, search_words_file)))
+    bool kept = false;
+    ErrorIndicator{}.skip(
+        [&] { kept = is_listed(platform_.disk, join_path(platform_.program_folder, search_words_file)); });
+    if (kept)
         list_wiring.search_words.charge_recherche();
     desk_wiring.startup.enter_program(command_line);
     splash.activate();

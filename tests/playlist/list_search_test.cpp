@@ -97,10 +97,10 @@ TEST_F(ListSearchTest, AnEmptyTableHasNothingToTell) {
 TEST_F(ListSearchTest, WhatASearchSelectsIsNoPlaceForTheProgrammeUntilItIsPressed) {
     open_titles();
     type("indien");
-    EXPECT_TRUE(station.list.selection_by_search);
+    EXPECT_TRUE(rows().is_looked_at());
     EXPECT_EQ(station.list.index_en_cours, 1);
     rows().click(2);
-    EXPECT_FALSE(station.list.selection_by_search);
+    EXPECT_FALSE(rows().is_looked_at());
     EXPECT_EQ(station.list.index_en_cours, 2);
 }
 

@@ -52,6 +52,14 @@ TEST_F(ListSortingTest, WhereModificationsAreNotSavedItIsRefused) {
     EXPECT_THAT(paths(), ElementsAre("b", "a"));
 }
 
+TEST_F(ListSortingTest, ThePlayingRowIsFollowedToItsPlace) {
+    open_rows({"b", "c", "a"}, 2);
+    station.list.ligne_en_lecture = 2;
+    sort(Answer::yes);
+    EXPECT_EQ(station.list.ligne_en_lecture, 3);
+    EXPECT_EQ(station.list.index_en_cours, 3);
+}
+
 TEST_F(ListSortingTest, WhatWasMadeReadyForTheAirIsGivenUp) {
     open_rows({"b", "a"}, 1);
     station.chain.choix_prepare = station.chain.chargement_fait = true;

@@ -90,6 +90,31 @@ TEST_F(ListKeys, AListThatIsLoadedOverAnEmptiedOneGoesOnTheAirFromItsFirstRow) {
     EXPECT_TRUE(plays());
 }
 
+TEST_F(ListKeys, AnEmptiedListStopsNothingUntilAnotherOneComes) {
+    press(U'\r');
+    machine.run_for(seconds(10));
+    machine.dialogs.expect_box("est à l'antenne", Answer::yes);
+    press(U'v');
+    machine.run_for(seconds(188)); // beyond the mix point
+    EXPECT_NE(station.chain.air, AirState::failed);
+    put_list("C:\\Sonarelle\\soir.dfm", 4);
+    machine.dialogs.expect_open("C:\\Sonarelle\\soir.dfm");
+    press(U'c');
+    machine.run_for(seconds(10));
+    EXPECT_TRUE(plays());
+    EXPECT_EQ(station.list.ligne_en_lecture, 1);
+}
+
+TEST_F(ListKeys, ReturnCutsNothingThatSoundsOnTheFirstDeck) {
+    machine.add_track("C:\\a.mp3", 60);
+    station.deck_ring.deck(1).controls.open.drop_files({"C:\\a.mp3"});
+    station.deck_ring.deck(1).controls.play.click();
+    ASSERT_TRUE(station.deck_ring.deck(1).sounds());
+    press(U'\r');
+    EXPECT_EQ(station.deck_ring.deck(1).path, "C:\\a.mp3");
+    EXPECT_EQ(list.list_status.caption.get(), "Le lecteur 1 est à l'antenne");
+}
+
 TEST_F(ListKeys, SpaceInTheRowsRemovesTheSelectedOne) {
     press_in_rows(U' ');
     EXPECT_EQ(rows().count(), 4);

@@ -100,7 +100,7 @@ QWidget* ListView::header() {
 
 QLayout* ListView::search() {
     search_ = dresser_.combo_box(window_.search);
-    search_->setAccessibleName("Recherche");
+    binding_of(window_.search)->set_spoken_name("Rechercher"); // whatever stands in it
     search_->setToolTip("Rechercher dans les chemins de la liste");
     search_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     search_->lineEdit()->setAccessibleName("Texte à chercher");

@@ -82,8 +82,6 @@ void ListSearch::text_changed() {
 
 void ListSearch::leave() {
     rest_.disable();
-    if (window_.search.text().empty())
-        window_.search.set_text("Recherche ");
 }
 
 void ListSearch::tell_after_a_rest() {

@@ -19,7 +19,7 @@ public:
 
     /// Another text was typed. That nothing was found is told when the hand rests, and once for a word that grows.
     void text_changed();
-    /// The keyboard leaves the box: what was not found is told no more, and an empty box says again what it is for.
+    /// The keyboard leaves the box: what was not found is told no more.
     void leave();
     /// An entry of the list was chosen.
     void entry_chosen();

@@ -111,11 +111,7 @@ void ListWiring::open_explorer() {
 
 void ListWiring::connect_search() {
     Liste_son& window = station_.list_window;
-    window.search.on_enter = [&window] {
-        window.key_preview = false;
-        if (is_untouched_search(window.search.text()))
-            window.search.set_text("");
-    };
+    window.search.on_enter = [&window] { window.key_preview = false; };
     window.search.on_leave = [this, &window] {
         window.key_preview = true;
         search.leave();

@@ -27,7 +27,7 @@ PANEL_STOPS = ("Mixer les titres", "Mixer une liste", "Top horaire", "Superposit
 MODES = ("Lecteur", "Lecture aléatoire", "Lecture durée définie", "Lecture durée piste")
 LIST_STOPS = (*MODES, "Insertion de jingles", "Insertion d'une liste", "Liste", "lecture liste", "Zapper", "Stopper",
               "Position", "Fenètre principale", "Menu de la liste", "Suppr", "Ajouter", "Enreg", "Look", "Affichage",
-              "Aide", "Fermer", "En cours index", "Zapping", "Rechercher", "Sauvegarder la recherche")
+              "Aide", "Fermer", "En cours index", "Zapping", "Recherche", "Sauvegarder la recherche")
 
 
 class Part:

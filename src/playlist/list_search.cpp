@@ -52,9 +52,8 @@ std::string folded(std::string_view text) {
     return result;
 }
 
-ListSearch::ListSearch(const Platform& platform, ListState& state, Liste_son& window)
+ListSearch::ListSearch(const Platform& platform, Liste_son& window)
     : platform_{platform},
-      state_{state},
       window_{window},
       rest_{"search_rest", 0, platform.scheduler} {
     rest_.set_interval(rest_ms);

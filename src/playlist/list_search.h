@@ -15,7 +15,7 @@ namespace sonarelle {
 /// accents. Rows are never hidden, since their numbers are those of the records. Window thread.
 class ListSearch {
 public:
-    ListSearch(const Platform& platform, ListState& state, Liste_son& window);
+    ListSearch(const Platform& platform, Liste_son& window);
 
     /// Another text was typed. That nothing was found is told when the hand rests, and once for a word that grows.
     void text_changed();
@@ -39,7 +39,6 @@ private:
     void tell_not_found(const char* words);
 
     const Platform& platform_;
-    ListState& state_;
     Liste_son& window_;
     Timer rest_;
     std::string not_found_; // the last text that no row held

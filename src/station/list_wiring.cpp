@@ -36,7 +36,7 @@ ListWiring::ListWiring(Station& station)
               station.list_document, station.list_maintenance.update},
       sorting{station.platform(), station.list_maintenance.list, station.list_document},
       search_words{station.platform(), station.list, station.list_window},
-      search{station.platform(), station.list, station.list_window},
+      search{station.platform(), station.list_window},
       themes{station.platform(),
              station.settings,
              {{&station.list_window, &station.main_window, &station.about_window, &station.warning_window},

@@ -40,7 +40,7 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
         if (key->isAutoRepeat() && !accepts_text() && !key->text().isEmpty() &&
             window_.keys_once.find(from_qt(key->text())) != std::string::npos)
             return true;
-        if (!calls && !edits_a_row() && !presses_button(*key) && !menu_is_open() && !key->text().isEmpty() &&
+        if (!calls && !keys_go_elsewhere() && !presses_button(*key) && !menu_is_open() && !key->text().isEmpty() &&
             (!accepts_text() || key->key() == Qt::Key_Escape)) {
             pass_characters(key->text());
             // The key that opens a menu chooses nothing in it.
@@ -51,8 +51,9 @@ bool WindowView::eventFilter(QObject* object, QEvent* event) {
     return QWidget::eventFilter(object, event);
 }
 
-// Escape ends the editing there, and closes a list that is open below a field.
-bool WindowView::edits_a_row() const {
+// A path that is edited in its row, and a list that is open below a field, have the keyboard to themselves: Escape ends
+// them, and nothing more.
+bool WindowView::keys_go_elsewhere() const {
     const QWidget* focus = focusWidget();
     const QWidget* around = focus == nullptr ? nullptr : focus->parentWidget();
     const bool in_rows = around != nullptr && qobject_cast<const QAbstractItemView*>(around->parentWidget()) != nullptr;

@@ -78,7 +78,7 @@ private:
     void show_state();
     void change_visibility();
     void place_over_owner();
-    [[nodiscard]] bool edits_a_row() const;
+    [[nodiscard]] bool keys_go_elsewhere() const;
     [[nodiscard]] bool presses_button(const QKeyEvent& key) const;
     void keep_place();
     void keep_size();
